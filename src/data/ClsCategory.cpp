@@ -1,0 +1,117 @@
+#include "data/ClsCategory.h"
+
+#include "data/ClsDatabase.h"
+#include "data/SqlText.h"
+#include "platform/RuntimeError.h"
+
+namespace
+{
+
+const QLatin1String SelectAll(
+    "select cat_id,cat_name,cat_desc,cat_icon,custom_icon,cat_icon_name from categories");
+
+/// Reads categories off a record set whose fields it has looked up once.
+class CategoryReader
+{
+public:
+    explicit CategoryReader(const RecordSet& records)
+        : m_name(records.field("cat_name")), m_id(records.field("cat_id")), m_icon(records.field("cat_icon")),
+          m_description(records.field("cat_desc")), m_isCustomIcon(records.field("custom_icon")),
+          m_customIconName(records.field("cat_icon_name"))
+    {
+    }
+
+    void read(const RecordSet& records, ClsCategory& category) const
+    {
+        category.setCatName(records.text(m_name));
+        category.setId(narrowId(records.int32(m_id), QStringLiteral("category id")));
+        category.setIconId(records.int16(m_icon));
+        category.setDescription(records.text(m_description));
+        category.setIsCustomIcon(records.flag(m_isCustomIcon));
+        category.setCustomIconName(records.text(m_customIconName));
+    }
+
+private:
+    int m_name;
+    int m_id;
+    int m_icon;
+    int m_description;
+    int m_isCustomIcon;
+    int m_customIconName;
+};
+
+} // namespace
+
+ClsCategory::ClsCategory(const DatabaseEngine& engine) : m_engine(&engine)
+{
+}
+
+std::optional<ClsCategory> ClsCategory::GetCatById(qint16 Id) const
+{
+    Connection connection = ClsDatabase(*m_engine).Connect();
+    connection.open();
+    std::optional<ClsCategory> category;
+    const RecordSet records =
+        connection.execute(SelectAll + QLatin1String(" where cat_id = ") + QString::number(Id));
+    if (!records.atEnd()) {
+        category.emplace(*m_engine);
+        CategoryReader(records).read(records, *category);
+    }
+    connection.close();
+    return category;
+}
+
+std::vector<ClsCategory> ClsCategory::GetAllCategories() const
+{
+    Connection connection = ClsDatabase(*m_engine).Connect();
+    connection.open();
+    std::vector<ClsCategory> categories;
+    RecordSet records = connection.execute(SelectAll);
+    const CategoryReader reader(records);
+    for (; !records.atEnd(); records.moveNext()) {
+        reader.read(records, categories.emplace_back(*m_engine));
+    }
+    connection.close();
+    return categories;
+}
+
+bool ClsCategory::Add() const
+{
+    Connection connection = ClsDatabase(*m_engine).Connect();
+    connection.open();
+    const bool exists = !connection
+                             .execute(QLatin1String("select * from categories where cat_name = '")
+                                 + EscapeSqlText(m_name) + QLatin1String("'"))
+                             .atEnd();
+    if (!exists) {
+        connection.execute(
+            QLatin1String(
+                "insert into categories(cat_name,cat_desc,cat_icon,custom_icon,cat_icon_name) values('")
+            + EscapeSqlText(m_name) + QLatin1String("','") + EscapeSqlText(m_description)
+            + QLatin1String("',") + QString::number(m_iconId) + QLatin1String(",") + sqlFlag(m_isCustomIcon)
+            + QLatin1String(",'") + EscapeSqlText(m_customIconName) + QLatin1String("')"));
+    }
+    connection.close();
+    return exists;
+}
+
+void ClsCategory::Update() const
+{
+    Connection connection = ClsDatabase(*m_engine).Connect();
+    connection.open();
+    connection.execute(QLatin1String("Update categories set cat_name = '") + EscapeSqlText(m_name)
+        + QLatin1String("',cat_desc = '") + EscapeSqlText(m_description) + QLatin1String("', cat_icon = ")
+        + QString::number(m_iconId) + QLatin1String(",custom_icon = ") + sqlFlag(m_isCustomIcon)
+        + QLatin1String(" ,cat_icon_name = '") + EscapeSqlText(m_customIconName)
+        + QLatin1String("'  where cat_id =  ") + QString::number(m_id));
+    connection.close();
+}
+
+void ClsCategory::DeleteById(qint16 number) const
+{
+    Connection connection = ClsDatabase(*m_engine).Connect();
+    connection.open();
+    connection.execute(QLatin1String("delete from categories where cat_id = ") + QString::number(number));
+    connection.execute(QLatin1String("delete from tasks where cat_id = ") + QString::number(number));
+    connection.close();
+}

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "platform/database/DatabaseEngine.h"
+
+#include <QString>
+#include <optional>
+#include <vector>
+
+class RecordSet;
+
+/// The record of one category, and the store of the table `categories`. Copyable. Every operation opens a
+/// connection of its own and closes it; all throw DatabaseError.
+class ClsCategory
+{
+public:
+    /// `engine` outlives the object and its copies.
+    explicit ClsCategory(const DatabaseEngine& engine);
+
+    /// 0 for a category that is not stored yet.
+    qint16 Id() const { return m_id; }
+    void setId(qint16 id) { m_id = id; }
+    QString CatName() const { return m_name; }
+    void setCatName(const QString& name) { m_name = name; }
+    QString Description() const { return m_description; }
+    void setDescription(const QString& description) { m_description = description; }
+    qint16 IconId() const { return m_iconId; }
+    void setIconId(qint16 iconId) { m_iconId = iconId; }
+    bool IsCustomIcon() const { return m_isCustomIcon; }
+    void setIsCustomIcon(bool isCustomIcon) { m_isCustomIcon = isCustomIcon; }
+    QString CustomIconName() const { return m_customIconName; }
+    void setCustomIconName(const QString& name) { m_customIconName = name; }
+
+    /// The stored category of that id; none when there is no such row.
+    std::optional<ClsCategory> GetCatById(qint16 Id) const;
+    /// All categories in the order of their creation.
+    std::vector<ClsCategory> GetAllCategories() const;
+    /// Stores this category as a new one. False (0) when it was inserted, true (-1) when a category of that
+    /// name, in whatever letter case, exists already; then nothing is inserted. The new id is not read back.
+    bool Add() const;
+    /// Writes this category over the row of its id. Another category may have the same name.
+    void Update() const;
+    /// Deletes the category and its tasks.
+    void DeleteById(qint16 number) const;
+
+private:
+    const DatabaseEngine* m_engine;
+    QString m_name;
+    QString m_description;
+    QString m_customIconName;
+    qint16 m_id = 0;
+    qint16 m_iconId = 0;
+    bool m_isCustomIcon = false;
+};

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "data/PackedTexts.h"
+#include "platform/Moment.h"
+#include "platform/database/DatabaseEngine.h"
+
+#include <QString>
+#include <optional>
+#include <vector>
+
+/// The record of one task, and the store of the table `tasks`. Copyable. Every operation opens a connection
+/// of its own and closes it; all throw DatabaseError. The codes stand in TaskCodes.h.
+class ClsTask
+{
+public:
+    /// `engine` outlives the object and its copies.
+    explicit ClsTask(const DatabaseEngine& engine);
+
+    /// 0 for a task that is not stored yet.
+    qint32 Id() const { return m_id; }
+    void setId(qint32 id) { m_id = id; }
+    qint16 CategoryId() const { return m_categoryId; }
+    void setCategoryId(qint16 id) { m_categoryId = id; }
+    QString TaskName() const { return m_texts.text(NameText); }
+    void setTaskName(const QString& name) { setText(NameText, name); }
+    QString Description() const { return m_texts.text(DescriptionText); }
+    void setDescription(const QString& description) { setText(DescriptionText, description); }
+    qint32 status() const { return m_status; }
+    void setStatus(qint32 status) { m_status = status; }
+    Moment DueDateTime() const { return m_dueDateTime; }
+    void setDueDateTime(Moment moment) { m_dueDateTime = moment; }
+    qint32 Periority() const { return m_periority; }
+    void setPeriority(qint32 periority) { m_periority = periority; }
+    bool ReminderOn() const { return m_reminderOn; }
+    void setReminderOn(bool on) { m_reminderOn = on; }
+    Moment reminderDateTime() const { return m_reminderDateTime; }
+    void setReminderDateTime(Moment moment) { m_reminderDateTime = moment; }
+    QString ReminderSound() const { return m_texts.text(SoundText); }
+    void setReminderSound(const QString& path) { setText(SoundText, path); }
+    QString ReminderFile() const { return m_texts.text(FileText); }
+    void setReminderFile(const QString& path) { setText(FileText, path); }
+    /// The icon of the task's category; filled by the queries, never written.
+    qint16 IconId() const { return m_iconId; }
+    void setIconId(qint16 iconId) { m_iconId = iconId; }
+    /// Set when the reminder moment of a stored task was changed: makes `Update` arm the alert again.
+    bool DateChanged() const { return m_dateChanged; }
+    void setDateChanged(bool changed) { m_dateChanged = changed; }
+
+    /// Stores this task as a new one. The new id is not read back.
+    void Add() const;
+    /// Writes this task over the row of its id.
+    void Update() const;
+    /// The stored task of that id; none when there is no such row or its category is gone.
+    std::optional<ClsTask> GetTaskById(qint16 Id) const;
+    /// The tasks that match, in the order of `sortBy`. `fromDate` and `toDate` count as whole days and only
+    /// when `isDateRange` is set.
+    std::vector<ClsTask> GetTasks(qint16 cat, qint32 status, qint32 sortBy, bool isDateRange, Moment fromDate,
+        Moment toDate, qint32 taskType) const;
+    /// Deletes the tasks due from `fromDate` to the end of `toDate` that match.
+    void DeleteTasks(qint16 cat, qint32 status, Moment fromDate, Moment toDate, qint32 taskType) const;
+    /// How many tasks `DeleteTasks` would delete.
+    qint32 GetTasksCount(qint16 cat, qint32 status, Moment fromDate, Moment toDate, qint32 taskType) const;
+    void DeleteById(qint16 Id) const;
+
+private:
+    enum Text : std::size_t { NameText, DescriptionText, SoundText, FileText, TextCount };
+    class Reader;
+    QString filled(const QString& pattern) const;
+    void setText(Text which, const QString& value) { m_texts.set(which, value.toStdString()); }
+
+    const DatabaseEngine* m_engine;
+    PackedTexts<TextCount> m_texts;
+    Moment m_dueDateTime{};
+    Moment m_reminderDateTime{};
+    qint32 m_id = 0;
+    qint32 m_status = 0;
+    qint32 m_periority = 0;
+    qint16 m_categoryId = 0;
+    qint16 m_iconId = 0;
+    bool m_reminderOn = false;
+    bool m_dateChanged = false;
+};

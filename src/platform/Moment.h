@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QDateTime>
+#include <chrono>
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// A local date and time without a zone, to the second.
+using Moment = std::chrono::local_seconds;
+
+/// The moment of a calendar day and a time of day. The day must be valid.
+Moment makeMoment(std::chrono::year_month_day day, std::chrono::seconds timeOfDay = {});
+/// 00:00:00 of the moment's day.
+Moment startOfDay(Moment moment);
+/// The moment without its seconds.
+Moment toMinute(Moment moment);
+
+std::chrono::year_month_day dayOf(Moment moment);
+std::chrono::seconds timeOfDayOf(Moment moment);
+
+/// The form in which the data file keeps a moment: "YYYY-MM-DD HH:MM:SS". Years 0 to 9999.
+std::string storedText(Moment moment);
+/// The moment that a stored text says; none when the text has another form or names no existing day or time.
+std::optional<Moment> momentFromStoredText(std::string_view text);
+
+// The edge of a widget: pickers speak QDate and QTime.
+QDate toQDate(Moment moment);
+QTime toQTime(Moment moment);
+Moment toMoment(QDate date, QTime time = QTime(0, 0));

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+#include <stdexcept>
+
+/// A failure that ends the current action: what failed and why, as a text for the user.
+class RuntimeError : public std::runtime_error
+{
+public:
+    explicit RuntimeError(const QString& text) : std::runtime_error(text.toStdString()) { }
+    QString text() const { return QString::fromUtf8(what()); }
+};
+
+/// A number that does not fit the width in which the program passes it.
+class OverflowError : public RuntimeError
+{
+public:
+    /// `what` names the number, such as "task id".
+    OverflowError(const QString& what, qint64 value);
+};
+
+/// `id` as the 16-bit id that the program passes around.
+/// Throws OverflowError, which names the id, when it does not fit.
+qint16 narrowId(qint64 id, const QString& what);

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QString>
+#include <QStringView>
+
+class Clock;
+
+/// Sees what the program asks of its data file. Called on the thread that uses the connection.
+class StatementListener
+{
+public:
+    StatementListener() = default;
+    virtual ~StatementListener() = default;
+    StatementListener(const StatementListener&) = delete;
+    StatementListener& operator=(const StatementListener&) = delete;
+
+    virtual void connectionOpened(const QString& connectionString) = 0;
+    /// A statement in the program's own words, before it runs.
+    virtual void statementExecuted(QStringView statement) = 0;
+    virtual void connectionClosed() = 0;
+};
+
+/// What every connection needs to know; one for the program, it outlives all that uses it.
+struct DatabaseEngine {
+    QString programFolder; ///< absolute path of the folder that holds the data file
+    const Clock* clock = nullptr; ///< not owned; answers now() in statements
+    StatementListener* listener = nullptr; ///< not owned; may be null
+};

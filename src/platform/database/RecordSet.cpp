@@ -1,0 +1,174 @@
+#include "platform/database/RecordSet.h"
+
+#include "platform/database/DatabaseError.h"
+#include "platform/database/Session.h"
+
+#include <limits>
+#include <sqlite3.h>
+#include <utility>
+
+namespace
+{
+
+[[noreturn]] void refuse(const QString& text)
+{
+    throw DatabaseError(DatabaseError::Kind::Conversion, text);
+}
+
+QString quoted(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+[[noreturn]] void refuseValue(sqlite3_stmt* statement, int field, const QString& why)
+{
+    const char* table = sqlite3_column_table_name(statement, field);
+    const QString column = QString::fromUtf8(sqlite3_column_name(statement, field));
+    refuse(QStringLiteral("The value of column \"%1\" %2.")
+               .arg(table == nullptr ? column : QString::fromUtf8(table) + QLatin1Char('.') + column, why));
+}
+
+bool isSameName(const char* name, std::string_view wanted)
+{
+    return name != nullptr && std::string_view(name).size() == wanted.size()
+        && sqlite3_strnicmp(name, wanted.data(), static_cast<int>(wanted.size())) == 0;
+}
+
+bool isNamed(sqlite3_stmt* statement, int field, std::string_view name)
+{
+    if (isSameName(sqlite3_column_name(statement, field), name)) {
+        return true;
+    }
+    const std::size_t dot = name.find('.');
+    return dot != std::string_view::npos
+        && isSameName(sqlite3_column_table_name(statement, field), name.substr(0, dot))
+        && isSameName(sqlite3_column_origin_name(statement, field), name.substr(dot + 1));
+}
+
+qint64 integer(sqlite3_stmt* statement, int field, qint64 min, qint64 max)
+{
+    if (sqlite3_column_type(statement, field) != SQLITE_INTEGER) {
+        refuseValue(statement, field, QStringLiteral("is no whole number"));
+    }
+    const qint64 value = sqlite3_column_int64(statement, field);
+    if (value < min || value > max) {
+        refuseValue(statement, field, QStringLiteral("is out of range: %1").arg(value));
+    }
+    return value;
+}
+
+template <typename Integer> Integer integer(sqlite3_stmt* statement, int field)
+{
+    return static_cast<Integer>(
+        integer(statement, field, std::numeric_limits<Integer>::min(), std::numeric_limits<Integer>::max()));
+}
+
+} // namespace
+
+RecordSet::RecordSet() = default;
+RecordSet::RecordSet(RecordSet&& other) noexcept
+    : m_cursor(std::move(other.m_cursor)), m_atEnd(std::exchange(other.m_atEnd, true))
+{
+}
+
+RecordSet& RecordSet::operator=(RecordSet&& other) noexcept
+{
+    m_cursor = std::move(other.m_cursor);
+    m_atEnd = std::exchange(other.m_atEnd, true);
+    return *this;
+}
+
+RecordSet::~RecordSet() = default;
+
+RecordSet::RecordSet(std::unique_ptr<Cursor> cursor) : m_cursor(std::move(cursor))
+{
+    m_atEnd = !m_cursor->step();
+}
+
+void RecordSet::moveNext()
+{
+    if (m_atEnd || m_cursor->statement() == nullptr) {
+        refuse(QStringLiteral("There is no current record."));
+    }
+    m_atEnd = true;
+    m_atEnd = !m_cursor->step();
+}
+
+int RecordSet::field(std::string_view name) const
+{
+    sqlite3_stmt* statement = m_cursor == nullptr ? nullptr : m_cursor->statement();
+    int found = -1;
+    for (int i = 0; i < sqlite3_column_count(statement); ++i) {
+        if (!isNamed(statement, i, name)) {
+            continue;
+        }
+        if (found != -1) {
+            refuse(QStringLiteral("The field name \"%1\" is ambiguous.").arg(quoted(name)));
+        }
+        found = i;
+    }
+    if (found == -1) {
+        refuse(QStringLiteral("There is no field \"%1\".").arg(quoted(name)));
+    }
+    return found;
+}
+
+void RecordSet::requireField(int field) const
+{
+    if (m_atEnd || m_cursor->statement() == nullptr) {
+        refuse(QStringLiteral("There is no current record."));
+    }
+    if (field < 0 || field >= sqlite3_column_count(m_cursor->statement())) {
+        refuse(QStringLiteral("There is no field number %1.").arg(field));
+    }
+}
+
+std::string_view RecordSet::utf8(int field) const
+{
+    requireField(field);
+    sqlite3_stmt* statement = m_cursor->statement();
+    const int type = sqlite3_column_type(statement, field);
+    if (type == SQLITE_NULL || type == SQLITE_BLOB) {
+        refuseValue(
+            statement, field, type == SQLITE_NULL ? QStringLiteral("is null") : QStringLiteral("is no text"));
+    }
+    const unsigned char* text = sqlite3_column_text(statement, field);
+    if (text == nullptr) {
+        refuseValue(statement, field, QStringLiteral("does not fit into memory"));
+    }
+    return {reinterpret_cast<const char*>(text),
+        static_cast<std::size_t>(sqlite3_column_bytes(statement, field))};
+}
+
+QString RecordSet::text(int field) const
+{
+    return quoted(utf8(field));
+}
+
+qint16 RecordSet::int16(int field) const
+{
+    requireField(field);
+    return integer<qint16>(m_cursor->statement(), field);
+}
+
+qint32 RecordSet::int32(int field) const
+{
+    requireField(field);
+    return integer<qint32>(m_cursor->statement(), field);
+}
+
+bool RecordSet::flag(int field) const
+{
+    requireField(field);
+    return integer<qint64>(m_cursor->statement(), field) != 0;
+}
+
+Moment RecordSet::moment(int field) const
+{
+    const std::optional<Moment> moment = momentFromStoredText(utf8(field));
+    if (!moment) {
+        refuseValue(
+            m_cursor->statement(), field, QStringLiteral("is no date and time: ") + text(field).left(40));
+    }
+    return *moment;
+}

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "platform/Moment.h"
+
+#include <QString>
+#include <memory>
+#include <string_view>
+
+class Cursor;
+
+/// The rows of a query, read once from the first to the last. Movable. At its end, and from the close of its
+/// connection on, it holds no lock on the data file; what it had not read by the close is gone.
+///
+/// A field is named by its column name; where two tables of the query share a name, by `table.column`. Names
+/// are resolved once: ask `field()` before the loop. All reading functions throw DatabaseError of kind
+/// Conversion, which names the column, for a value that does not convert (a null, a number out of range, a
+/// text that is no moment), and when there is no current record. Moving on throws DatabaseError when the next
+/// row cannot be read.
+class RecordSet
+{
+public:
+    RecordSet();
+    RecordSet(RecordSet&&) noexcept;
+    RecordSet& operator=(RecordSet&&) noexcept;
+    ~RecordSet();
+
+    bool atEnd() const { return m_atEnd; }
+    void moveNext();
+
+    /// The position of the named field; throws DatabaseError, naming it, when there is none or when it is
+    /// ambiguous.
+    int field(std::string_view name) const;
+
+    /// The text as stored, in UTF-8; valid until the record set moves on.
+    std::string_view utf8(int field) const;
+    QString text(int field) const;
+    qint16 int16(int field) const;
+    qint32 int32(int field) const;
+    /// False for 0, true for any other number.
+    bool flag(int field) const;
+    Moment moment(int field) const;
+
+private:
+    friend class Connection;
+    /// Stands on the first row, if there is one.
+    explicit RecordSet(std::unique_ptr<Cursor> cursor);
+    void requireField(int field) const;
+
+    std::unique_ptr<Cursor> m_cursor;
+    bool m_atEnd = true;
+};

@@ -1,0 +1,325 @@
+#include "platform/database/Session.h"
+
+#include "platform/Clock.h"
+#include "platform/database/DatabaseError.h"
+#include "platform/database/Dialect.h"
+#include "platform/database/UnicodeCollation.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <algorithm>
+#include <array>
+#include <sqlite3.h>
+#include <utility>
+
+namespace
+{
+
+using Kind = DatabaseError::Kind;
+
+constexpr int LargestStatement = 64 * 1024 * 1024;
+constexpr int BusyMilliseconds = 250;
+constexpr qsizetype ShownStatementLength = 200;
+
+QString shortened(const QString& statement)
+{
+    return statement.size() <= ShownStatementLength
+        ? statement
+        : statement.left(ShownStatementLength) + QStringLiteral("...");
+}
+
+/// Errors that say something about the statement alone; all others are about the file or the machine.
+bool isStatementError(int code)
+{
+    constexpr std::array Codes{SQLITE_ERROR, SQLITE_CONSTRAINT, SQLITE_MISMATCH, SQLITE_TOOBIG, SQLITE_RANGE,
+        SQLITE_AUTH, SQLITE_SCHEMA};
+    return std::find(Codes.begin(), Codes.end(), code & 0xff) != Codes.end();
+}
+
+bool holdsStatement(std::string_view text)
+{
+    while (!text.empty()) {
+        std::size_t skipped = 0;
+        if (std::string_view(" \t\r\n\f").find(text.front()) != std::string_view::npos) {
+            skipped = 1;
+        } else if (text.substr(0, 2) == "--") {
+            skipped = text.find('\n');
+        } else if (text.substr(0, 2) == "/*") {
+            const std::size_t close = text.find("*/", 2);
+            skipped = close == std::string_view::npos ? close : close + 2;
+        } else {
+            return true;
+        }
+        text.remove_prefix(std::min(skipped, text.size()));
+    }
+    return false;
+}
+
+/// Pragmas that only tell something, for checking a file before it is taken over.
+bool isReadingPragma(std::string_view name, const char* argument)
+{
+    constexpr std::array<std::string_view, 4> Names{
+        "integrity_check", "quick_check", "application_id", "user_version"};
+    return argument == nullptr && std::find(Names.begin(), Names.end(), name) != Names.end();
+}
+
+} // namespace
+
+Cursor::Cursor(Session& session, sqlite3_stmt* statement) : m_session(&session), m_statement(statement)
+{
+    session.m_cursors.push_back(this);
+}
+
+Cursor::~Cursor()
+{
+    if (m_session != nullptr) {
+        std::erase(m_session->m_cursors, this);
+    }
+    release();
+}
+
+void Cursor::release()
+{
+    sqlite3_finalize(m_statement);
+    m_statement = nullptr;
+    m_session = nullptr;
+}
+
+bool Cursor::step()
+{
+    const int code = sqlite3_step(m_statement);
+    if (code == SQLITE_ROW) {
+        return true;
+    }
+    if (code != SQLITE_DONE) {
+        m_session->fail(code, QString::fromUtf8(sqlite3_sql(m_statement)));
+    }
+    sqlite3_reset(m_statement);
+    return false;
+}
+
+Session::Session(QString path, const Clock& clock) : m_path(std::move(path)), m_clock(&clock)
+{
+    try {
+        openFile();
+        harden();
+    } catch (...) {
+        sqlite3_close_v2(m_database);
+        throw;
+    }
+}
+
+Session::~Session()
+{
+    releaseCursors();
+    sqlite3_close_v2(m_database);
+}
+
+void Session::openFile()
+{
+    // The engine itself would take an empty file for a new database and report the others less clearly.
+    const QFileInfo file(m_path);
+    if (!file.exists()) {
+        failToOpen(QStringLiteral("it does not exist"));
+    }
+    if (file.isDir()) {
+        failToOpen(QStringLiteral("it is a folder"));
+    }
+    if (file.size() == 0) {
+        failToOpen(QStringLiteral("it is empty"));
+    }
+    const int code = sqlite3_open_v2(QFile::encodeName(m_path).constData(), &m_database,
+        SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
+    if (m_database == nullptr) {
+        failToOpen(QStringLiteral("out of memory"));
+    }
+    check(code);
+}
+
+void Session::check(int code)
+{
+    if (code != SQLITE_OK) {
+        failToOpen(reason(code));
+    }
+}
+
+void Session::harden()
+{
+    constexpr std::array<std::pair<int, int>, 8> Settings{{{SQLITE_DBCONFIG_DEFENSIVE, 1},
+        {SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0}, {SQLITE_DBCONFIG_DQS_DML, 0}, {SQLITE_DBCONFIG_DQS_DDL, 0},
+        {SQLITE_DBCONFIG_ENABLE_TRIGGER, 0}, {SQLITE_DBCONFIG_ENABLE_VIEW, 0},
+        {SQLITE_DBCONFIG_ENABLE_FTS3_TOKENIZER, 0}, {SQLITE_DBCONFIG_ENABLE_LOAD_EXTENSION, 0}}};
+    for (const auto& [setting, value] : Settings) {
+        check(sqlite3_db_config(m_database, setting, value, nullptr));
+    }
+    constexpr std::array<std::pair<int, int>, 9> Limits{{{SQLITE_LIMIT_LENGTH, LargestStatement},
+        {SQLITE_LIMIT_SQL_LENGTH, LargestStatement}, {SQLITE_LIMIT_ATTACHED, 0}, {SQLITE_LIMIT_COLUMN, 100},
+        {SQLITE_LIMIT_EXPR_DEPTH, 100}, {SQLITE_LIMIT_COMPOUND_SELECT, 10}, {SQLITE_LIMIT_VDBE_OP, 25000},
+        {SQLITE_LIMIT_LIKE_PATTERN_LENGTH, 1000}, {SQLITE_LIMIT_TRIGGER_DEPTH, 1}}};
+    for (const auto& [limit, value] : Limits) {
+        sqlite3_limit(m_database, limit, value);
+    }
+    check(sqlite3_busy_timeout(m_database, BusyMilliseconds));
+    check(installUnicodeNoCase(m_database));
+    check(sqlite3_create_function_v2(m_database, "now", 0,
+        SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_DIRECTONLY, this, answerNow, nullptr, nullptr, nullptr));
+    check(sqlite3_set_authorizer(m_database, authorize, this));
+    // Large sorts hold the user's texts: they stay in memory and out of the folder for temporary files.
+    check(
+        executeOwn("PRAGMA synchronous=FULL; PRAGMA temp_store=MEMORY; SELECT 1 FROM sqlite_schema LIMIT 1"));
+}
+
+int Session::authorize(
+    void* session, int action, const char* first, const char* second, const char*, const char*)
+{
+    if (static_cast<const Session*>(session)->m_runsOwnStatement) {
+        return SQLITE_OK;
+    }
+    switch (action) {
+    case SQLITE_SELECT:
+    case SQLITE_READ:
+    case SQLITE_INSERT:
+    case SQLITE_UPDATE:
+    case SQLITE_DELETE:
+    case SQLITE_FUNCTION:
+        return SQLITE_OK;
+    case SQLITE_PRAGMA:
+        return isReadingPragma(first, second) ? SQLITE_OK : SQLITE_DENY;
+    default:
+        return SQLITE_DENY;
+    }
+}
+
+void Session::answerNow(sqlite3_context* context, int, sqlite3_value**)
+{
+    const std::string& now = static_cast<const Session*>(sqlite3_user_data(context))->m_now;
+    sqlite3_result_text(context, now.data(), static_cast<int>(now.size()), SQLITE_TRANSIENT);
+}
+
+std::unique_ptr<Cursor> Session::start(const QString& statement)
+{
+    if (m_undone) {
+        throw DatabaseError(Kind::Storage,
+            QStringLiteral("The data file \"%1\" failed before; the statement was not run: %2")
+                .arg(m_path, shortened(statement)));
+    }
+    auto cursor = std::make_unique<Cursor>(*this, prepare(statement));
+    if (sqlite3_stmt_readonly(cursor->statement()) == 0 && sqlite3_get_autocommit(m_database) != 0) {
+        begin();
+    }
+    m_now = storedText(m_clock->now());
+    return cursor;
+}
+
+sqlite3_stmt* Session::prepare(const QString& statement)
+{
+    const std::string sql = translateDialect(statement.toStdString());
+    if (sql.size() >= LargestStatement) {
+        throw DatabaseError(Kind::Statement,
+            QStringLiteral("The statement is too long (%1 bytes): %2")
+                .arg(sql.size())
+                .arg(shortened(statement)));
+    }
+    sqlite3_stmt* prepared = nullptr;
+    const char* tail = nullptr;
+    const int code =
+        sqlite3_prepare_v2(m_database, sql.c_str(), static_cast<int>(sql.size()) + 1, &prepared, &tail);
+    if (code != SQLITE_OK) {
+        fail(code, statement);
+    }
+    if (prepared == nullptr) {
+        throw DatabaseError(Kind::Statement, QStringLiteral("The statement is empty."));
+    }
+    if (holdsStatement(tail)) {
+        sqlite3_finalize(prepared);
+        throw DatabaseError(Kind::Statement,
+            QStringLiteral("The text holds more than one statement: %1").arg(shortened(statement)));
+    }
+    return prepared;
+}
+
+int Session::executeOwn(const char* sql)
+{
+    m_runsOwnStatement = true;
+    const int code = sqlite3_exec(m_database, sql, nullptr, nullptr, nullptr);
+    m_runsOwnStatement = false;
+    return code;
+}
+
+void Session::begin()
+{
+    const int code = executeOwn("BEGIN IMMEDIATE");
+    if (code != SQLITE_OK) {
+        failStorage(code, QStringLiteral("could not be written"));
+    }
+}
+
+void Session::commit()
+{
+    if (m_undone) {
+        throw DatabaseError(Kind::Storage,
+            QStringLiteral("The data file \"%1\" failed before; nothing was stored.").arg(m_path));
+    }
+    if (sqlite3_get_autocommit(m_database) != 0) {
+        return;
+    }
+    const int code = executeOwn("COMMIT");
+    if (code != SQLITE_OK) {
+        failStorage(code, QStringLiteral("could not be written; nothing was stored"));
+    }
+}
+
+void Session::undo()
+{
+    m_undone = true;
+    if (sqlite3_get_autocommit(m_database) == 0) {
+        executeOwn("ROLLBACK");
+    }
+}
+
+void Session::releaseCursors()
+{
+    for (Cursor* cursor : std::exchange(m_cursors, {})) {
+        cursor->release();
+    }
+}
+
+void Session::failToOpen(const QString& why)
+{
+    throw DatabaseError(
+        Kind::Storage, QStringLiteral("The data file \"%1\" could not be opened: %2.").arg(m_path, why));
+}
+
+void Session::failStorage(int code, const QString& what)
+{
+    const QString why = reason(code);
+    undo();
+    throw DatabaseError(Kind::Storage, QStringLiteral("The data file \"%1\" %2: %3.").arg(m_path, what, why));
+}
+
+void Session::fail(int code, const QString& statement)
+{
+    if (isStatementError(code)) {
+        throw DatabaseError(Kind::Statement,
+            QStringLiteral("The statement failed: %1.\n%2").arg(reason(code), shortened(statement)));
+    }
+    failStorage(code, QStringLiteral("failed at the statement\n%1\n").arg(shortened(statement)));
+}
+
+QString Session::reason(int code) const
+{
+    const QString message = QString::fromUtf8(sqlite3_errmsg(m_database));
+    switch (code & 0xff) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        return QStringLiteral("another program is using it (%1)").arg(message);
+    case SQLITE_CANTOPEN:
+    case SQLITE_IOERR: {
+        const int systemCode = sqlite3_system_errno(m_database);
+        return systemCode == 0 ? message
+                               : QStringLiteral("%1 (%2)").arg(message, qt_error_string(systemCode));
+    }
+    default:
+        return message;
+    }
+}

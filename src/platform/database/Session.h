@@ -1,0 +1,85 @@
+#pragma once
+
+#include <QString>
+#include <memory>
+#include <string>
+#include <vector>
+
+class Clock;
+class Session;
+struct sqlite3;
+struct sqlite3_context;
+struct sqlite3_stmt;
+struct sqlite3_value;
+
+/// One running statement of a session. It may outlive the session: then it has no statement any more.
+class Cursor
+{
+public:
+    /// Takes the statement over.
+    Cursor(Session& session, sqlite3_stmt* statement);
+    ~Cursor();
+    Cursor(const Cursor&) = delete;
+    Cursor& operator=(const Cursor&) = delete;
+
+    /// Goes to the next row; false at the end, where the locks are released. Throws DatabaseError.
+    bool step();
+    /// Null after the session's end.
+    sqlite3_stmt* statement() const { return m_statement; }
+
+private:
+    friend class Session;
+    void release();
+
+    Session* m_session;
+    sqlite3_stmt* m_statement;
+};
+
+/// One open, hardened handle on the data file with the deferred commit; what a Connection is made of. One
+/// thread.
+class Session
+{
+public:
+    /// Opens an existing file and reads its header. `clock` outlives the session. Throws DatabaseError
+    /// (Storage).
+    Session(QString path, const Clock& clock);
+    /// Gives up what was not committed.
+    ~Session();
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+
+    /// Starts a statement of the dialect; the cursor is not yet on a row. Throws DatabaseError.
+    std::unique_ptr<Cursor> start(const QString& statement);
+    /// Ends the write transaction, if one is open. Throws DatabaseError (Storage); then it is undone.
+    void commit();
+    /// Ends all cursors, so that none of them holds a lock any more.
+    void releaseCursors();
+    /// A storage error has undone the operation.
+    bool isUndone() const { return m_undone; }
+
+private:
+    friend class Cursor;
+    static int authorize(
+        void* session, int action, const char* first, const char* second, const char*, const char*);
+    static void answerNow(sqlite3_context* context, int, sqlite3_value**);
+
+    void openFile();
+    void harden();
+    void check(int code);
+    sqlite3_stmt* prepare(const QString& statement);
+    int executeOwn(const char* sql);
+    void begin();
+    void undo();
+    [[noreturn]] void failToOpen(const QString& why);
+    [[noreturn]] void failStorage(int code, const QString& what);
+    [[noreturn]] void fail(int code, const QString& statement);
+    QString reason(int code) const;
+
+    QString m_path;
+    const Clock* m_clock;
+    sqlite3* m_database = nullptr;
+    std::vector<Cursor*> m_cursors;
+    std::string m_now;
+    bool m_runsOwnStatement = false;
+    bool m_undone = false;
+};

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "data/ClsTask.h"
+#include "platform/database/DatabaseEngine.h"
+#include "support/RecordedStatements.h"
+#include "support/SteppedClock.h"
+
+#include <QTemporaryDir>
+#include <QVariantList>
+
+/// A program folder of its own with a fresh copy of the shipped data file, a clock that stands at 15 January 2026,
+/// 10:00:00, and a record of all statements.
+class TestDatabase
+{
+public:
+    TestDatabase();
+
+    QString folder() const { return m_folder.path(); }
+    QString dataFile() const { return m_folder.filePath(QStringLiteral("data.dat")); }
+    const DatabaseEngine& engine() const { return m_engine; }
+    SteppedClock& clock() { return m_clock; }
+    RecordedStatements& statements() { return m_statements; }
+
+    /// Runs plain SQL of the engine beside the program's connections; not recorded. Fails the test on an error.
+    /// The first column of the first row, if any.
+    QVariant sql(const QString& statement) const;
+    /// All rows of a query.
+    QList<QVariantList> rows(const QString& statement) const;
+
+    void removeAllCategories() const;
+    /// Adds a category and answers its id.
+    qint16 addCategory(const QString& name, int icon = 0) const;
+
+private:
+    QTemporaryDir m_folder;
+    SteppedClock m_clock;
+    RecordedStatements m_statements;
+    DatabaseEngine m_engine;
+};
+
+/// Builds a task for a test: aTask(db).named("x").dueAt(...).remindingAt(...).add().
+class TaskBuilder
+{
+public:
+    explicit TaskBuilder(TestDatabase& database);
+
+    TaskBuilder& named(const QString& name);
+    TaskBuilder& describedAs(const QString& description);
+    TaskBuilder& in(qint16 category);
+    TaskBuilder& withStatus(qint32 status);
+    TaskBuilder& withPeriority(qint32 periority);
+    TaskBuilder& dueAt(Moment moment);
+    /// Switches the reminder on.
+    TaskBuilder& remindingAt(Moment moment);
+    TaskBuilder& sounding(const QString& wave);
+    TaskBuilder& starting(const QString& file);
+    TaskBuilder& played();
+    TaskBuilder& dismissed();
+    /// Stores the task and answers its id; leaves no trace among the recorded statements.
+    qint32 add();
+
+private:
+    TestDatabase& m_database;
+    ClsTask m_task;
+    bool m_played = false;
+    bool m_dismissed = false;
+};
+
+/// A task due one hour after the database's clock in the first category, reminder off.
+TaskBuilder aTask(TestDatabase& database);
