@@ -1,0 +1,26 @@
+# Renders the SVG sources to PNG at build time, so that the program needs no SVG reader at run time.
+find_program(RSVG_CONVERT rsvg-convert REQUIRED)
+
+# ambertask_render_icons(<target> PREFIX <resource prefix> SIZES <n>... SVGS <file>...)
+# Adds <name>-<size>.png for every file and size to <target> as Qt resources below <resource prefix>.
+function(ambertask_render_icons target)
+  cmake_parse_arguments(ARG "" "PREFIX" "SIZES;SVGS" ${ARGN})
+  string(MAKE_C_IDENTIFIER "${target}${ARG_PREFIX}" resource_name)
+  set(folder "${CMAKE_CURRENT_BINARY_DIR}/${resource_name}")
+  file(MAKE_DIRECTORY "${folder}")
+  set(pngs)
+  foreach(svg IN LISTS ARG_SVGS)
+    cmake_path(GET svg STEM name)
+    foreach(size IN LISTS ARG_SIZES)
+      set(png "${folder}/${name}-${size}.png")
+      add_custom_command(
+        OUTPUT "${png}"
+        COMMAND "${RSVG_CONVERT}" --height ${size} --keep-aspect-ratio --output "${png}" "${svg}"
+        DEPENDS "${svg}"
+        VERBATIM)
+      set_source_files_properties("${png}" PROPERTIES QT_RESOURCE_ALIAS "${name}-${size}.png")
+      list(APPEND pngs "${png}")
+    endforeach()
+  endforeach()
+  qt_add_resources(${target} "${resource_name}" PREFIX "${ARG_PREFIX}" FILES ${pngs})
+endfunction()

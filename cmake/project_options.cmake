@@ -1,0 +1,49 @@
+# Flags that every target of the project shares. Link it privately.
+add_library(ambertask_options INTERFACE)
+add_library(ambertask::options ALIAS ambertask_options)
+
+target_compile_features(ambertask_options INTERFACE cxx_std_20)
+target_compile_definitions(
+  ambertask_options
+  INTERFACE QT_NO_CAST_TO_ASCII
+            QT_RESTRICTED_CAST_FROM_ASCII
+            QT_NO_URL_CAST_FROM_STRING
+            QT_NO_FOREACH
+            QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+
+if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+  target_compile_options(
+    ambertask_options
+    INTERFACE -Wall
+              -Wextra
+              -Wpedantic
+              -Wshadow
+              -Wconversion
+              -Wno-sign-conversion
+              -Wnon-virtual-dtor
+              -Woverloaded-virtual
+              -Wold-style-cast
+              -Wcast-qual
+              $<$<BOOL:${AMBERTASK_WARNINGS_AS_ERRORS}>:-Werror>)
+  if(AMBERTASK_SANITIZE)
+    target_compile_options(ambertask_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
+                                                       -fno-omit-frame-pointer)
+    target_link_options(ambertask_options INTERFACE -fsanitize=address,undefined)
+  endif()
+elseif(MSVC)
+  target_compile_options(ambertask_options INTERFACE /W4 /utf-8 /permissive-
+                                                     $<$<BOOL:${AMBERTASK_WARNINGS_AS_ERRORS}>:/WX>)
+endif()
+
+# One library a folder of src/: ambertask_<name>, alias ambertask::<name>; its headers are reached as <name>/X.h.
+function(ambertask_library name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
+  add_library(ambertask_${name} STATIC ${ARG_SOURCES})
+  add_library(ambertask::${name} ALIAS ambertask_${name})
+  target_include_directories(ambertask_${name} PUBLIC "${PROJECT_SOURCE_DIR}/src")
+  target_link_libraries(
+    ambertask_${name}
+    PUBLIC ${ARG_PUBLIC}
+    PRIVATE ambertask::options ${ARG_PRIVATE})
+  set_target_properties(ambertask_${name} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+endfunction()

@@ -1,0 +1,64 @@
+#include "platform/FileDialogs.h"
+
+#include <QFileDialog>
+
+namespace {
+
+QString show(QWidget* owner, const FileDialogRequest& request, QFileDialog::AcceptMode mode)
+{
+    QFileDialog dialog(owner);
+    dialog.setAcceptMode(mode);
+    if (mode == QFileDialog::AcceptOpen) {
+        dialog.setFileMode(request.fileMustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    } else {
+        dialog.setFileMode(QFileDialog::AnyFile);
+        dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.promptBeforeOverwriting);
+    }
+    dialog.setNameFilters(nameFilters(request));
+    if (!request.initialFolder.isEmpty()) {
+        dialog.setDirectory(request.initialFolder);
+    }
+    if (!request.fileName.isEmpty()) {
+        dialog.selectFile(request.fileName);
+    }
+    if (owner != nullptr && owner->window()->windowFlags().testFlag(Qt::WindowStaysOnTopHint)) {
+        dialog.setWindowFlag(Qt::WindowStaysOnTopHint);
+    }
+    if (dialog.exec() != QDialog::Accepted) {
+        return {};
+    }
+    return dialog.selectedFiles().value(0);
+}
+
+}
+
+QStringList nameFilters(const FileDialogRequest& request)
+{
+    QStringList filters;
+    const QStringList parts = request.filter.split(u'|');
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        // The text carries the patterns for the eye in its last parentheses; the second half says which they are.
+        QString text = parts[i];
+        if (const qsizetype parenthesis = text.lastIndexOf(u'('); parenthesis >= 0) {
+            text.truncate(parenthesis);
+        }
+        const QStringList patterns = parts[i + 1].split(u';', Qt::SkipEmptyParts);
+        filters.append(QStringLiteral("%1 (%2)").arg(text.trimmed(), patterns.join(u' ')));
+    }
+#ifndef Q_OS_WIN
+    if (request.executables) {
+        filters.append(QFileDialog::tr("All Files (*)"));
+    }
+#endif
+    return filters;
+}
+
+QString ScreenFileDialogs::open(QWidget* owner, const FileDialogRequest& request)
+{
+    return show(owner, request, QFileDialog::AcceptOpen);
+}
+
+QString ScreenFileDialogs::save(QWidget* owner, const FileDialogRequest& request)
+{
+    return show(owner, request, QFileDialog::AcceptSave);
+}

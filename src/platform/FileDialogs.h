@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+class QWidget;
+
+/// What a file dialog is asked to show.
+struct FileDialogRequest {
+    QString fileName; ///< proposed name; empty for none
+    QString filter; ///< entries "text|pattern;pattern", separated by "|"
+    QString initialFolder; ///< empty for the dialog's own choice
+    bool fileMustExist = false;
+    bool promptBeforeOverwriting = false;
+    /// Adds "All Files (*)" where programs carry no extension.
+    bool executables = false;
+};
+
+/// The name filters of a filter text, in the toolkit's form: "Wave Files (*.wav)|*.wav" gives "Wave Files (*.wav)".
+QStringList nameFilters(const FileDialogRequest& request);
+
+/// The file dialogs of the program, modal to it.
+class FileDialogs
+{
+public:
+    FileDialogs() = default;
+    virtual ~FileDialogs() = default;
+    FileDialogs(const FileDialogs&) = delete;
+    FileDialogs& operator=(const FileDialogs&) = delete;
+
+    /// The chosen file; empty when the dialog was cancelled.
+    virtual QString open(QWidget* owner, const FileDialogRequest& request) = 0;
+    virtual QString save(QWidget* owner, const FileDialogRequest& request) = 0;
+};
+
+/// The file dialogs on the screen.
+class ScreenFileDialogs final : public FileDialogs
+{
+public:
+    QString open(QWidget* owner, const FileDialogRequest& request) override;
+    QString save(QWidget* owner, const FileDialogRequest& request) override;
+};

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QIcon>
+#include <QList>
+
+class ImageList;
+
+/// A column of a grid. Its width is the grid's width in twentieths of a point (15 a logical pixel) divided by
+/// `widthDivisor`, in pixels; a divisor of 0 hides the column.
+struct GridColumn {
+    int field = 0; ///< what the column shows, in the terms of the model
+    QString key; ///< unique name; lies in the header's Qt::UserRole
+    QString header;
+    int widthDivisor = 0;
+};
+
+/// The columns and the picture list of a grid; what stands in a cell is asked of the derived class, only when the cell
+/// is painted or read.
+class GridModel : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    using QAbstractTableModel::QAbstractTableModel;
+
+    /// `images` is not owned and outlives the model.
+    void setImageList(const ImageList* images) { m_images = images; }
+    const QList<GridColumn>& columns() const { return m_columns; }
+    /// Replaces all columns. Emits a model reset.
+    void setColumns(const QList<GridColumn>& columns);
+
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+protected:
+    static constexpr int NoIcon = -1;
+
+    /// Replaces all columns without a reset of its own, for a model that is in the middle of one.
+    void replaceColumns(const QList<GridColumn>& columns) { m_columns = columns; }
+
+    /// The text that a cell shows.
+    virtual QString cellText(int row, int field) const = 0;
+    /// The picture of a cell as an index into the image list, counted from 0, or NoIcon.
+    virtual int cellIcon(int row, int field) const = 0;
+    /// The word for what a cell says by its picture alone, for tool tips and screen readers; empty for none.
+    virtual QString cellWord(int row, int field) const = 0;
+
+private:
+    const ImageList* m_images = nullptr;
+    QList<GridColumn> m_columns;
+};

@@ -1,0 +1,121 @@
+#include "platform/GridView.h"
+
+#include "platform/GridModel.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+#include <cmath>
+
+namespace {
+
+constexpr double UnitsPerPixel = 15;
+constexpr int IconSize = 16;
+constexpr int RowPadding = 8;
+
+}
+
+GridView::GridView(QWidget* parent) : QTableView(parent)
+{
+    setSelectionBehavior(QAbstractItemView::SelectRows);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setIconSize(QSize(IconSize, IconSize));
+    setWordWrap(false);
+    setTabKeyNavigation(false);
+    setCornerButtonEnabled(false);
+    setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+    setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    verticalHeader()->setVisible(false);
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setMinimumSectionSize(IconSize);
+    verticalHeader()->setDefaultSectionSize(qMax(IconSize, fontMetrics().height()) + RowPadding);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    horizontalHeader()->setMinimumSectionSize(IconSize);
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, &GridView::takeUserWidth);
+    connect(this, &QTableView::doubleClicked, this, &GridView::rowDoubleClicked);
+}
+
+void GridView::setGridModel(GridModel* model)
+{
+    m_gridModel = model;
+    setModel(model);
+    connect(model, &QAbstractItemModel::modelReset, this, [this] {
+        m_shares.clear();
+        layOutColumns();
+    });
+    layOutColumns();
+}
+
+int GridView::selectedRow() const
+{
+    const QModelIndexList rows = selectionModel() == nullptr ? QModelIndexList() : selectionModel()->selectedRows();
+    return rows.isEmpty() ? -1 : rows.first().row();
+}
+
+void GridView::selectOnly(int row)
+{
+    if (row < 0 || row >= model()->rowCount()) {
+        clearSelection();
+        return;
+    }
+    int column = 0;
+    while (column + 1 < model()->columnCount() && isColumnHidden(column)) {
+        ++column;
+    }
+    setCurrentIndex(model()->index(row, column));
+    selectRow(row);
+}
+
+void GridView::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Delete && event->modifiers() == Qt::NoModifier) {
+        emit deletePressed();
+    } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        emit enterPressed();
+    } else {
+        QTableView::keyPressEvent(event);
+    }
+}
+
+void GridView::resizeEvent(QResizeEvent* event)
+{
+    QTableView::resizeEvent(event);
+    layOutColumns();
+}
+
+void GridView::showEvent(QShowEvent* event)
+{
+    layOutColumns();
+    QTableView::showEvent(event);
+}
+
+void GridView::layOutColumns()
+{
+    if (m_gridModel == nullptr) {
+        return;
+    }
+    const QScopedValueRollback guard(m_layingOut, true);
+    const QList<GridColumn>& columns = m_gridModel->columns();
+    if (m_shares.size() != static_cast<std::size_t>(columns.size())) {
+        m_shares.clear();
+        for (const GridColumn& column : columns) {
+            m_shares.push_back(column.widthDivisor == 0 ? 0 : UnitsPerPixel / column.widthDivisor);
+        }
+    }
+    for (int i = 0; i < columns.size(); ++i) {
+        const bool hidden = columns[i].widthDivisor == 0;
+        setColumnHidden(i, hidden);
+        if (!hidden) {
+            setColumnWidth(i, static_cast<int>(std::lround(m_shares[static_cast<std::size_t>(i)] * width())));
+        }
+    }
+}
+
+void GridView::takeUserWidth(int column, int /*oldSize*/, int newSize)
+{
+    if (!m_layingOut && width() > 0 && static_cast<std::size_t>(column) < m_shares.size()) {
+        m_shares[static_cast<std::size_t>(column)] = static_cast<double>(newSize) / width();
+    }
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QTableView>
+#include <vector>
+
+class GridModel;
+
+/// A grid of whole rows of one fixed height. The selection is one row or none; rows and columns come from a GridModel.
+class GridView : public QTableView
+{
+    Q_OBJECT
+
+public:
+    explicit GridView(QWidget* parent = nullptr);
+
+    /// The grid does not own `model`. After every reset of the model the columns get the widths that they ask for and no
+    /// row is selected.
+    void setGridModel(GridModel* model);
+
+    /// The selected row, counted from 0; -1 for none.
+    int selectedRow() const;
+    /// Selects a row, makes it the current one and scrolls to it; -1 selects none.
+    void selectOnly(int row);
+
+signals:
+    /// A row was double-clicked.
+    void rowDoubleClicked();
+    void deletePressed();
+    void enterPressed();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void layOutColumns();
+    void takeUserWidth(int column, int oldSize, int newSize);
+
+    GridModel* m_gridModel = nullptr;
+    /// Width of each column as a share of the grid's width; follows the user's dragging.
+    std::vector<double> m_shares;
+    bool m_layingOut = false;
+};

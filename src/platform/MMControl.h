@@ -1,0 +1,41 @@
+#pragma once
+
+#include "platform/WaveBackend.h"
+
+#include <QObject>
+#include <QString>
+#include <memory>
+
+/// Makes the backend, or nothing where sounds cannot be played.
+using WaveBackendFactory = std::function<std::unique_ptr<WaveBackend>()>;
+/// Loads the sound module that lies beside the program; the module stays loaded.
+std::unique_ptr<WaveBackend> loadWaveBackend();
+
+/// The multimedia control: set the properties, then send the commands "Open" and "Play". Each "Play" starts at once and
+/// may overlap the sound before; "Close" stops all. Interface thread only; nothing here blocks or fails.
+class MMControl : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit MMControl(WaveBackendFactory factory, QObject* parent = nullptr);
+    ~MMControl() override;
+
+    bool Notify = false;
+    bool Wait = false;
+    bool Shareable = false;
+    QString DeviceType;
+    QString FileName;
+
+    /// "Open", "Play" or "Close"; anything else does nothing.
+    void Command(const QString& command);
+
+signals:
+    /// Playback has come to its end by itself.
+    void Done();
+
+private:
+    WaveBackendFactory m_factory;
+    std::unique_ptr<WaveBackend> m_backend;
+    QString m_openFile;
+};

@@ -1,0 +1,32 @@
+#include "platform/MessageBoxes.h"
+
+#include <QMessageBox>
+
+namespace {
+
+QMessageBox::StandardButton show(
+    QWidget* owner, QMessageBox::Icon icon, const QString& text, QMessageBox::StandardButtons buttons)
+{
+    QMessageBox box(icon, QStringLiteral("Ambertask"), text, buttons, owner);
+    box.setTextFormat(Qt::PlainText);
+    // A message has to be seen above a topmost owner.
+    if (owner != nullptr && owner->window()->windowFlags().testFlag(Qt::WindowStaysOnTopHint)) {
+        box.setWindowFlag(Qt::WindowStaysOnTopHint);
+    }
+    return static_cast<QMessageBox::StandardButton>(box.exec());
+}
+
+}
+
+void ScreenMessageBoxes::tell(QWidget* owner, Icon icon, const QString& text)
+{
+    const QMessageBox::Icon picture = icon == Icon::Information ? QMessageBox::Information
+        : icon == Icon::Exclamation                             ? QMessageBox::Warning
+                                                                : QMessageBox::NoIcon;
+    show(owner, picture, text, QMessageBox::Ok);
+}
+
+bool ScreenMessageBoxes::ask(QWidget* owner, const QString& question)
+{
+    return show(owner, QMessageBox::Question, question, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+/// The message boxes of the program, titled with the application's title and modal to it. Texts are plain.
+class MessageBoxes
+{
+public:
+    enum class Icon { None, Information, Exclamation };
+
+    MessageBoxes() = default;
+    virtual ~MessageBoxes() = default;
+    MessageBoxes(const MessageBoxes&) = delete;
+    MessageBoxes& operator=(const MessageBoxes&) = delete;
+
+    /// Shows `text` with an OK button and returns when it is closed. `owner` may be null.
+    virtual void tell(QWidget* owner, Icon icon, const QString& text) = 0;
+    /// Asks with the question icon and the buttons Yes and No. True only for Yes.
+    virtual bool ask(QWidget* owner, const QString& question) = 0;
+};
+
+/// The message boxes on the screen.
+class ScreenMessageBoxes final : public MessageBoxes
+{
+public:
+    void tell(QWidget* owner, Icon icon, const QString& text) override;
+    bool ask(QWidget* owner, const QString& question) override;
+};

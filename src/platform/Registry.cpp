@@ -1,0 +1,147 @@
+#include "platform/Registry.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSaveFile>
+#include <QStandardPaths>
+
+#ifdef Q_OS_WIN
+#include <windows.h>
+#endif
+
+void WriteRegString(
+    Registry& registry, quint32 hive, const QString& keyPath, const QString& valueName, const QString& valueText)
+{
+    registry.setValue(
+        hive, keyPath, valueName.toLocal8Bit(), RegistryValues::Text, valueText.toLocal8Bit());
+}
+
+void DeleteRegValue(Registry& registry, quint32 hive, const QString& keyPath, const QString& valueName)
+{
+    registry.deleteValue(hive, keyPath, valueName.toLocal8Bit());
+}
+
+#ifdef Q_OS_WIN
+
+namespace {
+
+class WindowsRegistry final : public Registry
+{
+public:
+    void setValue(quint32 hive, const QString& keyPath, const QByteArray& name, quint32 type,
+        const QByteArray& data) override
+    {
+        HKEY key = nullptr;
+        if (RegCreateKeyA(rootKey(hive), keyPath.toLocal8Bit().constData(), &key) == ERROR_SUCCESS) {
+            RegSetValueExA(key, name.constData(), 0, type, reinterpret_cast<const BYTE*>(data.constData()),
+                static_cast<DWORD>(data.size()));
+            RegCloseKey(key);
+        }
+    }
+    void deleteValue(quint32 hive, const QString& keyPath, const QByteArray& name) override
+    {
+        HKEY key = nullptr;
+        if (RegOpenKeyA(rootKey(hive), keyPath.toLocal8Bit().constData(), &key) == ERROR_SUCCESS) {
+            RegDeleteValueA(key, name.constData());
+            RegCloseKey(key);
+        }
+    }
+
+private:
+    static HKEY rootKey(quint32 hive)
+    {
+        return reinterpret_cast<HKEY>(static_cast<ULONG_PTR>(static_cast<LONG>(hive)));
+    }
+};
+
+}
+
+std::unique_ptr<Registry> makeSystemRegistry()
+{
+    return std::make_unique<WindowsRegistry>();
+}
+
+#else
+
+namespace {
+
+// The Exec key of the Desktop Entry format: an argument in double quotes in which four characters are escaped, "%" is
+// doubled, and the whole is a string value in which a backslash is escaped once more.
+QString execValue(const QString& path)
+{
+    QString quoted;
+    for (const QChar c : path) {
+        if (c == u'"' || c == u'`' || c == u'$' || c == u'\\') {
+            quoted += u'\\';
+        }
+        quoted += c;
+        if (c == u'%') {
+            quoted += c;
+        }
+    }
+    quoted = u'"' + quoted + u'"';
+    return quoted.replace(QStringLiteral("\\"), QStringLiteral("\\\\"));
+}
+
+class AutostartRegistry final : public Registry
+{
+public:
+    void setValue(quint32 hive, const QString& keyPath, const QByteArray& name, quint32 /*type*/,
+        const QByteArray& data) override
+    {
+        const QString path = QString::fromLocal8Bit(data);
+        // A line break cannot stand in a desktop entry.
+        if (!isRunKey(hive, keyPath) || path.contains(u'\n') || path.contains(u'\r')) {
+            return;
+        }
+        const QString file = entryFile(name);
+        if (!QDir().mkpath(QFileInfo(file).path())) {
+            return;
+        }
+        QSaveFile entry(file);
+        if (!entry.open(QIODevice::WriteOnly)) {
+            return;
+        }
+        const QString program = QString::fromLocal8Bit(name);
+        const QString text = QStringLiteral("[Desktop Entry]\n"
+                                            "Type=Application\n"
+                                            "Version=1.0\n"
+                                            "Name=%1\n"
+                                            "Exec=%2\n"
+                                            "Terminal=false\n")
+                                 .arg(program, execValue(path));
+        const QByteArray bytes = text.toUtf8();
+        // A failed flush must not replace a good entry by an empty one.
+        if (entry.write(bytes) == bytes.size() && entry.flush()) {
+            entry.commit();
+        }
+    }
+
+    void deleteValue(quint32 hive, const QString& keyPath, const QByteArray& name) override
+    {
+        if (isRunKey(hive, keyPath)) {
+            QFile::remove(entryFile(name));
+        }
+    }
+
+private:
+    static bool isRunKey(quint32 hive, const QString& keyPath)
+    {
+        return hive == RegistryValues::LocalMachine
+            && keyPath.compare(QLatin1String(RunKeyPath), Qt::CaseInsensitive) == 0;
+    }
+    static QString entryFile(const QByteArray& name)
+    {
+        return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
+            + QStringLiteral("/autostart/") + QString::fromLocal8Bit(name) + QStringLiteral(".desktop");
+    }
+};
+
+}
+
+std::unique_ptr<Registry> makeSystemRegistry()
+{
+    return std::make_unique<AutostartRegistry>();
+}
+
+#endif

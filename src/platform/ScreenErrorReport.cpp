@@ -1,0 +1,36 @@
+#include "platform/ScreenErrorReport.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScopedValueRollback>
+
+ScreenErrorReport::ScreenErrorReport(std::function<void()> closeProgram) : m_closeProgram(std::move(closeProgram)) { }
+
+void ScreenErrorReport::report(const QString& text)
+{
+    if (m_open) {
+        return;
+    }
+    const QScopedValueRollback guard(m_open, true);
+    QWidget* owner = QApplication::activeWindow();
+    QMessageBox box(QMessageBox::Critical, QStringLiteral("Ambertask"), text, QMessageBox::NoButton, owner);
+    box.setTextFormat(Qt::PlainText);
+    box.setWindowFlag(Qt::WindowStaysOnTopHint,
+        owner != nullptr && owner->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+    QPushButton* close = box.addButton(QMessageBox::tr("Close program"), QMessageBox::DestructiveRole);
+    QPushButton* proceed = box.addButton(QMessageBox::tr("Continue"), QMessageBox::RejectRole);
+    box.setDefaultButton(close);
+    box.setEscapeButton(proceed);
+    box.exec();
+    if (box.clickedButton() == close) {
+        m_closeProgram();
+    }
+}
+
+void ScreenErrorReport::reportFailedStart(const QString& text)
+{
+    QMessageBox box(QMessageBox::Critical, QStringLiteral("Ambertask"), text, QMessageBox::Ok);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}

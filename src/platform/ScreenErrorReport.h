@@ -1,0 +1,23 @@
+#pragma once
+
+#include "platform/ErrorReport.h"
+
+#include <functional>
+
+/// The run-time error report on the screen: a critical box that offers "Close program" and "Continue".
+class ScreenErrorReport final : public ErrorReport
+{
+public:
+    /// `closeProgram` is called when the user chooses to end the program.
+    explicit ScreenErrorReport(std::function<void()> closeProgram);
+
+    /// While one report is open, further ones are dropped: the same fault may come back with every timer.
+    void report(const QString& text) override;
+
+    /// The report of a start that failed: an OK button only.
+    static void reportFailedStart(const QString& text);
+
+private:
+    std::function<void()> m_closeProgram;
+    bool m_open = false;
+};

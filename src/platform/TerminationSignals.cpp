@@ -1,0 +1,65 @@
+#include "platform/TerminationSignals.h"
+
+#ifdef Q_OS_UNIX
+
+#include <QSocketNotifier>
+#include <array>
+#include <csignal>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace {
+
+// A signal handler can reach nothing but what is static.
+std::array<int, 2> signalPipe {-1, -1};
+
+constexpr std::array endingSignals {SIGTERM, SIGINT, SIGHUP};
+
+void passOn(int)
+{
+    const char byte = 1;
+    // The pipe does not block; when it is full, a request is already under way.
+    [[maybe_unused]] const ssize_t written = ::write(signalPipe[1], &byte, 1);
+}
+
+}
+
+TerminationSignals::TerminationSignals(QObject* parent) : QObject(parent)
+{
+    if (::pipe2(signalPipe.data(), O_CLOEXEC | O_NONBLOCK) != 0) {
+        return;
+    }
+    auto* notifier = new QSocketNotifier(signalPipe[0], QSocketNotifier::Read, this);
+    connect(notifier, &QSocketNotifier::activated, this, [this] {
+        char byte = 0;
+        while (::read(signalPipe[0], &byte, 1) == 1) { }
+        emit terminationRequested();
+    });
+    struct sigaction action = {};
+    action.sa_handler = passOn;
+    action.sa_flags = SA_RESTART;
+    sigemptyset(&action.sa_mask);
+    for (const int signal : endingSignals) {
+        sigaction(signal, &action, nullptr);
+    }
+}
+
+TerminationSignals::~TerminationSignals()
+{
+    if (signalPipe[0] < 0) {
+        return;
+    }
+    for (const int signal : endingSignals) {
+        std::signal(signal, SIG_DFL);
+    }
+    ::close(signalPipe[0]);
+    ::close(signalPipe[1]);
+    signalPipe = {-1, -1};
+}
+
+#else
+
+TerminationSignals::TerminationSignals(QObject* parent) : QObject(parent) { }
+TerminationSignals::~TerminationSignals() = default;
+
+#endif

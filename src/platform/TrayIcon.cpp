@@ -1,0 +1,46 @@
+#include "platform/TrayIcon.h"
+
+#include <QIcon>
+#include <QMenu>
+#include <QSystemTrayIcon>
+
+TrayIcon::TrayIcon(QObject* parent) : QObject(parent) { }
+
+void TrayIcon::add(const QIcon& icon, const QString& toolTip, QMenu* menu)
+{
+    remove();
+    m_icon = new QSystemTrayIcon(icon, this);
+    m_icon->setToolTip(toolTip);
+    m_icon->setContextMenu(menu);
+    connect(m_icon, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
+        // A host that draws the icon itself (StatusNotifierItem) tells neither the icon's place nor double clicks.
+        const bool drawnByHost = m_icon->geometry().isEmpty();
+        if (reason == QSystemTrayIcon::DoubleClick || (drawnByHost && reason == QSystemTrayIcon::Trigger)) {
+            emit activated();
+        }
+    });
+    m_icon->show();
+}
+
+void TrayIcon::remove()
+{
+    delete m_icon;
+    m_icon = nullptr;
+}
+
+bool TrayIcon::isShown() const
+{
+    return m_icon != nullptr && m_icon->isVisible();
+}
+
+void TrayIcon::showBalloon(const QString& title, const QString& text, int milliseconds)
+{
+    if (m_icon != nullptr) {
+        m_icon->showMessage(title, text, QSystemTrayIcon::Information, milliseconds);
+    }
+}
+
+bool TrayIcon::isAreaAvailable()
+{
+    return QSystemTrayIcon::isSystemTrayAvailable();
+}

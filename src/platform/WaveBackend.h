@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+
+/// Plays wave files; a module of its own, loaded when the first sound is played.
+class WaveBackend
+{
+public:
+    WaveBackend() = default;
+    virtual ~WaveBackend() = default;
+    WaveBackend(const WaveBackend&) = delete;
+    WaveBackend& operator=(const WaveBackend&) = delete;
+
+    /// Starts playing at once; sounds may overlap. A file that cannot be played is passed over silently.
+    virtual void play(const QString& file) = 0;
+    virtual void stopAll() = 0;
+    /// Called when the last sound that was playing has come to its end by itself.
+    std::function<void()> onDone;
+};

@@ -1,0 +1,26 @@
+#pragma once
+
+/// The switch of the reminder checker's timer, for whoever shows a file dialog: no alert is to pop up over it.
+class CheckerTimer
+{
+public:
+    CheckerTimer() = default;
+    virtual ~CheckerTimer() = default;
+    CheckerTimer(const CheckerTimer&) = delete;
+    CheckerTimer& operator=(const CheckerTimer&) = delete;
+
+    virtual void setCheckerEnabled(bool enabled) = 0;
+};
+
+/// Stops the checker's timer while it lives.
+class CheckerPause
+{
+public:
+    explicit CheckerPause(CheckerTimer& timer) : m_timer(timer) { m_timer.setCheckerEnabled(false); }
+    ~CheckerPause() { m_timer.setCheckerEnabled(true); }
+    CheckerPause(const CheckerPause&) = delete;
+    CheckerPause& operator=(const CheckerPause&) = delete;
+
+private:
+    CheckerTimer& m_timer;
+};

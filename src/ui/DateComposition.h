@@ -1,0 +1,10 @@
+#pragma once
+
+#include "platform/Moment.h"
+
+#include <QString>
+
+/// Month, "/", day, "/", year, a blank and the 24-hour time to the minute: month first whatever the locale.
+QString monthFirstText(QDate date, QTime time);
+/// The moment of a picker's day and another picker's time of day; seconds are dropped.
+Moment composeMoment(QDate date, QTime time);

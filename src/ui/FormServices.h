@@ -1,0 +1,27 @@
+#pragma once
+
+#include <functional>
+
+class CheckerTimer;
+class Clock;
+class ErrorReport;
+class FileDialogs;
+class ImageList;
+class MessageBoxes;
+class Shell;
+struct DatabaseEngine;
+
+/// What the windows ask of the rest of the program. Nothing here is owned; all of it outlives the windows.
+struct FormServices {
+    const DatabaseEngine& engine;
+    const Clock& clock;
+    MessageBoxes& messages;
+    FileDialogs& fileDialogs;
+    ErrorReport& errors;
+    Shell& shell;
+    CheckerTimer& checkerTimer;
+    /// The pictures of categories, statuses, priorities and reminders; `LoadCategories` appends custom ones.
+    ImageList& imgLstCategories;
+    /// The setting `always_on_top`.
+    std::function<bool()> alwaysOnTop;
+};

@@ -1,0 +1,50 @@
+#include "ui/MomentTexts.h"
+
+#include <QLocale>
+
+QString shortDateFormat()
+{
+    QString format = QLocale().dateFormat(QLocale::ShortFormat);
+    if (!format.contains(QStringLiteral("yyyy"))) {
+        format.replace(QStringLiteral("yy"), QStringLiteral("yyyy"));
+    }
+    return format;
+}
+
+QString shortTimeFormat()
+{
+    return QStringLiteral("HH:mm");
+}
+
+QString shortDate(Moment moment)
+{
+    return QLocale().toString(toQDate(moment), shortDateFormat());
+}
+
+QString shortTime(Moment moment)
+{
+    return toQTime(moment).toString(shortTimeFormat());
+}
+
+QString longTime(Moment moment)
+{
+    // The format's "t" stands for the time zone; quoted text of the format stays.
+    QString format;
+    bool quoted = false;
+    for (const QChar c : QLocale().timeFormat(QLocale::LongFormat)) {
+        if (c == u'\'') {
+            quoted = !quoted;
+        }
+        if (quoted || c != u't') {
+            format += c;
+        }
+    }
+    // The zone may have stood in brackets.
+    format.remove(QStringLiteral("()")).remove(QStringLiteral("[]"));
+    return QLocale().toString(toQTime(moment), format.trimmed());
+}
+
+QString dateAndLongTime(Moment moment)
+{
+    return shortDate(moment) + u' ' + longTime(moment);
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "platform/Moment.h"
+
+#include <QString>
+
+/// The format of the system's short date, its year with four digits.
+QString shortDateFormat();
+/// 24-hour hours:minutes.
+QString shortTimeFormat();
+/// The day as the system's short date.
+QString shortDate(Moment moment);
+QString shortTime(Moment moment);
+/// The time of day as the system's long time, without a zone name.
+QString longTime(Moment moment);
+/// Short date, a blank, long time: a due date in a list.
+QString dateAndLongTime(Moment moment);

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+// Pictures of the main image list that stand for a task's codes, as indexes counted from 0, and the words for them.
+
+inline constexpr int NoPicture = -1;
+inline constexpr int ReminderPicture = 12;
+
+/// The picture of a status; NoPicture for an unknown code.
+int statusPicture(qint32 status);
+/// The picture of a priority; NoPicture for an unknown code.
+int periorityPicture(qint32 periority);
+
+/// The word for a status; empty for an unknown code.
+QString statusWord(qint32 status);
+/// The word for a priority; empty for an unknown code.
+QString periorityWord(qint32 periority);

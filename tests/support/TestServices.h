@@ -1,0 +1,51 @@
+#pragma once
+
+#include "platform/ImageList.h"
+#include "platform/Shell.h"
+#include "support/ScriptedDialogs.h"
+#include "support/TestDatabase.h"
+#include "ui/CheckerTimer.h"
+#include "ui/FormServices.h"
+
+#include <QStringList>
+
+/// Remembers what was opened and started.
+class RecordedShell final : public Shell
+{
+public:
+    void openVendorPage(const QString& pathAndQuery) override { pages.append(pathAndQuery); }
+    bool startMinimized(const QString& file) override
+    {
+        started.append(file);
+        return startSucceeds;
+    }
+    QStringList pages;
+    QStringList started;
+    bool startSucceeds = true;
+};
+
+/// Remembers how the checker's timer was switched.
+class RecordedCheckerTimer final : public CheckerTimer
+{
+public:
+    void setCheckerEnabled(bool on) override
+    {
+        enabled = on;
+        switches.append(on);
+    }
+    bool enabled = true;
+    QList<bool> switches;
+};
+
+/// All that a form asks of the program, for a test: real database, stepped clock, scripted dialogs.
+struct TestServices {
+    TestServices();
+
+    TestDatabase database;
+    ScriptedDialogs dialogs;
+    RecordedShell shell;
+    RecordedCheckerTimer checkerTimer;
+    ImageList images; ///< 21 pictures, all different
+    bool alwaysOnTop = false;
+    FormServices services;
+};
