@@ -1,0 +1,48 @@
+"""What the controls are called on the accessibility bus: the one place to change when a caption changes.
+
+A control is a role and its captions; any of the captions will do.
+"""
+MAIN = "Ambertask"
+TASK_DIALOG = "Task Details"
+CATEGORY_DIALOG = "Category Details"
+ABOUT = "About Ambertask"
+TRAY_TIP = "Ambertaks"
+TRAY_MENU = ["Show", "About", "Help", "Send feedback", "Exit"]
+BALLOON = "Ambertaks is still running.."
+VENDOR = "https://www.ambertask.example"
+
+ADD = ("button", "Add")
+EDIT = ("button", "Edit")
+DELETE = ("button", "Delete")
+OK = ("button", "OK")
+CANCEL = ("button", "Cancel")
+YES = ("button", "Yes")
+NO = ("button", "No")
+SAVE_SETTINGS = ("button", "Save Settings")
+ON_TOP = ("check box", "Always on top")
+SHOW_BALLOON = ("check box", "Show tray balloon when closed")
+
+TASK_NAME = ("text box", "Task", "Task name", "Name")
+TASK_DESCRIPTION = ("text box", "Description")
+TASK_CATEGORY = ("combo box", "Category")
+DUE_TIME = ("picker", "Due time")
+REMINDER_ON = ("check box", "Enable reminder", "Reminder")
+REMINDER_TIME = ("picker", "Reminder time", "Time")
+SOUND_ON = ("check box", "Reminder sound", "Sound", "Play sound")
+SOUND_PATH = ("text box", "Reminder sound", "Sound", "Sound file", "Reminder sound file")
+FILE_ON = ("check box", "Reminder file", "File", "Open file", "Start file")
+FILE_PATH = ("text box", "Reminder file", "File", "File to open", "Program or batch file")
+
+DISMISS = ("button", "Dismiss")
+DISMISS_ALL = ("button", "Dismiss All")
+REMIND_LATER = ("button", "Remind me later")
+OPEN_ITEM = ("button", "Open Item")
+LATER_TIME = ("picker", "Time", "Reminder time", "New time", "New reminder time")
+
+TOO_EARLY = "Reminder date and time should not be earlier than current system date and time"
+DELETE_QUESTION = "Are you sure you want to delete this task?"
+NO_CATEGORY = "Please select category."
+
+
+def alert_title(count):
+    return f"{count} Reminder" if count == 1 else f"{count} Reminders"
