@@ -6,6 +6,7 @@
 #include <QDateTimeEdit>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QTextDocument>
 
 QString valueOf(const QWidget* control)
 {
@@ -16,7 +17,7 @@ QString valueOf(const QWidget* control)
         return edit->text();
     }
     if (const auto* edit = qobject_cast<const QPlainTextEdit*>(control)) {
-        return edit->toPlainText();
+        return textOf(*edit);
     }
     if (const auto* combo = qobject_cast<const QComboBox*>(control)) {
         return combo->currentText();
@@ -28,4 +29,12 @@ QString valueOf(const QWidget* control)
         return QStringLiteral("False");
     }
     return {};
+}
+
+QString textOf(const QPlainTextEdit& edit)
+{
+    QString text = edit.document()->toRawText();
+    text.replace(QChar::ParagraphSeparator, u'\n');
+    text.replace(QChar::LineSeparator, u'\n');
+    return text;
 }

@@ -23,7 +23,7 @@ QString shortDate(Moment moment)
 
 QString shortTime(Moment moment)
 {
-    return toQTime(moment).toString(shortTimeFormat());
+    return QLocale().toString(toQTime(moment), shortTimeFormat());
 }
 
 QString longTime(Moment moment)

@@ -1,0 +1,189 @@
+#include "tasks/TaskDetailsControls.h"
+
+#include "ui/Pickers.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTimeEdit>
+#include <limits>
+
+namespace
+{
+
+template <typename Control> Control* named(const char* name, QWidget& parent)
+{
+    auto* control = new Control(&parent);
+    control->setObjectName(QLatin1String(name));
+    return control;
+}
+
+/// Adds a caption whose mnemonic leads to `control`.
+QLabel* addLabel(QGridLayout& grid, int row, int column, QLabel* label, const QString& text, QWidget* control)
+{
+    label->setText(text);
+    label->setBuddy(control);
+    grid.addWidget(label, row, column);
+    return label;
+}
+
+} // namespace
+
+TaskDetailsControls::TaskDetailsControls(QWidget& form)
+    : txtTask(named<QLineEdit>("txtTask", form)), cmbCategories(named<QComboBox>("cmbCategories", form)),
+      txtDescription(named<QPlainTextEdit>("txtDescription", form)),
+      dtpDueDate(named<QDateEdit>("dtpDueDate", form)), dtpDueTime(named<QTimeEdit>("dtpDueTime", form)),
+      cmbStatus(named<QComboBox>("cmbStatus", form)),
+      cmbPeriorities(named<QComboBox>("cmbPeriorities", form)),
+      framReminderLater(named<QGroupBox>("framReminderLater", form)),
+      chkEnableReminder(named<QCheckBox>("chkEnableReminder", *framReminderLater)),
+      lblReminderDate(named<QLabel>("lblReminderDate", *framReminderLater)),
+      dtpReminderDate(named<QDateEdit>("dtpReminderDate", *framReminderLater)),
+      lblReminderTime(named<QLabel>("lblReminderTime", *framReminderLater)),
+      dtpReminderTime(named<QTimeEdit>("dtpReminderTime", *framReminderLater)),
+      chkReminderSound(named<QCheckBox>("chkReminderSound", *framReminderLater)),
+      txtReminderSound(named<QLineEdit>("txtReminderSound", *framReminderLater)),
+      btnSoundBrowse(named<QPushButton>("btnSoundBrowse", *framReminderLater)),
+      chkReminderFile(named<QCheckBox>("chkReminderFile", *framReminderLater)),
+      txtReminderFile(named<QLineEdit>("txtReminderFile", *framReminderLater)),
+      btnFileBrowse(named<QPushButton>("btnFileBrowse", *framReminderLater)),
+      btnOk(named<QPushButton>("btnOk", form)), btnCancel(named<QPushButton>("btnCancel", form))
+{
+    setUp();
+    setAccessibleNames();
+    layOut(form);
+    const QList<QWidget*> order = inTabOrder();
+    for (qsizetype i = 1; i < order.size(); ++i) {
+        QWidget::setTabOrder(order[i - 1], order[i]);
+    }
+}
+
+QList<QWidget*> TaskDetailsControls::inTabOrder() const
+{
+    return {txtTask, cmbCategories, txtDescription, dtpDueDate, dtpDueTime, cmbStatus, cmbPeriorities,
+        chkEnableReminder, dtpReminderDate, dtpReminderTime, chkReminderSound, txtReminderSound,
+        btnSoundBrowse, chkReminderFile, txtReminderFile, btnFileBrowse, btnOk, btnCancel};
+}
+
+void TaskDetailsControls::setUp()
+{
+    // An edit cuts at 32,767 characters unless told otherwise.
+    for (QLineEdit* edit : {txtTask, txtReminderSound, txtReminderFile}) {
+        edit->setMaxLength(std::numeric_limits<int>::max());
+    }
+    txtDescription->setTabChangesFocus(true);
+    txtDescription->setMinimumHeight(txtDescription->fontMetrics().lineSpacing() * 5);
+    // The longest category is not to widen the dialog.
+    cmbCategories->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    cmbCategories->setMinimumContentsLength(20);
+    for (QDateEdit* picker : {dtpDueDate, dtpReminderDate}) {
+        setUpDatePicker(*picker);
+    }
+    for (QTimeEdit* picker : {dtpDueTime, dtpReminderTime}) {
+        setUpTimePicker(*picker);
+    }
+
+    framReminderLater->setTitle(tr("Reminder"));
+    chkEnableReminder->setText(tr("&Enable reminder"));
+    chkReminderSound->setText(tr("Reminder sou&nd"));
+    chkReminderFile->setText(tr("Reminder &file"));
+    btnSoundBrowse->setText(tr("&Browse..."));
+    btnFileBrowse->setText(tr("Bro&wse..."));
+    btnOk->setText(tr("&OK"));
+    btnCancel->setText(tr("C&ancel"));
+    for (QPushButton* button : {btnSoundBrowse, btnFileBrowse, btnOk, btnCancel}) {
+        button->setAutoDefault(false);
+    }
+}
+
+void TaskDetailsControls::setAccessibleNames()
+{
+    txtTask->setAccessibleName(tr("Task name"));
+    cmbCategories->setAccessibleName(tr("Category"));
+    txtDescription->setAccessibleName(tr("Description"));
+    dtpDueDate->setAccessibleName(tr("Due date"));
+    dtpDueTime->setAccessibleName(tr("Due time"));
+    cmbStatus->setAccessibleName(tr("Status"));
+    cmbPeriorities->setAccessibleName(tr("Priority"));
+    framReminderLater->setAccessibleName(tr("Reminder"));
+    chkEnableReminder->setAccessibleName(tr("Enable reminder"));
+    dtpReminderDate->setAccessibleName(tr("Reminder date"));
+    dtpReminderTime->setAccessibleName(tr("Reminder time"));
+    chkReminderSound->setAccessibleName(tr("Reminder sound"));
+    txtReminderSound->setAccessibleName(tr("Reminder sound file"));
+    btnSoundBrowse->setAccessibleName(tr("Browse for a reminder sound"));
+    chkReminderFile->setAccessibleName(tr("Reminder file"));
+    txtReminderFile->setAccessibleName(tr("Program or batch file"));
+    btnFileBrowse->setAccessibleName(tr("Browse for a reminder file"));
+    btnOk->setAccessibleName(tr("OK"));
+    btnCancel->setAccessibleName(tr("Cancel"));
+}
+
+void TaskDetailsControls::layOut(QWidget& form)
+{
+    auto* grid = new QGridLayout(&form);
+    const auto label = [&](const char* name) {
+        return named<QLabel>(name, form);
+    };
+
+    addLabel(*grid, 0, 0, label("lblTask"), tr("&Task name:"), txtTask);
+    grid->addWidget(txtTask, 0, 1, 1, 3);
+    addLabel(*grid, 1, 0, label("lblCategories"), tr("&Category:"), cmbCategories);
+    grid->addWidget(cmbCategories, 1, 1, 1, 3);
+    addLabel(*grid, 2, 0, label("lblDescription"), tr("&Description:"), txtDescription)
+        ->setAlignment(Qt::AlignTop | Qt::AlignLeading);
+    grid->addWidget(txtDescription, 2, 1, 1, 3);
+    addLabel(*grid, 3, 0, label("lblDueDate"), tr("D&ue date:"), dtpDueDate);
+    grid->addWidget(dtpDueDate, 3, 1);
+    addLabel(*grid, 3, 2, label("lblDueTime"), tr("Due ti&me:"), dtpDueTime);
+    grid->addWidget(dtpDueTime, 3, 3);
+    addLabel(*grid, 4, 0, label("lblStatus"), tr("&Status:"), cmbStatus);
+    grid->addWidget(cmbStatus, 4, 1);
+    addLabel(*grid, 4, 2, label("lblPeriorities"), tr("&Priority:"), cmbPeriorities);
+    grid->addWidget(cmbPeriorities, 4, 3);
+
+    layOutReminder();
+    grid->addWidget(framReminderLater, 5, 0, 1, 4);
+
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(btnOk);
+    buttons->addWidget(btnCancel);
+    grid->addLayout(buttons, 6, 0, 1, 4);
+
+    grid->setRowStretch(2, 1);
+    grid->setColumnStretch(1, 1);
+    grid->setColumnStretch(3, 1);
+}
+
+void TaskDetailsControls::layOutReminder()
+{
+    auto* grid = new QGridLayout(framReminderLater);
+    grid->addWidget(chkEnableReminder, 0, 0, 1, 4);
+    addLabel(*grid, 1, 0, lblReminderDate, tr("&Reminder date:"), dtpReminderDate);
+    grid->addWidget(dtpReminderDate, 1, 1);
+    addLabel(*grid, 1, 2, lblReminderTime, tr("Reminder t&ime:"), dtpReminderTime);
+    grid->addWidget(dtpReminderTime, 1, 3);
+
+    // The buttons stand below each other at the right edge; the paths take what is left.
+    auto* sound = new QHBoxLayout;
+    sound->addWidget(txtReminderSound, 1);
+    sound->addWidget(btnSoundBrowse);
+    grid->addWidget(chkReminderSound, 2, 0);
+    grid->addLayout(sound, 2, 1, 1, 3);
+    auto* file = new QHBoxLayout;
+    file->addWidget(txtReminderFile, 1);
+    file->addWidget(btnFileBrowse);
+    grid->addWidget(chkReminderFile, 3, 0);
+    grid->addLayout(file, 3, 1, 1, 3);
+
+    grid->setColumnStretch(1, 1);
+    grid->setColumnStretch(3, 1);
+}

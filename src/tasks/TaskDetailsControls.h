@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QList>
+
+class QCheckBox;
+class QComboBox;
+class QDateEdit;
+class QGridLayout;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QPlainTextEdit;
+class QPushButton;
+class QTimeEdit;
+class QWidget;
+
+/// The controls of the task dialog and their places. They are children of `form`, which owns them.
+class TaskDetailsControls
+{
+    Q_DECLARE_TR_FUNCTIONS(frmTaskDetails)
+
+public:
+    explicit TaskDetailsControls(QWidget& form);
+
+    QLineEdit* txtTask;
+    QComboBox* cmbCategories;
+    QPlainTextEdit* txtDescription;
+    QDateEdit* dtpDueDate;
+    QTimeEdit* dtpDueTime;
+    QComboBox* cmbStatus;
+    QComboBox* cmbPeriorities;
+    QGroupBox* framReminderLater;
+    QCheckBox* chkEnableReminder;
+    QLabel* lblReminderDate;
+    QDateEdit* dtpReminderDate;
+    QLabel* lblReminderTime;
+    QTimeEdit* dtpReminderTime;
+    QCheckBox* chkReminderSound;
+    QLineEdit* txtReminderSound;
+    QPushButton* btnSoundBrowse;
+    QCheckBox* chkReminderFile;
+    QLineEdit* txtReminderFile;
+    QPushButton* btnFileBrowse;
+    QPushButton* btnOk;
+    QPushButton* btnCancel;
+
+    /// All controls that take the focus, in the order of the Tab key.
+    QList<QWidget*> inTabOrder() const;
+
+private:
+    void setUp();
+    void setAccessibleNames();
+    void layOut(QWidget& form);
+    void layOutReminder();
+};

@@ -1,0 +1,85 @@
+#include "tasks/TaskInput.h"
+
+#include <QRegularExpression>
+
+namespace
+{
+
+bool isBlank(const QString& text)
+{
+    return text.trimmed().isEmpty();
+}
+
+/// A name is one line, but a single-line edit keeps the line breaks that were pasted into it.
+QString nameOf(const QString& text)
+{
+    static const QRegularExpression LineBreak(
+        QStringLiteral("\\r\\n|[\\r\\n\\v\\f\\x{85}\\x{2028}\\x{2029}]"));
+    return QString(text).replace(LineBreak, QStringLiteral(" ")).trimmed();
+}
+
+/// Without the blanks around it; tabs and line breaks belong to a description's text.
+QString descriptionOf(const QString& text)
+{
+    qsizetype begin = 0;
+    qsizetype end = text.size();
+    while (begin < end && text[begin] == u' ') {
+        ++begin;
+    }
+    while (end > begin && text[end - 1] == u' ') {
+        --end;
+    }
+    return text.mid(begin, end - begin);
+}
+
+} // namespace
+
+bool TaskInput::reminderMustLieAhead(const std::optional<EditedTask>& edited) const
+{
+    return !edited || reminder != edited->reminder || !edited->reminderOn;
+}
+
+std::optional<Refusal> TaskInput::refusal(const std::optional<EditedTask>& edited, Moment now) const
+{
+    if (reminderMustLieAhead(edited) && reminderOn && reminder < now) {
+        return Refusal{TaskField::ReminderDate,
+            tr("Reminder date and time should not be earlier than current system date and time")};
+    }
+    if (isBlank(taskName)) {
+        return Refusal{TaskField::TaskName, tr("Please enter task name.")};
+    }
+    if (!categoryId) {
+        return Refusal{TaskField::Category, tr("Please select category.")};
+    }
+    if (hasSound && isBlank(sound)) {
+        return Refusal{TaskField::SoundBrowse, tr("Please select reminder sound.")};
+    }
+    if (hasFile && isBlank(file)) {
+        return Refusal{TaskField::FileBrowse, tr("Please select reminder file.")};
+    }
+    return std::nullopt;
+}
+
+ClsTask TaskInput::toTask(const DatabaseEngine& engine, const std::optional<EditedTask>& edited) const
+{
+    ClsTask task(engine);
+    task.setTaskName(nameOf(taskName));
+    task.setCategoryId(categoryId.value());
+    task.setDescription(descriptionOf(description));
+    task.setStatus(status);
+    task.setDueDateTime(due);
+    task.setPeriority(periority);
+    task.setReminderOn(reminderOn);
+    task.setReminderDateTime(reminder);
+    if (hasFile) {
+        task.setReminderFile(file);
+    }
+    if (hasSound) {
+        task.setReminderSound(sound);
+    }
+    if (edited) {
+        task.setId(edited->id);
+        task.setDateChanged(reminder != edited->reminder);
+    }
+    return task;
+}

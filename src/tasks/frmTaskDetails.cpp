@@ -1,0 +1,341 @@
+#include "tasks/frmTaskDetails.h"
+
+#include "platform/Clock.h"
+#include "platform/ErrorReport.h"
+#include "platform/FileDialogs.h"
+#include "platform/MessageBoxes.h"
+#include "tasks/TaskDetailsHost.h"
+#include "ui/CheckerTimer.h"
+#include "ui/Combos.h"
+#include "ui/ControlValue.h"
+#include "ui/DateComposition.h"
+#include "ui/Pickers.h"
+#include "ui/clsGuiLoader.h"
+
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTimeEdit>
+#include <algorithm>
+
+namespace
+{
+
+/// An optional path: checked exactly when there is one.
+void setPath(QCheckBox& box, QLineEdit& edit, const QString& path)
+{
+    box.setChecked(!path.isEmpty());
+    edit.setText(path);
+}
+
+/// Selects the entry that carries `number`; without such an entry the selection stays.
+void selectNumberIfListed(QComboBox& combo, qint32 number)
+{
+    const int selected = combo.currentIndex();
+    selectNumber(combo, number);
+    if (combo.currentIndex() < 0) {
+        combo.setCurrentIndex(selected);
+    }
+}
+
+} // namespace
+
+frmTaskDetails::frmTaskDetails(const FormServices& services, const TaskDetailsHost& host)
+    : QWidget(nullptr, Qt::Dialog), m_services(services), m_host(host), m_controls(*this)
+{
+    setObjectName(QStringLiteral("frmTaskDetails"));
+    setWindowTitle(tr("Task Details"));
+    loadCombos();
+    enableReminderControls();
+    const Moment now = m_services.clock.now();
+    setPickers(*m_controls.dtpDueDate, *m_controls.dtpDueTime, now);
+    setPickers(*m_controls.dtpReminderDate, *m_controls.dtpReminderTime, now);
+    connectControls();
+}
+
+void frmTaskDetails::loadCombos()
+{
+    const clsGuiLoader loader(m_services.engine);
+    const int filtered = m_host.selectedCategoryIndex();
+    loader.LoadCategoriesCombo(*m_controls.cmbCategories, filtered);
+    m_controls.cmbCategories->removeItem(0);
+    m_controls.cmbCategories->setCurrentIndex(std::max(filtered - 1, -1));
+    loader.LoadStatusCombo(*m_controls.cmbStatus);
+    m_controls.cmbStatus->removeItem(0);
+    m_controls.cmbStatus->setCurrentIndex(0);
+    loader.LoadPeriorityCombo(*m_controls.cmbPeriorities);
+    m_controls.cmbPeriorities->setCurrentIndex(0);
+}
+
+void frmTaskDetails::connectControls()
+{
+    ErrorReport& errors = m_services.errors;
+    connectGuarded(m_controls.chkEnableReminder, &QCheckBox::clicked, this,
+        &frmTaskDetails::chkEnableReminder_Click, errors);
+    connectGuarded(m_controls.chkReminderSound, &QCheckBox::clicked, this,
+        &frmTaskDetails::enableReminderControls, errors);
+    connectGuarded(m_controls.chkReminderFile, &QCheckBox::clicked, this,
+        &frmTaskDetails::enableReminderControls, errors);
+    connectGuarded(m_controls.btnSoundBrowse, &QPushButton::clicked, this,
+        &frmTaskDetails::btnSoundBrowse_Click, errors);
+    connectGuarded(
+        m_controls.btnFileBrowse, &QPushButton::clicked, this, &frmTaskDetails::btnFileBrowse_Click, errors);
+    connectGuarded(m_controls.btnOk, &QPushButton::clicked, this, &frmTaskDetails::btnOk_Click, errors);
+    connectGuarded(
+        m_controls.btnCancel, &QPushButton::clicked, this, &frmTaskDetails::btnCancel_Click, errors);
+
+    // The form sees the keys before the control that has the focus.
+    for (QWidget* control : m_controls.inTabOrder()) {
+        control->installEventFilter(this);
+    }
+}
+
+void frmTaskDetails::EmptyForm()
+{
+    const Moment now = m_services.clock.now();
+    m_controls.txtTask->clear();
+    m_controls.cmbCategories->setCurrentIndex(-1);
+    m_controls.txtDescription->clear();
+    setPickers(*m_controls.dtpDueDate, *m_controls.dtpDueTime, now);
+    m_controls.cmbStatus->setCurrentIndex(0);
+    m_controls.cmbPeriorities->setCurrentIndex(0);
+    m_controls.chkEnableReminder->setChecked(false);
+    setPickers(*m_controls.dtpReminderDate, *m_controls.dtpReminderTime, now);
+    setPath(*m_controls.chkReminderFile, *m_controls.txtReminderFile, {});
+    setPath(*m_controls.chkReminderSound, *m_controls.txtReminderSound, {});
+    enableReminderControls();
+    m_tag.clear();
+    m_loadedReminderOn = false;
+    m_loadedReminder = {};
+}
+
+void frmTaskDetails::SetTag(qint16 Id)
+{
+    const std::optional<ClsTask> task = ClsTask(m_services.engine).GetTaskById(Id);
+    if (!task) {
+        throw RuntimeError(tr("The task no longer exists."));
+    }
+    EmptyForm();
+    m_tag = QString::number(Id);
+    fillFrom(*task);
+}
+
+void frmTaskDetails::fillFrom(const ClsTask& task)
+{
+    m_controls.txtTask->setText(task.TaskName());
+    m_controls.txtTask->setCursorPosition(0);
+    selectCategory(task.CategoryId());
+    m_controls.txtDescription->setPlainText(task.Description());
+    setPickers(*m_controls.dtpDueDate, *m_controls.dtpDueTime, toMinute(task.DueDateTime()));
+    selectNumberIfListed(*m_controls.cmbStatus, task.status());
+    selectNumberIfListed(*m_controls.cmbPeriorities, task.Periority());
+    setPath(*m_controls.chkReminderSound, *m_controls.txtReminderSound, task.ReminderSound());
+    setPath(*m_controls.chkReminderFile, *m_controls.txtReminderFile, task.ReminderFile());
+
+    m_loadedReminderOn = task.ReminderOn();
+    m_controls.chkEnableReminder->setChecked(m_loadedReminderOn);
+    chkEnableReminder_Click();
+    // After the click, which has copied the due moment over the reminder.
+    m_loadedReminder = task.reminderDateTime();
+    setPickers(*m_controls.dtpReminderDate, *m_controls.dtpReminderTime, toMinute(m_loadedReminder));
+}
+
+void frmTaskDetails::selectCategory(qint16 id)
+{
+    selectNumber(*m_controls.cmbCategories, id);
+}
+
+void frmTaskDetails::reloadCategories()
+{
+    clsGuiLoader(m_services.engine).reloadCategoriesComboWithoutAll(*m_controls.cmbCategories);
+}
+
+void frmTaskDetails::enableReminderControls()
+{
+    const bool reminder = m_controls.chkEnableReminder->isChecked();
+    const bool sound = reminder && m_controls.chkReminderSound->isChecked();
+    const bool file = reminder && m_controls.chkReminderFile->isChecked();
+    for (QWidget* control : std::initializer_list<QWidget*>{m_controls.lblReminderDate,
+             m_controls.dtpReminderDate, m_controls.lblReminderTime, m_controls.dtpReminderTime,
+             m_controls.chkReminderSound, m_controls.chkReminderFile}) {
+        control->setEnabled(reminder);
+    }
+    m_controls.txtReminderSound->setEnabled(sound);
+    m_controls.btnSoundBrowse->setEnabled(sound);
+    m_controls.txtReminderFile->setEnabled(file);
+    m_controls.btnFileBrowse->setEnabled(file);
+}
+
+void frmTaskDetails::chkEnableReminder_Click()
+{
+    enableReminderControls();
+    if (m_controls.chkEnableReminder->isChecked()) {
+        m_controls.dtpReminderDate->setDate(m_controls.dtpDueDate->date());
+        m_controls.dtpReminderTime->setTime(m_controls.dtpDueTime->time());
+    }
+}
+
+void frmTaskDetails::btnFileBrowse_Click()
+{
+    // A failure leaves the path as it was and is not reported.
+    try {
+        const CheckerPause pause(m_services.checkerTimer);
+        FileDialogRequest request;
+        request.filter = tr("Executable Files (*.exe;*.bat;)|*.exe;*.bat");
+        request.fileMustExist = true;
+        request.executables = true;
+        m_controls.txtReminderFile->setText(m_services.fileDialogs.open(this, request));
+    } catch (const std::exception&) {
+    }
+}
+
+void frmTaskDetails::btnSoundBrowse_Click()
+{
+    // The checker runs on while the sound is chosen; a failure leaves the path as it was and is not reported.
+    try {
+        FileDialogRequest request;
+        request.filter = tr("Wave Files (*.wav)|*.wav");
+        request.initialFolder = m_services.engine.programFolder + QLatin1String("/sounds");
+        request.fileMustExist = true;
+        const QString file = m_services.fileDialogs.open(this, request);
+        m_services.checkerTimer.setCheckerEnabled(true);
+        m_controls.txtReminderSound->setText(file);
+    } catch (const std::exception&) {
+    }
+}
+
+void frmTaskDetails::btnOk_Click()
+{
+    const TaskInput entered = input();
+    if (const auto refusal = entered.refusal(edited(), m_services.clock.now())) {
+        m_services.messages.tell(this, MessageBoxes::Icon::Exclamation, refusal->message);
+        controlOf(refusal->field)->setFocus();
+        return;
+    }
+    store(entered.toTask(m_services.engine, edited()));
+    emit taskStored();
+    hide();
+    emit taskSaved();
+}
+
+void frmTaskDetails::btnCancel_Click()
+{
+    hide();
+    emit cancelled();
+}
+
+TaskInput frmTaskDetails::input()
+{
+    // Enter saves without taking the focus: what is half typed in a picker counts as it would on leaving it.
+    for (QDateTimeEdit* picker : std::initializer_list<QDateTimeEdit*>{m_controls.dtpDueDate,
+             m_controls.dtpDueTime, m_controls.dtpReminderDate, m_controls.dtpReminderTime}) {
+        picker->interpretText();
+    }
+    TaskInput entered;
+    entered.taskName = m_controls.txtTask->text();
+    if (m_controls.cmbCategories->currentIndex() >= 0) {
+        entered.categoryId = static_cast<qint16>(m_controls.cmbCategories->currentData().toInt());
+    }
+    entered.description = textOf(*m_controls.txtDescription);
+    entered.due = composeMoment(m_controls.dtpDueDate->date(), m_controls.dtpDueTime->time());
+    entered.status = selectedNumber(*m_controls.cmbStatus, TaskStatus::NotStarted);
+    entered.periority = selectedNumber(*m_controls.cmbPeriorities, TaskPeriority::Normal);
+    entered.reminderOn = m_controls.chkEnableReminder->isChecked();
+    entered.reminder = composeMoment(m_controls.dtpReminderDate->date(), m_controls.dtpReminderTime->time());
+    entered.hasSound = m_controls.chkReminderSound->isChecked();
+    entered.sound = m_controls.txtReminderSound->text();
+    entered.hasFile = m_controls.chkReminderFile->isChecked();
+    entered.file = m_controls.txtReminderFile->text();
+    return entered;
+}
+
+std::optional<EditedTask> frmTaskDetails::edited() const
+{
+    if (m_tag.isEmpty()) {
+        return std::nullopt;
+    }
+    return EditedTask{m_tag.toInt(), m_loadedReminderOn, m_loadedReminder};
+}
+
+void frmTaskDetails::store(const ClsTask& task) const
+{
+    if (m_tag.isEmpty()) {
+        task.Add();
+        return;
+    }
+    // An update of a task that is gone writes nothing and would lose the input unnoticed.
+    if (!task.GetTaskById(static_cast<qint16>(task.Id()))) {
+        throw RuntimeError(tr("The task no longer exists."));
+    }
+    task.Update();
+}
+
+QWidget* frmTaskDetails::controlOf(TaskField field) const
+{
+    switch (field) {
+    case TaskField::TaskName:
+        return m_controls.txtTask;
+    case TaskField::Category:
+        return m_controls.cmbCategories;
+    case TaskField::SoundBrowse:
+        return m_controls.btnSoundBrowse;
+    case TaskField::FileBrowse:
+        return m_controls.btnFileBrowse;
+    case TaskField::ReminderDate:
+        break;
+    }
+    return m_controls.dtpReminderDate;
+}
+
+bool frmTaskDetails::Form_KeyPress(const QKeyEvent& event)
+{
+    // With these the key is another character.
+    if (event.modifiers().testAnyFlags(Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) {
+        return false;
+    }
+    if (event.key() == Qt::Key_Escape) {
+        m_controls.btnCancel->click();
+        return true;
+    }
+    const bool isEnter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    if (isEnter && valueOf(focusWidget()) != valueOf(m_controls.txtDescription)) {
+        m_controls.btnOk->click();
+        return true;
+    }
+    return false;
+}
+
+bool frmTaskDetails::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress && Form_KeyPress(*static_cast<QKeyEvent*>(event))) {
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void frmTaskDetails::keyPressEvent(QKeyEvent* event)
+{
+    if (!Form_KeyPress(*event)) {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void frmTaskDetails::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (!event->spontaneous()) {
+        m_controls.txtTask->setFocus();
+    }
+}
+
+void frmTaskDetails::closeEvent(QCloseEvent* event)
+{
+    event->ignore();
+    hide();
+}

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "tasks/TaskDetailsControls.h"
+#include "tasks/TaskInput.h"
+#include "ui/FormServices.h"
+
+#include <QWidget>
+
+class TaskDetailsHost;
+
+/// The dialog in which a task is created or edited. Modeless, loaded once and reused: call `EmptyForm` or
+/// `SetTag`, then show it above its owner. It leaves by hiding.
+class frmTaskDetails : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Fills the lists. `services` and `host` outlive the form. Throws DatabaseError.
+    frmTaskDetails(const FormServices& services, const TaskDetailsHost& host);
+
+    /// Gets ready for a new task: every control at its default, no category selected, the tag empty.
+    void EmptyForm();
+    /// Loads the stored task of that id for editing. Throws RuntimeError when there is no such task and
+    /// DatabaseError, and then the form is as it was.
+    void SetTag(qint16 Id);
+    /// The decimal id of the task that is edited; empty for a new task.
+    QString tag() const { return m_tag; }
+
+    /// Selects the category of that id; none when it is not in the list.
+    void selectCategory(qint16 id);
+    /// Fills the category list anew; the selected category stays selected while it exists. Throws
+    /// DatabaseError, and then the list is as it was.
+    void reloadCategories();
+
+signals:
+    /// The task has been written; the dialog still shows.
+    void taskStored();
+    /// The task has been written and the dialog is hidden.
+    void taskSaved();
+    /// The user gave up and the dialog is hidden. Not sent for the close box.
+    void cancelled();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void loadCombos();
+    void connectControls();
+    void fillFrom(const ClsTask& task);
+
+    void chkEnableReminder_Click();
+    void btnSoundBrowse_Click();
+    void btnFileBrowse_Click();
+    void btnOk_Click();
+    void btnCancel_Click();
+    /// True when the key is the form's own and goes no further.
+    bool Form_KeyPress(const QKeyEvent& event);
+
+    void enableReminderControls();
+    TaskInput input();
+    /// None for a new task.
+    std::optional<EditedTask> edited() const;
+    void store(const ClsTask& task) const;
+    QWidget* controlOf(TaskField field) const;
+
+    const FormServices& m_services;
+    const TaskDetailsHost& m_host;
+    TaskDetailsControls m_controls;
+    QString m_tag;
+    bool m_loadedReminderOn = false;
+    Moment m_loadedReminder{};
+};
