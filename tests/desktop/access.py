@@ -184,8 +184,7 @@ class Node:
 # One role has several names across tool kit versions.
 ROLES = {
     "button": ("push button", "button"),
-    "window": ("filler", "frame", "dialog", "window", "alert"),
-    "message box": ("alert", "dialog", "message box"),
+    "message box": ("alert message", "alert", "message box"),
     "text box": ("text", "entry"),
     "combo box": ("combo box",),
     "check box": ("check box",),
@@ -270,9 +269,11 @@ class Access:
         return application.children() if application else []
 
     def seek_window(self, title, showing=True):
+        """The window of that title; message boxes, which share the main window's title, are not meant."""
         for node in self.windows():
             try:
-                if node.name == title and (not showing or node.has("showing")):
+                if node.name == title and node.role not in as_roles("message box") \
+                        and (not showing or node.has("showing")):
                     return node
             except GLib.Error:
                 continue

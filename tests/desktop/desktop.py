@@ -7,6 +7,7 @@ import stat
 import subprocess
 import tempfile
 import time
+from datetime import timezone
 
 from gi.repository import Gio, GLib
 
@@ -137,9 +138,11 @@ class Desktop:
         self.commands = self._make_folder("bin")
         self.opened = self.path("opened")
         self.write_recorder(os.path.join(self.commands, "xdg-open"), self.opened)
-        kept = ("LANG", "LC_ALL", "TZ", "LSAN_OPTIONS", "ASAN_OPTIONS", "UBSAN_OPTIONS", "LD_LIBRARY_PATH")
+        kept = ("LSAN_OPTIONS", "ASAN_OPTIONS", "UBSAN_OPTIONS", "LD_LIBRARY_PATH")
         self.environment = {name: os.environ[name] for name in kept if name in os.environ}
         self.environment.update({
+            "LANG": "C.UTF-8",
+            "TZ": "UTC",
             "PATH": self.commands + ":/usr/bin:/bin",
             "HOME": self._make_folder("home"),
             "XDG_CONFIG_HOME": self._make_folder("home", ".config"),
@@ -153,8 +156,6 @@ class Desktop:
             "PULSE_SERVER": "unix:" + self.path("pulse-socket"),
             "PULSE_CLIENTCONFIG": self.path("pulse-client.conf"),
         })
-        self.environment.setdefault("LANG", "C.UTF-8")
-        self.environment.setdefault("TZ", "UTC")
         # Without this a desk without sound would start a sound server by itself.
         self.write("pulse-client.conf", "autospawn = no\n")
 
@@ -314,10 +315,8 @@ class Clock:
         self.set(moment)
 
     def set(self, moment):
-        """Makes it `moment` (a datetime of the desk's zone) now; from there the clock runs on."""
-        os.environ.setdefault("TZ", "UTC")
-        time.tzset()
-        offset = moment.timestamp() - time.time()
+        """Makes it `moment` (a datetime; the desk lies in UTC) now; from there the clock runs on."""
+        offset = moment.replace(tzinfo=timezone.utc).timestamp() - time.time()
         beside = self._file + ".new"
         with open(beside, "w", encoding="ascii") as text:
             text.write(f"{offset:+.3f}\n")

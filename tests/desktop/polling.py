@@ -27,6 +27,18 @@ def wait_until(condition, what, seconds=DEFAULT_SECONDS):
         time.sleep(INTERVAL)
 
 
+def wait_rest(value, what, seconds=DEFAULT_SECONDS, polls=15):
+    """Returns once `value` has been the same for a number of polls in a row; it is then that value."""
+    seen = []
+
+    def resting():
+        seen.append(value())
+        return len(seen) >= polls and all(one == seen[-1] for one in seen[-polls:])
+
+    wait_until(resting, what, seconds)
+    return seen[-1]
+
+
 def holds_for(condition, what, seconds):
     """Fails with `what` as soon as `condition` is false within the next `seconds`.
 

@@ -129,7 +129,7 @@ class AlertActionsTest(DesktopCase):
         self.user.click_control(self.alert, names.REMIND_LATER)
         box = self.user.access.message_box(names.TOO_EARLY)
         self.user.click_control(box, names.OK)
-        wait_until(lambda: not box.has("showing"), "the message closes")
+        wait_until(lambda: box not in self.user.access.windows(), "the message closes")
         self.assertEqual(self.store.tasks(), before)
         self.assertEqual(self.user.row_names(self.alert), ["First", "Second"])
         self.assertEqual(self.user.grid(self.alert).selected_rows(), [0])

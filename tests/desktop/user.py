@@ -3,7 +3,7 @@ from gi.repository import GLib
 
 import names
 from access import Access
-from polling import wait_until
+from polling import wait_rest, wait_until
 from xinput import RIGHT
 
 
@@ -63,7 +63,11 @@ class User:
     # Mouse and keyboard -----------------------------------------------------------------------------------
 
     def click(self, node):
-        self.desk.input.click(*node.center())
+        self.desk.input.click(*self.place_of(node))
+
+    def place_of(self, node):
+        """The middle of a control, once its window has come to rest."""
+        return wait_rest(node.center, f"{node!r} rests", polls=5)
 
     def click_control(self, window, control):
         self.click(window.find(*control))
@@ -101,18 +105,21 @@ class User:
         x, y, _, height = picker.place()
         self.desk.input.click(x + 12, y + height // 2)
         wait_until(lambda: picker.has("focused"), f"{picker!r} has the focus")
-        shown_hour, shown_minute = (int(part) for part in picker.text.split(":"))
         self.desk.input.key("Home")
-        self._step(hour - shown_hour)
-        self.desk.input.key("Right")
-        self.desk.input.key("Right")
-        self.desk.input.key("Right")
-        self._step(minute - shown_minute)
+        self._step(picker, 0, hour)
+        for _ in range(3):
+            self.desk.input.key("Right")
+        self._step(picker, 1, minute)
         wait_until(lambda: picker.text == f"{hour:02}:{minute:02}", f"{picker!r} shows {hour:02}:{minute:02}")
 
-    def _step(self, difference):
-        for _ in range(abs(difference)):
-            self.desk.input.key("Up" if difference > 0 else "Down")
+    def _step(self, picker, section, wanted):
+        """One key at a time, each seen to work: a picker may count keys that come at once as a held key."""
+        def shown():
+            return int(picker.text.split(":")[section])
+        while shown() != wanted:
+            before = shown()
+            self.desk.input.key("Up" if before < wanted else "Down")
+            wait_until(lambda value=before: shown() != value, f"{picker!r} follows the key")
 
     # Grids ------------------------------------------------------------------------------------------------
 
@@ -138,7 +145,7 @@ class User:
         grid = self.grid(window)
         column = next(index for index, header in enumerate(grid.headers()) if header == "Name")
         cell = grid.cell(self.row_names(window).index(name), column)
-        return cell.center()
+        return self.place_of(cell)
 
     def select_row(self, name, window=None):
         self.desk.input.click(*self.row_place(name, window))
@@ -150,13 +157,9 @@ class User:
 
     def tray_icon(self):
         icons = wait_until(self.desk.screen.tray_icons, "the tray icon is docked")
-        # The notification area moves and sizes an icon after it has docked.
-        settled = []
-
-        def same_place_twice():
-            settled.append(icons[0].place())
-            return len(settled) > 5 and len(set(settled[-5:])) == 1
-        wait_until(same_place_twice, "the tray icon rests")
+        # The area moves an icon after it has docked, and a menu that opens while the focus is still on its way from
+        # one window to another is closed again: no user is that fast.
+        wait_rest(lambda: (icons[0].place(), self.desk.screen.active()), "icon and focus rest")
         return icons[0]
 
     def double_click_tray(self):
