@@ -4,7 +4,8 @@
 
 #include <QCoreApplication>
 
-namespace {
+namespace
+{
 
 QString word(const char* text)
 {
@@ -12,7 +13,7 @@ QString word(const char* text)
     return QCoreApplication::translate("clsGuiLoader", text);
 }
 
-}
+} // namespace
 
 int statusPicture(qint32 status)
 {

@@ -2,7 +2,8 @@
 
 #include <QString>
 
-// Pictures of the main image list that stand for a task's codes, as indexes counted from 0, and the words for them.
+// Pictures of the main image list that stand for a task's codes, as indexes counted from 0, and the words for
+// them.
 
 inline constexpr int NoPicture = -1;
 inline constexpr int ReminderPicture = 12;

@@ -8,7 +8,9 @@
 
 void TestCase::init()
 {
-    QTest::failOnWarning(QRegularExpression(QStringLiteral(".?")));
+    // The offscreen platform has no stacking order to change and says so.
+    QTest::failOnWarning(
+        QRegularExpression(QStringLiteral("^(?!This plugin does not support (raise|lower)\\(\\)).?")));
 }
 
 int runTest(QObject& test, int argc, char** argv)

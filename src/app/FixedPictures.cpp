@@ -1,0 +1,42 @@
+#include "app/FixedPictures.h"
+
+#include "platform/ImageList.h"
+
+#include <array>
+
+namespace
+{
+
+// One name a picture, in the order of the list.
+constexpr std::array pictureNames{"00-home", "01-work", "02-shopping", "03-calendar", "04-phone", "05-mail",
+    "06-finance", "07-health", "08-travel", "09-study", "10-family", "11-ideas", "12-reminder",
+    "13-status-waiting", "14-status-deferred", "15-status-completed", "16-status-not-started",
+    "17-status-in-progress", "18-priority-normal", "19-priority-high", "20-priority-low"};
+
+template <std::size_t Count>
+QIcon iconOf(const QString& folder, const char* name, const std::array<int, Count>& sizes)
+{
+    QIcon icon;
+    for (const int size : sizes) {
+        // With its size given, a picture is read only when it is painted.
+        icon.addFile(
+            QStringLiteral(":/%1/%2-%3.png").arg(folder, QLatin1String(name)).arg(size), QSize(size, size));
+    }
+    return icon;
+}
+
+} // namespace
+
+void appendFixedPictures(ImageList& images)
+{
+    constexpr std::array sizes{16, 24, 32, 48, 64, 96};
+    for (const char* name : pictureNames) {
+        images.append(iconOf(QStringLiteral("image-list"), name, sizes));
+    }
+}
+
+QIcon programIcon()
+{
+    constexpr std::array sizes{16, 22, 24, 32, 48, 64, 128, 256};
+    return iconOf(QStringLiteral("program"), "ambertask", sizes);
+}

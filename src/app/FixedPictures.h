@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QIcon>
+
+class ImageList;
+
+/// Appends the fixed pictures of the main image list in their order: twelve categories, the reminder bell,
+/// five statuses and three priorities (indexes 0 to 20).
+void appendFixedPictures(ImageList& images);
+
+/// The program's own icon, in all sizes.
+QIcon programIcon();

@@ -1,0 +1,107 @@
+#pragma once
+
+#include "app/frmMain.h"
+#include "platform/ImageList.h"
+#include "platform/WaveBackend.h"
+#include "reminders/AlertsHost.h"
+#include "settings/SettingsPageHost.h"
+#include "settings/SettingsRecord.h"
+#include "tasks/TaskDetailsHost.h"
+#include "ui/CheckerTimer.h"
+#include "ui/FormServices.h"
+
+#include <QObject>
+#include <memory>
+
+class Registry;
+class frmAlerts;
+class frmCategoryDetails;
+class frmTaskDetails;
+
+/// The world around the program. Nothing is owned; all of it outlives the program.
+struct Machine {
+    const DatabaseEngine& engine;
+    MessageBoxes& messages;
+    FileDialogs& fileDialogs;
+    ErrorReport& errors;
+    Shell& shell;
+    Registry& registry;
+    WaveBackendFactory waveBackend;
+};
+
+/// The program: its one instance of each form and of what they share, and how they are wired. Interface
+/// thread only.
+class Program final : public QObject,
+                      private MainWindowHost,
+                      private TaskDetailsHost,
+                      private AlertsHost,
+                      private SettingsPageHost,
+                      private CheckerTimer
+{
+    Q_OBJECT
+
+public:
+    explicit Program(const Machine& machine);
+    ~Program() override;
+
+    /// Reads the settings, applies the skin and loads the main window; registers the program with the session
+    /// when `noteFirstStart`, asked once the settings are read, answers true. Throws RuntimeError.
+    void start(const std::function<bool()>& noteFirstStart);
+    /// Removes the tray icon and asks to leave the event loop; open message boxes are cancelled by that.
+    void end();
+    /// Unloads the forms in their order. After `end()` and outside of every handler.
+    void unload();
+
+    /// Loads, without showing, the task dialog, the category dialog and the alert window, in this order;
+    /// nothing for those that are loaded.
+    void loadDialogs();
+
+    frmMain& mainWindow() { return *m_main; }
+    frmTaskDetails& taskDetails();
+    frmCategoryDetails& categoryDetails();
+    frmAlerts& alerts();
+
+signals:
+    void endRequested();
+
+private:
+    void readSettings();
+    void registerWithSession();
+    void loadMainWindow();
+
+    void addTask(qint16 category);
+    void editTask(qint16 id);
+    void onTaskStored();
+    void onTaskSaved();
+    void onTaskCancelled();
+    void openCategoryDialog();
+    void refreshCategoryLists();
+    void focusCategoryList();
+    void reloadRestoredData();
+    void reportUnreadableFiles();
+
+    // MainWindowHost
+    bool isTaskDialogVisible() const override;
+    void hideDialogs() override;
+    // TaskDetailsHost
+    bool isAlertVisible() const override;
+    int selectedCategoryIndex() const override;
+    // AlertsHost
+    void openTask(qint16 id) override;
+    // SettingsPageHost
+    void setTrayCaption(const QString& caption) override;
+    void placeMainWindow(bool topmost) override;
+    void setGridLines(bool shown) override;
+    void LoadTasks() override;
+    // CheckerTimer
+    void setCheckerEnabled(bool enabled) override;
+
+    Machine m_machine;
+    ImageList m_images;
+    SettingsRecord m_settings;
+    FormServices m_services;
+    std::unique_ptr<frmMain> m_main;
+    std::unique_ptr<frmTaskDetails> m_taskDetails;
+    std::unique_ptr<frmCategoryDetails> m_categoryDetails;
+    std::unique_ptr<frmAlerts> m_alerts;
+};

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "app/TaskFilter.h"
+#include "app/TaskListModel.h"
+#include "ui/FormServices.h"
+
+#include <QWidget>
+#include <functional>
+
+class GridView;
+class QBoxLayout;
+class QComboBox;
+class QDateEdit;
+class QLabel;
+class QPushButton;
+class QRadioButton;
+
+/// The page "Tasks": the filters, the list and its buttons. Every filter rebuilds the list as soon as it
+/// changes.
+class TasksPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// `shownColumns` answers which optional columns the settings page has checked.
+    TasksPage(
+        const FormServices& services, std::function<TaskColumns()> shownColumns, QWidget* parent = nullptr);
+
+    /// Fills the three filter lists and selects their first entries.
+    void fillFilters();
+    /// Fills the category list anew; the selected category stays selected while it exists.
+    void reloadCategories();
+    /// Sets both due-date pickers to today, selects the specific dates or all dates and rebuilds the list.
+    void startWith(bool todayOnly);
+    /// Rebuilds the list from the filters. Throws DatabaseError, and then the list is as it was.
+    void LoadTasks();
+
+    void setGridLines(bool shown);
+    /// Focuses the list when it is visible: its window is shown, whichever page is in front.
+    void focusGrid();
+    GridView* grid() const { return m_grid; }
+    TaskFilter filter() const;
+    /// The index of the selected entry of the category filter.
+    int selectedCategoryIndex() const;
+
+signals:
+    /// "Add" was pressed and there is a category to add to; `category` is the one that the list shows, or
+    /// All.
+    void addRequested(qint16 category);
+    void editRequested(qint16 id);
+
+private:
+    void btnTaskAdd_Click();
+    void btnTaskEdit_Click();
+    void btnTaskDelete_Click();
+    void opnAllDate_Click(bool selected);
+    void opnSpecificDate_Click(bool selected);
+    void opnTaskType_Click(bool selected);
+    void filterList_Click();
+
+    QWidget* makeFilterFrame();
+    QWidget* makeDueDateFrame();
+    QWidget* makeTaskTypeFrame();
+    QBoxLayout* makeButtonRow();
+    void setDatesEnabled(bool enabled);
+
+    const FormServices& m_services;
+    std::function<TaskColumns()> m_shownColumns;
+    TaskListModel* m_model;
+    GridView* m_grid;
+    QComboBox* m_categories;
+    QComboBox* m_status;
+    QComboBox* m_sort;
+    QRadioButton* m_allDate;
+    QRadioButton* m_specificDate;
+    QLabel* m_dateFromLabel;
+    QLabel* m_dateToLabel;
+    QDateEdit* m_dateFrom;
+    QDateEdit* m_dateTo;
+    QRadioButton* m_allTasks;
+    QRadioButton* m_activeTasks;
+    QRadioButton* m_expiredTasks;
+};

@@ -1,0 +1,273 @@
+#include "app/frmMain.h"
+
+#include "app/FixedPictures.h"
+#include "app/TasksPage.h"
+#include "categories/CategoriesPage.h"
+#include "platform/ErrorReport.h"
+#include "platform/Shell.h"
+#include "platform/WindowPlacement.h"
+#include "settings/MaintenancePage.h"
+#include "settings/SettingsPage.h"
+#include "settings/SettingsRecord.h"
+#include "ui/LinkLabel.h"
+
+#include <QAction>
+#include <QBoxLayout>
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QMenu>
+#include <QTabWidget>
+
+namespace
+{
+
+enum Page { TasksIndex, CategoriesIndex, SettingsIndex, MaintenanceIndex };
+
+constexpr int BalloonMilliseconds = 2000;
+constexpr QSize FirstSize(860, 620);
+
+} // namespace
+
+frmMain::frmMain(
+    const FormServices& services, const SettingsRecord& settings, MainWindowHost& host, MainWindowPages pages)
+    : m_services(services), m_settings(settings), m_host(host), m_pages(pages), m_tabs(new QTabWidget)
+{
+    setObjectName(QStringLiteral("frmMain"));
+    setWindowTitle(QStringLiteral("Ambertask"));
+    setWindowIcon(programIcon());
+    m_tabs->setObjectName(QStringLiteral("tabMain"));
+    m_tabs->addTab(m_pages.tasks, tr("Tasks"));
+    m_tabs->addTab(m_pages.categories, tr("Categories"));
+    m_tabs->addTab(m_pages.settings, tr("Settings"));
+    m_tabs->addTab(m_pages.maintenance, tr("Maintenance"));
+    m_trayMenu = makeTrayMenu();
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(makeHeader());
+    layout->addWidget(m_tabs, 1);
+    resize(FirstSize);
+    // Only now: adding pages switches to the first one.
+    connectGuarded(m_tabs, &QTabWidget::currentChanged, this, &frmMain::tabMain_Switch, services.errors);
+    connectGuarded(&m_trayIcon, &TrayIcon::activated, this, &frmMain::toggle, services.errors);
+}
+
+QWidget* frmMain::makeHeader()
+{
+    auto* header = new QWidget;
+    header->setObjectName(QStringLiteral("framHeader"));
+    auto* layout = new QHBoxLayout(header);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto* picture = new QLabel;
+    picture->setPixmap(programIcon().pixmap(32, 32));
+    layout->addWidget(picture);
+    const auto addLink = [&](const char* name, const QString& text, bool bold) {
+        auto* label = new LinkLabel(text);
+        label->setObjectName(QLatin1String(name));
+        QFont font = label->font();
+        font.setPointSizeF(font.pointSizeF() * 1.7);
+        font.setBold(bold);
+        label->setFont(font);
+        connectGuarded(label, &LinkLabel::clicked, this, &frmMain::header_Click, m_services.errors);
+        layout->addWidget(label);
+    };
+    addLink("lblAmberHeader", QStringLiteral("Amber"), true);
+    addLink("lblOrganizerHeader", QStringLiteral("Organizer"), false);
+    layout->addStretch();
+    auto* version = new QLabel(QStringLiteral("Version 1.1"));
+    version->setObjectName(QStringLiteral("lblVersionHeader"));
+    layout->addWidget(version, 0, Qt::AlignBottom);
+    // The way to the tray menu on a desktop that has no notification area.
+    header->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(header, &QWidget::customContextMenuRequested, this, [this, header](const QPoint& position) {
+        if (!TrayIcon::isAreaAvailable()) {
+            m_trayMenu->popup(header->mapToGlobal(position));
+        }
+    });
+    return header;
+}
+
+QMenu* frmMain::makeTrayMenu()
+{
+    auto* menu = new QMenu(tr("Tray"), this);
+    menu->setObjectName(QStringLiteral("mnuTray"));
+    const auto add = [menu](const char* name, const QString& caption) {
+        QAction* action = menu->addAction(caption);
+        action->setObjectName(QLatin1String(name));
+        return action;
+    };
+    ErrorReport& errors = m_services.errors;
+    m_mnuShow = add("mnuShow", tr("Show"));
+    connectGuarded(m_mnuShow, &QAction::triggered, this, &frmMain::toggle, errors);
+    // The about box and the help are not there yet.
+    add("mnuAbout", tr("About"))->setEnabled(false);
+    add("mnuHelp", tr("Help"))->setEnabled(false);
+    connectGuarded(add("mnuFeedBack", tr("Send feedback")), &QAction::triggered, this,
+        &frmMain::mnuFeedBack_Click, errors);
+    connect(add("mnuExit", tr("Exit")), &QAction::triggered, this, &frmMain::exitRequested);
+    return menu;
+}
+
+void frmMain::Form_Load()
+{
+    LoadCategories();
+    m_pages.tasks->fillFilters();
+    m_pages.settings->LoadSkinsList();
+    m_pages.settings->LoadSettingsPage();
+    ApplyChanges();
+    LoadTasks();
+    m_pages.maintenance->prepareFilters();
+    m_tabs->setCurrentIndex(TasksIndex);
+    m_loaded = true;
+    m_trayIcon.add(windowIcon(), QStringLiteral("Ambertaks"), m_trayMenu);
+    if (!m_settings.minimize_on_start) {
+        if (m_settings.always_on_top) {
+            makeTopmost(this);
+        }
+        show();
+    } else {
+        stayReachable();
+    }
+}
+
+void frmMain::ApplyChanges()
+{
+    m_pages.settings->applySkin();
+    place(m_settings.always_on_top);
+    m_pages.tasks->startWith(m_pages.settings->showTodayTasksChecked());
+    m_pages.tasks->setGridLines(m_pages.settings->showGridChecked());
+}
+
+void frmMain::LoadTasks()
+{
+    m_pages.tasks->LoadTasks();
+}
+
+void frmMain::LoadCategories()
+{
+    m_pages.categories->LoadCategories();
+}
+
+void frmMain::place(bool topmost)
+{
+    if (topmost) {
+        makeTopmost(this);
+    } else {
+        leaveTopmost(this);
+    }
+}
+
+bool frmMain::isShown() const
+{
+    return isVisible() && !isMinimized();
+}
+
+void frmMain::toggle()
+{
+    if (isShown()) {
+        hideWindow();
+        m_host.hideDialogs();
+    } else if (!m_host.isTaskDialogVisible()) {
+        showWindow();
+    }
+}
+
+void frmMain::showWindow()
+{
+    showOwned(this, nullptr);
+}
+
+void frmMain::hideWindow()
+{
+    if (TrayIcon::isAreaAvailable()) {
+        hide();
+    } else {
+        showMinimized();
+    }
+}
+
+void frmMain::stayReachable()
+{
+    if (!isVisible() && !TrayIcon::isAreaAvailable()) {
+        showMinimized();
+    }
+}
+
+void frmMain::setTrayCaption(const QString& caption)
+{
+    if (!m_loaded) {
+        m_mnuShow->setText(caption);
+    }
+}
+
+void frmMain::syncTrayCaption()
+{
+    if (m_loaded) {
+        m_mnuShow->setText(isShown() ? tr("Hide") : tr("Show"));
+    }
+}
+
+bool frmMain::event(QEvent* event)
+{
+    if (event->type() == QEvent::WindowActivate && m_loaded) {
+        emit activated();
+    }
+    return QWidget::event(event);
+}
+
+void frmMain::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange) {
+        syncTrayCaption();
+    }
+}
+
+void frmMain::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    syncTrayCaption();
+}
+
+void frmMain::hideEvent(QHideEvent* event)
+{
+    QWidget::hideEvent(event);
+    syncTrayCaption();
+}
+
+void frmMain::closeEvent(QCloseEvent* event)
+{
+    if (m_ending || qGuiApp->isSavingSession()) {
+        event->accept();
+        return;
+    }
+    event->ignore();
+    hideWindow();
+    if (m_pages.settings->showBallonChecked()) {
+        m_trayIcon.showBalloon(
+            QStringLiteral("Ambertask"), tr("Ambertaks is still running.."), BalloonMilliseconds);
+    }
+}
+
+void frmMain::tabMain_Switch(int page)
+{
+    if (page == CategoriesIndex) {
+        m_pages.categories->pageOpened();
+    } else if (page == SettingsIndex) {
+        m_pages.settings->LoadSettingsPage();
+    }
+    // Whichever page is in front, the question is whether the task grid is visible.
+    if (page == TasksIndex && isVisible()) {
+        m_pages.tasks->focusGrid();
+    } else if (page == CategoriesIndex && isVisible()) {
+        m_pages.categories->focusList();
+    }
+}
+
+void frmMain::mnuFeedBack_Click()
+{
+    m_services.shell.openVendorPage(QStringLiteral("/support.htm?referer=p"));
+}
+
+void frmMain::header_Click()
+{
+    m_services.shell.openVendorPage(QStringLiteral("/index.htm?referer=p"));
+}

@@ -1,0 +1,110 @@
+#pragma once
+
+#include "app/TaskListModel.h"
+#include "platform/TrayIcon.h"
+#include "ui/FormServices.h"
+
+#include <QWidget>
+
+class CategoriesPage;
+class MaintenancePage;
+class QAction;
+class QMenu;
+class QTabWidget;
+class SettingsPage;
+class TasksPage;
+struct SettingsRecord;
+
+/// What the main window asks of the rest of the program.
+class MainWindowHost
+{
+public:
+    MainWindowHost() = default;
+    virtual ~MainWindowHost() = default;
+    MainWindowHost(const MainWindowHost&) = delete;
+    MainWindowHost& operator=(const MainWindowHost&) = delete;
+
+    virtual bool isTaskDialogVisible() const = 0;
+    /// Makes the task dialog and the category dialog invisible.
+    virtual void hideDialogs() = 0;
+};
+
+/// The pages of the main window, made by whoever puts the program together; the main window takes ownership.
+struct MainWindowPages {
+    TasksPage* tasks = nullptr;
+    CategoriesPage* categories = nullptr;
+    SettingsPage* settings = nullptr;
+    MaintenancePage* maintenance = nullptr;
+};
+
+/// The main window: header, four pages, tray icon and tray menu. It lives until the program ends; its close
+/// box only hides it (where the desktop has no notification area, it minimizes).
+class frmMain : public QWidget
+{
+    Q_OBJECT
+
+public:
+    frmMain(const FormServices& services, const SettingsRecord& settings, MainWindowHost& host,
+        MainWindowPages pages);
+
+    /// Fills the pages, applies the settings, puts the tray icon in place and shows the window unless it is
+    /// to start hidden. Throws DatabaseError.
+    void Form_Load();
+    /// The settings take effect on the window.
+    void ApplyChanges();
+    void LoadTasks();
+    void LoadCategories();
+    /// The three category lists and the task list after a change of categories.
+    void refresh() { LoadTasks(); }
+
+    /// Whether the window is on the screen; minimized counts as hidden.
+    bool isShown() const;
+    /// Shows the window, or hides it together with the dialogs. Nothing while the task dialog is open over a
+    /// hidden window.
+    void toggle();
+    /// Topmost as the setting says.
+    void place(bool topmost);
+    /// Only while the window loads; afterwards the caption follows the window alone.
+    void setTrayCaption(const QString& caption);
+    void removeTrayIcon() { m_trayIcon.remove(); }
+    /// From now on a close request is let through.
+    void setEnding() { m_ending = true; }
+    /// A window that is hidden while the desktop has no notification area becomes a minimized one.
+    void stayReachable();
+
+    TasksPage* tasksPage() const { return m_pages.tasks; }
+
+signals:
+    /// The window has become the active one.
+    void activated();
+    /// "Exit" was chosen.
+    void exitRequested();
+
+protected:
+    bool event(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void tabMain_Switch(int page);
+    void mnuFeedBack_Click();
+    void header_Click();
+    void hideWindow();
+    void showWindow();
+    void syncTrayCaption();
+    QWidget* makeHeader();
+    QMenu* makeTrayMenu();
+
+    const FormServices& m_services;
+    const SettingsRecord& m_settings;
+    MainWindowHost& m_host;
+    MainWindowPages m_pages;
+    QTabWidget* m_tabs = nullptr;
+    QMenu* m_trayMenu = nullptr;
+    QAction* m_mnuShow = nullptr;
+    TrayIcon m_trayIcon;
+    bool m_loaded = false;
+    bool m_ending = false;
+};

@@ -1,0 +1,81 @@
+#include "app/modAmbertaks.h"
+
+#include "app/Application.h"
+#include "app/Program.h"
+#include "platform/Clock.h"
+#include "platform/FileDialogs.h"
+#include "platform/MMControl.h"
+#include "platform/MessageBoxes.h"
+#include "platform/ProgramFolder.h"
+#include "platform/Registry.h"
+#include "platform/ScreenErrorReport.h"
+#include "platform/Shell.h"
+#include "platform/SingleInstance.h"
+#include "platform/TerminationSignals.h"
+
+#include <QStyleFactory>
+
+namespace
+{
+
+/// The real machine around the program.
+struct RealMachine {
+    RealMachine(const QString& programFolder, ErrorReport& errorReport)
+        : engine{programFolder, &clock, nullptr}, errors(errorReport)
+    {
+    }
+
+    Machine machine() { return {engine, messages, fileDialogs, errors, shell, *registry, loadWaveBackend}; }
+
+    SystemClock clock;
+    DatabaseEngine engine;
+    ScreenMessageBoxes messages;
+    ScreenFileDialogs fileDialogs;
+    DesktopShell shell;
+    std::unique_ptr<Registry> registry = makeSystemRegistry();
+    ErrorReport& errors;
+};
+
+int runInstance(Application& application, const QString& programFolder)
+{
+    Program* running = nullptr;
+    ScreenErrorReport errors([&running] { running->end(); });
+    RealMachine real(programFolder, errors);
+    Program program(real.machine());
+    running = &program;
+
+    const TerminationSignals terminationSignals;
+    QObject::connect(&terminationSignals, &TerminationSignals::terminationRequested, &program, &Program::end);
+    QObject::connect(&application, &Application::endRequested, &program, &Program::end);
+    QObject::connect(&application, &Application::handlerFailed, &program,
+        [&errors](const QString& text) { errors.report(text); });
+    QObject::connect(&program, &Program::endRequested, &application, [] { QCoreApplication::exit(0); });
+
+    try {
+        program.start(noteFirstStart);
+    } catch (const RuntimeError& error) {
+        ScreenErrorReport::reportFailedStart(error.text());
+        return 1;
+    }
+    const int status = QCoreApplication::exec();
+    program.unload();
+    return status;
+}
+
+} // namespace
+
+int runAmbertask(int argc, char** argv)
+{
+    // Before anything else exists: a second copy is to leave without a sign.
+    const QString programFolder = findProgramFolder();
+    const SingleInstance guard(programFolder);
+    if (guard.otherCopyRuns()) {
+        return 0;
+    }
+    Application application(argc, argv);
+    QCoreApplication::setApplicationName(QLatin1String(ProductName));
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    // The program ends by "Exit" alone.
+    QApplication::setQuitOnLastWindowClosed(false);
+    return runInstance(application, programFolder);
+}

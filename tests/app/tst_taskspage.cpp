@@ -1,0 +1,439 @@
+#include "app/TasksPage.h"
+#include "platform/GridView.h"
+#include "support/TestMain.h"
+#include "support/TestServices.h"
+
+#include <QComboBox>
+#include <QDateEdit>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <cmath>
+#include <memory>
+
+using namespace std::chrono_literals;
+
+namespace
+{
+
+const QString bareJoin =
+    QStringLiteral("select * from tasks inner join categories on tasks.cat_id=categories.cat_id");
+
+}
+
+/// The page in a window of its own, over a data file that holds the categories "Home" and "Office".
+class TasksPageTest : public TestCase
+{
+    Q_OBJECT
+
+private:
+    struct Fixture {
+        Fixture() : page(services.services, [this] { return columns; })
+        {
+            services.database.removeAllCategories();
+            home = services.database.addCategory(QStringLiteral("Home"), 0);
+            office = services.database.addCategory(QStringLiteral("Office"), 1);
+            page.resize(900, 600);
+        }
+        void load()
+        {
+            page.fillFilters();
+            page.startWith(false);
+            page.show();
+            QVERIFY(QTest::qWaitForWindowExposed(&page));
+            services.database.statements().take();
+        }
+        template <typename Control> Control* control(const char* name)
+        {
+            return page.findChild<Control*>(QLatin1String(name));
+        }
+        void press(const char* name) { QTest::mouseClick(control<QPushButton>(name), Qt::LeftButton); }
+        void select(const char* name) { control<QRadioButton>(name)->click(); }
+        void choose(const char* name, const QString& text)
+        {
+            auto* combo = control<QComboBox>(name);
+            combo->setCurrentText(text);
+            emit combo->activated(combo->currentIndex());
+        }
+        QStringList names()
+        {
+            QStringList names;
+            for (int row = 0; row < page.grid()->model()->rowCount(); ++row) {
+                names.append(page.grid()->model()->index(row, 1).data().toString());
+            }
+            return names;
+        }
+        QStringList keys()
+        {
+            QStringList keys;
+            for (int i = 0; i < page.grid()->model()->columnCount(); ++i) {
+                keys.append(page.grid()->model()->headerData(i, Qt::Horizontal, Qt::UserRole).toString());
+            }
+            return keys;
+        }
+        QStringList headers()
+        {
+            QStringList headers;
+            for (int i = 0; i < page.grid()->model()->columnCount(); ++i) {
+                headers.append(
+                    page.grid()->model()->headerData(i, Qt::Horizontal, Qt::DisplayRole).toString());
+            }
+            return headers;
+        }
+        bool hasIcon(int row, int column)
+        {
+            return !page.grid()->model()->index(row, column).data(Qt::DecorationRole).value<QIcon>().isNull();
+        }
+
+        TestServices services;
+        TaskColumns columns;
+        TasksPage page;
+        qint16 home = 0;
+        qint16 office = 0;
+    };
+
+private slots:
+    void aTaskShowsItsNameDueDateAndPictures()
+    {
+        Fixture f;
+        aTask(f.services.database)
+            .named(QStringLiteral("Water the plants"))
+            .in(f.home)
+            .dueAt(makeMoment(std::chrono::year(2026) / 3 / 4, 9h + 5min))
+            .withPeriority(TaskPeriority::High)
+            .withStatus(TaskStatus::InProgress)
+            .remindingAt(makeMoment(std::chrono::year(2026) / 3 / 4, 9h))
+            .add();
+        f.load();
+        const QAbstractItemModel* model = f.page.grid()->model();
+        QCOMPARE(f.names(), QStringList{QStringLiteral("Water the plants")});
+        QCOMPARE(model->index(0, 3).data().toString(), QStringLiteral("3/4/2026 9:05:00 AM"));
+        const auto iconKey = [&](int column) {
+            return model->index(0, column).data(Qt::DecorationRole).value<QIcon>().cacheKey();
+        };
+        QCOMPARE(iconKey(1), f.services.images.icon(0).cacheKey());
+        QCOMPARE(iconKey(2), f.services.images.icon(17).cacheKey());
+        QCOMPARE(iconKey(4), f.services.images.icon(19).cacheKey());
+        QCOMPARE(iconKey(5), f.services.images.icon(12).cacheKey());
+        QCOMPARE(model->index(0, 5).data().toString(), QString());
+    }
+
+    void theColumnsCarryTheirKeysHeadersAndWidths()
+    {
+        Fixture f;
+        f.load();
+        QCOMPARE(f.keys(),
+            QStringList({QStringLiteral("0id"), QStringLiteral("0name"), QStringLiteral("0status"),
+                QStringLiteral("0due date"), QStringLiteral("0periority"), QStringLiteral("0reminder")}));
+        QCOMPARE(f.headers(),
+            QStringList({QStringLiteral("id"), QStringLiteral("Name"), QStringLiteral("Status"),
+                QStringLiteral("Due Date"), QStringLiteral("periority"), QStringLiteral("reminder")}));
+        const GridView* grid = f.page.grid();
+        QVERIFY(grid->isColumnHidden(0));
+        const QList<int> divisors{28, 300, 62, 180, 290};
+        for (int i = 0; i < divisors.size(); ++i) {
+            QCOMPARE(
+                grid->columnWidth(i + 1), static_cast<int>(std::lround(15.0 * grid->width() / divisors[i])));
+        }
+    }
+
+    void uncheckingTaskStatusRemovesItsColumnAtTheNextFilterChange()
+    {
+        Fixture f;
+        f.load();
+        f.columns.status = false;
+        QVERIFY(f.keys().contains(QStringLiteral("0status")));
+        f.choose("cmbSort", QStringLiteral("Name"));
+        QCOMPARE(f.keys(),
+            QStringList({QStringLiteral("0id"), QStringLiteral("0name"), QStringLiteral("0due date"),
+                QStringLiteral("0periority"), QStringLiteral("0reminder")}));
+    }
+
+    void addingWithoutAnyCategoryIsRefused()
+    {
+        Fixture f;
+        f.services.database.removeAllCategories();
+        f.load();
+        const QSignalSpy added(&f.page, &TasksPage::addRequested);
+        f.services.dialogs.expectTell(MessageBoxes::Icon::Information,
+            QStringLiteral("Please enter categories in the categories section first."));
+        f.press("btnTaskAdd");
+        QVERIFY(f.services.dialogs.allUsed());
+        QCOMPARE(added.count(), 0);
+    }
+
+    void addingAsksForTheCategoryThatTheListShows()
+    {
+        Fixture f;
+        f.load();
+        const QSignalSpy added(&f.page, &TasksPage::addRequested);
+        f.press("btnTaskAdd");
+        f.choose("cmbCategories", QStringLiteral("Office"));
+        f.press("btnTaskAdd");
+        QCOMPARE(added.count(), 2);
+        QCOMPARE(added[0][0].value<qint16>(), CategoryFilter::All);
+        QCOMPARE(added[1][0].value<qint16>(), f.office);
+    }
+
+    void aFilterThatMatchesNothingLeavesHeadersAndSaysNothing()
+    {
+        Fixture f;
+        aTask(f.services.database).in(f.home).add();
+        f.load();
+        QCOMPARE(f.names().size(), 1);
+        f.choose("cmbCategories", QStringLiteral("Office"));
+        QCOMPARE(f.names().size(), 0);
+        QCOMPARE(f.headers().size(), 6);
+    }
+
+    void everyFilterAsksTheStoreForWhatItSays()
+    {
+        Fixture f;
+        f.load();
+        const QString join = bareJoin;
+        RecordedStatements& statements = f.services.database.statements();
+        f.choose("cmbCategories", QStringLiteral("Office"));
+        QCOMPARE(statements.take(),
+            QStringList{join + QStringLiteral(" where categories.cat_id= %1").arg(f.office)});
+        f.choose("cmbCategories", QStringLiteral("All"));
+        statements.take();
+        f.choose("cmbStatus", QStringLiteral("Deferred"));
+        QCOMPARE(statements.take(), QStringList{join + QStringLiteral(" where task_status = 4")});
+        f.choose("cmbStatus", QStringLiteral("All"));
+        statements.take();
+        f.choose("cmbSort", QStringLiteral("Priority"));
+        QCOMPARE(statements.take(), QStringList{join + QStringLiteral(" order by task_periority")});
+        f.choose("cmbSort", QStringLiteral("None"));
+        statements.take();
+        f.select("opnActiveTasks");
+        QCOMPARE(statements.take(), QStringList{join + QStringLiteral(" where task_due_date  >=now()")});
+        f.select("opnExpiredTasks");
+        QCOMPARE(statements.take(), QStringList{join + QStringLiteral(" where task_due_date  <now()")});
+        f.select("opnAllTasks");
+        QCOMPARE(statements.take(), QStringList{join});
+        f.select("opnSpecificDate");
+        QCOMPARE(statements.take(),
+            QStringList{join
+                + QStringLiteral(
+                    " where task_due_date >= #1/15/2026# and task_due_date <= #1/15/2026 23:59# ")});
+        f.control<QDateEdit>("dtpDueDateTo")->setDate(QDate(2026, 1, 31));
+        QCOMPARE(statements.take(),
+            QStringList{join
+                + QStringLiteral(
+                    " where task_due_date >= #1/15/2026# and task_due_date <= #1/31/2026 23:59# ")});
+    }
+
+    void switchingBackToAllDatesDisablesThePickersAndDropsTheDateFilter()
+    {
+        Fixture f;
+        f.load();
+        f.select("opnSpecificDate");
+        for (const char* name : {"lblDateFrom", "lblDateTo", "dtpDueDateFrom", "dtpDueDateTo"}) {
+            QVERIFY2(f.control<QWidget>(name)->isEnabled(), name);
+        }
+        f.services.database.statements().take();
+        f.select("opnAllDate");
+        for (const char* name : {"lblDateFrom", "lblDateTo", "dtpDueDateFrom", "dtpDueDateTo"}) {
+            QVERIFY2(!f.control<QWidget>(name)->isEnabled(), name);
+        }
+        QCOMPARE(f.services.database.statements().take(), QStringList{bareJoin});
+    }
+
+    void startingOnTodayListsOnlyTasksDueToday()
+    {
+        Fixture f;
+        const Moment today = startOfDay(f.services.database.clock().now());
+        aTask(f.services.database)
+            .named(QStringLiteral("last minute"))
+            .in(f.home)
+            .dueAt(today + 23h + 59min)
+            .add();
+        aTask(f.services.database).named(QStringLiteral("midnight")).in(f.home).dueAt(today).add();
+        aTask(f.services.database).named(QStringLiteral("tomorrow")).in(f.home).dueAt(today + 24h).add();
+        aTask(f.services.database).named(QStringLiteral("yesterday")).in(f.home).dueAt(today - 1min).add();
+        f.page.fillFilters();
+        f.page.startWith(true);
+        QVERIFY(f.control<QRadioButton>("opnSpecificDate")->isChecked());
+        QCOMPARE(f.control<QDateEdit>("dtpDueDateFrom")->date(), QDate(2026, 1, 15));
+        QCOMPARE(f.control<QDateEdit>("dtpDueDateTo")->date(), QDate(2026, 1, 15));
+        QCOMPARE(f.names(), QStringList({QStringLiteral("last minute"), QStringLiteral("midnight")}));
+    }
+
+    void aListChosenWhileTheWindowIsHiddenWaitsForTheNextReload()
+    {
+        Fixture f;
+        f.load();
+        f.page.hide();
+        f.choose("cmbStatus", QStringLiteral("Deferred"));
+        QCOMPARE(f.services.database.statements().take(), QStringList());
+    }
+
+    void deletingRemovesTheRowAtOnceAndTheOthersKeepTheirOrder()
+    {
+        Fixture f;
+        aTask(f.services.database).named(QStringLiteral("b")).in(f.home).add();
+        aTask(f.services.database).named(QStringLiteral("c")).in(f.home).add();
+        const qint32 last = aTask(f.services.database).named(QStringLiteral("d")).in(f.home).add();
+        f.load();
+        f.choose("cmbSort", QStringLiteral("Name"));
+        // A sort would now put the last one first.
+        f.services.database.sql(QStringLiteral("update tasks set task_name='a' where task_id=%1").arg(last));
+        f.services.database.statements().take();
+        f.page.grid()->selectOnly(0);
+        f.services.dialogs.expectAsk(QStringLiteral("Are you sure you want to delete this task?"), true);
+        f.press("btnTaskDelete");
+        QCOMPARE(f.names(), QStringList({QStringLiteral("c"), QStringLiteral("d")}));
+        QCOMPARE(f.services.database.statements().take().size(), 1);
+        QCOMPARE(f.services.database.sql(QStringLiteral("select count(*) from tasks")).toInt(), 2);
+        QCOMPARE(f.page.grid()->selectedRow(), 0);
+    }
+
+    void answeringNoDeletesNothing()
+    {
+        Fixture f;
+        aTask(f.services.database).in(f.home).add();
+        f.load();
+        f.page.grid()->selectOnly(0);
+        f.services.dialogs.expectAsk(QStringLiteral("Are you sure you want to delete this task?"), false);
+        f.press("btnTaskDelete");
+        QCOMPARE(f.services.database.statements().take(), QStringList());
+        QCOMPARE(f.names().size(), 1);
+    }
+
+    void aDeletionThatFailsKeepsTheRow()
+    {
+        Fixture f;
+        aTask(f.services.database).in(f.home).add();
+        f.load();
+        f.page.grid()->selectOnly(0);
+        f.services.database.sql(QStringLiteral("alter table tasks rename to elsewhere"));
+        f.services.dialogs.expectAsk(QStringLiteral("Are you sure you want to delete this task?"), true);
+        f.services.dialogs.expectError(QStringLiteral("tasks"));
+        f.press("btnTaskDelete");
+        QCOMPARE(f.names().size(), 1);
+    }
+
+    void theDeleteKeyAsksAndTheEnterKeyEdits()
+    {
+        Fixture f;
+        const qint32 id = aTask(f.services.database).in(f.home).add();
+        f.load();
+        const QSignalSpy edited(&f.page, &TasksPage::editRequested);
+        f.page.grid()->setFocus();
+        f.page.grid()->selectOnly(0);
+        QTest::keyClick(f.page.grid(), Qt::Key_Return);
+        QCOMPARE(edited.count(), 1);
+        QCOMPARE(edited[0][0].value<qint16>(), static_cast<qint16>(id));
+        f.services.dialogs.expectAsk(QStringLiteral("Are you sure you want to delete this task?"), true);
+        QTest::keyClick(f.page.grid(), Qt::Key_Delete);
+        QCOMPARE(f.names().size(), 0);
+    }
+
+    void aDoubleClickEditsTheTask()
+    {
+        Fixture f;
+        const qint32 id = aTask(f.services.database).in(f.home).add();
+        f.load();
+        const QSignalSpy edited(&f.page, &TasksPage::editRequested);
+        const QRect cell = f.page.grid()->visualRect(f.page.grid()->model()->index(0, 1));
+        QTest::mouseClick(f.page.grid()->viewport(), Qt::LeftButton, {}, cell.center());
+        QTest::mouseDClick(f.page.grid()->viewport(), Qt::LeftButton, {}, cell.center());
+        QCOMPARE(edited.count(), 1);
+        QCOMPARE(edited[0][0].value<qint16>(), static_cast<qint16>(id));
+    }
+
+    void withNoRowSelectedNothingHappens()
+    {
+        Fixture f;
+        aTask(f.services.database).in(f.home).add();
+        f.load();
+        const QSignalSpy edited(&f.page, &TasksPage::editRequested);
+        f.page.grid()->setFocus();
+        QCOMPARE(f.page.grid()->selectedRow(), -1);
+        QTest::keyClick(f.page.grid(), Qt::Key_Delete);
+        QTest::keyClick(f.page.grid(), Qt::Key_Return);
+        f.press("btnTaskEdit");
+        f.press("btnTaskDelete");
+        QCOMPARE(edited.count(), 0);
+        QCOMPARE(f.services.database.statements().take(), QStringList());
+    }
+
+    void codesOutsideTheTablesShowNoIcon()
+    {
+        Fixture f;
+        aTask(f.services.database).in(f.home).withStatus(5).withPeriority(7).add();
+        f.load();
+        QVERIFY(f.hasIcon(0, 1));
+        QVERIFY(!f.hasIcon(0, 2));
+        QVERIFY(!f.hasIcon(0, 4));
+        QVERIFY(!f.hasIcon(0, 5));
+    }
+
+    void anIdBeyondSixteenBitsIsAnErrorAndNeverAnotherTask()
+    {
+        Fixture f;
+        aTask(f.services.database).in(f.home).add();
+        f.services.database.sql(QStringLiteral("update tasks set task_id=70000"));
+        f.load();
+        const QSignalSpy edited(&f.page, &TasksPage::editRequested);
+        f.page.grid()->selectOnly(0);
+        f.services.dialogs.expectError(QStringLiteral("Overflow"));
+        f.press("btnTaskEdit");
+        QCOMPARE(edited.count(), 0);
+        f.services.dialogs.expectAsk(QStringLiteral("Are you sure you want to delete this task?"), true);
+        f.services.dialogs.expectError(QStringLiteral("70000"));
+        f.press("btnTaskDelete");
+        QCOMPARE(f.services.database.statements().take(), QStringList());
+        QCOMPARE(f.names().size(), 1);
+    }
+
+    void aStoreThatCannotBeReadLeavesTheListAsItWas()
+    {
+        Fixture f;
+        aTask(f.services.database).named(QStringLiteral("kept")).in(f.home).add();
+        f.load();
+        f.services.database.sql(QStringLiteral("alter table tasks rename to elsewhere"));
+        f.services.dialogs.expectError(QStringLiteral("tasks"));
+        f.choose("cmbSort", QStringLiteral("Name"));
+        QCOMPARE(f.names(), QStringList{QStringLiteral("kept")});
+    }
+
+    void aRebuiltListHasNoSelection()
+    {
+        Fixture f;
+        aTask(f.services.database).in(f.home).add();
+        f.load();
+        f.page.grid()->selectOnly(0);
+        f.page.LoadTasks();
+        QCOMPARE(f.page.grid()->selectedRow(), -1);
+    }
+
+    void theCategoryFilterKeepsItsCategoryWhenTheListIsFilledAnew()
+    {
+        Fixture f;
+        f.load();
+        f.choose("cmbCategories", QStringLiteral("Office"));
+        f.services.database.addCategory(QStringLiteral("Garden"));
+        f.page.reloadCategories();
+        QCOMPARE(f.control<QComboBox>("cmbCategories")->currentText(), QStringLiteral("Office"));
+        f.services.database.sql(QStringLiteral("delete from categories where cat_name='Office'"));
+        f.page.reloadCategories();
+        QCOMPARE(f.control<QComboBox>("cmbCategories")->currentText(), QStringLiteral("All"));
+    }
+
+    void textThatLooksLikeMarkupIsShownAsItIs()
+    {
+        Fixture f;
+        aTask(f.services.database).named(QStringLiteral("<b>bold</b>")).in(f.home).add();
+        f.load();
+        const QModelIndex name = f.page.grid()->model()->index(0, 1);
+        QCOMPARE(name.data().toString(), QStringLiteral("<b>bold</b>"));
+        QVERIFY(name.data(Qt::ToolTipRole).toString().contains(QStringLiteral("&lt;b&gt;bold")));
+    }
+};
+
+AMBERTASK_TEST_MAIN(TasksPageTest)
+#include "tst_taskspage.moc"
