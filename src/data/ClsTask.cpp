@@ -4,6 +4,7 @@
 #include "data/SqlText.h"
 #include "data/TaskCodes.h"
 #include "platform/RuntimeError.h"
+#include "platform/database/DatabaseError.h"
 
 namespace
 {
@@ -35,11 +36,14 @@ public:
             return;
         }
         addCondition(QLatin1String("task_due_date "));
-        // An unknown type leaves the clause unfinished: the engine is to refuse it.
         if (taskType == TaskType::Active) {
             m_text += QLatin1String(" >=now()");
         } else if (taskType == TaskType::Expired) {
             m_text += QLatin1String(" <now()");
+        } else {
+            // The engine would take the unfinished clause for a condition that every task meets.
+            throw DatabaseError(DatabaseError::Kind::Statement,
+                QStringLiteral("The statement is unfinished: %1").arg(m_text));
         }
     }
     void addDateRange(Moment fromDate, Moment toDate)

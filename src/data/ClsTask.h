@@ -52,8 +52,8 @@ public:
     void Update() const;
     /// The stored task of that id; none when there is no such row or its category is gone.
     std::optional<ClsTask> GetTaskById(qint16 Id) const;
-    /// The tasks that match, in the order of `sortBy`. `fromDate` and `toDate` count as whole days and only
-    /// when `isDateRange` is set.
+    /// The tasks that match, in the order of `sortBy`; an unknown `taskType` is an error, here and below.
+    /// `fromDate` and `toDate` count as whole days and only when `isDateRange` is set.
     std::vector<ClsTask> GetTasks(qint16 cat, qint32 status, qint32 sortBy, bool isDateRange, Moment fromDate,
         Moment toDate, qint32 taskType) const;
     /// Deletes the tasks due from `fromDate` to the end of `toDate` that match.
