@@ -161,6 +161,9 @@ void TaskDetailsControls::layOut(QWidget& form)
     grid->setRowStretch(2, 1);
     grid->setColumnStretch(1, 1);
     grid->setColumnStretch(3, 1);
+    // Room for a path, and for a few lines more than the least.
+    const QSize least = grid->minimumSize();
+    form.resize(least.width() * 5 / 4, least.height() + txtDescription->fontMetrics().lineSpacing() * 3);
 }
 
 void TaskDetailsControls::layOutReminder()

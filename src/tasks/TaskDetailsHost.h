@@ -1,6 +1,6 @@
 #pragma once
 
-/// What the task dialog asks of the main window.
+/// What the task dialog asks of the other windows.
 class TaskDetailsHost
 {
 public:
@@ -9,6 +9,7 @@ public:
     TaskDetailsHost(const TaskDetailsHost&) = delete;
     TaskDetailsHost& operator=(const TaskDetailsHost&) = delete;
 
+    virtual bool isAlertVisible() const = 0;
     /// The index selected in the main window's category filter; 0 is "All".
     virtual int selectedCategoryIndex() const = 0;
 };

@@ -219,7 +219,9 @@ void frmTaskDetails::btnOk_Click()
         return;
     }
     store(entered.toTask(m_services.engine, edited()));
-    emit taskStored();
+    if (m_host.isAlertVisible()) {
+        emit taskStored();
+    }
     hide();
     emit taskSaved();
 }

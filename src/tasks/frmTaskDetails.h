@@ -33,7 +33,8 @@ public:
     void reloadCategories();
 
 signals:
-    /// The task has been written; the dialog still shows.
+    /// The task has been written while the alert window is visible: what the alert lists may have changed.
+    /// The dialog still shows.
     void taskStored();
     /// The task has been written and the dialog is hidden.
     void taskSaved();

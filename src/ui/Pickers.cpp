@@ -6,15 +6,29 @@
 #include <QSignalBlocker>
 #include <QTimeEdit>
 
+namespace
+{
+
+/// In a right-to-left program a picker turns its format's parts around, minutes before hours: it is given the
+/// format while it reads from left to right. The text is laid out by its own script either way.
+void setFormat(QDateTimeEdit& picker, const QString& format)
+{
+    picker.setLayoutDirection(Qt::LeftToRight);
+    picker.setDisplayFormat(format);
+    picker.unsetLayoutDirection();
+}
+
+} // namespace
+
 void setUpDatePicker(QDateEdit& picker)
 {
     picker.setCalendarPopup(true);
-    picker.setDisplayFormat(shortDateFormat());
+    setFormat(picker, shortDateFormat());
 }
 
 void setUpTimePicker(QTimeEdit& picker)
 {
-    picker.setDisplayFormat(shortTimeFormat());
+    setFormat(picker, shortTimeFormat());
 }
 
 void setPickers(QDateEdit& date, QTimeEdit& time, Moment moment)
