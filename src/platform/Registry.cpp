@@ -1,5 +1,7 @@
 #include "platform/Registry.h"
 
+#include "platform/ProgramFolder.h"
+
 #include <QDir>
 #include <QFile>
 #include <QSaveFile>
@@ -9,11 +11,10 @@
 #include <windows.h>
 #endif
 
-void WriteRegString(
-    Registry& registry, quint32 hive, const QString& keyPath, const QString& valueName, const QString& valueText)
+void WriteRegString(Registry& registry, quint32 hive, const QString& keyPath, const QString& valueName,
+    const QString& valueText)
 {
-    registry.setValue(
-        hive, keyPath, valueName.toLocal8Bit(), RegistryValues::Text, valueText.toLocal8Bit());
+    registry.setValue(hive, keyPath, valueName.toLocal8Bit(), RegistryValues::Text, valueText.toLocal8Bit());
 }
 
 void DeleteRegValue(Registry& registry, quint32 hive, const QString& keyPath, const QString& valueName)
@@ -21,9 +22,26 @@ void DeleteRegValue(Registry& registry, quint32 hive, const QString& keyPath, co
     registry.deleteValue(hive, keyPath, valueName.toLocal8Bit());
 }
 
+void writeRunEntry(Registry& registry, const QString& programFolder)
+{
+    QString program = pathIn(programFolder, QLatin1String(ProductName));
+#ifdef Q_OS_WIN
+    program = QDir::toNativeSeparators(program) + QStringLiteral(".exe");
+#endif
+    WriteRegString(registry, RegistryValues::LocalMachine, QLatin1String(RunKeyPath),
+        QLatin1String(ProductName), program);
+}
+
+void deleteRunEntry(Registry& registry)
+{
+    DeleteRegValue(
+        registry, RegistryValues::LocalMachine, QLatin1String(RunKeyPath), QLatin1String(ProductName));
+}
+
 #ifdef Q_OS_WIN
 
-namespace {
+namespace
+{
 
 class WindowsRegistry final : public Registry
 {
@@ -54,7 +72,7 @@ private:
     }
 };
 
-}
+} // namespace
 
 std::unique_ptr<Registry> makeSystemRegistry()
 {
@@ -63,10 +81,11 @@ std::unique_ptr<Registry> makeSystemRegistry()
 
 #else
 
-namespace {
+namespace
+{
 
-// The Exec key of the Desktop Entry format: an argument in double quotes in which four characters are escaped, "%" is
-// doubled, and the whole is a string value in which a backslash is escaped once more.
+// The Exec key of the Desktop Entry format: an argument in double quotes in which four characters are
+// escaped, "%" is doubled, and the whole is a string value in which a backslash is escaped once more.
 QString execValue(const QString& path)
 {
     QString quoted;
@@ -137,7 +156,7 @@ private:
     }
 };
 
-}
+} // namespace
 
 std::unique_ptr<Registry> makeSystemRegistry()
 {

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "platform/RuntimeError.h"
+
+#include <QFileDevice>
+
+/// A file that could not be copied or replaced.
+class FileError : public RuntimeError
+{
+public:
+    using RuntimeError::RuntimeError;
+};
+
+/// Read and written by its owner alone.
+inline constexpr QFileDevice::Permissions PrivateFile = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
+/// Read by everyone as far as the user's mask allows it.
+inline constexpr QFileDevice::Permissions PublicFile =
+    PrivateFile | QFileDevice::ReadGroup | QFileDevice::ReadOther;
+
+// Files appear under their name complete or not at all, whenever the power fails. All functions throw
+// FileError.
+
+/// Copies the regular file `source`, byte for byte, to the new file `target`; all of it is on the disk at the
+/// return. After an error there is no `target`.
+void copyToNewFile(const QString& source, const QString& target, QFileDevice::Permissions permissions);
+/// Gives `file` the name `target`, over a regular file of that name; both lie in one file system. Where
+/// `target` is a link, the file that it points to is replaced.
+void moveOver(const QString& file, const QString& target);
+/// Copies `source` over `target`, which keeps its content unless the copy is complete.
+void replaceByCopy(const QString& source, const QString& target, QFileDevice::Permissions permissions);
+
+/// The path with links resolved, as far as the file exists.
+QString resolvedPath(const QString& path);
+/// Whether both paths lead to one existing file, by whatever links.
+bool isSameFile(const QString& left, const QString& right);

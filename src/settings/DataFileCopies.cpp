@@ -1,0 +1,129 @@
+#include "settings/DataFileCopies.h"
+
+#include "data/ClsCategory.h"
+#include "data/ClsDatabase.h"
+#include "data/ClsTask.h"
+#include "data/TaskCodes.h"
+#include "platform/FileReplace.h"
+#include "platform/ProgramFolder.h"
+#include "platform/database/DatabaseError.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <array>
+
+namespace
+{
+
+constexpr std::array Companions{"-journal", "-wal"};
+constexpr std::array ColumnQueries{
+    "select always_on_top,start_with_windows,minimize_on_start,skin,show_task_status,show_task_due_date,"
+    "show_task_periority,show_task_reminder,show_today_tasks,show_grid,show_ballon_icon from settings",
+    "select cat_id,cat_name,cat_desc,cat_icon,custom_icon,cat_icon_name from categories",
+    "select task_id,task_name,task_desc,task_status,cat_id,task_due_date,task_periority,reminder_on,"
+    "reminder_date_time,reminder_sound,reminder_file,played,dismissed from tasks"};
+
+} // namespace
+
+DataFileCopies::DataFileCopies(const DatabaseEngine& engine)
+    : m_engine(&engine), m_dataFile(pathIn(engine.programFolder, ClsDatabase(engine).FileName()))
+{
+}
+
+void DataFileCopies::backUpTo(const QString& file) const
+{
+    const QFileInfo target(resolvedPath(file));
+    for (const char* companion : Companions) {
+        if (target.absoluteFilePath() == resolvedPath(m_dataFile) + QLatin1String(companion)) {
+            throw FileError(tr("\"%1\" belongs to the data file.").arg(file));
+        }
+    }
+    if (isSameFile(file, m_dataFile)) {
+        throw FileError(tr("\"%1\" is the data file itself.").arg(file));
+    }
+    settle();
+    refuseOpenOperation(m_dataFile);
+    replaceByCopy(m_dataFile, file, PrivateFile);
+}
+
+void DataFileCopies::restoreFrom(const QString& file) const
+{
+    if (isSameFile(file, m_dataFile)) {
+        throw FileError(tr("\"%1\" is the data file itself.").arg(file));
+    }
+    refuseOpenOperation(file);
+    refuseForeignFile(file);
+    const QString place = resolvedPath(m_dataFile);
+    // Beside the data file: what has been checked is what takes its place, by a mere renaming.
+    const QTemporaryDir folder(QFileInfo(place).absolutePath() + QStringLiteral("/.restore-XXXXXX"));
+    if (!folder.isValid()) {
+        throw FileError(folder.errorString());
+    }
+    const QString checked = folder.filePath(ClsDatabase(*m_engine).FileName());
+    copyToNewFile(file, checked, PrivateFile);
+    checkIsDataFile(folder.path());
+    if (QFileInfo::exists(place)) {
+        settleIfSound();
+        replaceByCopy(place, place + QStringLiteral(".before-restore"), PrivateFile);
+    }
+    moveOver(checked, place);
+}
+
+// A process that died inside an operation has left its journal; the engine rolls it back when the file is
+// opened. Without that, the copy would be wrong data that passes every check.
+void DataFileCopies::settle() const
+{
+    Connection connection = ClsDatabase(*m_engine).Connect();
+    connection.open();
+    connection.close();
+}
+
+// A damaged data file is the best reason for a restore. What matters is that no journal is left that would be
+// rolled back into the new file.
+void DataFileCopies::settleIfSound() const
+{
+    try {
+        settle();
+    } catch (const DatabaseError&) {
+    }
+    refuseOpenOperation(m_dataFile);
+}
+
+void DataFileCopies::refuseOpenOperation(const QString& file) const
+{
+    for (const char* companion : Companions) {
+        if (QFileInfo(resolvedPath(file) + QLatin1String(companion)).size() > 0) {
+            throw FileError(tr("An operation on \"%1\" is not finished.").arg(file));
+        }
+    }
+}
+
+// Before anything is copied: the chosen file may be of any size.
+void DataFileCopies::refuseForeignFile(const QString& file) const
+{
+    constexpr QByteArrayView Head("SQLite format 3\0", 16);
+    QFile source(file);
+    if (!QFileInfo(file).isFile() || !source.open(QIODevice::ReadOnly) || source.read(Head.size()) != Head) {
+        throw FileError(tr("\"%1\" is no data file.").arg(file));
+    }
+}
+
+void DataFileCopies::checkIsDataFile(const QString& folder) const
+{
+    const DatabaseEngine engine{folder, m_engine->clock, nullptr};
+    Connection connection = ClsDatabase(engine).Connect();
+    connection.open();
+    const RecordSet verdict = connection.execute(QStringLiteral("pragma integrity_check"));
+    if (verdict.atEnd() || verdict.text(0) != QLatin1String("ok")) {
+        throw FileError(tr("The file is damaged."));
+    }
+    for (const char* query : ColumnQueries) {
+        connection.execute(QLatin1String(query));
+    }
+    connection.close();
+    // Every record has to be one that the lists can show.
+    ClsCategory(engine).GetAllCategories();
+    ClsTask(engine).GetTasks(
+        CategoryFilter::All, TaskStatus::All, TaskSort::None, false, {}, {}, TaskType::All);
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QString>
+
+struct DatabaseEngine;
+
+/// Copies of the data file: backups, and the way back from one. No connection to the data file may be open
+/// meanwhile. All operations throw RuntimeError, and then nothing has changed.
+class DataFileCopies
+{
+    Q_DECLARE_TR_FUNCTIONS(DataFileCopies)
+
+public:
+    /// `engine` outlives this object.
+    explicit DataFileCopies(const DatabaseEngine& engine);
+
+    /// Copies the data file, byte for byte, to `file`, over a file of that name. At the return the copy is on
+    /// the disk.
+    void backUpTo(const QString& file) const;
+    /// Replaces the data file by `file`, which has to be a sound data file of this program. What was replaced
+    /// stays beside it as data.dat.before-restore.
+    void restoreFrom(const QString& file) const;
+
+private:
+    void settle() const;
+    void settleIfSound() const;
+    void refuseForeignFile(const QString& file) const;
+    void refuseOpenOperation(const QString& file) const;
+    void checkIsDataFile(const QString& folder) const;
+
+    const DatabaseEngine* m_engine;
+    QString m_dataFile;
+};

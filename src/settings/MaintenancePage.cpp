@@ -1,0 +1,219 @@
+#include "settings/MaintenancePage.h"
+
+#include "data/ClsTask.h"
+#include "data/TaskCodes.h"
+#include "platform/Clock.h"
+#include "platform/ErrorReport.h"
+#include "platform/FileDialogs.h"
+#include "platform/MessageBoxes.h"
+#include "settings/DataFileCopies.h"
+#include "ui/CheckerTimer.h"
+#include "ui/Combos.h"
+#include "ui/FormServices.h"
+#include "ui/MomentTexts.h"
+#include "ui/Pickers.h"
+
+#include <QBoxLayout>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+
+/// What the controls of the bulk delete say.
+struct MaintenancePage::Criteria {
+    qint16 category;
+    qint32 status;
+    Moment from;
+    Moment to;
+    qint32 taskType;
+};
+
+namespace
+{
+
+template <typename Control> Control* named(const char* name, Control* control)
+{
+    control->setObjectName(QLatin1String(name));
+    return control;
+}
+
+QLabel* labelFor(QWidget* control, const QString& caption)
+{
+    auto* label = new QLabel(caption);
+    label->setBuddy(control);
+    return label;
+}
+
+QString backupFilter()
+{
+    return MaintenancePage::tr("Ambertaks Backup Files (*.abk)|*.abk");
+}
+
+} // namespace
+
+MaintenancePage::MaintenancePage(const FormServices& services, QWidget* parent)
+    : QWidget(parent), m_services(services), m_loader(services.engine)
+{
+    auto* page = new QVBoxLayout(this);
+    page->addWidget(makeDeleteFrame());
+    page->addWidget(makeCopyFrame());
+    page->addStretch();
+    m_btnHelp = named("btnHelpMaintenance", new QPushButton(tr("&Help")));
+    m_btnHelp->setEnabled(false);
+    page->addWidget(m_btnHelp, 0, Qt::AlignRight);
+
+    ErrorReport& errors = services.errors;
+    connectGuarded(m_btnDeleteTasks, &QPushButton::clicked, this,
+        &MaintenancePage::btnDeleteTasksMaintenance_Click, errors);
+    connectGuarded(m_btnBackup, &QPushButton::clicked, this, &MaintenancePage::btnBackup_Click, errors);
+    connectGuarded(m_btnRestore, &QPushButton::clicked, this, &MaintenancePage::btnRestore_Click, errors);
+    connect(m_btnHelp, &QPushButton::clicked, this, &MaintenancePage::helpRequested);
+}
+
+QGroupBox* MaintenancePage::makeDeleteFrame()
+{
+    m_cmbCategories = named("cmbCategoriesMaintenance", new QComboBox);
+    m_cmbStatus = named("cmbStatusMaintenance", new QComboBox);
+    for (QComboBox* combo : {m_cmbCategories, m_cmbStatus}) {
+        combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        combo->setMinimumContentsLength(22);
+    }
+    m_btnDeleteTasks = named("btnDeleteTasksMaintenance", new QPushButton(tr("&Delete")));
+
+    auto* frame = new QGroupBox(tr("Delete Tasks"));
+    auto* layout = new QGridLayout(frame);
+    layout->addWidget(labelFor(m_cmbCategories, tr("&Category")), 0, 0);
+    layout->addWidget(m_cmbCategories, 0, 1);
+    layout->addWidget(labelFor(m_cmbStatus, tr("&Status")), 1, 0);
+    layout->addWidget(m_cmbStatus, 1, 1);
+    layout->addLayout(makeTaskTypeOptions(), 0, 2, 3, 1);
+    layout->addWidget(makeDateRangeFrame(), 0, 3, 3, 1);
+    layout->addWidget(m_btnDeleteTasks, 3, 3, Qt::AlignRight);
+    layout->setHorizontalSpacing(16);
+    layout->setColumnStretch(1, 1);
+    layout->setRowStretch(2, 1);
+    return frame;
+}
+
+QBoxLayout* MaintenancePage::makeTaskTypeOptions()
+{
+    m_opnAllTasks = named("opnAllTasksMaintenance", new QRadioButton(tr("&All tasks")));
+    m_opnActiveTasks = named("opnActiveTasksMaintenance", new QRadioButton(tr("Acti&ve tasks only")));
+    m_opnExpiredTasks = named("opnExpiredTasksMaintenance", new QRadioButton(tr("&Expired tasks only")));
+    auto* layout = new QVBoxLayout;
+    layout->addWidget(m_opnAllTasks);
+    layout->addWidget(m_opnActiveTasks);
+    layout->addWidget(m_opnExpiredTasks);
+    layout->addStretch();
+    return layout;
+}
+
+QGroupBox* MaintenancePage::makeDateRangeFrame()
+{
+    m_dtpDateFrom = named("dtpDateFromMaintenance", new QDateEdit);
+    m_dtpDateTo = named("dtpDateToMaintenance", new QDateEdit);
+    setUpDatePicker(*m_dtpDateFrom);
+    setUpDatePicker(*m_dtpDateTo);
+
+    auto* frame = new QGroupBox(tr("Date Range"));
+    auto* layout = new QGridLayout(frame);
+    layout->addWidget(labelFor(m_dtpDateFrom, tr("&From")), 0, 0);
+    layout->addWidget(m_dtpDateFrom, 0, 1);
+    layout->addWidget(labelFor(m_dtpDateTo, tr("&To")), 1, 0);
+    layout->addWidget(m_dtpDateTo, 1, 1);
+    return frame;
+}
+
+QGroupBox* MaintenancePage::makeCopyFrame()
+{
+    m_btnBackup = named("btnBackup", new QPushButton(tr("&Backup")));
+    m_btnRestore = named("btnRestore", new QPushButton(tr("&Restore")));
+    auto* frame = new QGroupBox(tr("Backup and Restore"));
+    auto* layout = new QHBoxLayout(frame);
+    layout->addWidget(m_btnBackup);
+    layout->addWidget(m_btnRestore);
+    layout->addStretch();
+    return frame;
+}
+
+void MaintenancePage::prepareFilters()
+{
+    m_loader.LoadCategoriesCombo(*m_cmbCategories);
+    m_loader.LoadStatusCombo(*m_cmbStatus);
+    const QDate today = toQDate(m_services.clock.now());
+    m_dtpDateFrom->setDate(today);
+    m_dtpDateTo->setDate(today);
+    m_opnAllTasks->setChecked(true);
+}
+
+MaintenancePage::Criteria MaintenancePage::shownCriteria() const
+{
+    Criteria shown;
+    shown.from = toMoment(m_dtpDateFrom->date());
+    shown.to = toMoment(m_dtpDateTo->date());
+    shown.taskType = m_opnActiveTasks->isChecked() ? TaskType::Active
+        : m_opnAllTasks->isChecked()               ? TaskType::All
+                                                   : TaskType::Expired;
+    shown.category = narrowId(selectedNumber(*m_cmbCategories, CategoryFilter::All), tr("category id"));
+    shown.status = selectedNumber(*m_cmbStatus, TaskStatus::All);
+    return shown;
+}
+
+void MaintenancePage::btnDeleteTasksMaintenance_Click()
+{
+    const ClsTask store(m_services.engine);
+    const Criteria counted = shownCriteria();
+    const qint32 count =
+        store.GetTasksCount(counted.category, counted.status, counted.from, counted.to, counted.taskType);
+    if (count == 0) {
+        m_services.messages.tell(window(), MessageBoxes::Icon::Exclamation,
+            tr("There is no tasks according to the selected criteria!"));
+        return;
+    }
+    if (!m_services.messages.ask(window(), tr("Are you sure you want to delete %1 tasks?").arg(count))) {
+        return;
+    }
+    // The category lists may have been reloaded while the question was open.
+    const Criteria confirmed = shownCriteria();
+    store.DeleteTasks(confirmed.category, confirmed.status, confirmed.from, confirmed.to, confirmed.taskType);
+    emit tasksDeleted();
+}
+
+void MaintenancePage::btnBackup_Click()
+{
+    const CheckerPause pause(m_services.checkerTimer);
+    try {
+        FileDialogRequest request;
+        request.filter = backupFilter();
+        request.fileName =
+            QStringLiteral("Ambertaks ") + shortDate(m_services.clock.now()).replace(u'/', u'-');
+        request.promptBeforeOverwriting = true;
+        const QString file = m_services.fileDialogs.save(window(), request);
+        DataFileCopies(m_services.engine).backUpTo(file);
+    } catch (const std::exception&) {
+        // A cancelled dialog or a target that cannot be written: nothing is reported.
+    }
+}
+
+void MaintenancePage::btnRestore_Click()
+{
+    const CheckerPause pause(m_services.checkerTimer);
+    try {
+        FileDialogRequest request;
+        request.filter = backupFilter();
+        request.promptBeforeOverwriting = true;
+        const QString file = m_services.fileDialogs.open(window(), request);
+        DataFileCopies(m_services.engine).restoreFrom(file);
+        emit dataRestored();
+    } catch (const std::exception&) {
+        // A cancelled dialog or a file that is no backup: nothing has changed, and nothing is reported.
+    }
+}
+
+void MaintenancePage::setHelpEnabled(bool enabled)
+{
+    m_btnHelp->setEnabled(enabled);
+}

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "ui/clsGuiLoader.h"
+
+#include <QWidget>
+
+class QBoxLayout;
+class QComboBox;
+class QDateEdit;
+class QGroupBox;
+class QPushButton;
+class QRadioButton;
+struct FormServices;
+
+/// The page "Maintenance": bulk delete of tasks, backup and restore of the data file.
+class MaintenancePage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// `services` outlives the page.
+    explicit MaintenancePage(const FormServices& services, QWidget* parent = nullptr);
+
+    /// Fills both lists, sets both dates to today and selects all tasks. Throws DatabaseError.
+    void prepareFilters();
+    /// The category list, for reloads after a change of categories.
+    QComboBox& cmbCategoriesMaintenance() const { return *m_cmbCategories; }
+
+    /// The help button is disabled until there is a help to open.
+    void setHelpEnabled(bool enabled);
+
+signals:
+    /// The data file has been replaced. Everything shown is to be reloaded, then the settings page is to be
+    /// saved; it is over when the slots have returned. They let no exception out: what fails in them ends the
+    /// restore silently.
+    void dataRestored();
+    /// Tasks have been deleted in bulk.
+    void tasksDeleted();
+    void helpRequested();
+
+private:
+    QGroupBox* makeDeleteFrame();
+    QGroupBox* makeDateRangeFrame();
+    QGroupBox* makeCopyFrame();
+    QBoxLayout* makeTaskTypeOptions();
+
+    void btnBackup_Click();
+    void btnRestore_Click();
+    void btnDeleteTasksMaintenance_Click();
+    struct Criteria;
+    Criteria shownCriteria() const;
+
+    const FormServices& m_services;
+    clsGuiLoader m_loader;
+    QComboBox* m_cmbCategories = nullptr;
+    QComboBox* m_cmbStatus = nullptr;
+    QDateEdit* m_dtpDateFrom = nullptr;
+    QDateEdit* m_dtpDateTo = nullptr;
+    QRadioButton* m_opnAllTasks = nullptr;
+    QRadioButton* m_opnActiveTasks = nullptr;
+    QRadioButton* m_opnExpiredTasks = nullptr;
+    QPushButton* m_btnDeleteTasks = nullptr;
+    QPushButton* m_btnBackup = nullptr;
+    QPushButton* m_btnRestore = nullptr;
+    QPushButton* m_btnHelp = nullptr;
+};

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+
+/// What the settings page asks of the main window.
+class SettingsPageHost
+{
+public:
+    SettingsPageHost() = default;
+    virtual ~SettingsPageHost() = default;
+    SettingsPageHost(const SettingsPageHost&) = delete;
+    SettingsPageHost& operator=(const SettingsPageHost&) = delete;
+
+    /// The caption that the start calls for: "Show" or "Hide". Asked for every time the page is filled; it
+    /// counts only while the main window loads.
+    virtual void setTrayCaption(const QString& caption) = 0;
+    /// Makes the main window topmost; otherwise takes that back and brings it to the front of the ordinary
+    /// windows.
+    virtual void placeMainWindow(bool topmost) = 0;
+    virtual void setGridLines(bool shown) = 0;
+    /// Rebuilds the task list with the columns that the page shows as checked. May throw DatabaseError.
+    virtual void LoadTasks() = 0;
+};

@@ -1,0 +1,68 @@
+#include "settings/SettingsStore.h"
+
+#include "data/ClsDatabase.h"
+#include "data/SqlText.h"
+#include "platform/database/DatabaseError.h"
+
+namespace
+{
+
+QString insertStatement(const SettingsRecord& settings)
+{
+    return fillMarkers(
+        u"insert into settings([always_on_top],[start_with_windows],"
+        u"[minimize_on_start],[skin],[show_task_status],[show_task_due_date],[show_task_periority],"
+        u"[show_task_reminder],[show_today_tasks],[show_grid],[show_ballon_icon]) "
+        u"values(<always_on_top/>,<start_with_windows/>,"
+        u"<minimize_on_start/>,'<skin/>',<task_status/>,<task_due_date/>,<task_periority/>,<task_reminder/>,"
+        u"<show_today_tasks/>,<show_grid/>,<show_ballon_icon/>)",
+        {{u"<always_on_top/>", sqlFlag(settings.always_on_top)},
+            {u"<start_with_windows/>", sqlFlag(settings.start_with_windows)},
+            {u"<minimize_on_start/>", sqlFlag(settings.minimize_on_start)}, {u"<skin/>", settings.skin},
+            {u"<task_status/>", sqlFlag(settings.show_task_status)},
+            {u"<task_due_date/>", sqlFlag(settings.show_task_due_date)},
+            {u"<task_periority/>", sqlFlag(settings.show_task_periority)},
+            {u"<task_reminder/>", sqlFlag(settings.show_task_reminder)},
+            {u"<show_today_tasks/>", sqlFlag(settings.show_today_tasks)},
+            {u"<show_grid/>", sqlFlag(settings.show_grid)},
+            {u"<show_ballon_icon/>", sqlFlag(settings.show_ballon_icon)}});
+}
+
+} // namespace
+
+SettingsRecord SettingsStore::read() const
+{
+    Connection connection = ClsDatabase(*m_engine).Connect();
+    connection.open();
+    const RecordSet rows = connection.execute(QStringLiteral("select * from settings"));
+    if (rows.atEnd()) {
+        throw DatabaseError(DatabaseError::Kind::Conversion,
+            tr("The row of the table \"settings\" is missing in the data file."));
+    }
+    SettingsRecord settings;
+    settings.skin = rows.text(rows.field("skin"));
+    settings.always_on_top = rows.flag(rows.field("always_on_top"));
+    settings.minimize_on_start = rows.flag(rows.field("minimize_on_start"));
+    settings.show_grid = rows.flag(rows.field("show_grid"));
+    settings.show_task_due_date = rows.flag(rows.field("show_task_due_date"));
+    settings.show_task_periority = rows.flag(rows.field("show_task_periority"));
+    settings.show_task_reminder = rows.flag(rows.field("show_task_reminder"));
+    settings.show_task_status = rows.flag(rows.field("show_task_status"));
+    settings.show_today_tasks = rows.flag(rows.field("show_today_tasks"));
+    settings.show_ballon_icon = rows.flag(rows.field("show_ballon_icon"));
+    settings.start_with_windows = rows.flag(rows.field("start_with_windows"));
+    connection.close();
+    return settings;
+}
+
+void SettingsStore::save(const SettingsRecord& settings, SettingsRecord& record) const
+{
+    Connection connection = ClsDatabase(*m_engine).Connect();
+    connection.open();
+    connection.execute(QStringLiteral("delete from settings"));
+    connection.execute(insertStatement(settings));
+    // The record may say only what the disk holds.
+    connection.commit();
+    record = settings;
+    connection.close();
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "settings/SkinFile.h"
+
+/// Draws all windows of the application in the colours and shapes of a skin. One instance in a program.
+class SkinEngine
+{
+public:
+    /// Gives the application the style that draws indicators and fields in the colours of the palette.
+    SkinEngine();
+
+    /// What the skin file at `path` says of itself. Throws SkinError for a file that could not be worn.
+    static SkinInfo skinInfo(const QString& path);
+    /// Loads the skin file at `path`. Throws SkinError; then the skin loaded before stays.
+    void loadSkinFile(const QString& path);
+    /// The application's windows, present and future, wear the loaded skin. Cheap when they wear it already.
+    void applySkin() const;
+
+private:
+    SkinFile m_loaded;
+};

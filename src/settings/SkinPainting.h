@@ -1,0 +1,21 @@
+#pragma once
+
+#include <Qt>
+
+class QPainter;
+class QRect;
+class QStyleOption;
+
+// The shapes that a skin's style draws. The colours come from the option's palette; the painter is left as it
+// was.
+
+/// The rounded ground and outline of a field, with the ring when it has the focus.
+void paintField(QPainter& painter, const QRect& rect, const QStyleOption& option);
+/// The outline alone, for a frame around something that paints its own ground.
+void paintFieldFrame(QPainter& painter, const QRect& rect, const QStyleOption& option);
+/// A chevron in the middle of `rect`.
+void paintArrow(QPainter& painter, const QRect& rect, Qt::ArrowType direction, const QStyleOption& option);
+/// A box, checked, half checked or empty as the option's state says.
+void paintCheckBox(QPainter& painter, const QRect& rect, const QStyleOption& option);
+void paintRadioButton(QPainter& painter, const QRect& rect, const QStyleOption& option);
+void paintFocusRing(QPainter& painter, const QRect& rect, const QStyleOption& option);

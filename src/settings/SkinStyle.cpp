@@ -1,0 +1,160 @@
+#include "settings/SkinStyle.h"
+
+#include "settings/SkinPainting.h"
+
+#include <QAbstractScrollArea>
+#include <QPainter>
+#include <QStyleFactory>
+#include <QStyleOption>
+#include <QWidget>
+
+namespace
+{
+
+constexpr int IndicatorSide = 18;
+/// Above and below the text of a one-line field.
+constexpr int FieldPadding = 6;
+constexpr int ButtonsWidth = 22;
+
+bool isFieldFrame(const QWidget* widget)
+{
+    return qobject_cast<const QAbstractScrollArea*>(widget) != nullptr;
+}
+
+} // namespace
+
+SkinStyle::SkinStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion")))
+{
+}
+
+void SkinStyle::drawPrimitive(
+    PrimitiveElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const
+{
+    switch (element) {
+    case PE_IndicatorCheckBox:
+    case PE_IndicatorItemViewItemCheck:
+        paintCheckBox(*painter, option->rect, *option);
+        return;
+    case PE_IndicatorRadioButton:
+        paintRadioButton(*painter, option->rect, *option);
+        return;
+    case PE_IndicatorArrowUp:
+        paintArrow(*painter, option->rect, Qt::UpArrow, *option);
+        return;
+    case PE_IndicatorArrowDown:
+        paintArrow(*painter, option->rect, Qt::DownArrow, *option);
+        return;
+    case PE_IndicatorArrowLeft:
+        paintArrow(*painter, option->rect, Qt::LeftArrow, *option);
+        return;
+    case PE_IndicatorArrowRight:
+        paintArrow(*painter, option->rect, Qt::RightArrow, *option);
+        return;
+    case PE_FrameFocusRect:
+        paintFocusRing(*painter, option->rect, *option);
+        return;
+    case PE_PanelLineEdit:
+        if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+            frame != nullptr && frame->lineWidth > 0) {
+            paintField(*painter, option->rect, *option);
+            return;
+        }
+        break;
+    case PE_FrameLineEdit:
+        paintFieldFrame(*painter, option->rect, *option);
+        return;
+    case PE_Frame:
+        if (isFieldFrame(widget)) {
+            paintFieldFrame(*painter, option->rect, *option);
+            return;
+        }
+        break;
+    default:
+        break;
+    }
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+void SkinStyle::drawComplexControl(
+    ComplexControl control, const QStyleOptionComplex* option, QPainter* painter, const QWidget* widget) const
+{
+    if (control == CC_ComboBox) {
+        drawComboBox(*option, *painter, widget);
+    } else if (control == CC_SpinBox) {
+        drawSpinBox(*option, *painter, widget);
+    } else {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+    }
+}
+
+void SkinStyle::drawComboBox(
+    const QStyleOptionComplex& option, QPainter& painter, const QWidget* widget) const
+{
+    paintField(painter, option.rect, option);
+    paintArrow(painter, proxy()->subControlRect(CC_ComboBox, &option, SC_ComboBoxArrow, widget),
+        Qt::DownArrow, option);
+}
+
+void SkinStyle::drawSpinBox(const QStyleOptionComplex& option, QPainter& painter, const QWidget* widget) const
+{
+    const auto* spinBox = qstyleoption_cast<const QStyleOptionSpinBox*>(&option);
+    if (spinBox == nullptr || spinBox->frame) {
+        paintField(painter, option.rect, option);
+    }
+    if (spinBox == nullptr || spinBox->buttonSymbols == QAbstractSpinBox::NoButtons) {
+        return;
+    }
+    const auto paintButton = [&](SubControl button, QAbstractSpinBox::StepEnabledFlag step,
+                                 Qt::ArrowType direction) {
+        QStyleOption arrow(option);
+        arrow.state.setFlag(
+            State_Enabled, option.state.testFlag(State_Enabled) && spinBox->stepEnabled.testFlag(step));
+        paintArrow(painter, proxy()->subControlRect(CC_SpinBox, &option, button, widget), direction, arrow);
+    };
+    paintButton(SC_SpinBoxUp, QAbstractSpinBox::StepUpEnabled, Qt::UpArrow);
+    paintButton(SC_SpinBoxDown, QAbstractSpinBox::StepDownEnabled, Qt::DownArrow);
+}
+
+int SkinStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
+{
+    switch (metric) {
+    case PM_IndicatorWidth:
+    case PM_IndicatorHeight:
+    case PM_ExclusiveIndicatorWidth:
+    case PM_ExclusiveIndicatorHeight:
+        return IndicatorSide;
+    case PM_CheckBoxLabelSpacing:
+    case PM_RadioButtonLabelSpacing:
+        return 8;
+    case PM_DefaultFrameWidth:
+        // Room for the focus ring around lists and edits.
+        return isFieldFrame(widget) ? 2 : QProxyStyle::pixelMetric(metric, option, widget);
+    default:
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+}
+
+int SkinStyle::styleHint(
+    StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* returned) const
+{
+    if (hint == SH_Table_GridLineColor && option != nullptr) {
+        return static_cast<int>(option->palette.color(QPalette::Midlight).rgba());
+    }
+    if (hint == SH_EtchDisabledText || hint == SH_DitherDisabledText) {
+        return 0;
+    }
+    return QProxyStyle::styleHint(hint, option, widget, returned);
+}
+
+QSize SkinStyle::sizeFromContents(
+    ContentsType type, const QStyleOption* option, const QSize& size, const QWidget* widget) const
+{
+    QSize result = QProxyStyle::sizeFromContents(type, option, size, widget);
+    if (type == CT_LineEdit || type == CT_ComboBox || type == CT_SpinBox) {
+        result.setHeight(qMax(result.height(), option->fontMetrics.height() + 2 * FieldPadding));
+    }
+    if (type == CT_SpinBox) {
+        result.rwidth() += ButtonsWidth - 16;
+    }
+    return result;
+}

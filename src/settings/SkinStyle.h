@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QProxyStyle>
+
+/// Fusion, with fields, indicators and arrows drawn in the colours of the palette, so that no style sheet can
+/// lose them.
+///
+/// Roles: Base is the ground of a field, Text what is written and the arrows, Mid the outline, Highlight the
+/// focus ring and the ground of what is checked, HighlightedText the mark on it.
+class SkinStyle final : public QProxyStyle
+{
+    Q_OBJECT
+
+public:
+    SkinStyle();
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+        const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+        const QWidget* widget) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+        QStyleHintReturn* returned) const override;
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+        const QWidget* widget) const override;
+
+private:
+    void drawSpinBox(const QStyleOptionComplex& option, QPainter& painter, const QWidget* widget) const;
+    void drawComboBox(const QStyleOptionComplex& option, QPainter& painter, const QWidget* widget) const;
+};

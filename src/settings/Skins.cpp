@@ -1,0 +1,116 @@
+#include "settings/Skins.h"
+
+#include "platform/FileReplace.h"
+#include "platform/MessageBoxes.h"
+#include "platform/ProgramFolder.h"
+
+#include <QCoreApplication>
+#include <QDirIterator>
+#include <QEvent>
+#include <QFileInfo>
+#include <QWidget>
+#include <QWindow>
+
+Skins::Skins(const QString& programFolder, MessageBoxes& messages, QObject* parent)
+    : QObject(parent), m_folder(pathIn(programFolder, QStringLiteral("Skins"))), m_messages(messages)
+{
+}
+
+Skins::~Skins() = default;
+
+QString Skins::fileOf(const QString& name) const
+{
+    return m_folder + u'/' + name + QStringLiteral(".skf");
+}
+
+QStringList Skins::names() const
+{
+    QStringList names;
+    QDirIterator files(
+        m_folder, {QStringLiteral("*.skf")}, QDir::Files | QDir::Hidden | QDir::System | QDir::CaseSensitive);
+    while (files.hasNext()) {
+        try {
+            names.append(SkinEngine::skinInfo(files.next()).name);
+        } catch (const SkinError&) {
+            // Not a skin that could be worn.
+        }
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    }
+    return names;
+}
+
+SkinEngine& Skins::engine()
+{
+    if (m_engine == nullptr) {
+        m_engine = std::make_unique<SkinEngine>();
+    }
+    return *m_engine;
+}
+
+bool Skins::wear(const QString& name)
+{
+    const QString file = fileOf(name);
+    const QString fileName = QFileInfo(file).fileName();
+    try {
+        engine().loadSkinFile(file);
+    } catch (const SkinError& error) {
+        noteUnreadable(fileName, error.text());
+        return false;
+    }
+    engine().applySkin();
+    m_reported.removeAll(fileName);
+    return true;
+}
+
+void Skins::add(const QString& file) const
+{
+    SkinEngine::skinInfo(file);
+    replaceByCopy(file, pathIn(m_folder, file.section(u'/', -1)), PublicFile);
+}
+
+void Skins::noteUnreadable(const QString& fileName, const QString& why)
+{
+    if (!m_reported.contains(fileName)) {
+        m_reported.append(fileName);
+        m_pending.append(tr("The skin could not be used.\n%1").arg(why));
+        reportSoon();
+    }
+}
+
+void Skins::reportOn(QWidget* window)
+{
+    if (m_window == window) {
+        return;
+    }
+    if (m_window != nullptr) {
+        m_window->removeEventFilter(this);
+    }
+    m_window = window;
+    window->installEventFilter(this);
+    reportSoon();
+}
+
+// A box that comes before its window is on the screen opens behind it.
+void Skins::reportSoon()
+{
+    const QWindow* window = m_window == nullptr ? nullptr : m_window->windowHandle();
+    if (!m_pending.isEmpty() && window != nullptr && window->isExposed()) {
+        QMetaObject::invokeMethod(this, &Skins::reportPending, Qt::QueuedConnection);
+    }
+}
+
+bool Skins::eventFilter(QObject* watched, QEvent* event)
+{
+    // The first painting follows the exposure of a window.
+    if (event->type() == QEvent::Paint && watched == m_window) {
+        reportSoon();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void Skins::reportPending()
+{
+    while (!m_pending.isEmpty()) {
+        m_messages.tell(m_window, MessageBoxes::Icon::Exclamation, m_pending.takeFirst());
+    }
+}

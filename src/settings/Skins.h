@@ -1,0 +1,50 @@
+#pragma once
+
+#include "settings/SkinEngine.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QStringList>
+
+class MessageBoxes;
+
+/// The skins of the program folder, the engine that wears them, and the report of those that cannot be worn.
+/// One instance in a program.
+class Skins : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// `messages` outlives this object. The engine is made on the first use.
+    Skins(const QString& programFolder, MessageBoxes& messages, QObject* parent = nullptr);
+    ~Skins() override;
+
+    /// The file of the skin of that name.
+    QString fileOf(const QString& name) const;
+    /// The names of the skins in the folder, in the file system's order; unreadable files are left out.
+    /// Pending messages other than user input run between the files.
+    QStringList names() const;
+    /// Loads and applies the skin of that name. False when it cannot be: the look stays as it was, and the
+    /// user is told once, by file name, when the window of `reportOn` is on the screen.
+    bool wear(const QString& name);
+    /// Copies a skin file into the folder, over a file of that name. Throws RuntimeError for a file that is
+    /// no skin.
+    void add(const QString& file) const;
+    /// The window over which the reports are shown; not owned.
+    void reportOn(QWidget* window);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    SkinEngine& engine();
+    void noteUnreadable(const QString& fileName, const QString& why);
+    void reportSoon();
+    void reportPending();
+
+    QString m_folder;
+    MessageBoxes& m_messages;
+    std::unique_ptr<SkinEngine> m_engine;
+    QPointer<QWidget> m_window;
+    QStringList m_pending;
+    QStringList m_reported;
+};
