@@ -1,4 +1,5 @@
 """A private desktop for one test: display, window manager, message buses, home folder and a copy of the program."""
+import contextlib
 import json
 import os
 import select
@@ -91,6 +92,7 @@ class Desktop:
         self._with_sound = sound
         self._source = folder or program_folder()
         self._starts = 0
+        self.screen = None
         self.sound = None
 
     def __enter__(self):
@@ -118,10 +120,12 @@ class Desktop:
         return self
 
     def __exit__(self, *_):
-        if hasattr(self, "screen"):
-            self.screen.close()
-        self._children.end_all()
-        shutil.rmtree(self.root, ignore_errors=False)
+        # What cannot be ended or removed must not keep the rest alive.
+        with contextlib.ExitStack() as steps:
+            steps.callback(shutil.rmtree, self.root)
+            steps.callback(self._children.end_all)
+            if self.screen:
+                steps.callback(self.screen.close)
 
     # The folders ------------------------------------------------------------------------------------------
 
