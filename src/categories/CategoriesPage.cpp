@@ -1,0 +1,238 @@
+#include "categories/CategoriesPage.h"
+
+#include "categories/CategoryList.h"
+#include "categories/CustomIcons.h"
+#include "categories/StandInPicture.h"
+#include "categories/frmCategoryDetails.h"
+#include "data/ClsCategory.h"
+#include "platform/ErrorReport.h"
+#include "platform/ImageList.h"
+#include "platform/MessageBoxes.h"
+#include "platform/WindowPlacement.h"
+
+#include <QBoxLayout>
+#include <QPushButton>
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+namespace
+{
+
+QPushButton* makeButton(const char* name, const QString& text)
+{
+    auto* button = new QPushButton(text);
+    button->setObjectName(QLatin1String(name));
+    button->setAutoDefault(false);
+    return button;
+}
+
+int idOf(const QListWidgetItem& item)
+{
+    return item.data(Qt::UserRole).toInt();
+}
+
+} // namespace
+
+CategoriesPage::CategoriesPage(
+    const FormServices& services, std::function<frmCategoryDetails&()> categoryDetails, QWidget* parent)
+    : QWidget(parent), m_services(services), m_categoryDetails(std::move(categoryDetails)),
+      m_list(new CategoryList), m_add(makeButton("btnAddCat", tr("&Add"))),
+      m_edit(makeButton("btnEditCat", tr("&Edit"))), m_delete(makeButton("btnDeleteCat", tr("&Delete"))),
+      m_help(makeButton("btnHelpCategories", tr("&Help")))
+{
+    m_list->setObjectName(QStringLiteral("lstViewCategories"));
+    m_list->setAccessibleName(tr("Categories"));
+    m_add->setAccessibleName(tr("Add a category"));
+    m_edit->setAccessibleName(tr("Edit the selected category"));
+    m_delete->setAccessibleName(tr("Delete the selected category"));
+    m_help->setAccessibleName(tr("Help on categories"));
+    m_help->setEnabled(false);
+
+    auto* buttons = new QHBoxLayout;
+    for (QPushButton* button : {m_add, m_edit, m_delete}) {
+        buttons->addWidget(button);
+    }
+    buttons->addStretch();
+    buttons->addWidget(m_help);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(m_list, 1);
+    layout->addLayout(buttons);
+    connectControls();
+}
+
+void CategoriesPage::connectControls()
+{
+    ErrorReport& errors = m_services.errors;
+    connectGuarded(m_add, &QPushButton::clicked, this, &CategoriesPage::btnAddCat_Click, errors);
+    connectGuarded(m_edit, &QPushButton::clicked, this, &CategoriesPage::btnEditCat_Click, errors);
+    connectGuarded(m_delete, &QPushButton::clicked, this, &CategoriesPage::btnDeleteCat_Click, errors);
+    connectGuarded(m_list, &QListWidget::doubleClicked, this, &CategoriesPage::btnEditCat_Click, errors);
+    connectGuarded(m_list, &CategoryList::enterPressed, this, &CategoriesPage::btnEditCat_Click, errors);
+    connectGuarded(m_list, &CategoryList::deletePressed, this, &CategoriesPage::btnDeleteCat_Click, errors);
+    connect(m_help, &QPushButton::clicked, this, &CategoriesPage::helpRequested);
+}
+
+void CategoriesPage::LoadCategories()
+{
+    std::vector<ClsCategory> categories = ClsCategory(m_services.engine).GetAllCategories();
+    const QListWidgetItem* selected = m_list->selectedItem();
+    const int selectedId = selected == nullptr ? 0 : idOf(*selected);
+
+    m_list->clear();
+    std::vector<std::pair<ClsCategory, int>> numbered;
+    for (const ClsCategory& category : categories) {
+        int number = category.IconId() + 1;
+        if (category.IsCustomIcon()) {
+            number = m_services.imgLstCategories.append(customPicture(category));
+            numbered.emplace_back(category, number);
+        }
+        const QIcon picture = m_services.imgLstCategories.picture(number);
+        auto* item = new QListWidgetItem(picture.isNull() ? standInPicture() : picture, category.CatName());
+        item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+        item->setData(Qt::UserRole, category.Id());
+        item->setToolTip(category.Description());
+        m_list->addItem(item);
+    }
+    if (const int row = rowOf(selectedId); row >= 0) {
+        m_list->selectOnly(row);
+    }
+
+    // Last, so that a store that refuses leaves no half a list.
+    for (auto& [category, number] : numbered) {
+        writeIconNumber(category, number);
+    }
+}
+
+QIcon CategoriesPage::customPicture(const ClsCategory& category)
+{
+    try {
+        return CustomIcons(m_services.engine.programFolder).load(category.CustomIconName());
+    } catch (const RuntimeError& error) {
+        note(category.CustomIconName(), error.text());
+        return standInPicture();
+    }
+}
+
+void CategoriesPage::writeIconNumber(ClsCategory& category, int number)
+{
+    try {
+        category.setIconId(narrowId(number - 1, QStringLiteral("icon number")));
+    } catch (const OverflowError& error) {
+        note(QStringLiteral("/overflow"), error.text());
+        return;
+    }
+    category.Update();
+}
+
+void CategoriesPage::note(const QString& key, const QString& text)
+{
+    if (m_noted.contains(key)) {
+        return;
+    }
+    m_noted.insert(key);
+    m_notes.append(text);
+    if (m_notes.size() == 1 && window()->isVisible()) {
+        // After all that follows the load: the other lists are not to wait for the user's answer.
+        QMetaObject::invokeMethod(this, &CategoriesPage::reportNotes, Qt::QueuedConnection);
+    }
+}
+
+void CategoriesPage::reportNotes()
+{
+    const QStringList notes = takeUnreadablePictures();
+    if (!notes.isEmpty()) {
+        m_services.errors.report(notes.join(u'\n'));
+    }
+}
+
+QStringList CategoriesPage::takeUnreadablePictures()
+{
+    return std::exchange(m_notes, {});
+}
+
+void CategoriesPage::pageOpened()
+{
+    if (m_list->count() > 1) {
+        m_list->selectOnly(0);
+    }
+}
+
+void CategoriesPage::focusList()
+{
+    if (window()->isVisible()) {
+        window()->activateWindow();
+    }
+    m_list->setFocus();
+}
+
+void CategoriesPage::setHelpEnabled(bool enabled)
+{
+    m_help->setEnabled(enabled);
+}
+
+void CategoriesPage::btnAddCat_Click()
+{
+    frmCategoryDetails& dialog = m_categoryDetails();
+    dialog.clearTag();
+    dialog.EmptyForm();
+    showDialog(dialog);
+}
+
+void CategoriesPage::btnEditCat_Click()
+{
+    const QListWidgetItem* item = m_list->selectedItem();
+    if (item == nullptr) {
+        return;
+    }
+    const QString tag = QString::number(idOf(*item));
+    frmCategoryDetails& dialog = m_categoryDetails();
+    dialog.SetTag(tag);
+    showDialog(dialog);
+}
+
+void CategoriesPage::showDialog(frmCategoryDetails& dialog)
+{
+    if (m_services.alwaysOnTop()) {
+        makeTopmost(&dialog);
+    }
+    showOwned(&dialog, window());
+}
+
+void CategoriesPage::btnDeleteCat_Click()
+{
+    const QListWidgetItem* item = m_list->selectedItem();
+    if (item == nullptr) {
+        return;
+    }
+    const int id = idOf(*item);
+    const QString question =
+        tr("Are you sure you want to delete '%1' category, all tasks under this category will be "
+           "deleted?")
+            .arg(item->text());
+    if (!m_services.messages.ask(window(), question)) {
+        return;
+    }
+    ClsCategory(m_services.engine).DeleteById(narrowId(id, QStringLiteral("category id")));
+
+    // The list may have been rebuilt while the question was open.
+    if (const int row = rowOf(id); row >= 0) {
+        delete m_list->takeItem(row);
+        m_list->clearSelection();
+        if (m_list->count() > 0) {
+            m_list->selectOnly(std::min(row, m_list->count() - 1));
+        }
+    }
+    LoadCategories();
+    emit categoriesChanged();
+}
+
+int CategoriesPage::rowOf(int id) const
+{
+    for (int row = 0; row < m_list->count(); ++row) {
+        if (idOf(*m_list->item(row)) == id) {
+            return row;
+        }
+    }
+    return -1;
+}

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "ui/FormServices.h"
+
+#include <QSet>
+#include <QStringList>
+#include <QWidget>
+#include <functional>
+
+class CategoryList;
+class ClsCategory;
+class QPushButton;
+class QString;
+class frmCategoryDetails;
+
+/// The page "Categories": every category as an icon with its name, and the buttons to add, edit and delete
+/// one.
+class CategoriesPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// `services` outlives the page. `categoryDetails` answers the program's one category dialog and loads it
+    /// first when that has not happened yet.
+    CategoriesPage(const FormServices& services, std::function<frmCategoryDetails&()> categoryDetails,
+        QWidget* parent = nullptr);
+
+    /// Rebuilds the list; the selected category stays selected while it exists. Appends the picture of each
+    /// category with a custom icon to the image list once more and writes its number back to the store. A
+    /// picture that is missing or unreadable is replaced and noted (see `takeUnreadablePictures`). Throws
+    /// DatabaseError: when the categories cannot be read, the list is as it was; when a number cannot be
+    /// written, the list is complete.
+    void LoadCategories();
+    /// The user has switched to the page.
+    void pageOpened();
+    /// Gives the focus to the list, and activates its window when that is visible.
+    void focusList();
+    void setHelpEnabled(bool enabled);
+
+    /// The texts of what LoadCategories could not do and nobody has been told yet: pictures that are missing
+    /// or unreadable, each file once in a run, and an icon number that does not fit. Ask after the main
+    /// window has come up; while that is visible, the page reports them by itself.
+    QStringList takeUnreadablePictures();
+
+signals:
+    /// A category and its tasks have been deleted and the list is rebuilt: the category combos and the task
+    /// list are to follow.
+    void categoriesChanged();
+    void helpRequested();
+
+private:
+    void btnAddCat_Click();
+    void btnEditCat_Click();
+    void btnDeleteCat_Click();
+
+    void connectControls();
+    void showDialog(frmCategoryDetails& dialog);
+    /// The picture of the category, to be appended to the image list.
+    QIcon customPicture(const ClsCategory& category);
+    void writeIconNumber(ClsCategory& category, int number);
+    void note(const QString& key, const QString& text);
+    void reportNotes();
+    /// Row of the category; -1 when it is not listed.
+    int rowOf(int id) const;
+
+    const FormServices& m_services;
+    std::function<frmCategoryDetails&()> m_categoryDetails;
+    CategoryList* m_list;
+    QPushButton* m_add;
+    QPushButton* m_edit;
+    QPushButton* m_delete;
+    QPushButton* m_help;
+    QStringList m_notes;
+    QSet<QString> m_noted;
+};

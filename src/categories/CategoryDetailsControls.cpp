@@ -1,0 +1,152 @@
+#include "categories/CategoryDetailsControls.h"
+
+#include "categories/IconBox.h"
+#include "categories/PicturePanel.h"
+
+#include <QBoxLayout>
+#include <QButtonGroup>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <limits>
+
+namespace
+{
+
+constexpr int PreviewEdge = 48;
+constexpr int IconColumns = 6;
+constexpr int DescriptionLines = 4;
+
+template <typename Control> Control* named(const QString& name, QWidget& parent)
+{
+    auto* control = new Control(&parent);
+    control->setObjectName(name);
+    return control;
+}
+
+QLabel* labelFor(QWidget& buddy, const char* name, const QString& text, QWidget& form)
+{
+    auto* label = named<QLabel>(QLatin1String(name), form);
+    label->setText(text);
+    label->setBuddy(&buddy);
+    return label;
+}
+
+} // namespace
+
+CategoryDetailsControls::CategoryDetailsControls(QWidget& form)
+    : txtCatName(named<QLineEdit>(QStringLiteral("txtCatName"), form)),
+      txtCatDesc(named<QPlainTextEdit>(QStringLiteral("txtCatDesc"), form)),
+      opnDefaultIcon(named<QRadioButton>(QStringLiteral("opnDefaultIcon"), form)),
+      picIcons(named<PicturePanel>(QStringLiteral("picIcons"), form)), imgIcon{},
+      opnCustomIcon(named<QRadioButton>(QStringLiteral("opnCustomIcon"), form)),
+      picCustomIcon(named<PicturePanel>(QStringLiteral("picCustomIcon"), form)),
+      imgCustomIcon(named<QLabel>(QStringLiteral("imgCustomIcon"), *picCustomIcon)),
+      lblIconSize(named<QLabel>(QStringLiteral("lblIconSize"), *picCustomIcon)),
+      btnBrowse(named<QPushButton>(QStringLiteral("btnBrowse"), *picCustomIcon)),
+      btnOk(named<QPushButton>(QStringLiteral("btnOk"), form)),
+      btnCancel(named<QPushButton>(QStringLiteral("btnCancel"), form))
+{
+    auto* group = new QButtonGroup(picIcons);
+    for (int i = 0; i < IconCount; ++i) {
+        IconBox*& box = imgIcon.at(static_cast<std::size_t>(i));
+        box = named<IconBox>(QStringLiteral("imgIcon%1").arg(i), *picIcons);
+        box->setAccessibleName(tr("Icon %1 of %2").arg(i + 1).arg(IconCount));
+        group->addButton(box);
+    }
+    setUp();
+    layOut(form);
+    setTabOrder();
+}
+
+void CategoryDetailsControls::setUp()
+{
+    // An edit cuts at 32,767 characters unless told otherwise.
+    txtCatName->setMaxLength(std::numeric_limits<int>::max());
+    txtCatName->setAccessibleName(tr("Category"));
+    txtCatDesc->setTabChangesFocus(true);
+    txtCatDesc->setAccessibleName(tr("Description"));
+    opnDefaultIcon->setText(tr("De&fault Icon"));
+    opnCustomIcon->setText(tr("C&ustom Icon"));
+    picIcons->setAccessibleName(tr("Default icons"));
+    picCustomIcon->setAccessibleName(tr("Custom icon"));
+
+    imgCustomIcon->setFixedSize(PreviewEdge, PreviewEdge);
+    imgCustomIcon->setAlignment(Qt::AlignCenter);
+    imgCustomIcon->setAccessibleName(tr("Custom icon preview"));
+    lblIconSize->setTextFormat(Qt::PlainText);
+    lblIconSize->setText(tr("Prefered size 24*24 pixels"));
+    // Skins colour the labels for their own background; this one stands on white or light grey under every
+    // skin.
+    lblIconSize->setStyleSheet(QStringLiteral(
+        "QLabel { color: #202020; background: transparent; } QLabel:disabled { color: #5a5a5a; }"));
+
+    btnBrowse->setText(tr("&Browse"));
+    btnBrowse->setAccessibleName(tr("Browse for a custom icon"));
+    btnOk->setText(tr("&OK"));
+    btnCancel->setText(tr("Ca&ncel"));
+    for (QPushButton* button : {btnBrowse, btnOk, btnCancel}) {
+        button->setAutoDefault(false);
+    }
+}
+
+void CategoryDetailsControls::layOut(QWidget& form)
+{
+    layOutIcons();
+    layOutCustomIcon();
+    txtCatDesc->setMinimumHeight(txtCatDesc->fontMetrics().lineSpacing() * DescriptionLines);
+
+    auto* grid = new QGridLayout(&form);
+    QLabel* description = labelFor(*txtCatDesc, "lblCatDesc", tr("&Description"), form);
+    description->setAlignment(Qt::AlignTop | Qt::AlignLeading);
+    int row = 0;
+    grid->addWidget(labelFor(*txtCatName, "lblCatName", tr("&Category"), form), row, 0);
+    grid->addWidget(txtCatName, row++, 1);
+    grid->addWidget(description, row, 0);
+    grid->addWidget(txtCatDesc, row, 1);
+    grid->setRowStretch(row++, 1);
+    grid->addWidget(opnDefaultIcon, row++, 0, 1, 2);
+    grid->addWidget(picIcons, row++, 0, 1, 2);
+    grid->addWidget(opnCustomIcon, row++, 0, 1, 2);
+    grid->addWidget(picCustomIcon, row++, 0, 1, 2);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(btnOk);
+    buttons->addWidget(btnCancel);
+    grid->addLayout(buttons, row, 0, 1, 2);
+}
+
+void CategoryDetailsControls::layOutIcons()
+{
+    auto* grid = new QGridLayout(picIcons);
+    for (int i = 0; i < IconCount; ++i) {
+        grid->addWidget(
+            imgIcon.at(static_cast<std::size_t>(i)), i / IconColumns, i % IconColumns, Qt::AlignCenter);
+    }
+}
+
+void CategoryDetailsControls::layOutCustomIcon()
+{
+    auto* row = new QHBoxLayout(picCustomIcon);
+    row->addWidget(imgCustomIcon);
+    row->addWidget(lblIconSize, 1);
+    row->addWidget(btnBrowse);
+}
+
+void CategoryDetailsControls::setTabOrder()
+{
+    QWidget::setTabOrder(txtCatName, txtCatDesc);
+    QWidget::setTabOrder(txtCatDesc, opnDefaultIcon);
+    QWidget* last = opnDefaultIcon;
+    for (IconBox* box : imgIcon) {
+        QWidget::setTabOrder(last, box);
+        last = box;
+    }
+    QWidget::setTabOrder(last, opnCustomIcon);
+    QWidget::setTabOrder(opnCustomIcon, btnBrowse);
+    QWidget::setTabOrder(btnBrowse, btnOk);
+    QWidget::setTabOrder(btnOk, btnCancel);
+}

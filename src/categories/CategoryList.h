@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QListWidget>
+
+/// The categories as large icons in cells of one size: long names are wrapped and then elided. One is
+/// selected or none; names cannot be edited in place and nothing can be dragged. Tool tips are shown as plain
+/// text.
+class CategoryList : public QListWidget
+{
+    Q_OBJECT
+
+public:
+    explicit CategoryList(QWidget* parent = nullptr);
+
+    /// Selects the item in `row` alone, makes it the current one and scrolls to it.
+    void selectOnly(int row);
+    /// None when nothing is selected.
+    QListWidgetItem* selectedItem() const;
+
+signals:
+    void enterPressed();
+    void deletePressed();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void setCellSize();
+};

@@ -1,0 +1,40 @@
+#include "categories/PicturePanel.h"
+
+#include <QPainter>
+
+namespace
+{
+
+const QColor Usable(0xFF, 0xFF, 0xFF);
+const QColor Unusable(0xE0, 0xE0, 0xE0);
+const QColor Ink(0x20, 0x20, 0x20);
+const QColor FaintInk(0x5A, 0x5A, 0x5A);
+const QColor Edge(0x9A, 0x9A, 0x9A);
+
+} // namespace
+
+PicturePanel::PicturePanel(QWidget* parent) : QWidget(parent)
+{
+    setUsable(true);
+}
+
+void PicturePanel::setUsable(bool usable)
+{
+    setEnabled(usable);
+    m_background = usable ? Usable : Unusable;
+    QPalette colours = palette();
+    colours.setColor(QPalette::Window, m_background);
+    colours.setColor(QPalette::WindowText, Ink);
+    colours.setColor(QPalette::Disabled, QPalette::WindowText, FaintInk);
+    setPalette(colours);
+    update();
+}
+
+void PicturePanel::paintEvent(QPaintEvent* /*event*/)
+{
+    // A skin's style sheet may replace the palette, so the colours do not come from there.
+    QPainter painter(this);
+    painter.fillRect(rect(), m_background);
+    painter.setPen(Edge);
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}

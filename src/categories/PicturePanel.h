@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QWidget>
+
+/// A panel that is white while it can be used and light grey otherwise, under every skin; what stands on it
+/// takes its dark text colour from the panel's palette.
+class PicturePanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PicturePanel(QWidget* parent = nullptr);
+
+    /// Enables or disables the panel with all that is on it.
+    void setUsable(bool usable);
+    QColor background() const { return m_background; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QColor m_background;
+};

@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QIcon>
+
+/// Takes the place of a category's picture that is missing or unreadable.
+QIcon standInPicture();

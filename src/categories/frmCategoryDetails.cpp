@@ -1,0 +1,278 @@
+#include "categories/frmCategoryDetails.h"
+
+#include "categories/IconBox.h"
+#include "categories/PicturePanel.h"
+#include "data/ClsCategory.h"
+#include "platform/ErrorReport.h"
+#include "platform/FileDialogs.h"
+#include "platform/ImageList.h"
+#include "platform/MessageBoxes.h"
+#include "ui/CheckerTimer.h"
+#include "ui/ControlValue.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QRandomGenerator>
+
+namespace
+{
+
+/// In the place of a source path: the stored picture stays.
+const QLatin1String KeepStoredPicture("-1");
+/// Property of the preview that holds the name of the stored picture.
+constexpr const char* PictureTag = "tag";
+
+} // namespace
+
+frmCategoryDetails::frmCategoryDetails(const FormServices& services, std::function<double()> draw)
+    : QWidget(nullptr, Qt::Dialog), m_services(services), m_customIcons(services.engine.programFolder),
+      m_draw(std::move(draw)), m_controls(*this)
+{
+    setObjectName(QStringLiteral("frmCategoryDetails"));
+    setWindowTitle(tr("Category Details"));
+    if (!m_draw) {
+        // The system's generator, not one seeded from a clock: two names drawn within a second are to differ.
+        m_draw = [] {
+            return QRandomGenerator::global()->generateDouble();
+        };
+    }
+    for (int i = 0; i < CategoryDetailsControls::IconCount; ++i) {
+        m_controls.imgIcon.at(static_cast<std::size_t>(i))
+            ->setIcon(m_services.imgLstCategories.picture(i + 1));
+    }
+    connectControls();
+    EmptyForm();
+}
+
+void frmCategoryDetails::connectControls()
+{
+    connect(
+        m_controls.opnDefaultIcon, &QRadioButton::toggled, this, &frmCategoryDetails::opnDefaultIcon_Click);
+    connect(m_controls.opnCustomIcon, &QRadioButton::toggled, this, &frmCategoryDetails::opnCustomIcon_Click);
+    ErrorReport& errors = m_services.errors;
+    connectGuarded(
+        m_controls.btnBrowse, &QPushButton::clicked, this, &frmCategoryDetails::btnBrowse_Click, errors);
+    connectGuarded(m_controls.btnOk, &QPushButton::clicked, this, &frmCategoryDetails::btnOk_Click, errors);
+    connectGuarded(
+        m_controls.btnCancel, &QPushButton::clicked, this, &frmCategoryDetails::btnCancel_Click, errors);
+}
+
+void frmCategoryDetails::EmptyForm()
+{
+    m_controls.txtCatName->clear();
+    m_controls.txtCatDesc->clear();
+    m_controls.txtCatName->setEnabled(true);
+    SelectIcon(0);
+    m_controls.opnDefaultIcon->setChecked(true);
+    opnDefaultIcon_Click();
+    showCustomPicture({});
+    m_customIconSource.clear();
+    m_controls.imgCustomIcon->setProperty(PictureTag, QString());
+}
+
+void frmCategoryDetails::SetTag(const QString& tag)
+{
+    const qint16 id = narrowId(tag.toLongLong(), QStringLiteral("category id"));
+    const std::optional<ClsCategory> category = ClsCategory(m_services.engine).GetCatById(id);
+    if (!category) {
+        throw RuntimeError(tr("The category no longer exists."));
+    }
+    m_tag = tag;
+    EmptyForm();
+    fillFrom(*category);
+}
+
+void frmCategoryDetails::fillFrom(const ClsCategory& category)
+{
+    m_controls.txtCatName->setText(category.CatName());
+    m_controls.txtCatName->setCursorPosition(0);
+    m_controls.txtCatName->setEnabled(false);
+    m_controls.txtCatDesc->setPlainText(category.Description());
+    if (!category.IsCustomIcon()) {
+        SelectIcon(category.IconId());
+        return;
+    }
+    m_controls.opnCustomIcon->setChecked(true);
+    m_customIconSource = KeepStoredPicture;
+    m_controls.imgCustomIcon->setProperty(PictureTag, category.CustomIconName());
+    m_services.errors.guard([&] { showCustomPicture(m_customIcons.load(category.CustomIconName())); });
+}
+
+void frmCategoryDetails::SelectIcon(int Id)
+{
+    const bool exists = Id >= 0 && Id < CategoryDetailsControls::IconCount;
+    // The others lose their border with that: one of the group is checked.
+    m_controls.imgIcon.at(exists ? static_cast<std::size_t>(Id) : 0)->setChecked(true);
+}
+
+int frmCategoryDetails::GetSelectedIcon() const
+{
+    for (int i = 0; i < CategoryDetailsControls::IconCount; ++i) {
+        if (m_controls.imgIcon.at(static_cast<std::size_t>(i))->isChecked()) {
+            return i;
+        }
+    }
+    return 0;
+}
+
+QString frmCategoryDetails::NewCustomIconName() const
+{
+    constexpr double range = 1'000'000;
+    return QStringLiteral("icon%1").arg(qRound64(m_draw() * range));
+}
+
+void frmCategoryDetails::showCustomPicture(const QIcon& picture)
+{
+    m_customPicture = picture;
+    QLabel& preview = *m_controls.imgCustomIcon;
+    preview.setPixmap(picture.isNull() ? QPixmap() : picture.pixmap(preview.size(), devicePixelRatio()));
+}
+
+void frmCategoryDetails::opnDefaultIcon_Click()
+{
+    if (m_controls.opnDefaultIcon->isChecked()) {
+        m_controls.picIcons->setUsable(true);
+        m_controls.picCustomIcon->setUsable(false);
+    }
+}
+
+void frmCategoryDetails::opnCustomIcon_Click()
+{
+    if (m_controls.opnCustomIcon->isChecked()) {
+        m_controls.picIcons->setUsable(false);
+        m_controls.picCustomIcon->setUsable(true);
+    }
+}
+
+void frmCategoryDetails::btnBrowse_Click()
+{
+    FileDialogRequest request;
+    request.filter = tr("Image Files (*.gif;*.jpg;*.jpeg)|*.gif;*.jpg;*.jpeg");
+    request.fileMustExist = true;
+    QString path;
+    {
+        const CheckerPause pause(m_services.checkerTimer);
+        path = m_services.fileDialogs.open(this, request);
+    }
+    // Loaded first: a file that is no picture changes neither the path nor the preview.
+    const QIcon picture = path.isEmpty() ? QIcon() : CustomIcons::loadFile(path);
+    m_customIconSource = path;
+    showCustomPicture(picture);
+}
+
+void frmCategoryDetails::btnOk_Click()
+{
+    if (refuses()) {
+        return;
+    }
+    if (m_tag.isEmpty()) {
+        if (enteredCategory().Add()) {
+            m_services.messages.tell(
+                this, MessageBoxes::Icon::Exclamation, tr("A category with the same name already exists"));
+            m_controls.txtCatName->selectAll();
+            m_controls.txtCatName->setFocus();
+            return;
+        }
+    } else {
+        requireEditedCategory();
+        ClsCategory category = enteredCategory();
+        category.setId(narrowId(m_tag.toLongLong(), QStringLiteral("category id")));
+        category.Update();
+    }
+    emit categoryStored();
+    hide();
+    emit categorySaved();
+}
+
+bool frmCategoryDetails::refuses()
+{
+    QString refusal;
+    QWidget* place = nullptr;
+    if (m_controls.txtCatName->text().trimmed().isEmpty()) {
+        refusal = tr("Please enter category name.");
+        place = m_controls.txtCatName;
+    } else if (m_controls.opnCustomIcon->isChecked() && m_customPicture.isNull()) {
+        refusal = tr("Please browse for a custom icon");
+        place = m_controls.btnBrowse;
+    } else {
+        return false;
+    }
+    m_services.messages.tell(this, MessageBoxes::Icon::Exclamation, refusal);
+    place->setFocus();
+    return true;
+}
+
+ClsCategory frmCategoryDetails::enteredCategory() const
+{
+    ClsCategory category(m_services.engine);
+    category.setCatName(m_controls.txtCatName->text());
+    category.setDescription(textOf(*m_controls.txtCatDesc));
+    if (m_controls.opnCustomIcon->isChecked()) {
+        category.setIsCustomIcon(true);
+        category.setCustomIconName(storeCustomPicture());
+    } else {
+        category.setIconId(static_cast<qint16>(GetSelectedIcon()));
+    }
+    return category;
+}
+
+QString frmCategoryDetails::storeCustomPicture() const
+{
+    if (m_customIconSource == KeepStoredPicture) {
+        return m_controls.imgCustomIcon->property(PictureTag).toString();
+    }
+    const QString name = NewCustomIconName() + QLatin1String(".gif");
+    m_customIcons.store(m_customIconSource, name);
+    return name;
+}
+
+void frmCategoryDetails::requireEditedCategory() const
+{
+    // An update of a category that is gone writes nothing and would lose the input unnoticed.
+    const qint16 id = narrowId(m_tag.toLongLong(), QStringLiteral("category id"));
+    if (!ClsCategory(m_services.engine).GetCatById(id)) {
+        throw RuntimeError(tr("The category no longer exists."));
+    }
+}
+
+void frmCategoryDetails::btnCancel_Click()
+{
+    hide();
+    emit cancelled();
+}
+
+void frmCategoryDetails::keyPressEvent(QKeyEvent* event)
+{
+    // With these the key is another one.
+    const bool modified =
+        event->modifiers().testAnyFlags(Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    if (event->key() == Qt::Key_Escape && !modified) {
+        m_controls.btnCancel->click();
+        return;
+    }
+    QWidget::keyPressEvent(event);
+}
+
+void frmCategoryDetails::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (event->spontaneous()) {
+        return;
+    }
+    if (m_controls.txtCatName->isEnabled()) {
+        m_controls.txtCatName->setFocus();
+    } else {
+        m_controls.txtCatDesc->setFocus();
+    }
+}
+
+void frmCategoryDetails::closeEvent(QCloseEvent* event)
+{
+    event->ignore();
+    hide();
+}

@@ -1,0 +1,185 @@
+#include "platform/PictureFile.h"
+
+#include "platform/RuntimeError.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QFileInfo>
+#include <QImageReader>
+
+namespace
+{
+
+constexpr qint64 MaximumBytes = 64LL * 1024 * 1024;
+constexpr int MaximumEdge = 4096;
+/// Each scan of a progressive JPEG passes over the whole picture, however few bytes it has: a file of many
+/// thousands would keep the program busy for hours. Encoders write about ten.
+constexpr qsizetype MaximumJpegScans = 64;
+
+const QByteArrayView JpegScan("\xFF\xDA");
+const QByteArrayView JpegEnd("\xFF\xD9");
+
+QByteArray formatOf(QByteArrayView bytes)
+{
+    if (bytes.startsWith("GIF87a") || bytes.startsWith("GIF89a")) {
+        return QByteArrayLiteral("gif");
+    }
+    if (bytes.startsWith("\xFF\xD8\xFF")) {
+        return QByteArrayLiteral("jpeg");
+    }
+    if (bytes.startsWith("\x89PNG\r\n\x1A\n")) {
+        return QByteArrayLiteral("png");
+    }
+    return {};
+}
+
+/// Walks a GIF from block to block, to see whether its first picture is there to the end.
+class GifWalk
+{
+public:
+    explicit GifWalk(QByteArrayView bytes) : m_bytes(bytes) { }
+
+    bool firstPictureIsComplete()
+    {
+        constexpr qsizetype signature = 6;
+        constexpr qsizetype screenFlags = 10;
+        constexpr qsizetype screenDescriptor = 7;
+        m_position = signature + screenDescriptor;
+        if (m_position > m_bytes.size()) {
+            return false;
+        }
+        skipColourTable(at(screenFlags));
+        for (;;) {
+            const int block = next();
+            if (block == ImageDescriptor) {
+                constexpr qsizetype placeAndSize = 8;
+                m_position += placeAndSize;
+                skipColourTable(next());
+                next(); // the code size of what follows
+                return skipSubBlocks();
+            }
+            if (block != Extension) {
+                return false;
+            }
+            next(); // the extension's label
+            if (!skipSubBlocks()) {
+                return false;
+            }
+        }
+    }
+
+private:
+    static constexpr int Extension = 0x21;
+    static constexpr int ImageDescriptor = 0x2C;
+    static constexpr int PastEnd = -1;
+
+    int at(qsizetype position) const
+    {
+        return position < m_bytes.size() ? static_cast<unsigned char>(m_bytes[position]) : PastEnd;
+    }
+    int next() { return at(m_position++); }
+
+    void skipColourTable(int flags)
+    {
+        if (flags != PastEnd && (flags & 0x80) != 0) {
+            m_position += qsizetype(3) << ((flags & 0x07) + 1);
+        }
+    }
+
+    bool skipSubBlocks()
+    {
+        int length = next();
+        while (length > 0) {
+            m_position += length;
+            length = next();
+        }
+        return length == 0;
+    }
+
+    QByteArrayView m_bytes;
+    qsizetype m_position = 0;
+};
+
+/// The decoders make a picture, partly grey, of what is cut off.
+bool isComplete(const QByteArray& bytes, const QByteArray& format)
+{
+    if (format == "gif") {
+        return GifWalk(bytes).firstPictureIsComplete();
+    }
+    if (format == "jpeg") {
+        const qsizetype scan = bytes.lastIndexOf(JpegScan);
+        return scan >= 0 && bytes.indexOf(JpegEnd, scan) >= 0;
+    }
+    return bytes.contains("IEND");
+}
+
+} // namespace
+
+PictureFile::PictureFile(const QString& path) : m_path(path)
+{
+}
+
+QImage PictureFile::load(int edge) const
+{
+    QByteArray bytes = read();
+    const QByteArray format = formatOf(bytes);
+    if (format.isEmpty()) {
+        refuse(tr("it is neither a GIF nor a JPEG nor a PNG picture."));
+    }
+    if (!isComplete(bytes, format) || (format == "jpeg" && bytes.count(JpegScan) > MaximumJpegScans)) {
+        refuse(tr("it is damaged or incomplete."));
+    }
+
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer, format);
+    reader.setAutoDetectImageFormat(false);
+    reader.setAutoTransform(true);
+    const QSize size = reader.size();
+    if (size.isEmpty()) {
+        refuse(tr("it is damaged or incomplete."));
+    }
+    if (size.width() > MaximumEdge || size.height() > MaximumEdge) {
+        refuse(tr("it is %1 x %2 pixels large, more than %3 x %3 are not accepted.")
+                   .arg(size.width())
+                   .arg(size.height())
+                   .arg(MaximumEdge));
+    }
+    if (size.width() > edge || size.height() > edge) {
+        reader.setScaledSize(size.scaled(edge, edge, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
+    }
+    QImage image;
+    if (!reader.read(&image)) {
+        refuse(tr("it is damaged or incomplete."));
+    }
+    return image;
+}
+
+QByteArray PictureFile::read() const
+{
+    const QFileInfo info(m_path);
+    if (!info.exists()) {
+        refuse(tr("there is no such file."));
+    }
+    // A pipe or a device would keep the program waiting.
+    if (!info.isFile()) {
+        refuse(tr("it is not an ordinary file."));
+    }
+    QFile file(m_path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        refuse(file.errorString());
+    }
+    if (file.size() > MaximumBytes) {
+        refuse(tr("it is larger than %1 MiB.").arg(MaximumBytes / 1024 / 1024));
+    }
+    QByteArray bytes = file.read(MaximumBytes);
+    if (file.error() != QFileDevice::NoError) {
+        refuse(file.errorString());
+    }
+    return bytes;
+}
+
+void PictureFile::refuse(const QString& reason) const
+{
+    throw RuntimeError(tr("The picture \"%1\" cannot be used: %2").arg(m_path, reason));
+}
