@@ -6,6 +6,7 @@
 #include "reminders/AlertsHost.h"
 #include "settings/SettingsPageHost.h"
 #include "settings/SettingsRecord.h"
+#include "settings/Skins.h"
 #include "tasks/TaskDetailsHost.h"
 #include "ui/CheckerTimer.h"
 #include "ui/FormServices.h"
@@ -27,6 +28,8 @@ struct Machine {
     Shell& shell;
     Registry& registry;
     WaveBackendFactory waveBackend;
+    /// Whether the desktop has a notification area now.
+    std::function<bool()> hasNotificationArea;
 };
 
 /// The program: its one instance of each form and of what they share, and how they are wired. Interface
@@ -65,8 +68,6 @@ signals:
     void endRequested();
 
 private:
-    void readSettings();
-    void registerWithSession();
     void loadMainWindow();
 
     void addTask(qint16 category);
@@ -74,15 +75,17 @@ private:
     void onTaskStored();
     void onTaskSaved();
     void onTaskCancelled();
-    void openCategoryDialog();
-    void refreshCategoryLists();
+    void onCategoryStored();
+    void onCategorySaved();
+    void onCategoriesChanged();
+    void onDataRestored();
+    void reloadCategoryCombos();
     void focusCategoryList();
-    void reloadRestoredData();
-    void reportUnreadableFiles();
 
     // MainWindowHost
     bool isTaskDialogVisible() const override;
     void hideDialogs() override;
+    bool hasNotificationArea() const override;
     // TaskDetailsHost
     bool isAlertVisible() const override;
     int selectedCategoryIndex() const override;
@@ -100,6 +103,7 @@ private:
     ImageList m_images;
     SettingsRecord m_settings;
     FormServices m_services;
+    Skins m_skins;
     std::unique_ptr<frmMain> m_main;
     std::unique_ptr<frmTaskDetails> m_taskDetails;
     std::unique_ptr<frmCategoryDetails> m_categoryDetails;

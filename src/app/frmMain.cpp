@@ -10,6 +10,7 @@
 #include "settings/SettingsPage.h"
 #include "settings/SettingsRecord.h"
 #include "ui/LinkLabel.h"
+#include "ui/clsGuiLoader.h"
 
 #include <QAction>
 #include <QBoxLayout>
@@ -78,7 +79,7 @@ QWidget* frmMain::makeHeader()
     // The way to the tray menu on a desktop that has no notification area.
     header->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(header, &QWidget::customContextMenuRequested, this, [this, header](const QPoint& position) {
-        if (!TrayIcon::isAreaAvailable()) {
+        if (!m_host.hasNotificationArea()) {
             m_trayMenu->popup(header->mapToGlobal(position));
         }
     });
@@ -146,6 +147,22 @@ void frmMain::LoadCategories()
     m_pages.categories->LoadCategories();
 }
 
+void frmMain::reloadCategoryCombos()
+{
+    m_pages.tasks->reloadCategories();
+    clsGuiLoader(m_services.engine).reloadCategoriesCombo(m_pages.maintenance->cmbCategoriesMaintenance());
+}
+
+void frmMain::saveSettings()
+{
+    m_pages.settings->btnSave_Click();
+}
+
+void frmMain::focusCategoryList()
+{
+    m_pages.categories->focusList();
+}
+
 void frmMain::place(bool topmost)
 {
     if (topmost) {
@@ -177,7 +194,7 @@ void frmMain::showWindow()
 
 void frmMain::hideWindow()
 {
-    if (TrayIcon::isAreaAvailable()) {
+    if (m_host.hasNotificationArea()) {
         hide();
     } else {
         showMinimized();
@@ -186,7 +203,7 @@ void frmMain::hideWindow()
 
 void frmMain::stayReachable()
 {
-    if (!isVisible() && !TrayIcon::isAreaAvailable()) {
+    if (!isVisible() && !m_host.hasNotificationArea()) {
         showMinimized();
     }
 }

@@ -27,6 +27,8 @@ public:
     virtual bool isTaskDialogVisible() const = 0;
     /// Makes the task dialog and the category dialog invisible.
     virtual void hideDialogs() = 0;
+    /// Whether the desktop has a notification area now.
+    virtual bool hasNotificationArea() const = 0;
 };
 
 /// The pages of the main window, made by whoever puts the program together; the main window takes ownership.
@@ -54,8 +56,12 @@ public:
     void ApplyChanges();
     void LoadTasks();
     void LoadCategories();
-    /// The three category lists and the task list after a change of categories.
     void refresh() { LoadTasks(); }
+    /// Fills the category lists of the task filter and of the maintenance page anew.
+    void reloadCategoryCombos();
+    /// Stores what the settings page shows and lets it take effect.
+    void saveSettings();
+    void focusCategoryList();
 
     /// Whether the window is on the screen; minimized counts as hidden.
     bool isShown() const;

@@ -12,6 +12,7 @@
 #include "platform/Shell.h"
 #include "platform/SingleInstance.h"
 #include "platform/TerminationSignals.h"
+#include "platform/TrayIcon.h"
 
 #include <QStyleFactory>
 
@@ -25,7 +26,11 @@ struct RealMachine {
     {
     }
 
-    Machine machine() { return {engine, messages, fileDialogs, errors, shell, *registry, loadWaveBackend}; }
+    Machine machine()
+    {
+        return {engine, messages, fileDialogs, errors, shell, *registry, loadWaveBackend,
+            TrayIcon::isAreaAvailable};
+    }
 
     SystemClock clock;
     DatabaseEngine engine;

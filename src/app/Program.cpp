@@ -1,0 +1,293 @@
+#include "app/Program.h"
+
+#include "app/FixedPictures.h"
+#include "app/TasksPage.h"
+#include "categories/CategoriesPage.h"
+#include "categories/frmCategoryDetails.h"
+#include "platform/Clock.h"
+#include "platform/ErrorReport.h"
+#include "platform/GridView.h"
+#include "platform/Registry.h"
+#include "platform/WindowPlacement.h"
+#include "reminders/frmAlerts.h"
+#include "settings/MaintenancePage.h"
+#include "settings/SettingsPage.h"
+#include "settings/SettingsStore.h"
+#include "tasks/frmTaskDetails.h"
+#include "ui/clsGuiLoader.h"
+
+#include <QTimer>
+
+Program::Program(const Machine& machine)
+    : m_machine(machine), m_services{machine.engine, *machine.engine.clock, machine.messages,
+                              machine.fileDialogs, machine.errors, machine.shell, *this, m_images,
+                              [this] {
+                                  return m_settings.always_on_top;
+                              }},
+      m_skins(machine.engine.programFolder, machine.messages)
+{
+    appendFixedPictures(m_images);
+}
+
+Program::~Program() = default;
+
+void Program::start(const std::function<bool()>& noteFirstStart)
+{
+    m_settings = SettingsStore(m_machine.engine).read();
+    m_skins.wear(m_settings.skin);
+    if (noteFirstStart()) {
+        writeRunEntry(m_machine.registry, m_machine.engine.programFolder);
+    }
+    loadMainWindow();
+    // A window that is never activated loads no dialogs: a program that starts hidden would never remind.
+    QTimer::singleShot(0, this, [this] { m_machine.errors.guard([this] { loadDialogs(); }); });
+}
+
+void Program::loadMainWindow()
+{
+    auto* settingsPage = new SettingsPage(m_services, m_settings, m_machine.registry, m_skins, *this);
+    MainWindowPages pages;
+    pages.settings = settingsPage;
+    pages.tasks = new TasksPage(m_services, [settingsPage] {
+        return TaskColumns{settingsPage->showStatusChecked(), settingsPage->showDueDateChecked(),
+            settingsPage->showPeriorityChecked(), settingsPage->showReminderChecked()};
+    });
+    pages.categories =
+        new CategoriesPage(m_services, [this]() -> frmCategoryDetails& { return categoryDetails(); });
+    pages.maintenance = new MaintenancePage(m_services);
+    MainWindowHost& host = *this;
+    m_main = std::make_unique<frmMain>(m_services, m_settings, host, pages);
+
+    m_skins.reportOn(m_main.get());
+
+    ErrorReport& errors = m_machine.errors;
+    connectGuarded(m_main.get(), &frmMain::activated, this, &Program::loadDialogs, errors);
+    connect(m_main.get(), &frmMain::exitRequested, this, &Program::end);
+    connectGuarded(
+        pages.categories, &CategoriesPage::categoriesChanged, this, &Program::onCategoriesChanged, errors);
+    // A failed reload ends a restore silently; Program::onDataRestored lets nothing out.
+    connect(pages.maintenance, &MaintenancePage::dataRestored, this, &Program::onDataRestored);
+    connectGuarded(pages.maintenance, &MaintenancePage::tasksDeleted, this, &Program::LoadTasks, errors);
+    connectGuarded(pages.tasks, &TasksPage::addRequested, this, &Program::addTask, errors);
+    connectGuarded(pages.tasks, &TasksPage::editRequested, this, &Program::editTask, errors);
+
+    m_main->Form_Load();
+}
+
+void Program::loadDialogs()
+{
+    taskDetails();
+    categoryDetails();
+    alerts();
+}
+
+frmTaskDetails& Program::taskDetails()
+{
+    if (m_taskDetails == nullptr) {
+        const TaskDetailsHost& host = *this;
+        m_taskDetails = std::make_unique<frmTaskDetails>(m_services, host);
+        ErrorReport& errors = m_machine.errors;
+        connectGuarded(
+            m_taskDetails.get(), &frmTaskDetails::taskStored, this, &Program::onTaskStored, errors);
+        connectGuarded(m_taskDetails.get(), &frmTaskDetails::taskSaved, this, &Program::onTaskSaved, errors);
+        connectGuarded(
+            m_taskDetails.get(), &frmTaskDetails::cancelled, this, &Program::onTaskCancelled, errors);
+    }
+    return *m_taskDetails;
+}
+
+frmCategoryDetails& Program::categoryDetails()
+{
+    if (m_categoryDetails == nullptr) {
+        m_categoryDetails = std::make_unique<frmCategoryDetails>(m_services);
+        ErrorReport& errors = m_machine.errors;
+        const frmCategoryDetails* dialog = m_categoryDetails.get();
+        connectGuarded(dialog, &frmCategoryDetails::categoryStored, this, &Program::onCategoryStored, errors);
+        connectGuarded(dialog, &frmCategoryDetails::categorySaved, this, &Program::onCategorySaved, errors);
+        connectGuarded(dialog, &frmCategoryDetails::cancelled, this, &Program::focusCategoryList, errors);
+    }
+    return *m_categoryDetails;
+}
+
+frmAlerts& Program::alerts()
+{
+    if (m_alerts == nullptr) {
+        AlertsHost& host = *this;
+        m_alerts = std::make_unique<frmAlerts>(m_services, host, m_machine.waveBackend);
+        connectGuarded(
+            m_alerts.get(), &frmAlerts::remindersDismissed, this, &Program::LoadTasks, m_machine.errors);
+        m_alerts->load();
+    }
+    return *m_alerts;
+}
+
+void Program::addTask(qint16 category)
+{
+    frmTaskDetails& dialog = taskDetails();
+    dialog.EmptyForm();
+    if (category != CategoryFilter::All) {
+        dialog.selectCategory(category);
+    }
+    if (m_settings.always_on_top) {
+        makeTopmost(&dialog);
+    }
+    showOwned(&dialog, m_main.get());
+}
+
+void Program::editTask(qint16 id)
+{
+    frmTaskDetails& dialog = taskDetails();
+    dialog.SetTag(id);
+    if (m_settings.always_on_top) {
+        makeTopmost(&dialog);
+    }
+    showOwned(&dialog, m_main.get());
+}
+
+void Program::openTask(qint16 id)
+{
+    // From the alert the dialog is never made topmost.
+    frmTaskDetails& dialog = taskDetails();
+    dialog.SetTag(id);
+    showOwned(&dialog, m_alerts.get());
+}
+
+void Program::onTaskStored()
+{
+    if (isAlertVisible()) {
+        m_alerts->tmrTasksChecker_Timer();
+    }
+}
+
+void Program::onTaskSaved()
+{
+    bringToFront(m_main.get());
+    m_main->LoadTasks();
+}
+
+void Program::onTaskCancelled()
+{
+    if (m_main->isVisible()) {
+        m_main->tasksPage()->focusGrid();
+    } else if (m_alerts != nullptr) {
+        m_alerts->focusGrid();
+    }
+}
+
+void Program::onCategoryStored()
+{
+    m_main->LoadCategories();
+    reloadCategoryCombos();
+}
+
+void Program::onCategorySaved()
+{
+    m_main->LoadTasks();
+    focusCategoryList();
+}
+
+void Program::onCategoriesChanged()
+{
+    reloadCategoryCombos();
+    m_main->LoadTasks();
+}
+
+void Program::reloadCategoryCombos()
+{
+    if (m_taskDetails != nullptr) {
+        m_taskDetails->reloadCategories();
+    }
+    m_main->reloadCategoryCombos();
+}
+
+void Program::focusCategoryList()
+{
+    m_main->focusCategoryList();
+}
+
+void Program::onDataRestored()
+{
+    try {
+        m_main->LoadTasks();
+        m_main->LoadCategories();
+        reloadCategoryCombos();
+        m_main->saveSettings();
+    } catch (const RuntimeError&) {
+        // What fails after the file has been replaced ends the operation without a word.
+        return;
+    }
+}
+
+bool Program::isTaskDialogVisible() const
+{
+    return m_taskDetails != nullptr && m_taskDetails->isVisible();
+}
+
+void Program::hideDialogs()
+{
+    if (m_taskDetails != nullptr) {
+        m_taskDetails->hide();
+    }
+    if (m_categoryDetails != nullptr) {
+        m_categoryDetails->hide();
+    }
+}
+
+bool Program::hasNotificationArea() const
+{
+    return m_machine.hasNotificationArea();
+}
+
+bool Program::isAlertVisible() const
+{
+    return m_alerts != nullptr && m_alerts->isVisible();
+}
+
+int Program::selectedCategoryIndex() const
+{
+    return m_main->tasksPage()->selectedCategoryIndex();
+}
+
+void Program::setTrayCaption(const QString& caption)
+{
+    m_main->setTrayCaption(caption);
+}
+
+void Program::placeMainWindow(bool topmost)
+{
+    m_main->place(topmost);
+}
+
+void Program::setGridLines(bool shown)
+{
+    m_main->tasksPage()->setGridLines(shown);
+}
+
+void Program::LoadTasks()
+{
+    m_main->LoadTasks();
+}
+
+void Program::setCheckerEnabled(bool enabled)
+{
+    if (m_alerts != nullptr) {
+        m_alerts->setCheckerEnabled(enabled);
+    }
+}
+
+void Program::end()
+{
+    if (m_main != nullptr) {
+        m_main->removeTrayIcon();
+        m_main->setEnding();
+    }
+    emit endRequested();
+}
+
+void Program::unload()
+{
+    m_categoryDetails.reset();
+    m_taskDetails.reset();
+    m_alerts.reset();
+    m_main.reset();
+}

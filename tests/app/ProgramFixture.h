@@ -1,0 +1,70 @@
+#pragma once
+
+#include "app/Program.h"
+#include "app/frmMain.h"
+#include "platform/GridView.h"
+#include "platform/WaveBackend.h"
+#include "support/MemoryRegistry.h"
+#include "support/ScriptedDialogs.h"
+#include "support/TestDatabase.h"
+#include "support/TestServices.h"
+
+#include <QAction>
+#include <QPushButton>
+#include <QTest>
+
+/// Remembers what was played.
+class RecordedWaves final : public WaveBackend
+{
+public:
+    RecordedWaves(QStringList& played, int& stops) : m_played(played), m_stops(stops) { }
+    void play(const QString& file) override { m_played.append(file); }
+    void stopAll() override { ++m_stops; }
+
+private:
+    QStringList& m_played;
+    int& m_stops;
+};
+
+/// The whole program over a data file of its own, on a machine that only remembers.
+struct ProgramFixture {
+    ProgramFixture()
+        : program(Machine{database.engine(), dialogs, dialogs, dialogs, shell, registry,
+            [this] { return std::make_unique<RecordedWaves>(played, stops); },
+            [this] {
+                return notificationArea;
+            }})
+    {
+        QDir(database.folder()).mkpath(QStringLiteral("Skins"));
+    }
+    ~ProgramFixture() { program.unload(); }
+
+    void setting(const QString& column, int value) const
+    {
+        database.sql(QStringLiteral("update settings set %1=%2").arg(column).arg(value));
+    }
+    void start(bool firstStart = false)
+    {
+        program.start([firstStart] { return firstStart; });
+    }
+    frmMain& main() { return program.mainWindow(); }
+    template <typename Control> Control* control(QWidget& window, const char* name)
+    {
+        return window.findChild<Control*>(QLatin1String(name));
+    }
+    QAction* menu(const char* name) { return main().findChild<QAction*>(QLatin1String(name)); }
+    void press(QWidget& window, const char* name)
+    {
+        QTest::mouseClick(control<QPushButton>(window, name), Qt::LeftButton);
+    }
+    GridView* grid(QWidget& window) { return control<GridView>(window, "grdTasks"); }
+
+    TestDatabase database;
+    ScriptedDialogs dialogs;
+    RecordedShell shell;
+    MemoryRegistry registry;
+    QStringList played;
+    int stops = 0;
+    bool notificationArea = true;
+    Program program;
+};

@@ -1,0 +1,411 @@
+#include "ProgramFixture.h"
+#include "app/TasksPage.h"
+#include "categories/frmCategoryDetails.h"
+#include "platform/WindowPlacement.h"
+#include "reminders/frmAlerts.h"
+#include "support/TestMain.h"
+#include "tasks/frmTaskDetails.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QRadioButton>
+#include <QSignalSpy>
+#include <QTabWidget>
+#include <QTimeEdit>
+#include <QWindow>
+
+using namespace std::chrono_literals;
+
+class ProgramTest : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void everyControlOfTheMainWindowHasItsName()
+    {
+        ProgramFixture f;
+        f.start();
+        const QStringList names =
+            QString::fromLatin1("tabMain grdTasks lstViewCategories mnuTray mnuShow mnuAbout mnuHelp "
+                                "mnuFeedBack mnuExit cmbCategories "
+                                "cmbStatus cmbSort opnAllDate opnSpecificDate dtpDueDateFrom dtpDueDateTo "
+                                "lblDateFrom lblDateTo opnAllTasks "
+                                "opnActiveTasks opnExpiredTasks btnTaskAdd btnTaskEdit btnTaskDelete "
+                                "btnTaskPrint btnHelpTasks btnAddCat "
+                                "btnEditCat btnDeleteCat btnHelpCategories chkShowGrid "
+                                "chkShowTodayTasksOnStart chkStartWithWin chkOnTop "
+                                "chkMinimizeOnStart chkShowBallon chkShowPeriority chkShowDueDate "
+                                "chkShowReminder chkShowStatus cmbSkins "
+                                "btnBrowseNewSkin lblDownloadSkins btnSave btnHelpSettings "
+                                "cmbCategoriesMaintenance cmbStatusMaintenance "
+                                "opnAllTasksMaintenance opnActiveTasksMaintenance opnExpiredTasksMaintenance "
+                                "dtpDateFromMaintenance "
+                                "dtpDateToMaintenance btnDeleteTasksMaintenance btnBackup btnRestore "
+                                "btnHelpMaintenance lblAmberHeader "
+                                "lblOrganizerHeader lblVersionHeader")
+                .split(u' ');
+        QCOMPARE(f.main().objectName(), QStringLiteral("frmMain"));
+        for (const QString& name : names) {
+            QVERIFY2(f.main().findChildren<QObject*>(name).size() == 1, qPrintable(name));
+        }
+    }
+
+    void theTabsAndTheTrayMenuReadAsTheyShould()
+    {
+        ProgramFixture f;
+        f.start();
+        const auto* tabs = f.control<QTabWidget>(f.main(), "tabMain");
+        QStringList captions;
+        for (int i = 0; i < tabs->count(); ++i) {
+            captions.append(tabs->tabText(i));
+        }
+        QCOMPARE(captions,
+            QStringList({QStringLiteral("Tasks"), QStringLiteral("Categories"), QStringLiteral("Settings"),
+                QStringLiteral("Maintenance")}));
+        QCOMPARE(tabs->currentIndex(), 0);
+        QStringList entries;
+        for (const QAction* action : f.main().findChild<QMenu*>(QStringLiteral("mnuTray"))->actions()) {
+            entries.append(action->text());
+        }
+        QCOMPARE(entries,
+            QStringList({QStringLiteral("Hide"), QStringLiteral("About"), QStringLiteral("Help"),
+                QStringLiteral("Send feedback"), QStringLiteral("Exit")}));
+    }
+
+    void startingMinimizedShowsNoWindowAndTheMenuReadsShow()
+    {
+        ProgramFixture f;
+        f.setting(QStringLiteral("minimize_on_start"), 1);
+        f.start();
+        QVERIFY(!f.main().isVisible());
+        QCOMPARE(f.menu("mnuShow")->text(), QStringLiteral("Show"));
+    }
+
+    void withoutANotificationAreaAHiddenStartMinimizes()
+    {
+        ProgramFixture f;
+        f.notificationArea = false;
+        f.setting(QStringLiteral("minimize_on_start"), 1);
+        f.start();
+        QVERIFY(f.main().isMinimized());
+        QCOMPARE(f.menu("mnuShow")->text(), QStringLiteral("Show"));
+    }
+
+    void startingOnTodaySelectsTheSpecificDateAndListsOnlyTasksDueToday()
+    {
+        ProgramFixture f;
+        aTask(f.database).named(QStringLiteral("today")).add();
+        aTask(f.database).named(QStringLiteral("tomorrow")).dueAt(f.database.clock().now() + 24h).add();
+        f.setting(QStringLiteral("show_today_tasks"), 1);
+        f.start();
+        QVERIFY(f.control<QRadioButton>(f.main(), "opnSpecificDate")->isChecked());
+        QCOMPARE(f.control<QDateEdit>(f.main(), "dtpDueDateFrom")->date(), QDate(2026, 1, 15));
+        QCOMPARE(f.control<QDateEdit>(f.main(), "dtpDueDateTo")->date(), QDate(2026, 1, 15));
+        QCOMPARE(f.grid(f.main())->model()->rowCount(), 1);
+        QCOMPARE(f.grid(f.main())->model()->index(0, 1).data().toString(), QStringLiteral("today"));
+    }
+
+    void alwaysOnTopOpensTheWindowTopmost()
+    {
+        ProgramFixture f;
+        f.setting(QStringLiteral("always_on_top"), 1);
+        f.start();
+        QVERIFY(f.main().isVisible());
+        QVERIFY(isTopmost(&f.main()));
+    }
+
+    void theCloseBoxHidesTheWindowAndTheProgramGoesOn()
+    {
+        ProgramFixture f;
+        f.setting(QStringLiteral("show_ballon_icon"), 0);
+        f.start();
+        const QSignalSpy ended(&f.program, &Program::endRequested);
+        f.main().close();
+        QVERIFY(!f.main().isVisible());
+        QCOMPARE(f.menu("mnuShow")->text(), QStringLiteral("Show"));
+        QCOMPARE(ended.count(), 0);
+        f.menu("mnuShow")->trigger();
+        QVERIFY(f.main().isVisible());
+        QCOMPARE(f.menu("mnuShow")->text(), QStringLiteral("Hide"));
+    }
+
+    void withoutANotificationAreaTheCloseBoxMinimizes()
+    {
+        ProgramFixture f;
+        f.notificationArea = false;
+        f.start();
+        f.main().close();
+        QVERIFY(f.main().isMinimized());
+        QCOMPARE(f.menu("mnuShow")->text(), QStringLiteral("Show"));
+        f.menu("mnuShow")->trigger();
+        QVERIFY(f.main().isVisible());
+        QVERIFY(!f.main().isMinimized());
+    }
+
+    void showIsRefusedWhileTheTaskDialogIsOpen()
+    {
+        ProgramFixture f;
+        f.start();
+        f.main().hide();
+        f.program.taskDetails().show();
+        f.menu("mnuShow")->trigger();
+        QVERIFY(!f.main().isVisible());
+        QCOMPARE(f.menu("mnuShow")->text(), QStringLiteral("Show"));
+    }
+
+    void hidingTheWindowHidesBothDialogs()
+    {
+        ProgramFixture f;
+        f.start();
+        f.program.loadDialogs();
+        f.program.taskDetails().show();
+        f.program.categoryDetails().show();
+        f.menu("mnuShow")->trigger();
+        QVERIFY(!f.main().isVisible());
+        QVERIFY(!f.program.taskDetails().isVisible());
+        QVERIFY(!f.program.categoryDetails().isVisible());
+    }
+
+    void exitEndsTheProgramEvenWhileItIsHidden()
+    {
+        ProgramFixture f;
+        f.setting(QStringLiteral("minimize_on_start"), 1);
+        f.start();
+        const QSignalSpy ended(&f.program, &Program::endRequested);
+        f.menu("mnuExit")->trigger();
+        QCOMPARE(ended.count(), 1);
+    }
+
+    void theFormsAreUnloadedInTheirOrder()
+    {
+        ProgramFixture f;
+        f.start();
+        f.program.loadDialogs();
+        QStringList order;
+        for (QWidget* form : std::initializer_list<QWidget*>{
+                 &f.main(), &f.program.alerts(), &f.program.taskDetails(), &f.program.categoryDetails()}) {
+            connect(
+                form, &QObject::destroyed, this, [&order, name = form->objectName()] { order.append(name); });
+        }
+        f.program.unload();
+        QCOMPARE(order,
+            QStringList({QStringLiteral("frmCategoryDetails"), QStringLiteral("frmTaskDetails"),
+                QStringLiteral("frmAlerts"), QStringLiteral("frmMain")}));
+    }
+
+    void aHiddenStartLoadsTheDialogsAfterTheFirstTurnAndChecksAtOnce()
+    {
+        ProgramFixture f;
+        f.setting(QStringLiteral("minimize_on_start"), 1);
+        aTask(f.database).remindingAt(f.database.clock().now() - 1h).add();
+        f.start();
+        f.database.statements().take();
+        QCoreApplication::processEvents();
+        QVERIFY(f.program.alerts().isVisible());
+        QCOMPARE(f.program.alerts().windowTitle(), QStringLiteral("1 Reminder"));
+    }
+
+    void switchingToTheSettingsDiscardsUnsavedEdits()
+    {
+        ProgramFixture f;
+        f.start();
+        auto* tabs = f.control<QTabWidget>(f.main(), "tabMain");
+        auto* box = f.control<QCheckBox>(f.main(), "chkMinimizeOnStart");
+        tabs->setCurrentIndex(2);
+        QVERIFY(!box->isChecked());
+        box->click();
+        QVERIFY(box->isChecked());
+        tabs->setCurrentIndex(0);
+        tabs->setCurrentIndex(2);
+        QVERIFY(!box->isChecked());
+        QCOMPARE(f.menu("mnuShow")->text(), QStringLiteral("Hide"));
+    }
+
+    void switchingToThePagesGivesTheFocusToTheirLists()
+    {
+        ProgramFixture f;
+        f.start();
+        QVERIFY(QTest::qWaitForWindowActive(&f.main()));
+        auto* tabs = f.control<QTabWidget>(f.main(), "tabMain");
+        tabs->setCurrentIndex(1);
+        auto* categories = f.control<QListWidget>(f.main(), "lstViewCategories");
+        QCOMPARE(QApplication::focusWidget(), categories);
+        QCOMPARE(categories->selectedItems().value(0), categories->item(0));
+        tabs->setCurrentIndex(0);
+        QCOMPARE(QApplication::focusWidget(), f.grid(f.main()));
+    }
+
+    void feedbackAndTheHeaderOpenTheVendorsPages()
+    {
+        ProgramFixture f;
+        f.start();
+        f.menu("mnuFeedBack")->trigger();
+        QTest::mouseClick(f.control<QLabel>(f.main(), "lblAmberHeader"), Qt::LeftButton);
+        QTest::mouseClick(f.control<QLabel>(f.main(), "lblOrganizerHeader"), Qt::LeftButton);
+        QCOMPARE(f.shell.pages,
+            QStringList({QStringLiteral("/support.htm?referer=p"), QStringLiteral("/index.htm?referer=p"),
+                QStringLiteral("/index.htm?referer=p")}));
+    }
+
+    void aNewTaskOnTheAllFilterHasNoCategory()
+    {
+        ProgramFixture f;
+        f.start();
+        f.press(f.main(), "btnTaskAdd");
+        QVERIFY(f.program.taskDetails().isVisible());
+        QCOMPARE(f.control<QComboBox>(f.program.taskDetails(), "cmbCategories")->currentIndex(), -1);
+        QCOMPARE(f.program.taskDetails().windowHandle()->transientParent(), f.main().windowHandle());
+    }
+
+    void aNewTaskOnAFilteredListHasItsCategory()
+    {
+        ProgramFixture f;
+        f.start();
+        f.program.loadDialogs();
+        auto* filter = f.control<QComboBox>(f.main(), "cmbCategories");
+        filter->setCurrentIndex(2);
+        f.press(f.main(), "btnTaskAdd");
+        QCOMPARE(f.control<QComboBox>(f.program.taskDetails(), "cmbCategories")->currentText(),
+            filter->currentText());
+    }
+
+    void withAlwaysOnTopTheTaskDialogIsTopmostToo()
+    {
+        ProgramFixture f;
+        f.setting(QStringLiteral("always_on_top"), 1);
+        f.start();
+        f.press(f.main(), "btnTaskAdd");
+        QVERIFY(isTopmost(&f.program.taskDetails()));
+    }
+
+    void theItemOpenedFromTheAlertIsOwnedByItAndNeverMadeTopmost()
+    {
+        ProgramFixture f;
+        f.setting(QStringLiteral("always_on_top"), 1);
+        aTask(f.database).named(QStringLiteral("call")).remindingAt(f.database.clock().now() - 1min).add();
+        f.start();
+        f.program.loadDialogs();
+        QVERIFY(f.program.alerts().isVisible());
+        QVERIFY(isTopmost(&f.program.alerts()));
+        f.press(f.program.alerts(), "btnOpenItem");
+        QVERIFY(f.program.taskDetails().isVisible());
+        QVERIFY(!isTopmost(&f.program.taskDetails()));
+        QCOMPARE(
+            f.program.taskDetails().windowHandle()->transientParent(), f.program.alerts().windowHandle());
+        QCOMPARE(f.control<QLineEdit>(f.program.taskDetails(), "txtTask")->text(), QStringLiteral("call"));
+    }
+
+    void cancelGivesTheFocusToTheAlertWhileTheMainWindowIsHidden()
+    {
+        ProgramFixture f;
+        aTask(f.database).remindingAt(f.database.clock().now() - 1min).add();
+        f.setting(QStringLiteral("minimize_on_start"), 1);
+        f.start();
+        f.program.loadDialogs();
+        f.press(f.program.alerts(), "btnOpenItem");
+        f.press(f.program.taskDetails(), "btnCancel");
+        QVERIFY(!f.program.taskDetails().isVisible());
+        QTRY_COMPARE(QApplication::focusWidget(), f.grid(f.program.alerts()));
+    }
+
+    void cancelGivesTheFocusToTheListOfTheMainWindow()
+    {
+        ProgramFixture f;
+        f.start();
+        f.press(f.main(), "btnTaskAdd");
+        f.press(f.program.taskDetails(), "btnCancel");
+        QTRY_COMPARE(QApplication::focusWidget(), f.grid(f.main()));
+    }
+
+    void aSavedTaskDueAtOnceIsListedByAVisibleAlertWithoutWaiting()
+    {
+        ProgramFixture f;
+        aTask(f.database).named(QStringLiteral("first")).remindingAt(f.database.clock().now() - 1min).add();
+        f.start();
+        f.program.loadDialogs();
+        QCOMPARE(f.program.alerts().windowTitle(), QStringLiteral("1 Reminder"));
+        f.press(f.main(), "btnTaskAdd");
+        frmTaskDetails& dialog = f.program.taskDetails();
+        f.control<QLineEdit>(dialog, "txtTask")->setText(QStringLiteral("second"));
+        f.control<QComboBox>(dialog, "cmbCategories")->setCurrentIndex(0);
+        f.control<QCheckBox>(dialog, "chkEnableReminder")->click();
+        f.press(dialog, "btnOk");
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(f.program.alerts().windowTitle(), QStringLiteral("2 Reminders"));
+        QCOMPARE(f.grid(f.main())->model()->rowCount(), 2);
+    }
+
+    void theTypicalEventRunsFromStartToEnd()
+    {
+        ProgramFixture f;
+        f.start();
+        f.program.loadDialogs();
+        f.press(f.main(), "btnTaskAdd");
+        frmTaskDetails& dialog = f.program.taskDetails();
+        QTest::keyClicks(f.control<QLineEdit>(dialog, "txtTask"), QStringLiteral("Call Bob's office"));
+        f.control<QComboBox>(dialog, "cmbCategories")->setCurrentIndex(1);
+        f.control<QCheckBox>(dialog, "chkEnableReminder")->click();
+        f.control<QTimeEdit>(dialog, "dtpReminderTime")->setTime(QTime(10, 5));
+        f.control<QCheckBox>(dialog, "chkReminderSound")->click();
+        f.control<QLineEdit>(dialog, "txtReminderSound")->setText(QStringLiteral("/sounds/bell.wav"));
+        f.control<QCheckBox>(dialog, "chkReminderFile")->click();
+        f.control<QLineEdit>(dialog, "txtReminderFile")->setText(QStringLiteral("/programs/back up.sh"));
+        f.press(dialog, "btnOk");
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(
+            f.grid(f.main())->model()->index(0, 1).data().toString(), QStringLiteral("Call Bob's office"));
+
+        frmAlerts& alerts = f.program.alerts();
+        alerts.tmrTasksChecker_Timer();
+        QVERIFY(!alerts.isVisible());
+        f.database.clock().step(5min);
+        alerts.tmrTasksChecker_Timer();
+        QVERIFY(alerts.isVisible());
+        QCOMPARE(alerts.windowTitle(), QStringLiteral("1 Reminder"));
+        QCOMPARE(f.played, QStringList{QStringLiteral("/sounds/bell.wav")});
+        QCOMPARE(f.shell.started, QStringList{QStringLiteral("/programs/back up.sh")});
+        alerts.tmrTasksChecker_Timer();
+        QCOMPARE(f.played.size(), 1);
+        QCOMPARE(f.shell.started.size(), 1);
+        QCOMPARE(f.database.sql(QStringLiteral("select played from tasks")).toInt(), 1);
+
+        f.press(alerts, "btnDismiss");
+        QVERIFY(!alerts.isVisible());
+        QCOMPARE(f.database.sql(QStringLiteral("select dismissed from tasks")).toInt(), 1);
+        QCOMPARE(f.database.sql(QStringLiteral("select reminder_on from tasks")).toInt(), 0);
+        QVERIFY(f.grid(f.main())->model()->index(0, 5).data(Qt::DecorationRole).value<QIcon>().isNull());
+    }
+
+    void aSavedCategoryAppearsInEveryList()
+    {
+        ProgramFixture f;
+        f.start();
+        f.program.loadDialogs();
+        f.press(f.main(), "btnAddCat");
+        frmCategoryDetails& dialog = f.program.categoryDetails();
+        QVERIFY(dialog.isVisible());
+        f.control<QLineEdit>(dialog, "txtCatName")->setText(QStringLiteral("Garden"));
+        f.press(dialog, "btnOk");
+        QVERIFY(!dialog.isVisible());
+        const auto holds = [](const QComboBox* combo) {
+            return combo->findText(QStringLiteral("Garden")) >= 0;
+        };
+        QVERIFY(holds(f.control<QComboBox>(f.main(), "cmbCategories")));
+        QVERIFY(holds(f.control<QComboBox>(f.main(), "cmbCategoriesMaintenance")));
+        const auto* inDialog = f.control<QComboBox>(f.program.taskDetails(), "cmbCategories");
+        QVERIFY(holds(inDialog));
+        QCOMPARE(inDialog->findText(QStringLiteral("All")), -1);
+        QCOMPARE(f.control<QListWidget>(f.main(), "lstViewCategories")
+                     ->findItems(QStringLiteral("Garden"), Qt::MatchExactly)
+                     .size(),
+            1);
+    }
+};
+
+AMBERTASK_TEST_MAIN(ProgramTest)
+#include "tst_program.moc"

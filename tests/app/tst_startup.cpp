@@ -1,0 +1,94 @@
+#include "ProgramFixture.h"
+#include "support/TestMain.h"
+
+#include <QFile>
+
+namespace
+{
+
+QString failureOf(ProgramFixture& f)
+{
+    try {
+        f.start(true);
+    } catch (const RuntimeError& error) {
+        return error.text();
+    }
+    return {};
+}
+
+} // namespace
+
+class StartUpTest : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+
+    void theSettingsAreReadFirstAndInOneStatement()
+    {
+        ProgramFixture f;
+        f.start();
+        QCOMPARE(f.database.statements().take().value(0), QStringLiteral("select * from settings"));
+    }
+
+    void theFirstStartOnAMachineRegistersTheProgramWhateverTheSettingSays()
+    {
+        ProgramFixture f;
+        f.setting(QStringLiteral("start_with_windows"), 0);
+        f.start(true);
+        const MemoryRegistry::Value entry = f.registry.runEntry("Ambertask");
+        QCOMPARE(entry.type, RegistryValues::Text);
+        QCOMPARE(entry.data, (f.database.folder() + QStringLiteral("/Ambertask")).toLocal8Bit());
+    }
+
+    void aLaterStartLeavesTheRegistrationAlone()
+    {
+        ProgramFixture f;
+        f.start(false);
+        QVERIFY(f.registry.isEmpty());
+    }
+
+    void aMissingDataFileIsReportedAndNothingIsWritten()
+    {
+        ProgramFixture f;
+        QVERIFY(QFile::remove(f.database.dataFile()));
+        QVERIFY(failureOf(f).contains(QStringLiteral("data.dat")));
+        QVERIFY(!QFile::exists(f.database.dataFile()));
+        QVERIFY(f.registry.isEmpty());
+    }
+
+    void aDataFileThatIsNoDatabaseIsReportedAndLeftAlone()
+    {
+        ProgramFixture f;
+        QFile file(f.database.dataFile());
+        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        const QByteArray content(
+            "This is a letter and no database, and it is long enough to hold a header of one.");
+        file.write(content);
+        file.close();
+        QVERIFY(failureOf(f).contains(QStringLiteral("data.dat")));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), content);
+        QVERIFY(f.registry.isEmpty());
+    }
+
+    void anEmptyDataFileIsReportedAndStaysEmpty()
+    {
+        ProgramFixture f;
+        QVERIFY(QFile::resize(f.database.dataFile(), 0));
+        QVERIFY(!failureOf(f).isEmpty());
+        QCOMPARE(QFile(f.database.dataFile()).size(), 0);
+        QVERIFY(f.registry.isEmpty());
+    }
+
+    void aSettingsTableWithoutARowIsReported()
+    {
+        ProgramFixture f;
+        f.database.sql(QStringLiteral("delete from settings"));
+        QVERIFY(failureOf(f).contains(QStringLiteral("settings")));
+        QVERIFY(f.registry.isEmpty());
+    }
+};
+
+AMBERTASK_TEST_MAIN(StartUpTest)
+#include "tst_startup.moc"
