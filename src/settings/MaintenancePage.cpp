@@ -34,6 +34,8 @@ struct MaintenancePage::Criteria {
 namespace
 {
 
+constexpr int OptionSpacing = 7;
+
 template <typename Control> Control* named(const char* name, Control* control)
 {
     control->setObjectName(QLatin1String(name));
@@ -104,6 +106,7 @@ QBoxLayout* MaintenancePage::makeTaskTypeOptions()
     m_opnActiveTasks = named("opnActiveTasksMaintenance", new QRadioButton(tr("Acti&ve tasks only")));
     m_opnExpiredTasks = named("opnExpiredTasksMaintenance", new QRadioButton(tr("&Expired tasks only")));
     auto* layout = new QVBoxLayout;
+    layout->setSpacing(OptionSpacing);
     layout->addWidget(m_opnAllTasks);
     layout->addWidget(m_opnActiveTasks);
     layout->addWidget(m_opnExpiredTasks);

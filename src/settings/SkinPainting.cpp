@@ -1,5 +1,6 @@
 #include "settings/SkinPainting.h"
 
+#include <QGuiApplication>
 #include <QPainter>
 #include <QPainterPath>
 #include <QStyle>
@@ -45,10 +46,17 @@ bool isFocused(const QStyleOption& option)
     return has(option, QStyle::State_HasFocus) && has(option, QStyle::State_Enabled);
 }
 
+// The application's, not the control's: a sheet may give the selection of a list a colour of its own, too
+// soft for this.
+QColor ringColor()
+{
+    return QGuiApplication::palette().color(QPalette::Highlight);
+}
+
 QPen outline(const QStyleOption& option)
 {
     if (isFocused(option)) {
-        return {color(option, QPalette::Highlight), RingWidth};
+        return {ringColor(), RingWidth};
     }
     const bool hovered = has(option, QStyle::State_MouseOver) && has(option, QStyle::State_Enabled);
     return {color(option, hovered ? QPalette::Dark : QPalette::Mid), 1};
@@ -89,7 +97,7 @@ void paintFieldFrame(QPainter& painter, const QRect& rect, const QStyleOption& o
     paintRounded(painter, rect, outline(option), Qt::NoBrush, FieldRadius);
 }
 
-void paintArrow(QPainter& painter, const QRect& rect, Qt::ArrowType direction, const QStyleOption& option)
+void paintArrow(QPainter& painter, const QRect& rect, Qt::ArrowType direction, const QColor& ink)
 {
     const Canvas canvas(painter);
     const qreal half = qBound(2.5, qMin(rect.width(), rect.height()) / 4.0, 4.5);
@@ -99,7 +107,7 @@ void paintArrow(QPainter& painter, const QRect& rect, Qt::ArrowType direction, c
             : direction == Qt::LeftArrow    ? 90
             : direction == Qt::RightArrow   ? -90
                                             : 0);
-    painter.setPen(markPen(color(option, QPalette::Text), 1.7));
+    painter.setPen(markPen(ink, 1.7));
     painter.setBrush(Qt::NoBrush);
     painter.drawPolyline(
         QPolygonF({QPointF(-half, -depth), QPointF(0, half - depth), QPointF(half, -depth)}));
@@ -145,8 +153,8 @@ void paintRadioButton(QPainter& painter, const QRect& rect, const QStyleOption& 
     }
 }
 
-void paintFocusRing(QPainter& painter, const QRect& rect, const QStyleOption& option)
+void paintFocusRing(QPainter& painter, const QRect& rect)
 {
     const Canvas canvas(painter);
-    paintRounded(painter, rect, QPen(color(option, QPalette::Highlight), 1.5), Qt::NoBrush, BoxRadius);
+    paintRounded(painter, rect, QPen(ringColor(), 1.5), Qt::NoBrush, BoxRadius);
 }

@@ -2,6 +2,7 @@
 
 #include <Qt>
 
+class QColor;
 class QPainter;
 class QRect;
 class QStyleOption;
@@ -13,9 +14,9 @@ class QStyleOption;
 void paintField(QPainter& painter, const QRect& rect, const QStyleOption& option);
 /// The outline alone, for a frame around something that paints its own ground.
 void paintFieldFrame(QPainter& painter, const QRect& rect, const QStyleOption& option);
-/// A chevron in the middle of `rect`.
-void paintArrow(QPainter& painter, const QRect& rect, Qt::ArrowType direction, const QStyleOption& option);
+/// A chevron of that colour in the middle of `rect`.
+void paintArrow(QPainter& painter, const QRect& rect, Qt::ArrowType direction, const QColor& ink);
 /// A box, checked, half checked or empty as the option's state says.
 void paintCheckBox(QPainter& painter, const QRect& rect, const QStyleOption& option);
 void paintRadioButton(QPainter& painter, const QRect& rect, const QStyleOption& option);
-void paintFocusRing(QPainter& painter, const QRect& rect, const QStyleOption& option);
+void paintFocusRing(QPainter& painter, const QRect& rect);

@@ -3,9 +3,13 @@
 #include "settings/SkinPainting.h"
 
 #include <QAbstractScrollArea>
+#include <QCalendarWidget>
+#include <QGuiApplication>
+#include <QIconEngine>
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <QTextCharFormat>
 #include <QWidget>
 
 namespace
@@ -13,8 +17,39 @@ namespace
 
 constexpr int IndicatorSide = 18;
 /// Above and below the text of a one-line field.
-constexpr int FieldPadding = 6;
+constexpr int FieldPadding = 7;
 constexpr int ButtonsWidth = 22;
+
+/// A chevron in the colour of text on the accent, as the calendar's head is; it follows a change of skin.
+class HeadArrowEngine final : public QIconEngine
+{
+public:
+    explicit HeadArrowEngine(Qt::ArrowType direction) : m_direction(direction) { }
+
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override
+    {
+        const QColor ink = QGuiApplication::palette().color(QPalette::HighlightedText);
+        paintArrow(*painter, rect, m_direction, ink);
+    }
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
+    {
+        QPixmap pixmap(size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        paint(&painter, pixmap.rect(), mode, state);
+        return pixmap;
+    }
+    QIconEngine* clone() const override { return new HeadArrowEngine(*this); }
+
+private:
+    Qt::ArrowType m_direction;
+};
+
+QColor ink(const QStyleOption& option, QPalette::ColorRole role)
+{
+    return option.palette.color(
+        option.state.testFlag(QStyle::State_Enabled) ? QPalette::Active : QPalette::Disabled, role);
+}
 
 bool isFieldFrame(const QWidget* widget)
 {
@@ -39,19 +74,19 @@ void SkinStyle::drawPrimitive(
         paintRadioButton(*painter, option->rect, *option);
         return;
     case PE_IndicatorArrowUp:
-        paintArrow(*painter, option->rect, Qt::UpArrow, *option);
+        paintArrow(*painter, option->rect, Qt::UpArrow, ink(*option, QPalette::ButtonText));
         return;
     case PE_IndicatorArrowDown:
-        paintArrow(*painter, option->rect, Qt::DownArrow, *option);
+        paintArrow(*painter, option->rect, Qt::DownArrow, ink(*option, QPalette::ButtonText));
         return;
     case PE_IndicatorArrowLeft:
-        paintArrow(*painter, option->rect, Qt::LeftArrow, *option);
+        paintArrow(*painter, option->rect, Qt::LeftArrow, ink(*option, QPalette::ButtonText));
         return;
     case PE_IndicatorArrowRight:
-        paintArrow(*painter, option->rect, Qt::RightArrow, *option);
+        paintArrow(*painter, option->rect, Qt::RightArrow, ink(*option, QPalette::ButtonText));
         return;
     case PE_FrameFocusRect:
-        paintFocusRing(*painter, option->rect, *option);
+        paintFocusRing(*painter, option->rect);
         return;
     case PE_PanelLineEdit:
         if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
@@ -92,7 +127,7 @@ void SkinStyle::drawComboBox(
 {
     paintField(painter, option.rect, option);
     paintArrow(painter, proxy()->subControlRect(CC_ComboBox, &option, SC_ComboBoxArrow, widget),
-        Qt::DownArrow, option);
+        Qt::DownArrow, ink(option, QPalette::Text));
 }
 
 void SkinStyle::drawSpinBox(const QStyleOptionComplex& option, QPainter& painter, const QWidget* widget) const
@@ -109,7 +144,8 @@ void SkinStyle::drawSpinBox(const QStyleOptionComplex& option, QPainter& painter
         QStyleOption arrow(option);
         arrow.state.setFlag(
             State_Enabled, option.state.testFlag(State_Enabled) && spinBox->stepEnabled.testFlag(step));
-        paintArrow(painter, proxy()->subControlRect(CC_SpinBox, &option, button, widget), direction, arrow);
+        paintArrow(painter, proxy()->subControlRect(CC_SpinBox, &option, button, widget), direction,
+            ink(arrow, QPalette::Text));
     };
     paintButton(SC_SpinBoxUp, QAbstractSpinBox::StepUpEnabled, Qt::UpArrow);
     paintButton(SC_SpinBoxDown, QAbstractSpinBox::StepDownEnabled, Qt::DownArrow);
@@ -157,4 +193,23 @@ QSize SkinStyle::sizeFromContents(
         result.rwidth() += ButtonsWidth - 16;
     }
     return result;
+}
+
+QIcon SkinStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const
+{
+    if (qobject_cast<const QCalendarWidget*>(widget) != nullptr
+        && (icon == SP_ArrowLeft || icon == SP_ArrowRight)) {
+        return QIcon(new HeadArrowEngine(icon == SP_ArrowLeft ? Qt::LeftArrow : Qt::RightArrow));
+    }
+    return QProxyStyle::standardIcon(icon, option, widget);
+}
+
+void SkinStyle::polish(QWidget* widget)
+{
+    QProxyStyle::polish(widget);
+    if (auto* calendar = qobject_cast<QCalendarWidget*>(widget)) {
+        // The calendar's own red is not readable on every ground.
+        calendar->setWeekdayTextFormat(Qt::Saturday, {});
+        calendar->setWeekdayTextFormat(Qt::Sunday, {});
+    }
 }

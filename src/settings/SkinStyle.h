@@ -23,6 +23,9 @@ public:
         QStyleHintReturn* returned) const override;
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
         const QWidget* widget) const override;
+    QIcon standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const override;
+    using QProxyStyle::polish;
+    void polish(QWidget* widget) override;
 
 private:
     void drawSpinBox(const QStyleOptionComplex& option, QPainter& painter, const QWidget* widget) const;

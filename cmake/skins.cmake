@@ -1,0 +1,19 @@
+# The shipped skins: colours of their own, palette roles and style sheet in common. A skin file stands for itself.
+set(AMBERTASK_SKINS Aqua Classic Contrast Lemon Midnight)
+
+set(skin_sources "${PROJECT_SOURCE_DIR}/resources/skins")
+set(skin_files)
+foreach(skin IN LISTS AMBERTASK_SKINS)
+  set(skin_file "${AMBERTASK_PROGRAM_FOLDER}/Skins/${skin}.skf")
+  add_custom_command(
+    OUTPUT "${skin_file}"
+    COMMAND
+      "${CMAKE_COMMAND}" "-DCOLORS=${skin_sources}/${skin}.colors" "-DROLES=${skin_sources}/roles.txt"
+      "-DSHEET=${skin_sources}/sheet.qss" "-DOUTPUT=${skin_file}" -P "${CMAKE_CURRENT_LIST_DIR}/make_skin.cmake"
+    DEPENDS "${skin_sources}/${skin}.colors" "${skin_sources}/roles.txt" "${skin_sources}/sheet.qss"
+            "${CMAKE_CURRENT_LIST_DIR}/make_skin.cmake"
+    COMMENT "Making the skin ${skin}"
+    VERBATIM)
+  list(APPEND skin_files "${skin_file}")
+endforeach()
+add_custom_target(skins ALL DEPENDS ${skin_files})
