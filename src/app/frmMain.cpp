@@ -25,7 +25,7 @@ namespace
 enum Page { TasksIndex, CategoriesIndex, SettingsIndex, MaintenanceIndex };
 
 constexpr int BalloonMilliseconds = 2000;
-constexpr QSize FirstSize(860, 620);
+constexpr QSize FirstSize(960, 640);
 
 } // namespace
 
@@ -124,6 +124,7 @@ void frmMain::Form_Load()
             makeTopmost(this);
         }
         show();
+        m_pages.tasks->focusGrid();
     } else {
         stayReachable();
     }

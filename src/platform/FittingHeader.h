@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QHeaderView>
+
+/// A horizontal header that squeezes the letters of a caption that is a little too long for its column, so that a
+/// narrow column keeps its whole word. What is still too long is elided.
+class FittingHeader : public QHeaderView
+{
+    Q_OBJECT
+
+public:
+    explicit FittingHeader(QWidget* parent = nullptr);
+
+protected:
+    void paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const override;
+    void initStyleOptionForIndex(QStyleOptionHeader* option, int logicalIndex) const override;
+
+private:
+    QFont fontFor(int logicalIndex) const;
+};
