@@ -15,8 +15,8 @@ struct GridColumn {
     int widthDivisor = 0;
 };
 
-/// The columns and the picture list of a grid; what stands in a cell is asked of the derived class, only when the cell
-/// is painted or read.
+/// The columns and the picture list of a grid; what stands in a cell is asked of the derived class, only when
+/// the cell is painted or read.
 class GridModel : public QAbstractTableModel
 {
     Q_OBJECT

@@ -1,5 +1,6 @@
 #include "platform/GridView.h"
 
+#include "platform/FittingHeader.h"
 #include "platform/GridModel.h"
 
 #include <QHeaderView>
@@ -7,16 +8,18 @@
 #include <QScopedValueRollback>
 #include <cmath>
 
-namespace {
+namespace
+{
 
 constexpr double UnitsPerPixel = 15;
 constexpr int IconSize = 16;
 constexpr int RowPadding = 8;
 
-}
+} // namespace
 
 GridView::GridView(QWidget* parent) : QTableView(parent)
 {
+    setHorizontalHeader(new FittingHeader(this));
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -31,6 +34,7 @@ GridView::GridView(QWidget* parent) : QTableView(parent)
     verticalHeader()->setMinimumSectionSize(IconSize);
     verticalHeader()->setDefaultSectionSize(qMax(IconSize, fontMetrics().height()) + RowPadding);
     horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     horizontalHeader()->setMinimumSectionSize(IconSize);
     connect(horizontalHeader(), &QHeaderView::sectionResized, this, &GridView::takeUserWidth);
@@ -42,7 +46,7 @@ void GridView::setGridModel(GridModel* model)
     m_gridModel = model;
     setModel(model);
     connect(model, &QAbstractItemModel::modelReset, this, [this] {
-        m_shares.clear();
+        m_draggedShares.clear();
         layOutColumns();
     });
     layOutColumns();
@@ -50,7 +54,8 @@ void GridView::setGridModel(GridModel* model)
 
 int GridView::selectedRow() const
 {
-    const QModelIndexList rows = selectionModel() == nullptr ? QModelIndexList() : selectionModel()->selectedRows();
+    const QModelIndexList rows =
+        selectionModel() == nullptr ? QModelIndexList() : selectionModel()->selectedRows();
     return rows.isEmpty() ? -1 : rows.first().row();
 }
 
@@ -98,24 +103,27 @@ void GridView::layOutColumns()
     }
     const QScopedValueRollback guard(m_layingOut, true);
     const QList<GridColumn>& columns = m_gridModel->columns();
-    if (m_shares.size() != static_cast<std::size_t>(columns.size())) {
-        m_shares.clear();
-        for (const GridColumn& column : columns) {
-            m_shares.push_back(column.widthDivisor == 0 ? 0 : UnitsPerPixel / column.widthDivisor);
-        }
-    }
+    m_draggedShares.resize(static_cast<std::size_t>(columns.size()));
     for (int i = 0; i < columns.size(); ++i) {
         const bool hidden = columns[i].widthDivisor == 0;
         setColumnHidden(i, hidden);
         if (!hidden) {
-            setColumnWidth(i, static_cast<int>(std::lround(m_shares[static_cast<std::size_t>(i)] * width())));
+            setColumnWidth(i, widthOf(i));
         }
     }
 }
 
+int GridView::widthOf(int column) const
+{
+    const std::optional<double> share = m_draggedShares[static_cast<std::size_t>(column)];
+    const double pixels =
+        share ? *share * width() : UnitsPerPixel * width() / m_gridModel->columns()[column].widthDivisor;
+    return static_cast<int>(std::lround(pixels));
+}
+
 void GridView::takeUserWidth(int column, int /*oldSize*/, int newSize)
 {
-    if (!m_layingOut && width() > 0 && static_cast<std::size_t>(column) < m_shares.size()) {
-        m_shares[static_cast<std::size_t>(column)] = static_cast<double>(newSize) / width();
+    if (!m_layingOut && width() > 0 && static_cast<std::size_t>(column) < m_draggedShares.size()) {
+        m_draggedShares[static_cast<std::size_t>(column)] = static_cast<double>(newSize) / width();
     }
 }

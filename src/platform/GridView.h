@@ -1,11 +1,13 @@
 #pragma once
 
 #include <QTableView>
+#include <optional>
 #include <vector>
 
 class GridModel;
 
-/// A grid of whole rows of one fixed height. The selection is one row or none; rows and columns come from a GridModel.
+/// A grid of whole rows of one fixed height. The selection is one row or none; rows and columns come from a
+/// GridModel. When the selected row is removed, the row that takes its place is selected, else the last one.
 class GridView : public QTableView
 {
     Q_OBJECT
@@ -13,8 +15,8 @@ class GridView : public QTableView
 public:
     explicit GridView(QWidget* parent = nullptr);
 
-    /// The grid does not own `model`. After every reset of the model the columns get the widths that they ask for and no
-    /// row is selected.
+    /// The grid does not own `model`; set once. After every reset of the model the columns get the widths
+    /// that they ask for and no row is selected. Columns follow a change of the grid's width in proportion.
     void setGridModel(GridModel* model);
 
     /// The selected row, counted from 0; -1 for none.
@@ -38,7 +40,9 @@ private:
     void takeUserWidth(int column, int oldSize, int newSize);
 
     GridModel* m_gridModel = nullptr;
-    /// Width of each column as a share of the grid's width; follows the user's dragging.
-    std::vector<double> m_shares;
+    int widthOf(int column) const;
+
+    /// For each column that the user has dragged, its width as a share of the grid's width.
+    std::vector<std::optional<double>> m_draggedShares;
     bool m_layingOut = false;
 };

@@ -11,7 +11,10 @@ std::unique_ptr<WaveBackend> loadWaveBackend()
     return std::unique_ptr<WaveBackend>(make == nullptr ? nullptr : make());
 }
 
-MMControl::MMControl(WaveBackendFactory factory, QObject* parent) : QObject(parent), m_factory(std::move(factory)) { }
+MMControl::MMControl(WaveBackendFactory factory, QObject* parent)
+    : QObject(parent), m_factory(std::move(factory))
+{
+}
 
 MMControl::~MMControl() = default;
 
@@ -23,7 +26,9 @@ void MMControl::Command(const QString& command)
         if (m_backend == nullptr && m_factory) {
             m_backend = m_factory();
             if (m_backend != nullptr) {
-                m_backend->onDone = [this] { emit Done(); };
+                m_backend->onDone = [this] {
+                    emit Done();
+                };
             }
         }
         if (m_backend != nullptr && !m_openFile.isEmpty()) {

@@ -6,13 +6,12 @@
 #include <QString>
 #include <memory>
 
-/// Makes the backend, or nothing where sounds cannot be played.
-using WaveBackendFactory = std::function<std::unique_ptr<WaveBackend>()>;
-/// Loads the sound module that lies beside the program; the module stays loaded.
+/// Loads the sound module that lies beside the program; nothing when there is none. The module stays loaded.
 std::unique_ptr<WaveBackend> loadWaveBackend();
 
-/// The multimedia control: set the properties, then send the commands "Open" and "Play". Each "Play" starts at once and
-/// may overlap the sound before; "Close" stops all. Interface thread only; nothing here blocks or fails.
+/// The multimedia control: set the properties, then send the commands "Open" and "Play". Each "Play" starts
+/// at once and may overlap the sound before; "Close" stops all. Interface thread only; nothing here blocks or
+/// fails.
 class MMControl : public QObject
 {
     Q_OBJECT

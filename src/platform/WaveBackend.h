@@ -2,8 +2,9 @@
 
 #include <QString>
 #include <functional>
+#include <memory>
 
-/// Plays wave files; a module of its own, loaded when the first sound is played.
+/// Plays wave files; a module of its own, loaded when the first sound is played. Interface thread only.
 class WaveBackend
 {
 public:
@@ -18,3 +19,6 @@ public:
     /// Called when the last sound that was playing has come to its end by itself.
     std::function<void()> onDone;
 };
+
+/// Makes the backend, or nothing where sounds cannot be played.
+using WaveBackendFactory = std::function<std::unique_ptr<WaveBackend>()>;

@@ -1,0 +1,117 @@
+#include "reminders/AlertControls.h"
+
+#include "platform/GridView.h"
+#include "reminders/FlashBand.h"
+#include "ui/Pickers.h"
+
+#include <QDateEdit>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QTimeEdit>
+#include <QVBoxLayout>
+
+namespace
+{
+
+constexpr QSize SmallestGrid(420, 130);
+
+template <typename Control> Control* named(Control* control, const QString& name)
+{
+    control->setObjectName(name);
+    return control;
+}
+
+QPushButton* button(const QString& caption, const QString& name, QWidget& form)
+{
+    auto* made = named(new QPushButton(caption, &form), name);
+    made->setAutoDefault(false);
+    return made;
+}
+
+QLabel* labelOf(QWidget* buddy, const QString& text, QWidget* parent)
+{
+    auto* label = new QLabel(text, parent);
+    label->setTextFormat(Qt::PlainText);
+    label->setBuddy(buddy);
+    return label;
+}
+
+} // namespace
+
+AlertControls::AlertControls(QWidget& form)
+    : grdTasks(named(new GridView(&form), QStringLiteral("grdTasks"))),
+      band(named(new FlashBand(tr("Due re&minders"), &form), QStringLiteral("lblDueReminders"))),
+      framNewReminder(named(new QGroupBox(tr("New reminder"), &form), QStringLiteral("framNewReminder"))),
+      dtpReminderDate(named(new QDateEdit(framNewReminder), QStringLiteral("dtpReminderDate"))),
+      dtpReminderTime(named(new QTimeEdit(framNewReminder), QStringLiteral("dtpReminderTime"))),
+      btnRemindMeLater(button(tr("&Remind me later"), QStringLiteral("btnRemindMeLater"), form)),
+      btnOpenItem(button(tr("&Open Item"), QStringLiteral("btnOpenItem"), form)),
+      btnDismiss(button(tr("&Dismiss"), QStringLiteral("btnDismiss"), form)),
+      btnDismissAll(button(tr("Dismiss &All"), QStringLiteral("btnDismissAll"), form)),
+      btnHelp(button(tr("&Help"), QStringLiteral("btnHelp"), form))
+{
+    band->setBuddy(grdTasks);
+    grdTasks->setMinimumSize(SmallestGrid);
+    setUpDatePicker(*dtpReminderDate);
+    setUpTimePicker(*dtpReminderTime);
+    btnHelp->setEnabled(false);
+    layOut(form);
+    setAccessibleNames();
+    setTabOrder();
+}
+
+void AlertControls::layOut(QWidget& form)
+{
+    auto* list = new QVBoxLayout;
+    list->setSpacing(0);
+    list->addWidget(band);
+    list->addWidget(grdTasks, 1);
+
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(btnOpenItem);
+    buttons->addWidget(btnDismiss);
+    buttons->addWidget(btnDismissAll);
+    buttons->addStretch(1);
+    buttons->addWidget(btnHelp);
+
+    layOutNewReminder();
+    auto* all = new QVBoxLayout(&form);
+    all->addLayout(list, 1);
+    all->addLayout(buttons);
+    all->addWidget(framNewReminder);
+}
+
+void AlertControls::layOutNewReminder()
+{
+    auto* row = new QHBoxLayout(framNewReminder);
+    row->addWidget(labelOf(dtpReminderDate, tr("Da&te:"), framNewReminder));
+    row->addWidget(dtpReminderDate);
+    row->addSpacing(row->spacing());
+    row->addWidget(labelOf(dtpReminderTime, tr("T&ime:"), framNewReminder));
+    row->addWidget(dtpReminderTime);
+    row->addStretch(1);
+    row->addWidget(btnRemindMeLater);
+}
+
+void AlertControls::setAccessibleNames()
+{
+    grdTasks->setAccessibleName(tr("Due reminders"));
+    dtpReminderDate->setAccessibleName(tr("New reminder date"));
+    dtpReminderTime->setAccessibleName(tr("New reminder time"));
+    btnRemindMeLater->setAccessibleDescription(tr("Moves the selected reminder to the new date and time"));
+    btnOpenItem->setAccessibleDescription(tr("Opens the task of the selected reminder"));
+    btnDismiss->setAccessibleDescription(tr("Switches the selected reminder off"));
+    btnDismissAll->setAccessibleDescription(tr("Switches all due reminders off"));
+}
+
+void AlertControls::setTabOrder()
+{
+    QWidget* last = grdTasks;
+    for (QWidget* next : std::initializer_list<QWidget*>{btnOpenItem, btnDismiss, btnDismissAll, btnHelp,
+             dtpReminderDate, dtpReminderTime, btnRemindMeLater}) {
+        QWidget::setTabOrder(last, next);
+        last = next;
+    }
+}

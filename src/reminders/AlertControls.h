@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QCoreApplication>
+
+class FlashBand;
+class GridView;
+class QDateEdit;
+class QGroupBox;
+class QPushButton;
+class QTimeEdit;
+class QWidget;
+
+/// The controls of the alert window and their places. They are children of `form`, which owns them.
+class AlertControls
+{
+    Q_DECLARE_TR_FUNCTIONS(frmAlerts)
+
+public:
+    explicit AlertControls(QWidget& form);
+
+    GridView* grdTasks;
+    FlashBand* band; ///< inverts while the window is active
+    QGroupBox* framNewReminder;
+    QDateEdit* dtpReminderDate;
+    QTimeEdit* dtpReminderTime;
+    QPushButton* btnRemindMeLater;
+    QPushButton* btnOpenItem;
+    QPushButton* btnDismiss;
+    QPushButton* btnDismissAll;
+    QPushButton* btnHelp;
+
+private:
+    void layOut(QWidget& form);
+    void layOutNewReminder();
+    void setAccessibleNames();
+    void setTabOrder();
+};

@@ -1,0 +1,76 @@
+#include "reminders/AlertListModel.h"
+
+#include "ui/MomentTexts.h"
+#include "ui/TaskPictures.h"
+
+#include <algorithm>
+
+void AlertListModel::createColumns()
+{
+    setColumns({{Id, QStringLiteral("id"), tr("id"), 0}, {Name, QStringLiteral("name"), tr("Name"), 26},
+        {Periority, QStringLiteral("periority"), tr("Periority"), 200},
+        {DueDate, QStringLiteral("due date"), tr("Due Date"), 48}});
+}
+
+void AlertListModel::setReminders(const std::vector<DueReminder>& reminders)
+{
+    if (!m_reminders.empty()) {
+        beginRemoveRows({}, 0, rowCount() - 1);
+        m_reminders.clear();
+        endRemoveRows();
+    }
+    if (!reminders.empty()) {
+        beginInsertRows({}, 0, static_cast<int>(reminders.size()) - 1);
+        m_reminders = reminders;
+        endInsertRows();
+    }
+}
+
+void AlertListModel::removeReminder(int row)
+{
+    beginRemoveRows({}, row, row);
+    m_reminders.erase(m_reminders.begin() + row);
+    endRemoveRows();
+}
+
+bool AlertListModel::lists(const std::vector<DueReminder>& reminders) const
+{
+    return std::equal(m_reminders.begin(), m_reminders.end(), reminders.begin(), reminders.end(),
+        [](const DueReminder& shown, const DueReminder& due) { return shown.id == due.id; });
+}
+
+int AlertListModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_reminders.size());
+}
+
+QString AlertListModel::cellText(int row, int field) const
+{
+    switch (field) {
+    case Id:
+        return QString::number(at(row).id);
+    case Name:
+        return at(row).name;
+    case DueDate:
+        return dateAndLongTime(at(row).dueDate);
+    default:
+        return {};
+    }
+}
+
+int AlertListModel::cellIcon(int row, int field) const
+{
+    switch (field) {
+    case Name:
+        return at(row).icon;
+    case Periority:
+        return periorityPicture(at(row).periority);
+    default:
+        return NoIcon;
+    }
+}
+
+QString AlertListModel::cellWord(int row, int field) const
+{
+    return field == Periority ? periorityWord(at(row).periority) : QString();
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "platform/GridModel.h"
+#include "reminders/ReminderChecker.h"
+
+#include <vector>
+
+/// The due reminders that the alert window lists, in the order of the query.
+class AlertListModel : public GridModel
+{
+    Q_OBJECT
+
+public:
+    enum Field { Id, Name, Periority, DueDate };
+
+    using GridModel::GridModel;
+
+    void createColumns();
+    /// Replaces all rows. The columns and the widths that the user has given them stay.
+    void setReminders(const std::vector<DueReminder>& reminders);
+    void removeReminder(int row);
+    /// Whether these very tasks are listed, in this order.
+    bool lists(const std::vector<DueReminder>& reminders) const;
+    /// The task id of a row as the text of its cell.
+    QString idText(int row) const { return cellText(row, Id); }
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+
+protected:
+    QString cellText(int row, int field) const override;
+    int cellIcon(int row, int field) const override;
+    QString cellWord(int row, int field) const override;
+
+private:
+    const DueReminder& at(int row) const { return m_reminders[static_cast<std::size_t>(row)]; }
+
+    std::vector<DueReminder> m_reminders;
+};

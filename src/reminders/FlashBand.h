@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QLabel>
+
+/// A caption inside the window whose colours can be inverted: what the title bar of a window does when it
+/// flashes. Takes its colours from the palette's highlight.
+class FlashBand : public QLabel
+{
+    Q_OBJECT
+
+public:
+    explicit FlashBand(const QString& text, QWidget* parent = nullptr);
+
+    bool isInverted() const { return m_inverted; }
+    void setInverted(bool inverted);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    bool m_inverted = false;
+};

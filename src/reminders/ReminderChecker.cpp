@@ -1,0 +1,63 @@
+#include "reminders/ReminderChecker.h"
+
+#include "data/ClsDatabase.h"
+
+namespace
+{
+
+const QLatin1String DueQuery("select * from tasks,categories  where tasks.cat_id=categories.cat_id and "
+                             "reminder_date_time <= now() and "
+                             "dismissed =0 and reminder_on=true");
+const QLatin1String MarkPlayed(
+    "update  tasks set played=1 where reminder_date_time <= now() and dismissed =0 and reminder_on=true");
+
+} // namespace
+
+ReminderChecker::ReminderChecker(const DatabaseEngine& engine)
+    : m_clock(engine.clock->now()), m_engine{engine.programFolder, &m_clock, engine.listener},
+      m_connection(ClsDatabase(m_engine).Connect())
+{
+    m_connection.open();
+    readDue();
+}
+
+void ReminderChecker::readDue()
+{
+    RecordSet records = m_connection.execute(DueQuery);
+    const int id = records.field("task_id");
+    const int name = records.field("task_name");
+    const int icon = records.field("cat_icon");
+    const int periority = records.field("task_periority");
+    const int dueDate = records.field("task_due_date");
+    const int sound = records.field("reminder_sound");
+    const int file = records.field("reminder_file");
+    const int played = records.field("played");
+    const int reminderOn = records.field("reminder_on");
+    for (; !records.atEnd(); records.moveNext()) {
+        m_due.push_back({records.int32(id), records.text(name), records.int16(icon), records.int32(periority),
+            records.moment(dueDate), records.text(sound), records.text(file), records.flag(played),
+            records.flag(reminderOn)});
+    }
+}
+
+ReminderChecker::Outcome ReminderChecker::outcome(int shownRows) const
+{
+    const int count = static_cast<int>(m_due.size());
+    if (count == shownRows) {
+        return Outcome::Nothing;
+    }
+    if (count == 0) {
+        return Outcome::Hide;
+    }
+    return count > shownRows ? Outcome::BringUp : Outcome::Redraw;
+}
+
+void ReminderChecker::markPlayed()
+{
+    m_connection.execute(MarkPlayed);
+}
+
+void ReminderChecker::close()
+{
+    m_connection.close();
+}

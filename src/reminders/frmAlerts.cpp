@@ -1,0 +1,336 @@
+#include "reminders/frmAlerts.h"
+
+#include "platform/Clock.h"
+#include "platform/ErrorReport.h"
+#include "platform/GridView.h"
+#include "platform/MessageBoxes.h"
+#include "platform/Shell.h"
+#include "platform/WindowPlacement.h"
+#include "reminders/AlertsHost.h"
+#include "reminders/FlashBand.h"
+#include "ui/DateComposition.h"
+#include "ui/Pickers.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDateEdit>
+#include <QPushButton>
+#include <QTimeEdit>
+#include <utility>
+
+namespace
+{
+
+using namespace std::chrono_literals;
+
+constexpr auto CheckerInterval = 10000ms;
+constexpr auto FlasherInterval = 1000ms;
+constexpr QSize FirstSize(520, 340);
+
+/// A message box or a pop-up of the program takes the activation for a while without being another window.
+bool isOwnBoxOpen()
+{
+    return QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr;
+}
+
+} // namespace
+
+frmAlerts::frmAlerts(
+    const FormServices& services, AlertsHost& host, WaveBackendFactory waveBackend, QWidget* parent)
+    : QWidget(parent, Qt::Dialog), m_services(services), m_host(host), m_database(services.engine),
+      m_mmc(std::move(waveBackend), this), m_tmrTasksChecker(this), m_tmrFlasher(this), m_controls(*this)
+{
+    setObjectName(QStringLiteral("frmAlerts"));
+    setWindowTitle(tr("%1 Reminders").arg(0));
+    resize(FirstSize);
+    m_mmc.setObjectName(QStringLiteral("mmc"));
+    m_tmrTasksChecker.setObjectName(QStringLiteral("tmrTasksChecker"));
+    m_tmrTasksChecker.setInterval(CheckerInterval);
+    m_tmrFlasher.setObjectName(QStringLiteral("tmrFlasher"));
+    m_tmrFlasher.setInterval(FlasherInterval);
+    m_controls.grdTasks->setGridModel(&m_reminders);
+    setPickersToNow();
+    connectControls();
+}
+
+void frmAlerts::connectControls()
+{
+    ErrorReport& errors = m_services.errors;
+    connectGuarded(m_controls.btnDismiss, &QPushButton::clicked, this, &frmAlerts::btnDismiss_Click, errors);
+    connectGuarded(
+        m_controls.btnDismissAll, &QPushButton::clicked, this, &frmAlerts::btnDismissAll_Click, errors);
+    connectGuarded(
+        m_controls.btnRemindMeLater, &QPushButton::clicked, this, &frmAlerts::btnRemindMeLater_Click, errors);
+    connectGuarded(
+        m_controls.btnOpenItem, &QPushButton::clicked, this, &frmAlerts::btnOpenItem_Click, errors);
+    connectGuarded(
+        m_controls.grdTasks, &GridView::rowDoubleClicked, this, &frmAlerts::btnOpenItem_Click, errors);
+    connect(m_controls.btnHelp, &QPushButton::clicked, this, &frmAlerts::helpRequested);
+    connect(&m_tmrTasksChecker, &QTimer::timeout, this, &frmAlerts::tmrTasksChecker_Timer);
+    connect(&m_tmrFlasher, &QTimer::timeout, this, &frmAlerts::tmrFlasher_Timer);
+    connect(&m_mmc, &MMControl::Done, this, &frmAlerts::closeSound);
+}
+
+void frmAlerts::load()
+{
+    tmrTasksChecker_Timer();
+    setCheckerEnabled(true);
+}
+
+void frmAlerts::setCheckerEnabled(bool enabled)
+{
+    if (!enabled) {
+        m_tmrTasksChecker.stop();
+    } else if (!m_tmrTasksChecker.isActive()) {
+        m_tmrTasksChecker.start();
+    }
+}
+
+void frmAlerts::focusGrid()
+{
+    m_controls.grdTasks->setFocus();
+    if (isVisible()) {
+        activateWindow();
+    }
+}
+
+void frmAlerts::setHelpEnabled(bool enabled)
+{
+    m_controls.btnHelp->setEnabled(enabled);
+}
+
+void frmAlerts::tmrTasksChecker_Timer()
+{
+    try {
+        check();
+    } catch (const std::exception&) {
+        // A report every ten seconds would help nobody; the next tick tries again.
+    }
+}
+
+void frmAlerts::check()
+{
+    using Outcome = ReminderChecker::Outcome;
+    m_reminders.setImageList(&m_services.imgLstCategories);
+    if (m_reminders.columnCount() == 0) {
+        m_reminders.createColumns();
+    }
+    ReminderChecker checker(m_services.engine);
+    const Outcome outcome = checker.outcome(m_reminders.rowCount());
+    if (outcome != Outcome::Nothing) {
+        redraw(checker.due());
+    }
+    if (outcome == Outcome::BringUp) {
+        comeUp();
+        m_owesMark = true;
+    } else if (outcome == Outcome::Hide) {
+        hide();
+        m_owesMark = false;
+    }
+    // A mark that failed is made up for only while exactly what has sounded is due.
+    const bool marks = m_owesMark && outcome != Outcome::Redraw && m_reminders.lists(checker.due());
+    if (marks) {
+        checker.markPlayed();
+    }
+    checker.close();
+    if (marks) {
+        m_owesMark = false;
+    }
+}
+
+void frmAlerts::redraw(const std::vector<DueReminder>& due)
+{
+    setWindowTitle((due.size() == 1 ? tr("%1 Reminder") : tr("%1 Reminders")).arg(due.size()));
+    m_reminders.setReminders(due);
+    for (const DueReminder& reminder : due) {
+        fire(reminder);
+    }
+}
+
+void frmAlerts::fire(const DueReminder& reminder)
+{
+    if (reminder.playsSound()) {
+        m_mmc.Notify = false;
+        m_mmc.Wait = false;
+        m_mmc.Shareable = false;
+        m_mmc.DeviceType = QStringLiteral("WaveAudio");
+        m_mmc.FileName = reminder.sound;
+        m_mmc.Command(QStringLiteral("Open"));
+        m_mmc.Command(QStringLiteral("Play"));
+    }
+    if (reminder.startsFile()) {
+        m_services.shell.startMinimized(reminder.file);
+    }
+}
+
+void frmAlerts::comeUp()
+{
+    m_controls.grdTasks->selectOnly(0);
+    if (m_services.alwaysOnTop()) {
+        makeTopmost(this);
+    }
+    const bool wasMinimized = isVisible() && isMinimized();
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    bringToFront(this);
+    if (wasMinimized) {
+        m_controls.grdTasks->setFocus();
+    }
+    QApplication::alert(this);
+}
+
+void frmAlerts::btnDismiss_Click()
+{
+    const int row = m_controls.grdTasks->selectedRow();
+    if (row >= 0) {
+        Connection connection = openConnection();
+        store(connection,
+            QStringLiteral("update tasks set dismissed=1,reminder_on=0 where task_id = ")
+                + m_reminders.idText(row));
+        removeReminder(row);
+        connection.close();
+        emit remindersDismissed();
+    }
+    closeSound();
+}
+
+void frmAlerts::btnDismissAll_Click()
+{
+    Connection connection = openConnection();
+    store(connection,
+        QStringLiteral("update  tasks set dismissed=1,reminder_on=0 where reminder_date_time <= now() and "
+                       "dismissed =0 and reminder_on=true"));
+    hide();
+    connection.close();
+    emit remindersDismissed();
+    closeSound();
+}
+
+void frmAlerts::btnRemindMeLater_Click()
+{
+    const int row = m_controls.grdTasks->selectedRow();
+    if (row < 0) {
+        return;
+    }
+    const QDate date = m_controls.dtpReminderDate->date();
+    const QTime time = m_controls.dtpReminderTime->time();
+    if (composeMoment(date, time) < m_services.clock.now()) {
+        m_services.messages.tell(this, MessageBoxes::Icon::Exclamation,
+            tr("Reminder date and time should not be earlier than current system date and time"));
+        return;
+    }
+    Connection connection = openConnection();
+    store(connection,
+        QStringLiteral("update tasks set played=0 ,reminder_date_time =#") + monthFirstText(date, time)
+            + QStringLiteral("# where task_id = ") + m_reminders.idText(row));
+    removeReminder(row);
+    connection.close();
+    closeSound();
+}
+
+void frmAlerts::btnOpenItem_Click()
+{
+    const int row = m_controls.grdTasks->selectedRow();
+    if (row >= 0) {
+        m_host.openTask(narrowId(m_reminders.idText(row).toLongLong(), tr("task id")));
+    }
+}
+
+Connection frmAlerts::openConnection() const
+{
+    Connection connection = m_database.Connect();
+    connection.open();
+    return connection;
+}
+
+void frmAlerts::store(Connection& connection, const QString& statement)
+{
+    connection.execute(statement);
+    connection.commit();
+}
+
+void frmAlerts::removeReminder(int row)
+{
+    m_reminders.removeReminder(row);
+    if (m_reminders.rowCount() == 0) {
+        hide();
+    }
+}
+
+void frmAlerts::closeSound()
+{
+    m_mmc.Command(QStringLiteral("Close"));
+}
+
+bool frmAlerts::event(QEvent* event)
+{
+    const bool handled = QWidget::event(event);
+    if (event->type() == QEvent::WindowActivate) {
+        Form_Activate();
+    } else if (event->type() == QEvent::WindowDeactivate) {
+        Form_Deactivate();
+    }
+    return handled;
+}
+
+void frmAlerts::Form_Activate()
+{
+    if (!m_isActive) {
+        m_isActive = true;
+        setPickersToNow();
+        m_tmrFlasher.start();
+    }
+}
+
+void frmAlerts::Form_Deactivate()
+{
+    if (!isOwnBoxOpen()) {
+        stopFlashing();
+    }
+}
+
+void frmAlerts::stopFlashing()
+{
+    m_isActive = false;
+    m_tmrFlasher.stop();
+    m_controls.band->setInverted(false);
+}
+
+void frmAlerts::tmrFlasher_Timer()
+{
+    // A box of the program was closed and the activation went on to another window.
+    if (!isActiveWindow() && !isOwnBoxOpen()) {
+        stopFlashing();
+        return;
+    }
+    if (isVisible()) {
+        m_controls.band->setInverted(!m_controls.band->isInverted());
+        QApplication::alert(this);
+    }
+}
+
+void frmAlerts::setPickersToNow()
+{
+    setPickers(*m_controls.dtpReminderDate, *m_controls.dtpReminderTime, m_services.clock.now());
+}
+
+void frmAlerts::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (!event->spontaneous()) {
+        setPickersToNow();
+        m_controls.grdTasks->setFocus();
+    }
+}
+
+void frmAlerts::closeEvent(QCloseEvent* event)
+{
+    // Only the close box hides; a log-out and the end of the program unload the window.
+    if (event->spontaneous() && !qGuiApp->isSavingSession()) {
+        event->ignore();
+        hide();
+        closeSound();
+    } else {
+        QWidget::closeEvent(event);
+    }
+}

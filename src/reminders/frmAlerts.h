@@ -1,0 +1,84 @@
+#pragma once
+
+#include "data/ClsDatabase.h"
+#include "platform/MMControl.h"
+#include "reminders/AlertControls.h"
+#include "reminders/AlertListModel.h"
+#include "ui/FormServices.h"
+
+#include <QTimer>
+#include <QWidget>
+
+class AlertsHost;
+
+/// The alert window: lists the due reminders, looks for new ones every ten seconds, sounds and starts what
+/// they name, and offers what can be done with them. It comes up by itself and has no owner; the close box
+/// only hides it. Interface thread only.
+class frmAlerts final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Not shown and not checking yet. `host` is not owned and outlives the window.
+    frmAlerts(const FormServices& services, AlertsHost& host, WaveBackendFactory waveBackend,
+        QWidget* parent = nullptr);
+
+    /// Runs one check at once and starts the checker's timer.
+    void load();
+    /// One check for due reminders. Never throws: a check that fails leaves the list as it was, and the next
+    /// one tries again.
+    void tmrTasksChecker_Timer();
+    /// Stops the checker's timer, or lets it run; switching on a running timer changes nothing.
+    void setCheckerEnabled(bool enabled);
+    /// Gives the focus to the list of reminders; activates the window when it is visible, never shows it.
+    void focusGrid();
+    /// The help button works; disabled at first.
+    void setHelpEnabled(bool enabled);
+
+signals:
+    /// One or all reminders were dismissed and the data file is closed again.
+    void remindersDismissed();
+    void helpRequested();
+
+protected:
+    bool event(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void connectControls();
+
+    void check();
+    void redraw(const std::vector<DueReminder>& due);
+    void fire(const DueReminder& reminder);
+    void comeUp();
+
+    void btnDismiss_Click();
+    void btnDismissAll_Click();
+    void btnRemindMeLater_Click();
+    void btnOpenItem_Click();
+    void tmrFlasher_Timer();
+    void closeSound();
+
+    void Form_Activate();
+    void Form_Deactivate();
+    void stopFlashing();
+    void setPickersToNow();
+
+    Connection openConnection() const;
+    /// Runs a statement that changes the data file and makes it durable.
+    void store(Connection& connection, const QString& statement);
+    void removeReminder(int row);
+
+    FormServices m_services;
+    AlertsHost& m_host;
+    ClsDatabase m_database;
+    MMControl m_mmc;
+    AlertListModel m_reminders;
+    QTimer m_tmrTasksChecker;
+    QTimer m_tmrFlasher;
+    AlertControls m_controls;
+    bool m_isActive = false;
+    /// What is listed has sounded, but could not be marked as played.
+    bool m_owesMark = false;
+};

@@ -1,0 +1,287 @@
+#include "platform/GridModel.h"
+#include "platform/GridView.h"
+#include "platform/ImageList.h"
+#include "support/TestMain.h"
+
+#include <QAbstractItemModelTester>
+#include <QHeaderView>
+#include <QSignalSpy>
+#include <QTest>
+#include <cmath>
+
+namespace
+{
+
+/// Rows of one text each; the text is shown by field 1, its picture number by field 2.
+class WordsModel final : public GridModel
+{
+public:
+    using GridModel::GridModel;
+
+    void setWords(const QStringList& words, const QList<GridColumn>& columns)
+    {
+        beginResetModel();
+        m_words = words;
+        replaceColumns(columns);
+        endResetModel();
+    }
+    void removeWord(int row)
+    {
+        beginRemoveRows({}, row, row);
+        m_words.removeAt(row);
+        endRemoveRows();
+    }
+    int rowCount(const QModelIndex& parent = {}) const override
+    {
+        return parent.isValid() ? 0 : static_cast<int>(m_words.size());
+    }
+
+protected:
+    QString cellText(int row, int field) const override { return field == 2 ? QString() : m_words[row]; }
+    int cellIcon(int row, int field) const override { return field == 2 ? row : NoIcon; }
+    QString cellWord(int row, int field) const override
+    {
+        return field == 2 ? QStringLiteral("picture %1").arg(row) : QString();
+    }
+
+private:
+    QStringList m_words;
+};
+
+QList<GridColumn> columns()
+{
+    return {{0, QStringLiteral("id"), QStringLiteral("id"), 0},
+        {1, QStringLiteral("name"), QStringLiteral("Name"), 26},
+        {2, QStringLiteral("periority"), QStringLiteral("Periority"), 200}};
+}
+
+struct ShownGrid {
+    ShownGrid()
+    {
+        model.setWords({QStringLiteral("one"), QStringLiteral("two"), QStringLiteral("three")}, columns());
+        grid.setGridModel(&model);
+        grid.resize(500, 300);
+        grid.show();
+        isActive = QTest::qWaitForWindowActive(&grid);
+    }
+    QPoint placeOf(int row) const { return grid.visualRect(model.index(row, 1)).center(); }
+
+    WordsModel model;
+    GridView grid;
+    bool isActive = false;
+};
+
+int expectedWidth(int gridWidth, int divisor)
+{
+    return static_cast<int>(std::lround(15.0 * gridWidth / divisor));
+}
+
+} // namespace
+
+class tst_grid : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void theModelKeepsTheRulesOfModels()
+    {
+        WordsModel model;
+        const QAbstractItemModelTester tester(&model);
+        model.setWords({QStringLiteral("a"), QStringLiteral("b")}, columns());
+        model.removeWord(0);
+        model.setColumns(columns().mid(1));
+        QCOMPARE(model.columnCount(), 2);
+        QCOMPARE(model.columnCount(model.index(0, 0)), 0);
+    }
+
+    void theHeaderCarriesTextAndKeyAlignedLeft()
+    {
+        WordsModel model;
+        model.setColumns(columns());
+        QCOMPARE(model.headerData(1, Qt::Horizontal, Qt::DisplayRole).toString(), QStringLiteral("Name"));
+        QCOMPARE(model.headerData(1, Qt::Horizontal, Qt::UserRole).toString(), QStringLiteral("name"));
+        QCOMPARE(model.headerData(1, Qt::Horizontal, Qt::TextAlignmentRole).toInt(),
+            int(Qt::AlignLeft | Qt::AlignVCenter));
+        QVERIFY(!model.headerData(1, Qt::Horizontal, Qt::DecorationRole).isValid());
+        QVERIFY(!model.headerData(3, Qt::Horizontal, Qt::DisplayRole).isValid());
+        QVERIFY(!model.headerData(-1, Qt::Horizontal, Qt::DisplayRole).isValid());
+        QVERIFY(!model.headerData(0, Qt::Vertical, Qt::DisplayRole).isValid());
+    }
+
+    void aPictureCellSaysItsWordToScreenReadersAndInTheToolTip()
+    {
+        WordsModel model;
+        model.setWords({QStringLiteral("<b>a</b>")}, columns());
+        QCOMPARE(model.index(0, 2).data().toString(), QString());
+        QCOMPARE(model.index(0, 2).data(Qt::AccessibleTextRole).toString(), QStringLiteral("picture 0"));
+        QCOMPARE(model.index(0, 2).data(Qt::ToolTipRole).toString(), QStringLiteral("<qt>picture 0</qt>"));
+        QCOMPARE(model.index(0, 1).data(Qt::AccessibleTextRole).toString(), QStringLiteral("<b>a</b>"));
+        QCOMPARE(model.index(0, 1).data(Qt::ToolTipRole).toString(),
+            QStringLiteral("<qt>&lt;b&gt;a&lt;/b&gt;</qt>"));
+    }
+
+    void picturesAreCountedFromZeroAndMissingOnesAreEmpty()
+    {
+        ImageList images;
+        QPixmap pixmap(16, 16);
+        pixmap.fill(Qt::red);
+        images.append(QIcon(pixmap));
+        WordsModel model;
+        model.setWords({QStringLiteral("a"), QStringLiteral("b")}, columns());
+        QVERIFY(!model.index(0, 2).data(Qt::DecorationRole).isValid());
+        model.setImageList(&images);
+        QCOMPARE(
+            model.index(0, 2).data(Qt::DecorationRole).value<QIcon>().cacheKey(), images.icon(0).cacheKey());
+        QVERIFY(model.index(1, 2).data(Qt::DecorationRole).value<QIcon>().isNull());
+        QVERIFY(!model.index(0, 1).data(Qt::DecorationRole).isValid());
+    }
+
+    void aColumnIsTheGridsWidthInTwentiethsOfAPointOverItsDivisor_data()
+    {
+        QTest::addColumn<int>("width");
+        for (const int width : {300, 403, 500, 639, 1001}) {
+            QTest::addRow("%d", width) << width;
+        }
+        // 15 x 429 / 26 = 247.5: the half is rounded up.
+        QTest::addRow("a half") << 429;
+    }
+
+    void aColumnIsTheGridsWidthInTwentiethsOfAPointOverItsDivisor()
+    {
+        QFETCH(int, width);
+        ShownGrid shown;
+        shown.grid.resize(width, 300);
+        QCoreApplication::processEvents();
+        QVERIFY(shown.grid.isColumnHidden(0));
+        QCOMPARE(shown.grid.columnWidth(1), expectedWidth(width, 26));
+        QCOMPARE(shown.grid.columnWidth(2), expectedWidth(width, 200));
+    }
+
+    void aDraggedColumnFollowsTheGridInProportionUntilTheColumnsAreMadeAnew()
+    {
+        ShownGrid shown;
+        shown.grid.horizontalHeader()->resizeSection(1, 100);
+        shown.grid.resize(1000, 300);
+        QCoreApplication::processEvents();
+        QCOMPARE(shown.grid.columnWidth(1), 200);
+        QCOMPARE(shown.grid.columnWidth(2), expectedWidth(1000, 200));
+        shown.model.setColumns(columns());
+        QCOMPARE(shown.grid.columnWidth(1), expectedWidth(1000, 26));
+        QVERIFY(shown.grid.isColumnHidden(0));
+    }
+
+    void theSelectionIsOneWholeRowOrNone()
+    {
+        ShownGrid shown;
+        QVERIFY(shown.isActive);
+        QCOMPARE(shown.grid.selectedRow(), -1);
+        shown.grid.selectOnly(1);
+        QCOMPARE(shown.grid.selectedRow(), 1);
+        QCOMPARE(shown.grid.currentIndex(), shown.model.index(1, 1));
+        shown.grid.selectOnly(2);
+        QCOMPARE(shown.grid.selectionModel()->selectedRows().size(), 1);
+        QCOMPARE(shown.grid.selectedRow(), 2);
+        shown.grid.selectOnly(-1);
+        QCOMPARE(shown.grid.selectedRow(), -1);
+        shown.grid.selectOnly(3);
+        QCOMPARE(shown.grid.selectedRow(), -1);
+    }
+
+    void aGridWithoutAModelHasNoSelectedRow()
+    {
+        const GridView grid;
+        QCOMPARE(grid.selectedRow(), -1);
+    }
+
+    void aClickOnAHeaderSelectsNothing()
+    {
+        ShownGrid shown;
+        const QHeaderView* header = shown.grid.horizontalHeader();
+        QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, QPoint(header->sectionSize(1) / 2, 5));
+        QCOMPARE(shown.grid.selectedRow(), -1);
+    }
+
+    void nothingIsSelectedAfterARebuild()
+    {
+        ShownGrid shown;
+        shown.grid.selectOnly(1);
+        shown.model.setWords({QStringLiteral("x"), QStringLiteral("y")}, columns());
+        QCOMPARE(shown.grid.selectedRow(), -1);
+    }
+
+    void afterARemovalTheRowThatTakesThePlaceIsSelectedElseTheLast()
+    {
+        ShownGrid shown;
+        shown.grid.selectOnly(1);
+        shown.model.removeWord(1);
+        QCOMPARE(shown.grid.selectedRow(), 1);
+        shown.model.removeWord(1);
+        QCOMPARE(shown.grid.selectedRow(), 0);
+        shown.model.removeWord(0);
+        QCOMPARE(shown.grid.selectedRow(), -1);
+    }
+
+    void removingAnotherRowKeepsTheSelection()
+    {
+        ShownGrid shown;
+        shown.grid.selectOnly(2);
+        shown.model.removeWord(0);
+        QCOMPARE(shown.grid.selectedRow(), 1);
+    }
+
+    void aDoubleClickReportsTheRowOnce()
+    {
+        ShownGrid shown;
+        const QSignalSpy reported(&shown.grid, &GridView::rowDoubleClicked);
+        QTest::mouseClick(shown.grid.viewport(), Qt::LeftButton, {}, shown.placeOf(1));
+        QCOMPARE(reported.count(), 0);
+        QTest::mouseDClick(shown.grid.viewport(), Qt::LeftButton, {}, shown.placeOf(1));
+        QCOMPARE(reported.count(), 1);
+        QCOMPARE(shown.grid.selectedRow(), 1);
+    }
+
+    void aDoubleClickBesideTheRowsReportsNothing()
+    {
+        ShownGrid shown;
+        const QSignalSpy reported(&shown.grid, &GridView::rowDoubleClicked);
+        const QPoint below(50, shown.grid.viewport()->height() - 5);
+        QTest::mouseClick(shown.grid.viewport(), Qt::LeftButton, {}, below);
+        QTest::mouseDClick(shown.grid.viewport(), Qt::LeftButton, {}, below);
+        QCOMPARE(reported.count(), 0);
+    }
+
+    void deleteAndEnterAreReportedAndTabLeavesTheGrid()
+    {
+        ShownGrid shown;
+        QVERIFY(shown.isActive);
+        const QSignalSpy deletes(&shown.grid, &GridView::deletePressed);
+        const QSignalSpy enters(&shown.grid, &GridView::enterPressed);
+        QTest::keyClick(&shown.grid, Qt::Key_Delete);
+        QTest::keyClick(&shown.grid, Qt::Key_Return);
+        QTest::keyClick(&shown.grid, Qt::Key_Enter, Qt::KeypadModifier);
+        QTest::keyClick(&shown.grid, Qt::Key_Delete, Qt::ShiftModifier);
+        QCOMPARE(deletes.count(), 1);
+        QCOMPARE(enters.count(), 2);
+        QVERIFY(!shown.grid.tabKeyNavigation());
+    }
+
+    void theArrowKeysMoveTheSelection()
+    {
+        ShownGrid shown;
+        shown.grid.selectOnly(0);
+        QTest::keyClick(&shown.grid, Qt::Key_Down);
+        QCOMPARE(shown.grid.selectedRow(), 1);
+        QTest::keyClick(&shown.grid, Qt::Key_Up);
+        QCOMPARE(shown.grid.selectedRow(), 0);
+    }
+
+    void allRowsHaveOneHeight()
+    {
+        ShownGrid shown;
+        QCOMPARE(shown.grid.rowHeight(0), shown.grid.rowHeight(2));
+        QVERIFY(shown.grid.rowHeight(0) >= shown.grid.fontMetrics().height());
+    }
+};
+
+AMBERTASK_TEST_MAIN(tst_grid)
+#include "tst_grid.moc"

@@ -1,0 +1,157 @@
+#include "platform/ImageList.h"
+#include "reminders/AlertListModel.h"
+#include "support/TestMain.h"
+
+#include <QAbstractItemModelTester>
+#include <QPixmap>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace std::chrono_literals;
+
+namespace
+{
+
+constexpr auto Due = std::chrono::local_days(std::chrono::January / 5 / 2026) + 9h + 7min + 3s;
+
+DueReminder reminder(qint32 id, const QString& name, qint32 periority = 1, qint16 icon = 0)
+{
+    DueReminder made;
+    made.id = id;
+    made.name = name;
+    made.periority = periority;
+    made.icon = icon;
+    made.dueDate = Due;
+    return made;
+}
+
+void fill(ImageList& images)
+{
+    for (int i = 0; i < 21; ++i) {
+        QPixmap pixmap(16, 16);
+        pixmap.fill(QColor(i, 2 * i, 3 * i));
+        images.append(QIcon(pixmap));
+    }
+}
+
+/// The picture that a cell shows as its index in the list; -1 for none.
+int pictureOf(const QModelIndex& cell)
+{
+    const QVariant icon = cell.data(Qt::DecorationRole);
+    return icon.isNull() ? -1 : icon.value<QIcon>().pixmap(16, 16).toImage().pixelColor(0, 0).red();
+}
+
+} // namespace
+
+class tst_alertlistmodel : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void theColumnsCarryTheirKeysAndHeaders()
+    {
+        AlertListModel model;
+        QCOMPARE(model.columnCount(), 0);
+        model.createColumns();
+        QStringList keys;
+        QStringList headers;
+        QList<int> divisors;
+        for (const GridColumn& column : model.columns()) {
+            keys.append(column.key);
+            headers.append(column.header);
+            divisors.append(column.widthDivisor);
+        }
+        QCOMPARE(keys,
+            QStringList({QStringLiteral("id"), QStringLiteral("name"), QStringLiteral("periority"),
+                QStringLiteral("due date")}));
+        QCOMPARE(headers,
+            QStringList({QStringLiteral("id"), QStringLiteral("Name"), QStringLiteral("Periority"),
+                QStringLiteral("Due Date")}));
+        QCOMPARE(divisors, QList<int>({0, 26, 200, 48}));
+    }
+
+    void aRowShowsIdNamePriorityPictureAndDueMoment()
+    {
+        ImageList images;
+        fill(images);
+        AlertListModel model;
+        const QAbstractItemModelTester tester(&model);
+        model.setImageList(&images);
+        model.createColumns();
+        model.setReminders({reminder(42, QStringLiteral("Call"), 1, 7)});
+        QCOMPARE(model.index(0, 0).data().toString(), QStringLiteral("42"));
+        QCOMPARE(model.index(0, 1).data().toString(), QStringLiteral("Call"));
+        QCOMPARE(pictureOf(model.index(0, 1)), 7);
+        QCOMPARE(model.index(0, 2).data().toString(), QString());
+        QCOMPARE(model.index(0, 3).data().toString(), QStringLiteral("1/5/2026 9:07:03 AM"));
+        QCOMPARE(model.idText(0), QStringLiteral("42"));
+    }
+
+    void thePriorityPictureFollowsTheCode_data()
+    {
+        QTest::addColumn<qint32>("periority");
+        QTest::addColumn<int>("picture");
+        QTest::addColumn<QString>("word");
+        QTest::newRow("high") << 0 << 19 << QStringLiteral("High");
+        QTest::newRow("normal") << 1 << 18 << QStringLiteral("Normal");
+        QTest::newRow("low") << 2 << 20 << QStringLiteral("Low");
+        QTest::newRow("code above the range") << 3 << -1 << QString();
+        QTest::newRow("code below the range") << -1 << -1 << QString();
+    }
+
+    void thePriorityPictureFollowsTheCode()
+    {
+        QFETCH(qint32, periority);
+        ImageList images;
+        fill(images);
+        AlertListModel model;
+        model.setImageList(&images);
+        model.createColumns();
+        model.setReminders({reminder(1, QStringLiteral("x"), periority)});
+        QTEST(pictureOf(model.index(0, 2)), "picture");
+        QTEST(model.index(0, 2).data(Qt::AccessibleTextRole).toString(), "word");
+    }
+
+    void aToolTipSaysTheNameInFullAsPlainText()
+    {
+        AlertListModel model;
+        model.createColumns();
+        model.setReminders({reminder(1, QStringLiteral("<h1>Call</h1> & \"more\""))});
+        QCOMPARE(model.index(0, 1).data(Qt::ToolTipRole).toString(),
+            QStringLiteral("<qt>&lt;h1&gt;Call&lt;/h1&gt; &amp; &quot;more&quot;</qt>"));
+    }
+
+    void aRefillReplacesTheRowsAndKeepsTheColumns()
+    {
+        AlertListModel model;
+        const QAbstractItemModelTester tester(&model);
+        model.createColumns();
+        model.setReminders({reminder(1, QStringLiteral("a")), reminder(2, QStringLiteral("b"))});
+        const QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
+        model.setReminders({reminder(3, QStringLiteral("c"))});
+        QCOMPARE(model.rowCount(), 1);
+        QCOMPARE(model.idText(0), QStringLiteral("3"));
+        model.setReminders({});
+        QCOMPARE(model.rowCount(), 0);
+        QCOMPARE(resets.count(), 0);
+    }
+
+    void removingARowLeavesTheOthersInPlace()
+    {
+        AlertListModel model;
+        const QAbstractItemModelTester tester(&model);
+        model.createColumns();
+        const DueReminder a = reminder(1, QStringLiteral("a"));
+        const DueReminder b = reminder(2, QStringLiteral("b"));
+        const DueReminder c = reminder(3, QStringLiteral("c"));
+        model.setReminders({a, b, c});
+        model.removeReminder(1);
+        QVERIFY(model.lists({a, c}));
+        QVERIFY(!model.lists({c, a}));
+        QVERIFY(!model.lists({a}));
+        QVERIFY(!model.lists({a, b}));
+    }
+};
+
+AMBERTASK_TEST_MAIN(tst_alertlistmodel)
+#include "tst_alertlistmodel.moc"

@@ -1,0 +1,204 @@
+#include "AlertsFixture.h"
+#include "support/TestMain.h"
+
+#include <QFile>
+#include <QTest>
+#include <sqlite3.h>
+
+namespace
+{
+
+/// Another program that holds the data file in the way of `statements` while this lives.
+class OtherProgram
+{
+public:
+    OtherProgram(const TestDatabase& database, const char* statements)
+    {
+        m_holds = sqlite3_open_v2(QFile::encodeName(database.dataFile()).constData(), &m_handle,
+                      SQLITE_OPEN_READWRITE, nullptr)
+                == SQLITE_OK
+            && sqlite3_exec(m_handle, statements, nullptr, nullptr, nullptr) == SQLITE_OK;
+    }
+    ~OtherProgram() { sqlite3_close(m_handle); }
+    OtherProgram(const OtherProgram&) = delete;
+    OtherProgram& operator=(const OtherProgram&) = delete;
+    bool holds() const { return m_holds; }
+
+private:
+    sqlite3* m_handle = nullptr;
+    bool m_holds = false;
+};
+
+constexpr char LocksAll[] = "BEGIN EXCLUSIVE";
+constexpr char LocksWriting[] = "BEGIN IMMEDIATE";
+constexpr char LocksCommitting[] = "BEGIN; SELECT count(*) FROM tasks";
+
+} // namespace
+
+class tst_alerts_failures : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void aLockedDataFileLeavesTheListAsItWasAndTheNextTickTriesAgain()
+    {
+        AlertsFixture alerts;
+        const qint32 first = alerts.aDueTask(QStringLiteral("First")).add();
+        alerts.tick();
+        alerts.aDueTask(QStringLiteral("Second")).sounding(QStringLiteral("s.wav")).add();
+        {
+            const OtherProgram other(alerts.database(), LocksAll);
+            QVERIFY(other.holds());
+            alerts.tick();
+            QCOMPARE(alerts.names(), QStringList(QStringLiteral("First")));
+            QCOMPARE(alerts.caption(), QStringLiteral("1 Reminder"));
+            QCOMPARE(alerts.grid()->selectedRow(), 0);
+            QCOMPARE(alerts.takeSounds(), QStringList());
+        }
+        alerts.tick();
+        QCOMPARE(alerts.names(), QStringList({QStringLiteral("First"), QStringLiteral("Second")}));
+        QCOMPARE(alerts.takeSounds(), QStringList(QStringLiteral("play s.wav")));
+        QVERIFY(alerts.isPlayed(first));
+    }
+
+    void aMissingDataFileIsNotReportedAndTheTimerStaysAlive()
+    {
+        AlertsFixture alerts;
+        alerts.aDueTask(QStringLiteral("x")).add();
+        const QString away = alerts.database().dataFile() + QStringLiteral(".away");
+        QVERIFY(QFile::rename(alerts.database().dataFile(), away));
+        alerts.window.load();
+        QVERIFY(!alerts.window.isVisible());
+        QVERIFY(alerts.control<QTimer>(QStringLiteral("tmrTasksChecker"))->isActive());
+        QVERIFY(QFile::rename(away, alerts.database().dataFile()));
+        alerts.tick();
+        QCOMPARE(alerts.rows(), 1);
+    }
+
+    void aRecordThatCannotBeReadLeavesTheListAsItWas()
+    {
+        AlertsFixture alerts;
+        alerts.aDueTask(QStringLiteral("Good")).add();
+        alerts.tick();
+        const qint32 bad = alerts.aDueTask(QStringLiteral("Bad")).add();
+        alerts.database().sql(
+            QStringLiteral("update tasks set task_periority='urgent' where task_id=%1").arg(bad));
+        alerts.aDueTask(QStringLiteral("Last")).sounding(QStringLiteral("l.wav")).add();
+        alerts.tick();
+        QCOMPARE(alerts.names(), QStringList(QStringLiteral("Good")));
+        QCOMPARE(alerts.takeSounds(), QStringList());
+    }
+
+    void aMarkThatFailedIsMadeUpForByTheNextTickWithoutASecondSound_data()
+    {
+        QTest::addColumn<QByteArray>("lock");
+        QTest::newRow("at the statement") << QByteArray(LocksWriting);
+        QTest::newRow("at the commit") << QByteArray(LocksCommitting);
+    }
+
+    void aMarkThatFailedIsMadeUpForByTheNextTickWithoutASecondSound()
+    {
+        QFETCH(QByteArray, lock);
+        AlertsFixture alerts;
+        const qint32 id = alerts.aDueTask(QStringLiteral("x")).sounding(QStringLiteral("x.wav")).add();
+        {
+            const OtherProgram other(alerts.database(), lock.constData());
+            QVERIFY(other.holds());
+            alerts.tick();
+            QVERIFY(alerts.window.isVisible());
+        }
+        QVERIFY(!alerts.isPlayed(id));
+        QCOMPARE(alerts.takeSounds(), QStringList(QStringLiteral("play x.wav")));
+        alerts.database().statements().take();
+        alerts.tick();
+        QVERIFY(alerts.isPlayed(id));
+        QCOMPARE(alerts.takeSounds(), QStringList());
+        QCOMPARE(alerts.database().statements().take(), QStringList({DueQuery, MarkPlayed}));
+        alerts.tick();
+        QCOMPARE(alerts.database().statements().take(), QStringList(DueQuery));
+    }
+
+    void aMarkThatFailedNeverSilencesAReminderThatWasNotListed()
+    {
+        AlertsFixture alerts;
+        const qint32 listed = alerts.aDueTask(QStringLiteral("x")).add();
+        {
+            const OtherProgram other(alerts.database(), LocksWriting);
+            QVERIFY(other.holds());
+            alerts.tick();
+        }
+        alerts.database().sql(QStringLiteral("delete from tasks where task_id=%1").arg(listed));
+        const qint32 swapped = alerts.aDueTask(QStringLiteral("y")).sounding(QStringLiteral("y.wav")).add();
+        alerts.tick();
+        QVERIFY(!alerts.isPlayed(swapped));
+    }
+
+    void aReminderFiresAgainWhenTheProgramDiedBetweenShowingAndMarking()
+    {
+        AlertsFixture alerts;
+        alerts.aDueTask(QStringLiteral("x")).sounding(QStringLiteral("x.wav")).add();
+        {
+            const OtherProgram other(alerts.database(), LocksWriting);
+            QVERIFY(other.holds());
+            alerts.tick();
+        }
+        frmAlerts afterRestart(alerts.world.services, alerts.host,
+            [&alerts] { return std::make_unique<RecordedWave>(alerts.sounds); });
+        alerts.takeSounds();
+        afterRestart.load();
+        QCOMPARE(alerts.takeSounds(), QStringList(QStringLiteral("play x.wav")));
+    }
+
+    void aStatementThatFailsIsReportedAndLeavesTheList_data()
+    {
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<QByteArray>("lock");
+        for (const char* button : {"btnDismiss", "btnDismissAll", "btnRemindMeLater"}) {
+            QTest::addRow("%s, at the statement", button)
+                << QString::fromLatin1(button) << QByteArray(LocksWriting);
+            QTest::addRow("%s, at the commit", button)
+                << QString::fromLatin1(button) << QByteArray(LocksCommitting);
+        }
+    }
+
+    void aStatementThatFailsIsReportedAndLeavesTheList()
+    {
+        QFETCH(QString, button);
+        QFETCH(QByteArray, lock);
+        AlertsFixture alerts;
+        const qint32 id = alerts.aDueTask(QStringLiteral("x")).add();
+        alerts.tick();
+        bool told = false;
+        QObject::connect(
+            &alerts.window, &frmAlerts::remindersDismissed, &alerts.window, [&told] { told = true; });
+        {
+            const OtherProgram other(alerts.database(), lock.constData());
+            QVERIFY(other.holds());
+            alerts.world.dialogs.expectError(QStringLiteral("another program is using it"));
+            alerts.click(button);
+        }
+        QVERIFY(alerts.world.dialogs.allUsed());
+        QCOMPARE(alerts.names(), QStringList(QStringLiteral("x")));
+        QVERIFY(alerts.window.isVisible());
+        QVERIFY(!told);
+        QCOMPARE(alerts.stored(id, QStringLiteral("dismissed")), QStringLiteral("0"));
+        QCOMPARE(alerts.stored(id, QStringLiteral("played")), QStringLiteral("1"));
+    }
+
+    void aTaskIdBeyondSixteenBitsIsReportedByNumber()
+    {
+        AlertsFixture alerts;
+        const qint32 id = alerts.aDueTask(QStringLiteral("x")).add();
+        alerts.database().sql(QStringLiteral("update tasks set task_id=40000 where task_id=%1").arg(id));
+        alerts.tick();
+        alerts.database().statements().take();
+        alerts.world.dialogs.expectError(QStringLiteral("40000"));
+        alerts.click(QStringLiteral("btnOpenItem"));
+        QVERIFY(alerts.world.dialogs.allUsed());
+        QCOMPARE(alerts.host.opened, QList<qint16>());
+        QCOMPARE(alerts.database().statements().take(), QStringList());
+    }
+};
+
+AMBERTASK_TEST_MAIN(tst_alerts_failures)
+#include "tst_alerts_failures.moc"
