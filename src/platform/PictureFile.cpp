@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
+#include <QtEndian>
 
 namespace
 {
@@ -100,6 +101,16 @@ private:
     qsizetype m_position = 0;
 };
 
+/// The size that a GIF announces for the whole of its pictures. The decoder answers none for one that it
+/// finds too large.
+QSize gifScreen(const QByteArray& bytes)
+{
+    constexpr int width = 6;
+    constexpr int height = 8;
+    return {qFromLittleEndian<quint16>(bytes.constData() + width),
+        qFromLittleEndian<quint16>(bytes.constData() + height)};
+}
+
 /// The decoders make a picture, partly grey, of what is cut off.
 bool isComplete(const QByteArray& bytes, const QByteArray& format)
 {
@@ -135,9 +146,9 @@ QImage PictureFile::load(int edge) const
     QImageReader reader(&buffer, format);
     reader.setAutoDetectImageFormat(false);
     reader.setAutoTransform(true);
-    const QSize size = reader.size();
-    if (size.isEmpty()) {
-        refuse(tr("it is damaged or incomplete."));
+    QSize size = reader.size();
+    if (format == "gif") {
+        size = size.expandedTo(gifScreen(bytes));
     }
     if (size.width() > MaximumEdge || size.height() > MaximumEdge) {
         refuse(tr("it is %1 x %2 pixels large, more than %3 x %3 are not accepted.")
@@ -149,7 +160,7 @@ QImage PictureFile::load(int edge) const
         reader.setScaledSize(size.scaled(edge, edge, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
     }
     QImage image;
-    if (!reader.read(&image)) {
+    if (size.isEmpty() || !reader.read(&image)) {
         refuse(tr("it is damaged or incomplete."));
     }
     return image;

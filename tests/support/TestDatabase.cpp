@@ -109,8 +109,7 @@ qint16 TestDatabase::addCategory(const QString& name, int icon) const
 {
     return static_cast<qint16>(
         sql(QStringLiteral("insert into categories(cat_name,cat_icon) values(%1,%2) returning cat_id")
-                .arg(quoted(name))
-                .arg(icon))
+                .arg(quoted(name), QString::number(icon)))
             .toInt());
 }
 

@@ -1,0 +1,174 @@
+#include "platform/PictureFile.h"
+#include "platform/RuntimeError.h"
+#include "support/TestMain.h"
+#include "support/TestPictures.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+#include <sys/stat.h>
+
+class PictureFileTest : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void aSmallPictureKeepsItsSize();
+    void aLargePictureIsMadeToFit();
+    void aNarrowPictureKeepsAtLeastOnePixel();
+    void theContentDecidesNotTheName();
+    void theFirstPictureOfAGifIsRead();
+    void whatIsNoPictureIsRefusedByName_data();
+    void whatIsNoPictureIsRefusedByName();
+    void aPictureCutAnywhereIsRefused_data();
+    void aPictureCutAnywhereIsRefused();
+    void aPipeDoesNotKeepTheProgramWaiting();
+    void aFolderIsRefused();
+    void aMissingFileIsRefused();
+    void aFileOfMoreThan64MebibytesIsRefused();
+    void aJpegOfThousandsOfScansIsRefusedAtOnce();
+
+private:
+    QString file(const QString& name, const QByteArray& bytes) const
+    {
+        return writeFile(m_folder.path(), name, bytes);
+    }
+    /// The refusal of the picture; empty when it is accepted.
+    static QString refusal(const QString& path);
+
+    QTemporaryDir m_folder;
+};
+
+QString PictureFileTest::refusal(const QString& path)
+{
+    try {
+        PictureFile(path).load(96);
+    } catch (const RuntimeError& error) {
+        return error.text();
+    }
+    return {};
+}
+
+void PictureFileTest::aSmallPictureKeepsItsSize()
+{
+    const QImage image = PictureFile(file(QStringLiteral("a.png"), pngOf(QSize(24, 24), Qt::blue))).load(96);
+    QCOMPARE(image.size(), QSize(24, 24));
+    QCOMPARE(image.pixelColor(12, 12), QColor(Qt::blue));
+}
+
+void PictureFileTest::aLargePictureIsMadeToFit()
+{
+    QCOMPARE(
+        PictureFile(file(QStringLiteral("a.jpg"), jpegOf(QSize(800, 400)))).load(96).size(), QSize(96, 48));
+    QCOMPARE(
+        PictureFile(file(QStringLiteral("b.png"), pngOf(QSize(300, 4096)))).load(96).size(), QSize(7, 96));
+}
+
+void PictureFileTest::aNarrowPictureKeepsAtLeastOnePixel()
+{
+    QCOMPARE(PictureFile(file(QStringLiteral("a.png"), pngOf(QSize(4096, 1)))).load(96).size(), QSize(96, 1));
+}
+
+void PictureFileTest::theContentDecidesNotTheName()
+{
+    const QImage image = PictureFile(file(QStringLiteral("icon1.gif"), jpegOf(QSize(24, 24)))).load(96);
+    QCOMPARE(image.size(), QSize(24, 24));
+}
+
+void PictureFileTest::theFirstPictureOfAGifIsRead()
+{
+    const QImage image = PictureFile(file(QStringLiteral("a.gif"), gifOf())).load(96);
+    QCOMPARE(image.size(), QSize(1, 1));
+    QCOMPARE(image.pixelColor(0, 0), QColor(Qt::red));
+}
+
+void PictureFileTest::whatIsNoPictureIsRefusedByName_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("reason");
+    const QString noPicture = QStringLiteral("neither a GIF nor a JPEG nor a PNG");
+    const QString damaged = QStringLiteral("damaged or incomplete");
+    QTest::newRow("empty") << QByteArray() << noPicture;
+    QTest::newRow("text") << QByteArray("Dear Sir or Madam") << noPicture;
+    QTest::newRow("drawing commands") << QByteArray("<svg xmlns='http://www.w3.org/2000/svg'/>") << noPicture;
+    QTest::newRow("a JPEG's first bytes alone") << QByteArray("\xFF\xD8\xFF") << damaged;
+    QTest::newRow("a GIF's first bytes alone") << QByteArray("GIF89a") << damaged;
+    QTest::newRow("huge PNG") << pngHeaderClaiming(QSize(30000, 30000)) << QStringLiteral("30000 x 30000");
+    QTest::newRow("huge GIF") << gifOf(QSize(30000, 30000)) << QStringLiteral("30000 x 30000");
+    QTest::newRow("wide GIF") << gifOf(QSize(4097, 20)) << QStringLiteral("4097 x 20");
+    QTest::newRow("wide PNG") << pngHeaderClaiming(QSize(4097, 1)) << QStringLiteral("4097 x 1");
+}
+
+void PictureFileTest::whatIsNoPictureIsRefusedByName()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, reason);
+    const QString text = refusal(file(QStringLiteral("stranger.gif"), bytes));
+    QVERIFY2(text.contains(QLatin1String("stranger.gif")), qPrintable(text));
+    QVERIFY2(text.contains(reason), qPrintable(text));
+}
+
+void PictureFileTest::aPictureCutAnywhereIsRefused_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("gif") << gifOf();
+    QTest::newRow("jpeg") << jpegOf(QSize(40, 40));
+    QTest::newRow("png") << pngOf(QSize(40, 40));
+}
+
+void PictureFileTest::aPictureCutAnywhereIsRefused()
+{
+    QFETCH(QByteArray, bytes);
+    QVERIFY(refusal(file(QStringLiteral("whole"), bytes)).isEmpty());
+    // The last bytes of a GIF and a PNG only say that nothing follows.
+    constexpr qsizetype endMark = 5;
+    for (qsizetype length = 0; length < bytes.size() - endMark; ++length) {
+        const QString path = file(QStringLiteral("cut"), bytes.left(length));
+        QVERIFY2(!refusal(path).isEmpty(), qPrintable(QStringLiteral("accepted at %1 bytes").arg(length)));
+    }
+}
+
+void PictureFileTest::aPipeDoesNotKeepTheProgramWaiting()
+{
+    const QString pipe = m_folder.filePath(QStringLiteral("pipe.gif"));
+    QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), S_IRUSR | S_IWUSR), 0);
+    QVERIFY(refusal(pipe).contains(QLatin1String("not an ordinary file")));
+}
+
+void PictureFileTest::aFolderIsRefused()
+{
+    QVERIFY(refusal(m_folder.path()).contains(QLatin1String("not an ordinary file")));
+}
+
+void PictureFileTest::aMissingFileIsRefused()
+{
+    const QString text = refusal(m_folder.filePath(QStringLiteral("gone.gif")));
+    QVERIFY2(text.contains(QLatin1String("gone.gif")) && text.contains(QLatin1String("no such file")),
+        qPrintable(text));
+}
+
+void PictureFileTest::aFileOfMoreThan64MebibytesIsRefused()
+{
+    const QString path = file(QStringLiteral("long.png"), pngOf(QSize(1, 1)));
+    QVERIFY(QFile::resize(path, 64LL * 1024 * 1024 + 1));
+    QVERIFY(refusal(path).contains(QLatin1String("64 MiB")));
+}
+
+void PictureFileTest::aJpegOfThousandsOfScansIsRefusedAtOnce()
+{
+    const QByteArray picture = jpegOf(QSize(4096, 4096));
+    const qsizetype scan = picture.indexOf("\xFF\xDA");
+    QVERIFY(scan > 0);
+    const QByteArray header = picture.mid(scan, 14);
+    const QByteArray bytes = picture.left(scan) + header.repeated(100'000) + picture.mid(scan);
+
+    QElapsedTimer timer;
+    timer.start();
+    const QString path = file(QStringLiteral("scans.jpg"), bytes);
+    QVERIFY(refusal(path).contains(QLatin1String("damaged")));
+    QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
+}
+
+AMBERTASK_TEST_MAIN(PictureFileTest)
+#include "tst_picturefile.moc"
