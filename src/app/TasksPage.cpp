@@ -216,6 +216,7 @@ void TasksPage::setGridLines(bool shown)
 void TasksPage::focusGrid()
 {
     if (window()->isVisible()) {
+        window()->activateWindow();
         m_grid->setFocus(Qt::OtherFocusReason);
     }
 }

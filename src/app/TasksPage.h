@@ -36,7 +36,7 @@ public:
     void LoadTasks();
 
     void setGridLines(bool shown);
-    /// Focuses the list when it is visible: its window is shown, whichever page is in front.
+    /// Gives the focus to the list and activates its window when that is visible, whichever page is in front.
     void focusGrid();
     GridView* grid() const { return m_grid; }
     TaskFilter filter() const;

@@ -35,7 +35,10 @@ struct ProgramFixture {
                 return notificationArea;
             }})
     {
-        QDir(database.folder()).mkpath(QStringLiteral("Skins"));
+        QDir folder(database.folder());
+        folder.mkpath(QStringLiteral("Skins"));
+        QFile::copy(QStringLiteral(AMBERTASK_SHIPPED_SKINS "/Aqua.skf"),
+            folder.filePath(QStringLiteral("Skins/Aqua.skf")));
     }
     ~ProgramFixture() { program.unload(); }
 
