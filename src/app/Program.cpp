@@ -18,6 +18,15 @@
 
 #include <QTimer>
 
+namespace
+{
+
+using namespace std::chrono_literals;
+
+constexpr auto LongestWaitForThePaint = 1s;
+
+} // namespace
+
 Program::Program(const Machine& machine)
     : m_machine(machine), m_services{machine.engine, *machine.engine.clock, machine.messages,
                               machine.fileDialogs, machine.errors, machine.shell, *this, m_images,
@@ -39,8 +48,17 @@ void Program::start(const std::function<bool()>& noteFirstStart)
         writeRunEntry(m_machine.registry, m_machine.engine.programFolder);
     }
     loadMainWindow();
-    // A window that is never activated loads no dialogs: a program that starts hidden would never remind.
-    QTimer::singleShot(0, this, [this] { m_machine.errors.guard([this] { loadDialogs(); }); });
+    // A program that starts hidden, or whose window is never activated, has to remind all the same. A window
+    // that is about to appear comes first: mapped later, it would cover the alert.
+    const auto load = [this] {
+        m_machine.errors.guard([this] { loadDialogs(); });
+    };
+    if (m_main->isShown()) {
+        connect(m_main.get(), &frmMain::firstPainted, this, load, Qt::QueuedConnection);
+        QTimer::singleShot(LongestWaitForThePaint, this, load);
+    } else {
+        QTimer::singleShot(0, this, load);
+    }
 }
 
 void Program::loadMainWindow()

@@ -251,6 +251,15 @@ void frmMain::hideEvent(QHideEvent* event)
     syncTrayCaption();
 }
 
+void frmMain::paintEvent(QPaintEvent* event)
+{
+    QWidget::paintEvent(event);
+    if (!m_painted) {
+        m_painted = true;
+        emit firstPainted();
+    }
+}
+
 void frmMain::closeEvent(QCloseEvent* event)
 {
     if (m_ending || qGuiApp->isSavingSession()) {

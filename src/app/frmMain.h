@@ -83,6 +83,8 @@ public:
 signals:
     /// The window has become the active one.
     void activated();
+    /// The window has appeared on the screen for the first time.
+    void firstPainted();
     /// "Exit" was chosen.
     void exitRequested();
 
@@ -91,6 +93,7 @@ protected:
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:
@@ -113,4 +116,5 @@ private:
     TrayIcon m_trayIcon;
     bool m_loaded = false;
     bool m_ending = false;
+    bool m_painted = false;
 };

@@ -1,6 +1,7 @@
 #include "app/modAmbertaks.h"
 
 #include "app/Application.h"
+#include "app/FixedPictures.h"
 #include "app/Program.h"
 #include "platform/Clock.h"
 #include "platform/FileDialogs.h"
@@ -80,6 +81,7 @@ int runAmbertask(int argc, char** argv)
     Application application(argc, argv);
     QCoreApplication::setApplicationName(QLatin1String(ProductName));
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setWindowIcon(programIcon());
     // The program ends by "Exit" alone.
     QApplication::setQuitOnLastWindowClosed(false);
     return runInstance(application, programFolder);

@@ -2,7 +2,8 @@
 
 #include "platform/Moment.h"
 
-/// The one source of the current time. Everything that asks for the time is given a Clock; tests give a stepped one.
+/// The one source of the current time. Everything that asks for the time is given a Clock; tests give a
+/// stepped one.
 class Clock
 {
 public:

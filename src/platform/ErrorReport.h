@@ -20,8 +20,7 @@ public:
     virtual void report(const QString& text) = 0;
 
     /// Runs `action`; a failure is reported. True when it ran to its end.
-    template <typename Action>
-    bool guard(Action&& action)
+    template <typename Action> bool guard(Action&& action)
     {
         try {
             std::forward<Action>(action)();
@@ -35,8 +34,8 @@ public:
     }
 };
 
-/// Connects as QObject::connect does, but no exception leaves the handler for the event loop: it is reported instead.
-/// `handler` is a member function of `receiver` that takes the signal's arguments or none.
+/// Connects as QObject::connect does, but no exception leaves the handler for the event loop: it is reported
+/// instead. `handler` is a member function of `receiver` that takes the signal's arguments or none.
 template <typename Sender, typename Signal, typename Receiver, typename Handler>
 QMetaObject::Connection connectGuarded(
     const Sender* sender, Signal signal, Receiver* receiver, Handler handler, ErrorReport& errors)

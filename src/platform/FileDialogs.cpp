@@ -2,7 +2,8 @@
 
 #include <QFileDialog>
 
-namespace {
+namespace
+{
 
 QString show(QWidget* owner, const FileDialogRequest& request, QFileDialog::AcceptMode mode)
 {
@@ -30,14 +31,15 @@ QString show(QWidget* owner, const FileDialogRequest& request, QFileDialog::Acce
     return dialog.selectedFiles().value(0);
 }
 
-}
+} // namespace
 
 QStringList nameFilters(const FileDialogRequest& request)
 {
     QStringList filters;
     const QStringList parts = request.filter.split(u'|');
     for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
-        // The text carries the patterns for the eye in its last parentheses; the second half says which they are.
+        // The text carries the patterns for the eye in its last parentheses; the second half says which they
+        // are.
         QString text = parts[i];
         if (const qsizetype parenthesis = text.lastIndexOf(u'('); parenthesis >= 0) {
             text.truncate(parenthesis);

@@ -16,7 +16,8 @@ struct FileDialogRequest {
     bool executables = false;
 };
 
-/// The name filters of a filter text, in the toolkit's form: "Wave Files (*.wav)|*.wav" gives "Wave Files (*.wav)".
+/// The name filters of a filter text, in the toolkit's form: "Wave Files (*.wav)|*.wav" gives "Wave Files
+/// (*.wav)".
 QStringList nameFilters(const FileDialogRequest& request);
 
 /// The file dialogs of the program, modal to it.

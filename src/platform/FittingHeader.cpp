@@ -3,12 +3,13 @@
 #include <QPainter>
 #include <QStyleOption>
 
-namespace {
+namespace
+{
 
 constexpr int SmallestStretch = 62; // percent; letters get hard to read below
 constexpr int CaptionMargin = 5; // pixels on either side
 
-}
+} // namespace
 
 FittingHeader::FittingHeader(QWidget* parent) : QHeaderView(Qt::Horizontal, parent)
 {

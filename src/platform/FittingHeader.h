@@ -2,8 +2,8 @@
 
 #include <QHeaderView>
 
-/// A horizontal header that squeezes the letters of a caption that is a little too long for its column, so that a
-/// narrow column keeps its whole word. What is still too long is elided.
+/// A horizontal header that squeezes the letters of a caption that is a little too long for its column, so
+/// that a narrow column keeps its whole word. What is still too long is elided.
 class FittingHeader : public QHeaderView
 {
     Q_OBJECT

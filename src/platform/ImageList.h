@@ -3,8 +3,8 @@
 #include <QIcon>
 #include <QList>
 
-/// One ordered list of pictures. Grids count from 0 (`icon`), list views and "picture n" count from 1 (`picture`).
-/// Pictures are only ever appended.
+/// One ordered list of pictures. Grids count from 0 (`icon`), list views and "picture n" count from 1
+/// (`picture`). Pictures are only ever appended.
 class ImageList
 {
 public:

@@ -2,7 +2,8 @@
 
 #include <QMessageBox>
 
-namespace {
+namespace
+{
 
 QMessageBox::StandardButton show(
     QWidget* owner, QMessageBox::Icon icon, const QString& text, QMessageBox::StandardButtons buttons)
@@ -16,7 +17,7 @@ QMessageBox::StandardButton show(
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 
-}
+} // namespace
 
 void ScreenMessageBoxes::tell(QWidget* owner, Icon icon, const QString& text)
 {
@@ -28,5 +29,6 @@ void ScreenMessageBoxes::tell(QWidget* owner, Icon icon, const QString& text)
 
 bool ScreenMessageBoxes::ask(QWidget* owner, const QString& question)
 {
-    return show(owner, QMessageBox::Question, question, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+    return show(owner, QMessageBox::Question, question, QMessageBox::Yes | QMessageBox::No)
+        == QMessageBox::Yes;
 }

@@ -35,6 +35,7 @@ bool noteFirstStart()
     }
     const QString folder = state + QStringLiteral("/ambertask");
     QFile marker(folder + QStringLiteral("/started"));
-    // Noted before anything is registered: a machine that cannot keep the note is not registered at every start.
+    // Noted before anything is registered: a machine that cannot keep the note is not registered at every
+    // start.
     return QDir().mkpath(folder) && marker.open(QIODevice::WriteOnly | QIODevice::NewOnly);
 }

@@ -2,8 +2,8 @@
 
 #include <limits>
 
-OverflowError::OverflowError(const QString& what, qint64 value) :
-    RuntimeError(QStringLiteral("Overflow: the %1 %2 does not fit into 16 bits.").arg(what).arg(value))
+OverflowError::OverflowError(const QString& what, qint64 value)
+    : RuntimeError(QStringLiteral("Overflow: the %1 %2 does not fit into 16 bits.").arg(what).arg(value))
 {
 }
 

@@ -5,7 +5,10 @@
 #include <QPushButton>
 #include <QScopedValueRollback>
 
-ScreenErrorReport::ScreenErrorReport(std::function<void()> closeProgram) : m_closeProgram(std::move(closeProgram)) { }
+ScreenErrorReport::ScreenErrorReport(std::function<void()> closeProgram)
+    : m_closeProgram(std::move(closeProgram))
+{
+}
 
 void ScreenErrorReport::report(const QString& text)
 {

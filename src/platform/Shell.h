@@ -21,8 +21,8 @@ public:
     virtual bool startMinimized(const QString& file) = 0;
 };
 
-/// The program and its arguments that `file` names: the path as it is when there is such a file, else its words
-/// (a word in double quotes may hold blanks). Empty when there is none.
+/// The program and its arguments that `file` names: the path as it is when there is such a file, else its
+/// words (a word in double quotes may hold blanks). Empty when there is none.
 QStringList commandOf(const QString& file);
 
 class DesktopShell final : public Shell

@@ -31,9 +31,10 @@ SingleInstance::~SingleInstance()
 
 SingleInstance::SingleInstance(const QString& programFolder)
 {
-    // The lock is on the folder itself: no file to leave behind, and the system drops it when the process dies. It must
-    // not pass on to the programs that reminders start.
-    const int folder = ::open(QFile::encodeName(programFolder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    // The lock is on the folder itself: no file to leave behind, and the system drops it when the process
+    // dies. It must not pass on to the programs that reminders start.
+    const int folder =
+        ::open(QFile::encodeName(programFolder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (folder >= 0 && ::flock(folder, LOCK_EX | LOCK_NB) != 0) {
         m_otherCopyRuns = errno == EWOULDBLOCK;
     }

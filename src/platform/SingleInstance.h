@@ -2,8 +2,8 @@
 
 #include <QString>
 
-/// The guard against two copies of the program on one program folder. Held until destroyed or until the process ends,
-/// however it ends; leaves nothing on the disk.
+/// The guard against two copies of the program on one program folder. Held until destroyed or until the
+/// process ends, however it ends; leaves nothing on the disk.
 class SingleInstance
 {
 public:

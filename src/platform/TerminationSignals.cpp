@@ -8,12 +8,13 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-namespace {
+namespace
+{
 
 // A signal handler can reach nothing but what is static.
-std::array<int, 2> signalPipe {-1, -1};
+std::array<int, 2> signalPipe{-1, -1};
 
-constexpr std::array endingSignals {SIGTERM, SIGINT, SIGHUP};
+constexpr std::array endingSignals{SIGTERM, SIGINT, SIGHUP};
 
 void passOn(int)
 {
@@ -22,7 +23,7 @@ void passOn(int)
     [[maybe_unused]] const ssize_t written = ::write(signalPipe[1], &byte, 1);
 }
 
-}
+} // namespace
 
 TerminationSignals::TerminationSignals(QObject* parent) : QObject(parent)
 {
@@ -59,7 +60,9 @@ TerminationSignals::~TerminationSignals()
 
 #else
 
-TerminationSignals::TerminationSignals(QObject* parent) : QObject(parent) { }
+TerminationSignals::TerminationSignals(QObject* parent) : QObject(parent)
+{
+}
 TerminationSignals::~TerminationSignals() = default;
 
 #endif

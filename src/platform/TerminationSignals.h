@@ -2,8 +2,8 @@
 
 #include <QObject>
 
-/// Turns the system's requests to end the process (SIGTERM, SIGINT, SIGHUP) into a signal of the event loop. One
-/// instance in a process, while it lives.
+/// Turns the system's requests to end the process (SIGTERM, SIGINT, SIGHUP) into a signal of the event loop.
+/// One instance in a process, while it lives.
 class TerminationSignals : public QObject
 {
     Q_OBJECT

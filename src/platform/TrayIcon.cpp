@@ -4,7 +4,9 @@
 #include <QMenu>
 #include <QSystemTrayIcon>
 
-TrayIcon::TrayIcon(QObject* parent) : QObject(parent) { }
+TrayIcon::TrayIcon(QObject* parent) : QObject(parent)
+{
+}
 
 void TrayIcon::add(const QIcon& icon, const QString& toolTip, QMenu* menu)
 {
@@ -13,7 +15,8 @@ void TrayIcon::add(const QIcon& icon, const QString& toolTip, QMenu* menu)
     m_icon->setToolTip(toolTip);
     m_icon->setContextMenu(menu);
     connect(m_icon, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
-        // A host that draws the icon itself (StatusNotifierItem) tells neither the icon's place nor double clicks.
+        // A host that draws the icon itself (StatusNotifierItem) tells neither the icon's place nor double
+        // clicks.
         const bool drawnByHost = m_icon->geometry().isEmpty();
         if (reason == QSystemTrayIcon::DoubleClick || (drawnByHost && reason == QSystemTrayIcon::Trigger)) {
             emit activated();

@@ -8,8 +8,8 @@ class QIcon;
 class QMenu;
 class QSystemTrayIcon;
 
-/// The program's icon in the notification area. Where the desktop has none at the moment, the icon docks as soon as one
-/// appears.
+/// The program's icon in the notification area. Where the desktop has none at the moment, the icon docks as
+/// soon as one appears.
 class TrayIcon : public QObject
 {
     Q_OBJECT

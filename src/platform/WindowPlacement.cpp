@@ -3,9 +3,11 @@
 #include <QWidget>
 #include <QWindow>
 
-namespace {
+namespace
+{
 
-// QWidget::setWindowFlag hides and re-creates a visible window; the flag of the native window can be changed in place.
+// QWidget::setWindowFlag hides and re-creates a visible window; the flag of the native window can be changed
+// in place.
 void setStaysOnTop(QWidget* window, bool on)
 {
     Qt::WindowFlags flags = window->windowFlags();
@@ -25,7 +27,7 @@ QWindow* nativeWindow(QWidget* widget)
     return widget->window()->windowHandle();
 }
 
-}
+} // namespace
 
 void makeTopmost(QWidget* window)
 {

@@ -2,14 +2,15 @@
 
 #include <QTest>
 
-namespace {
+namespace
+{
 
 void fail(const QString& why)
 {
     QTest::qFail(qPrintable(why), __FILE__, __LINE__);
 }
 
-}
+} // namespace
 
 ScriptedDialogs::~ScriptedDialogs()
 {
@@ -28,12 +29,14 @@ void ScriptedDialogs::expectAsk(const QString& question, bool yes)
     m_expected.enqueue({Kind::Ask, question, Icon::None, yes, {}});
 }
 
-void ScriptedDialogs::expectOpen(const QString& answer, std::function<void(const FileDialogRequest&)> whileOpen)
+void ScriptedDialogs::expectOpen(
+    const QString& answer, std::function<void(const FileDialogRequest&)> whileOpen)
 {
     m_expected.enqueue({Kind::Open, answer, Icon::None, false, std::move(whileOpen)});
 }
 
-void ScriptedDialogs::expectSave(const QString& answer, std::function<void(const FileDialogRequest&)> whileOpen)
+void ScriptedDialogs::expectSave(
+    const QString& answer, std::function<void(const FileDialogRequest&)> whileOpen)
 {
     m_expected.enqueue({Kind::Save, answer, Icon::None, false, std::move(whileOpen)});
 }
@@ -47,7 +50,8 @@ void ScriptedDialogs::tell(QWidget* /*owner*/, Icon icon, const QString& text)
 {
     Expectation expected;
     if (take(Kind::Tell, text, expected) && (expected.text != text || expected.icon != icon)) {
-        fail(QStringLiteral("the message \"%1\" or its icon is not the announced \"%2\"").arg(text, expected.text));
+        fail(QStringLiteral("the message \"%1\" or its icon is not the announced \"%2\"")
+                 .arg(text, expected.text));
     }
 }
 

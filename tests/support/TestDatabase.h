@@ -8,8 +8,8 @@
 #include <QTemporaryDir>
 #include <QVariantList>
 
-/// A program folder of its own with a fresh copy of the shipped data file, a clock that stands at 15 January 2026,
-/// 10:00:00, and a record of all statements.
+/// A program folder of its own with a fresh copy of the shipped data file, a clock that stands at 15 January
+/// 2026, 10:00:00, and a record of all statements.
 class TestDatabase
 {
 public:
@@ -21,8 +21,8 @@ public:
     SteppedClock& clock() { return m_clock; }
     RecordedStatements& statements() { return m_statements; }
 
-    /// Runs plain SQL of the engine beside the program's connections; not recorded. Fails the test on an error.
-    /// The first column of the first row, if any.
+    /// Runs plain SQL of the engine beside the program's connections; not recorded. Fails the test on an
+    /// error. The first column of the first row, if any.
     QVariant sql(const QString& statement) const;
     /// All rows of a query.
     QList<QVariantList> rows(const QString& statement) const;

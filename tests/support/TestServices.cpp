@@ -2,15 +2,18 @@
 
 #include <QPixmap>
 
-namespace {
+namespace
+{
 
 constexpr int FixedPictures = 21;
 
 }
 
-TestServices::TestServices() :
-    services {database.engine(), database.clock(), dialogs, dialogs, dialogs, shell, checkerTimer, images,
-        [this] { return alwaysOnTop; }}
+TestServices::TestServices()
+    : services{
+        database.engine(), database.clock(), dialogs, dialogs, dialogs, shell, checkerTimer, images, [this] {
+            return alwaysOnTop;
+        }}
 {
     for (int i = 0; i < FixedPictures; ++i) {
         QPixmap pixmap(16, 16);
