@@ -16,7 +16,7 @@
 namespace
 {
 
-constexpr int PreviewEdge = 48;
+constexpr int StartWidth = 380;
 constexpr int IconColumns = 6;
 constexpr int DescriptionLines = 4;
 
@@ -74,13 +74,14 @@ void CategoryDetailsControls::setUp()
     picIcons->setAccessibleName(tr("Default icons"));
     picCustomIcon->setAccessibleName(tr("Custom icon"));
 
-    imgCustomIcon->setFixedSize(PreviewEdge, PreviewEdge);
+    imgCustomIcon->setFixedSize(PreviewEdge + 2, PreviewEdge + 2);
     imgCustomIcon->setAlignment(Qt::AlignCenter);
     imgCustomIcon->setAccessibleName(tr("Custom icon preview"));
     lblIconSize->setTextFormat(Qt::PlainText);
     lblIconSize->setText(tr("Prefered size 24*24 pixels"));
-    // Skins colour the labels for their own background; this one stands on white or light grey under every
-    // skin.
+    // Skins colour the labels for their own background; these stand on white or light grey under every skin.
+    imgCustomIcon->setStyleSheet(
+        QStringLiteral("QLabel { background: transparent; border: 1px solid #b0b0b0; }"));
     lblIconSize->setStyleSheet(QStringLiteral(
         "QLabel { color: #202020; background: transparent; } QLabel:disabled { color: #5a5a5a; }"));
 
@@ -117,6 +118,7 @@ void CategoryDetailsControls::layOut(QWidget& form)
     buttons->addWidget(btnOk);
     buttons->addWidget(btnCancel);
     grid->addLayout(buttons, row, 0, 1, 2);
+    form.resize(StartWidth, grid->minimumSize().height());
 }
 
 void CategoryDetailsControls::layOutIcons()

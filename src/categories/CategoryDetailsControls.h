@@ -20,6 +20,8 @@ class CategoryDetailsControls
 
 public:
     static constexpr int IconCount = 12;
+    /// Width and height of the preview of a custom picture.
+    static constexpr int PreviewEdge = 48;
 
     explicit CategoryDetailsControls(QWidget& form);
 

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QStyledItemDelegate>
 #include <QTextDocument>
+#include <QTextLayout>
 #include <QToolTip>
 #include <algorithm>
 
@@ -14,16 +15,62 @@ constexpr int IconEdge = 32;
 constexpr int LabelLines = 2;
 constexpr int LabelCharacters = 16;
 constexpr int Padding = 16;
+constexpr int MinimumCellWidth = 116;
 constexpr qsizetype ToolTipCharacters = 2000;
 
-/// Gives every item the size of its cell, whatever the length of its name.
+/// `text` in as many lines as a label has, none of them wider than `width`; what is left over is elided.
+QString wrapped(const QString& text, const QFont& font, int width)
+{
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    QTextLayout layout(text, font);
+    layout.setTextOption(option);
+    QStringList lines;
+    qsizetype start = 0;
+    layout.beginLayout();
+    while (lines.size() + 1 < LabelLines) {
+        QTextLine line = layout.createLine();
+        if (!line.isValid()) {
+            break;
+        }
+        line.setLineWidth(width);
+        lines.append(text.mid(start, line.textLength()).trimmed());
+        start += line.textLength();
+    }
+    layout.endLayout();
+    if (start < text.size()) {
+        lines.append(QFontMetrics(font).elidedText(text.mid(start), Qt::ElideRight, width));
+    }
+    return lines.join(QChar::LineSeparator);
+}
+
+/// Gives every item the size of its cell, whatever the size of its picture and the length of its name.
 class CellDelegate final : public QStyledItemDelegate
 {
 public:
     explicit CellDelegate(const QListView& list) : m_list(list) { }
+
     QSize sizeHint(const QStyleOptionViewItem& /*option*/, const QModelIndex& /*index*/) const override
     {
         return m_list.gridSize();
+    }
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        QStyleOptionViewItem below = option;
+        below.rect.setTop(below.rect.top() + Padding / 2);
+        QStyledItemDelegate::paint(painter, below, index);
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->decorationSize = m_list.iconSize();
+        option->displayAlignment = Qt::AlignHCenter | Qt::AlignTop;
+        option->features.setFlag(QStyleOptionViewItem::WrapText, false);
+        option->text = wrapped(option->text.left(LabelCharacters * LabelLines * 2), option->font,
+            m_list.gridSize().width() - Padding);
     }
 
 private:
@@ -109,6 +156,6 @@ void CategoryList::changeEvent(QEvent* event)
 void CategoryList::setCellSize()
 {
     const QFontMetrics metrics = fontMetrics();
-    setGridSize(QSize(std::max(3 * IconEdge, LabelCharacters * metrics.averageCharWidth()),
+    setGridSize(QSize(std::max(MinimumCellWidth, LabelCharacters * metrics.averageCharWidth()),
         IconEdge + LabelLines * metrics.lineSpacing() + Padding));
 }

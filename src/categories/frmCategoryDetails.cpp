@@ -128,9 +128,10 @@ QString frmCategoryDetails::NewCustomIconName() const
 
 void frmCategoryDetails::showCustomPicture(const QIcon& picture)
 {
+    constexpr QSize size(CategoryDetailsControls::PreviewEdge, CategoryDetailsControls::PreviewEdge);
     m_customPicture = picture;
-    QLabel& preview = *m_controls.imgCustomIcon;
-    preview.setPixmap(picture.isNull() ? QPixmap() : picture.pixmap(preview.size(), devicePixelRatio()));
+    m_controls.imgCustomIcon->setPixmap(
+        picture.isNull() ? QPixmap() : picture.pixmap(size, devicePixelRatio()));
 }
 
 void frmCategoryDetails::opnDefaultIcon_Click()
