@@ -268,6 +268,10 @@ class Desktop:
                                      cwd=self.path("home"))
         return Program(child, os.path.join(self.logs, name + ".out"), os.path.join(self.logs, name + ".err"))
 
+    def start_beside(self, arguments):
+        """Starts another program on this desk; it ends with the desk."""
+        return self._children.start(arguments, self.environment, os.path.basename(arguments[0]))
+
     def run(self, arguments, clock=None):
         """Runs a short command on this desk; returns its output."""
         variables = {**self.environment, **(clock.environment() if clock else {})}

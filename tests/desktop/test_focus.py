@@ -36,6 +36,9 @@ class MainGridTest(FocusCase):
         self.user.wait_loaded()
         self.user.wait_rows(["Alpha", "Beta"])
 
+    def test_the_program_opens_with_the_focus_in_the_list(self):
+        self.wait_grid_focus(names.MAIN)
+
     def test_cancel_gives_the_focus_back_to_the_list(self):
         dialog = self.user.open_new_task()
         self.user.click_control(dialog, names.CANCEL)

@@ -3,8 +3,8 @@ import configparser
 import hashlib
 import os
 import signal
-import sqlite3
 import subprocess
+import sys
 from datetime import datetime
 
 import names
@@ -14,6 +14,13 @@ from desktop import PROGRAM_NAME
 from polling import wait_until
 
 OTHER_USER = 65534
+HOLDER = """
+import sqlite3, sys, time
+connection = sqlite3.connect(sys.argv[1], isolation_level=None)
+connection.execute("begin exclusive")
+open(sys.argv[2], "w").close()
+time.sleep(600)
+"""
 
 
 def snapshot(*folders):
@@ -75,14 +82,19 @@ class SingleCopyTest(StartCase):
         self.assertEqual(left.wait_end(), 0)
 
     def test_a_started_file_does_not_keep_the_place_of_the_program(self):
-        script = self.desk.write("lasting.sh", "#!/bin/sh\nexec sleep 600\n", 0o755)
+        sign = self.desk.path("lasting.pid")
+        script = self.desk.write("lasting.sh", f"#!/bin/sh\necho $$ > '{sign}'\nexec sleep 600\n", 0o755)
         self.store.add_task("Due", reminder=datetime(2020, 1, 1, 9, 0), file=script)
         first = self.start()
         first.alert(1)
+        wait_until(lambda: os.path.exists(sign) and os.path.getsize(sign), "the file is started")
         first.program.send(signal.SIGKILL)
         first.program.wait_end()
         second = self.start()
-        second.wait_loaded()
+        second.window(names.MAIN)
+        self.assertTrue(second.program.running())
+        with open(sign, encoding="ascii") as number:
+            self.assertTrue(os.path.exists("/proc/" + number.read().strip()), "the started file still runs")
 
 
 class FirstStartTest(StartCase):
@@ -171,9 +183,10 @@ class BrokenDataTest(StartCase):
         self.refuse()
 
     def test_with_a_file_that_another_program_holds(self):
-        holder = sqlite3.connect(self.desk.data_file, isolation_level=None)
-        self.addCleanup(holder.close)
-        holder.execute("begin exclusive")
+        # In a process of its own: reading the file here would drop a lock of this one.
+        sign = self.desk.path("held")
+        self.desk.start_beside([sys.executable, "-c", HOLDER, self.desk.data_file, sign])
+        wait_until(lambda: os.path.exists(sign), "the file is held")
         self.refuse("data.dat")
 
     def test_with_a_file_that_may_not_be_read(self):
@@ -218,8 +231,7 @@ class StopTest(StartCase):
 
     def test_a_lost_data_file_is_reported_and_the_program_can_go_on(self):
         os.rename(self.desk.data_file, self.desk.data_file + ".away")
-        option = self.user.main().find("option", "Active tasks only")
-        option.press()
+        self.user.click_control(self.user.main(), ("option", "Active tasks only"))
         box = self.user.access.message_box("data.dat")
         self.user.click(box.find("button", "Continue"))
         self.user.wait_active(names.MAIN)

@@ -3,7 +3,7 @@ from datetime import datetime
 
 import names
 from case import DesktopCase, main
-from polling import wait_until
+from polling import holds_for, wait_until
 
 PAST = datetime(2026, 3, 2, 10, 0, 0)
 NOW = datetime(2026, 3, 2, 10, 20, 30)
@@ -112,6 +112,13 @@ class AlwaysOnTopAlertTest(WindowCase):
 
 class OrdinaryWindowsTest(WindowCase):
     due = ("First",)
+
+    def test_an_alert_that_is_due_at_the_start_comes_up_in_front_of_the_main_window(self):
+        alert = self.user.window(names.alert_title(1))
+        main_window = self.user.window(names.MAIN)
+        wait_until(lambda: self.desk.screen.is_above(alert, main_window), "the alert is in front")
+        # Whatever the start still has to do must not bring the main window to the front again.
+        holds_for(lambda: self.desk.screen.is_above(alert, main_window), "the alert stays in front", 2)
 
     def test_no_window_is_topmost(self):
         alert = self.user.window(names.alert_title(1))
