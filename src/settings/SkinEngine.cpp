@@ -20,14 +20,15 @@ void SkinEngine::loadSkinFile(const QString& path)
     m_loaded = SkinFile::read(path);
 }
 
-void SkinEngine::applySkin() const
+void SkinEngine::applySkin()
 {
     // Every widget is polished anew by what follows.
-    if (qApp->styleSheet() == m_loaded.styleSheet && QApplication::palette() == m_loaded.palette) {
+    if (qApp->styleSheet() == m_loaded.styleSheet && m_appliedPalette == m_loaded.palette) {
         return;
     }
     // A palette set under a style sheet does not reach widgets that the sheet has polished.
     qApp->setStyleSheet({});
     QApplication::setPalette(m_loaded.palette);
     qApp->setStyleSheet(m_loaded.styleSheet);
+    m_appliedPalette = m_loaded.palette;
 }

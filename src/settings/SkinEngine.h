@@ -14,8 +14,9 @@ public:
     /// Loads the skin file at `path`. Throws SkinError; then the skin loaded before stays.
     void loadSkinFile(const QString& path);
     /// The application's windows, present and future, wear the loaded skin. Cheap when they wear it already.
-    void applySkin() const;
+    void applySkin();
 
 private:
     SkinFile m_loaded;
+    QPalette m_appliedPalette;
 };

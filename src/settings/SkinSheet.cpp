@@ -153,10 +153,9 @@ void checkRules(const QString& plain, int line)
         const qsizetype open = plain.indexOf(u'{', start);
         const qsizetype close = plain.indexOf(u'}', start);
         const QString selectors = plain.mid(start, (open < 0 ? plain.size() : open) - start);
-        // Where the selector itself begins, not the blank lines before it.
         const QString trimmed = selectors.trimmed();
-        const int selectorLine =
-            line + static_cast<int>(QStringView(selectors).first(selectors.indexOf(trimmed)).count(u'\n'));
+        const qsizetype before = trimmed.isEmpty() ? selectors.size() : selectors.indexOf(trimmed);
+        const int selectorLine = line + static_cast<int>(QStringView(selectors).first(before).count(u'\n'));
         if (open < 0) {
             if (!trimmed.isEmpty()) {
                 throw SkinLineError(selectorLine, say("expected a rule"));

@@ -1,0 +1,217 @@
+#include "settings/DataFileCopies.h"
+#include "settings/DeadOperation.h"
+#include "settings/MaintenancePageUnderTest.h"
+#include "support/CaughtError.h"
+#include "support/TestMain.h"
+
+#include <csignal>
+#include <sys/resource.h>
+#include <unistd.h>
+
+class TestBackup : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void theProposedNameHoldsTheDateWithDashes();
+    void theCopyIsByteIdenticalAndPrivate();
+    void theCopyReplacesAnOlderOne();
+    void aLinkIsFollowedToTheFileItPointsTo();
+    void theCheckerRestsFromTheDialogToTheEndOfTheCopy();
+    void aCancelledDialogChangesNothing();
+    void aTargetThatCannotBeWrittenIsSilent();
+    void theDataFileItselfIsNeverTheTarget_data();
+    void theDataFileItselfIsNeverTheTarget();
+    void aFullDiskLeavesTheOlderBackup();
+    void theJournalOfADeadProcessIsRolledBackFirst();
+    void noStatementIsSent();
+    void noHandleToTheDataFileStaysOpen();
+};
+
+namespace
+{
+
+/// Writes beyond this size fail while it lives, as on a full disk.
+class FullDisk
+{
+public:
+    explicit FullDisk(rlim_t bytes)
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit tight{bytes, m_before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &tight);
+    }
+    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &m_before); }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+
+private:
+    rlimit m_before{};
+};
+
+} // namespace
+
+void TestBackup::theProposedNameHoldsTheDateWithDashes()
+{
+    MaintenancePageUnderTest test;
+    test.dialogs.expectSave({}, [](const FileDialogRequest& request) {
+        QCOMPARE(request.fileName, QStringLiteral("Ambertaks 1-15-2026"));
+        QCOMPARE(request.filter, QStringLiteral("Ambertaks Backup Files (*.abk)|*.abk"));
+        QVERIFY(request.promptBeforeOverwriting);
+    });
+    test.press("btnBackup");
+}
+
+void TestBackup::theCopyIsByteIdenticalAndPrivate()
+{
+    MaintenancePageUnderTest test;
+    aTask(test.database).named(QStringLiteral("kept")).add();
+    const QString backup = test.pathOf(QStringLiteral("Ambertaks 1-15-2026"));
+    test.dialogs.expectSave(backup);
+    test.press("btnBackup");
+    QVERIFY(!contentOf(backup).isEmpty());
+    QVERIFY(contentOf(backup) == contentOf(test.database.dataFile()));
+    const QFileDevice::Permissions permissions = QFile::permissions(backup);
+    QVERIFY(!permissions.testFlag(QFileDevice::ReadGroup) && !permissions.testFlag(QFileDevice::ReadOther));
+    QCOMPARE(test.files(), QStringList({QStringLiteral("Ambertaks 1-15-2026"), QStringLiteral("data.dat")}));
+}
+
+void TestBackup::theCopyReplacesAnOlderOne()
+{
+    MaintenancePageUnderTest test;
+    const QString backup = test.pathOf(QStringLiteral("old.abk"));
+    writeText(backup, QByteArray(500000, 'x'));
+    test.dialogs.expectSave(backup);
+    test.press("btnBackup");
+    QVERIFY(contentOf(backup) == contentOf(test.database.dataFile()));
+}
+
+void TestBackup::aLinkIsFollowedToTheFileItPointsTo()
+{
+    MaintenancePageUnderTest test;
+    const QTemporaryDir elsewhere;
+    const QString real = elsewhere.filePath(QStringLiteral("real.abk"));
+    const QString link = test.pathOf(QStringLiteral("link.abk"));
+    writeText(real, "old");
+    QVERIFY(QFile::link(real, link));
+    test.dialogs.expectSave(link);
+    test.press("btnBackup");
+    QVERIFY(QFileInfo(link).isSymLink());
+    QVERIFY(contentOf(real) == contentOf(test.database.dataFile()));
+}
+
+void TestBackup::theCheckerRestsFromTheDialogToTheEndOfTheCopy()
+{
+    MaintenancePageUnderTest test;
+    test.dialogs.expectSave(test.pathOf(QStringLiteral("b.abk")),
+        [&](const FileDialogRequest&) { QVERIFY(!test.checkerTimer.enabled); });
+    test.press("btnBackup");
+    QCOMPARE(test.checkerTimer.switches, QList<bool>({false, true}));
+}
+
+void TestBackup::aCancelledDialogChangesNothing()
+{
+    MaintenancePageUnderTest test;
+    const QByteArray before = contentOf(test.database.dataFile());
+    test.dialogs.expectSave({});
+    test.press("btnBackup");
+    QVERIFY(contentOf(test.database.dataFile()) == before);
+    QCOMPARE(test.files(), QStringList(QStringLiteral("data.dat")));
+    QVERIFY(test.checkerTimer.enabled);
+}
+
+void TestBackup::aTargetThatCannotBeWrittenIsSilent()
+{
+    MaintenancePageUnderTest test;
+    QVERIFY(QDir(test.database.folder()).mkdir(QStringLiteral("folder")));
+    for (const QString& target : {QStringLiteral("/nowhere/b.abk"), test.pathOf(QStringLiteral("folder")),
+             QStringLiteral("/dev/null")}) {
+        test.dialogs.expectSave(target);
+        test.press("btnBackup");
+        QVERIFY(test.checkerTimer.enabled);
+    }
+    QCOMPARE(test.files(), QStringList({QStringLiteral("data.dat"), QStringLiteral("folder")}));
+    QVERIFY(!QFileInfo(QStringLiteral("/dev/null")).isFile());
+}
+
+void TestBackup::theDataFileItselfIsNeverTheTarget_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("by name") << QStringLiteral("data.dat");
+    QTest::newRow("by a detour") << QStringLiteral("sub/../data.dat");
+    QTest::newRow("by a link") << QStringLiteral("link.abk");
+    QTest::newRow("by a second name") << QStringLiteral("hard.abk");
+    QTest::newRow("its journal") << QStringLiteral("data.dat-journal");
+}
+
+void TestBackup::theDataFileItselfIsNeverTheTarget()
+{
+    QFETCH(const QString, name);
+    MaintenancePageUnderTest test;
+    QVERIFY(QDir(test.database.folder()).mkdir(QStringLiteral("sub")));
+    QVERIFY(QFile::link(test.database.dataFile(), test.pathOf(QStringLiteral("link.abk"))));
+    QCOMPARE(::link(QFile::encodeName(test.database.dataFile()).constData(),
+                 QFile::encodeName(test.pathOf(QStringLiteral("hard.abk"))).constData()),
+        0);
+    const QStringList before = test.files();
+    const auto error =
+        caught<RuntimeError>([&] { DataFileCopies(test.database.engine()).backUpTo(test.pathOf(name)); });
+    QVERIFY(error.has_value());
+    QCOMPARE(test.files(), before);
+    QVERIFY(QFileInfo(test.pathOf(QStringLiteral("link.abk"))).isSymLink());
+}
+
+void TestBackup::aFullDiskLeavesTheOlderBackup()
+{
+    MaintenancePageUnderTest test;
+    const QString backup = test.pathOf(QStringLiteral("old.abk"));
+    writeText(backup, "old");
+    test.dialogs.expectSave(backup);
+    {
+        const FullDisk disk(8192);
+        test.press("btnBackup");
+    }
+    QCOMPARE(contentOf(backup), QByteArray("old"));
+    QCOMPARE(test.files(), QStringList({QStringLiteral("data.dat"), QStringLiteral("old.abk")}));
+    QVERIFY(test.checkerTimer.enabled);
+}
+
+void TestBackup::theJournalOfADeadProcessIsRolledBackFirst()
+{
+    MaintenancePageUnderTest test;
+    for (int i = 0; i < 200; ++i) {
+        aTask(test.database).named(QStringLiteral("task %1 ").arg(i) + QString(300, u'x')).add();
+    }
+    const QTemporaryDir dead;
+    leaveDeadOperation(test.database.dataFile(), dead.path());
+    const DatabaseEngine engine{dead.path(), &test.services.clock, nullptr};
+    const QString backup = test.pathOf(QStringLiteral("b.abk"));
+    DataFileCopies(engine).backUpTo(backup);
+    QVERIFY(contentOf(backup) == contentOf(test.database.dataFile()));
+    QVERIFY(!QFileInfo::exists(dead.filePath(QStringLiteral("data.dat-journal"))));
+}
+
+void TestBackup::noStatementIsSent()
+{
+    MaintenancePageUnderTest test;
+    test.dialogs.expectSave(test.pathOf(QStringLiteral("b.abk")));
+    test.press("btnBackup");
+    QVERIFY(test.database.statements().take().isEmpty());
+    QCOMPARE(test.database.statements().opened(), test.database.statements().closed());
+}
+
+void TestBackup::noHandleToTheDataFileStaysOpen()
+{
+    MaintenancePageUnderTest test;
+    test.dialogs.expectSave(test.pathOf(QStringLiteral("b.abk")));
+    test.press("btnBackup");
+    for (const QFileInfo& handle :
+        QDir(QStringLiteral("/proc/self/fd")).entryInfoList(QDir::Files | QDir::System)) {
+        QVERIFY2(
+            !handle.symLinkTarget().startsWith(test.database.folder()), qPrintable(handle.symLinkTarget()));
+    }
+}
+
+AMBERTASK_TEST_MAIN(TestBackup)
+#include "tst_backup.moc"

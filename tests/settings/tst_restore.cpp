@@ -1,0 +1,279 @@
+#include "settings/DataFileCopies.h"
+#include "settings/DeadOperation.h"
+#include "settings/MaintenancePageUnderTest.h"
+#include "settings/SettingsPageUnderTest.h"
+#include "support/CaughtError.h"
+#include "support/TestMain.h"
+
+namespace
+{
+
+void execute(const QString& file, const char* sql)
+{
+    sqlite3* opened = nullptr;
+    QCOMPARE(sqlite3_open(QFile::encodeName(file).constData(), &opened), SQLITE_OK);
+    const std::unique_ptr<sqlite3, int (*)(sqlite3*)> database(opened, sqlite3_close);
+    char* error = nullptr;
+    QVERIFY2(sqlite3_exec(opened, sql, nullptr, nullptr, &error) == SQLITE_OK, error);
+}
+
+/// A page whose data file holds the task "after", and a backup with the task "before".
+struct RestoreUnderTest : MaintenancePageUnderTest {
+    RestoreUnderTest()
+    {
+        aTask(database).named(QStringLiteral("before")).add();
+        DataFileCopies(database.engine()).backUpTo(backup());
+        database.sql(QStringLiteral("delete from tasks"));
+        aTask(database).named(QStringLiteral("after")).add();
+    }
+    QString backup() const { return elsewhere.filePath(QStringLiteral("b.abk")); }
+    void restore(const QString& file)
+    {
+        dialogs.expectOpen(file);
+        press("btnRestore");
+    }
+
+    QTemporaryDir elsewhere;
+};
+
+} // namespace
+
+class TestRestore : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void aBackupBringsItsTasksAndCategoriesBack();
+    void theDataFileBecomesTheBackupByteForByteAndPrivate();
+    void whatWasReplacedIsKeptBeside();
+    void theSettingsOnThePageSurviveTheRestore();
+    void theCheckerRestsUntilEverythingIsReloaded();
+    void theDialogAsksForABackup();
+    void aCancelledDialogChangesNothing();
+    void aFileThatIsNoBackupChangesNothing_data();
+    void aFileThatIsNoBackupChangesNothing();
+    void aBackupOfAnUnfinishedOperationIsRefused();
+    void theDataFileIsNotItsOwnBackup();
+    void theFileOfTheLastRestoreCanBeRestored();
+    void aBackupWithoutASettingsRowIsRestored();
+    void aDamagedDataFileIsReplaced();
+    void aMissingDataFileIsReplaced();
+    void theJournalOfADeadProcessDoesNotReachTheNewFile();
+    void nothingIsLeftBehind();
+};
+
+void TestRestore::aBackupBringsItsTasksAndCategoriesBack()
+{
+    RestoreUnderTest test;
+    test.database.sql(QStringLiteral("delete from categories"));
+    test.restore(test.backup());
+    QCOMPARE(test.tasks(), QStringList(QStringLiteral("before")));
+    QCOMPARE(test.database.sql(QStringLiteral("select count(*) from categories")).toInt(), 4);
+    QCOMPARE(test.restored.size(), 1);
+}
+
+void TestRestore::theDataFileBecomesTheBackupByteForByteAndPrivate()
+{
+    RestoreUnderTest test;
+    QVERIFY(QFile::setPermissions(test.backup(),
+        QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ReadGroup | QFileDevice::ReadOther));
+    test.restore(test.backup());
+    QVERIFY(contentOf(test.database.dataFile()) == contentOf(test.backup()));
+    const QFileDevice::Permissions permissions = QFile::permissions(test.database.dataFile());
+    QVERIFY(!permissions.testFlag(QFileDevice::ReadGroup) && !permissions.testFlag(QFileDevice::ReadOther));
+}
+
+void TestRestore::whatWasReplacedIsKeptBeside()
+{
+    RestoreUnderTest test;
+    const QByteArray replaced = contentOf(test.database.dataFile());
+    test.restore(test.backup());
+    QVERIFY(contentOf(test.pathOf(QStringLiteral("data.dat.before-restore"))) == replaced);
+}
+
+void TestRestore::theSettingsOnThePageSurviveTheRestore()
+{
+    SettingsPageUnderTest settings;
+    MaintenancePage page(settings.services);
+    page.prepareFilters();
+    connect(&page, &MaintenancePage::dataRestored, &settings.page, &SettingsPage::btnSave_Click);
+    const QTemporaryDir elsewhere;
+    const QString backup = elsewhere.filePath(QStringLiteral("b.abk"));
+    settings.database.sql(QStringLiteral("update settings set skin='Classic', show_grid=0, always_on_top=0"));
+    DataFileCopies(settings.database.engine()).backUpTo(backup);
+    settings.setAll(true);
+    settings.cmbSkins()->setCurrentText(QStringLiteral("Lemon"));
+
+    settings.dialogs.expectOpen(backup);
+    QTest::mouseClick(page.findChild<QPushButton*>(QStringLiteral("btnRestore")), Qt::LeftButton);
+
+    QCOMPARE(settings.database.rows(QStringLiteral("select * from settings")),
+        QList<QVariantList>({{1, 1, 1, QStringLiteral("Lemon"), 1, 1, 1, 1, 1, 1, 1}}));
+    QVERIFY(settings.record.always_on_top);
+    QVERIFY(!settings.runEntry().isEmpty());
+    QCOMPARE(settings.host.calls.last(), QStringLiteral("LoadTasks"));
+}
+
+void TestRestore::theCheckerRestsUntilEverythingIsReloaded()
+{
+    RestoreUnderTest test;
+    bool restedAtTheEnd = false;
+    connect(&test.page, &MaintenancePage::dataRestored, &test.page,
+        [&] { restedAtTheEnd = !test.checkerTimer.enabled; });
+    test.restore(test.backup());
+    QVERIFY(restedAtTheEnd);
+    QCOMPARE(test.checkerTimer.switches, QList<bool>({false, true}));
+}
+
+void TestRestore::theDialogAsksForABackup()
+{
+    RestoreUnderTest test;
+    test.dialogs.expectOpen({}, [&](const FileDialogRequest& request) {
+        QVERIFY(!test.checkerTimer.enabled);
+        QVERIFY(request.fileName.isEmpty());
+        QCOMPARE(request.filter, QStringLiteral("Ambertaks Backup Files (*.abk)|*.abk"));
+    });
+    test.press("btnRestore");
+}
+
+void TestRestore::aCancelledDialogChangesNothing()
+{
+    RestoreUnderTest test;
+    const QByteArray before = contentOf(test.database.dataFile());
+    test.restore({});
+    QVERIFY(contentOf(test.database.dataFile()) == before);
+    QVERIFY(test.checkerTimer.enabled);
+    QCOMPARE(test.restored.size(), 0);
+}
+
+void TestRestore::aFileThatIsNoBackupChangesNothing_data()
+{
+    QTest::addColumn<QByteArray>("sql");
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("missing") << QByteArray() << QByteArray();
+    QTest::newRow("empty") << QByteArray() << QByteArray("");
+    QTest::newRow("a text") << QByteArray() << QByteArray("Dear diary");
+    QTest::newRow("only a header") << QByteArray() << QByteArray("SQLite format 3\0", 16);
+    QTest::newRow("cut short") << QByteArray() << QByteArray("cut");
+    QTest::newRow("damaged inside") << QByteArray() << QByteArray("damage");
+    QTest::newRow("no tasks") << QByteArray("drop table tasks") << QByteArray();
+    QTest::newRow("no categories") << QByteArray("drop table categories") << QByteArray();
+    QTest::newRow("no settings") << QByteArray("drop table settings") << QByteArray();
+    QTest::newRow("a column less") << QByteArray("alter table tasks drop column played") << QByteArray();
+    QTest::newRow("another database") << QByteArray(
+        "drop table tasks; drop table settings; drop table categories;"
+        "create table songs(title)") << QByteArray();
+    QTest::newRow("a view instead of a table")
+        << QByteArray("alter table tasks rename to t; create view tasks as select * from t") << QByteArray();
+    QTest::newRow("a moment that is none")
+        << QByteArray("update tasks set task_due_date='soon'") << QByteArray();
+    QTest::newRow("a category id of 17 bits")
+        << QByteArray("update categories set cat_id=70000 where cat_id=4") << QByteArray();
+}
+
+void TestRestore::aFileThatIsNoBackupChangesNothing()
+{
+    QFETCH(const QByteArray, sql);
+    QFETCH(const QByteArray, content);
+    RestoreUnderTest test;
+    QString file = test.backup();
+    if (!sql.isEmpty()) {
+        execute(file, sql.constData());
+    } else if (content == "cut") {
+        writeText(file, contentOf(file).chopped(4096));
+    } else if (content == "damage") {
+        QByteArray bytes = contentOf(file);
+        writeText(file, bytes.replace(4096, 8192, QByteArray(8192, '\x55')));
+    } else if (content.isNull()) {
+        file += QStringLiteral(".missing");
+    } else {
+        writeText(file, content);
+    }
+    const QByteArray before = contentOf(test.database.dataFile());
+    test.restore(file);
+    QVERIFY(contentOf(test.database.dataFile()) == before);
+    QCOMPARE(test.files(), QStringList(QStringLiteral("data.dat")));
+    QCOMPARE(test.restored.size(), 0);
+    QVERIFY(test.checkerTimer.enabled);
+}
+
+void TestRestore::aBackupOfAnUnfinishedOperationIsRefused()
+{
+    RestoreUnderTest test;
+    const QByteArray before = contentOf(test.database.dataFile());
+    writeText(test.backup() + QStringLiteral("-journal"), "unfinished");
+    test.restore(test.backup());
+    QVERIFY(contentOf(test.database.dataFile()) == before);
+    QCOMPARE(test.restored.size(), 0);
+}
+
+void TestRestore::theDataFileIsNotItsOwnBackup()
+{
+    RestoreUnderTest test;
+    test.restore(test.database.dataFile());
+    QCOMPARE(test.restored.size(), 0);
+    QCOMPARE(test.tasks(), QStringList(QStringLiteral("after")));
+}
+
+void TestRestore::theFileOfTheLastRestoreCanBeRestored()
+{
+    RestoreUnderTest test;
+    test.restore(test.backup());
+    test.restore(test.pathOf(QStringLiteral("data.dat.before-restore")));
+    QCOMPARE(test.tasks(), QStringList(QStringLiteral("after")));
+    QCOMPARE(test.restored.size(), 2);
+}
+
+void TestRestore::aBackupWithoutASettingsRowIsRestored()
+{
+    RestoreUnderTest test;
+    execute(test.backup(), "delete from settings");
+    test.restore(test.backup());
+    QCOMPARE(test.restored.size(), 1);
+    QCOMPARE(test.tasks(), QStringList(QStringLiteral("before")));
+}
+
+void TestRestore::aDamagedDataFileIsReplaced()
+{
+    RestoreUnderTest test;
+    writeText(test.database.dataFile(), "no database any more");
+    test.restore(test.backup());
+    QCOMPARE(test.tasks(), QStringList(QStringLiteral("before")));
+    QCOMPARE(contentOf(test.pathOf(QStringLiteral("data.dat.before-restore"))),
+        QByteArray("no database any more"));
+}
+
+void TestRestore::aMissingDataFileIsReplaced()
+{
+    RestoreUnderTest test;
+    QVERIFY(QFile::remove(test.database.dataFile()));
+    test.restore(test.backup());
+    QCOMPARE(test.tasks(), QStringList(QStringLiteral("before")));
+}
+
+void TestRestore::theJournalOfADeadProcessDoesNotReachTheNewFile()
+{
+    RestoreUnderTest test;
+    for (int i = 0; i < 200; ++i) {
+        aTask(test.database).named(QStringLiteral("task %1 ").arg(i) + QString(300, u'x')).add();
+    }
+    const QTemporaryDir dead;
+    leaveDeadOperation(test.database.dataFile(), dead.path());
+    const DatabaseEngine engine{dead.path(), &test.services.clock, nullptr};
+    DataFileCopies(engine).restoreFrom(test.backup());
+    QVERIFY(contentOf(dead.filePath(QStringLiteral("data.dat"))) == contentOf(test.backup()));
+    QVERIFY(!QFileInfo::exists(dead.filePath(QStringLiteral("data.dat-journal"))));
+    QVERIFY(contentOf(dead.filePath(QStringLiteral("data.dat.before-restore")))
+        == contentOf(test.database.dataFile()));
+}
+
+void TestRestore::nothingIsLeftBehind()
+{
+    RestoreUnderTest test;
+    test.restore(test.backup());
+    QCOMPARE(
+        test.files(), QStringList({QStringLiteral("data.dat"), QStringLiteral("data.dat.before-restore")}));
+}
+
+AMBERTASK_TEST_MAIN(TestRestore)
+#include "tst_restore.moc"

@@ -1,0 +1,234 @@
+#include "settings/SkinFile.h"
+#include "settings/SkinFolder.h"
+#include "support/CaughtError.h"
+#include "support/TestMain.h"
+
+#include <QTemporaryDir>
+
+namespace
+{
+
+SkinFile parsed(const QByteArray& content)
+{
+    return SkinFile::parse(content, QStringLiteral("X.skf"));
+}
+
+QByteArray skinWith(const QByteArray& headerLines, const QByteArray& sheet = "QLabel { color: $ink; }")
+{
+    return "/*\n@name X\n@color ink #102030\n" + headerLines + "\n*/\n" + sheet;
+}
+
+} // namespace
+
+class TestSkinFile : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void aSkinSaysItsNameVersionAuthorAndDescription();
+    void otherLinesOfTheCommentAreFree();
+    void tokensBecomeColours();
+    void rolesTakeTheirColoursInAllGroups();
+    void disabledRolesAreSetWhateverTheOrder();
+    void aFaultNamesFileAndLine_data();
+    void aFaultNamesFileAndLine();
+    void whatLooksAlikeIsAllowed_data();
+    void whatLooksAlikeIsAllowed();
+    void aNameThatCouldBeNoFileNameIsRefused_data();
+    void aNameThatCouldBeNoFileNameIsRefused();
+    void aFileLargerThanOneMebibyteIsRefused();
+    void aFileThatIsNotUtf8IsRefused_data();
+    void aFileThatIsNotUtf8IsRefused();
+    void linesMayEndAsOnWindows();
+    void aMissingFileIsNamed();
+    void aFolderIsNoSkin();
+};
+
+void TestSkinFile::aSkinSaysItsNameVersionAuthorAndDescription()
+{
+    const SkinInfo info =
+        parsed("/*\n@name  Deep Sea \n@version 2.0\n@author Å. Vik\n@description Blue, and calm\n*/").info;
+    QCOMPARE(info.name, QStringLiteral("Deep Sea"));
+    QCOMPARE(info.version, QStringLiteral("2.0"));
+    QCOMPARE(info.author, QString::fromUtf8("Å. Vik"));
+    QCOMPARE(info.description, QStringLiteral("Blue, and calm"));
+}
+
+void TestSkinFile::otherLinesOfTheCommentAreFree()
+{
+    QCOMPARE(parsed("/* A skin of mine.\n\n@name X\nmail me @ home\n*/").info.name, QStringLiteral("X"));
+}
+
+void TestSkinFile::tokensBecomeColours()
+{
+    const SkinFile skin = parsed(
+        skinWith("@color ink-2 #ABCDEF", "QLabel { color: $ink; background: $ink-2; border-color: $ink}"));
+    QCOMPARE(skin.styleSheet.trimmed(),
+        QStringLiteral("QLabel { color: #102030; background: #abcdef; border-color: #102030}"));
+}
+
+void TestSkinFile::rolesTakeTheirColoursInAllGroups()
+{
+    const QPalette palette = parsed(skinWith("@palette WindowText $ink")).palette;
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        QCOMPARE(palette.color(group, QPalette::WindowText), QColor(0x10, 0x20, 0x30));
+    }
+}
+
+void TestSkinFile::disabledRolesAreSetWhateverTheOrder()
+{
+    const QPalette palette =
+        parsed(skinWith("@disabled Text $off\n@palette Text $ink\n@color off #777777")).palette;
+    QCOMPARE(palette.color(QPalette::Active, QPalette::Text), QColor(0x10, 0x20, 0x30));
+    QCOMPARE(palette.color(QPalette::Disabled, QPalette::Text), QColor(0x77, 0x77, 0x77));
+}
+
+void TestSkinFile::aFaultNamesFileAndLine_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("error");
+    const auto row = [](const char* tag, const QByteArray& content, const char* error) {
+        QTest::newRow(tag) << content << QStringLiteral("X.skf, line ") + QLatin1String(error);
+    };
+    row("no comment block", "QLabel {}", "1: the file does not begin with a comment block");
+    row("open comment block", "/*\n@name X\n", "1: the comment block has no end");
+    row("no name", "/*\n@version 1\n*/", "1: the comment block has no \"@name\"");
+    row("empty name", "/*\n@name\n*/", "2: \"@name\" says nothing");
+    row("second name", "/*\n@name X\n@name Y\n*/", "3: a second \"@name\"");
+    row("unknown keyword", skinWith("@colour a #000000"), "4: unknown keyword \"@colour\"");
+    row("short colour", skinWith("@color a #000"), "4: expected \"@color token #rrggbb\"");
+    row("second colour", skinWith("@color ink #000000"), "4: a second colour \"ink\"");
+    row("unknown role", skinWith("@palette Wall $ink"), "4: unknown palette role \"Wall\"");
+    row("role without token", skinWith("@palette Text #000000"), "4: expected \"@palette Role $token\"");
+    row("disabled without token", skinWith("@disabled Text"), "4: expected \"@disabled Role $token\"");
+    row("role of unknown colour", skinWith("\n@palette Text $blue"), "5: unknown colour \"$blue\"");
+    row("sheet of unknown colour", skinWith("", "\nQLabel {\n color: $blue; }"),
+        "8: unknown colour \"$blue\"");
+    row("open comment", skinWith("", "QLabel {}\n/* open"), "7: a comment has no end");
+    row("open text", skinWith("", "QLabel { font-family: \"Sans; }"), "6: a text in quotes has no end");
+    row("open rule", skinWith("", "QLabel {\n color: $ink;\n"), "6: a rule has no selector or no end");
+    row("rule in a rule", skinWith("", "QLabel { QLabel {} }"), "6: a rule has no selector or no end");
+    row("rule without selector", skinWith("", "{ color: $ink; }"), "6: a rule has no selector or no end");
+    row("text after the rules", skinWith("", "QLabel {}\n\nQLabel"), "8: expected a rule");
+    row("property without value", skinWith("", "QLabel {\n color: $ink;\n bold;\n}"),
+        "8: \"bold\" is no property with a value");
+    row("at-rule", skinWith("", "@import \"other.qss\";"), "6: expected a rule");
+    row("media rule", skinWith("", "@media screen { }"), "6: \"@media\" is not allowed");
+    row("picture", skinWith("", "QLabel {\n image: URL(a.png); }"),
+        "7: \"URL(\": a skin is one file and holds no pictures");
+    row("property of a control", skinWith("", "QLabel { qproperty-text: \"x\"; }"),
+        "6: \"qproperty-text\" is not allowed");
+    row("check mark", skinWith("", "\nQCheckBox::indicator { width: 9px; }"),
+        "7: \"::indicator\" is drawn by the program");
+    row("arrow", skinWith("", "QLabel, QComboBox::down-arrow { width: 9px; }"),
+        "6: \"::down-arrow\" is drawn by the program");
+    for (const char* selector :
+        {"QComboBox", "QDateEdit:focus", "QGroupBox QSpinBox", "QFrame > QTimeEdit", ".QAbstractSpinBox", "*",
+            "QWidget", ":focus", "#cmbStatus", "QLabel, QComboBox", "QWidget[a=\"b\"]"}) {
+        row(selector, skinWith("", QByteArray(selector) + " {\n color: $ink;\n border : 1px; }"),
+            "8: \"border :\" would take the arrow of a list or picker away");
+    }
+    row("ground of a list", skinWith("", "QComboBox { background-color: $ink; }"),
+        "6: \"background-color:\" would take the arrow of a list or picker away");
+}
+
+void TestSkinFile::aFaultNamesFileAndLine()
+{
+    QFETCH(const QByteArray, content);
+    QFETCH(const QString, error);
+    const auto fault = caught<SkinError>([&] { parsed(content); });
+    QVERIFY(fault.has_value());
+    QCOMPARE(fault->text(), error);
+}
+
+void TestSkinFile::whatLooksAlikeIsAllowed_data()
+{
+    QTest::addColumn<QByteArray>("sheet");
+    QTest::newRow("fault in a comment") << QByteArray("/* QCheckBox::indicator { url(x) } ' */");
+    QTest::newRow("fault in a text") << QByteArray("QLabel { font-family: \"url(}\"; }");
+    QTest::newRow("border of a button") << QByteArray("QWidget QPushButton:hover { border: 1px solid $ink }");
+    QTest::newRow("colour of a list") << QByteArray("QComboBox { color: $ink; font: bold; }");
+    QTest::newRow("ground of a list's entries")
+        << QByteArray("QComboBox QAbstractItemView { background: $ink; }");
+    QTest::newRow("ground of a named frame") << QByteArray("#framHeader { background: $ink; }");
+    QTest::newRow("edge of a bar") << QByteArray("QScrollBar::handle { background: $ink; }");
+    QTest::newRow("no last semicolon") << QByteArray("QLabel { color: $ink }");
+    QTest::newRow("nothing") << QByteArray("");
+}
+
+void TestSkinFile::whatLooksAlikeIsAllowed()
+{
+    QFETCH(const QByteArray, sheet);
+    const auto fault = caught<SkinError>([&] { parsed(skinWith("", sheet)); });
+    QVERIFY2(!fault.has_value(), fault ? qPrintable(fault->text()) : "");
+}
+
+void TestSkinFile::aNameThatCouldBeNoFileNameIsRefused_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    for (const char* name : {"a/b", "..", ".hidden", "a\\b", "C:x", "what?", "a\tb", "a\x01", "end."}) {
+        QTest::newRow(name) << QByteArray(name);
+    }
+    QTest::newRow("101 letters") << QByteArray(101, 'x');
+}
+
+void TestSkinFile::aNameThatCouldBeNoFileNameIsRefused()
+{
+    QFETCH(const QByteArray, name);
+    const auto fault = caught<SkinError>([&] { parsed("/*\n@name " + name + "\n*/"); });
+    QVERIFY(fault.has_value());
+    QVERIFY2(fault->text().contains(QStringLiteral("line 2")), qPrintable(fault->text()));
+}
+
+void TestSkinFile::aFileLargerThanOneMebibyteIsRefused()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("Large.skf"));
+    const QByteArray skin = plainSkin("Large");
+    const qsizetype limit = 1024 * 1024;
+    writeText(path, skin + QByteArray(limit - skin.size(), ' '));
+    QCOMPARE(SkinFile::read(path).info.name, QStringLiteral("Large"));
+    writeText(path, skin + QByteArray(limit - skin.size() + 1, ' '));
+    const auto fault = caught<SkinError>([&] { SkinFile::read(path); });
+    QVERIFY(fault.has_value());
+    QCOMPARE(fault->text(), QStringLiteral("Large.skf: the file is larger than 1 MiB"));
+}
+
+void TestSkinFile::aFileThatIsNotUtf8IsRefused_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("latin 1") << QByteArray("/*\n@name X\n@author \xc5\n*/");
+    QTest::newRow("cut letter") << QByteArray("/*\n@name X\n*/\xc3");
+    QTest::newRow("zero") << QByteArray("/*\n@name X\n*/\0", 14);
+}
+
+void TestSkinFile::aFileThatIsNotUtf8IsRefused()
+{
+    QFETCH(const QByteArray, content);
+    const auto fault = caught<SkinError>([&] { parsed(content); });
+    QVERIFY(fault.has_value());
+    QCOMPARE(fault->text(), QStringLiteral("X.skf: the file is not a text in UTF-8"));
+}
+
+void TestSkinFile::linesMayEndAsOnWindows()
+{
+    const SkinFile skin = parsed(skinWith("@palette Text $ink").replace("\n", "\r\n"));
+    QCOMPARE(skin.info.name, QStringLiteral("X"));
+    QCOMPARE(skin.palette.color(QPalette::Text), QColor(0x10, 0x20, 0x30));
+}
+
+void TestSkinFile::aMissingFileIsNamed()
+{
+    const auto fault = caught<SkinError>([] { SkinFile::read(QStringLiteral("/nowhere/Gone.skf")); });
+    QVERIFY(fault.has_value());
+    QCOMPARE(fault->text(), QStringLiteral("Gone.skf: the file does not exist"));
+}
+
+void TestSkinFile::aFolderIsNoSkin()
+{
+    const QTemporaryDir folder;
+    QVERIFY(caught<SkinError>([&] { SkinFile::read(folder.path()); }).has_value());
+}
+
+AMBERTASK_TEST_MAIN(TestSkinFile)
+#include "tst_skin_file.moc"

@@ -1,0 +1,199 @@
+#include "settings/SkinFolder.h"
+#include "settings/Skins.h"
+#include "support/CaughtError.h"
+#include "support/ScriptedDialogs.h"
+#include "support/TestMain.h"
+
+#include <QApplication>
+#include <QTemporaryDir>
+#include <QWidget>
+
+/// A program folder with one good skin and one bad one, and a window that is not shown yet.
+struct SkinsUnderTest {
+    SkinsUnderTest() : skins(folder.path(), dialogs)
+    {
+        copySkins(folder.path(), {});
+        write("Good", plainSkin("Good", "#010203"));
+        write("Bad", "no skin");
+        skins.reportOn(&window);
+    }
+    void write(const QString& name, const QByteArray& content) const
+    {
+        writeText(skins.fileOf(name), content);
+    }
+    static QColor color() { return QApplication::palette().color(QPalette::Window); }
+    void expectReport(const QString& why)
+    {
+        dialogs.expectTell(
+            MessageBoxes::Icon::Exclamation, QStringLiteral("The skin could not be used.\n") + why);
+    }
+    bool allReported()
+    {
+        return QTest::qWaitFor([&] { return dialogs.allUsed(); });
+    }
+
+    QTemporaryDir folder;
+    ScriptedDialogs dialogs;
+    Skins skins;
+    QWidget window;
+};
+
+namespace
+{
+
+const QString BadSkin = QStringLiteral("Bad.skf, line 1: the file does not begin with a comment block");
+
+} // namespace
+
+class TestSkins : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void aSkinIsFoundByItsFileName();
+    void wearingSetsPaletteAndSheetOfTheApplication();
+    void anUnreadableSkinLeavesTheLook();
+    void wearingTheSameSkinAgainPolishesNothing();
+    void anUnreadableSkinIsReportedOnceTheWindowIsOnTheScreen();
+    void anUnreadableSkinIsReportedOnlyOnce();
+    void aSkinThatWorkedAgainIsReportedAgain();
+    void aFaultBeforeThereIsAWindowWaitsForIt();
+    void twoFaultsAreReportedOneAfterTheOther();
+    void addedFilesAreReadableByOthers();
+    void addingRefusesAPathThatIsNoFile();
+};
+
+void TestSkins::aSkinIsFoundByItsFileName()
+{
+    SkinsUnderTest test;
+    QCOMPARE(
+        test.skins.fileOf(QStringLiteral("Aqua")), test.folder.path() + QStringLiteral("/Skins/Aqua.skf"));
+}
+
+void TestSkins::wearingSetsPaletteAndSheetOfTheApplication()
+{
+    SkinsUnderTest test;
+    QVERIFY(test.skins.wear(QStringLiteral("Good")));
+    QCOMPARE(test.color(), QColor(1, 2, 3));
+    QCOMPARE(qApp->styleSheet().trimmed(), QStringLiteral("QPushButton { color: #010203; }"));
+}
+
+void TestSkins::anUnreadableSkinLeavesTheLook()
+{
+    SkinsUnderTest test;
+    test.skins.wear(QStringLiteral("Good"));
+    QVERIFY(!test.skins.wear(QStringLiteral("Bad")));
+    QVERIFY(!test.skins.wear(QStringLiteral("Missing")));
+    QCOMPARE(test.color(), QColor(1, 2, 3));
+    QVERIFY(!qApp->styleSheet().isEmpty());
+}
+
+void TestSkins::wearingTheSameSkinAgainPolishesNothing()
+{
+    SkinsUnderTest test;
+    test.skins.wear(QStringLiteral("Good"));
+    class : public QObject
+    {
+    public:
+        int styleChanges = 0;
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            styleChanges += event->type() == QEvent::StyleChange ? 1 : 0;
+            return false;
+        }
+    } counter;
+    test.window.ensurePolished();
+    test.window.installEventFilter(&counter);
+    test.skins.wear(QStringLiteral("Good"));
+    QCOMPARE(counter.styleChanges, 0);
+    test.write(QStringLiteral("Other"), plainSkin("Other", "#040506"));
+    test.skins.wear(QStringLiteral("Other"));
+    QVERIFY(counter.styleChanges > 0);
+}
+
+void TestSkins::anUnreadableSkinIsReportedOnceTheWindowIsOnTheScreen()
+{
+    SkinsUnderTest test;
+    test.skins.wear(QStringLiteral("Bad"));
+    QCoreApplication::processEvents();
+    test.expectReport(BadSkin);
+    QVERIFY(!test.dialogs.allUsed());
+    test.window.show();
+    QVERIFY(test.allReported());
+}
+
+void TestSkins::anUnreadableSkinIsReportedOnlyOnce()
+{
+    SkinsUnderTest test;
+    test.window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&test.window));
+    test.expectReport(BadSkin);
+    test.skins.wear(QStringLiteral("Bad"));
+    QVERIFY(test.allReported());
+    test.skins.wear(QStringLiteral("Bad"));
+    QCoreApplication::processEvents();
+}
+
+void TestSkins::aSkinThatWorkedAgainIsReportedAgain()
+{
+    SkinsUnderTest test;
+    test.window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&test.window));
+    for (int i = 0; i < 2; ++i) {
+        test.expectReport(BadSkin);
+        test.skins.wear(QStringLiteral("Bad"));
+        QVERIFY(test.allReported());
+        test.write(QStringLiteral("Bad"), plainSkin("Bad"));
+        QVERIFY(test.skins.wear(QStringLiteral("Bad")));
+        test.write(QStringLiteral("Bad"), "no skin");
+    }
+}
+
+void TestSkins::aFaultBeforeThereIsAWindowWaitsForIt()
+{
+    const QTemporaryDir folder;
+    ScriptedDialogs dialogs;
+    Skins skins(folder.path(), dialogs);
+    QVERIFY(!skins.wear(QStringLiteral("Aqua")));
+    QCoreApplication::processEvents();
+    QWidget window;
+    dialogs.expectTell(MessageBoxes::Icon::Exclamation,
+        QStringLiteral("The skin could not be used.\nAqua.skf: the file does not exist"));
+    window.show();
+    skins.reportOn(&window);
+    QVERIFY(QTest::qWaitFor([&] { return dialogs.allUsed(); }));
+}
+
+void TestSkins::twoFaultsAreReportedOneAfterTheOther()
+{
+    SkinsUnderTest test;
+    test.skins.wear(QStringLiteral("Bad"));
+    test.skins.wear(QStringLiteral("Gone"));
+    test.expectReport(BadSkin);
+    test.expectReport(QStringLiteral("Gone.skf: the file does not exist"));
+    test.window.show();
+    QVERIFY(test.allReported());
+}
+
+void TestSkins::addedFilesAreReadableByOthers()
+{
+    SkinsUnderTest test;
+    const QString file = test.folder.filePath(QStringLiteral("New.skf"));
+    writeText(file, plainSkin("New"));
+    QVERIFY(QFile::setPermissions(file, QFileDevice::ReadOwner));
+    test.skins.add(file);
+    const QFileDevice::Permissions permissions = QFile::permissions(test.skins.fileOf(QStringLiteral("New")));
+    QVERIFY(permissions.testFlag(QFileDevice::ReadOwner) && permissions.testFlag(QFileDevice::WriteOwner));
+    QVERIFY(!permissions.testFlag(QFileDevice::ExeOwner) && !permissions.testFlag(QFileDevice::WriteOther));
+}
+
+void TestSkins::addingRefusesAPathThatIsNoFile()
+{
+    SkinsUnderTest test;
+    QVERIFY(caught<RuntimeError>([&] { test.skins.add({}); }).has_value());
+    QVERIFY(caught<RuntimeError>([&] { test.skins.add(test.folder.path()); }).has_value());
+    QVERIFY(caught<RuntimeError>([&] { test.skins.add(QStringLiteral("/nowhere/X.skf")); }).has_value());
+}
+
+AMBERTASK_TEST_MAIN(TestSkins)
+#include "tst_skins.moc"
