@@ -5,6 +5,13 @@
 #include <memory>
 #include <sqlite3.h>
 
+/// Enough tasks that a data file has pages to spare.
+inline const QString TwoHundredTasks =
+    QStringLiteral("insert into tasks(task_name,cat_id,task_due_date,reminder_date_time) "
+                   "with recursive n(i) as (select 1 union all select i+1 from n where i<200) "
+                   "select printf('task %d %s', i, hex(zeroblob(150))), 1, '2026-01-15 11:00:00', "
+                   "'2026-01-15 11:00:00' from n");
+
 /// Leaves in `folder` what a process leaves that died in the middle of deleting all tasks: a data file with
 /// some of the change in it, and the journal that takes it back. `dataFile` is not changed.
 inline void leaveDeadOperation(const QString& dataFile, const QString& folder)

@@ -180,9 +180,7 @@ void TestBackup::aFullDiskLeavesTheOlderBackup()
 void TestBackup::theJournalOfADeadProcessIsRolledBackFirst()
 {
     MaintenancePageUnderTest test;
-    for (int i = 0; i < 200; ++i) {
-        aTask(test.database).named(QStringLiteral("task %1 ").arg(i) + QString(300, u'x')).add();
-    }
+    test.database.sql(TwoHundredTasks);
     const QTemporaryDir dead;
     leaveDeadOperation(test.database.dataFile(), dead.path());
     const DatabaseEngine engine{dead.path(), &test.services.clock, nullptr};

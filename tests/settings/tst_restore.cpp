@@ -254,9 +254,7 @@ void TestRestore::aMissingDataFileIsReplaced()
 void TestRestore::theJournalOfADeadProcessDoesNotReachTheNewFile()
 {
     RestoreUnderTest test;
-    for (int i = 0; i < 200; ++i) {
-        aTask(test.database).named(QStringLiteral("task %1 ").arg(i) + QString(300, u'x')).add();
-    }
+    test.database.sql(TwoHundredTasks);
     const QTemporaryDir dead;
     leaveDeadOperation(test.database.dataFile(), dead.path());
     const DatabaseEngine engine{dead.path(), &test.services.clock, nullptr};
