@@ -13,14 +13,17 @@ constexpr std::array pictureNames{"00-home", "01-work", "02-shopping", "03-calen
     "13-status-waiting", "14-status-deferred", "15-status-completed", "16-status-not-started",
     "17-status-in-progress", "18-priority-normal", "19-priority-high", "20-priority-low"};
 
+constexpr int LogoProportion = 3;
+
+/// `sizes` are the heights; a picture is `proportion` times as wide.
 template <std::size_t Count>
-QIcon iconOf(const QString& folder, const char* name, const std::array<int, Count>& sizes)
+QIcon iconOf(const QString& folder, const char* name, const std::array<int, Count>& sizes, int proportion = 1)
 {
     QIcon icon;
     for (const int size : sizes) {
         // With its size given, a picture is read only when it is painted.
-        icon.addFile(
-            QStringLiteral(":/%1/%2-%3.png").arg(folder, QLatin1String(name)).arg(size), QSize(size, size));
+        icon.addFile(QStringLiteral(":/%1/%2-%3.png").arg(folder, QLatin1String(name)).arg(size),
+            QSize(size * proportion, size));
     }
     return icon;
 }
@@ -39,4 +42,10 @@ QIcon programIcon()
 {
     constexpr std::array sizes{16, 22, 24, 32, 48, 64, 128, 256};
     return iconOf(QStringLiteral("program"), "ambertask", sizes);
+}
+
+QIcon logoIcon()
+{
+    constexpr std::array sizes{24, 32, 48, 96};
+    return iconOf(QStringLiteral("logo"), "logo", sizes, LogoProportion);
 }

@@ -10,3 +10,6 @@ void appendFixedPictures(ImageList& images);
 
 /// The program's own icon, in all sizes.
 QIcon programIcon();
+
+/// The mark of the about box, three times as wide as high.
+QIcon logoIcon();

@@ -4,9 +4,11 @@
 #include "app/TasksPage.h"
 #include "categories/CategoriesPage.h"
 #include "categories/frmCategoryDetails.h"
+#include "help/frmAbout.h"
 #include "platform/Clock.h"
 #include "platform/ErrorReport.h"
 #include "platform/GridView.h"
+#include "platform/ProgramFolder.h"
 #include "platform/Registry.h"
 #include "platform/WindowPlacement.h"
 #include "reminders/frmAlerts.h"
@@ -25,6 +27,9 @@ using namespace std::chrono_literals;
 
 constexpr auto LongestWaitForThePaint = 1s;
 
+/// The context numbers of the help file's topics.
+enum HelpContext { TasksHelp, CategoriesHelp, SettingsHelp, MaintenanceHelp, AlertHelp };
+
 } // namespace
 
 Program::Program(const Machine& machine)
@@ -33,7 +38,7 @@ Program::Program(const Machine& machine)
                               [this] {
                                   return m_settings.always_on_top;
                               }},
-      m_skins(machine.engine.programFolder, machine.messages)
+      m_skins(machine.engine.programFolder, machine.messages), m_helpViewer(machine.helpWindow, m_services)
 {
     appendFixedPictures(m_images);
 }
@@ -48,6 +53,7 @@ void Program::start(const std::function<bool()>& noteFirstStart)
         writeRunEntry(m_machine.registry, m_machine.engine.programFolder);
     }
     loadMainWindow();
+    m_helpViewer.SetHelpFile(pathIn(m_machine.engine.programFolder, QStringLiteral("Ambertask1.1.chm")));
     // A program that starts hidden, or whose window is never activated, has to remind all the same. A window
     // that is about to appear comes first: mapped later, it would cover the alert.
     const auto load = [this] {
@@ -89,7 +95,26 @@ void Program::loadMainWindow()
     connectGuarded(pages.tasks, &TasksPage::addRequested, this, &Program::addTask, errors);
     connectGuarded(pages.tasks, &TasksPage::editRequested, this, &Program::editTask, errors);
 
+    connectHelp(pages);
+
     m_main->Form_Load();
+}
+
+void Program::connectHelp(const MainWindowPages& pages)
+{
+    ErrorReport& errors = m_machine.errors;
+    connectGuarded(m_main.get(), &frmMain::aboutRequested, this, &Program::showAbout, errors);
+    connect(m_main.get(), &frmMain::helpRequested, this, [this] { m_helpViewer.ShowContents(); });
+    connect(pages.tasks, &TasksPage::helpRequested, this, [this] { m_helpViewer.ShowContext(TasksHelp); });
+    connect(pages.categories, &CategoriesPage::helpRequested, this,
+        [this] { m_helpViewer.ShowContext(CategoriesHelp); });
+    connect(pages.settings, &SettingsPage::helpRequested, this,
+        [this] { m_helpViewer.ShowContext(SettingsHelp); });
+    connect(pages.maintenance, &MaintenancePage::helpRequested, this,
+        [this] { m_helpViewer.ShowContext(MaintenanceHelp); });
+    pages.categories->setHelpEnabled(true);
+    pages.settings->setHelpEnabled(true);
+    pages.maintenance->setHelpEnabled(true);
 }
 
 void Program::loadDialogs()
@@ -134,9 +159,28 @@ frmAlerts& Program::alerts()
         m_alerts = std::make_unique<frmAlerts>(m_services, host, m_machine.waveBackend);
         connectGuarded(
             m_alerts.get(), &frmAlerts::remindersDismissed, this, &Program::LoadTasks, m_machine.errors);
+        connect(
+            m_alerts.get(), &frmAlerts::helpRequested, this, [this] { m_helpViewer.ShowContext(AlertHelp); });
+        m_alerts->setHelpEnabled(true);
         m_alerts->load();
     }
     return *m_alerts;
+}
+
+void Program::showAbout()
+{
+    if (m_about == nullptr) {
+        m_about = std::make_unique<frmAbout>(
+            m_services, m_machine.registry, AboutPictures{programIcon(), logoIcon()});
+        connect(m_about.get(), &frmAbout::unloadRequested, this, [this] {
+            // It is still in the handler of its own button.
+            m_about.release()->deleteLater();
+        });
+    }
+    if (m_settings.always_on_top) {
+        makeTopmost(m_about.get());
+    }
+    showOwned(m_about.get(), m_main->isShown() ? m_main.get() : nullptr);
 }
 
 void Program::addTask(qint16 category)
@@ -307,5 +351,6 @@ void Program::unload()
     m_categoryDetails.reset();
     m_taskDetails.reset();
     m_alerts.reset();
+    m_about.reset();
     m_main.reset();
 }

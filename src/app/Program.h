@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/frmMain.h"
+#include "help/HTMLHelpViewer.h"
 #include "platform/ImageList.h"
 #include "platform/WaveBackend.h"
 #include "reminders/AlertsHost.h"
@@ -15,6 +16,7 @@
 #include <memory>
 
 class Registry;
+class frmAbout;
 class frmAlerts;
 class frmCategoryDetails;
 class frmTaskDetails;
@@ -30,6 +32,7 @@ struct Machine {
     WaveBackendFactory waveBackend;
     /// Whether the desktop has a notification area now.
     std::function<bool()> hasNotificationArea;
+    HelpWindowFactory helpWindow;
 };
 
 /// The program: its one instance of each form and of what they share, and how they are wired. Interface
@@ -70,6 +73,8 @@ signals:
 private:
     void loadMainWindow();
 
+    void connectHelp(const MainWindowPages& pages);
+    void showAbout();
     void addTask(qint16 category);
     void editTask(qint16 id);
     void onTaskStored();
@@ -104,8 +109,10 @@ private:
     SettingsRecord m_settings;
     FormServices m_services;
     Skins m_skins;
+    HTMLHelpViewer m_helpViewer;
     std::unique_ptr<frmMain> m_main;
     std::unique_ptr<frmTaskDetails> m_taskDetails;
     std::unique_ptr<frmCategoryDetails> m_categoryDetails;
     std::unique_ptr<frmAlerts> m_alerts;
+    std::unique_ptr<frmAbout> m_about;
 };

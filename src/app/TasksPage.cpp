@@ -143,9 +143,9 @@ QBoxLayout* TasksPage::makeButtonRow()
     connectGuarded(add("btnTaskDelete", tr("&Delete")), &QPushButton::clicked, this,
         &TasksPage::btnTaskDelete_Click, errors);
     row->addStretch();
-    // Printing and help are not there yet.
+    // Printing is not there yet.
     add("btnTaskPrint", tr("&Print"))->setEnabled(false);
-    add("btnHelpTasks", tr("&Help"))->setEnabled(false);
+    connect(add("btnHelpTasks", tr("&Help")), &QPushButton::clicked, this, &TasksPage::helpRequested);
     return row;
 }
 

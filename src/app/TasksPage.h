@@ -48,6 +48,7 @@ signals:
     /// All.
     void addRequested(qint16 category);
     void editRequested(qint16 id);
+    void helpRequested();
 
 private:
     void btnTaskAdd_Click();

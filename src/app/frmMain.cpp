@@ -17,6 +17,7 @@
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QMenu>
+#include <QShortcut>
 #include <QTabWidget>
 
 namespace
@@ -46,6 +47,7 @@ frmMain::frmMain(
     layout->addWidget(makeHeader());
     layout->addWidget(m_tabs, 1);
     resize(FirstSize);
+    connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, &frmMain::helpRequested);
     // Only now: adding pages switches to the first one.
     connectGuarded(m_tabs, &QTabWidget::currentChanged, this, &frmMain::tabMain_Switch, services.errors);
     connectGuarded(&m_trayIcon, &TrayIcon::activated, this, &frmMain::toggle, services.errors);
@@ -98,9 +100,8 @@ QMenu* frmMain::makeTrayMenu()
     ErrorReport& errors = m_services.errors;
     m_mnuShow = add("mnuShow", tr("Show"));
     connectGuarded(m_mnuShow, &QAction::triggered, this, &frmMain::toggle, errors);
-    // The about box and the help are not there yet.
-    add("mnuAbout", tr("About"))->setEnabled(false);
-    add("mnuHelp", tr("Help"))->setEnabled(false);
+    connect(add("mnuAbout", tr("About")), &QAction::triggered, this, &frmMain::aboutRequested);
+    connect(add("mnuHelp", tr("Help")), &QAction::triggered, this, &frmMain::helpRequested);
     connectGuarded(add("mnuFeedBack", tr("Send feedback")), &QAction::triggered, this,
         &frmMain::mnuFeedBack_Click, errors);
     connect(add("mnuExit", tr("Exit")), &QAction::triggered, this, &frmMain::exitRequested);

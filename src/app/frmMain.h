@@ -85,6 +85,10 @@ signals:
     void activated();
     /// The window has appeared on the screen for the first time.
     void firstPainted();
+    /// "About" was chosen.
+    void aboutRequested();
+    /// "Help" was chosen or F1 pressed.
+    void helpRequested();
     /// "Exit" was chosen.
     void exitRequested();
 

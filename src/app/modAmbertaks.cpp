@@ -30,7 +30,7 @@ struct RealMachine {
     Machine machine()
     {
         return {engine, messages, fileDialogs, errors, shell, *registry, loadWaveBackend,
-            TrayIcon::isAreaAvailable};
+            TrayIcon::isAreaAvailable, loadHelpWindow};
     }
 
     SystemClock clock;

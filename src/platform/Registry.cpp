@@ -43,6 +43,29 @@ void deleteRunEntry(Registry& registry)
 namespace
 {
 
+class WindowsRegistryKey final : public RegistryKey
+{
+public:
+    explicit WindowsRegistryKey(HKEY key) : m_key(key) { }
+    ~WindowsRegistryKey() override { RegCloseKey(m_key); }
+
+    std::optional<RegistryValue> query(const QByteArray& name, qsizetype capacity) const override
+    {
+        QByteArray data(capacity, '\0');
+        DWORD type = 0;
+        auto size = static_cast<DWORD>(data.size());
+        const LONG failure = RegQueryValueExA(
+            m_key, name.constData(), nullptr, &type, reinterpret_cast<BYTE*>(data.data()), &size);
+        if (failure != ERROR_SUCCESS) {
+            return std::nullopt;
+        }
+        return RegistryValue{type, data.left(static_cast<qsizetype>(size))};
+    }
+
+private:
+    HKEY m_key;
+};
+
 class WindowsRegistry final : public Registry
 {
 public:
@@ -63,6 +86,12 @@ public:
             RegDeleteValueA(key, name.constData());
             RegCloseKey(key);
         }
+    }
+    std::unique_ptr<RegistryKey> openKey(quint32 hive, const QString& keyPath, quint32 access) override
+    {
+        HKEY key = nullptr;
+        const LONG failure = RegOpenKeyExA(rootKey(hive), keyPath.toLocal8Bit().constData(), 0, access, &key);
+        return failure == ERROR_SUCCESS ? std::make_unique<WindowsRegistryKey>(key) : nullptr;
     }
 
 private:
@@ -141,6 +170,12 @@ public:
         if (isRunKey(hive, keyPath)) {
             QFile::remove(entryFile(name));
         }
+    }
+
+    std::unique_ptr<RegistryKey> openKey(
+        quint32 /*hive*/, const QString& /*keyPath*/, quint32 /*access*/) override
+    {
+        return nullptr;
     }
 
 private:

@@ -4,6 +4,7 @@
 #include <QMap>
 #include <QString>
 #include <memory>
+#include <optional>
 
 /// Predefined root keys and value types, as the Windows registry numbers them.
 namespace RegistryValues
@@ -11,10 +12,31 @@ namespace RegistryValues
 inline constexpr quint32 LocalMachine = 0x80000002; ///< HKEY_LOCAL_MACHINE
 inline constexpr quint32 Text = 1; ///< REG_SZ
 inline constexpr quint32 DoubleWord = 4; ///< REG_DWORD
+inline constexpr quint32 AllAccess = 0x2003f; ///< KEY_ALL_ACCESS
 } // namespace RegistryValues
 
 /// The key whose values start programs with the user's session.
 inline constexpr char RunKeyPath[] = "Software\\Microsoft\\Windows\\CurrentVersion\\Run";
+
+/// What a key holds under a name.
+struct RegistryValue {
+    quint32 type = 0;
+    QByteArray data;
+    bool operator==(const RegistryValue&) const = default;
+};
+
+/// An open key; destroying it closes it.
+class RegistryKey
+{
+public:
+    RegistryKey() = default;
+    virtual ~RegistryKey() = default;
+    RegistryKey(const RegistryKey&) = delete;
+    RegistryKey& operator=(const RegistryKey&) = delete;
+
+    /// The value of that name; nothing when there is none, or when its data is longer than `capacity` bytes.
+    virtual std::optional<RegistryValue> query(const QByteArray& name, qsizetype capacity) const = 0;
+};
 
 /// The store of settings of the machine: keys that hold named values. Nothing here reports an error.
 class Registry
@@ -31,6 +53,9 @@ public:
         const QByteArray& data) = 0;
     /// Opens `keyPath` under `hive` and deletes the value.
     virtual void deleteValue(quint32 hive, const QString& keyPath, const QByteArray& name) = 0;
+    /// Opens `keyPath` under `hive` with the access rights asked for; null when there is no such key or it may
+    /// not be used so.
+    virtual std::unique_ptr<RegistryKey> openKey(quint32 hive, const QString& keyPath, quint32 access) = 0;
 };
 
 /// Sets a plain text value, converted to the system's 8-bit code page; its terminating zero is not part of

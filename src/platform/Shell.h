@@ -17,6 +17,11 @@ public:
 
     /// Opens a page of the vendor's web site in the user's browser. The result is ignored.
     virtual void openVendorPage(const QString& pathAndQuery) = 0;
+    /// Opens a page of the web (http or https; any other address is passed over) in the user's browser. The
+    /// result is ignored.
+    virtual void openWebPage(const QString& address) = 0;
+    /// Starts a program detached in a normal window that gets the focus. False when it could not be started.
+    virtual bool startNormal(const QString& file) = 0;
     /// Starts a program or batch file detached, with no shell in between. False when it could not be started.
     virtual bool startMinimized(const QString& file) = 0;
 };
@@ -29,5 +34,7 @@ class DesktopShell final : public Shell
 {
 public:
     void openVendorPage(const QString& pathAndQuery) override;
+    void openWebPage(const QString& address) override;
+    bool startNormal(const QString& file) override;
     bool startMinimized(const QString& file) override;
 };

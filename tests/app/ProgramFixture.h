@@ -5,11 +5,13 @@
 #include "platform/GridView.h"
 #include "platform/WaveBackend.h"
 #include "support/MemoryRegistry.h"
+#include "support/RecordedHelpWindow.h"
 #include "support/ScriptedDialogs.h"
 #include "support/TestDatabase.h"
 #include "support/TestServices.h"
 
 #include <QAction>
+#include <QPointer>
 #include <QPushButton>
 #include <QTest>
 
@@ -31,8 +33,10 @@ struct ProgramFixture {
     ProgramFixture()
         : program(Machine{database.engine(), dialogs, dialogs, dialogs, shell, registry,
             [this] { return std::make_unique<RecordedWaves>(played, stops); },
-            [this] {
-                return notificationArea;
+            [this] { return notificationArea; },
+            [this](const WebPageOpener&) {
+                helpWindow = new RecordedHelpWindow(helpLog);
+                return helpWindow;
             }})
     {
         QDir folder(database.folder());
@@ -69,5 +73,7 @@ struct ProgramFixture {
     QStringList played;
     int stops = 0;
     bool notificationArea = true;
+    QStringList helpLog;
+    QPointer<RecordedHelpWindow> helpWindow;
     Program program;
 };

@@ -14,13 +14,21 @@ class RecordedShell final : public Shell
 {
 public:
     void openVendorPage(const QString& pathAndQuery) override { pages.append(pathAndQuery); }
+    void openWebPage(const QString& address) override { webPages.append(address); }
+    bool startNormal(const QString& file) override
+    {
+        startedNormal.append(file);
+        return startSucceeds;
+    }
     bool startMinimized(const QString& file) override
     {
         started.append(file);
         return startSucceeds;
     }
     QStringList pages;
-    QStringList started;
+    QStringList webPages;
+    QStringList startedNormal; ///< in a normal window
+    QStringList started; ///< minimized
     bool startSucceeds = true;
 };
 

@@ -1,0 +1,82 @@
+#include "help/HTMLHelpViewer.h"
+
+#include "platform/MessageBoxes.h"
+#include "platform/Shell.h"
+#include "platform/WindowPlacement.h"
+#include "ui/FormServices.h"
+
+#include <QCoreApplication>
+#include <QLibrary>
+
+HelpWindow* loadHelpWindow(const WebPageOpener& openWebPage)
+{
+    QLibrary module(QCoreApplication::applicationDirPath() + QStringLiteral("/ambertask_help"));
+    using Make = HelpWindow* (*)(const WebPageOpener&);
+    const auto make = reinterpret_cast<Make>(module.resolve("ambertaskMakeHelpWindow"));
+    return make == nullptr ? nullptr : make(openWebPage);
+}
+
+HTMLHelpViewer::HTMLHelpViewer(HelpWindowFactory factory, const FormServices& services)
+    : m_factory(std::move(factory)), m_services(services)
+{
+}
+
+HTMLHelpViewer::~HTMLHelpViewer()
+{
+    Unload();
+}
+
+template <typename Operation> void HTMLHelpViewer::show(Operation operation)
+{
+    if (m_window == nullptr && m_factory) {
+        m_window.reset(m_factory([this](const QString& address) { m_services.shell.openWebPage(address); }));
+    }
+    if (m_window == nullptr) {
+        m_services.messages.tell(nullptr, MessageBoxes::Icon::Exclamation,
+            QCoreApplication::translate(
+                "HTMLHelpViewer", "The help window is missing from this installation."));
+        return;
+    }
+    m_window->setFile(m_helpFile);
+    operation(*m_window);
+    if (m_services.alwaysOnTop()) {
+        makeTopmost(m_window.get());
+    } else {
+        leaveTopmost(m_window.get());
+    }
+    // The desktop owns it: it may go behind the main window, and stays when that is hidden.
+    showOwned(m_window.get(), nullptr);
+}
+
+void HTMLHelpViewer::Show()
+{
+    show([](HelpWindow& window) { window.showDefaultTopic(); });
+}
+
+void HTMLHelpViewer::ShowContents()
+{
+    show([](HelpWindow& window) { window.showContents(); });
+}
+
+void HTMLHelpViewer::ShowIndex()
+{
+    show([](HelpWindow& window) { window.showIndex(); });
+}
+
+void HTMLHelpViewer::ShowSearch()
+{
+    show([](HelpWindow& window) { window.showSearch(); });
+}
+
+void HTMLHelpViewer::ShowContext(qint32 lngContextID)
+{
+    show([lngContextID](HelpWindow& window) { window.showContext(lngContextID); });
+}
+
+void HTMLHelpViewer::Unload()
+{
+    if (m_window != nullptr) {
+        m_window->close();
+        m_window.reset();
+    }
+}

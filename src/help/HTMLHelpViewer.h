@@ -1,0 +1,44 @@
+#pragma once
+
+#include "help/HelpWindow.h"
+
+#include <memory>
+
+struct FormServices;
+
+/// Opens the program's help file in the one help window. What the window cannot show it says itself; the
+/// program goes on. Interface thread only.
+class HTMLHelpViewer
+{
+public:
+    /// `services` outlives the viewer.
+    HTMLHelpViewer(HelpWindowFactory factory, const FormServices& services);
+    /// Closes the viewer.
+    ~HTMLHelpViewer();
+    HTMLHelpViewer(const HTMLHelpViewer&) = delete;
+    HTMLHelpViewer& operator=(const HTMLHelpViewer&) = delete;
+
+    /// Full path of the help file.
+    const QString& HelpFile() const { return m_helpFile; }
+    void SetHelpFile(const QString& file) { m_helpFile = file; }
+
+    void Show();
+    void ShowContents();
+    void ShowIndex();
+    void ShowSearch();
+    void ShowContext(qint32 lngContextID);
+    /// Closes the viewer's window; nothing when none is open.
+    void Unload();
+
+    /// The window that the last show operation answered with, also when the user has closed it since; null
+    /// when there is none.
+    HelpWindow* viewerWindow() const { return m_window.get(); }
+
+private:
+    template <typename Operation> void show(Operation operation);
+
+    HelpWindowFactory m_factory;
+    const FormServices& m_services;
+    QString m_helpFile;
+    std::unique_ptr<HelpWindow> m_window;
+};

@@ -1,0 +1,233 @@
+#include "help/window/CompiledHelpWindow.h"
+
+#include "help/window/HelpBook.h"
+#include "help/window/HelpPanes.h"
+#include "help/window/TopicView.h"
+
+#include <QBoxLayout>
+#include <QFileInfo>
+#include <QPushButton>
+#include <QShortcut>
+#include <QSplitter>
+#include <QTabWidget>
+#include <algorithm>
+
+namespace
+{
+
+enum Tab { ContentsTab, IndexTab, SearchTab };
+
+constexpr int SmallestText = -3;
+constexpr int LargestText = 12;
+constexpr QSize FirstSize(940, 640);
+constexpr int PaneWidth = 280;
+
+} // namespace
+
+CompiledHelpWindow::CompiledHelpWindow(WebPageOpener openWebPage)
+    : m_openWebPage(std::move(openWebPage)), m_tabs(new QTabWidget), m_contents(new ContentsPane),
+      m_index(new IndexPane), m_search(new SearchPane), m_topic(new TopicView)
+{
+    setObjectName(QStringLiteral("HelpWindow"));
+    setWindowTitle(tr("Ambertask Help"));
+    m_topic->setObjectName(QStringLiteral("txtTopic"));
+    m_topic->setAccessibleName(tr("Topic"));
+    auto* splitter = new QSplitter;
+    splitter->addWidget(makeTabs());
+    splitter->addWidget(m_topic);
+    splitter->setStretchFactor(1, 1);
+    splitter->setChildrenCollapsible(false);
+    splitter->setSizes({PaneWidth, FirstSize.width() - PaneWidth});
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(makeBar());
+    layout->addWidget(splitter, 1);
+    resize(FirstSize);
+    connectPanes();
+    addKeys();
+    setTextSize(0);
+}
+
+CompiledHelpWindow::~CompiledHelpWindow() = default;
+
+QWidget* CompiledHelpWindow::makeBar()
+{
+    auto* bar = new QWidget;
+    auto* layout = new QHBoxLayout(bar);
+    layout->setContentsMargins(0, 0, 0, 0);
+    const auto add = [layout](const char* name, const QString& caption, const QString& toolTip) {
+        auto* button = new QPushButton(caption);
+        button->setObjectName(QLatin1String(name));
+        button->setToolTip(toolTip);
+        button->setAutoDefault(false);
+        layout->addWidget(button);
+        return button;
+    };
+    m_back = add("btnBack", tr("&Back"), tr("Alt+Left"));
+    m_forward = add("btnForward", tr("&Forward"), tr("Alt+Right"));
+    m_home = add("btnHome", tr("&Home"), tr("Alt+Home"));
+    layout->addStretch();
+    m_smaller = add("btnSmaller", tr("&Smaller text"), tr("Ctrl+-"));
+    m_larger = add("btnLarger", tr("&Larger text"), tr("Ctrl++"));
+    m_back->setEnabled(false);
+    m_forward->setEnabled(false);
+    connect(m_back, &QPushButton::clicked, m_topic, &QTextBrowser::backward);
+    connect(m_forward, &QPushButton::clicked, m_topic, &QTextBrowser::forward);
+    connect(m_home, &QPushButton::clicked, this, &CompiledHelpWindow::openHome);
+    connect(m_smaller, &QPushButton::clicked, this, [this] { setTextSize(m_topic->textSize() - 1); });
+    connect(m_larger, &QPushButton::clicked, this, [this] { setTextSize(m_topic->textSize() + 1); });
+    connect(m_topic, &QTextBrowser::backwardAvailable, m_back, &QWidget::setEnabled);
+    connect(m_topic, &QTextBrowser::forwardAvailable, m_forward, &QWidget::setEnabled);
+    return bar;
+}
+
+QWidget* CompiledHelpWindow::makeTabs()
+{
+    m_tabs->setObjectName(QStringLiteral("tabHelp"));
+    m_tabs->addTab(m_contents, tr("&Contents"));
+    m_tabs->addTab(m_index, tr("&Index"));
+    m_tabs->addTab(m_search, tr("S&earch"));
+    return m_tabs;
+}
+
+void CompiledHelpWindow::connectPanes()
+{
+    const auto open = [this](const QString& topic) {
+        m_topic->openTopic(topic);
+    };
+    connect(m_contents, &ContentsPane::topicChosen, this, open);
+    connect(m_index, &IndexPane::topicChosen, this, open);
+    connect(m_search, &SearchPane::hitChosen, m_topic, &TopicView::openTopic);
+    connect(m_topic, &TopicView::webPageRequested, this, [this](const QString& address) {
+        if (m_openWebPage) {
+            m_openWebPage(address);
+        }
+    });
+    connect(m_topic, &QTextBrowser::sourceChanged, this, [this] { m_contents->select(m_topic->topic()); });
+}
+
+void CompiledHelpWindow::addKeys()
+{
+    const auto onKey = [this](const QKeySequence& key, auto&& action) {
+        connect(new QShortcut(key, this), &QShortcut::activated, this, action);
+    };
+    onKey(Qt::ALT | Qt::Key_Left, [this] { m_back->click(); });
+    onKey(Qt::ALT | Qt::Key_Right, [this] { m_forward->click(); });
+    onKey(Qt::ALT | Qt::Key_Home, [this] { m_home->click(); });
+    onKey(Qt::CTRL | Qt::Key_Plus, [this] { m_larger->click(); });
+    onKey(Qt::CTRL | Qt::Key_Equal, [this] { m_larger->click(); });
+    onKey(Qt::CTRL | Qt::Key_Minus, [this] { m_smaller->click(); });
+    onKey(Qt::CTRL | Qt::Key_0, [this] { setTextSize(0); });
+    onKey(Qt::CTRL | Qt::Key_F, [this] {
+        if (m_book != nullptr) {
+            m_tabs->setCurrentIndex(SearchTab);
+            m_search->focusInput();
+        }
+    });
+    onKey(Qt::Key_Escape, [this] { close(); });
+}
+
+void CompiledHelpWindow::setTextSize(int steps)
+{
+    m_topic->setTextSize(std::clamp(steps, SmallestText, LargestText));
+    m_smaller->setEnabled(m_topic->textSize() > SmallestText);
+    m_larger->setEnabled(m_topic->textSize() < LargestText);
+}
+
+void CompiledHelpWindow::setFile(const QString& file)
+{
+    const QDateTime written = QFileInfo(file).lastModified();
+    if (m_book == nullptr || file != m_file || written != m_written) {
+        m_file = file;
+        m_written = written;
+        load();
+    }
+}
+
+void CompiledHelpWindow::load()
+{
+    m_topic->setBook(nullptr);
+    m_search->fill(nullptr);
+    m_book = HelpBook::open(m_file);
+    m_topic->setBook(m_book.get());
+    m_contents->fill(m_book.get());
+    m_index->fill(m_book.get());
+    m_search->fill(m_book.get());
+    const bool readable = m_book != nullptr;
+    m_tabs->setVisible(readable);
+    m_home->setEnabled(readable);
+    setWindowTitle(readable && !m_book->title().isEmpty() ? m_book->title() : tr("Ambertask Help"));
+    if (readable) {
+        openHome();
+    } else {
+        sayMissing();
+    }
+    m_topic->clearHistory();
+}
+
+void CompiledHelpWindow::sayMissing()
+{
+    const QString name = QFileInfo(m_file).fileName();
+    m_topic->showMessage(tr("The help cannot be shown"),
+        QFileInfo::exists(m_file) ? tr("The help file \"%1\" is damaged or cannot be read. Installing the "
+                                       "program again brings it back; your tasks are kept.")
+                                        .arg(name)
+                                  : tr("The help file \"%1\" is not in the program's folder. Installing the "
+                                       "program again brings it back; your tasks are kept.")
+                                        .arg(name));
+}
+
+void CompiledHelpWindow::openHome()
+{
+    m_topic->openTopic(m_book->defaultTopic());
+}
+
+void CompiledHelpWindow::openFirstIfNone()
+{
+    if (m_book != nullptr && m_topic->topic().isEmpty()) {
+        openHome();
+    }
+}
+
+void CompiledHelpWindow::showDefaultTopic()
+{
+    if (m_book != nullptr) {
+        openHome();
+    }
+    m_topic->setFocus();
+}
+
+void CompiledHelpWindow::showContents()
+{
+    openFirstIfNone();
+    m_tabs->setCurrentIndex(ContentsTab);
+    m_contents->setFocus();
+}
+
+void CompiledHelpWindow::showIndex()
+{
+    openFirstIfNone();
+    m_tabs->setCurrentIndex(IndexTab);
+    m_index->focusInput();
+}
+
+void CompiledHelpWindow::showSearch()
+{
+    openFirstIfNone();
+    m_tabs->setCurrentIndex(SearchTab);
+    m_search->clearQuery();
+    m_search->focusInput();
+}
+
+void CompiledHelpWindow::showContext(qint32 context)
+{
+    if (m_book != nullptr) {
+        const auto topic = m_book->topicOf(context);
+        if (topic) {
+            m_topic->openTopic(*topic);
+        } else {
+            m_topic->showMessage(
+                tr("This page cannot be shown"), tr("The help file has no topic number %1.").arg(context));
+        }
+    }
+    m_topic->setFocus();
+}

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "help/HelpWindow.h"
+
+#include <QDateTime>
+#include <memory>
+
+class ContentsPane;
+class HelpBook;
+class IndexPane;
+class QPushButton;
+class QTabWidget;
+class SearchPane;
+class TopicView;
+
+/// The help window over a compiled help file.
+class CompiledHelpWindow final : public HelpWindow
+{
+    Q_OBJECT
+
+public:
+    explicit CompiledHelpWindow(WebPageOpener openWebPage);
+    ~CompiledHelpWindow() override;
+
+    void setFile(const QString& file) override;
+    void showDefaultTopic() override;
+    void showContents() override;
+    void showIndex() override;
+    void showSearch() override;
+    void showContext(qint32 context) override;
+
+private:
+    QWidget* makeBar();
+    QWidget* makeTabs();
+    void connectPanes();
+    void addKeys();
+    void load();
+    void openHome();
+    void openFirstIfNone();
+    void sayMissing();
+    void setTextSize(int steps);
+
+    WebPageOpener m_openWebPage;
+    QString m_file;
+    QDateTime m_written;
+    std::unique_ptr<HelpBook> m_book;
+    QTabWidget* m_tabs;
+    ContentsPane* m_contents;
+    IndexPane* m_index;
+    SearchPane* m_search;
+    TopicView* m_topic;
+    QPushButton* m_back = nullptr;
+    QPushButton* m_forward = nullptr;
+    QPushButton* m_home = nullptr;
+    QPushButton* m_smaller = nullptr;
+    QPushButton* m_larger = nullptr;
+};

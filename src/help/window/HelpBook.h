@@ -1,0 +1,64 @@
+#pragma once
+
+#include "help/window/CompiledHelpFile.h"
+#include "help/window/HelpSitemap.h"
+
+#include <QMap>
+
+/// A topic that a search has found.
+struct HelpHit {
+    QString topic;
+    QString title;
+};
+
+/// What a help file says of itself: contents, index, context numbers, and its topics as plain texts.
+class HelpBook
+{
+public:
+    /// Null when there is no readable help file.
+    static std::unique_ptr<HelpBook> open(const QString& path);
+
+    const QString& title() const { return m_title; }
+    /// The name of the topic that opens first, with its leading "/".
+    const QString& defaultTopic() const { return m_defaultTopic; }
+    const std::vector<HelpEntry>& contents() const { return m_contents; }
+    /// Sorted by name.
+    const std::vector<HelpEntry>& index() const { return m_index; }
+    /// The topic of a context number; nothing when the file does not know the number.
+    std::optional<QString> topicOf(qint32 context) const;
+    const QMap<qint32, QString>& contexts() const { return m_contexts; }
+    /// The names of all topics.
+    QStringList topics() const;
+    const CompiledHelpFile& file() const { return *m_file; }
+
+    /// The topics that contain every word of `query` in whatever letter case, those with a word in their
+    /// title first. None for an empty query.
+    std::vector<HelpHit> find(const QString& query) const;
+    static QStringList wordsOf(const QString& query);
+
+private:
+    struct TopicText {
+        QString topic;
+        QString title;
+        QString text;
+    };
+
+    explicit HelpBook(std::unique_ptr<CompiledHelpFile> file);
+    void readSystem();
+    void readContexts();
+    const std::vector<TopicText>& texts() const;
+
+    std::unique_ptr<CompiledHelpFile> m_file;
+    QString m_title;
+    QString m_defaultTopic;
+    QString m_contentsName;
+    QString m_indexName;
+    std::vector<HelpEntry> m_contents;
+    std::vector<HelpEntry> m_index;
+    QMap<qint32, QString> m_contexts;
+    /// Made by the first search.
+    mutable std::optional<std::vector<TopicText>> m_texts;
+};
+
+/// The name of an object with exactly one leading "/".
+QString objectPath(const QString& name);

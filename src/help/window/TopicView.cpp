@@ -1,0 +1,171 @@
+#include "help/window/TopicView.h"
+
+#include "help/window/HelpBook.h"
+
+#include <QBuffer>
+#include <QEvent>
+#include <QImageReader>
+#include <QScrollBar>
+#include <QTextBlock>
+
+namespace
+{
+
+constexpr char Scheme[] = "help";
+constexpr int LargestPictureSide = 4096;
+constexpr int MostMarks = 1000;
+constexpr qreal PageMargin = 14;
+
+QUrl urlOf(const QString& topic)
+{
+    const qsizetype place = topic.indexOf(u'#');
+    QUrl url;
+    url.setScheme(QLatin1String(Scheme));
+    url.setPath(objectPath(place < 0 ? topic : topic.left(place)));
+    if (place >= 0) {
+        url.setFragment(topic.mid(place + 1));
+    }
+    return url;
+}
+
+QVariant picture(const QByteArray& bytes)
+{
+    QBuffer buffer;
+    buffer.setData(bytes);
+    QImageReader reader(&buffer);
+    const QSize size = reader.size();
+    if (!size.isValid() || size.width() > LargestPictureSide || size.height() > LargestPictureSide) {
+        return {};
+    }
+    return reader.read();
+}
+
+QString messagePage(const QString& title, const QString& text)
+{
+    return QStringLiteral("<html><head><title>%1</title></head><body><h2>%1</h2><p>%2</p></body></html>")
+        .arg(title.toHtmlEscaped(), text.toHtmlEscaped());
+}
+
+} // namespace
+
+TopicView::TopicView(QWidget* parent) : QTextBrowser(parent)
+{
+    setOpenLinks(false);
+    document()->setDocumentMargin(PageMargin);
+    connect(this, &QTextBrowser::anchorClicked, this, &TopicView::openLink);
+}
+
+void TopicView::setBook(const HelpBook* book)
+{
+    m_book = book;
+    m_markedWords.clear();
+    clearHistory();
+}
+
+void TopicView::openTopic(const QString& topic, const QStringList& markedWords)
+{
+    m_markedWords = markedWords;
+    const QUrl url = urlOf(topic);
+    if (url == source()) {
+        markWords();
+    } else {
+        setSource(url, QTextDocument::HtmlResource);
+    }
+}
+
+void TopicView::showMessage(const QString& title, const QString& text)
+{
+    m_markedWords.clear();
+    setExtraSelections({});
+    setHtml(messagePage(title, text));
+}
+
+QString TopicView::topic() const
+{
+    return source().path();
+}
+
+void TopicView::openLink(const QUrl& link)
+{
+    const QUrl url = source().resolved(link);
+    if (url.scheme() == QLatin1String(Scheme)) {
+        m_markedWords.clear();
+        setSource(url, QTextDocument::HtmlResource);
+    } else if (url.scheme() == QLatin1String("https") || url.scheme() == QLatin1String("http")) {
+        emit webPageRequested(url.toString(QUrl::FullyEncoded));
+    }
+}
+
+void TopicView::doSetSource(const QUrl& name, QTextDocument::ResourceType type)
+{
+    QTextBrowser::doSetSource(name, type);
+    markWords();
+}
+
+QVariant TopicView::loadResource(int type, const QUrl& name)
+{
+    // Never the base class: it would read any file of the disk.
+    const QUrl url = source().isEmpty() ? name : source().resolved(name);
+    std::optional<QByteArray> bytes;
+    if (m_book != nullptr && url.scheme() == QLatin1String(Scheme)) {
+        bytes = m_book->file().read(objectPath(url.path()));
+    }
+    switch (type) {
+    case QTextDocument::HtmlResource:
+        return bytes ? htmlText(*bytes)
+                     : messagePage(tr("This page cannot be shown"),
+                         tr("The help file has no readable page \"%1\".").arg(url.path()));
+    case QTextDocument::ImageResource:
+        return bytes ? picture(*bytes) : QVariant();
+    case QTextDocument::StyleSheetResource:
+        return bytes ? htmlText(*bytes) : QString();
+    default:
+        return {};
+    }
+}
+
+void TopicView::setTextSize(int steps)
+{
+    zoomIn(steps - m_textSize);
+    m_textSize = steps;
+}
+
+void TopicView::changeEvent(QEvent* event)
+{
+    QTextBrowser::changeEvent(event);
+    // The colour of a link becomes part of the document when it is read.
+    if (event->type() == QEvent::PaletteChange && !source().isEmpty() && !m_reloading) {
+        m_reloading = true;
+        const int scrolled = verticalScrollBar()->value();
+        reload();
+        markWords();
+        verticalScrollBar()->setValue(scrolled);
+        m_reloading = false;
+    }
+}
+
+void TopicView::markWords()
+{
+    QList<ExtraSelection> marks;
+    QTextCursor first;
+    for (const QString& word : std::as_const(m_markedWords)) {
+        QTextCursor found = document()->find(word);
+        while (!found.isNull() && marks.size() < MostMarks) {
+            ExtraSelection mark;
+            mark.cursor = found;
+            mark.format.setBackground(palette().highlight());
+            mark.format.setForeground(palette().highlightedText());
+            marks.append(mark);
+            if (first.isNull() || found.selectionStart() < first.position()) {
+                first = found;
+                first.setPosition(found.selectionStart());
+            }
+            found = document()->find(word, found);
+        }
+    }
+    setExtraSelections(marks);
+    if (!first.isNull()) {
+        setTextCursor(first);
+        ensureCursorVisible();
+    }
+}

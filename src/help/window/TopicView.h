@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QStringList>
+#include <QTextBrowser>
+
+class HelpBook;
+
+/// Shows topics of a help file. Pictures and style sheets come from the file alone, never from the disk or
+/// the net.
+class TopicView : public QTextBrowser
+{
+    Q_OBJECT
+
+public:
+    explicit TopicView(QWidget* parent = nullptr);
+
+    /// The file that topics come from, null for none; it outlives the view or the next call. Forgets the
+    /// history.
+    void setBook(const HelpBook* book);
+    /// `topic` is the name of an object, perhaps with "#" and a place in it. The words are shown marked, the
+    /// first place is scrolled to.
+    void openTopic(const QString& topic, const QStringList& markedWords = {});
+    /// Shows a message of the program's own, as plain text.
+    void showMessage(const QString& title, const QString& text);
+    /// The name of the object on show; empty for a message.
+    QString topic() const;
+
+    void setTextSize(int steps);
+    int textSize() const { return m_textSize; }
+
+signals:
+    /// A link to the web was chosen.
+    void webPageRequested(const QString& address);
+
+protected:
+    QVariant loadResource(int type, const QUrl& name) override;
+    void changeEvent(QEvent* event) override;
+    void doSetSource(const QUrl& name, QTextDocument::ResourceType type) override;
+
+private:
+    void openLink(const QUrl& link);
+    void markWords();
+
+    const HelpBook* m_book = nullptr;
+    QStringList m_markedWords;
+    int m_textSize = 0;
+    bool m_reloading = false;
+};
