@@ -10,6 +10,7 @@ LEFT, MIDDLE, RIGHT = 1, 2, 3
 # A little more than the tool kit's own limits.
 DOUBLE_CLICK_SECONDS = 0.5
 DOUBLE_CLICK_DISTANCE = 10
+FINGER_SECONDS = 0.06
 NAMED = {" ": "space", "\t": "Tab", "\n": "Return"}
 
 
@@ -38,7 +39,9 @@ class Input:
     def click(self, x, y, button=LEFT, times=1):
         self._part_from_last_click(x, y)
         self.hover(x, y)
-        for _ in range(times):
+        for number in range(times):
+            if number:
+                self._pause(FINGER_SECONDS)
             self.press(button)
             self.release(button)
         self._last_click = (x, y, time.monotonic())
@@ -47,7 +50,12 @@ class Input:
         """Two clicks that are meant as two must not come as fast as a double click."""
         last_x, last_y, moment = self._last_click
         if abs(x - last_x) + abs(y - last_y) < DOUBLE_CLICK_DISTANCE:
-            wait_until(lambda: time.monotonic() > moment + DOUBLE_CLICK_SECONDS, "the last click is over")
+            self._pause(moment + DOUBLE_CLICK_SECONDS - time.monotonic())
+
+    def _pause(self, seconds):
+        """A finger's own time: events at one and the same millisecond are not what a mouse sends."""
+        end = time.monotonic() + seconds
+        wait_until(lambda: time.monotonic() >= end, "the finger has moved")
 
     def double_click(self, x, y):
         self.click(x, y, times=2)
