@@ -201,6 +201,15 @@ class NoTrayTest(TrayCase):
         wait_until(lambda: self.user.seek_window(names.MAIN) is None, "the main window is hidden, not minimized")
         self.assertEqual(self.user.first_tray_entry(), "Show")
 
+    def test_a_tray_that_comes_back_gets_the_icon_again(self):
+        tray = self.desk.start_tray()
+        self.user.tray_icon()
+        self.desk.end(tray)
+        wait_until(lambda: not self.desk.screen.tray_icons(), "the icon has no place")
+        self.desk.start_tray()
+        self.assertEqual(self.user.first_tray_entry(), "Hide")
+        self.assertEqual(self.user.exit(), 0)
+
     def test_a_tray_that_goes_leaves_the_hidden_window_reachable(self):
         tray = self.desk.start_tray()
         self.user.tray_icon()
