@@ -15,7 +15,7 @@
 namespace
 {
 
-constexpr QSize SmallestGrid(420, 130);
+constexpr QSize SmallestGrid(576, 150);
 
 template <typename Control> Control* named(Control* control, const QString& name)
 {

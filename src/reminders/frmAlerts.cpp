@@ -25,7 +25,7 @@ using namespace std::chrono_literals;
 
 constexpr auto CheckerInterval = 10000ms;
 constexpr auto FlasherInterval = 1000ms;
-constexpr QSize FirstSize(520, 340);
+constexpr QSize FirstSize(620, 380);
 
 /// A message box or a pop-up of the program takes the activation for a while without being another window.
 bool isOwnBoxOpen()

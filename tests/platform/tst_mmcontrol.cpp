@@ -219,7 +219,7 @@ private slots:
         QVERIFY(!waveLength(QString()).has_value());
         const QString huge = file(riff(chunk("fmt ", format()) + chunk("data", silence(100))));
         QVERIFY(waveLength(huge).has_value());
-        QVERIFY(QFile::resize(huge, 64 * 1024 * 1024 + 1));
+        QVERIFY(QFile::resize(huge, qint64{64} * 1024 * 1024 + 1));
         QVERIFY(!waveLength(huge).has_value());
     }
 

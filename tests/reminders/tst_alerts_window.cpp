@@ -64,7 +64,7 @@ private slots:
     void theColumnsHaveTheirShareOfTheGridsWidth_data()
     {
         QTest::addColumn<int>("windowWidth");
-        for (const int width : {520, 601, 777, 1234}) {
+        for (const int width : {620, 701, 877, 1234}) {
             QTest::addRow("%d pixels", width) << width;
         }
     }

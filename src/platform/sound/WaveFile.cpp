@@ -9,7 +9,7 @@
 namespace
 {
 
-constexpr qint64 LargestFile = 64 * 1024 * 1024;
+constexpr qint64 LargestFile = qint64{64} * 1024 * 1024;
 constexpr qint64 RiffHeaderSize = 12;
 constexpr qint64 ChunkHeaderSize = 8;
 constexpr qint64 FormatSize = 16;
