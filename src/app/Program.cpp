@@ -162,6 +162,8 @@ frmAlerts& Program::alerts()
         connect(
             m_alerts.get(), &frmAlerts::helpRequested, this, [this] { m_helpViewer.ShowContext(AlertHelp); });
         m_alerts->setHelpEnabled(true);
+        // A notification area can go while the window is hidden in it; the ticks are there anyway.
+        connect(m_alerts.get(), &frmAlerts::checked, m_main.get(), &frmMain::stayReachable);
         m_alerts->load();
     }
     return *m_alerts;

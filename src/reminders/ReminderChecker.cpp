@@ -34,7 +34,7 @@ void ReminderChecker::readDue()
     const int played = records.field("played");
     const int reminderOn = records.field("reminder_on");
     for (; !records.atEnd(); records.moveNext()) {
-        m_due.push_back({records.int32(id), records.text(name), records.int16(icon), records.int32(periority),
+        m_due.push_back({records.int32(id), records.text(name), records.int32(icon), records.int32(periority),
             records.moment(dueDate), records.text(sound), records.text(file), records.flag(played),
             records.flag(reminderOn)});
     }

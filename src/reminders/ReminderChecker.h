@@ -10,7 +10,7 @@
 struct DueReminder {
     qint32 id = 0;
     QString name;
-    qint16 icon = 0; ///< of the category, an index into the image list
+    qint32 icon = 0; ///< of the category, an index into the image list
     qint32 periority = 0;
     Moment dueDate{};
     QString sound;

@@ -106,6 +106,7 @@ void frmAlerts::tmrTasksChecker_Timer()
     } catch (const std::exception&) {
         // A report every ten seconds would help nobody; the next tick tries again.
     }
+    emit checked();
 }
 
 void frmAlerts::check()

@@ -39,6 +39,8 @@ signals:
     /// One or all reminders were dismissed and the data file is closed again.
     void remindersDismissed();
     void helpRequested();
+    /// A check has run, whatever came of it.
+    void checked();
 
 protected:
     bool event(QEvent* event) override;

@@ -148,6 +148,19 @@ private slots:
         QVERIFY(!f.main().isMinimized());
     }
 
+    void aHiddenWindowComesBackMinimizedWhenTheNotificationAreaGoes()
+    {
+        ProgramFixture f;
+        f.setting(QStringLiteral("show_ballon_icon"), 0);
+        f.start();
+        f.program.loadDialogs();
+        f.main().close();
+        QVERIFY(!f.main().isVisible());
+        f.notificationArea = false;
+        f.program.alerts().tmrTasksChecker_Timer();
+        QVERIFY(f.main().isMinimized());
+    }
+
     void showIsRefusedWhileTheTaskDialogIsOpen()
     {
         ProgramFixture f;

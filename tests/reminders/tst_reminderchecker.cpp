@@ -94,13 +94,22 @@ private slots:
         const DueReminder& reminder = checker.due().front();
         QCOMPARE(reminder.id, id);
         QCOMPARE(reminder.name, QStringLiteral("Anna's \"call\" <b>"));
-        QCOMPARE(reminder.icon, qint16(7));
+        QCOMPARE(reminder.icon, 7);
         QCOMPARE(reminder.periority, 2);
         QVERIFY(reminder.dueDate == now + 90min);
         QCOMPARE(reminder.sound, QStringLiteral("/a b/tone.wav"));
         QCOMPARE(reminder.file, QStringLiteral(" /c d/run "));
         QVERIFY(reminder.played);
         QVERIFY(reminder.reminderOn);
+    }
+
+    void aPictureNumberBeyondSixteenBitsHidesNoReminder()
+    {
+        TestDatabase database;
+        aTask(database).remindingAt(database.clock().now()).add();
+        database.sql(QStringLiteral("update categories set cat_icon=70000"));
+        const ReminderChecker checker(database.engine());
+        QCOMPARE(checker.due().size(), std::size_t(1));
     }
 
     void soundAndFileFireOnlyWhenNamedAndNotYetPlayed()
