@@ -2,6 +2,8 @@
 #include "support/TestMain.h"
 #include "tasks/TaskDialog.h"
 
+#include <QTimeEdit>
+
 class TestTaskDetailsTexts : public TestCase
 {
     Q_OBJECT
@@ -77,15 +79,16 @@ void TestTaskDetailsTexts::aHalfTypedPickerCountsAsItWouldOnLeavingIt()
 {
     TaskDialog dialog;
     dialog.showValid();
-    dialog.widget("dtpDueTime")->setFocus();
-    dialog.press(Qt::Key_Home);
-    dialog.press(Qt::Key_Delete);
-    dialog.press(Qt::Key_Delete);
-    dialog.press(Qt::Key_7);
+    auto* time = dialog.control<QTimeEdit>("dtpDueTime");
+    time->setTime(QTime(11, 45));
+    time->setFocus();
+    time->setSelectedSection(QDateTimeEdit::MinuteSection);
+    dialog.press(Qt::Key_3);
+    QCOMPARE(dialog.text("dtpDueTime"), QStringLiteral("11:3"));
     dialog.press(Qt::Key_Return);
     QVERIFY(!dialog.form->isVisible());
     QCOMPARE(
-        dialog.stored(QStringLiteral("task_due_date")).toString(), QStringLiteral("2026-01-15 07:00:00"));
+        dialog.stored(QStringLiteral("task_due_date")).toString(), QStringLiteral("2026-01-15 11:03:00"));
 }
 
 AMBERTASK_TEST_MAIN(TestTaskDetailsTexts)
