@@ -16,7 +16,7 @@
 namespace
 {
 
-constexpr qint64 ChunkSize = 1024 * 1024;
+constexpr qint64 ChunkSize = qint64{1024} * 1024;
 
 [[noreturn]] void fail(const QString& path, const QString& why)
 {

@@ -10,13 +10,13 @@
 namespace
 {
 
-constexpr qint64 LargestFile = 1024 * 1024;
+constexpr qint64 LargestFile = qint64{1024} * 1024;
 
 QString decoded(const QByteArray& content, const QString& fileName)
 {
     // Stateless: a letter that is cut off at the end is an error, too.
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-    const QString text = decoder(content);
+    QString text = decoder(content);
     if (decoder.hasError() || text.contains(QChar::Null)) {
         throw SkinError(SkinFile::tr("%1: the file is not a text in UTF-8").arg(fileName));
     }

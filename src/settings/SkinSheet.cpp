@@ -179,7 +179,7 @@ void checkRules(const QString& plain, int line)
 
 QString expandedSheet(QStringView sheet, int firstLine, const SkinColors& colors)
 {
-    const QString expanded = withColors(sheet, firstLine, colors);
+    QString expanded = withColors(sheet, firstLine, colors);
     checkRules(withoutCommentsAndStrings(expanded, firstLine), firstLine);
     return expanded;
 }

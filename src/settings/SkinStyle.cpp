@@ -45,10 +45,14 @@ private:
     Qt::ArrowType m_direction;
 };
 
+QColor ink(const QPalette& palette, bool enabled, QPalette::ColorRole role)
+{
+    return palette.color(enabled ? QPalette::Active : QPalette::Disabled, role);
+}
+
 QColor ink(const QStyleOption& option, QPalette::ColorRole role)
 {
-    return option.palette.color(
-        option.state.testFlag(QStyle::State_Enabled) ? QPalette::Active : QPalette::Disabled, role);
+    return ink(option.palette, option.state.testFlag(QStyle::State_Enabled), role);
 }
 
 bool isFieldFrame(const QWidget* widget)
@@ -141,11 +145,9 @@ void SkinStyle::drawSpinBox(const QStyleOptionComplex& option, QPainter& painter
     }
     const auto paintButton = [&](SubControl button, QAbstractSpinBox::StepEnabledFlag step,
                                  Qt::ArrowType direction) {
-        QStyleOption arrow(option);
-        arrow.state.setFlag(
-            State_Enabled, option.state.testFlag(State_Enabled) && spinBox->stepEnabled.testFlag(step));
+        const bool enabled = option.state.testFlag(State_Enabled) && spinBox->stepEnabled.testFlag(step);
         paintArrow(painter, proxy()->subControlRect(CC_SpinBox, &option, button, widget), direction,
-            ink(arrow, QPalette::Text));
+            ink(option.palette, enabled, QPalette::Text));
     };
     paintButton(SC_SpinBoxUp, QAbstractSpinBox::StepUpEnabled, Qt::UpArrow);
     paintButton(SC_SpinBoxDown, QAbstractSpinBox::StepDownEnabled, Qt::DownArrow);

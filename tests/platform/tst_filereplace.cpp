@@ -62,7 +62,7 @@ void TestFileReplace::aCopyHasEveryByte_data()
     QTest::newRow("nothing") << QByteArray();
     QTest::newRow("zeros") << QByteArray(17, '\0');
     QTest::newRow("one chunk") << QByteArray(1024 * 1024, 'c');
-    QTest::newRow("several chunks") << QByteArray(3 * 1024 * 1024 + 5, 'c');
+    QTest::newRow("several chunks") << QByteArray(3'145'733, 'c');
 }
 
 void TestFileReplace::aCopyHasEveryByte()

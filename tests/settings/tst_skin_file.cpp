@@ -185,7 +185,7 @@ void TestSkinFile::aFileLargerThanOneMebibyteIsRefused()
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("Large.skf"));
     const QByteArray skin = plainSkin("Large");
-    const qsizetype limit = 1024 * 1024;
+    const qsizetype limit = 1'048'576;
     writeText(path, skin + QByteArray(limit - skin.size(), ' '));
     QCOMPARE(SkinFile::read(path).info.name, QStringLiteral("Large"));
     writeText(path, skin + QByteArray(limit - skin.size() + 1, ' '));
