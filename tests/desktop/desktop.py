@@ -13,7 +13,7 @@ from datetime import timezone
 from gi.repository import Gio, GLib
 
 from access import connect_bus
-from processes import Children, adopt_orphans
+from processes import Children, adopt_orphans, listens
 from polling import wait_until
 from sound import SoundServer
 from store import Store
@@ -214,7 +214,7 @@ class Desktop:
         configuration = self.write(name + ".conf", BUS_CONFIGURATION.format(socket=socket))
         self._children.start(["dbus-daemon", "--config-file=" + configuration, "--nofork", "--nopidfile"],
                              self.environment, name)
-        wait_until(lambda: os.path.exists(socket), name + " listens")
+        wait_until(lambda: listens(socket), name + " listens")
         self.environment[variable] = "unix:path=" + socket
 
     def _start_buses(self):

@@ -2,6 +2,7 @@
 import ctypes
 import os
 import signal
+import socket
 import subprocess
 
 from polling import wait_until
@@ -20,6 +21,16 @@ def adopt_orphans():
 
 def _die_with_parent():
     _libc.prctl(PR_SET_PDEATHSIG, signal.SIGKILL, 0, 0, 0)
+
+
+def listens(path):
+    """Whether a server takes connections on that socket; its file is there a moment earlier."""
+    with socket.socket(socket.AF_UNIX) as probe:
+        try:
+            probe.connect(path)
+            return True
+        except OSError:
+            return False
 
 
 def _processes():

@@ -5,6 +5,7 @@ import os
 import wave
 
 from polling import wait_until
+from processes import listens
 
 RATE = 44100
 # Far above the silence of the empty sink, which is exactly zero, far below any shipped wave.
@@ -21,7 +22,7 @@ class SoundServer:
             ["pulseaudio", "-n", "--daemonize=no", "--exit-idle-time=-1", "--disallow-exit", "--use-pid-file=no",
              "-L", f"module-native-protocol-unix auth-anonymous=1 socket={address}",
              "-L", f"module-null-sink sink_name=desk rate={RATE} channels=1"], environment, "pulseaudio")
-        wait_until(lambda: os.path.exists(address), "the sound server listens")
+        wait_until(lambda: listens(address), "the sound server listens")
         with open(self._recording, "wb") as output:
             children.start(["parec", "--device=desk.monitor", "--format=s16le", f"--rate={RATE}", "--channels=1",
                             "--latency-msec=20"], environment, "parec", stdout=output)
