@@ -142,8 +142,8 @@ def system_object(stamp):
             + text(6, "ambertask1.1"))
 
 
-def add_tables(objects, pages, contexts, stamp):
-    """What a viewer reads before it shows anything: title, topics, context numbers."""
+def tables(pages, contexts, stamp):
+    """The objects that a viewer reads before it shows anything: title, topics, context numbers."""
     strings = Strings()
     topics, url_table, urls = bytearray(), bytearray(), bytearray(b"\0")
     for number, name in enumerate(name for name in sorted(pages) if name.endswith(".html")):
@@ -151,14 +151,14 @@ def add_tables(objects, pages, contexts, stamp):
         url_table += struct.pack("<III", 0, number, len(urls))
         urls += struct.pack("<II", 0, 0) + name.encode() + b"\0"
     entries = b"".join(struct.pack("<II", number, strings.add(topic)) for number, topic in sorted(contexts.items()))
-    objects.update({
+    return {
         "#SYSTEM": system_object(stamp),
         "#IVB": struct.pack("<I", len(entries)) + entries,
         "#TOPICS": bytes(topics),
         "#URLTBL": bytes(url_table),
         "#URLSTR": bytes(urls),
         "#STRINGS": bytes(strings.data),
-    })
+    }
 
 
 def name_list():
@@ -222,7 +222,8 @@ def main(output, folder, *pictures):
     pages = {name: Page(data.decode()) for name, data in objects.items() if name.endswith((".html", ".hhc", ".hhk"))}
     check(pages, objects, contexts)
     stamp = zlib.crc32(b"".join(name.encode() + data for name, data in sorted(objects.items())))
-    add_tables(objects, pages, contexts, stamp)
+    # The tables come first: a file that was cut off keeps them longest.
+    objects = {**tables(pages, contexts, stamp), **objects}
     with open(output + ".new", "wb") as help_file:
         help_file.write(compiled(objects, stamp))
     os.replace(output + ".new", output)

@@ -19,7 +19,7 @@ namespace
 constexpr int BufferSize = 1024;
 constexpr QSize ProgramPicture(64, 64);
 constexpr QSize LogoPicture(144, 48);
-constexpr int TextWidth = 380;
+constexpr int TextWidth = 470;
 
 QLabel* label(const char* name, const QString& text)
 {
@@ -37,6 +37,7 @@ QLabel* arialLabel(const char* name, const QString& text, qreal scale, bool bold
     font.setPointSizeF(font.pointSizeF() * scale);
     font.setBold(bold);
     made->setFont(font);
+    made->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     return made;
 }
 

@@ -54,7 +54,7 @@ int seekStream(mspack_file* file, off_t offset, int mode)
     } else if (mode == MSPACK_SYS_SEEK_END) {
         position += input.size();
     }
-    return position >= 0 && input.seek(position) ? 0 : -1;
+    return position >= 0 && position <= input.size() && input.seek(position) ? 0 : -1;
 }
 
 off_t positionOfStream(mspack_file* file)

@@ -17,12 +17,19 @@ namespace
 
 constexpr int TopicRole = Qt::UserRole;
 
+int rowHeight(const QWidget& view)
+{
+    constexpr int Air = 8;
+    return view.fontMetrics().height() + Air;
+}
+
 void addEntries(QTreeWidget& tree, QTreeWidgetItem* parent, const std::vector<HelpEntry>& entries)
 {
     for (const HelpEntry& entry : entries) {
         auto* item = parent == nullptr ? new QTreeWidgetItem(&tree) : new QTreeWidgetItem(parent);
         item->setText(0, entry.name);
         item->setData(0, TopicRole, entry.topic);
+        item->setSizeHint(0, QSize(0, rowHeight(tree)));
         addEntries(tree, item, entry.children);
     }
 }
@@ -46,6 +53,13 @@ ChoiceList::ChoiceList(QWidget* parent) : QListWidget(parent)
     setUniformItemSizes(true);
     setTextElideMode(Qt::ElideRight);
     connect(this, &QListWidget::itemClicked, this, &ChoiceList::chosen);
+}
+
+void ChoiceList::addChoice(const QString& text, const QString& topic)
+{
+    auto* item = new QListWidgetItem(text, this);
+    item->setData(TopicRole, topic);
+    item->setSizeHint(QSize(0, rowHeight(*this)));
 }
 
 void ChoiceList::keyPressEvent(QKeyEvent* event)
@@ -122,8 +136,7 @@ void IndexPane::fill(const HelpBook* book)
     m_list->clear();
     if (book != nullptr) {
         for (const HelpEntry& entry : book->index()) {
-            auto* item = new QListWidgetItem(entry.name, m_list);
-            item->setData(TopicRole, entry.topic);
+            m_list->addChoice(entry.name, entry.topic);
         }
     }
 }
@@ -215,8 +228,7 @@ void SearchPane::search()
         return;
     }
     for (const HelpHit& hit : m_book->find(m_input->text())) {
-        auto* item = new QListWidgetItem(hit.title, m_list);
-        item->setData(TopicRole, hit.topic);
+        m_list->addChoice(hit.title, hit.topic);
     }
     const int found = m_list->count();
     m_result->setText(found == 0 ? tr("No topic contains all of these words.")

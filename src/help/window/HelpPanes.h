@@ -16,6 +16,7 @@ class ChoiceList : public QListWidget
 
 public:
     explicit ChoiceList(QWidget* parent = nullptr);
+    void addChoice(const QString& text, const QString& topic);
 
 signals:
     void chosen(QListWidgetItem* item);

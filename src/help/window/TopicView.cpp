@@ -53,18 +53,27 @@ TopicView::TopicView(QWidget* parent) : QTextBrowser(parent)
     setOpenLinks(false);
     document()->setDocumentMargin(PageMargin);
     connect(this, &QTextBrowser::anchorClicked, this, &TopicView::openLink);
+    connect(this, &QTextBrowser::sourceChanged, this, [this] {
+        m_stale = false;
+        markWords();
+    });
 }
 
 void TopicView::setBook(const HelpBook* book)
 {
     m_book = book;
     m_markedWords.clear();
+    m_stale = true;
     clearHistory();
 }
 
 void TopicView::openTopic(const QString& topic, const QStringList& markedWords)
 {
     m_markedWords = markedWords;
+    if (m_stale && !source().isEmpty()) {
+        // The history's last page would not be read again.
+        reload();
+    }
     const QUrl url = urlOf(topic);
     if (url == source()) {
         markWords();
@@ -77,17 +86,18 @@ void TopicView::showMessage(const QString& title, const QString& text)
 {
     m_markedWords.clear();
     setExtraSelections({});
+    m_stale = true;
     setHtml(messagePage(title, text));
 }
 
 QString TopicView::topic() const
 {
-    return source().path();
+    return m_stale ? QString() : m_page.path();
 }
 
 void TopicView::openLink(const QUrl& link)
 {
-    const QUrl url = source().resolved(link);
+    const QUrl url = m_page.resolved(link);
     if (url.scheme() == QLatin1String(Scheme)) {
         m_markedWords.clear();
         setSource(url, QTextDocument::HtmlResource);
@@ -96,16 +106,13 @@ void TopicView::openLink(const QUrl& link)
     }
 }
 
-void TopicView::doSetSource(const QUrl& name, QTextDocument::ResourceType type)
-{
-    QTextBrowser::doSetSource(name, type);
-    markWords();
-}
-
 QVariant TopicView::loadResource(int type, const QUrl& name)
 {
     // Never the base class: it would read any file of the disk.
-    const QUrl url = source().isEmpty() ? name : source().resolved(name);
+    const QUrl url = m_page.resolved(name);
+    if (type == QTextDocument::HtmlResource) {
+        m_page = url.adjusted(QUrl::RemoveFragment);
+    }
     std::optional<QByteArray> bytes;
     if (m_book != nullptr && url.scheme() == QLatin1String(Scheme)) {
         bytes = m_book->file().read(objectPath(url.path()));
@@ -134,11 +141,10 @@ void TopicView::changeEvent(QEvent* event)
 {
     QTextBrowser::changeEvent(event);
     // The colour of a link becomes part of the document when it is read.
-    if (event->type() == QEvent::PaletteChange && !source().isEmpty() && !m_reloading) {
+    if (event->type() == QEvent::PaletteChange && !m_stale && !m_reloading) {
         m_reloading = true;
         const int scrolled = verticalScrollBar()->value();
         reload();
-        markWords();
         verticalScrollBar()->setValue(scrolled);
         m_reloading = false;
     }

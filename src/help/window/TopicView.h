@@ -20,7 +20,7 @@ public:
     /// `topic` is the name of an object, perhaps with "#" and a place in it. The words are shown marked, the
     /// first place is scrolled to.
     void openTopic(const QString& topic, const QStringList& markedWords = {});
-    /// Shows a message of the program's own, as plain text.
+    /// Shows a message of the program's own, as plain text, until a topic is opened.
     void showMessage(const QString& title, const QString& text);
     /// The name of the object on show; empty for a message.
     QString topic() const;
@@ -35,14 +35,17 @@ signals:
 protected:
     QVariant loadResource(int type, const QUrl& name) override;
     void changeEvent(QEvent* event) override;
-    void doSetSource(const QUrl& name, QTextDocument::ResourceType type) override;
 
 private:
     void openLink(const QUrl& link);
     void markWords();
 
     const HelpBook* m_book = nullptr;
+    /// The page that is being read or shown; what it refers to is relative to it.
+    QUrl m_page;
     QStringList m_markedWords;
+    /// What is on show is not the topic that the history has last.
+    bool m_stale = true;
     int m_textSize = 0;
     bool m_reloading = false;
 };

@@ -1,0 +1,356 @@
+#include "help/window/CompiledHelpWindow.h"
+#include "help/window/HelpPanes.h"
+#include "help/window/TopicView.h"
+#include "support/TestMain.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTabWidget>
+#include <QTest>
+#include <QTextBlock>
+
+namespace
+{
+
+struct Help {
+    Help()
+        : window([this](const QString& address) { webPages.append(address); }),
+          topic(*window.findChild<TopicView*>()), tabs(*window.findChild<QTabWidget*>())
+    {
+        window.setFile(QStringLiteral(AMBERTASK_HELP_FILE));
+        window.show();
+        QApplication::setActiveWindow(&window);
+    }
+
+    template <typename Control = QWidget> Control& control(const char* name)
+    {
+        return *window.findChild<Control*>(QLatin1String(name));
+    }
+    void press(const char* name) { QTest::mouseClick(&control<QAbstractButton>(name), Qt::LeftButton); }
+    QString page() { return tabs.tabText(tabs.currentIndex()).remove(u'&'); }
+    QString selectedInContents()
+    {
+        const QTreeWidgetItem* item = control<QTreeWidget>("treContents").currentItem();
+        return item == nullptr ? QString() : item->text(0);
+    }
+    void search(const QString& words)
+    {
+        window.showSearch();
+        QTest::keyClicks(&control("txtSearch"), words);
+        QTest::keyClick(&control("txtSearch"), Qt::Key_Return);
+    }
+
+    QStringList webPages;
+    CompiledHelpWindow window;
+    TopicView& topic;
+    QTabWidget& tabs;
+};
+
+/// The link with that text in the topic on show.
+QUrl linkNamed(const TopicView& topic, const QString& text)
+{
+    for (QTextBlock block = topic.document()->begin(); block.isValid(); block = block.next()) {
+        for (auto part = block.begin(); part != block.end(); ++part) {
+            const QTextFragment fragment = part.fragment();
+            if (fragment.charFormat().isAnchor() && fragment.text() == text) {
+                return QUrl(fragment.charFormat().anchorHref());
+            }
+        }
+    }
+    return {};
+}
+
+} // namespace
+
+class HelpWindowTest : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void theDefaultTopicIsTheWelcome()
+    {
+        Help help;
+        help.window.showDefaultTopic();
+        QCOMPARE(help.topic.topic(), QStringLiteral("/welcome.html"));
+        QVERIFY(help.topic.toPlainText().startsWith(QLatin1String("Welcome to Ambertask")));
+        QVERIFY(help.topic.hasFocus());
+    }
+
+    void aContextNumberShowsItsTopicAndSelectsItInTheContents()
+    {
+        Help help;
+        help.window.showContext(4);
+        QCOMPARE(help.topic.topic(), QStringLiteral("/alert.html"));
+        QCOMPARE(help.selectedInContents(), QStringLiteral("The alert window"));
+        help.window.showContext(0);
+        QCOMPARE(help.topic.topic(), QStringLiteral("/tasks.html"));
+        QCOMPARE(help.selectedInContents(), QStringLiteral("The page Tasks"));
+    }
+
+    void anUnknownContextNumberIsToldAndTheNextOneIsShown()
+    {
+        Help help;
+        help.window.showContext(0);
+        help.window.showContext(99);
+        QVERIFY(help.topic.toPlainText().contains(QLatin1String("no topic number 99")));
+        help.window.showContext(0);
+        QVERIFY(help.topic.toPlainText().startsWith(QLatin1String("The page Tasks")));
+    }
+
+    void theContentsOpenOnTheirTabWithTheKeyboardInTheTree()
+    {
+        Help help;
+        help.window.showIndex();
+        help.window.showContents();
+        QCOMPARE(help.page(), QStringLiteral("Contents"));
+        QVERIFY(help.control("treContents").hasFocus());
+        QCOMPARE(help.topic.topic(), QStringLiteral("/welcome.html"));
+    }
+
+    void theContentsLeaveTheTopicThatIsOnShow()
+    {
+        Help help;
+        help.window.showContext(3);
+        help.window.showContents();
+        QCOMPARE(help.topic.topic(), QStringLiteral("/maintenance.html"));
+    }
+
+    void selectingAnEntryOfTheContentsShowsItsTopic()
+    {
+        Help help;
+        help.window.showContents();
+        // Past the heading "The main window" to the page below it.
+        QTest::keyClick(&help.control("treContents"), Qt::Key_Down);
+        QCOMPARE(help.topic.topic(), QStringLiteral("/welcome.html"));
+        QTest::keyClick(&help.control("treContents"), Qt::Key_Down);
+        QCOMPARE(help.topic.topic(), QStringLiteral("/tasks.html"));
+    }
+
+    void everyEntryOfTheContentsShowsAPage()
+    {
+        Help help;
+        auto& tree = help.control<QTreeWidget>("treContents");
+        int shown = 0;
+        for (QTreeWidgetItemIterator item(&tree); *item != nullptr; ++item) {
+            tree.setCurrentItem(*item);
+            QVERIFY2(!help.topic.toPlainText().contains(QLatin1String("cannot be shown")),
+                qPrintable((*item)->text(0)));
+            ++shown;
+        }
+        QVERIFY(shown > 15);
+    }
+
+    void typingInTheIndexSelectsTheFirstEntryThatBeginsSo()
+    {
+        Help help;
+        help.window.showIndex();
+        QCOMPARE(help.page(), QStringLiteral("Index"));
+        QVERIFY(help.control("txtIndex").hasFocus());
+        QTest::keyClicks(&help.control("txtIndex"), QStringLiteral("SLEEP"));
+        auto& list = help.control<QListWidget>("lstIndex");
+        QCOMPARE(list.currentItem()->text(), QStringLiteral("sleep of the computer"));
+        QTest::keyClick(&help.control("txtIndex"), Qt::Key_Return);
+        QCOMPARE(help.topic.topic(), QStringLiteral("/reminders.html"));
+    }
+
+    void theArrowKeysGoThroughTheIndexWhileTyping()
+    {
+        Help help;
+        help.window.showIndex();
+        QTest::keyClicks(&help.control("txtIndex"), QStringLiteral("sleep"));
+        QTest::keyClick(&help.control("txtIndex"), Qt::Key_Down);
+        QCOMPARE(help.control<QListWidget>("lstIndex").currentItem()->text(), QStringLiteral("sorting"));
+        QVERIFY(help.control("txtIndex").hasFocus());
+    }
+
+    void aKeywordThatTheIndexDoesNotHaveSelectsNothing()
+    {
+        Help help;
+        help.window.showIndex();
+        QTest::keyClicks(&help.control("txtIndex"), QStringLiteral("zzz"));
+        QVERIFY(help.control<QListWidget>("lstIndex").currentItem() == nullptr);
+        QTest::keyClick(&help.control("txtIndex"), Qt::Key_Return);
+        QCOMPARE(help.topic.topic(), QStringLiteral("/welcome.html"));
+    }
+
+    void theSearchOpensWithAnEmptyQuery()
+    {
+        Help help;
+        help.search(QStringLiteral("backup"));
+        help.window.showSearch();
+        QCOMPARE(help.page(), QStringLiteral("Search"));
+        QVERIFY(help.control("txtSearch").hasFocus());
+        QCOMPARE(help.control<QLineEdit>("txtSearch").text(), QString());
+        QCOMPARE(help.control<QListWidget>("lstHits").count(), 0);
+        QVERIFY(!help.control("btnSearch").isEnabled());
+    }
+
+    void aHitIsShownWithItsWordsMarked()
+    {
+        Help help;
+        help.search(QStringLiteral("slept"));
+        QCOMPARE(help.topic.topic(), QStringLiteral("/reminders.html"));
+        const auto marks = help.topic.extraSelections();
+        QCOMPARE(marks.size(), 1);
+        QCOMPARE(marks.first().cursor.selectedText(), QStringLiteral("slept"));
+        help.window.showContext(0);
+        QCOMPARE(help.topic.extraSelections().size(), 0);
+    }
+
+    void wordsThatNoTopicContainsAreTold()
+    {
+        Help help;
+        help.search(QStringLiteral("qwertz"));
+        QCOMPARE(help.control<QLabel>("lblResult").text(),
+            QStringLiteral("No topic contains all of these words."));
+        QCOMPARE(help.control<QListWidget>("lstHits").count(), 0);
+    }
+
+    void aLinkLeadsToItsTopicAndBackLeadsBack()
+    {
+        Help help;
+        help.window.showDefaultTopic();
+        QVERIFY(!help.control("btnBack").isEnabled());
+        const QUrl link = linkNamed(help.topic, QStringLiteral("Maintenance"));
+        QVERIFY(!link.isEmpty());
+        emit help.topic.anchorClicked(link);
+        QCOMPARE(help.topic.topic(), QStringLiteral("/maintenance.html"));
+        QCOMPARE(help.selectedInContents(), QStringLiteral("The page Maintenance"));
+        help.press("btnBack");
+        QCOMPARE(help.topic.topic(), QStringLiteral("/welcome.html"));
+        QCOMPARE(help.selectedInContents(), QStringLiteral("Welcome to Ambertask"));
+        QVERIFY(!help.control("btnBack").isEnabled());
+        help.press("btnForward");
+        QCOMPARE(help.topic.topic(), QStringLiteral("/maintenance.html"));
+        help.press("btnHome");
+        QCOMPARE(help.topic.topic(), QStringLiteral("/welcome.html"));
+    }
+
+    void picturesAreTakenFromTheHelpFile()
+    {
+        Help help;
+        help.window.showContext(0);
+        QVERIFY(help.topic.toPlainText().contains(QChar::ObjectReplacementCharacter));
+        const QVariant picture = help.topic.document()->resource(
+            QTextDocument::ImageResource, QUrl(QStringLiteral("12-reminder.png")));
+        QCOMPARE(picture.value<QImage>().height(), 24);
+    }
+
+    void nothingIsReadFromTheDisk_data()
+    {
+        QTest::addColumn<QUrl>("address");
+        QTest::newRow("file") << QUrl::fromLocalFile(QStringLiteral(AMBERTASK_HELP_SOURCES "/help.css"));
+        QTest::newRow("resource") << QUrl(
+            QStringLiteral("qrc:/qt-project.org/styles/commonstyle/images/up-16.png"));
+        QTest::newRow("upwards") << QUrl(QStringLiteral("../../../../../../../../etc/passwd"));
+    }
+
+    void nothingIsReadFromTheDisk()
+    {
+        QFETCH(const QUrl, address);
+        Help help;
+        help.window.showContext(0);
+        const QVariant read = help.topic.document()->resource(QTextDocument::ImageResource, address);
+        QVERIFY(!read.isValid() || read.value<QImage>().isNull());
+        emit help.topic.anchorClicked(address);
+        QVERIFY(!help.topic.toPlainText().contains(QLatin1String("root:")));
+        QVERIFY(!help.topic.toPlainText().contains(QLatin1String("font-family")));
+    }
+
+    void linksToTheWebLeaveTheTopicAndAskTheDesktop()
+    {
+        Help help;
+        help.window.showContext(0);
+        emit help.topic.anchorClicked(
+            QUrl(QStringLiteral("https://www.ambertask.example/support.htm?referer=p")));
+        QCOMPARE(help.webPages,
+            QStringList(QStringLiteral("https://www.ambertask.example/support.htm?referer=p")));
+        QCOMPARE(help.topic.topic(), QStringLiteral("/tasks.html"));
+    }
+
+    void linksOfOtherKindsAreIgnored()
+    {
+        Help help;
+        help.window.showContext(0);
+        for (const char* address : {"file:///etc/passwd", "javascript:alert(1)", "mailto:a@b.example"}) {
+            emit help.topic.anchorClicked(QUrl(QString::fromLatin1(address)));
+        }
+        QCOMPARE(help.webPages, QStringList());
+        QCOMPARE(help.topic.topic(), QStringLiteral("/tasks.html"));
+    }
+
+    void theTextGrowsAndShrinksWithinBounds()
+    {
+        Help help;
+        const qreal usual = help.topic.document()->defaultFont().pointSizeF();
+        help.press("btnLarger");
+        QVERIFY(help.topic.document()->defaultFont().pointSizeF() > usual);
+        QTest::keyClick(&help.window, Qt::Key_0, Qt::ControlModifier);
+        QCOMPARE(help.topic.document()->defaultFont().pointSizeF(), usual);
+        for (int times = 0; times < 40; ++times) {
+            help.press("btnSmaller");
+        }
+        QVERIFY(!help.control("btnSmaller").isEnabled());
+        QVERIFY(help.topic.document()->defaultFont().pointSizeF() > 3);
+        for (int times = 0; times < 40; ++times) {
+            help.press("btnLarger");
+        }
+        QVERIFY(!help.control("btnLarger").isEnabled());
+    }
+
+    void aPaletteOfAnotherSkinRecoloursTheLinks()
+    {
+        Help help;
+        help.window.showContext(3);
+        const QPalette before = QApplication::palette();
+        QPalette other = before;
+        other.setColor(QPalette::Link, QColor(QStringLiteral("#123456")));
+        QApplication::setPalette(other);
+        QCoreApplication::processEvents();
+        const QString html = help.topic.toHtml();
+        QApplication::setPalette(before);
+        QVERIFY(html.contains(QLatin1String("#123456")));
+        QCOMPARE(help.topic.topic(), QStringLiteral("/maintenance.html"));
+    }
+
+    void keysDoWhatTheButtonsDo()
+    {
+        Help help;
+        help.window.showDefaultTopic();
+        help.window.showContext(2);
+        QTest::keyClick(&help.window, Qt::Key_Left, Qt::AltModifier);
+        QCOMPARE(help.topic.topic(), QStringLiteral("/welcome.html"));
+        QTest::keyClick(&help.window, Qt::Key_Right, Qt::AltModifier);
+        QCOMPARE(help.topic.topic(), QStringLiteral("/settings.html"));
+        QTest::keyClick(&help.window, Qt::Key_Home, Qt::AltModifier);
+        QCOMPARE(help.topic.topic(), QStringLiteral("/welcome.html"));
+        QTest::keyClick(&help.window, Qt::Key_F, Qt::ControlModifier);
+        QVERIFY(help.control("txtSearch").hasFocus());
+        QTest::keyClick(&help.window, Qt::Key_Escape);
+        QVERIFY(!help.window.isVisible());
+    }
+
+    void everyControlThatTakesTheKeyboardHasAName()
+    {
+        Help help;
+        int checked = 0;
+        for (const QWidget* control : help.window.findChildren<QWidget*>()) {
+            const bool ours =
+                !control->objectName().isEmpty() && !control->objectName().startsWith(QLatin1String("qt_"));
+            if (ours && control->focusPolicy() != Qt::NoFocus
+                && qobject_cast<const QTabWidget*>(control) == nullptr) {
+                const auto* button = qobject_cast<const QAbstractButton*>(control);
+                QVERIFY2(
+                    !control->accessibleName().isEmpty() || (button != nullptr && !button->text().isEmpty()),
+                    qPrintable(control->objectName()));
+                ++checked;
+            }
+        }
+        QVERIFY(checked >= 10);
+    }
+};
+
+AMBERTASK_TEST_MAIN(HelpWindowTest)
+#include "tst_help_window.moc"
