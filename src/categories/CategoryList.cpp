@@ -14,6 +14,8 @@ namespace
 constexpr int IconEdge = 32;
 constexpr int LabelLines = 2;
 constexpr int LabelCharacters = 16;
+/// More than two lines can show: a name without end is not laid out.
+constexpr qsizetype LaidOutCharacters = 64;
 constexpr int Padding = 16;
 constexpr int MinimumCellWidth = 116;
 constexpr qsizetype ToolTipCharacters = 2000;
@@ -69,8 +71,8 @@ protected:
         option->decorationSize = m_list.iconSize();
         option->displayAlignment = Qt::AlignHCenter | Qt::AlignTop;
         option->features.setFlag(QStyleOptionViewItem::WrapText, false);
-        option->text = wrapped(option->text.left(LabelCharacters * LabelLines * 2), option->font,
-            m_list.gridSize().width() - Padding);
+        option->text =
+            wrapped(option->text.left(LaidOutCharacters), option->font, m_list.gridSize().width() - Padding);
     }
 
 private:

@@ -227,7 +227,7 @@ QString frmCategoryDetails::storeCustomPicture() const
     if (m_customIconSource == KeepStoredPicture) {
         return m_controls.imgCustomIcon->property(PictureTag).toString();
     }
-    const QString name = NewCustomIconName() + QLatin1String(".gif");
+    QString name = NewCustomIconName() + QLatin1String(".gif");
     m_customIcons.store(m_customIconSource, name);
     return name;
 }
