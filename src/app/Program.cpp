@@ -355,4 +355,5 @@ void Program::unload()
     m_alerts.reset();
     m_about.reset();
     m_main.reset();
+    m_helpViewer.Unload();
 }

@@ -99,10 +99,11 @@ void frmAbout::layOut(const AboutPictures& pictures)
     name->addStretch();
 
     auto* title = new QVBoxLayout;
-    title->addStretch();
+    title->setSpacing(2);
+    title->addStretch(1);
     title->addLayout(name);
     title->addWidget(arialLabel("Label3", tr("Version 1.1"), 1.1, false));
-    title->addStretch();
+    title->addStretch(1);
 
     auto* head = new QHBoxLayout;
     head->setSpacing(16);
