@@ -53,8 +53,8 @@ public:
         const QByteArray& data) = 0;
     /// Opens `keyPath` under `hive` and deletes the value.
     virtual void deleteValue(quint32 hive, const QString& keyPath, const QByteArray& name) = 0;
-    /// Opens `keyPath` under `hive` with the access rights asked for; null when there is no such key or it may
-    /// not be used so.
+    /// Opens `keyPath` under `hive` with the access rights asked for; null when there is no such key or it
+    /// may not be used so.
     virtual std::unique_ptr<RegistryKey> openKey(quint32 hive, const QString& keyPath, quint32 access) = 0;
 };
 
