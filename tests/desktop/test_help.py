@@ -1,0 +1,102 @@
+"""The help and the about box as their user opens them."""
+import os
+
+import names
+from case import DesktopCase, main
+from polling import wait_until
+
+HELP = "Ambertask Help"
+HELP_BUTTON = ("button", "Help", "Help on categories")
+PAGES = {"Tasks": "The page Tasks", "Categories": "The page Categories", "Settings": "The page Settings",
+         "Maintenance": "The page Maintenance"}
+
+
+class HelpCase(DesktopCase):
+    always_on_top = 0
+
+    def setUp(self):
+        super().setUp()
+        self.store.set(always_on_top=self.always_on_top, minimize_on_start=0)
+
+    def start_shown(self):
+        self.user = self.start()
+        self.user.wait_loaded()
+
+    def topic_shows(self, title):
+        topic = self.user.access.window(HELP).find("label", "Topic")
+        wait_until(lambda: topic.text.startswith(title), f"the topic '{title}' is shown")
+
+
+class HelpTest(HelpCase):
+    def test_f1_opens_the_contents_and_escape_closes_the_help(self):
+        self.start_shown()
+        self.desk.input.key("F1")
+        self.user.window(HELP)
+        self.user.wait_active(HELP)
+        self.topic_shows("Welcome to Ambertask")
+        self.desk.input.key("Escape")
+        self.user.wait_hidden(HELP)
+        self.assertTrue(self.user.shows(names.MAIN))
+
+    def test_each_page_opens_its_topic_in_the_one_window(self):
+        self.start_shown()
+        windows = set()
+        for page, topic in PAGES.items():
+            self.user.click(self.user.main().find("page", page))
+            self.user.click_control(self.user.main(), HELP_BUTTON)
+            windows.add(self.user.window(HELP))
+            self.topic_shows(topic)
+            self.user.window(names.MAIN).activate()
+            self.user.wait_active(names.MAIN)
+        self.assertEqual(len(windows), 1)
+
+    def test_exit_closes_the_help_and_ends_the_program(self):
+        self.start_shown()
+        self.desk.input.key("F1")
+        self.user.window(HELP)
+        self.user.choose_tray_entry("Exit")
+        self.assertEqual(self.user.program.wait_end(), 0)
+
+    def test_a_missing_help_file_is_told_and_the_program_goes_on(self):
+        os.remove(self.desk.path("program", "Ambertask1.1.chm"))
+        self.start_shown()
+        self.desk.input.key("F1")
+        self.topic_shows("The help cannot be shown")
+        self.desk.input.key("Escape")
+        self.user.wait_hidden(HELP)
+        self.user.open_new_task()
+
+
+class AboutTest(HelpCase):
+    def test_about_belongs_to_the_main_window_and_ok_closes_it(self):
+        self.start_shown()
+        self.user.choose_tray_entry("About")
+        about = self.user.window(names.ABOUT)
+        self.assertEqual(about.owner, self.user.window(names.MAIN))
+        self.assertFalse(about.topmost)
+        self.user.click_control(self.user.access.window(names.ABOUT), names.OK)
+        self.user.wait_hidden(names.ABOUT)
+        self.assertTrue(self.user.shows(names.MAIN))
+
+
+class AlwaysOnTopTest(HelpCase):
+    always_on_top = 1
+
+    def test_help_opens_above_the_topmost_main_window(self):
+        self.start_shown()
+        self.desk.input.key("F1")
+        self.opens_above(HELP)
+
+    def test_about_opens_above_the_topmost_main_window(self):
+        self.start_shown()
+        self.user.choose_tray_entry("About")
+        self.opens_above(names.ABOUT)
+
+    def opens_above(self, title):
+        window = self.user.window(title)
+        wait_until(lambda: window.topmost, f"'{title}' is topmost")
+        wait_until(lambda: self.desk.screen.is_above(window, self.user.window(names.MAIN)), f"'{title}' is above")
+
+
+if __name__ == "__main__":
+    main()
