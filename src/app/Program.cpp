@@ -8,6 +8,7 @@
 #include "platform/Clock.h"
 #include "platform/ErrorReport.h"
 #include "platform/GridView.h"
+#include "platform/MessageBoxes.h"
 #include "platform/ProgramFolder.h"
 #include "platform/Registry.h"
 #include "platform/WindowPlacement.h"
@@ -25,7 +26,7 @@ namespace
 
 using namespace std::chrono_literals;
 
-constexpr auto LongestWaitForThePaint = 1s;
+constexpr std::chrono::milliseconds LongestWaitForThePaint = 1s;
 
 /// The context numbers of the help file's topics.
 enum HelpContext { TasksHelp, CategoriesHelp, SettingsHelp, MaintenanceHelp, AlertHelp };
@@ -56,14 +57,21 @@ void Program::start(const std::function<bool()>& noteFirstStart)
     m_helpViewer.SetHelpFile(pathIn(m_machine.engine.programFolder, QStringLiteral("Ambertask1.1.chm")));
     // A program that starts hidden, or whose window is never activated, has to remind all the same. A window
     // that is about to appear comes first: mapped later, it would cover the alert.
-    const auto load = [this] {
-        m_machine.errors.guard([this] { loadDialogs(); });
-    };
-    if (m_main->isShown()) {
-        connect(m_main.get(), &frmMain::firstPainted, this, load, Qt::QueuedConnection);
-        QTimer::singleShot(LongestWaitForThePaint, this, load);
-    } else {
-        QTimer::singleShot(0, this, load);
+    QTimer::singleShot(m_main->isShown() ? LongestWaitForThePaint : 0ms, this, &Program::loadDialogsGuarded);
+}
+
+void Program::loadDialogsGuarded()
+{
+    m_machine.errors.guard([this] { loadDialogs(); });
+}
+
+void Program::onFirstPainted()
+{
+    loadDialogsGuarded();
+    // Behind the loading of the dialogs: an open box is not to hold back the checker.
+    const QStringList unreadable = m_main->categoriesPage()->takeUnreadablePictures();
+    if (!unreadable.isEmpty()) {
+        m_machine.messages.tell(m_main.get(), MessageBoxes::Icon::Exclamation, unreadable.join(u'\n'));
     }
 }
 
@@ -85,6 +93,7 @@ void Program::loadMainWindow()
     m_skins.reportOn(m_main.get());
 
     ErrorReport& errors = m_machine.errors;
+    connect(m_main.get(), &frmMain::firstPainted, this, &Program::onFirstPainted, Qt::QueuedConnection);
     connectGuarded(m_main.get(), &frmMain::activated, this, &Program::loadDialogs, errors);
     connect(m_main.get(), &frmMain::exitRequested, this, &Program::end);
     connectGuarded(

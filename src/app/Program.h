@@ -72,6 +72,8 @@ signals:
 
 private:
     void loadMainWindow();
+    void loadDialogsGuarded();
+    void onFirstPainted();
 
     void connectHelp(const MainWindowPages& pages);
     void showAbout();

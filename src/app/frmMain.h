@@ -79,6 +79,7 @@ public:
     void stayReachable();
 
     TasksPage* tasksPage() const { return m_pages.tasks; }
+    CategoriesPage* categoriesPage() const { return m_pages.categories; }
 
 signals:
     /// The window has become the active one.

@@ -224,6 +224,19 @@ private slots:
         QCOMPARE(f.program.alerts().windowTitle(), QStringLiteral("1 Reminder"));
     }
 
+    void aMissingPictureOfACategoryIsToldOnceTheWindowIsThere()
+    {
+        ProgramFixture f;
+        f.database.sql(QStringLiteral("update categories set custom_icon=1,cat_icon_name='icon77.gif' where "
+                                      "cat_id=(select min(cat_id) from "
+                                      "categories)"));
+        f.start();
+        f.dialogs.expectExclamationWith(QStringLiteral("icon77.gif"));
+        QVERIFY(QTest::qWaitForWindowExposed(&f.main()));
+        QTRY_VERIFY(f.dialogs.allUsed());
+        QCOMPARE(f.control<QListWidget>(f.main(), "lstViewCategories")->count(), 4);
+    }
+
     void switchingToTheSettingsDiscardsUnsavedEdits()
     {
         ProgramFixture f;

@@ -17,6 +17,8 @@ public:
 
     // What is expected next, in this order.
     void expectTell(Icon icon, const QString& text);
+    /// A message with the exclamation icon whose text contains `part`.
+    void expectExclamationWith(const QString& part);
     void expectAsk(const QString& question, bool yes);
     /// `answer` is the chosen file, empty for cancelled; `whileOpen` runs while the dialog is "open".
     void expectOpen(const QString& answer, std::function<void(const FileDialogRequest&)> whileOpen = {});
@@ -32,7 +34,7 @@ public:
     void report(const QString& text) override;
 
 private:
-    enum class Kind { Tell, Ask, Open, Save, Error };
+    enum class Kind { Tell, TellPart, Ask, Open, Save, Error };
     struct Expectation {
         Kind kind;
         QString text;
