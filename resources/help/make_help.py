@@ -3,7 +3,7 @@
 
     make_help.py OUTPUT SOURCE_FOLDER [PICTURE...]
 
-SOURCE_FOLDER holds the topics (*.html), help.css, Ambertask.hhc (contents), Ambertask.hhk (index) and contexts.txt
+SOURCE_FOLDER holds the topics (*.html), the folder pictures, help.css, Ambertask.hhc (contents), Ambertask.hhk (index) and contexts.txt
 (a context number and its topic a line). Fails when a link, a picture or a context leads nowhere, or when a topic is
 missing in the contents. The same sources make the same bytes. Nothing is compressed: the file is small, and every
 reader takes it.
@@ -73,7 +73,8 @@ def collect(folder, pictures):
     for name in sorted(os.listdir(folder)):
         if name.endswith((".html", ".css", ".hhc", ".hhk")):
             objects[name] = read(os.path.join(folder, name))
-    for picture in pictures:
+    shown = os.path.join(folder, "pictures")
+    for picture in [os.path.join(shown, name) for name in sorted(os.listdir(shown))] + list(pictures):
         objects[os.path.basename(picture)] = read(picture)
     return objects
 
