@@ -19,7 +19,7 @@ enum Tab { ContentsTab, IndexTab, SearchTab };
 
 constexpr int SmallestText = -3;
 constexpr int LargestText = 12;
-constexpr QSize FirstSize(940, 640);
+constexpr QSize FirstSize(1000, 680);
 constexpr int PaneWidth = 280;
 
 } // namespace
