@@ -1,7 +1,9 @@
 #include "app/Program.h"
 
 #include "app/FixedPictures.h"
+#include "app/TaskFilter.h"
 #include "app/TasksPage.h"
+#include "app/drTasks.h"
 #include "categories/CategoriesPage.h"
 #include "categories/frmCategoryDetails.h"
 #include "help/frmAbout.h"
@@ -103,6 +105,7 @@ void Program::loadMainWindow()
     connectGuarded(pages.maintenance, &MaintenancePage::tasksDeleted, this, &Program::LoadTasks, errors);
     connectGuarded(pages.tasks, &TasksPage::addRequested, this, &Program::addTask, errors);
     connectGuarded(pages.tasks, &TasksPage::editRequested, this, &Program::editTask, errors);
+    connectGuarded(pages.tasks, &TasksPage::printRequested, this, &Program::printTasks, errors);
 
     connectHelp(pages);
 
@@ -215,6 +218,19 @@ void Program::editTask(qint16 id)
         makeTopmost(&dialog);
     }
     showOwned(&dialog, m_main.get());
+}
+
+drTasks& Program::report()
+{
+    if (m_report == nullptr) {
+        m_report = std::make_unique<drTasks>(m_services, m_machine.reportWindow);
+    }
+    return *m_report;
+}
+
+void Program::printTasks(const TaskFilter& filter)
+{
+    report().printTasks(filter, m_main.get());
 }
 
 void Program::openTask(qint16 id)
@@ -363,6 +379,7 @@ void Program::unload()
     m_taskDetails.reset();
     m_alerts.reset();
     m_about.reset();
+    m_report.reset();
     m_main.reset();
     m_helpViewer.Unload();
 }

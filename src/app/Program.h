@@ -5,6 +5,7 @@
 #include "platform/ImageList.h"
 #include "platform/WaveBackend.h"
 #include "reminders/AlertsHost.h"
+#include "report/ReportWindow.h"
 #include "settings/SettingsPageHost.h"
 #include "settings/SettingsRecord.h"
 #include "settings/Skins.h"
@@ -16,10 +17,12 @@
 #include <memory>
 
 class Registry;
+class drTasks;
 class frmAbout;
 class frmAlerts;
 class frmCategoryDetails;
 class frmTaskDetails;
+struct TaskFilter;
 
 /// The world around the program. Nothing is owned; all of it outlives the program.
 struct Machine {
@@ -33,6 +36,7 @@ struct Machine {
     /// Whether the desktop has a notification area now.
     std::function<bool()> hasNotificationArea;
     HelpWindowFactory helpWindow;
+    ReportWindowFactory reportWindow;
 };
 
 /// The program: its one instance of each form and of what they share, and how they are wired. Interface
@@ -66,6 +70,7 @@ public:
     frmTaskDetails& taskDetails();
     frmCategoryDetails& categoryDetails();
     frmAlerts& alerts();
+    drTasks& report();
 
 signals:
     void endRequested();
@@ -79,6 +84,7 @@ private:
     void showAbout();
     void addTask(qint16 category);
     void editTask(qint16 id);
+    void printTasks(const TaskFilter& filter);
     void onTaskStored();
     void onTaskSaved();
     void onTaskCancelled();
@@ -117,4 +123,5 @@ private:
     std::unique_ptr<frmCategoryDetails> m_categoryDetails;
     std::unique_ptr<frmAlerts> m_alerts;
     std::unique_ptr<frmAbout> m_about;
+    std::unique_ptr<drTasks> m_report;
 };

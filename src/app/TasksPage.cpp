@@ -143,8 +143,8 @@ QBoxLayout* TasksPage::makeButtonRow()
     connectGuarded(add("btnTaskDelete", tr("&Delete")), &QPushButton::clicked, this,
         &TasksPage::btnTaskDelete_Click, errors);
     row->addStretch();
-    // Printing is not there yet.
-    add("btnTaskPrint", tr("&Print"))->setEnabled(false);
+    connectGuarded(add("btnTaskPrint", tr("&Print")), &QPushButton::clicked, this,
+        &TasksPage::btnTaskPrint_Click, errors);
     connect(add("btnHelpTasks", tr("&Help")), &QPushButton::clicked, this, &TasksPage::helpRequested);
     return row;
 }
@@ -275,6 +275,11 @@ void TasksPage::btnTaskEdit_Click()
     if (row >= 0) {
         emit editRequested(narrowId(m_model->idAt(row), tr("task id")));
     }
+}
+
+void TasksPage::btnTaskPrint_Click()
+{
+    emit printRequested(filter());
 }
 
 void TasksPage::btnTaskDelete_Click()

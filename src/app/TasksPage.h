@@ -49,11 +49,14 @@ signals:
     void addRequested(qint16 category);
     void editRequested(qint16 id);
     void helpRequested();
+    /// "Print" was pressed; the report is to show what the filters select.
+    void printRequested(const TaskFilter& filter);
 
 private:
     void btnTaskAdd_Click();
     void btnTaskEdit_Click();
     void btnTaskDelete_Click();
+    void btnTaskPrint_Click();
     void opnAllDate_Click(bool selected);
     void opnSpecificDate_Click(bool selected);
     void opnTaskType_Click(bool selected);

@@ -3,6 +3,7 @@
 #include "app/Application.h"
 #include "app/FixedPictures.h"
 #include "app/Program.h"
+#include "app/drTasks.h"
 #include "platform/Clock.h"
 #include "platform/FileDialogs.h"
 #include "platform/MMControl.h"
@@ -30,7 +31,7 @@ struct RealMachine {
     Machine machine()
     {
         return {engine, messages, fileDialogs, errors, shell, *registry, loadWaveBackend,
-            TrayIcon::isAreaAvailable, loadHelpWindow};
+            TrayIcon::isAreaAvailable, loadHelpWindow, loadReportWindow};
     }
 
     SystemClock clock;

@@ -6,6 +6,7 @@
 #include "platform/WaveBackend.h"
 #include "support/MemoryRegistry.h"
 #include "support/RecordedHelpWindow.h"
+#include "support/RecordedReportWindow.h"
 #include "support/ScriptedDialogs.h"
 #include "support/TestDatabase.h"
 #include "support/TestServices.h"
@@ -37,6 +38,11 @@ struct ProgramFixture {
             [this](const WebPageOpener&) {
                 helpWindow = new RecordedHelpWindow(helpLog);
                 return helpWindow;
+            },
+            [this](ReportHost&) {
+                auto window = std::make_unique<RecordedReportWindow>();
+                reportWindow = window.get();
+                return window;
             }})
     {
         QDir folder(database.folder());
@@ -75,5 +81,6 @@ struct ProgramFixture {
     bool notificationArea = true;
     QStringList helpLog;
     QPointer<RecordedHelpWindow> helpWindow;
+    QPointer<RecordedReportWindow> reportWindow;
     Program program;
 };

@@ -6,6 +6,7 @@ MAIN = "Ambertask"
 TASK_DIALOG = "Task Details"
 CATEGORY_DIALOG = "Category Details"
 ABOUT = "About Ambertask"
+REPORT = "Tasks Report"
 TRAY_TIP = "Ambertaks"
 TRAY_MENU = ["Show", "About", "Help", "Send feedback", "Exit"]
 BALLOON = "Ambertaks is still running.."

@@ -1,0 +1,208 @@
+#include "app/drTasks.h"
+
+#include "app/TaskReportQuery.h"
+#include "data/ClsDatabase.h"
+#include "platform/ErrorReport.h"
+#include "platform/FileDialogs.h"
+#include "platform/MessageBoxes.h"
+#include "platform/Shell.h"
+#include "platform/WindowPlacement.h"
+#include "ui/CheckerTimer.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QLibrary>
+#include <QStandardPaths>
+#include <array>
+
+namespace
+{
+
+using Kind = ReportControl::Kind;
+
+const QLatin1String Detail("cmdTasks_Detail");
+// What follows the marker of the language is the format of the date.
+const QLatin1String DueDateFormat("$l$dd/MM/yyyy");
+
+struct Binding {
+    const char* control;
+    const char* column;
+};
+constexpr std::array Bindings{Binding{"txtCatName", "cat_name"}, Binding{"txtTaskName", "task_name"},
+    Binding{"txtTaskPeriority", "task_periority"}, Binding{"txtTaskStatus", "task_status"},
+    Binding{"txtTaskDueDate", "task_due_date"}, Binding{"txtTaskDesc", "task_desc"}};
+
+ReportControl control(Kind kind, const char* name, const char* caption = "")
+{
+    return {kind, QLatin1String(name), QLatin1String(caption), {}};
+}
+
+std::vector<ReportSection> makeSections()
+{
+    return {{QStringLiteral("ReportHeader"), {}},
+        {QStringLiteral("PageHeader"),
+            {control(Kind::Image, "Image1"), control(Kind::Label, "Label7", "Amber"),
+                control(Kind::Label, "Label8", "Organizer"), control(Kind::Label, "Label1", VendorAddress)}},
+        {Detail,
+            {control(Kind::Label, "Label6", "Category"), control(Kind::Text, "txtCatName"),
+                control(Kind::Text, "txtTaskName"), control(Kind::Label, "Label2", "Periority"),
+                control(Kind::Text, "txtTaskPeriority"), control(Kind::Label, "Label3", "Status"),
+                control(Kind::Text, "txtTaskStatus"), control(Kind::Label, "Label4", "Due date"),
+                control(Kind::Text, "txtTaskDueDate"), control(Kind::Label, "Label5", "Description"),
+                control(Kind::Text, "txtTaskDesc"), control(Kind::Line, "Line2")}},
+        {QStringLiteral("PageFooter"), {}}, {QStringLiteral("ReportFooter"), {}}};
+}
+
+QString dateText(Moment moment)
+{
+    static const QString format = QString(DueDateFormat).section(u'$', -1);
+    return toQDate(moment).toString(format);
+}
+
+} // namespace
+
+std::unique_ptr<ReportWindow> loadReportWindow(ReportHost& host)
+{
+    QLibrary module(QCoreApplication::applicationDirPath() + QStringLiteral("/ambertask_report"));
+    using Make = ReportWindow* (*)(ReportHost&);
+    const auto make = reinterpret_cast<Make>(module.resolve("ambertaskMakeReportWindow"));
+    return std::unique_ptr<ReportWindow>(make == nullptr ? nullptr : make(host));
+}
+
+drTasks::drTasks(const FormServices& services, ReportWindowFactory makeWindow)
+    : m_services(services), m_makeWindow(std::move(makeWindow)), m_sections(makeSections())
+{
+    DataReport_Initialize();
+}
+
+drTasks::~drTasks() = default;
+
+void drTasks::DataReport_Initialize()
+{
+    m_formats[QStringLiteral("txtTaskPeriority")] = {periorityFormat_Format};
+    m_formats[QStringLiteral("txtTaskStatus")] = {statusFormat_Format};
+}
+
+void drTasks::printTasks(const TaskFilter& filter, QWidget* owner)
+{
+    Connection connection = ClsDatabase(m_services.engine).Connect();
+    connection.open();
+    RecordSet records = connection.execute(taskReportQuery(filter));
+    ReportWindow& window = loadedWindow();
+    bindFields();
+    // A report may stay open for long: read to its end, the record set holds no lock on the data.
+    ReportContent content{QStringLiteral("Tasks Report"), QImage(QStringLiteral(":/logo/logo-96.png")),
+        m_sections, readRecords(records)};
+    forFinalizing(std::move(connection), std::move(records));
+    window.setContent(std::move(content));
+    if (m_services.alwaysOnTop()) {
+        makeTopmost(window.widget());
+    }
+    showOwned(window.widget(), owner);
+}
+
+void drTasks::bindFields()
+{
+    for (ReportSection& section : m_sections) {
+        for (ReportControl& bound : section.controls) {
+            for (const Binding& binding : Bindings) {
+                if (bound.name == QLatin1String(binding.control)) {
+                    bound.dataField = QLatin1String(binding.column);
+                }
+            }
+        }
+    }
+}
+
+std::vector<std::vector<QString>> drTasks::readRecords(RecordSet& records) const
+{
+    struct Column {
+        int field;
+        const std::function<void(QString&)>* format;
+        bool isDate;
+    };
+    std::vector<Column> columns;
+    for (const ReportSection& section : m_sections) {
+        for (const ReportControl& text : section.controls) {
+            if (text.kind == Kind::Text) {
+                const auto format = m_formats.find(text.name);
+                columns.push_back({records.field(text.dataField.toStdString()),
+                    format == m_formats.end() ? nullptr : &format->second.Format,
+                    text.name == QLatin1String("txtTaskDueDate")});
+            }
+        }
+    }
+    std::vector<std::vector<QString>> rows;
+    for (; !records.atEnd(); records.moveNext()) {
+        std::vector<QString>& row = rows.emplace_back();
+        row.reserve(columns.size());
+        for (const Column& column : columns) {
+            row.push_back(
+                column.isDate ? dateText(records.moment(column.field)) : records.text(column.field));
+            if (column.format != nullptr) {
+                (*column.format)(row.back());
+            }
+        }
+    }
+    return rows;
+}
+
+ReportWindow& drTasks::loadedWindow()
+{
+    if (m_window == nullptr) {
+        m_window = m_makeWindow ? m_makeWindow(*this) : nullptr;
+    }
+    if (m_window == nullptr) {
+        throw RuntimeError(QCoreApplication::translate("drTasks",
+            "The report cannot be shown: the module \"ambertask_report\" is missing from the program's "
+            "folder "
+            "or damaged."));
+    }
+    return *m_window;
+}
+
+void drTasks::forFinalizing(Connection connection, RecordSet records)
+{
+    DataReport_QueryClose();
+    m_connection = std::move(connection);
+    m_records = std::move(records);
+}
+
+void drTasks::DataReport_QueryClose()
+{
+    if (m_connection && m_connection->state() == Connection::State::Open) {
+        m_connection->close();
+    }
+    m_connection.reset();
+    m_records.reset();
+}
+
+QString drTasks::choosePdfFile(QWidget* owner)
+{
+    const CheckerPause pause(m_services.checkerTimer);
+    FileDialogRequest request;
+    request.filter = QCoreApplication::translate("drTasks", "PDF Files (*.pdf)|*.pdf");
+    request.fileName = QStringLiteral("Tasks Report.pdf");
+    request.initialFolder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    request.promptBeforeOverwriting = true;
+    QString file = m_services.fileDialogs.save(owner, request);
+    if (file.isEmpty() || !QFileInfo(file).suffix().isEmpty()) {
+        return file;
+    }
+    file += QStringLiteral(".pdf");
+    // The dialog has asked about the name without its ending.
+    const bool replaces = QFileInfo::exists(file);
+    const QString question =
+        QCoreApplication::translate("drTasks", "\"%1\" already exists. Do you want to replace it?").arg(file);
+    return !replaces || m_services.messages.ask(owner, question) ? file : QString();
+}
+
+void drTasks::tellFailure(QWidget* owner, const QString& text)
+{
+    m_services.messages.tell(owner, MessageBoxes::Icon::Exclamation, text);
+}
+
+void drTasks::windowClosed()
+{
+    m_services.errors.guard([this] { DataReport_QueryClose(); });
+}

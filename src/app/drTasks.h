@@ -1,0 +1,57 @@
+#pragma once
+
+#include "app/TaskFilter.h"
+#include "app/TaskReportFormats.h"
+#include "platform/database/Connection.h"
+#include "report/ReportWindow.h"
+#include "ui/FormServices.h"
+
+#include <map>
+#include <optional>
+
+/// Loads the report module that lies beside the program; nothing when there is none. The module stays loaded.
+std::unique_ptr<ReportWindow> loadReportWindow(ReportHost& host);
+
+/// The report of tasks. One instance serves all print runs: a further run shows its tasks in the same window.
+class drTasks final : private ReportHost
+{
+public:
+    drTasks(const FormServices& services, ReportWindowFactory makeWindow);
+    ~drTasks() override;
+
+    /// Runs the filter's query on a connection of its own, binds the fields to its columns and shows the
+    /// report above `owner`. Throws RuntimeError, and then the report shows what it showed before.
+    void printTasks(const TaskFilter& filter, QWidget* owner);
+
+    /// Creates the two format objects and attaches them to their controls.
+    void DataReport_Initialize();
+    /// Takes over what `DataReport_QueryClose` is to close, and closes what an earlier run has left.
+    void forFinalizing(Connection connection, RecordSet records);
+    /// Closes the connection if it is open and drops it and its record set.
+    void DataReport_QueryClose();
+
+    /// The sections from top to bottom.
+    const std::vector<ReportSection>& sections() const { return m_sections; }
+    /// Whether a connection waits for the window to close.
+    bool holdsConnection() const { return m_connection.has_value(); }
+    /// Null before the first run.
+    QWidget* window() const { return m_window == nullptr ? nullptr : m_window->widget(); }
+
+private:
+    void bindFields();
+    /// Reads the record set to its end.
+    std::vector<std::vector<QString>> readRecords(RecordSet& records) const;
+    ReportWindow& loadedWindow();
+
+    QString choosePdfFile(QWidget* owner) override;
+    void tellFailure(QWidget* owner, const QString& text) override;
+    void windowClosed() override;
+
+    const FormServices& m_services;
+    ReportWindowFactory m_makeWindow;
+    std::vector<ReportSection> m_sections;
+    std::map<QString, DataFormat> m_formats; ///< by control
+    std::optional<Connection> m_connection;
+    std::optional<RecordSet> m_records;
+    std::unique_ptr<ReportWindow> m_window;
+};

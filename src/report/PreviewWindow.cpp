@@ -1,0 +1,350 @@
+#include "report/PreviewWindow.h"
+
+#include "report/ReportOutput.h"
+
+#include <QBoxLayout>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QGraphicsView>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QLocale>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrintPreviewWidget>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollBar>
+#include <QShortcut>
+#include <QSpinBox>
+#include <algorithm>
+
+namespace
+{
+
+constexpr QSize FirstSize(820, 860);
+constexpr QSize RoomForFrame(20, 50);
+constexpr qreal MarginMillimetres = 15;
+constexpr std::array PaperSizes{
+    QPageSize::A3, QPageSize::A4, QPageSize::A5, QPageSize::Letter, QPageSize::Legal};
+// The first two entries of the zoom list fit the page; those after them are percentages.
+constexpr int FitPage = 0;
+constexpr int FitWidth = 1;
+constexpr std::array ZoomPercentages{25, 50, 75, 100, 125, 150, 200, 300, 400};
+
+class WaitCursor
+{
+public:
+    WaitCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~WaitCursor() { QGuiApplication::restoreOverrideCursor(); }
+    WaitCursor(const WaitCursor&) = delete;
+    WaitCursor& operator=(const WaitCursor&) = delete;
+};
+
+template <typename Control> Control* named(Control* control, const char* name)
+{
+    control->setObjectName(QLatin1String(name));
+    return control;
+}
+
+QLabel* labelFor(QWidget* buddy, const QString& text)
+{
+    auto* label = new QLabel(text);
+    label->setBuddy(buddy);
+    return label;
+}
+
+QPageSize::PageSizeId usualPaper()
+{
+    return QLocale().measurementSystem() == QLocale::ImperialUSSystem ? QPageSize::Letter : QPageSize::A4;
+}
+
+} // namespace
+
+PreviewWindow::PreviewWindow(ReportHost& host, std::function<bool()> hasPrinter)
+    : QWidget(nullptr, Qt::Window), m_host(host), m_hasPrinter(std::move(hasPrinter)),
+      m_print(named(new QPushButton(tr("&Print...")), "btnPrint")),
+      m_export(named(new QPushButton(tr("&Export PDF...")), "btnExport")),
+      m_paper(named(new QComboBox, "cmbPaper")), m_orientation(named(new QComboBox, "cmbOrientation")),
+      m_zoom(named(new QComboBox, "cmbZoom")), m_pageNumber(named(new QSpinBox, "spnPage")),
+      m_first(named(new QPushButton(tr("&First")), "btnFirstPage")),
+      m_previous(named(new QPushButton(tr("Pre&vious")), "btnPreviousPage")),
+      m_next(named(new QPushButton(tr("&Next")), "btnNextPage")),
+      m_last(named(new QPushButton(tr("&Last")), "btnLastPage"))
+{
+    setObjectName(QStringLiteral("drTasks"));
+    m_printer.setOutputFormat(QPrinter::PdfFormat);
+    m_printer.setResolution(UnitsPerInch);
+    m_printer.setPageLayout({QPageSize(usualPaper()), QPageLayout::Portrait,
+        QMarginsF(MarginMillimetres, MarginMillimetres, MarginMillimetres, MarginMillimetres),
+        QPageLayout::Millimeter});
+    m_preview = named(new QPrintPreviewWidget(&m_printer), "prvReport");
+    m_preview->setZoomMode(QPrintPreviewWidget::FitInView);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(makeCommandRow());
+    layout->addWidget(m_preview, 1);
+    layout->addLayout(makePageRow());
+    makeShortcuts();
+    resize(FirstSize.boundedTo(screen()->availableSize() - RoomForFrame));
+    layOut();
+
+    connect(m_preview, &QPrintPreviewWidget::paintRequested, this, [this](QPrinter* printer) {
+        QPainter painter(printer);
+        paintReportPage(painter, *m_layout, m_page);
+    });
+    connect(m_preview, &QPrintPreviewWidget::previewChanged, this, &PreviewWindow::showZoom);
+}
+
+QBoxLayout* PreviewWindow::makeCommandRow()
+{
+    for (const QPageSize::PageSizeId size : PaperSizes) {
+        m_paper->addItem(QPageSize::name(size), size);
+    }
+    m_paper->setCurrentIndex(m_paper->findData(m_printer.pageLayout().pageSize().id()));
+    m_orientation->addItem(tr("Portrait"), QPageLayout::Portrait);
+    m_orientation->addItem(tr("Landscape"), QPageLayout::Landscape);
+
+    auto* row = new QHBoxLayout;
+    row->addWidget(m_print);
+    row->addWidget(m_export);
+    row->addStretch();
+    row->addWidget(labelFor(m_paper, tr("P&aper")));
+    row->addWidget(m_paper);
+    row->addSpacing(style()->pixelMetric(QStyle::PM_LayoutHorizontalSpacing));
+    row->addWidget(labelFor(m_orientation, tr("&Orientation")));
+    row->addWidget(m_orientation);
+
+    connect(m_print, &QPushButton::clicked, this, &PreviewWindow::btnPrint_Click);
+    connect(m_export, &QPushButton::clicked, this, &PreviewWindow::btnExport_Click);
+    connect(m_paper, &QComboBox::activated, this, &PreviewWindow::pageFormat_Click);
+    connect(m_orientation, &QComboBox::activated, this, &PreviewWindow::pageFormat_Click);
+    return row;
+}
+
+QBoxLayout* PreviewWindow::makePageRow()
+{
+    m_zoom->addItem(tr("Whole page"));
+    m_zoom->addItem(tr("Page width"));
+    for (const int percentage : ZoomPercentages) {
+        m_zoom->addItem(tr("%1 %").arg(percentage), percentage);
+    }
+    auto* zoomIn = named(new QPushButton(tr("Zoom &in")), "btnZoomIn");
+    auto* zoomOut = named(new QPushButton(tr("Zoom o&ut")), "btnZoomOut");
+    m_pageNumber->setMinimum(1);
+    m_pageNumber->setKeyboardTracking(false);
+
+    auto* row = new QHBoxLayout;
+    row->addWidget(labelFor(m_zoom, tr("&Zoom")));
+    row->addWidget(m_zoom);
+    row->addWidget(zoomOut);
+    row->addWidget(zoomIn);
+    row->addStretch();
+    row->addWidget(m_first);
+    row->addWidget(m_previous);
+    row->addWidget(labelFor(m_pageNumber, tr("Pa&ge")));
+    row->addWidget(m_pageNumber);
+    row->addWidget(m_next);
+    row->addWidget(m_last);
+
+    connect(m_zoom, &QComboBox::activated, this, &PreviewWindow::cmbZoom_Click);
+    connect(zoomIn, &QPushButton::clicked, this, [this] { zoomBy(1); });
+    connect(zoomOut, &QPushButton::clicked, this, [this] { zoomBy(-1); });
+    connect(m_first, &QPushButton::clicked, this, [this] { goToPage(0); });
+    connect(m_previous, &QPushButton::clicked, this, [this] { goToPage(m_page - 1); });
+    connect(m_next, &QPushButton::clicked, this, [this] { goToPage(m_page + 1); });
+    connect(m_last, &QPushButton::clicked, this, [this] { goToPage(pageCount() - 1); });
+    connect(m_pageNumber, &QSpinBox::valueChanged, this, [this](int number) { goToPage(number - 1); });
+    return row;
+}
+
+void PreviewWindow::makeShortcuts()
+{
+    const auto add = [this](const QKeySequence& keys, auto&& action) {
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, action);
+    };
+    add(QKeySequence::Print, [this] { m_print->click(); });
+    add(QKeySequence::Close, [this] { close(); });
+    add(QKeySequence::ZoomIn, [this] { zoomBy(1); });
+    add(QKeySequence::ZoomOut, [this] { zoomBy(-1); });
+    add(QKeySequence::MoveToNextPage, [this] { scrollOrTurn(1); });
+    add(QKeySequence::MoveToPreviousPage, [this] { scrollOrTurn(-1); });
+    add(QKeySequence::MoveToStartOfDocument, [this] { goToPage(0); });
+    add(QKeySequence::MoveToEndOfDocument, [this] { goToPage(pageCount() - 1); });
+}
+
+void PreviewWindow::setContent(ReportContent content)
+{
+    m_layout.reset();
+    m_content = std::move(content);
+    setWindowTitle(m_content.caption);
+    m_page = 0;
+    layOut();
+}
+
+int PreviewWindow::pageCount() const
+{
+    return m_layout->pageCount();
+}
+
+void PreviewWindow::layOut()
+{
+    m_layout = std::make_unique<ReportLayout>(m_content, printableArea(m_printer.pageLayout()));
+    showPage();
+}
+
+void PreviewWindow::goToPage(int page)
+{
+    const int wanted = std::clamp(page, 0, pageCount() - 1);
+    if (wanted != m_page) {
+        m_page = wanted;
+        showPage();
+    }
+}
+
+void PreviewWindow::showPage()
+{
+    const QSignalBlocker blocker(m_pageNumber);
+    const int count = pageCount();
+    m_pageNumber->setMaximum(count);
+    m_pageNumber->setSuffix(tr(" of %1").arg(count));
+    m_pageNumber->setValue(m_page + 1);
+    const QString place = tr("Page %1 of %2").arg(m_page + 1).arg(count);
+    m_pageNumber->setAccessibleName(place);
+    m_preview->setAccessibleName(place);
+    m_first->setEnabled(m_page > 0);
+    m_previous->setEnabled(m_page > 0);
+    m_next->setEnabled(m_page + 1 < count);
+    m_last->setEnabled(m_page + 1 < count);
+    m_preview->updatePreview();
+    if (const auto* view = m_preview->findChild<QGraphicsView*>()) {
+        view->verticalScrollBar()->setValue(view->verticalScrollBar()->minimum());
+    }
+}
+
+void PreviewWindow::scrollOrTurn(int direction)
+{
+    auto* view = m_preview->findChild<QGraphicsView*>();
+    QScrollBar* bar = view == nullptr ? nullptr : view->verticalScrollBar();
+    if (bar != nullptr && bar->value() != (direction > 0 ? bar->maximum() : bar->minimum())) {
+        bar->triggerAction(direction > 0 ? QScrollBar::SliderPageStepAdd : QScrollBar::SliderPageStepSub);
+        return;
+    }
+    const int before = m_page;
+    goToPage(m_page + direction);
+    if (bar != nullptr && direction < 0 && m_page != before) {
+        bar->setValue(bar->maximum());
+    }
+}
+
+void PreviewWindow::pageFormat_Click()
+{
+    QPageLayout page = m_printer.pageLayout();
+    page.setPageSize(QPageSize(static_cast<QPageSize::PageSizeId>(m_paper->currentData().toInt())));
+    page.setOrientation(static_cast<QPageLayout::Orientation>(m_orientation->currentData().toInt()));
+    m_printer.setPageLayout(page);
+    // What stood at the top of the page in view stays in view.
+    const std::size_t record = m_layout->firstRecord(m_page);
+    m_layout = std::make_unique<ReportLayout>(m_content, printableArea(page));
+    m_page = m_layout->pageOf(record);
+    showPage();
+}
+
+void PreviewWindow::cmbZoom_Click(int index)
+{
+    if (index == FitPage) {
+        m_preview->fitInView();
+    } else if (index == FitWidth) {
+        m_preview->fitToWidth();
+    } else {
+        m_preview->setZoomFactor(m_zoom->itemData(index).toInt() / 100.0);
+    }
+    showZoom();
+}
+
+void PreviewWindow::zoomBy(int step)
+{
+    const int now = qRound(m_preview->zoomFactor() * 100);
+    const auto* const next = std::upper_bound(ZoomPercentages.begin(), ZoomPercentages.end(), now);
+    const auto* const same = std::lower_bound(ZoomPercentages.begin(), ZoomPercentages.end(), now);
+    if (step > 0 && next != ZoomPercentages.end()) {
+        m_preview->setZoomFactor(*next / 100.0);
+    } else if (step < 0 && same != ZoomPercentages.begin()) {
+        m_preview->setZoomFactor(*std::prev(same) / 100.0);
+    }
+    showZoom();
+}
+
+void PreviewWindow::showZoom()
+{
+    switch (m_preview->zoomMode()) {
+    case QPrintPreviewWidget::FitInView:
+        m_zoom->setCurrentIndex(FitPage);
+        break;
+    case QPrintPreviewWidget::FitToWidth:
+        m_zoom->setCurrentIndex(FitWidth);
+        break;
+    case QPrintPreviewWidget::CustomZoom:
+        m_zoom->setCurrentIndex(m_zoom->findData(qRound(m_preview->zoomFactor() * 100)));
+        break;
+    }
+}
+
+void PreviewWindow::btnPrint_Click()
+{
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setPageLayout(m_printer.pageLayout());
+    printer.setDocName(windowTitle());
+    QPrintDialog dialog(&printer, this);
+    dialog.setWindowFlag(Qt::WindowStaysOnTopHint, windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+    dialog.setOption(QAbstractPrintDialog::PrintCurrentPage);
+    dialog.setMinMax(1, pageCount());
+    if (dialog.exec() != QDialog::Accepted) {
+        return;
+    }
+    const WaitCursor wait;
+    // The dialog may have chosen another paper.
+    const ReportLayout layout(m_content, printableArea(printer.pageLayout()));
+    if (!paintReportPages(printer, layout, chosenPages(printer, layout.pageCount(), m_page))) {
+        tell(tr("The report could not be printed."));
+    }
+}
+
+void PreviewWindow::btnExport_Click()
+{
+    const QString file = m_host.choosePdfFile(this);
+    if (!file.isEmpty()) {
+        exportTo(file);
+    }
+}
+
+void PreviewWindow::exportTo(const QString& file)
+{
+    std::optional<QString> failure;
+    {
+        const WaitCursor wait;
+        failure = exportReportPdf(*m_layout, m_printer.pageLayout(), windowTitle(), file);
+    }
+    if (failure) {
+        tell(tr("The report could not be written to \"%1\": %2.").arg(file, *failure));
+    }
+}
+
+void PreviewWindow::tell(const QString& text)
+{
+    m_host.tellFailure(this, text);
+}
+
+void PreviewWindow::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    const bool canPrint = m_hasPrinter();
+    m_print->setEnabled(canPrint);
+    m_print->setToolTip(canPrint ? QString() : tr("No printer is set up on this computer."));
+}
+
+void PreviewWindow::closeEvent(QCloseEvent* event)
+{
+    event->accept();
+    m_host.windowClosed();
+}

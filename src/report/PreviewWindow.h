@@ -1,0 +1,74 @@
+#pragma once
+
+#include "report/ReportLayout.h"
+#include "report/ReportWindow.h"
+
+#include <QPageLayout>
+#include <QPrinter>
+#include <QWidget>
+#include <functional>
+#include <optional>
+
+class QBoxLayout;
+class QComboBox;
+class QPrintPreviewWidget;
+class QPushButton;
+class QSpinBox;
+
+/// The preview of a report, one page at a time: only the page in view is painted, however long the report is.
+class PreviewWindow final : public QWidget, public ReportWindow
+{
+    Q_OBJECT
+
+public:
+    /// `hasPrinter` answers whether there is a printer to print on; it is asked whenever the window appears.
+    PreviewWindow(ReportHost& host, std::function<bool()> hasPrinter);
+
+    QWidget* widget() override { return this; }
+    void setContent(ReportContent content) override;
+
+    int pageCount() const;
+    /// The page in view, from 0.
+    int page() const { return m_page; }
+    void goToPage(int page);
+    QPageLayout pageLayout() const { return m_printer.pageLayout(); }
+    /// Exports the report as it is in view; failures are told to the user.
+    void exportTo(const QString& file);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void btnPrint_Click();
+    void btnExport_Click();
+    void pageFormat_Click();
+    void cmbZoom_Click(int index);
+    void zoomBy(int step);
+    void scrollOrTurn(int direction);
+    QBoxLayout* makeCommandRow();
+    QBoxLayout* makePageRow();
+    void makeShortcuts();
+    void layOut();
+    void showPage();
+    void showZoom();
+    void tell(const QString& text);
+
+    ReportHost& m_host;
+    std::function<bool()> m_hasPrinter;
+    ReportContent m_content;
+    QPrinter m_printer; ///< for the preview alone: it writes no file and needs no printer
+    std::unique_ptr<ReportLayout> m_layout;
+    int m_page = 0;
+    QPrintPreviewWidget* m_preview;
+    QPushButton* m_print;
+    QPushButton* m_export;
+    QComboBox* m_paper;
+    QComboBox* m_orientation;
+    QComboBox* m_zoom;
+    QSpinBox* m_pageNumber;
+    QPushButton* m_first;
+    QPushButton* m_previous;
+    QPushButton* m_next;
+    QPushButton* m_last;
+};

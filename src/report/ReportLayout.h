@@ -1,0 +1,66 @@
+#pragma once
+
+#include "report/RecordText.h"
+#include "report/ReportWindow.h"
+
+#include <QSizeF>
+#include <map>
+
+/// A report laid out for one size of page: where its pages start, and how each of them is painted. A record
+/// is kept whole on a page; one that is taller than a page begins on a page of its own and is split between
+/// lines.
+class ReportLayout
+{
+public:
+    /// `content` outlives the layout and does not change. `page` is the printable area, in units.
+    ReportLayout(const ReportContent& content, QSizeF page);
+    ~ReportLayout();
+
+    int pageCount() const { return static_cast<int>(m_pages.size()); }
+    /// The number of the first record that stands on that page; pages count from 0.
+    std::size_t firstRecord(int page) const { return m_pages[static_cast<std::size_t>(page)].record; }
+    /// The page on which that record begins.
+    int pageOf(std::size_t record) const;
+    /// Paints a page whose printable area begins at the painter's origin, one unit a length of 1.
+    void paintPage(QPainter& painter, int page) const;
+
+private:
+    struct PageStart {
+        std::size_t record;
+        std::size_t band; ///< of the record: a strip that is not split
+    };
+    /// Where one of the short values of a record stands.
+    struct CodePlace {
+        qreal label; ///< the left edge of its label
+        qreal value; ///< the left edge of the value
+        qreal width; ///< what the value has
+    };
+    struct LaidRecord;
+
+    QString captionOf(const QString& control) const;
+    const QString& value(std::size_t record, const QString& control) const;
+    CodePlace placeOf(std::size_t code) const;
+    /// Whether the short values all fit beside each other.
+    bool hasRoomSideBySide() const;
+    /// Heights of the bands of a record, from its top to its line.
+    void measure(std::size_t record, std::vector<qreal>& bands) const;
+    void findPageStarts();
+    const LaidRecord& laidRecord(std::size_t record) const;
+    std::unique_ptr<LaidRecord> layOut(std::size_t record) const;
+    void paintHeader(QPainter& painter) const;
+
+    const ReportContent& m_content;
+    QSizeF m_page;
+    TextStyle m_label;
+    TextStyle m_text;
+    TextStyle m_name;
+    TextStyle m_title;
+    TextStyle m_subtitle;
+    std::map<QString, std::size_t> m_columns;
+    std::map<QString, QString> m_captions;
+    qreal m_labelWidth = 0;
+    bool m_stacked = false; ///< the short values stand below each other
+    std::vector<PageStart> m_pages;
+    /// The record that was laid out last: one that goes on for pages is laid out once.
+    mutable std::unique_ptr<LaidRecord> m_laid;
+};

@@ -1,0 +1,302 @@
+#include "report/PreviewWindow.h"
+#include "support/TestMain.h"
+#include "tests/report/ReportSamples.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QLabel>
+#include <QPrintPreviewWidget>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QSet>
+#include <QSpinBox>
+#include <QTemporaryDir>
+
+namespace
+{
+
+class RecordedHost final : public ReportHost
+{
+public:
+    QString choosePdfFile(QWidget*) override { return file; }
+    void tellFailure(QWidget*, const QString& text) override { failures.append(text); }
+    void windowClosed() override { ++closed; }
+
+    QString file;
+    QStringList failures;
+    int closed = 0;
+};
+
+struct Fixture {
+    explicit Fixture(int records, bool hasPrinter = false) : window(host, [hasPrinter] { return hasPrinter; })
+    {
+        window.setContent(contentOf(recordsOf(records)));
+        window.show();
+        if (!QTest::qWaitForWindowExposed(&window)) {
+            QTest::qFail("the window did not appear", __FILE__, __LINE__);
+        }
+    }
+    template <typename Control> Control* control(const char* name)
+    {
+        return window.findChild<Control*>(QLatin1String(name));
+    }
+    void press(const char* name) { QTest::mouseClick(control<QPushButton>(name), Qt::LeftButton); }
+    void choose(const char* name, int index)
+    {
+        auto* combo = control<QComboBox>(name);
+        combo->setCurrentIndex(index);
+        emit combo->activated(index);
+    }
+    QString pageText() { return control<QSpinBox>("spnPage")->text(); }
+    QPrintPreviewWidget* preview() { return control<QPrintPreviewWidget>("prvReport"); }
+    /// A picture of what the preview shows.
+    QImage picture()
+    {
+        QCoreApplication::processEvents();
+        return preview()->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    }
+
+    RecordedHost host;
+    PreviewWindow window;
+};
+
+} // namespace
+
+class PreviewWindowTest : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void theWindowIsAResizableOneNamedAfterTheReport()
+    {
+        Fixture f(1);
+        QCOMPARE(f.window.objectName(), QStringLiteral("drTasks"));
+        QCOMPARE(f.window.windowTitle(), QStringLiteral("Tasks Report"));
+        QVERIFY(f.window.isWindow());
+        QVERIFY(!f.window.isModal());
+        QVERIFY(f.window.minimumSize() != f.window.maximumSize());
+    }
+
+    void pagesAreTurnedAndTheBarSaysWhichIsInView()
+    {
+        Fixture f(60);
+        const int count = f.window.pageCount();
+        QVERIFY(count > 3);
+        QCOMPARE(f.pageText(), QStringLiteral("1 of %1").arg(count));
+        QVERIFY(!f.control<QPushButton>("btnPreviousPage")->isEnabled());
+        const QImage first = f.picture();
+        f.press("btnNextPage");
+        QCOMPARE(f.pageText(), QStringLiteral("2 of %1").arg(count));
+        QVERIFY(f.picture() != first);
+        f.press("btnLastPage");
+        QCOMPARE(f.pageText(), QStringLiteral("%1 of %1").arg(count));
+        QVERIFY(!f.control<QPushButton>("btnNextPage")->isEnabled());
+        f.press("btnPreviousPage");
+        QCOMPARE(f.window.page(), count - 2);
+        f.press("btnFirstPage");
+        QCOMPARE(f.window.page(), 0);
+        QCOMPARE(f.picture(), first);
+    }
+
+    void aPageIsReachedByItsNumber()
+    {
+        Fixture f(60);
+        auto* number = f.control<QSpinBox>("spnPage");
+        number->setFocus();
+        number->selectAll();
+        QTest::keyClicks(number, QStringLiteral("3"));
+        QTest::keyClick(number, Qt::Key_Return);
+        QCOMPARE(f.window.page(), 2);
+        QCOMPARE(number->accessibleName(), QStringLiteral("Page 3 of %1").arg(f.window.pageCount()));
+    }
+
+    void theKeyboardTurnsPages()
+    {
+        Fixture f(60);
+        f.window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&f.window));
+        f.preview()->setFocus();
+        QTest::keyClick(&f.window, Qt::Key_PageDown);
+        QCOMPARE(f.window.page(), 1);
+        QTest::keyClick(&f.window, Qt::Key_PageUp);
+        QCOMPARE(f.window.page(), 0);
+        QTest::keyClick(&f.window, Qt::Key_End, Qt::ControlModifier);
+        QCOMPARE(f.window.page(), f.window.pageCount() - 1);
+        QTest::keyClick(&f.window, Qt::Key_Home, Qt::ControlModifier);
+        QCOMPARE(f.window.page(), 0);
+        QTest::keyClick(&f.window, Qt::Key_N, Qt::AltModifier);
+        QTRY_COMPARE(f.window.page(), 1);
+    }
+
+    void aZoomedPageIsScrolledBeforeItIsTurned()
+    {
+        Fixture f(60);
+        f.window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&f.window));
+        f.choose("cmbZoom", f.control<QComboBox>("cmbZoom")->findText(QStringLiteral("300 %")));
+        QTest::keyClick(&f.window, Qt::Key_PageDown);
+        QCOMPARE(f.window.page(), 0);
+        for (int i = 0; i < 20 && f.window.page() == 0; ++i) {
+            QTest::keyClick(&f.window, Qt::Key_PageDown);
+        }
+        QCOMPARE(f.window.page(), 1);
+    }
+
+    void zoomingShowsItsPercentage()
+    {
+        Fixture f(1);
+        auto* zoom = f.control<QComboBox>("cmbZoom");
+        QCOMPARE(zoom->currentText(), QStringLiteral("Whole page"));
+        f.choose("cmbZoom", zoom->findText(QStringLiteral("100 %")));
+        QCOMPARE(f.preview()->zoomFactor(), 1.0);
+        f.press("btnZoomIn");
+        QCOMPARE(zoom->currentText(), QStringLiteral("125 %"));
+        f.press("btnZoomOut");
+        f.press("btnZoomOut");
+        QCOMPARE(zoom->currentText(), QStringLiteral("75 %"));
+        f.choose("cmbZoom", 1);
+        QCOMPARE(f.preview()->zoomMode(), QPrintPreviewWidget::FitToWidth);
+        for (int i = 0; i < 20; ++i) {
+            f.press("btnZoomOut");
+        }
+        QCOMPARE(zoom->currentText(), QStringLiteral("25 %"));
+    }
+
+    void paperAndOrientationLayThePagesOutAnew()
+    {
+        Fixture f(60);
+        f.choose("cmbPaper", f.control<QComboBox>("cmbPaper")->findData(QPageSize::A4));
+        const int count = f.window.pageCount();
+        f.choose("cmbPaper", f.control<QComboBox>("cmbPaper")->findData(QPageSize::A5));
+        QCOMPARE(f.window.pageLayout().pageSize().id(), QPageSize::A5);
+        QVERIFY(f.window.pageCount() > count);
+        f.choose("cmbPaper", f.control<QComboBox>("cmbPaper")->findData(QPageSize::A3));
+        QVERIFY(f.window.pageCount() < count);
+        f.choose("cmbOrientation", 1);
+        QCOMPARE(f.window.pageLayout().orientation(), QPageLayout::Landscape);
+        QCOMPARE(f.pageText(), QStringLiteral("1 of %1").arg(f.window.pageCount()));
+    }
+
+    void whatIsInViewStaysInViewOnAnotherPaper()
+    {
+        Fixture f(200);
+        f.window.goToPage(f.window.pageCount() - 1);
+        f.choose("cmbPaper", f.control<QComboBox>("cmbPaper")->findData(QPageSize::A5));
+        QVERIFY(f.window.page() > f.window.pageCount() * 3 / 4);
+    }
+
+    void withoutAPrinterPrintingIsOffAndSaysWhy()
+    {
+        Fixture f(1, false);
+        QVERIFY(!f.control<QPushButton>("btnPrint")->isEnabled());
+        QCOMPARE(f.control<QPushButton>("btnPrint")->toolTip(),
+            QStringLiteral("No printer is set up on this computer."));
+        QVERIFY(f.control<QPushButton>("btnExport")->isEnabled());
+    }
+
+    void withAPrinterPrintingIsOn()
+    {
+        Fixture f(1, true);
+        QVERIFY(f.control<QPushButton>("btnPrint")->isEnabled());
+        QVERIFY(f.control<QPushButton>("btnPrint")->toolTip().isEmpty());
+    }
+
+    void thePdfHoldsAllPages()
+    {
+        Fixture f(60);
+        const QTemporaryDir folder;
+        f.host.file = folder.filePath(QStringLiteral("out.pdf"));
+        f.press("btnExport");
+        QCOMPARE(f.host.failures, QStringList());
+        const QStringList pages = pagesOfPdf(f.host.file);
+        QCOMPARE(pages.size(), f.window.pageCount());
+        QVERIFY(pages.last().contains(QStringLiteral("record 60.")));
+    }
+
+    void aCancelledExportWritesNothing()
+    {
+        Fixture f(1);
+        f.press("btnExport");
+        QCOMPARE(f.host.failures, QStringList());
+    }
+
+    void anUnwritablePathIsReportedAndLeavesNoHalfFile()
+    {
+        Fixture f(1);
+        const QTemporaryDir folder;
+        f.host.file = folder.filePath(QStringLiteral("missing/out.pdf"));
+        f.press("btnExport");
+        QCOMPARE(f.host.failures.size(), 1);
+        QVERIFY(f.host.failures[0].startsWith(
+            QStringLiteral("The report could not be written to \"%1\": ").arg(f.host.file)));
+        QVERIFY(QDir(folder.path()).isEmpty());
+    }
+
+    void aFolderInPlaceOfTheFileIsReported()
+    {
+        Fixture f(1);
+        const QTemporaryDir folder;
+        f.host.file = folder.path();
+        f.press("btnExport");
+        QCOMPARE(f.host.failures.size(), 1);
+        QVERIFY(QDir(folder.path()).isEmpty());
+    }
+
+    void aFurtherContentReplacesTheFirstAndTurnsToItsFirstPage()
+    {
+        Fixture f(60);
+        f.window.goToPage(2);
+        const QImage before = f.picture();
+        f.window.setContent(contentOf(recordsOf(2)));
+        QCOMPARE(f.pageText(), QStringLiteral("1 of 1"));
+        QVERIFY(f.picture() != before);
+    }
+
+    void thePaperIsWhiteInADarkSkin()
+    {
+        const QPalette usual = QApplication::palette();
+        QPalette dark(QColor(0x20, 0x24, 0x2c));
+        QApplication::setPalette(dark);
+        {
+            Fixture f(1);
+            const QImage picture = f.picture();
+            QCOMPARE(picture.pixelColor(picture.rect().center()), QColor(Qt::white));
+        }
+        QApplication::setPalette(usual);
+    }
+
+    void closingTellsTheHost()
+    {
+        Fixture f(1);
+        f.window.close();
+        QCOMPARE(f.host.closed, 1);
+        QVERIFY(!f.window.isVisible());
+    }
+
+    void everyControlIsReachedByTabAndByAMnemonicOfItsOwn()
+    {
+        Fixture f(60, true);
+        QSet<QChar> mnemonics;
+        QStringList captions;
+        for (const auto* button : f.window.findChildren<QPushButton*>()) {
+            captions.append(button->text());
+            QVERIFY(button->focusPolicy() & Qt::TabFocus);
+        }
+        for (const auto* label : f.window.findChildren<QLabel*>()) {
+            QVERIFY(label->buddy() != nullptr);
+            QVERIFY(label->buddy()->focusPolicy() & Qt::TabFocus);
+            captions.append(label->text());
+        }
+        for (const QString& caption : captions) {
+            const qsizetype mark = caption.indexOf(u'&');
+            QVERIFY2(mark >= 0, qPrintable(caption));
+            mnemonics.insert(caption[mark + 1].toLower());
+        }
+        QCOMPARE(mnemonics.size(), captions.size());
+        QCOMPARE(captions.size(), 12);
+    }
+};
+
+AMBERTASK_TEST_MAIN(PreviewWindowTest)
+#include "tst_preview_window.moc"

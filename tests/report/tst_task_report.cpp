@@ -1,0 +1,325 @@
+#include "app/drTasks.h"
+#include "platform/WindowPlacement.h"
+#include "report/PreviewWindow.h"
+#include "support/CaughtError.h"
+#include "support/TestMain.h"
+#include "support/TestServices.h"
+#include "tests/report/ReportSamples.h"
+
+#include <QLibrary>
+#include <QPushButton>
+#include <QTemporaryDir>
+
+using namespace std::chrono_literals;
+
+/// The report over a data file, in its real window.
+class TaskReportTest : public TestCase
+{
+    Q_OBJECT
+
+private:
+    struct Fixture {
+        Fixture()
+            : report(services.services, [this](ReportHost& host) {
+                  auto made = std::make_unique<PreviewWindow>(host, [] { return false; });
+                  window = made.get();
+                  return made;
+              })
+        {
+        }
+        void print(const TaskFilter& filter = {}) { report.printTasks(filter, &owner); }
+        /// The text of the report that is in view.
+        QString text()
+        {
+            const QTemporaryDir folder;
+            const QString file = folder.filePath(QStringLiteral("report.pdf"));
+            window->exportTo(file);
+            return pagesOfPdf(file).join(QString());
+        }
+        int openConnections()
+        {
+            return services.database.statements().opened() - services.database.statements().closed();
+        }
+
+        TestServices services;
+        QWidget owner;
+        PreviewWindow* window = nullptr;
+        drTasks report;
+    };
+
+private slots:
+    void theReportShowsTheTasksOfTheFilter()
+    {
+        Fixture f;
+        aTask(f.services.database).named(QStringLiteral("done")).withStatus(TaskStatus::Completed).add();
+        aTask(f.services.database).named(QStringLiteral("waiting")).withStatus(TaskStatus::Waiting).add();
+        TaskFilter filter;
+        filter.status = TaskStatus::Waiting;
+        f.print(filter);
+        QVERIFY(f.window->isVisible());
+        QCOMPARE(f.window->windowTitle(), QStringLiteral("Tasks Report"));
+        const QString text = f.text();
+        QVERIFY(text.contains(QStringLiteral("waiting")));
+        QVERIFY(text.contains(QStringLiteral("Waiting on someone else")));
+        QVERIFY(!text.contains(QStringLiteral("done")));
+        QVERIFY(text.contains(QStringLiteral("https://www.ambertask.example")));
+    }
+
+    void aTaskWithPeriority7PrintsLow()
+    {
+        Fixture f;
+        aTask(f.services.database).withPeriority(7).add();
+        f.print();
+        QVERIFY(f.text().contains(QRegularExpression(QStringLiteral("Periority +Low\\b"))));
+    }
+
+    void aTaskWithStatus9Prints9()
+    {
+        Fixture f;
+        aTask(f.services.database).withStatus(9).add();
+        f.print();
+        QVERIFY(f.text().contains(QRegularExpression(QStringLiteral("Status +9\\b"))));
+    }
+
+    void everyCodeHasItsWord_data()
+    {
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<QString>("periority");
+        QTest::addColumn<QString>("status");
+        QTest::newRow("0") << "0"
+                           << "High"
+                           << "Not Started";
+        QTest::newRow("1") << "1"
+                           << "Normal"
+                           << "In Progress";
+        QTest::newRow("2") << "2"
+                           << "Low"
+                           << "Completed";
+        QTest::newRow("3") << "3"
+                           << "Low"
+                           << "Waiting on someone else";
+        QTest::newRow("4") << "4"
+                           << "Low"
+                           << "Deferred";
+        QTest::newRow("5") << "5"
+                           << "Low"
+                           << "5";
+        QTest::newRow("-1") << "-1"
+                            << "Low"
+                            << "-1";
+    }
+
+    void everyCodeHasItsWord()
+    {
+        QFETCH(QString, value);
+        QFETCH(QString, periority);
+        QFETCH(QString, status);
+        QString text = value;
+        periorityFormat_Format(text);
+        QCOMPARE(text, periority);
+        text = value;
+        statusFormat_Format(text);
+        QCOMPARE(text, status);
+    }
+
+    void theDueDateIsDayMonthYearWhateverTheLocale()
+    {
+        Fixture f;
+        aTask(f.services.database).dueAt(makeMoment(2026y / 2 / 3, 23h + 59min)).add();
+        f.print();
+        QVERIFY(f.text().contains(QRegularExpression(QStringLiteral("Due date +03/02/2026\\s"))));
+    }
+
+    void anEmptySelectionIsAReportWithoutDetails()
+    {
+        Fixture f;
+        f.print();
+        QVERIFY(f.window->isVisible());
+        const QString text = f.text();
+        QVERIFY(text.contains(QStringLiteral("Amber Organizer")));
+        QVERIFY(!text.contains(QStringLiteral("Category")));
+    }
+
+    void eachRunBindsTheFieldsToTheirColumns()
+    {
+        Fixture f;
+        f.print();
+        QMap<QString, QString> bindings;
+        QStringList names;
+        for (const ReportSection& section : f.report.sections()) {
+            names.append(section.name);
+            for (const ReportControl& control : section.controls) {
+                if (!control.dataField.isEmpty()) {
+                    QCOMPARE(section.name, QStringLiteral("cmdTasks_Detail"));
+                    bindings[control.name] = control.dataField;
+                }
+            }
+        }
+        QCOMPARE(names,
+            (QStringList{QStringLiteral("ReportHeader"), QStringLiteral("PageHeader"),
+                QStringLiteral("cmdTasks_Detail"), QStringLiteral("PageFooter"),
+                QStringLiteral("ReportFooter")}));
+        QCOMPARE(bindings,
+            (QMap<QString, QString>{{QStringLiteral("txtCatName"), QStringLiteral("cat_name")},
+                {QStringLiteral("txtTaskName"), QStringLiteral("task_name")},
+                {QStringLiteral("txtTaskPeriority"), QStringLiteral("task_periority")},
+                {QStringLiteral("txtTaskStatus"), QStringLiteral("task_status")},
+                {QStringLiteral("txtTaskDueDate"), QStringLiteral("task_due_date")},
+                {QStringLiteral("txtTaskDesc"), QStringLiteral("task_desc")}}));
+    }
+
+    void closingTheWindowClosesItsConnection()
+    {
+        Fixture f;
+        aTask(f.services.database).add();
+        f.print();
+        QCOMPARE(f.openConnections(), 1);
+        QVERIFY(f.report.holdsConnection());
+        f.window->close();
+        QCOMPARE(f.openConnections(), 0);
+        QVERIFY(!f.report.holdsConnection());
+    }
+
+    void anOpenReportHoldsNoLock()
+    {
+        Fixture f;
+        aTask(f.services.database).add();
+        f.print();
+        f.services.database.sql(QStringLiteral("begin exclusive; delete from tasks; commit"));
+        QVERIFY(
+            ClsTask(f.services.database.engine())
+                .GetTasks(CategoryFilter::All, TaskStatus::All, TaskSort::None, false, {}, {}, TaskType::All)
+                .empty());
+    }
+
+    void aSecondRunShowsItsTasksInTheSameWindowAndClosesTheFirstConnection()
+    {
+        Fixture f;
+        aTask(f.services.database).named(QStringLiteral("first task")).add();
+        f.print();
+        const QWidget* window = f.report.window();
+        f.services.database.sql(QStringLiteral("update tasks set task_name='second task'"));
+        f.print();
+        QCOMPARE(f.report.window(), window);
+        QCOMPARE(f.openConnections(), 1);
+        QVERIFY(f.services.database.statements().closed() >= 1);
+        const QString text = f.text();
+        QVERIFY(text.contains(QStringLiteral("second task")));
+        QVERIFY(!text.contains(QStringLiteral("first task")));
+        f.window->close();
+        QCOMPARE(f.openConnections(), 0);
+    }
+
+    void aClosedReportIsShownAgain()
+    {
+        Fixture f;
+        f.print();
+        f.window->close();
+        f.print();
+        QVERIFY(f.window->isVisible());
+        QCOMPARE(f.openConnections(), 1);
+    }
+
+    void aFailedQueryLeavesTheOpenReportAndNoConnection()
+    {
+        Fixture f;
+        aTask(f.services.database).named(QStringLiteral("still here")).add();
+        f.print();
+        f.services.database.sql(QStringLiteral("update tasks set task_due_date='nonsense'"));
+        QVERIFY(caught([&] { f.print(); }).has_value());
+        QCOMPARE(f.openConnections(), 1);
+        QVERIFY(f.text().contains(QStringLiteral("still here")));
+    }
+
+    void theWindowIsMadeTopmostBeforeItShows()
+    {
+        Fixture f;
+        f.services.alwaysOnTop = true;
+        f.print();
+        QVERIFY(isTopmost(f.window));
+    }
+
+    void withoutTheSettingTheWindowIsAnOrdinaryOne()
+    {
+        Fixture f;
+        f.print();
+        QVERIFY(!isTopmost(f.window));
+    }
+
+    void theExportAsksForAFileAndTheCheckerWaits()
+    {
+        Fixture f;
+        aTask(f.services.database).named(QStringLiteral("exported")).add();
+        f.print();
+        const QTemporaryDir folder;
+        const QString file = folder.filePath(QStringLiteral("mine.pdf"));
+        f.services.dialogs.expectSave(file, [&](const FileDialogRequest& request) {
+            QVERIFY(!f.services.checkerTimer.enabled);
+            QCOMPARE(request.fileName, QStringLiteral("Tasks Report.pdf"));
+            QCOMPARE(request.filter, QStringLiteral("PDF Files (*.pdf)|*.pdf"));
+            QVERIFY(request.promptBeforeOverwriting);
+        });
+        QTest::mouseClick(f.window->findChild<QPushButton*>(QStringLiteral("btnExport")), Qt::LeftButton);
+        QVERIFY(f.services.checkerTimer.enabled);
+        QVERIFY(pagesOfPdf(file).value(0).contains(QStringLiteral("exported")));
+    }
+
+    void aNameWithoutAnEndingGetsItAndIsAskedAbout()
+    {
+        Fixture f;
+        f.print();
+        const QTemporaryDir folder;
+        const QString file = folder.filePath(QStringLiteral("mine"));
+        auto* button = f.window->findChild<QPushButton*>(QStringLiteral("btnExport"));
+        f.services.dialogs.expectSave(file);
+        QTest::mouseClick(button, Qt::LeftButton);
+        QVERIFY(QFile::exists(file + QStringLiteral(".pdf")));
+        QVERIFY(!QFile::exists(file));
+        f.services.dialogs.expectSave(file);
+        f.services.dialogs.expectAsk(
+            QStringLiteral("\"%1.pdf\" already exists. Do you want to replace it?").arg(file), false);
+        QTest::mouseClick(button, Qt::LeftButton);
+    }
+
+    void anUnwritablePathIsToldByAMessage()
+    {
+        Fixture f;
+        f.print();
+        const QString file = QStringLiteral("/nowhere/at/all.pdf");
+        f.services.dialogs.expectSave(file);
+        f.services.dialogs.expectTell(MessageBoxes::Icon::Exclamation,
+            QStringLiteral("The report could not be written to \"%1\": No such file or directory.")
+                .arg(file));
+        QTest::mouseClick(f.window->findChild<QPushButton*>(QStringLiteral("btnExport")), Qt::LeftButton);
+    }
+
+    void aMissingModuleIsAnErrorThatNamesIt()
+    {
+        TestServices services;
+        QWidget owner;
+        drTasks report(services.services, [](ReportHost&) { return nullptr; });
+        const auto error = caught<RuntimeError>([&] { report.printTasks({}, &owner); });
+        QVERIFY(error.has_value());
+        QVERIFY(error->text().contains(QStringLiteral("ambertask_report")));
+        QCOMPARE(services.database.statements().opened(), services.database.statements().closed());
+    }
+
+    void theModuleMakesTheWindow()
+    {
+        TestServices services;
+        aTask(services.database).add();
+        QLibrary module(QStringLiteral(AMBERTASK_REPORT_MODULE));
+        using Make = ReportWindow* (*)(ReportHost&);
+        const auto make = reinterpret_cast<Make>(module.resolve("ambertaskMakeReportWindow"));
+        QVERIFY2(make != nullptr, qPrintable(module.errorString()));
+        QWidget owner;
+        drTasks report(services.services,
+            [make](ReportHost& host) { return std::unique_ptr<ReportWindow>(make(host)); });
+        report.printTasks({}, &owner);
+        QCOMPARE(report.window()->objectName(), QStringLiteral("drTasks"));
+        QVERIFY(QTest::qWaitForWindowExposed(report.window()));
+    }
+};
+
+AMBERTASK_TEST_MAIN(TaskReportTest)
+#include "tst_task_report.moc"
