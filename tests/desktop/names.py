@@ -22,6 +22,32 @@ NO = ("button", "No")
 SAVE_SETTINGS = ("button", "Save Settings")
 ON_TOP = ("check box", "Always on top")
 SHOW_BALLOON = ("check box", "Show tray balloon when closed")
+SHOW_GRID = ("check box", "Show grid")
+START_WITH_SESSION = ("check box", "Start with windows")
+STATUS_COLUMN = ("check box", "Task status")
+DUE_DATE_COLUMN = ("check box", "Task due date")
+PRIORITY_COLUMN = ("check box", "Task priority")
+REMINDER_COLUMN = ("check box", "Task reminder")
+SKIN = ("combo box", "Current skin")
+ADD_SKIN = ("button", "Browse", "Add new skin")
+
+CATEGORY_LIST = ("list", "Categories")
+ADD_CATEGORY = ("button", "Add a category")
+EDIT_CATEGORY = ("button", "Edit the selected category")
+DELETE_CATEGORY = ("button", "Delete the selected category")
+CATEGORY_NAME = ("text box", "Category")
+CATEGORY_DESCRIPTION = ("text box", "Description")
+CUSTOM_ICON = ("option", "Custom Icon")
+BROWSE_ICON = ("button", "Browse for a custom icon")
+
+FILTER_CATEGORY = ("combo box", "Category")
+BACKUP = ("button", "Backup")
+RESTORE = ("button", "Restore")
+OPEN_FILE = "Open"
+SAVE_FILE = "Save As"
+FILE_NAME = ("text box", "File name")
+# A control that only this page shows.
+PAGES = {"Tasks": ("grid", "Tasks"), "Categories": CATEGORY_LIST, "Settings": SAVE_SETTINGS, "Maintenance": BACKUP}
 
 TASK_NAME = ("text box", "Task", "Task name", "Name")
 TASK_DESCRIPTION = ("text box", "Description")
@@ -43,7 +69,24 @@ LATER_TIME = ("picker", "Time", "Reminder time", "New time", "New reminder time"
 TOO_EARLY = "Reminder date and time should not be earlier than current system date and time"
 DELETE_QUESTION = "Are you sure you want to delete this task?"
 NO_CATEGORY = "Please select category."
+NO_CATEGORY_NAME = "Please enter category name."
+CATEGORY_EXISTS = "A category with the same name already exists"
+NO_TASKS = "There is no tasks according to the selected criteria!"
+SKIN_ADDED = "The new skin is now available in the skins list."
 
 
 def alert_title(count):
     return f"{count} Reminder" if count == 1 else f"{count} Reminders"
+
+
+def icon(index):
+    """The built-in category icon of that stored number."""
+    return "option", f"Icon {index + 1} of 12"
+
+
+def delete_category_question(name):
+    return f"Are you sure you want to delete '{name}' category, all tasks under this category will be deleted?"
+
+
+def delete_tasks_question(count):
+    return f"Are you sure you want to delete {count} tasks?"

@@ -72,14 +72,14 @@ class User:
     def click_control(self, window, control):
         self.click(window.find(*control))
 
-    def check(self, window, control):
+    def check(self, window, control, checked=True):
         box = window.find(*control)
         wait_until(lambda: box.has("enabled"), f"{box!r} can be checked")
-        if not box.checked:
+        if box.checked != checked:
             # The indicator lies at the left end; the middle of a stretched box is empty space.
             x, y, _, height = box.place()
             self.desk.input.click(x + 8, y + height // 2)
-        wait_until(lambda: box.checked, f"{box!r} is checked")
+        wait_until(lambda: box.checked == checked, f"{box!r} is {'checked' if checked else 'unchecked'}")
 
     def type_into(self, window, control, text):
         box = window.find(*control)
@@ -120,6 +120,46 @@ class User:
             before = shown()
             self.desk.input.key("Up" if before < wanted else "Down")
             wait_until(lambda value=before: shown() != value, f"{picker!r} follows the key")
+
+    def entries(self, window, control):
+        """The entries of a combo box, open or not."""
+        return [entry.name for entry in window.find(*control).children()[0].children()]
+
+    def open_page(self, page):
+        """Brings a page of the main window to the front; returns the window."""
+        window = self.main()
+        self.click(window.find("page", page))
+        window.find(*names.PAGES[page])
+        return window
+
+    # Boxes and file dialogs -------------------------------------------------------------------------------
+
+    def answer(self, text, control, title=names.MAIN):
+        """Answers the message box that says `text`."""
+        box = self.access.message_box(text, title)
+        self.click_control(box, control)
+        wait_until(lambda: box not in self.access.windows(), f"the box '{text}' closes")
+
+    def file_dialog(self, title):
+        """The tool kit's own file dialog, once it can be typed into."""
+        self.wait_active(title)
+        return self.access.window(title)
+
+    def choose_file(self, title, path):
+        """Types a path into the file dialog and confirms it."""
+        self.type_into(self.file_dialog(title), names.FILE_NAME, path)
+        self.desk.input.key("Return")
+        self.wait_hidden(title)
+        self.wait_answering()
+
+    def cancel_file(self, title):
+        self.click_control(self.file_dialog(title), names.CANCEL)
+        self.wait_hidden(title)
+        self.wait_answering()
+
+    def wait_answering(self):
+        """Returns once the program reads its messages again: what followed a closed dialog is then done."""
+        wait_until(lambda: self.access.application() is not None and self.main().name, "the program answers")
 
     # Grids ------------------------------------------------------------------------------------------------
 
