@@ -1,0 +1,85 @@
+#include "tests/app/DrawnWindow.h"
+
+#include <QHash>
+#include <QWidget>
+#include <cmath>
+
+namespace
+{
+
+constexpr int Zoom = 3;
+constexpr int Speck = 2 * Zoom * Zoom;
+
+double luminance(QRgb color)
+{
+    const auto linear = [](int part) {
+        const double share = part / 255.0;
+        return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(qRed(color)) + 0.7152 * linear(qGreen(color)) + 0.0722 * linear(qBlue(color));
+}
+
+double contrast(QRgb left, QRgb right)
+{
+    const double a = luminance(left);
+    const double b = luminance(right);
+    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+}
+
+/// How often each colour occurs.
+QHash<QRgb, int> colorsIn(const QImage& picture, const QRect& area)
+{
+    QHash<QRgb, int> counts;
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        const auto* line = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
+        // Most neighbours are alike: one look-up a run.
+        for (int x = area.left(); x <= area.right();) {
+            int end = x + 1;
+            while (end <= area.right() && line[end] == line[x]) {
+                ++end;
+            }
+            counts[line[x]] += end - x;
+            x = end;
+        }
+    }
+    return counts;
+}
+
+QRect visiblePart(const QWidget& control, const QRect& place)
+{
+    return control.visibleRegion().boundingRect() & place;
+}
+
+} // namespace
+
+DrawnWindow::DrawnWindow(QWidget& window)
+    : m_window(window), m_picture(window.size() * Zoom, QImage::Format_RGB32)
+{
+    m_picture.setDevicePixelRatio(Zoom);
+    m_picture.fill(window.palette().color(QPalette::Window));
+    window.render(&m_picture);
+}
+
+bool DrawnWindow::isInSight(const QWidget& control, const QRect& place) const
+{
+    const QRect seen = visiblePart(control, place);
+    return !seen.isEmpty() && seen.width() * seen.height() * 2 > place.width() * place.height();
+}
+
+double DrawnWindow::strongestContrast(const QWidget& control, const QRect& place) const
+{
+    const QRect seen = visiblePart(control, place);
+    const QRect area(control.mapTo(&m_window, seen.topLeft()) * Zoom, seen.size() * Zoom);
+    const QHash<QRgb, int> counts = colorsIn(m_picture, area & m_picture.rect());
+    QRgb ground = 0;
+    for (auto it = counts.cbegin(); it != counts.cend(); ++it) {
+        ground = it.value() > counts.value(ground) ? it.key() : ground;
+    }
+    double strongest = 1;
+    for (auto it = counts.cbegin(); it != counts.cend(); ++it) {
+        if (it.value() > Speck) {
+            strongest = std::max(strongest, contrast(it.key(), ground));
+        }
+    }
+    return strongest;
+}
