@@ -15,9 +15,11 @@ ICON_EDGE = 32
 
 
 class CategoriesCase(DesktopCase):
+    always_on_top = 0
+
     def setUp(self):
         super().setUp()
-        self.store.set(always_on_top=0, minimize_on_start=0, show_today_tasks=0)
+        self.store.set(always_on_top=self.always_on_top, minimize_on_start=0, show_today_tasks=0)
         self.prepare()
         self.user = self.start(self.desk.clock(NOW))
         self.user.wait_loaded()
@@ -260,6 +262,38 @@ class KeyboardTest(CategoriesCase):
             self.user.answer(names.delete_category_question(gone), names.YES)
             wait_until(lambda name=gone: name not in self.listed(), f"'{gone}' is gone")
             self.wait_selected(neighbour)
+
+
+class AlwaysOnTopTest(CategoriesCase):
+    always_on_top = 1
+
+    def test_the_dialog_its_file_dialog_and_its_message_open_above_one_another(self):
+        self.open_categories()
+        dialog = self.open_new()
+        window = self.user.window(names.CATEGORY_DIALOG)
+        wait_until(lambda: window.topmost, "the dialog is topmost")
+        self.assertEqual(window.owner, self.user.window(names.MAIN))
+        self.wait_above(window, self.user.window(names.MAIN))
+        self.user.click_control(dialog, names.OK)
+        self.user.access.message_box(names.NO_CATEGORY_NAME)
+        box = wait_until(
+            lambda: next((client for client in self.desk.screen.clients() if client.owner == window), None),
+            "the message belongs to the dialog")
+        self.wait_above(box, window)
+        self.user.answer(names.NO_CATEGORY_NAME, names.OK)
+        self.user.click(dialog.find(*names.CUSTOM_ICON))
+        wait_until(lambda: dialog.find(*names.BROWSE_ICON).has("enabled"), "a picture can be chosen")
+        self.user.click_control(dialog, names.BROWSE_ICON)
+        self.wait_above(self.user.window(names.OPEN_FILE), window)
+        self.user.cancel_file(names.OPEN_FILE)
+        self.user.wait_active(names.CATEGORY_DIALOG)
+        self.desk.input.key("Escape")
+        self.user.wait_hidden(names.CATEGORY_DIALOG)
+        self.user.wait_active(names.MAIN)
+        wait_until(lambda: self.user.main().find(*names.CATEGORY_LIST).has("focused"), "the list has the focus")
+
+    def wait_above(self, upper, lower):
+        wait_until(lambda: self.desk.screen.is_above(upper, lower), f"{upper!r} is above {lower!r}")
 
 
 if __name__ == "__main__":

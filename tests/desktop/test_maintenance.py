@@ -14,11 +14,12 @@ ALL = TODAY + ["Tomorrow"]
 
 
 class MaintenanceCase(DesktopCase):
+    always_on_top = 0
     environment = None
 
     def setUp(self):
         super().setUp()
-        self.store.set(always_on_top=0, minimize_on_start=0, show_today_tasks=0)
+        self.store.set(always_on_top=self.always_on_top, minimize_on_start=0, show_today_tasks=0)
         self.store.add_task("Morning", "Work", due=datetime(2026, 3, 2, 9, 0))
         self.store.add_task("Afternoon", "Work", due=datetime(2026, 3, 2, 15, 0), task_periority=2)
         self.store.add_task("Midnight", "Personal", due=datetime(2026, 3, 2, 23, 59), task_status=1)
@@ -214,6 +215,31 @@ class RestoreTest(MaintenanceCase):
         self.assertEqual(self.data(), before)
         self.assertFalse(os.path.exists(self.previous))
         self.assertEqual(self.user.exit(), 0)
+
+
+class AlwaysOnTopTest(MaintenanceCase):
+    always_on_top = 1
+
+    def test_questions_and_file_dialogs_open_above_the_topmost_window(self):
+        main_window = self.open_maintenance()
+        for button, title in ((names.BACKUP, names.SAVE_FILE), (names.RESTORE, names.OPEN_FILE)):
+            self.user.click_control(main_window, button)
+            self.opens_above(self.user.window(title))
+            self.user.cancel_file(title)
+            self.user.wait_active(names.MAIN)
+        window = self.user.window(names.MAIN)
+        self.user.click_control(main_window, names.DELETE)
+        self.user.access.message_box(names.delete_tasks_question(3))
+        self.opens_above(wait_until(
+            lambda: next((client for client in self.desk.screen.clients() if client.owner == window), None),
+            "the question belongs to the window"))
+        self.user.answer(names.delete_tasks_question(3), names.NO)
+        self.wait_list(ALL)
+
+    def opens_above(self, upper):
+        window = next(client for client in self.desk.screen.clients() if client == upper.owner)
+        self.assertTrue(window.topmost)
+        wait_until(lambda: self.desk.screen.is_above(upper, window), f"{upper!r} is above its owner")
 
 
 if __name__ == "__main__":
