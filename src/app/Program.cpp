@@ -22,6 +22,7 @@
 #include "ui/clsGuiLoader.h"
 
 #include <QTimer>
+#include <utility>
 
 namespace
 {
@@ -59,17 +60,12 @@ void Program::start(const std::function<bool()>& noteFirstStart)
     m_helpViewer.SetHelpFile(pathIn(m_machine.engine.programFolder, QStringLiteral("Ambertask1.1.chm")));
     // A program that starts hidden, or whose window is never activated, has to remind all the same. A window
     // that is about to appear comes first: mapped later, it would cover the alert.
-    QTimer::singleShot(m_main->isShown() ? LongestWaitForThePaint : 0ms, this, &Program::loadDialogsGuarded);
-}
-
-void Program::loadDialogsGuarded()
-{
-    m_machine.errors.guard([this] { loadDialogs(); });
+    QTimer::singleShot(m_main->isShown() ? LongestWaitForThePaint : 0ms, this, &Program::loadDialogs);
 }
 
 void Program::onFirstPainted()
 {
-    loadDialogsGuarded();
+    loadDialogs();
     // Behind the loading of the dialogs: an open box is not to hold back the checker.
     const QStringList unreadable = m_main->categoriesPage()->takeUnreadablePictures();
     if (!unreadable.isEmpty()) {
@@ -96,7 +92,7 @@ void Program::loadMainWindow()
 
     ErrorReport& errors = m_machine.errors;
     connect(m_main.get(), &frmMain::firstPainted, this, &Program::onFirstPainted, Qt::QueuedConnection);
-    connectGuarded(m_main.get(), &frmMain::activated, this, &Program::loadDialogs, errors);
+    connect(m_main.get(), &frmMain::activated, this, &Program::loadDialogs);
     connect(m_main.get(), &frmMain::exitRequested, this, &Program::end);
     connectGuarded(
         pages.categories, &CategoriesPage::categoriesChanged, this, &Program::onCategoriesChanged, errors);
@@ -131,9 +127,14 @@ void Program::connectHelp(const MainWindowPages& pages)
 
 void Program::loadDialogs()
 {
-    taskDetails();
-    categoryDetails();
-    alerts();
+    // Once: a dialog that fails now is loaded by its first use.
+    if (std::exchange(m_dialogsLoaded, true)) {
+        return;
+    }
+    // The alert window has to be there even when a dialog cannot be loaded: without it nothing reminds.
+    m_machine.errors.guard([this] { taskDetails(); });
+    m_machine.errors.guard([this] { categoryDetails(); });
+    m_machine.errors.guard([this] { alerts(); });
 }
 
 frmTaskDetails& Program::taskDetails()
@@ -256,7 +257,7 @@ void Program::onTaskSaved()
 
 void Program::onTaskCancelled()
 {
-    if (m_main->isVisible()) {
+    if (m_main->isShown()) {
         m_main->tasksPage()->focusGrid();
     } else if (m_alerts != nullptr) {
         m_alerts->focusGrid();
@@ -354,7 +355,7 @@ void Program::setGridLines(bool shown)
 
 void Program::LoadTasks()
 {
-    m_main->LoadTasks();
+    m_main->refresh();
 }
 
 void Program::setCheckerEnabled(bool enabled)
@@ -366,6 +367,7 @@ void Program::setCheckerEnabled(bool enabled)
 
 void Program::end()
 {
+    m_ending = true;
     if (m_main != nullptr) {
         m_main->removeTrayIcon();
         m_main->setEnding();

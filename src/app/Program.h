@@ -59,6 +59,8 @@ public:
     void start(const std::function<bool()>& noteFirstStart);
     /// Removes the tray icon and asks to leave the event loop; open message boxes are cancelled by that.
     void end();
+    /// `end()` has been called.
+    bool isEnding() const { return m_ending; }
     /// Unloads the forms in their order. After `end()` and outside of every handler.
     void unload();
 
@@ -77,7 +79,6 @@ signals:
 
 private:
     void loadMainWindow();
-    void loadDialogsGuarded();
     void onFirstPainted();
 
     void connectHelp(const MainWindowPages& pages);
@@ -124,4 +125,6 @@ private:
     std::unique_ptr<frmAlerts> m_alerts;
     std::unique_ptr<frmAbout> m_about;
     std::unique_ptr<drTasks> m_report;
+    bool m_dialogsLoaded = false;
+    bool m_ending = false;
 };

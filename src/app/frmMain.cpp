@@ -119,6 +119,10 @@ void frmMain::Form_Load()
     m_pages.maintenance->prepareFilters();
     m_tabs->setCurrentIndex(TasksIndex);
     m_loaded = true;
+    // Filling the list of skins lets messages run, and one of them may have ended the program.
+    if (m_ending) {
+        return;
+    }
     m_trayIcon.add(windowIcon(), QStringLiteral("Ambertaks"), m_trayMenu);
     if (!m_settings.minimize_on_start) {
         if (m_settings.always_on_top) {

@@ -64,7 +64,8 @@ int runInstance(Application& application, const QString& programFolder)
         ScreenErrorReport::reportFailedStart(error.text());
         return 1;
     }
-    const int status = QCoreApplication::exec();
+    // A request to end the program may have come while it started; there was no event loop to leave yet.
+    const int status = program.isEnding() ? 0 : QCoreApplication::exec();
     program.unload();
     return status;
 }

@@ -153,6 +153,7 @@ void frmCategoryDetails::opnCustomIcon_Click()
 void frmCategoryDetails::btnBrowse_Click()
 {
     FileDialogRequest request;
+    request.name = QStringLiteral("cdIconBrowse");
     request.filter = tr("Image Files (*.gif;*.jpg;*.jpeg)|*.gif;*.jpg;*.jpeg");
     request.fileMustExist = true;
     QString path;

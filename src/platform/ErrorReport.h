@@ -40,13 +40,14 @@ template <typename Sender, typename Signal, typename Receiver, typename Handler>
 QMetaObject::Connection connectGuarded(
     const Sender* sender, Signal signal, Receiver* receiver, Handler handler, ErrorReport& errors)
 {
-    return QObject::connect(sender, signal, receiver, [receiver, handler, &errors](auto&&... arguments) {
-        errors.guard([&] {
-            if constexpr (std::is_invocable_v<Handler, Receiver*, decltype(arguments)...>) {
-                std::invoke(handler, receiver, arguments...);
-            } else {
-                std::invoke(handler, receiver);
-            }
+    return QObject::connect(
+        sender, signal, receiver, [receiver, handler, &errors](auto&&... arguments) -> void {
+            errors.guard([&] {
+                if constexpr (std::is_invocable_v<Handler, Receiver*, decltype(arguments)...>) {
+                    std::invoke(handler, receiver, arguments...);
+                } else {
+                    std::invoke(handler, receiver);
+                }
+            });
         });
-    });
 }

@@ -8,6 +8,7 @@ namespace
 QString show(QWidget* owner, const FileDialogRequest& request, QFileDialog::AcceptMode mode)
 {
     QFileDialog dialog(owner);
+    dialog.setObjectName(request.name);
     dialog.setAcceptMode(mode);
     if (mode == QFileDialog::AcceptOpen) {
         dialog.setFileMode(request.fileMustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);

@@ -7,6 +7,7 @@ class QWidget;
 
 /// What a file dialog is asked to show.
 struct FileDialogRequest {
+    QString name; ///< the dialog's name among the controls
     QString fileName; ///< proposed name; empty for none
     QString filter; ///< entries "text|pattern;pattern", separated by "|"
     QString initialFolder; ///< empty for the dialog's own choice

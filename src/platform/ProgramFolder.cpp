@@ -7,6 +7,9 @@
 
 #ifdef Q_OS_WIN
 #include <windows.h>
+#elif defined(Q_OS_MACOS)
+#include <climits>
+#include <mach-o/dyld.h>
 #endif
 
 QString findProgramFolder()
@@ -15,6 +18,12 @@ QString findProgramFolder()
     wchar_t path[MAX_PATH];
     const DWORD length = GetModuleFileNameW(nullptr, path, MAX_PATH);
     const QString executable = QString::fromWCharArray(path, static_cast<int>(length));
+#elif defined(Q_OS_MACOS)
+    char path[PATH_MAX];
+    uint32_t size = sizeof(path);
+    const QString executable = _NSGetExecutablePath(path, &size) == 0
+        ? QFileInfo(QFile::decodeName(path)).canonicalFilePath()
+        : QString();
 #else
     const QString executable = QFile::symLinkTarget(QStringLiteral("/proc/self/exe"));
 #endif

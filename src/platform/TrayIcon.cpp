@@ -31,11 +31,6 @@ void TrayIcon::remove()
     m_icon = nullptr;
 }
 
-bool TrayIcon::isShown() const
-{
-    return m_icon != nullptr && m_icon->isVisible();
-}
-
 void TrayIcon::showBalloon(const QString& title, const QString& text, int milliseconds)
 {
     if (m_icon != nullptr) {

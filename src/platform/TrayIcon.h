@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QObject>
-#include <QPointer>
 #include <QString>
 
 class QIcon;
@@ -20,7 +19,6 @@ public:
     /// `menu` opens on a right click and is not owned.
     void add(const QIcon& icon, const QString& toolTip, QMenu* menu);
     void remove();
-    bool isShown() const;
     /// A balloon with the information picture, closed after `milliseconds`. Plain text.
     void showBalloon(const QString& title, const QString& text, int milliseconds);
 

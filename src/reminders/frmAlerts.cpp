@@ -213,6 +213,9 @@ void frmAlerts::btnRemindMeLater_Click()
     if (row < 0) {
         return;
     }
+    // What is half typed counts as it would on leaving the picker: a mnemonic does not move the focus.
+    m_controls.dtpReminderDate->interpretText();
+    m_controls.dtpReminderTime->interpretText();
     const QDate date = m_controls.dtpReminderDate->date();
     const QTime time = m_controls.dtpReminderTime->time();
     if (composeMoment(date, time) < m_services.clock.now()) {

@@ -42,9 +42,10 @@ template <typename Control> Control* named(const char* name, Control* control)
     return control;
 }
 
-QLabel* labelFor(QWidget* control, const QString& caption)
+QLabel* labelFor(QWidget* control, const QString& caption, const QString& name)
 {
     auto* label = new QLabel(caption);
+    label->setObjectName(name);
     label->setBuddy(control);
     return label;
 }
@@ -87,9 +88,9 @@ QGroupBox* MaintenancePage::makeDeleteFrame()
 
     auto* frame = new QGroupBox(tr("Delete Tasks"));
     auto* layout = new QGridLayout(frame);
-    layout->addWidget(labelFor(m_cmbCategories, tr("&Category")), 0, 0);
+    layout->addWidget(labelFor(m_cmbCategories, tr("&Category"), QStringLiteral("SCLabel6")), 0, 0);
     layout->addWidget(m_cmbCategories, 0, 1);
-    layout->addWidget(labelFor(m_cmbStatus, tr("&Status")), 1, 0);
+    layout->addWidget(labelFor(m_cmbStatus, tr("&Status"), QStringLiteral("SCLabel7")), 1, 0);
     layout->addWidget(m_cmbStatus, 1, 1);
     layout->addLayout(makeTaskTypeOptions(), 0, 2, 3, 1);
     layout->addWidget(makeDateRangeFrame(), 0, 3, 3, 1);
@@ -123,9 +124,9 @@ QGroupBox* MaintenancePage::makeDateRangeFrame()
 
     auto* frame = new QGroupBox(tr("Date Range"));
     auto* layout = new QGridLayout(frame);
-    layout->addWidget(labelFor(m_dtpDateFrom, tr("&From")), 0, 0);
+    layout->addWidget(labelFor(m_dtpDateFrom, tr("&From"), QStringLiteral("SCLabel8")), 0, 0);
     layout->addWidget(m_dtpDateFrom, 0, 1);
-    layout->addWidget(labelFor(m_dtpDateTo, tr("&To")), 1, 0);
+    layout->addWidget(labelFor(m_dtpDateTo, tr("&To"), QStringLiteral("SCLabel9")), 1, 0);
     layout->addWidget(m_dtpDateTo, 1, 1);
     return frame;
 }
@@ -190,6 +191,7 @@ void MaintenancePage::btnBackup_Click()
     const CheckerPause pause(m_services.checkerTimer);
     try {
         FileDialogRequest request;
+        request.name = QStringLiteral("cdBackupRestore");
         request.filter = backupFilter();
         request.fileName =
             QStringLiteral("Ambertaks ") + shortDate(m_services.clock.now()).replace(u'/', u'-');
@@ -206,6 +208,7 @@ void MaintenancePage::btnRestore_Click()
     const CheckerPause pause(m_services.checkerTimer);
     try {
         FileDialogRequest request;
+        request.name = QStringLiteral("cdBackupRestore");
         request.filter = backupFilter();
         request.promptBeforeOverwriting = true;
         const QString file = m_services.fileDialogs.open(window(), request);

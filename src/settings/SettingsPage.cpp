@@ -97,11 +97,13 @@ QGroupBox* SettingsPage::makeSkinsFrame()
     m_cmbSkins->addItems({QStringLiteral("Aqua"), QStringLiteral("Lemon"), QStringLiteral("Classic")});
     m_cmbSkins->setMinimumContentsLength(20);
     auto* currentSkin = new QLabel(tr("Current s&kin"));
+    currentSkin->setObjectName(QStringLiteral("SCLabel4"));
     currentSkin->setBuddy(m_cmbSkins);
 
     m_btnBrowseNewSkin = new QPushButton(tr("Browse"));
     m_btnBrowseNewSkin->setObjectName(QStringLiteral("btnBrowseNewSkin"));
     auto* addNewSkin = new QLabel(tr("Add &new skin"));
+    addNewSkin->setObjectName(QStringLiteral("SCLabel5"));
     addNewSkin->setBuddy(m_btnBrowseNewSkin);
     m_btnBrowseNewSkin->setAccessibleName(m_btnBrowseNewSkin->text());
     m_btnBrowseNewSkin->setAccessibleDescription(tr("Add new skin"));
@@ -214,6 +216,7 @@ void SettingsPage::cmbSkins_Click()
 void SettingsPage::btnBrowseNewSkin_Click()
 {
     FileDialogRequest request;
+    request.name = QStringLiteral("cdSkinsBrowse");
     request.filter = tr("Skin Files (*.skf)|*.skf");
     request.fileMustExist = true;
     QString file;

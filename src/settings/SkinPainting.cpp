@@ -62,6 +62,12 @@ QPen outline(const QStyleOption& option)
     return {color(option, hovered ? QPalette::Dark : QPalette::Mid), 1};
 }
 
+/// The empty box of a disabled control stays visible: it has no text of its own to be known by.
+QPen boxOutline(const QStyleOption& option)
+{
+    return has(option, QStyle::State_Enabled) ? outline(option) : QPen(color(option, QPalette::Text), 1);
+}
+
 void paintRounded(QPainter& painter, const QRect& rect, const QPen& pen, const QBrush& brush, qreal radius)
 {
     const qreal inset = pen.widthF() / 2;
@@ -120,7 +126,7 @@ void paintCheckBox(QPainter& painter, const QRect& rect, const QStyleOption& opt
     const bool checked = has(option, QStyle::State_On);
     const bool half = has(option, QStyle::State_NoChange);
     if (!checked && !half) {
-        paintRounded(painter, box, outline(option), color(option, QPalette::Base), BoxRadius);
+        paintRounded(painter, box, boxOutline(option), color(option, QPalette::Base), BoxRadius);
         return;
     }
     const QColor ground = color(option, QPalette::Highlight);
@@ -142,7 +148,7 @@ void paintRadioButton(QPainter& painter, const QRect& rect, const QStyleOption& 
     const Canvas canvas(painter);
     const QRectF ring = QRectF(centredSquare(rect)).adjusted(1, 1, -1, -1);
     const bool checked = has(option, QStyle::State_On);
-    painter.setPen(checked ? QPen(color(option, QPalette::Highlight), 1) : outline(option));
+    painter.setPen(checked ? QPen(color(option, QPalette::Highlight), 1) : boxOutline(option));
     painter.setBrush(checked ? color(option, QPalette::Highlight) : color(option, QPalette::Base));
     painter.drawEllipse(ring);
     if (checked) {

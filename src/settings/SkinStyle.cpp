@@ -4,6 +4,7 @@
 
 #include <QAbstractScrollArea>
 #include <QCalendarWidget>
+#include <QDateTimeEdit>
 #include <QGuiApplication>
 #include <QIconEngine>
 #include <QPainter>
@@ -58,6 +59,19 @@ QColor ink(const QStyleOption& option, QPalette::ColorRole role)
 bool isFieldFrame(const QWidget* widget)
 {
     return qobject_cast<const QAbstractScrollArea*>(widget) != nullptr;
+}
+
+/// The width in which a picker of that size has room for a text of `textWidth`. It is drawn as a list, whose
+/// arrow grows with the resolution, and hints at its size as a spin box, whose buttons do not.
+int calendarPickerWidth(int textWidth, QSize size, const QDateTimeEdit& picker)
+{
+    constexpr int CursorWidth = 2;
+    QStyleOptionComboBox option;
+    option.initFrom(&picker);
+    option.rect = QRect(QPoint(), size);
+    const QRect written =
+        picker.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &picker);
+    return textWidth + size.width() - written.width() + CursorWidth;
 }
 
 } // namespace
@@ -193,6 +207,10 @@ QSize SkinStyle::sizeFromContents(
     }
     if (type == CT_SpinBox) {
         result.rwidth() += ButtonsWidth - 16;
+        if (const auto* picker = qobject_cast<const QDateTimeEdit*>(widget);
+            picker != nullptr && picker->calendarPopup()) {
+            result.setWidth(qMax(result.width(), calendarPickerWidth(size.width(), result, *picker)));
+        }
     }
     return result;
 }

@@ -48,7 +48,8 @@ private slots:
                                 "dtpDateFromMaintenance "
                                 "dtpDateToMaintenance btnDeleteTasksMaintenance btnBackup btnRestore "
                                 "btnHelpMaintenance lblAmberHeader "
-                                "lblOrganizerHeader lblVersionHeader")
+                                "lblOrganizerHeader lblVersionHeader SCLabel1 SCLabel2 SCLabel3 SCLabel4 "
+                                "SCLabel5 SCLabel6 SCLabel7 SCLabel8 SCLabel9")
                 .split(u' ');
         QCOMPARE(f.main().objectName(), QStringLiteral("frmMain"));
         for (const QString& name : names) {
@@ -193,6 +194,31 @@ private slots:
         const QSignalSpy ended(&f.program, &Program::endRequested);
         f.menu("mnuExit")->trigger();
         QCOMPARE(ended.count(), 1);
+    }
+
+    void aRequestToEndWhileTheProgramStartsIsKept()
+    {
+        ProgramFixture f;
+        f.start();
+        QVERIFY(!f.program.isEnding());
+        f.program.end();
+        QVERIFY(f.program.isEnding());
+    }
+
+    void theAlertIsThereEvenWhenTheDialogsCannotBeLoaded()
+    {
+        ProgramFixture f;
+        f.setting(QStringLiteral("minimize_on_start"), 1);
+        aTask(f.database).remindingAt(f.database.clock().now() - 1h).add();
+        f.start();
+        f.database.sql(QStringLiteral("alter table categories rename to elsewhere"));
+        f.dialogs.expectError(QStringLiteral("categories"));
+        f.program.loadDialogs();
+        QVERIFY(f.dialogs.allUsed());
+        QVERIFY(!f.program.alerts().isVisible());
+        f.database.sql(QStringLiteral("alter table elsewhere rename to categories"));
+        f.program.alerts().tmrTasksChecker_Timer();
+        QVERIFY(f.program.alerts().isVisible());
     }
 
     void theFormsAreUnloadedInTheirOrder()

@@ -2,6 +2,7 @@
 #include "support/TestMain.h"
 
 #include <QDateEdit>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimeEdit>
@@ -52,6 +53,21 @@ class tst_alerts_actions : public TestCase
     Q_OBJECT
 
 private slots:
+    void aHalfTypedHourCountsAsItIsShown()
+    {
+        ThreeListed alerts;
+        alerts.setNewMoment(QDate(2026, 1, 16), QTime(10, 0));
+        auto* time = alerts.control<QTimeEdit>(QStringLiteral("dtpReminderTime"));
+        time->setFocus();
+        time->setSelectedSection(QDateTimeEdit::HourSection);
+        QTest::keyClicks(time, QStringLiteral("1"));
+        // Pressed by its mnemonic, the button leaves the focus where it was.
+        alerts.control<QPushButton>(QStringLiteral("btnRemindMeLater"))->click();
+        QCOMPARE(
+            alerts.database().sql(QStringLiteral("select max(reminder_date_time) from tasks")).toString(),
+            QStringLiteral("2026-01-16 01:00:00"));
+    }
+
     void dismissingWithNoRowSelectedWritesNothingButStopsTheSound()
     {
         ThreeListed alerts;

@@ -308,7 +308,7 @@ void Session::fail(int code, const QString& statement)
 
 QString Session::reason(int code) const
 {
-    const QString message = QString::fromUtf8(sqlite3_errmsg(m_database));
+    QString message = QString::fromUtf8(sqlite3_errmsg(m_database));
     switch (code & 0xff) {
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
