@@ -1,13 +1,30 @@
 #include "platform/FileDialogs.h"
 
 #include <QFileDialog>
+#include <QFileIconProvider>
+#include <QFileInfo>
 
 namespace
 {
 
+/// Pictures by what a directory entry is, never by what a file holds: reading files to picture them would
+/// freeze the program on a slow or endless one.
+class PlainIcons final : public QFileIconProvider
+{
+public:
+    using QFileIconProvider::icon;
+    QIcon icon(const QFileInfo& entry) const override { return icon(entry.isDir() ? Folder : File); }
+    QString type(const QFileInfo& entry) const override
+    {
+        return entry.isDir() ? QFileDialog::tr("Folder") : entry.suffix();
+    }
+};
+
 QString show(QWidget* owner, const FileDialogRequest& request, QFileDialog::AcceptMode mode)
 {
+    PlainIcons icons;
     QFileDialog dialog(owner);
+    dialog.setIconProvider(&icons);
     dialog.setObjectName(request.name);
     dialog.setAcceptMode(mode);
     if (mode == QFileDialog::AcceptOpen) {

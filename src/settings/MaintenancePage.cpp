@@ -123,6 +123,7 @@ QGroupBox* MaintenancePage::makeDateRangeFrame()
     setUpDatePicker(*m_dtpDateTo);
 
     auto* frame = new QGroupBox(tr("Date Range"));
+    frame->setAccessibleName(frame->title());
     auto* layout = new QGridLayout(frame);
     layout->addWidget(labelFor(m_dtpDateFrom, tr("&From"), QStringLiteral("SCLabel8")), 0, 0);
     layout->addWidget(m_dtpDateFrom, 0, 1);
