@@ -2,7 +2,10 @@
 
 #include <QHash>
 #include <QWidget>
+#include <algorithm>
 #include <cmath>
+#include <functional>
+#include <vector>
 
 namespace
 {
@@ -75,11 +78,17 @@ double DrawnWindow::strongestContrast(const QWidget& control, const QRect& place
     for (auto it = counts.cbegin(); it != counts.cend(); ++it) {
         ground = it.value() > counts.value(ground) ? it.key() : ground;
     }
-    double strongest = 1;
+    std::vector<std::pair<double, int>> contrasts;
     for (auto it = counts.cbegin(); it != counts.cend(); ++it) {
-        if (it.value() > Speck) {
-            strongest = std::max(strongest, contrast(it.key(), ground));
-        }
+        contrasts.emplace_back(contrast(it.key(), ground), it.value());
     }
-    return strongest;
+    // Smoothed strokes have many colours: they count together.
+    std::sort(contrasts.begin(), contrasts.end(), std::greater<>());
+    int covered = 0;
+    const auto strongest =
+        std::find_if(contrasts.cbegin(), contrasts.cend(), [&covered](const std::pair<double, int>& color) {
+            covered += color.second;
+            return covered > Speck;
+        });
+    return strongest == contrasts.cend() ? 1 : strongest->first;
 }

@@ -13,8 +13,7 @@ public:
 
     /// Whether more than half of `place`, in coordinates of a control of the window, can be seen.
     bool isInSight(const QWidget& control, const QRect& place) const;
-    /// The greatest contrast there between the most frequent colour and any that covers more than a speck; 1
-    /// to 21.
+    /// The contrast there, 1 to 21, that more than a speck has with the most frequent colour.
     double strongestContrast(const QWidget& control, const QRect& place) const;
 
 private:

@@ -28,7 +28,6 @@ namespace
 {
 
 constexpr double OwedByMarks = 3;
-constexpr double OwedByDisabledOutline = 1.2;
 constexpr double LargeText = 24;
 constexpr double LargeBoldText = 18.66;
 
@@ -76,11 +75,11 @@ private:
     {
         text(widget, place, shown, widget.isEnabled());
     }
-    void mark(const QWidget& widget, const QRect& place, const QString& kind, double owed = OwedByMarks)
+    void mark(const QWidget& widget, const QRect& place, const QString& kind)
     {
         if (m_drawn.isInSight(widget, place)) {
             ++result.marks;
-            note(widget, kind, m_drawn.strongestContrast(widget, place), owed);
+            note(widget, kind, m_drawn.strongestContrast(widget, place), OwedByMarks);
         }
     }
     void note(const QWidget& widget, const QString& shown, double measured, double owed)
@@ -159,8 +158,7 @@ void Look::lookAtCheckable(const QAbstractButton& button, QStyle::SubElement box
             Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, button.isEnabled(), button.text());
     text(button, written, button.text());
     const QRect place = style.subElementRect(box, &option, &button);
-    mark(button, place, QStringLiteral("outline"),
-        button.isEnabled() || button.isChecked() ? OwedByMarks : OwedByDisabledOutline);
+    mark(button, place, QStringLiteral("outline"));
     if (button.isChecked()) {
         mark(button, inside(place, 4), QStringLiteral("mark"));
     }
