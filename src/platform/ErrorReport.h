@@ -34,6 +34,17 @@ public:
     }
 };
 
+/// Calls a member function of `receiver` with the arguments, or with none when it takes none.
+template <typename Receiver, typename Handler, typename... Arguments>
+void callHandler(Receiver* receiver, Handler handler, Arguments&&... arguments)
+{
+    if constexpr (std::is_invocable_v<Handler, Receiver*, Arguments...>) {
+        std::invoke(handler, receiver, std::forward<Arguments>(arguments)...);
+    } else {
+        std::invoke(handler, receiver);
+    }
+}
+
 /// Connects as QObject::connect does, but no exception leaves the handler for the event loop: it is reported
 /// instead. `handler` is a member function of `receiver` that takes the signal's arguments or none.
 template <typename Sender, typename Signal, typename Receiver, typename Handler>
@@ -42,12 +53,6 @@ QMetaObject::Connection connectGuarded(
 {
     return QObject::connect(
         sender, signal, receiver, [receiver, handler, &errors](auto&&... arguments) -> void {
-            errors.guard([&] {
-                if constexpr (std::is_invocable_v<Handler, Receiver*, decltype(arguments)...>) {
-                    std::invoke(handler, receiver, arguments...);
-                } else {
-                    std::invoke(handler, receiver);
-                }
-            });
+            errors.guard([&] { callHandler(receiver, handler, arguments...); });
         });
 }
