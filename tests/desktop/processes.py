@@ -59,13 +59,18 @@ def descendants(root):
     return found
 
 
-def _mentions(pid, text):
-    """Whether the process was started with `text` in its environment."""
+def _belongs(pid, text):
+    """Whether the living process was started with `text` in its environment, or can no longer say so.
+
+    A process that is just ending has given its memory back, and with it its environment, but is no zombie yet:
+    whoever does not wait for it finds it a moment later still there.
+    """
     try:
         with open(f"/proc/{pid}/environ", "rb") as environment:
-            return text.encode() in environment.read()
+            words = environment.read()
     except OSError:
         return False
+    return not words or text.encode() in words
 
 
 def _reap_orphans(known):
@@ -114,7 +119,7 @@ class Children:
 
         def nothing_left():
             # What a process of the desk started in turn is known by the desk's folder in its environment.
-            left = [pid for pid in descendants(os.getpid()) if _mentions(pid, self._root)]
+            left = [pid for pid in descendants(os.getpid()) if _belongs(pid, self._root)]
             for pid in left:
                 try:
                     os.kill(pid, signal.SIGKILL)
