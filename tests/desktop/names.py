@@ -30,6 +30,7 @@ PRIORITY_COLUMN = ("check box", "Task priority")
 REMINDER_COLUMN = ("check box", "Task reminder")
 SKIN = ("combo box", "Current skin")
 ADD_SKIN = ("button", "Browse", "Add new skin")
+MORE_SKINS = ("label", "Download More Skins")
 
 CATEGORY_LIST = ("list", "Categories")
 ADD_CATEGORY = ("button", "Add a category")
@@ -41,6 +42,8 @@ CUSTOM_ICON = ("option", "Custom Icon")
 BROWSE_ICON = ("button", "Browse for a custom icon")
 
 FILTER_CATEGORY = ("combo box", "Category")
+DATE_FROM = ("picker", "From", "Date from", "From date")
+DATE_TO = ("picker", "To", "Date to", "To date")
 BACKUP = ("button", "Backup")
 RESTORE = ("button", "Restore")
 OPEN_FILE = "Open"

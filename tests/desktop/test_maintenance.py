@@ -69,6 +69,27 @@ class BulkDeleteTest(MaintenanceCase):
         self.wait_list(["Tomorrow"])
         self.assertEqual([task["task_name"] for task in self.store.tasks()], ["Tomorrow"])
 
+    def step_day(self, control, key):
+        """One day on or back by the arrow keys, in a desktop language that begins a date with its day."""
+        picker = self.user.main().find(*control)
+        before = picker.text
+        x, y, _, height = picker.place()
+        self.desk.input.click(x + 8, y + height // 2)
+        wait_until(lambda: picker.has("focused"), f"{picker!r} has the focus")
+        self.desk.input.key("Home")
+        self.desk.input.key(key)
+        wait_until(lambda: picker.text != before, f"{picker!r} follows the key")
+
+    def test_the_days_of_the_pickers_bound_what_is_deleted(self):
+        main_window = self.open_maintenance()
+        self.step_day(names.DATE_TO, "Up")
+        self.user.click_control(main_window, names.DELETE)
+        self.user.answer(names.delete_tasks_question(4), names.NO)
+        self.step_day(names.DATE_FROM, "Up")
+        self.delete_by_criteria(1)
+        self.wait_list(TODAY)
+        self.assertEqual([task["task_name"] for task in self.store.tasks()], TODAY)
+
     def test_expired_tasks_only(self):
         self.user.click_control(self.open_maintenance(), ("option", "Expired tasks only"))
         self.delete_by_criteria(1)

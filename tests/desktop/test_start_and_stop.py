@@ -149,7 +149,6 @@ class BrokenDataTest(StartCase):
         self.assertEqual(self.marks(), [])
 
     def box_text(self, pid):
-
         access = Access(self.desk.access_address(), pid)
         self.addCleanup(access.close)
         box = access.message_box("")
@@ -170,17 +169,17 @@ class BrokenDataTest(StartCase):
 
     def test_with_an_empty_file(self):
         self.replace(b"")
-        self.refuse()
+        self.refuse("data.dat", "it is empty")
 
     def test_with_a_file_cut_short(self):
         with open(self.desk.data_file, "rb") as file:
             start = file.read(3000)
         self.replace(start)
-        self.refuse()
+        self.refuse("data.dat", "malformed")
 
     def test_without_a_settings_row(self):
         self.store.execute("delete from settings")
-        self.refuse()
+        self.refuse("settings", "missing")
 
     def test_with_a_file_that_another_program_holds(self):
         # In a process of its own: reading the file here would drop a lock of this one.
@@ -199,6 +198,7 @@ class BrokenDataTest(StartCase):
         os.chmod(self.desk.data_file, 0o600)
         for name in ("HOME", "XDG_RUNTIME_DIR"):
             subprocess.run(["chown", "-R", str(OTHER_USER), self.desk.environment[name]], check=True)
+        # The accessibility bus of this desk takes no other user's programs, so the words of this box are not read.
         self.refuse(command=["setpriv", f"--reuid={OTHER_USER}", f"--regid={OTHER_USER}", "--clear-groups"])
 
 

@@ -1,5 +1,6 @@
 """The icon in the notification area, and desktops that have none."""
 import signal
+from datetime import datetime
 
 from gi.repository import GLib
 
@@ -56,6 +57,14 @@ class TrayIconTest(TrayCase):
         self.user.double_click_tray()
         self.user.wait_hidden(names.MAIN)
         self.user.wait_hidden(names.TASK_DIALOG)
+
+    def test_a_double_click_hides_an_open_category_dialog_too(self):
+        main_window = self.user.open_page("Categories")
+        self.user.click_control(main_window, names.ADD_CATEGORY)
+        self.user.wait_active(names.CATEGORY_DIALOG)
+        self.user.double_click_tray()
+        self.user.wait_hidden(names.MAIN)
+        self.user.wait_hidden(names.CATEGORY_DIALOG)
 
     def test_a_single_left_click_does_nothing(self):
         window = self.user.window(names.MAIN)
@@ -129,6 +138,28 @@ class TrayIconTest(TrayCase):
         wait_until(lambda: not self.balloon_shows(self.user), "the balloon goes", 6)
         self.assertTrue(self.user.program.running())
         self.assertEqual(self.user.first_tray_entry(), "Show")
+
+
+class HiddenStartTest(TrayCase):
+    minimize_on_start = 1
+
+    def test_a_double_click_leaves_the_window_hidden_while_the_task_dialog_is_open(self):
+        self.store.add_task("Due", reminder=datetime(2020, 1, 1, 9, 0))
+        user = self.start()
+        alert = user.alert(1)
+        user.select_row("Due", alert)
+        user.click_control(alert, names.OPEN_ITEM)
+        user.window(names.TASK_DIALOG)
+        user.double_click_tray()
+        # The menu is opened by the same icon, after what the double click does.
+        self.assertEqual(user.first_tray_entry(), "Show")
+        self.assertIsNone(user.seek_window(names.MAIN))
+        self.assertTrue(user.shows(names.TASK_DIALOG))
+        user.click_control(user.dialog(), names.CANCEL)
+        user.wait_hidden(names.TASK_DIALOG)
+        user.double_click_tray()
+        user.window(names.MAIN)
+        self.assertEqual(user.first_tray_entry(), "Hide")
 
 
 class SilentCloseTest(TrayCase):
