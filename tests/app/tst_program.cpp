@@ -1,5 +1,4 @@
 #include "ProgramFixture.h"
-#include "app/TasksPage.h"
 #include "categories/frmCategoryDetails.h"
 #include "platform/WindowPlacement.h"
 #include "reminders/frmAlerts.h"
@@ -7,18 +6,13 @@
 #include "tasks/frmTaskDetails.h"
 
 #include <QCheckBox>
-#include <QComboBox>
 #include <QDateEdit>
 #include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
-#include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QSignalSpy>
 #include <QTabWidget>
-#include <QTimeEdit>
-#include <QWindow>
 
 using namespace std::chrono_literals;
 
@@ -305,160 +299,6 @@ private slots:
         QCOMPARE(f.shell.pages,
             QStringList({QStringLiteral("/support.htm?referer=p"), QStringLiteral("/index.htm?referer=p"),
                 QStringLiteral("/index.htm?referer=p")}));
-    }
-
-    void aNewTaskOnTheAllFilterHasNoCategory()
-    {
-        ProgramFixture f;
-        f.start();
-        f.press(f.main(), "btnTaskAdd");
-        QVERIFY(f.program.taskDetails().isVisible());
-        QCOMPARE(f.control<QComboBox>(f.program.taskDetails(), "cmbCategories")->currentIndex(), -1);
-        QCOMPARE(f.program.taskDetails().windowHandle()->transientParent(), f.main().windowHandle());
-    }
-
-    void aNewTaskOnAFilteredListHasItsCategory()
-    {
-        ProgramFixture f;
-        f.start();
-        f.program.loadDialogs();
-        auto* filter = f.control<QComboBox>(f.main(), "cmbCategories");
-        filter->setCurrentIndex(2);
-        f.press(f.main(), "btnTaskAdd");
-        QCOMPARE(f.control<QComboBox>(f.program.taskDetails(), "cmbCategories")->currentText(),
-            filter->currentText());
-    }
-
-    void withAlwaysOnTopTheTaskDialogIsTopmostToo()
-    {
-        ProgramFixture f;
-        f.setting(QStringLiteral("always_on_top"), 1);
-        f.start();
-        f.press(f.main(), "btnTaskAdd");
-        QVERIFY(isTopmost(&f.program.taskDetails()));
-    }
-
-    void theItemOpenedFromTheAlertIsOwnedByItAndNeverMadeTopmost()
-    {
-        ProgramFixture f;
-        f.setting(QStringLiteral("always_on_top"), 1);
-        aTask(f.database).named(QStringLiteral("call")).remindingAt(f.database.clock().now() - 1min).add();
-        f.start();
-        f.program.loadDialogs();
-        QVERIFY(f.program.alerts().isVisible());
-        QVERIFY(isTopmost(&f.program.alerts()));
-        f.press(f.program.alerts(), "btnOpenItem");
-        QVERIFY(f.program.taskDetails().isVisible());
-        QVERIFY(!isTopmost(&f.program.taskDetails()));
-        QCOMPARE(
-            f.program.taskDetails().windowHandle()->transientParent(), f.program.alerts().windowHandle());
-        QCOMPARE(f.control<QLineEdit>(f.program.taskDetails(), "txtTask")->text(), QStringLiteral("call"));
-    }
-
-    void cancelGivesTheFocusToTheAlertWhileTheMainWindowIsHidden()
-    {
-        ProgramFixture f;
-        aTask(f.database).remindingAt(f.database.clock().now() - 1min).add();
-        f.setting(QStringLiteral("minimize_on_start"), 1);
-        f.start();
-        f.program.loadDialogs();
-        f.press(f.program.alerts(), "btnOpenItem");
-        f.press(f.program.taskDetails(), "btnCancel");
-        QVERIFY(!f.program.taskDetails().isVisible());
-        QTRY_COMPARE(QApplication::focusWidget(), f.grid(f.program.alerts()));
-    }
-
-    void cancelGivesTheFocusToTheListOfTheMainWindow()
-    {
-        ProgramFixture f;
-        f.start();
-        f.press(f.main(), "btnTaskAdd");
-        f.press(f.program.taskDetails(), "btnCancel");
-        QTRY_COMPARE(QApplication::focusWidget(), f.grid(f.main()));
-    }
-
-    void aSavedTaskDueAtOnceIsListedByAVisibleAlertWithoutWaiting()
-    {
-        ProgramFixture f;
-        aTask(f.database).named(QStringLiteral("first")).remindingAt(f.database.clock().now() - 1min).add();
-        f.start();
-        f.program.loadDialogs();
-        QCOMPARE(f.program.alerts().windowTitle(), QStringLiteral("1 Reminder"));
-        f.press(f.main(), "btnTaskAdd");
-        frmTaskDetails& dialog = f.program.taskDetails();
-        f.control<QLineEdit>(dialog, "txtTask")->setText(QStringLiteral("second"));
-        f.control<QComboBox>(dialog, "cmbCategories")->setCurrentIndex(0);
-        f.control<QCheckBox>(dialog, "chkEnableReminder")->click();
-        f.press(dialog, "btnOk");
-        QVERIFY(!dialog.isVisible());
-        QCOMPARE(f.program.alerts().windowTitle(), QStringLiteral("2 Reminders"));
-        QCOMPARE(f.grid(f.main())->model()->rowCount(), 2);
-    }
-
-    void theTypicalEventRunsFromStartToEnd()
-    {
-        ProgramFixture f;
-        f.start();
-        f.program.loadDialogs();
-        f.press(f.main(), "btnTaskAdd");
-        frmTaskDetails& dialog = f.program.taskDetails();
-        QTest::keyClicks(f.control<QLineEdit>(dialog, "txtTask"), QStringLiteral("Call Bob's office"));
-        f.control<QComboBox>(dialog, "cmbCategories")->setCurrentIndex(1);
-        f.control<QCheckBox>(dialog, "chkEnableReminder")->click();
-        f.control<QTimeEdit>(dialog, "dtpReminderTime")->setTime(QTime(10, 5));
-        f.control<QCheckBox>(dialog, "chkReminderSound")->click();
-        f.control<QLineEdit>(dialog, "txtReminderSound")->setText(QStringLiteral("/sounds/bell.wav"));
-        f.control<QCheckBox>(dialog, "chkReminderFile")->click();
-        f.control<QLineEdit>(dialog, "txtReminderFile")->setText(QStringLiteral("/programs/back up.sh"));
-        f.press(dialog, "btnOk");
-        QVERIFY(!dialog.isVisible());
-        QCOMPARE(
-            f.grid(f.main())->model()->index(0, 1).data().toString(), QStringLiteral("Call Bob's office"));
-
-        frmAlerts& alerts = f.program.alerts();
-        alerts.tmrTasksChecker_Timer();
-        QVERIFY(!alerts.isVisible());
-        f.database.clock().step(5min);
-        alerts.tmrTasksChecker_Timer();
-        QVERIFY(alerts.isVisible());
-        QCOMPARE(alerts.windowTitle(), QStringLiteral("1 Reminder"));
-        QCOMPARE(f.played, QStringList{QStringLiteral("/sounds/bell.wav")});
-        QCOMPARE(f.shell.started, QStringList{QStringLiteral("/programs/back up.sh")});
-        alerts.tmrTasksChecker_Timer();
-        QCOMPARE(f.played.size(), 1);
-        QCOMPARE(f.shell.started.size(), 1);
-        QCOMPARE(f.database.sql(QStringLiteral("select played from tasks")).toInt(), 1);
-
-        f.press(alerts, "btnDismiss");
-        QVERIFY(!alerts.isVisible());
-        QCOMPARE(f.database.sql(QStringLiteral("select dismissed from tasks")).toInt(), 1);
-        QCOMPARE(f.database.sql(QStringLiteral("select reminder_on from tasks")).toInt(), 0);
-        QVERIFY(f.grid(f.main())->model()->index(0, 5).data(Qt::DecorationRole).value<QIcon>().isNull());
-    }
-
-    void aSavedCategoryAppearsInEveryList()
-    {
-        ProgramFixture f;
-        f.start();
-        f.program.loadDialogs();
-        f.press(f.main(), "btnAddCat");
-        frmCategoryDetails& dialog = f.program.categoryDetails();
-        QVERIFY(dialog.isVisible());
-        f.control<QLineEdit>(dialog, "txtCatName")->setText(QStringLiteral("Garden"));
-        f.press(dialog, "btnOk");
-        QVERIFY(!dialog.isVisible());
-        const auto holds = [](const QComboBox* combo) {
-            return combo->findText(QStringLiteral("Garden")) >= 0;
-        };
-        QVERIFY(holds(f.control<QComboBox>(f.main(), "cmbCategories")));
-        QVERIFY(holds(f.control<QComboBox>(f.main(), "cmbCategoriesMaintenance")));
-        const auto* inDialog = f.control<QComboBox>(f.program.taskDetails(), "cmbCategories");
-        QVERIFY(holds(inDialog));
-        QCOMPARE(inDialog->findText(QStringLiteral("All")), -1);
-        QCOMPARE(f.control<QListWidget>(f.main(), "lstViewCategories")
-                     ->findItems(QStringLiteral("Garden"), Qt::MatchExactly)
-                     .size(),
-            1);
     }
 };
 

@@ -1,104 +1,20 @@
-#include "app/TasksPage.h"
-#include "platform/GridView.h"
+#include "TasksPageFixture.h"
 #include "support/TestMain.h"
-#include "support/TestServices.h"
 
 #include <QComboBox>
-#include <QDateEdit>
-#include <QHeaderView>
-#include <QLabel>
-#include <QPushButton>
-#include <QRadioButton>
 #include <QSignalSpy>
-#include <QTest>
 #include <cmath>
-#include <memory>
 
 using namespace std::chrono_literals;
 
-namespace
-{
-
-const QString bareJoin =
-    QStringLiteral("select * from tasks inner join categories on tasks.cat_id=categories.cat_id");
-
-}
-
-/// The page in a window of its own, over a data file that holds the categories "Home" and "Office".
 class TasksPageTest : public TestCase
 {
     Q_OBJECT
 
-private:
-    struct Fixture {
-        Fixture() : page(services.services, [this] { return columns; })
-        {
-            services.database.removeAllCategories();
-            home = services.database.addCategory(QStringLiteral("Home"), 0);
-            office = services.database.addCategory(QStringLiteral("Office"), 1);
-            page.resize(900, 600);
-        }
-        void load()
-        {
-            page.fillFilters();
-            page.startWith(false);
-            page.show();
-            QVERIFY(QTest::qWaitForWindowExposed(&page));
-            services.database.statements().take();
-        }
-        template <typename Control> Control* control(const char* name)
-        {
-            return page.findChild<Control*>(QLatin1String(name));
-        }
-        void press(const char* name) { QTest::mouseClick(control<QPushButton>(name), Qt::LeftButton); }
-        void select(const char* name) { control<QRadioButton>(name)->click(); }
-        void choose(const char* name, const QString& text)
-        {
-            auto* combo = control<QComboBox>(name);
-            combo->setCurrentText(text);
-            emit combo->activated(combo->currentIndex());
-        }
-        QStringList names()
-        {
-            QStringList names;
-            for (int row = 0; row < page.grid()->model()->rowCount(); ++row) {
-                names.append(page.grid()->model()->index(row, 1).data().toString());
-            }
-            return names;
-        }
-        QStringList keys()
-        {
-            QStringList keys;
-            for (int i = 0; i < page.grid()->model()->columnCount(); ++i) {
-                keys.append(page.grid()->model()->headerData(i, Qt::Horizontal, Qt::UserRole).toString());
-            }
-            return keys;
-        }
-        QStringList headers()
-        {
-            QStringList headers;
-            for (int i = 0; i < page.grid()->model()->columnCount(); ++i) {
-                headers.append(
-                    page.grid()->model()->headerData(i, Qt::Horizontal, Qt::DisplayRole).toString());
-            }
-            return headers;
-        }
-        bool hasIcon(int row, int column)
-        {
-            return !page.grid()->model()->index(row, column).data(Qt::DecorationRole).value<QIcon>().isNull();
-        }
-
-        TestServices services;
-        TaskColumns columns;
-        TasksPage page;
-        qint16 home = 0;
-        qint16 office = 0;
-    };
-
 private slots:
     void aTaskShowsItsNameDueDateAndPictures()
     {
-        Fixture f;
+        TasksPageFixture f;
         aTask(f.services.database)
             .named(QStringLiteral("Water the plants"))
             .in(f.home)
@@ -123,7 +39,7 @@ private slots:
 
     void theColumnsCarryTheirKeysHeadersAndWidths()
     {
-        Fixture f;
+        TasksPageFixture f;
         f.load();
         QCOMPARE(f.keys(),
             QStringList({QStringLiteral("0id"), QStringLiteral("0name"), QStringLiteral("0status"),
@@ -142,7 +58,7 @@ private slots:
 
     void uncheckingTaskStatusRemovesItsColumnAtTheNextFilterChange()
     {
-        Fixture f;
+        TasksPageFixture f;
         f.load();
         f.columns.status = false;
         QVERIFY(f.keys().contains(QStringLiteral("0status")));
@@ -154,7 +70,7 @@ private slots:
 
     void addingWithoutAnyCategoryIsRefused()
     {
-        Fixture f;
+        TasksPageFixture f;
         f.services.database.removeAllCategories();
         f.load();
         const QSignalSpy added(&f.page, &TasksPage::addRequested);
@@ -167,7 +83,7 @@ private slots:
 
     void addingAsksForTheCategoryThatTheListShows()
     {
-        Fixture f;
+        TasksPageFixture f;
         f.load();
         const QSignalSpy added(&f.page, &TasksPage::addRequested);
         f.press("btnTaskAdd");
@@ -178,102 +94,9 @@ private slots:
         QCOMPARE(added[1][0].value<qint16>(), f.office);
     }
 
-    void aFilterThatMatchesNothingLeavesHeadersAndSaysNothing()
-    {
-        Fixture f;
-        aTask(f.services.database).in(f.home).add();
-        f.load();
-        QCOMPARE(f.names().size(), 1);
-        f.choose("cmbCategories", QStringLiteral("Office"));
-        QCOMPARE(f.names().size(), 0);
-        QCOMPARE(f.headers().size(), 6);
-    }
-
-    void everyFilterAsksTheStoreForWhatItSays()
-    {
-        Fixture f;
-        f.load();
-        const QString join = bareJoin;
-        RecordedStatements& statements = f.services.database.statements();
-        f.choose("cmbCategories", QStringLiteral("Office"));
-        QCOMPARE(statements.take(),
-            QStringList{join + QStringLiteral(" where categories.cat_id= %1").arg(f.office)});
-        f.choose("cmbCategories", QStringLiteral("All"));
-        statements.take();
-        f.choose("cmbStatus", QStringLiteral("Deferred"));
-        QCOMPARE(statements.take(), QStringList{join + QStringLiteral(" where task_status = 4")});
-        f.choose("cmbStatus", QStringLiteral("All"));
-        statements.take();
-        f.choose("cmbSort", QStringLiteral("Priority"));
-        QCOMPARE(statements.take(), QStringList{join + QStringLiteral(" order by task_periority")});
-        f.choose("cmbSort", QStringLiteral("None"));
-        statements.take();
-        f.select("opnActiveTasks");
-        QCOMPARE(statements.take(), QStringList{join + QStringLiteral(" where task_due_date  >=now()")});
-        f.select("opnExpiredTasks");
-        QCOMPARE(statements.take(), QStringList{join + QStringLiteral(" where task_due_date  <now()")});
-        f.select("opnAllTasks");
-        QCOMPARE(statements.take(), QStringList{join});
-        f.select("opnSpecificDate");
-        QCOMPARE(statements.take(),
-            QStringList{join
-                + QStringLiteral(
-                    " where task_due_date >= #1/15/2026# and task_due_date <= #1/15/2026 23:59# ")});
-        f.control<QDateEdit>("dtpDueDateTo")->setDate(QDate(2026, 1, 31));
-        QCOMPARE(statements.take(),
-            QStringList{join
-                + QStringLiteral(
-                    " where task_due_date >= #1/15/2026# and task_due_date <= #1/31/2026 23:59# ")});
-    }
-
-    void switchingBackToAllDatesDisablesThePickersAndDropsTheDateFilter()
-    {
-        Fixture f;
-        f.load();
-        f.select("opnSpecificDate");
-        for (const char* name : {"lblDateFrom", "lblDateTo", "dtpDueDateFrom", "dtpDueDateTo"}) {
-            QVERIFY2(f.control<QWidget>(name)->isEnabled(), name);
-        }
-        f.services.database.statements().take();
-        f.select("opnAllDate");
-        for (const char* name : {"lblDateFrom", "lblDateTo", "dtpDueDateFrom", "dtpDueDateTo"}) {
-            QVERIFY2(!f.control<QWidget>(name)->isEnabled(), name);
-        }
-        QCOMPARE(f.services.database.statements().take(), QStringList{bareJoin});
-    }
-
-    void startingOnTodayListsOnlyTasksDueToday()
-    {
-        Fixture f;
-        const Moment today = startOfDay(f.services.database.clock().now());
-        aTask(f.services.database)
-            .named(QStringLiteral("last minute"))
-            .in(f.home)
-            .dueAt(today + 23h + 59min)
-            .add();
-        aTask(f.services.database).named(QStringLiteral("midnight")).in(f.home).dueAt(today).add();
-        aTask(f.services.database).named(QStringLiteral("tomorrow")).in(f.home).dueAt(today + 24h).add();
-        aTask(f.services.database).named(QStringLiteral("yesterday")).in(f.home).dueAt(today - 1min).add();
-        f.page.fillFilters();
-        f.page.startWith(true);
-        QVERIFY(f.control<QRadioButton>("opnSpecificDate")->isChecked());
-        QCOMPARE(f.control<QDateEdit>("dtpDueDateFrom")->date(), QDate(2026, 1, 15));
-        QCOMPARE(f.control<QDateEdit>("dtpDueDateTo")->date(), QDate(2026, 1, 15));
-        QCOMPARE(f.names(), QStringList({QStringLiteral("last minute"), QStringLiteral("midnight")}));
-    }
-
-    void aListChosenWhileTheWindowIsHiddenWaitsForTheNextReload()
-    {
-        Fixture f;
-        f.load();
-        f.page.hide();
-        f.choose("cmbStatus", QStringLiteral("Deferred"));
-        QCOMPARE(f.services.database.statements().take(), QStringList());
-    }
-
     void deletingRemovesTheRowAtOnceAndTheOthersKeepTheirOrder()
     {
-        Fixture f;
+        TasksPageFixture f;
         aTask(f.services.database).named(QStringLiteral("b")).in(f.home).add();
         aTask(f.services.database).named(QStringLiteral("c")).in(f.home).add();
         const qint32 last = aTask(f.services.database).named(QStringLiteral("d")).in(f.home).add();
@@ -293,7 +116,7 @@ private slots:
 
     void answeringNoDeletesNothing()
     {
-        Fixture f;
+        TasksPageFixture f;
         aTask(f.services.database).in(f.home).add();
         f.load();
         f.page.grid()->selectOnly(0);
@@ -305,7 +128,7 @@ private slots:
 
     void aDeletionThatFailsKeepsTheRow()
     {
-        Fixture f;
+        TasksPageFixture f;
         aTask(f.services.database).in(f.home).add();
         f.load();
         f.page.grid()->selectOnly(0);
@@ -318,7 +141,7 @@ private slots:
 
     void theDeleteKeyAsksAndTheEnterKeyEdits()
     {
-        Fixture f;
+        TasksPageFixture f;
         const qint32 id = aTask(f.services.database).in(f.home).add();
         f.load();
         const QSignalSpy edited(&f.page, &TasksPage::editRequested);
@@ -334,7 +157,7 @@ private slots:
 
     void aDoubleClickEditsTheTask()
     {
-        Fixture f;
+        TasksPageFixture f;
         const qint32 id = aTask(f.services.database).in(f.home).add();
         f.load();
         const QSignalSpy edited(&f.page, &TasksPage::editRequested);
@@ -347,7 +170,7 @@ private slots:
 
     void withNoRowSelectedNothingHappens()
     {
-        Fixture f;
+        TasksPageFixture f;
         aTask(f.services.database).in(f.home).add();
         f.load();
         const QSignalSpy edited(&f.page, &TasksPage::editRequested);
@@ -363,7 +186,7 @@ private slots:
 
     void codesOutsideTheTablesShowNoIcon()
     {
-        Fixture f;
+        TasksPageFixture f;
         aTask(f.services.database).in(f.home).withStatus(5).withPeriority(7).add();
         f.load();
         QVERIFY(f.hasIcon(0, 1));
@@ -374,7 +197,7 @@ private slots:
 
     void anIdBeyondSixteenBitsIsAnErrorAndNeverAnotherTask()
     {
-        Fixture f;
+        TasksPageFixture f;
         aTask(f.services.database).in(f.home).add();
         f.services.database.sql(QStringLiteral("update tasks set task_id=70000"));
         f.load();
@@ -392,7 +215,7 @@ private slots:
 
     void aStoreThatCannotBeReadLeavesTheListAsItWas()
     {
-        Fixture f;
+        TasksPageFixture f;
         aTask(f.services.database).named(QStringLiteral("kept")).in(f.home).add();
         f.load();
         f.services.database.sql(QStringLiteral("alter table tasks rename to elsewhere"));
@@ -403,7 +226,7 @@ private slots:
 
     void aRebuiltListHasNoSelection()
     {
-        Fixture f;
+        TasksPageFixture f;
         aTask(f.services.database).in(f.home).add();
         f.load();
         f.page.grid()->selectOnly(0);
@@ -413,7 +236,7 @@ private slots:
 
     void theCategoryFilterKeepsItsCategoryWhenTheListIsFilledAnew()
     {
-        Fixture f;
+        TasksPageFixture f;
         f.load();
         f.choose("cmbCategories", QStringLiteral("Office"));
         f.services.database.addCategory(QStringLiteral("Garden"));
@@ -426,7 +249,7 @@ private slots:
 
     void textThatLooksLikeMarkupIsShownAsItIs()
     {
-        Fixture f;
+        TasksPageFixture f;
         aTask(f.services.database).named(QStringLiteral("<b>bold</b>")).in(f.home).add();
         f.load();
         const QModelIndex name = f.page.grid()->model()->index(0, 1);
