@@ -1,6 +1,7 @@
 #include "app/TaskReportFormats.h"
 
 #include "data/TaskCodes.h"
+#include "ui/TaskPictures.h"
 
 namespace
 {
@@ -18,38 +19,14 @@ int codeOf(const QString& value)
 
 void periorityFormat_Format(QString& value)
 {
-    switch (codeOf(value)) {
-    case TaskPeriority::High:
-        value = QStringLiteral("High");
-        break;
-    case TaskPeriority::Normal:
-        value = QStringLiteral("Normal");
-        break;
-    default:
-        value = QStringLiteral("Low");
-        break;
-    }
+    const int code = codeOf(value);
+    const bool isHigher = code == TaskPeriority::High || code == TaskPeriority::Normal;
+    value = periorityWord(isHigher ? code : TaskPeriority::Low);
 }
 
 void statusFormat_Format(QString& value)
 {
-    switch (codeOf(value)) {
-    case TaskStatus::NotStarted:
-        value = QStringLiteral("Not Started");
-        break;
-    case TaskStatus::InProgress:
-        value = QStringLiteral("In Progress");
-        break;
-    case TaskStatus::Completed:
-        value = QStringLiteral("Completed");
-        break;
-    case TaskStatus::Waiting:
-        value = QStringLiteral("Waiting on someone else");
-        break;
-    case TaskStatus::Deferred:
-        value = QStringLiteral("Deferred");
-        break;
-    default:
-        break;
+    if (const QString word = statusWord(codeOf(value)); !word.isEmpty()) {
+        value = word;
     }
 }

@@ -273,7 +273,7 @@ void TasksPage::btnTaskEdit_Click()
 {
     const int row = m_grid->selectedRow();
     if (row >= 0) {
-        emit editRequested(narrowId(m_model->idAt(row), tr("task id")));
+        emit editRequested(narrowId(m_model->idAt(row), QT_TRANSLATE_NOOP("OverflowError", "task id")));
     }
 }
 
@@ -291,7 +291,7 @@ void TasksPage::btnTaskDelete_Click()
     if (!m_services.messages.ask(this, tr("Are you sure you want to delete this task?"))) {
         return;
     }
-    ClsTask(m_services.engine).DeleteById(narrowId(id, tr("task id")));
+    ClsTask(m_services.engine).DeleteById(narrowId(id, QT_TRANSLATE_NOOP("OverflowError", "task id")));
     // The list may have been rebuilt while the question was open.
     if (const int row = m_model->rowOf(id); row >= 0) {
         m_model->removeTask(row);

@@ -32,23 +32,26 @@ constexpr std::array Bindings{Binding{"txtCatName", "cat_name"}, Binding{"txtTas
     Binding{"txtTaskPeriority", "task_periority"}, Binding{"txtTaskStatus", "task_status"},
     Binding{"txtTaskDueDate", "task_due_date"}, Binding{"txtTaskDesc", "task_desc"}};
 
-ReportControl control(Kind kind, const char* name, const char* caption = "")
+ReportControl control(Kind kind, const char* name, const QString& caption = {})
 {
-    return {kind, QLatin1String(name), QLatin1String(caption), {}};
+    return {kind, QLatin1String(name), caption, {}};
 }
 
 std::vector<ReportSection> makeSections()
 {
     return {{QStringLiteral("ReportHeader"), {}},
         {QStringLiteral("PageHeader"),
-            {control(Kind::Image, "Image1"), control(Kind::Label, "Label7", "Amber"),
-                control(Kind::Label, "Label8", "Organizer"), control(Kind::Label, "Label1", VendorAddress)}},
+            {control(Kind::Image, "Image1"), control(Kind::Label, "Label7", QStringLiteral("Amber")),
+                control(Kind::Label, "Label8", QStringLiteral("Organizer")),
+                control(Kind::Label, "Label1", QLatin1String(VendorAddress))}},
         {Detail,
-            {control(Kind::Label, "Label6", "Category"), control(Kind::Text, "txtCatName"),
-                control(Kind::Text, "txtTaskName"), control(Kind::Label, "Label2", "Periority"),
-                control(Kind::Text, "txtTaskPeriority"), control(Kind::Label, "Label3", "Status"),
-                control(Kind::Text, "txtTaskStatus"), control(Kind::Label, "Label4", "Due date"),
-                control(Kind::Text, "txtTaskDueDate"), control(Kind::Label, "Label5", "Description"),
+            {control(Kind::Label, "Label6", drTasks::tr("Category")), control(Kind::Text, "txtCatName"),
+                control(Kind::Text, "txtTaskName"), control(Kind::Label, "Label2", drTasks::tr("Periority")),
+                control(Kind::Text, "txtTaskPeriority"),
+                control(Kind::Label, "Label3", drTasks::tr("Status")), control(Kind::Text, "txtTaskStatus"),
+                control(Kind::Label, "Label4", drTasks::tr("Due date")),
+                control(Kind::Text, "txtTaskDueDate"),
+                control(Kind::Label, "Label5", drTasks::tr("Description")),
                 control(Kind::Text, "txtTaskDesc"), control(Kind::Line, "Line2")}},
         {QStringLiteral("PageFooter"), {}}, {QStringLiteral("ReportFooter"), {}}};
 }
@@ -91,8 +94,8 @@ void drTasks::printTasks(const TaskFilter& filter, QWidget* owner)
     ReportWindow& window = loadedWindow();
     bindFields();
     // A report may stay open for long: read to its end, the record set holds no lock on the data.
-    ReportContent content{QStringLiteral("Tasks Report"), QImage(QStringLiteral(":/logo/logo-96.png")),
-        m_sections, readRecords(records)};
+    ReportContent content{
+        tr("Tasks Report"), QImage(QStringLiteral(":/logo/logo-96.png")), m_sections, readRecords(records)};
     forFinalizing(std::move(connection), std::move(records));
     window.setContent(std::move(content));
     if (m_services.alwaysOnTop()) {
@@ -153,10 +156,9 @@ ReportWindow& drTasks::loadedWindow()
         m_window = m_makeWindow ? m_makeWindow(*this) : nullptr;
     }
     if (m_window == nullptr) {
-        throw RuntimeError(QCoreApplication::translate("drTasks",
-            "The report cannot be shown: the module \"ambertask_report\" is missing from the program's "
-            "folder "
-            "or damaged."));
+        throw RuntimeError(tr("The report cannot be shown: the module \"ambertask_report\" is missing from "
+                              "the program's folder "
+                              "or damaged."));
     }
     return *m_window;
 }
@@ -181,7 +183,7 @@ QString drTasks::choosePdfFile(QWidget* owner)
 {
     const CheckerPause pause(m_services.checkerTimer);
     FileDialogRequest request;
-    request.filter = QCoreApplication::translate("drTasks", "PDF Files (*.pdf)|*.pdf");
+    request.filter = tr("PDF Files (*.pdf)|*.pdf");
     request.fileName = QStringLiteral("Tasks Report.pdf");
     request.initialFolder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     request.promptBeforeOverwriting = true;
@@ -192,8 +194,7 @@ QString drTasks::choosePdfFile(QWidget* owner)
     file += QStringLiteral(".pdf");
     // The dialog has asked about the name without its ending.
     const bool replaces = QFileInfo::exists(file);
-    const QString question =
-        QCoreApplication::translate("drTasks", "\"%1\" already exists. Do you want to replace it?").arg(file);
+    const QString question = tr("\"%1\" already exists. Do you want to replace it?").arg(file);
     return !replaces || m_services.messages.ask(owner, question) ? file : QString();
 }
 

@@ -6,6 +6,7 @@
 #include "report/ReportWindow.h"
 #include "ui/FormServices.h"
 
+#include <QCoreApplication>
 #include <map>
 #include <optional>
 
@@ -15,6 +16,8 @@ std::unique_ptr<ReportWindow> loadReportWindow(ReportHost& host);
 /// The report of tasks. One instance serves all print runs: a further run shows its tasks in the same window.
 class drTasks final : private ReportHost
 {
+    Q_DECLARE_TR_FUNCTIONS(drTasks)
+
 public:
     drTasks(const FormServices& services, ReportWindowFactory makeWindow);
     ~drTasks() override;

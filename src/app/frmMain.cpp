@@ -75,7 +75,7 @@ QWidget* frmMain::makeHeader()
     addLink("lblAmberHeader", QStringLiteral("Amber"), true);
     addLink("lblOrganizerHeader", QStringLiteral("Organizer"), false);
     layout->addStretch();
-    auto* version = new QLabel(QStringLiteral("Version 1.1"));
+    auto* version = new QLabel(tr("Version 1.1"));
     version->setObjectName(QStringLiteral("lblVersionHeader"));
     layout->addWidget(version, 0, Qt::AlignBottom);
     // The way to the tray menu on a desktop that has no notification area.
@@ -123,7 +123,7 @@ void frmMain::Form_Load()
     if (m_ending) {
         return;
     }
-    m_trayIcon.add(windowIcon(), QStringLiteral("Ambertaks"), m_trayMenu);
+    m_trayIcon.add(windowIcon(), tr("Ambertaks"), m_trayMenu);
     if (!m_settings.minimize_on_start) {
         if (m_settings.always_on_top) {
             makeTopmost(this);

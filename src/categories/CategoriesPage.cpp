@@ -117,7 +117,7 @@ QIcon CategoriesPage::customPicture(const ClsCategory& category)
 void CategoriesPage::writeIconNumber(ClsCategory& category, int number)
 {
     try {
-        category.setIconId(narrowId(number - 1, QStringLiteral("icon number")));
+        category.setIconId(narrowId(number - 1, QT_TRANSLATE_NOOP("OverflowError", "icon number")));
     } catch (const OverflowError& error) {
         note(QStringLiteral("/overflow"), error.text());
         return;
@@ -213,7 +213,8 @@ void CategoriesPage::btnDeleteCat_Click()
     if (!m_services.messages.ask(window(), question)) {
         return;
     }
-    ClsCategory(m_services.engine).DeleteById(narrowId(id, QStringLiteral("category id")));
+    ClsCategory(m_services.engine)
+        .DeleteById(narrowId(id, QT_TRANSLATE_NOOP("OverflowError", "category id")));
 
     // The list may have been rebuilt while the question was open.
     if (const int row = rowOf(id); row >= 0) {

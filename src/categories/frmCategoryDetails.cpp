@@ -77,7 +77,7 @@ void frmCategoryDetails::EmptyForm()
 
 void frmCategoryDetails::SetTag(const QString& tag)
 {
-    const qint16 id = narrowId(tag.toLongLong(), QStringLiteral("category id"));
+    const qint16 id = narrowId(tag.toLongLong(), QT_TRANSLATE_NOOP("OverflowError", "category id"));
     const std::optional<ClsCategory> category = ClsCategory(m_services.engine).GetCatById(id);
     if (!category) {
         throw RuntimeError(tr("The category no longer exists."));
@@ -183,7 +183,7 @@ void frmCategoryDetails::btnOk_Click()
     } else {
         requireEditedCategory();
         ClsCategory category = enteredCategory();
-        category.setId(narrowId(m_tag.toLongLong(), QStringLiteral("category id")));
+        category.setId(narrowId(m_tag.toLongLong(), QT_TRANSLATE_NOOP("OverflowError", "category id")));
         category.Update();
     }
     emit categoryStored();
@@ -236,7 +236,7 @@ QString frmCategoryDetails::storeCustomPicture() const
 void frmCategoryDetails::requireEditedCategory() const
 {
     // An update of a category that is gone writes nothing and would lose the input unnoticed.
-    const qint16 id = narrowId(m_tag.toLongLong(), QStringLiteral("category id"));
+    const qint16 id = narrowId(m_tag.toLongLong(), QT_TRANSLATE_NOOP("OverflowError", "category id"));
     if (!ClsCategory(m_services.engine).GetCatById(id)) {
         throw RuntimeError(tr("The category no longer exists."));
     }

@@ -24,7 +24,7 @@ public:
     void read(const RecordSet& records, ClsCategory& category) const
     {
         category.setCatName(records.text(m_name));
-        category.setId(narrowId(records.int32(m_id), QStringLiteral("category id")));
+        category.setId(narrowId(records.int32(m_id), QT_TRANSLATE_NOOP("OverflowError", "category id")));
         category.setIconId(records.int16(m_icon));
         category.setDescription(records.text(m_description));
         category.setIsCustomIcon(records.flag(m_isCustomIcon));

@@ -42,8 +42,8 @@ public:
             m_text += QLatin1String(" <now()");
         } else {
             // The engine would take the unfinished clause for a condition that every task meets.
-            throw DatabaseError(DatabaseError::Kind::Statement,
-                QStringLiteral("The statement is unfinished: %1").arg(m_text));
+            throw DatabaseError(
+                DatabaseError::Kind::Statement, ClsTask::tr("The statement is unfinished: %1").arg(m_text));
         }
     }
     void addDateRange(Moment fromDate, Moment toDate)
@@ -121,7 +121,8 @@ public:
 
     void read(const RecordSet& records, ClsTask& task) const
     {
-        task.m_categoryId = narrowId(records.int32(m_category), QStringLiteral("category id"));
+        task.m_categoryId =
+            narrowId(records.int32(m_category), QT_TRANSLATE_NOOP("OverflowError", "category id"));
         task.m_texts.assign(
             {records.utf8(m_name), records.utf8(m_description), records.utf8(m_sound), records.utf8(m_file)});
         task.m_status = records.int32(m_status);

@@ -4,7 +4,7 @@
 #include "platform/Moment.h"
 #include "platform/database/DatabaseEngine.h"
 
-#include <QString>
+#include <QCoreApplication>
 #include <optional>
 #include <vector>
 
@@ -12,6 +12,8 @@
 /// of its own and closes it; all throw DatabaseError. The codes stand in TaskCodes.h.
 class ClsTask
 {
+    Q_DECLARE_TR_FUNCTIONS(ClsTask)
+
 public:
     /// `engine` outlives the object and its copies.
     explicit ClsTask(const DatabaseEngine& engine);

@@ -16,7 +16,7 @@ public:
     QIcon icon(const QFileInfo& entry) const override { return icon(entry.isDir() ? Folder : File); }
     QString type(const QFileInfo& entry) const override
     {
-        return entry.isDir() ? QFileDialog::tr("Folder") : entry.suffix();
+        return entry.isDir() ? FileDialogs::tr("Folder") : entry.suffix();
     }
 };
 
@@ -67,7 +67,7 @@ QStringList nameFilters(const FileDialogRequest& request)
     }
 #ifndef Q_OS_WIN
     if (request.executables) {
-        filters.append(QFileDialog::tr("All Files (*)"));
+        filters.append(FileDialogs::tr("All Files (*)"));
     }
 #endif
     return filters;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QCoreApplication>
 #include <QStringList>
 
 class QWidget;
@@ -24,6 +24,8 @@ QStringList nameFilters(const FileDialogRequest& request);
 /// The file dialogs of the program, modal to it.
 class FileDialogs
 {
+    Q_DECLARE_TR_FUNCTIONS(FileDialogs)
+
 public:
     FileDialogs() = default;
     virtual ~FileDialogs() = default;

@@ -89,7 +89,7 @@ void copyToNewFile(const QString& source, const QString& target, QFileDevice::Pe
 {
     // A pipe or a device would never end.
     if (!QFileInfo(source).isFile()) {
-        fail(source, QStringLiteral("it is not a file"));
+        fail(source, FileError::tr("it is not a file"));
     }
     QFile from(source);
     if (!from.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
@@ -120,7 +120,7 @@ void moveOver(const QString& file, const QString& target)
     const QString place = resolvedPath(target);
     const QFileInfo present(place);
     if (present.exists() && !present.isFile()) {
-        fail(place, QStringLiteral("it is not a file"));
+        fail(place, FileError::tr("it is not a file"));
     }
     std::error_code error;
     std::filesystem::rename(QFileInfo(file).filesystemFilePath(), present.filesystemFilePath(), error);
@@ -133,7 +133,7 @@ void moveOver(const QString& file, const QString& target)
 void replaceByCopy(const QString& source, const QString& target, QFileDevice::Permissions permissions)
 {
     if (target.isEmpty()) {
-        fail(target, QStringLiteral("there is no file name"));
+        fail(target, FileError::tr("there is no file name"));
     }
     const QString beside = QFileInfo(resolvedPath(target)).absolutePath() + QStringLiteral("/.ambertask-")
         + QUuid::createUuid().toString(QUuid::Id128);

@@ -7,6 +7,8 @@
 /// A file that could not be copied or replaced.
 class FileError : public RuntimeError
 {
+    Q_DECLARE_TR_FUNCTIONS(FileError)
+
 public:
     using RuntimeError::RuntimeError;
 };

@@ -1,15 +1,27 @@
 #include "platform/MessageBoxes.h"
 
+#include <QAbstractButton>
 #include <QMessageBox>
 
 namespace
 {
+
+void name(const QMessageBox& box, QMessageBox::StandardButton which, const QString& caption)
+{
+    if (QAbstractButton* button = box.button(which)) {
+        button->setText(caption);
+    }
+}
 
 QMessageBox::StandardButton show(
     QWidget* owner, QMessageBox::Icon icon, const QString& text, QMessageBox::StandardButtons buttons)
 {
     QMessageBox box(icon, QStringLiteral("Ambertask"), text, buttons, owner);
     box.setTextFormat(Qt::PlainText);
+    // The toolkit's own captions follow a catalogue of the system that may be missing.
+    name(box, QMessageBox::Ok, MessageBoxes::tr("OK"));
+    name(box, QMessageBox::Yes, MessageBoxes::tr("&Yes"));
+    name(box, QMessageBox::No, MessageBoxes::tr("&No"));
     // A message has to be seen above a topmost owner.
     if (owner != nullptr && owner->window()->windowFlags().testFlag(Qt::WindowStaysOnTopHint)) {
         box.setWindowFlag(Qt::WindowStaysOnTopHint);

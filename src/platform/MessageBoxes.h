@@ -1,12 +1,14 @@
 #pragma once
 
-#include <QString>
+#include <QCoreApplication>
 
 class QWidget;
 
 /// The message boxes of the program, titled with the application's title and modal to it. Texts are plain.
 class MessageBoxes
 {
+    Q_DECLARE_TR_FUNCTIONS(MessageBoxes)
+
 public:
     enum class Icon { None, Information, Exclamation };
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QCoreApplication>
 #include <stdexcept>
 
 /// A failure that ends the current action: what failed and why, as a text for the user.
@@ -14,11 +14,13 @@ public:
 /// A number that does not fit the width in which the program passes it.
 class OverflowError : public RuntimeError
 {
+    Q_DECLARE_TR_FUNCTIONS(OverflowError)
+
 public:
-    /// `what` names the number, such as "task id".
-    OverflowError(const QString& what, qint64 value);
+    /// `what` names the number, such as "task id"; marked with QT_TRANSLATE_NOOP for this class.
+    OverflowError(const char* what, qint64 value);
 };
 
 /// `id` as the 16-bit id that the program passes around.
-/// Throws OverflowError, which names the id, when it does not fit.
-qint16 narrowId(qint64 id, const QString& what);
+/// Throws OverflowError, which names the id by `what`, when it does not fit.
+qint16 narrowId(qint64 id, const char* what);

@@ -2,11 +2,14 @@
 
 #include "platform/ErrorReport.h"
 
+#include <QCoreApplication>
 #include <functional>
 
 /// The run-time error report on the screen: a critical box that offers "Close program" and "Continue".
 class ScreenErrorReport final : public ErrorReport
 {
+    Q_DECLARE_TR_FUNCTIONS(ScreenErrorReport)
+
 public:
     /// `closeProgram` is called when the user chooses to end the program.
     explicit ScreenErrorReport(std::function<void()> closeProgram);

@@ -27,6 +27,11 @@ constexpr auto CheckerInterval = 10000ms;
 constexpr auto FlasherInterval = 1000ms;
 constexpr QSize FirstSize(620, 380);
 
+QString titleFor(int count)
+{
+    return count == 1 ? frmAlerts::tr("1 Reminder") : frmAlerts::tr("%n Reminders", nullptr, count);
+}
+
 /// A message box or a pop-up of the program takes the activation for a while without being another window.
 bool isOwnBoxOpen()
 {
@@ -41,7 +46,7 @@ frmAlerts::frmAlerts(
       m_mmc(std::move(waveBackend), this), m_tmrTasksChecker(this), m_tmrFlasher(this), m_controls(*this)
 {
     setObjectName(QStringLiteral("frmAlerts"));
-    setWindowTitle(tr("%1 Reminders").arg(0));
+    setWindowTitle(titleFor(0));
     resize(FirstSize);
     m_mmc.setObjectName(QStringLiteral("mmc"));
     m_tmrTasksChecker.setObjectName(QStringLiteral("tmrTasksChecker"));
@@ -141,7 +146,7 @@ void frmAlerts::check()
 
 void frmAlerts::redraw(const std::vector<DueReminder>& due)
 {
-    setWindowTitle((due.size() == 1 ? tr("%1 Reminder") : tr("%1 Reminders")).arg(due.size()));
+    setWindowTitle(titleFor(static_cast<int>(due.size())));
     m_reminders.setReminders(due);
     for (const DueReminder& reminder : due) {
         fire(reminder);
@@ -236,7 +241,8 @@ void frmAlerts::btnOpenItem_Click()
 {
     const int row = m_controls.grdTasks->selectedRow();
     if (row >= 0) {
-        m_host.openTask(narrowId(m_reminders.idText(row).toLongLong(), tr("task id")));
+        m_host.openTask(
+            narrowId(m_reminders.idText(row).toLongLong(), QT_TRANSLATE_NOOP("OverflowError", "task id")));
     }
 }
 

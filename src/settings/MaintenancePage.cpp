@@ -162,7 +162,8 @@ MaintenancePage::Criteria MaintenancePage::shownCriteria() const
     shown.taskType = m_opnActiveTasks->isChecked() ? TaskType::Active
         : m_opnAllTasks->isChecked()               ? TaskType::All
                                                    : TaskType::Expired;
-    shown.category = narrowId(selectedNumber(*m_cmbCategories, CategoryFilter::All), tr("category id"));
+    shown.category = narrowId(selectedNumber(*m_cmbCategories, CategoryFilter::All),
+        QT_TRANSLATE_NOOP("OverflowError", "category id"));
     shown.status = selectedNumber(*m_cmbStatus, TaskStatus::All);
     return shown;
 }
@@ -178,7 +179,7 @@ void MaintenancePage::btnDeleteTasksMaintenance_Click()
             tr("There is no tasks according to the selected criteria!"));
         return;
     }
-    if (!m_services.messages.ask(window(), tr("Are you sure you want to delete %1 tasks?").arg(count))) {
+    if (!m_services.messages.ask(window(), tr("Are you sure you want to delete %n tasks?", nullptr, count))) {
         return;
     }
     // The category lists may have been reloaded while the question was open.

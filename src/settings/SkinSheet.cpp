@@ -8,10 +8,9 @@
 namespace
 {
 
-QString say(const char* text)
-{
-    return QCoreApplication::translate("SkinSheet", text);
-}
+struct SkinSheet {
+    Q_DECLARE_TR_FUNCTIONS(SkinSheet)
+};
 
 QString withColors(QStringView sheet, int firstLine, const SkinColors& colors)
 {
@@ -25,7 +24,7 @@ QString withColors(QStringView sheet, int firstLine, const SkinColors& colors)
         line += static_cast<int>(before.count(u'\n'));
         const auto color = colors.find(match.captured(1));
         if (color == colors.end()) {
-            throw SkinLineError(line, say("unknown colour \"$%1\"").arg(match.captured(1)));
+            throw SkinLineError(line, SkinSheet::tr("unknown colour \"$%1\"").arg(match.captured(1)));
         }
         expanded += before;
         expanded += color->name();
@@ -50,8 +49,9 @@ QString withoutCommentsAndStrings(QStringView sheet, int firstLine)
         const QString close = comment ? QStringLiteral("*/") : QString(plain[i]);
         const qsizetype end = plain.indexOf(close, i + (comment ? 2 : 1));
         if (end < 0) {
-            throw SkinLineError(
-                line, comment ? say("a comment has no end") : say("a text in quotes has no end"));
+            throw SkinLineError(line,
+                comment ? SkinSheet::tr("a comment has no end")
+                        : SkinSheet::tr("a text in quotes has no end"));
         }
         const qsizetype last = end + close.size() - 1;
         for (qsizetype blank = i; blank <= last; ++blank) {
@@ -78,7 +78,7 @@ void refuse(const QString& text, int line, const Refusal& refusal)
     if (match.hasMatch()) {
         const qsizetype before = QStringView(text).first(match.capturedStart()).count(u'\n');
         throw SkinLineError(
-            line + static_cast<int>(before), say(refusal.why).arg(match.captured().trimmed()));
+            line + static_cast<int>(before), SkinSheet::tr(refusal.why).arg(match.captured().trimmed()));
     }
 }
 
@@ -140,7 +140,7 @@ void checkDeclarations(const QString& declarations, int line)
                                     .count(u'\n');
         if (!text.isEmpty() && !form.match(text).hasMatch()) {
             throw SkinLineError(line + static_cast<int>(blankLines),
-                say("\"%1\" is no property with a value").arg(text.section(u'\n', 0, 0)));
+                SkinSheet::tr("\"%1\" is no property with a value").arg(text.section(u'\n', 0, 0)));
         }
         line += static_cast<int>(declaration.count(u'\n'));
     }
@@ -158,13 +158,13 @@ void checkRules(const QString& plain, int line)
         const int selectorLine = line + static_cast<int>(QStringView(selectors).first(before).count(u'\n'));
         if (open < 0) {
             if (!trimmed.isEmpty()) {
-                throw SkinLineError(selectorLine, say("expected a rule"));
+                throw SkinLineError(selectorLine, SkinSheet::tr("expected a rule"));
             }
             return;
         }
         const qsizetype nested = plain.indexOf(u'{', open + 1);
         if (trimmed.isEmpty() || close < open || (nested >= 0 && nested < close)) {
-            throw SkinLineError(selectorLine, say("a rule has no selector or no end"));
+            throw SkinLineError(selectorLine, SkinSheet::tr("a rule has no selector or no end"));
         }
         const int bodyLine = line + static_cast<int>(selectors.count(u'\n'));
         const QString declarations = plain.mid(open + 1, close - open - 1);

@@ -1,19 +1,7 @@
 #include "ui/TaskPictures.h"
 
 #include "data/TaskCodes.h"
-
-#include <QCoreApplication>
-
-namespace
-{
-
-QString word(const char* text)
-{
-    // The words are those that the lists of choices show.
-    return QCoreApplication::translate("clsGuiLoader", text);
-}
-
-} // namespace
+#include "ui/clsGuiLoader.h"
 
 int statusPicture(qint32 status)
 {
@@ -51,15 +39,15 @@ QString statusWord(qint32 status)
 {
     switch (status) {
     case TaskStatus::NotStarted:
-        return word("Not Started");
+        return clsGuiLoader::tr("Not Started");
     case TaskStatus::InProgress:
-        return word("In Progress");
+        return clsGuiLoader::tr("In Progress");
     case TaskStatus::Completed:
-        return word("Completed");
+        return clsGuiLoader::tr("Completed");
     case TaskStatus::Waiting:
-        return word("Waiting on someone else");
+        return clsGuiLoader::tr("Waiting on someone else");
     case TaskStatus::Deferred:
-        return word("Deferred");
+        return clsGuiLoader::tr("Deferred");
     default:
         return {};
     }
@@ -69,11 +57,11 @@ QString periorityWord(qint32 periority)
 {
     switch (periority) {
     case TaskPeriority::High:
-        return word("High");
+        return clsGuiLoader::tr("High");
     case TaskPeriority::Normal:
-        return word("Normal");
+        return clsGuiLoader::tr("Normal");
     case TaskPeriority::Low:
-        return word("Low");
+        return clsGuiLoader::tr("Low");
     default:
         return {};
     }

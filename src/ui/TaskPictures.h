@@ -13,7 +13,7 @@ int statusPicture(qint32 status);
 /// The picture of a priority; NoPicture for an unknown code.
 int periorityPicture(qint32 periority);
 
-/// The word for a status; empty for an unknown code.
+/// The word for a status, as the list of choices has it; empty for an unknown code.
 QString statusWord(qint32 status);
-/// The word for a priority; empty for an unknown code.
+/// The word for a priority, as the list of choices has it; empty for an unknown code.
 QString periorityWord(qint32 periority);

@@ -20,7 +20,7 @@ void clsGuiLoader::LoadSortByCombo(QComboBox& combo) const
 void clsGuiLoader::LoadStatusCombo(QComboBox& combo) const
 {
     combo.clear();
-    combo.addItem(tr("All"), TaskStatus::All);
+    combo.addItem(tr("All", "statuses"), TaskStatus::All);
     combo.addItem(tr("Not Started"), TaskStatus::NotStarted);
     combo.addItem(tr("In Progress"), TaskStatus::InProgress);
     combo.addItem(tr("Completed"), TaskStatus::Completed);
@@ -33,7 +33,7 @@ void clsGuiLoader::LoadCategoriesCombo(QComboBox& combo, int index) const
 {
     const std::vector<ClsCategory> categories = ClsCategory(*m_engine).GetAllCategories();
     combo.clear();
-    combo.addItem(tr("All"), CategoryFilter::All);
+    combo.addItem(tr("All", "categories"), CategoryFilter::All);
     for (const ClsCategory& category : categories) {
         combo.addItem(category.CatName(), category.Id());
     }

@@ -54,20 +54,20 @@ QWidget* CompiledHelpWindow::makeBar()
     auto* bar = new QWidget;
     auto* layout = new QHBoxLayout(bar);
     layout->setContentsMargins(0, 0, 0, 0);
-    const auto add = [layout](const char* name, const QString& caption, const QString& toolTip) {
+    const auto add = [layout](const char* name, const QString& caption, const QKeySequence& key) {
         auto* button = new QPushButton(caption);
         button->setObjectName(QLatin1String(name));
-        button->setToolTip(toolTip);
+        button->setToolTip(key.toString(QKeySequence::NativeText));
         button->setAutoDefault(false);
         layout->addWidget(button);
         return button;
     };
-    m_back = add("btnBack", tr("&Back"), tr("Alt+Left"));
-    m_forward = add("btnForward", tr("&Forward"), tr("Alt+Right"));
-    m_home = add("btnHome", tr("&Home"), tr("Alt+Home"));
+    m_back = add("btnBack", tr("&Back"), Qt::ALT | Qt::Key_Left);
+    m_forward = add("btnForward", tr("&Forward"), Qt::ALT | Qt::Key_Right);
+    m_home = add("btnHome", tr("&Home"), Qt::ALT | Qt::Key_Home);
     layout->addStretch();
-    m_smaller = add("btnSmaller", tr("&Smaller text"), tr("Ctrl+-"));
-    m_larger = add("btnLarger", tr("&Larger text"), tr("Ctrl++"));
+    m_smaller = add("btnSmaller", tr("&Smaller text"), Qt::CTRL | Qt::Key_Minus);
+    m_larger = add("btnLarger", tr("&Larger text"), Qt::CTRL | Qt::Key_Plus);
     m_back->setEnabled(false);
     m_forward->setEnabled(false);
     connect(m_back, &QPushButton::clicked, m_topic, &QTextBrowser::backward);

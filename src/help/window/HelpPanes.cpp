@@ -233,7 +233,7 @@ void SearchPane::search()
     const int found = m_list->count();
     m_result->setText(found == 0 ? tr("No topic contains all of these words.")
             : found == 1         ? tr("1 topic found.")
-                                 : tr("%1 topics found.").arg(found));
+                                 : tr("%n topics found.", nullptr, found));
     if (found > 0) {
         m_list->setCurrentRow(0);
         m_list->setFocus();

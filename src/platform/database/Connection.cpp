@@ -49,13 +49,13 @@ Connection::State Connection::state() const
 void Connection::open(const QString& user, const QString& password, int)
 {
     if (m_session != nullptr) {
-        refuse(QStringLiteral("The connection is open already."));
+        refuse(tr("The connection is open already."));
     }
     if (!user.isEmpty() || !password.isEmpty()) {
-        refuse(QStringLiteral("The data file knows no users and no passwords."));
+        refuse(tr("The data file knows no users and no passwords."));
     }
     if (!m_connectionString.startsWith(Prefix)) {
-        refuse(QStringLiteral("The connection string \"%1\" names no data file.").arg(m_connectionString));
+        refuse(tr("The connection string \"%1\" names no data file.").arg(m_connectionString));
     }
     m_session = std::make_unique<Session>(m_connectionString.mid(Prefix.size()), *m_engine->clock);
     if (m_engine->listener != nullptr) {
@@ -66,7 +66,7 @@ void Connection::open(const QString& user, const QString& password, int)
 RecordSet Connection::execute(const QString& statement)
 {
     if (m_session == nullptr) {
-        refuse(QStringLiteral("The connection to the data file is not open."));
+        refuse(tr("The connection to the data file is not open."));
     }
     if (m_engine->listener != nullptr) {
         m_engine->listener->statementExecuted(statement);
@@ -77,7 +77,7 @@ RecordSet Connection::execute(const QString& statement)
 void Connection::commit()
 {
     if (m_session == nullptr) {
-        refuse(QStringLiteral("The connection to the data file is not open."));
+        refuse(tr("The connection to the data file is not open."));
     }
     m_session->commit();
 }

@@ -3,6 +3,7 @@
 #include "platform/database/DatabaseEngine.h"
 #include "platform/database/RecordSet.h"
 
+#include <QCoreApplication>
 #include <memory>
 
 class Session;
@@ -17,6 +18,8 @@ class Session;
 /// or of the engine's settings. The file must exist: it is never created. Movable; used on one thread.
 class Connection
 {
+    Q_DECLARE_TR_FUNCTIONS(Connection)
+
 public:
     enum class State { Closed = 0, Open = 1 };
 

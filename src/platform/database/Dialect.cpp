@@ -3,21 +3,28 @@
 #include "platform/Moment.h"
 #include "platform/database/DatabaseError.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 
 namespace
 {
 
+struct Dialect {
+    Q_DECLARE_TR_FUNCTIONS(Dialect)
+};
+
 constexpr std::size_t ShownLiteralLength = 60;
 
-[[noreturn]] void refuseLiteral(std::string_view literal, const QString& why)
+/// `sentence` has a place for the literal.
+[[noreturn]] void refuseLiteral(std::string_view literal, const QString& sentence)
 {
     const bool isLong = literal.size() > ShownLiteralLength;
     const std::string_view shown = literal.substr(0, ShownLiteralLength);
-    const QString text = QString::fromUtf8(shown.data(), static_cast<qsizetype>(shown.size()));
-    throw DatabaseError(DatabaseError::Kind::Statement,
-        QStringLiteral("The date literal %1%2 %3.")
-            .arg(text, isLong ? QStringLiteral("...") : QString(), why));
+    QString text = QString::fromUtf8(shown.data(), static_cast<qsizetype>(shown.size()));
+    if (isLong) {
+        text += QStringLiteral("...");
+    }
+    throw DatabaseError(DatabaseError::Kind::Statement, sentence.arg(text));
 }
 
 /// Reads a literal from left to right; every step answers whether the text goes on as asked.
@@ -68,12 +75,13 @@ Moment literalMoment(std::string_view literal)
             && reader.number(2, 2, minutes) && reader.atEnd();
     }
     if (!wellFormed) {
-        refuseLiteral(literal, QStringLiteral("is not of the form #month/day/year hours:minutes#"));
+        refuseLiteral(
+            literal, Dialect::tr("The date literal %1 is not of the form #month/day/year hours:minutes#."));
     }
     const std::chrono::year_month_day date(std::chrono::year(year),
         std::chrono::month(static_cast<unsigned>(month)), std::chrono::day(static_cast<unsigned>(day)));
     if (!date.ok() || hours > 23 || minutes > 59) {
-        refuseLiteral(literal, QStringLiteral("names no existing day and time"));
+        refuseLiteral(literal, Dialect::tr("The date literal %1 names no existing day and time."));
     }
     return makeMoment(date, std::chrono::hours(hours) + std::chrono::minutes(minutes));
 }
@@ -111,7 +119,7 @@ std::string translateDialect(std::string_view statement)
 {
     if (statement.find('\0') != std::string_view::npos) {
         throw DatabaseError(
-            DatabaseError::Kind::Statement, QStringLiteral("The statement holds a zero character."));
+            DatabaseError::Kind::Statement, Dialect::tr("The statement holds a zero character."));
     }
     std::string translated;
     translated.reserve(statement.size() + 64);
@@ -128,7 +136,7 @@ std::string translateDialect(std::string_view statement)
         }
         const std::size_t close = statement.find('#', position + 1);
         if (close == std::string_view::npos) {
-            refuseLiteral(statement.substr(position), QStringLiteral("is not closed"));
+            refuseLiteral(statement.substr(position), Dialect::tr("The date literal %1 is not closed."));
         }
         translated.append(statement.substr(copied, position - copied));
         translated += '\'';

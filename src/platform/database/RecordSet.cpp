@@ -20,12 +20,11 @@ QString quoted(std::string_view text)
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-[[noreturn]] void refuseValue(sqlite3_stmt* statement, int field, const QString& why)
+QString columnName(sqlite3_stmt* statement, int field)
 {
     const char* table = sqlite3_column_table_name(statement, field);
     const QString column = QString::fromUtf8(sqlite3_column_name(statement, field));
-    refuse(QStringLiteral("The value of column \"%1\" %2.")
-               .arg(table == nullptr ? column : QString::fromUtf8(table) + QLatin1Char('.') + column, why));
+    return table == nullptr ? column : QString::fromUtf8(table) + QLatin1Char('.') + column;
 }
 
 bool isSameName(const char* name, std::string_view wanted)
@@ -48,11 +47,13 @@ bool isNamed(sqlite3_stmt* statement, int field, std::string_view name)
 qint64 integer(sqlite3_stmt* statement, int field, qint64 min, qint64 max)
 {
     if (sqlite3_column_type(statement, field) != SQLITE_INTEGER) {
-        refuseValue(statement, field, QStringLiteral("is no whole number"));
+        refuse(RecordSet::tr("The value of column \"%1\" is no whole number.")
+                   .arg(columnName(statement, field)));
     }
     const qint64 value = sqlite3_column_int64(statement, field);
     if (value < min || value > max) {
-        refuseValue(statement, field, QStringLiteral("is out of range: %1").arg(value));
+        refuse(RecordSet::tr("The value of column \"%1\" is out of range: %2.")
+                   .arg(columnName(statement, field), QString::number(value)));
     }
     return value;
 }
@@ -88,7 +89,7 @@ RecordSet::RecordSet(std::unique_ptr<Cursor> cursor) : m_cursor(std::move(cursor
 void RecordSet::moveNext()
 {
     if (m_atEnd || m_cursor->statement() == nullptr) {
-        refuse(QStringLiteral("There is no current record."));
+        refuse(tr("There is no current record."));
     }
     m_atEnd = true;
     m_atEnd = !m_cursor->step();
@@ -103,12 +104,12 @@ int RecordSet::field(std::string_view name) const
             continue;
         }
         if (found != -1) {
-            refuse(QStringLiteral("The field name \"%1\" is ambiguous.").arg(quoted(name)));
+            refuse(tr("The field name \"%1\" is ambiguous.").arg(quoted(name)));
         }
         found = i;
     }
     if (found == -1) {
-        refuse(QStringLiteral("There is no field \"%1\".").arg(quoted(name)));
+        refuse(tr("There is no field \"%1\".").arg(quoted(name)));
     }
     return found;
 }
@@ -116,10 +117,10 @@ int RecordSet::field(std::string_view name) const
 void RecordSet::requireField(int field) const
 {
     if (m_atEnd || m_cursor->statement() == nullptr) {
-        refuse(QStringLiteral("There is no current record."));
+        refuse(tr("There is no current record."));
     }
     if (field < 0 || field >= sqlite3_column_count(m_cursor->statement())) {
-        refuse(QStringLiteral("There is no field number %1.").arg(field));
+        refuse(tr("There is no field number %1.").arg(field));
     }
 }
 
@@ -129,12 +130,13 @@ std::string_view RecordSet::utf8(int field) const
     sqlite3_stmt* statement = m_cursor->statement();
     const int type = sqlite3_column_type(statement, field);
     if (type == SQLITE_NULL || type == SQLITE_BLOB) {
-        refuseValue(
-            statement, field, type == SQLITE_NULL ? QStringLiteral("is null") : QStringLiteral("is no text"));
+        refuse((type == SQLITE_NULL ? tr("The value of column \"%1\" is null.")
+                                    : tr("The value of column \"%1\" is no text."))
+                   .arg(columnName(statement, field)));
     }
     const unsigned char* text = sqlite3_column_text(statement, field);
     if (text == nullptr) {
-        refuseValue(statement, field, QStringLiteral("does not fit into memory"));
+        refuse(tr("The value of column \"%1\" does not fit into memory.").arg(columnName(statement, field)));
     }
     return {reinterpret_cast<const char*>(text),
         static_cast<std::size_t>(sqlite3_column_bytes(statement, field))};
@@ -167,8 +169,8 @@ Moment RecordSet::moment(int field) const
 {
     const std::optional<Moment> moment = momentFromStoredText(utf8(field));
     if (!moment) {
-        refuseValue(
-            m_cursor->statement(), field, QStringLiteral("is no date and time: ") + text(field).left(40));
+        refuse(tr("The value of column \"%1\" is no date and time: %2.")
+                   .arg(columnName(m_cursor->statement(), field), text(field).left(40)));
     }
     return *moment;
 }

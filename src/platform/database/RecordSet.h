@@ -2,7 +2,7 @@
 
 #include "platform/Moment.h"
 
-#include <QString>
+#include <QCoreApplication>
 #include <memory>
 #include <string_view>
 
@@ -18,6 +18,8 @@ class Cursor;
 /// row cannot be read.
 class RecordSet
 {
+    Q_DECLARE_TR_FUNCTIONS(RecordSet)
+
 public:
     RecordSet();
     RecordSet(RecordSet&&) noexcept;

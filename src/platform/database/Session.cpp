@@ -120,18 +120,18 @@ void Session::openFile()
     // The engine itself would take an empty file for a new database and report the others less clearly.
     const QFileInfo file(m_path);
     if (!file.exists()) {
-        failToOpen(QStringLiteral("it does not exist"));
+        failToOpen(tr("it does not exist"));
     }
     if (file.isDir()) {
-        failToOpen(QStringLiteral("it is a folder"));
+        failToOpen(tr("it is a folder"));
     }
     if (file.size() == 0) {
-        failToOpen(QStringLiteral("it is empty"));
+        failToOpen(tr("it is empty"));
     }
     const int code = sqlite3_open_v2(QFile::encodeName(m_path).constData(), &m_database,
         SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
     if (m_database == nullptr) {
-        failToOpen(QStringLiteral("out of memory"));
+        failToOpen(tr("out of memory"));
     }
     check(code);
 }
@@ -200,7 +200,7 @@ std::unique_ptr<Cursor> Session::start(const QString& statement)
 {
     if (m_undone) {
         throw DatabaseError(Kind::Storage,
-            QStringLiteral("The data file \"%1\" failed before; the statement was not run: %2")
+            tr("The data file \"%1\" failed before; the statement was not run: %2")
                 .arg(m_path, shortened(statement)));
     }
     auto cursor = std::make_unique<Cursor>(*this, prepare(statement));
@@ -216,9 +216,7 @@ sqlite3_stmt* Session::prepare(const QString& statement)
     const std::string sql = translateDialect(statement.toStdString());
     if (sql.size() >= LargestStatement) {
         throw DatabaseError(Kind::Statement,
-            QStringLiteral("The statement is too long (%1 bytes): %2")
-                .arg(sql.size())
-                .arg(shortened(statement)));
+            tr("The statement is too long (%1 bytes): %2").arg(sql.size()).arg(shortened(statement)));
     }
     sqlite3_stmt* prepared = nullptr;
     const char* tail = nullptr;
@@ -228,12 +226,12 @@ sqlite3_stmt* Session::prepare(const QString& statement)
         fail(code, statement);
     }
     if (prepared == nullptr) {
-        throw DatabaseError(Kind::Statement, QStringLiteral("The statement is empty."));
+        throw DatabaseError(Kind::Statement, tr("The statement is empty."));
     }
     if (holdsStatement(tail)) {
         sqlite3_finalize(prepared);
-        throw DatabaseError(Kind::Statement,
-            QStringLiteral("The text holds more than one statement: %1").arg(shortened(statement)));
+        throw DatabaseError(
+            Kind::Statement, tr("The text holds more than one statement: %1").arg(shortened(statement)));
     }
     return prepared;
 }
@@ -250,22 +248,23 @@ void Session::begin()
 {
     const int code = executeOwn("BEGIN IMMEDIATE");
     if (code != SQLITE_OK) {
-        failStorage(code, QStringLiteral("could not be written"));
+        failStorage(tr("The data file \"%1\" could not be written: %2.").arg(m_path, reason(code)));
     }
 }
 
 void Session::commit()
 {
     if (m_undone) {
-        throw DatabaseError(Kind::Storage,
-            QStringLiteral("The data file \"%1\" failed before; nothing was stored.").arg(m_path));
+        throw DatabaseError(
+            Kind::Storage, tr("The data file \"%1\" failed before; nothing was stored.").arg(m_path));
     }
     if (sqlite3_get_autocommit(m_database) != 0) {
         return;
     }
     const int code = executeOwn("COMMIT");
     if (code != SQLITE_OK) {
-        failStorage(code, QStringLiteral("could not be written; nothing was stored"));
+        failStorage(tr("The data file \"%1\" could not be written; nothing was stored: %2.")
+                        .arg(m_path, reason(code)));
     }
 }
 
@@ -286,24 +285,23 @@ void Session::releaseCursors()
 
 void Session::failToOpen(const QString& why)
 {
-    throw DatabaseError(
-        Kind::Storage, QStringLiteral("The data file \"%1\" could not be opened: %2.").arg(m_path, why));
+    throw DatabaseError(Kind::Storage, tr("The data file \"%1\" could not be opened: %2.").arg(m_path, why));
 }
 
-void Session::failStorage(int code, const QString& what)
+void Session::failStorage(const QString& text)
 {
-    const QString why = reason(code);
     undo();
-    throw DatabaseError(Kind::Storage, QStringLiteral("The data file \"%1\" %2: %3.").arg(m_path, what, why));
+    throw DatabaseError(Kind::Storage, text);
 }
 
 void Session::fail(int code, const QString& statement)
 {
     if (isStatementError(code)) {
-        throw DatabaseError(Kind::Statement,
-            QStringLiteral("The statement failed: %1.\n%2").arg(reason(code), shortened(statement)));
+        throw DatabaseError(
+            Kind::Statement, tr("The statement failed: %1.\n%2").arg(reason(code), shortened(statement)));
     }
-    failStorage(code, QStringLiteral("failed at the statement\n%1\n").arg(shortened(statement)));
+    failStorage(tr("The data file \"%1\" failed at the statement\n%2\n: %3.")
+                    .arg(m_path, shortened(statement), reason(code)));
 }
 
 QString Session::reason(int code) const
@@ -312,7 +310,7 @@ QString Session::reason(int code) const
     switch (code & 0xff) {
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
-        return QStringLiteral("another program is using it (%1)").arg(message);
+        return tr("another program is using it (%1)").arg(message);
     case SQLITE_CANTOPEN:
     case SQLITE_IOERR: {
         const int systemCode = sqlite3_system_errno(m_database);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QCoreApplication>
 #include <memory>
 #include <string>
 #include <vector>
@@ -39,6 +39,8 @@ private:
 /// thread.
 class Session
 {
+    Q_DECLARE_TR_FUNCTIONS(Session)
+
 public:
     /// Opens an existing file and reads its header. `clock` outlives the session. Throws DatabaseError
     /// (Storage).
@@ -71,7 +73,7 @@ private:
     void begin();
     void undo();
     [[noreturn]] void failToOpen(const QString& why);
-    [[noreturn]] void failStorage(int code, const QString& what);
+    [[noreturn]] void failStorage(const QString& text);
     [[noreturn]] void fail(int code, const QString& statement);
     QString reason(int code) const;
 
