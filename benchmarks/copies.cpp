@@ -1,0 +1,36 @@
+// Backup and restore of a large data file.
+#include "limits/PlainCopy.h"
+#include "settings/DataFileCopies.h"
+#include "support/Bench.h"
+#include "support/TaskFile.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+
+int main(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    Bench bench(argc, argv);
+    const TaskFile file({bench.size(1'150'000, 100)});
+    const double size = static_cast<double>(QFileInfo(file.path()).size()) / 1e6;
+    const DataFileCopies copies(file.engine());
+    const QString backup = file.folder() + QStringLiteral("/backup.abk");
+    const QString plain = file.folder() + QStringLiteral("/plain");
+    // To a new file each time: where one is replaced, the memory of the old one serves the new one.
+    const auto copy = [&] {
+        QFile::remove(plain);
+        plainCopy(file.path(), plain);
+    };
+    const auto backUp = [&] {
+        QFile::remove(backup);
+        copies.backUpTo(backup);
+    };
+    bench.ratio(QStringLiteral("Backup of %1 MB; plain copy with a flush").arg(size, 0, 'f', 0),
+        bench.alternate(3, backUp, copy), 1.1);
+    bench.ratio(QStringLiteral("Restore of %1 MB; plain copy with a flush").arg(size, 0, 'f', 0),
+        bench.alternate(
+            3, [&] { copies.restoreFrom(backup); }, copy),
+        1.1);
+    return 0;
+}

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QString>
+
+// What the engine does at the least: the same statements through its C interface, on a fresh connection each.
+// The references of the benchmarks; they throw std::runtime_error.
+
+/// Runs the query and reads every column of every row. `now` is what now() answers. How many rows there were.
+int bareScan(const QString& file, const QString& query, const QString& now = {});
+/// Runs the statements in one transaction that is as durable as the program's.
+void bareWrite(const QString& file, const QStringList& statements, const QString& now = {});

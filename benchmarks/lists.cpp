@@ -1,0 +1,146 @@
+// The task list: reading, showing, filtering, scrolling, and the memory that it takes.
+#include "app/TaskFilter.h"
+#include "limits/BareEngine.h"
+#include "support/Bench.h"
+#include "support/BenchProgram.h"
+
+#include <QApplication>
+#include <QScrollBar>
+
+namespace
+{
+
+const QString Join =
+    QStringLiteral("select * from tasks inner join categories on tasks.cat_id=categories.cat_id");
+
+QString count(int tasks)
+{
+    return QLocale(QLocale::English).toString(tasks);
+}
+
+void benchReading(Bench& bench, TaskFile& file, int tasks, int repetitions)
+{
+    const auto medians = bench.alternate(
+        repetitions, [&] { TaskFilter().tasks(file.engine()); }, [&] { bareScan(file.path(), Join); });
+    bench.ratio(QStringLiteral("GetTasks, all of %1 tasks; bare scan").arg(count(tasks)), medians, 1.15);
+}
+
+void benchFilter(
+    Bench& bench, TaskFile& file, const QString& name, const TaskFilter& filter, const QString& where)
+{
+    const QString now = QString::fromStdString(storedText(TaskFile::now()));
+    const auto medians = bench.alternate(
+        9, [&] { filter.tasks(file.engine()); }, [&] { bareScan(file.path(), Join + where, now); });
+    bench.ratio(QStringLiteral("GetTasks, %1, keeps %2; bare scan of the statement")
+                    .arg(name, count(static_cast<int>(filter.tasks(file.engine()).size()))),
+        medians, 1.3);
+}
+
+void benchFilters(Bench& bench, TaskFile& file)
+{
+    TaskFilter category;
+    category.category = TaskFile::RareCategory;
+    benchFilter(
+        bench, file, QStringLiteral("one category"), category, QStringLiteral(" where categories.cat_id= 4"));
+    TaskFilter status;
+    status.status = TaskStatus::Deferred;
+    benchFilter(bench, file, QStringLiteral("one status"), status, QStringLiteral(" where task_status = 4"));
+    TaskFilter day;
+    day.isDateRange = true;
+    day.fromDate = day.toDate = startOfDay(TaskFile::now());
+    benchFilter(bench, file, QStringLiteral("one day"), day,
+        QStringLiteral(
+            " where task_due_date >= '2026-01-15 00:00:00' and task_due_date <= '2026-01-15 23:59:00' "));
+    TaskFilter expired = status;
+    expired.taskType = TaskType::Expired;
+    benchFilter(bench, file, QStringLiteral("one status, expired"), expired,
+        QStringLiteral(" where task_status = 4 and task_due_date  <now()"));
+}
+
+void showWhole(BenchProgram& shown)
+{
+    shown.program.mainWindow().LoadTasks();
+    shown.list()->viewport()->repaint();
+    QCoreApplication::processEvents();
+}
+
+void benchShowing(Bench& bench, TaskFile& file, int tasks)
+{
+    BenchProgram shown(file);
+    const auto medians = bench.alternate(
+        9, [&] { showWhole(shown); }, [&] { bareScan(file.path(), Join); });
+    bench.ratio(QStringLiteral("List on screen after a filter change, %1 tasks; bare scan").arg(count(tasks)),
+        medians, 1.3);
+}
+
+void benchMemory(Bench& bench, TaskFile& file, int tasks)
+{
+    TaskFile empty({});
+    double before = 0;
+    double after = 0;
+    {
+        BenchProgram shown(empty);
+        showWhole(shown);
+        returnFreedMemory();
+        before = proportionalBytes();
+        file.run(QStringLiteral("vacuum into '%1'").arg(empty.path() + QStringLiteral(".full")));
+        QFile::remove(empty.path());
+        QFile::rename(empty.path() + QStringLiteral(".full"), empty.path());
+        showWhole(shown);
+        after = proportionalBytes();
+    }
+    bench.value(QStringLiteral("Memory of %1 listed tasks").arg(count(tasks)), (after - before) / 1e6, 45,
+        QStringLiteral("MB"));
+}
+
+/// A frame: one row on, selected, painted.
+double frameMilliseconds(Bench& bench, int tasks)
+{
+    TaskFile file({tasks});
+    BenchProgram shown(file);
+    GridView* list = shown.list();
+    const int frames = bench.size(200, 2);
+    return bench.median(7, [&] {
+        // From the middle: no frame is at an end of the list.
+        for (int i = 0; i < frames; ++i) {
+            list->selectOnly(tasks / 2 + i);
+            list->viewport()->repaint();
+        }
+        for (int i = 0; i < frames; ++i) {
+            list->verticalScrollBar()->setValue(list->verticalScrollBar()->value() - 10);
+            list->viewport()->repaint();
+        }
+    }) / (2 * frames);
+}
+
+void benchScrolling(Bench& bench)
+{
+    const int many = bench.size(1'000'000, 1000);
+    const int few = bench.size(1000, 500);
+    const double reference = frameMilliseconds(bench, few);
+    bench.ratio(QStringLiteral("Scrolling and selecting, a frame, %1 tasks; the same with %2")
+                    .arg(count(many), count(few)),
+        {frameMilliseconds(bench, many), reference}, 1.05);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QApplication application(argc, argv);
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    Bench bench(argc, argv);
+    const int tasks = bench.size(100'000, 1000);
+    TaskFile file({tasks, 50});
+    benchReading(bench, file, tasks, 11);
+    benchFilters(bench, file);
+    benchShowing(bench, file, tasks);
+    benchMemory(bench, file, tasks);
+    {
+        const int million = bench.size(1'000'000, 2000);
+        TaskFile largest({million});
+        benchReading(bench, largest, million, 5);
+    }
+    benchScrolling(bench);
+    return 0;
+}

@@ -1,0 +1,84 @@
+// The printed report.
+#include "app/drTasks.h"
+#include "limits/PaintedTexts.h"
+#include "report/ReportLayout.h"
+#include "report/ReportOutput.h"
+#include "support/Bench.h"
+#include "support/RecordedReportWindow.h"
+#include "support/TaskFile.h"
+#include "support/TestServices.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QLocale>
+
+namespace
+{
+
+QString count(int tasks)
+{
+    return QLocale(QLocale::English).toString(tasks);
+}
+
+/// What the program hands to the report's window.
+ReportContent contentOf(int tasks)
+{
+    const TaskFile file({tasks});
+    TestServices world;
+    FormServices services{file.engine(), *file.engine().clock, world.services.messages,
+        world.services.fileDialogs, world.services.errors, world.services.shell, world.services.checkerTimer,
+        world.images, [] {
+            return false;
+        }};
+    RecordedReportWindow* window = nullptr;
+    drTasks report(services, [&window](ReportHost&) {
+        auto made = std::make_unique<RecordedReportWindow>();
+        window = made.get();
+        return made;
+    });
+    report.printTasks({}, nullptr);
+    return window->content;
+}
+
+void exportAll(const ReportContent& content, const QString& file)
+{
+    const QPageLayout page(QPageSize(QPageSize::A4), QPageLayout::Portrait, {}, QPageLayout::Millimeter);
+    const ReportLayout layout(content, printableArea(page));
+    if (exportReportPdf(layout, page, QStringLiteral("Tasks Report"), file)) {
+        qFatal("the report could not be exported");
+    }
+}
+
+/// By how much the memory grows in an export, at its end, in MB.
+double growth(const ReportContent& content, const QString& file)
+{
+    returnFreedMemory();
+    const double before = proportionalBytes();
+    exportAll(content, file);
+    return (proportionalBytes() - before) / 1e6;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QApplication application(argc, argv);
+    Bench bench(argc, argv);
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("report.pdf"));
+    const int tasks = bench.size(10'000, 20);
+    const ReportContent content = contentOf(tasks);
+    const auto medians = bench.alternate(
+        5, [&] { exportAll(content, file); },
+        [&] { paintTextsToPdf(content, folder.filePath(QStringLiteral("limit.pdf"))); });
+    bench.ratio(
+        QStringLiteral("Report of %1 tasks to PDF; the same texts painted").arg(count(tasks)), medians, 1.2);
+
+    const ReportContent few = contentOf(tasks / 10);
+    growth(few, file);
+    const double fewGrowth = growth(few, file);
+    bench.value(QStringLiteral("Memory that an export of %1 tasks takes more than one of %2")
+                    .arg(count(tasks), count(tasks / 10)),
+        growth(content, file) - fewGrowth, 1, QStringLiteral("MB"));
+    return 0;
+}

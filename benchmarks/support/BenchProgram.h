@@ -1,0 +1,47 @@
+#pragma once
+
+#include "app/Program.h"
+#include "app/TasksPage.h"
+#include "platform/GridView.h"
+#include "support/MemoryRegistry.h"
+#include "support/ScriptedDialogs.h"
+#include "support/TaskFile.h"
+#include "support/TestServices.h"
+
+#include <QApplication>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QStyleFactory>
+
+/// The whole program over the data file of a benchmark, on a machine that only remembers, its window on the
+/// screen.
+struct BenchProgram {
+    explicit BenchProgram(TaskFile& file)
+        : program(Machine{
+            file.engine(), dialogs, dialogs, dialogs, shell, registry, {}, [] { return true; }, {}, {}})
+    {
+        QDir(file.folder()).mkpath(QStringLiteral("Skins"));
+        for (const char* skin : {"Aqua", "Midnight"}) {
+            const QString name = QStringLiteral("/%1.skf").arg(QLatin1String(skin));
+            QFile::copy(QStringLiteral(AMBERTASK_SHIPPED_SKINS) + name,
+                file.folder() + QStringLiteral("/Skins") + name);
+        }
+        program.start([] { return false; });
+        program.loadDialogs();
+        QCoreApplication::processEvents();
+    }
+    ~BenchProgram() { program.unload(); }
+    BenchProgram(const BenchProgram&) = delete;
+    BenchProgram& operator=(const BenchProgram&) = delete;
+
+    GridView* list()
+    {
+        return program.mainWindow().tasksPage()->findChild<GridView*>(QStringLiteral("grdTasks"));
+    }
+
+    ScriptedDialogs dialogs;
+    RecordedShell shell;
+    MemoryRegistry registry;
+    Program program;
+};
