@@ -85,7 +85,7 @@ void bareWrite(const QString& file, const QStringList& statements, const QString
     QByteArray nowText = now.toUtf8();
     const Database database = opened(file, nowText);
     require(
-        sqlite3_exec(database.get(), "pragma synchronous=full; begin immediate", nullptr, nullptr, nullptr)
+        sqlite3_exec(database.get(), "pragma synchronous=extra; begin immediate", nullptr, nullptr, nullptr)
             == SQLITE_OK,
         database.get());
     for (const QString& sql : statements) {

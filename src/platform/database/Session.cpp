@@ -36,6 +36,15 @@ bool isStatementError(int code)
     return std::find(Codes.begin(), Codes.end(), code & 0xff) != Codes.end();
 }
 
+/// Errors that a commit meets when it is done: the change is in the file and its journal is gone. Some file
+/// systems cannot flush a folder; there a power cut in the next moments may still take the change back as a
+/// whole.
+bool comesAfterTheCommit(int extendedCode)
+{
+    return extendedCode == SQLITE_IOERR_DIR_FSYNC || extendedCode == SQLITE_IOERR_RDLOCK
+        || extendedCode == SQLITE_IOERR_UNLOCK;
+}
+
 bool holdsStatement(std::string_view text)
 {
     while (!text.empty()) {
@@ -165,8 +174,8 @@ void Session::harden()
         SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_DIRECTONLY, this, answerNow, nullptr, nullptr, nullptr));
     check(sqlite3_set_authorizer(m_database, authorize, this));
     // Large sorts hold the user's texts: they stay in memory and out of the folder for temporary files.
-    check(
-        executeOwn("PRAGMA synchronous=FULL; PRAGMA temp_store=MEMORY; SELECT 1 FROM sqlite_schema LIMIT 1"));
+    check(executeOwn(
+        "PRAGMA synchronous=EXTRA; PRAGMA temp_store=MEMORY; SELECT 1 FROM sqlite_schema LIMIT 1"));
 }
 
 int Session::authorize(
@@ -262,7 +271,7 @@ void Session::commit()
         return;
     }
     const int code = executeOwn("COMMIT");
-    if (code != SQLITE_OK) {
+    if (code != SQLITE_OK && !comesAfterTheCommit(sqlite3_extended_errcode(m_database))) {
         failStorage(tr("The data file \"%1\" could not be written; nothing was stored: %2.")
                         .arg(m_path, reason(code)));
     }
