@@ -1,6 +1,7 @@
 #include "reminders/ReminderChecker.h"
 
 #include "data/ClsDatabase.h"
+#include "platform/database/DatabaseError.h"
 
 namespace
 {
@@ -34,9 +35,17 @@ void ReminderChecker::readDue()
     const int played = records.field("played");
     const int reminderOn = records.field("reminder_on");
     for (; !records.atEnd(); records.moveNext()) {
-        m_due.push_back({records.int32(id), records.text(name), records.int32(icon), records.int32(periority),
-            records.moment(dueDate), records.text(sound), records.text(file), records.flag(played),
-            records.flag(reminderOn)});
+        try {
+            m_due.push_back({records.int32(id), records.text(name), records.int32(icon),
+                records.int32(periority), records.moment(dueDate), records.text(sound), records.text(file),
+                records.flag(played), records.flag(reminderOn)});
+        } catch (const DatabaseError& error) {
+            // Another tool has written it. Nobody can be told of it every ten seconds, and it must not keep
+            // the other reminders from the user.
+            if (error.kind() != DatabaseError::Kind::Conversion) {
+                throw;
+            }
+        }
     }
 }
 

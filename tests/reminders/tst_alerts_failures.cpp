@@ -75,18 +75,40 @@ private slots:
         QCOMPARE(alerts.rows(), 1);
     }
 
-    void aRecordThatCannotBeReadLeavesTheListAsItWas()
+    void aRecordThatCannotBeReadHidesNoOtherReminder()
+    {
+        AlertsFixture alerts;
+        const qint32 bad = alerts.aDueTask(QStringLiteral("Bad")).sounding(QStringLiteral("b.wav")).add();
+        alerts.database().sql(
+            QStringLiteral("update tasks set task_periority='urgent' where task_id=%1").arg(bad));
+        const qint32 good = alerts.aDueTask(QStringLiteral("Good")).sounding(QStringLiteral("g.wav")).add();
+        alerts.tick();
+        QVERIFY(alerts.window.isVisible());
+        QCOMPARE(alerts.caption(), QStringLiteral("1 Reminder"));
+        QCOMPARE(alerts.names(), QStringList(QStringLiteral("Good")));
+        QCOMPARE(alerts.takeSounds(), QStringList(QStringLiteral("play g.wav")));
+        QVERIFY(alerts.isPlayed(good));
+
+        alerts.aDueTask(QStringLiteral("Last")).sounding(QStringLiteral("l.wav")).add();
+        alerts.tick();
+        QCOMPARE(alerts.names(), QStringList({QStringLiteral("Good"), QStringLiteral("Last")}));
+        QCOMPARE(alerts.takeSounds(), QStringList(QStringLiteral("play l.wav")));
+        alerts.tick();
+        QCOMPARE(alerts.takeSounds(), QStringList());
+    }
+
+    void aRecordThatCanBeReadAgainIsListed()
     {
         AlertsFixture alerts;
         alerts.aDueTask(QStringLiteral("Good")).add();
-        alerts.tick();
         const qint32 bad = alerts.aDueTask(QStringLiteral("Bad")).add();
-        alerts.database().sql(
-            QStringLiteral("update tasks set task_periority='urgent' where task_id=%1").arg(bad));
-        alerts.aDueTask(QStringLiteral("Last")).sounding(QStringLiteral("l.wav")).add();
+        const QString update = QStringLiteral("update tasks set task_due_date='%1' where task_id=%2");
+        alerts.database().sql(update.arg(QStringLiteral("soon")).arg(bad));
         alerts.tick();
         QCOMPARE(alerts.names(), QStringList(QStringLiteral("Good")));
-        QCOMPARE(alerts.takeSounds(), QStringList());
+        alerts.database().sql(update.arg(QStringLiteral("2026-01-15 09:00:00")).arg(bad));
+        alerts.tick();
+        QCOMPARE(alerts.names(), QStringList({QStringLiteral("Good"), QStringLiteral("Bad")}));
     }
 
     void aMarkThatFailedIsMadeUpForByTheNextTickWithoutASecondSound_data()
