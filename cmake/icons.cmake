@@ -1,6 +1,15 @@
 # Renders the SVG sources to PNG at build time, so that the program needs no SVG reader at run time.
 find_program(RSVG_CONVERT rsvg-convert REQUIRED)
 
+# ambertask_render_png(<svg> <height> <png>)
+function(ambertask_render_png svg height png)
+  add_custom_command(
+    OUTPUT "${png}"
+    COMMAND "${RSVG_CONVERT}" --height ${height} --keep-aspect-ratio --output "${png}" "${svg}"
+    DEPENDS "${svg}"
+    VERBATIM)
+endfunction()
+
 # ambertask_render_icons(<target> PREFIX <resource prefix> SIZES <n>... SVGS <file>...)
 # Adds <name>-<size>.png for every file and size to <target> as Qt resources below <resource prefix>.
 function(ambertask_render_icons target)
@@ -13,11 +22,7 @@ function(ambertask_render_icons target)
     cmake_path(GET svg STEM name)
     foreach(size IN LISTS ARG_SIZES)
       set(png "${folder}/${name}-${size}.png")
-      add_custom_command(
-        OUTPUT "${png}"
-        COMMAND "${RSVG_CONVERT}" --height ${size} --keep-aspect-ratio --output "${png}" "${svg}"
-        DEPENDS "${svg}"
-        VERBATIM)
+      ambertask_render_png("${svg}" ${size} "${png}")
       set_source_files_properties("${png}" PROPERTIES QT_RESOURCE_ALIAS "${name}-${size}.png")
       list(APPEND pngs "${png}")
     endforeach()

@@ -15,5 +15,6 @@ foreach(skin IN LISTS AMBERTASK_SKINS)
     COMMENT "Making the skin ${skin}"
     VERBATIM)
   list(APPEND skin_files "${skin_file}")
+  ambertask_ship("Skins/${skin}.skf")
 endforeach()
 add_custom_target(skins ALL DEPENDS ${skin_files})

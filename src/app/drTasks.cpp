@@ -4,6 +4,7 @@
 #include "data/ClsDatabase.h"
 #include "platform/ErrorReport.h"
 #include "platform/FileDialogs.h"
+#include "platform/Installation.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Shell.h"
 #include "platform/WindowPlacement.h"
@@ -66,7 +67,7 @@ QString dateText(Moment moment)
 
 std::unique_ptr<ReportWindow> loadReportWindow(ReportHost& host)
 {
-    QLibrary module(QCoreApplication::applicationDirPath() + QStringLiteral("/ambertask_report"));
+    QLibrary module(modulePath(QStringLiteral("ambertask_report")));
     using Make = ReportWindow* (*)(ReportHost&);
     const auto make = reinterpret_cast<Make>(module.resolve("ambertaskMakeReportWindow"));
     return std::unique_ptr<ReportWindow>(make == nullptr ? nullptr : make(host));

@@ -6,9 +6,12 @@
 #include "app/drTasks.h"
 #include "platform/Clock.h"
 #include "platform/FileDialogs.h"
+#include "platform/FileReplace.h"
+#include "platform/Installation.h"
 #include "platform/MMControl.h"
 #include "platform/MessageBoxes.h"
 #include "platform/ProgramFolder.h"
+#include "platform/ProgramFolderTemplate.h"
 #include "platform/Registry.h"
 #include "platform/ScreenErrorReport.h"
 #include "platform/Shell.h"
@@ -43,7 +46,18 @@ struct RealMachine {
     ErrorReport& errors;
 };
 
-int runInstance(Application& application, const QString& programFolder)
+/// Why the program folder could not be made; empty when it is there.
+QString prepareProgramFolder(const Installation& installation, const QString& programFolder)
+{
+    try {
+        makeProgramFolder(installation, programFolder);
+    } catch (const FileError& error) {
+        return error.text();
+    }
+    return {};
+}
+
+int runInstance(Application& application, const QString& programFolder, const QString& folderFailure)
 {
     Program* running = nullptr;
     ScreenErrorReport errors([&running] { running->end(); });
@@ -59,6 +73,10 @@ int runInstance(Application& application, const QString& programFolder)
     QObject::connect(&program, &Program::endRequested, &application, [] { QCoreApplication::exit(0); });
 
     try {
+        if (!folderFailure.isEmpty()) {
+            throw RuntimeError(
+                QApplication::tr("The program folder could not be made.\n%1").arg(folderFailure));
+        }
         program.start(noteFirstStart);
     } catch (const RuntimeError& error) {
         ScreenErrorReport::reportFailedStart(error.text());
@@ -74,17 +92,21 @@ int runInstance(Application& application, const QString& programFolder)
 
 int runAmbertask(int argc, char** argv)
 {
+    const Installation installation = runningInstallation();
+    const QString programFolder = programFolderOf(installation, userDataFolder());
+    const QString folderFailure = prepareProgramFolder(installation, programFolder);
     // Before anything else exists: a second copy is to leave without a sign.
-    const QString programFolder = findProgramFolder();
     const SingleInstance guard(programFolder);
     if (guard.otherCopyRuns()) {
         return 0;
     }
+    refreshProgramFolder(installation, programFolder);
     Application application(argc, argv);
     QCoreApplication::setApplicationName(QLatin1String(ProductName));
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setWindowIcon(programIcon());
+    QGuiApplication::setDesktopFileName(QLatin1String(DesktopEntryName));
     // The program ends by "Exit" alone.
     QApplication::setQuitOnLastWindowClosed(false);
-    return runInstance(application, programFolder);
+    return runInstance(application, programFolder, folderFailure);
 }

@@ -1,5 +1,6 @@
 #include "help/HTMLHelpViewer.h"
 
+#include "platform/Installation.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Shell.h"
 #include "platform/WindowPlacement.h"
@@ -10,7 +11,7 @@
 
 HelpWindow* loadHelpWindow(const WebPageOpener& openWebPage)
 {
-    QLibrary module(QCoreApplication::applicationDirPath() + QStringLiteral("/ambertask_help"));
+    QLibrary module(modulePath(QStringLiteral("ambertask_help")));
     using Make = HelpWindow* (*)(const WebPageOpener&);
     const auto make = reinterpret_cast<Make>(module.resolve("ambertaskMakeHelpWindow"));
     return make == nullptr ? nullptr : make(openWebPage);

@@ -32,22 +32,6 @@ bool flushToDisk(const QFile& file)
 #endif
 }
 
-// The new name is in the folder, and the folder has to reach the disk as well. Some file systems cannot be
-// asked for that; the name itself is in place by then.
-void flushFolderOf(const QString& path)
-{
-#ifdef Q_OS_WIN
-    Q_UNUSED(path);
-#else
-    const QByteArray folder = QFile::encodeName(QFileInfo(path).absolutePath());
-    const int handle = open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (handle >= 0) {
-        fsync(handle);
-        close(handle);
-    }
-#endif
-}
-
 void copyBytes(QFile& from, QFile& to)
 {
     QByteArray chunk(ChunkSize, Qt::Uninitialized);
@@ -83,6 +67,19 @@ bool isSameFile(const QString& left, const QString& right)
     return std::filesystem::equivalent(
                QFileInfo(left).filesystemFilePath(), QFileInfo(right).filesystemFilePath(), error)
         && !error;
+}
+
+void flushFolder(const QString& folder)
+{
+#ifdef Q_OS_WIN
+    Q_UNUSED(folder);
+#else
+    const int handle = open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (handle >= 0) {
+        fsync(handle);
+        close(handle);
+    }
+#endif
 }
 
 void copyToNewFile(const QString& source, const QString& target, QFileDevice::Permissions permissions)
@@ -127,7 +124,7 @@ void moveOver(const QString& file, const QString& target)
     if (error) {
         fail(place, QString::fromStdString(error.message()));
     }
-    flushFolderOf(place);
+    flushFolder(present.absolutePath());
 }
 
 void replaceByCopy(const QString& source, const QString& target, QFileDevice::Permissions permissions)

@@ -31,6 +31,10 @@ void moveOver(const QString& file, const QString& target);
 /// Copies `source` over `target`, which keeps its content unless the copy is complete.
 void replaceByCopy(const QString& source, const QString& target, QFileDevice::Permissions permissions);
 
+/// Brings the names that `folder` holds to the disk. Some file systems cannot be asked for that; then nothing
+/// happens.
+void flushFolder(const QString& folder);
+
 /// The path with links resolved, as far as the file exists.
 QString resolvedPath(const QString& path);
 /// Whether both paths lead to one existing file, by whatever links.

@@ -1,11 +1,12 @@
 #include "platform/MMControl.h"
 
-#include <QCoreApplication>
+#include "platform/Installation.h"
+
 #include <QLibrary>
 
 std::unique_ptr<WaveBackend> loadWaveBackend()
 {
-    QLibrary module(QCoreApplication::applicationDirPath() + QStringLiteral("/ambertask_sound"));
+    QLibrary module(modulePath(QStringLiteral("ambertask_sound")));
     using Make = WaveBackend* (*)();
     const auto make = reinterpret_cast<Make>(module.resolve("ambertaskMakeWaveBackend"));
     return std::unique_ptr<WaveBackend>(make == nullptr ? nullptr : make());

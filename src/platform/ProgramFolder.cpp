@@ -1,33 +1,32 @@
 #include "platform/ProgramFolder.h"
 
+#include "platform/Installation.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QStandardPaths>
 
-#ifdef Q_OS_WIN
-#include <windows.h>
-#elif defined(Q_OS_MACOS)
-#include <climits>
-#include <mach-o/dyld.h>
-#endif
-
-QString findProgramFolder()
+namespace
 {
-#ifdef Q_OS_WIN
-    wchar_t path[MAX_PATH];
-    const DWORD length = GetModuleFileNameW(nullptr, path, MAX_PATH);
-    const QString executable = QString::fromWCharArray(path, static_cast<int>(length));
-#elif defined(Q_OS_MACOS)
-    char path[PATH_MAX];
-    uint32_t size = sizeof(path);
-    const QString executable = _NSGetExecutablePath(path, &size) == 0
-        ? QFileInfo(QFile::decodeName(path)).canonicalFilePath()
-        : QString();
-#else
-    const QString executable = QFile::symLinkTarget(QStringLiteral("/proc/self/exe"));
-#endif
-    return QFileInfo(executable).absolutePath();
+
+/// A base folder of the platform. Relative paths in the environment do not count.
+QString baseFolder(const char* variable, const QString& inHome)
+{
+    const QString folder = qEnvironmentVariable(variable);
+    return QDir::isAbsolutePath(folder) ? QDir::cleanPath(folder) : QDir::homePath() + u'/' + inHome;
+}
+
+} // namespace
+
+QString userDataFolder()
+{
+    return baseFolder("XDG_DATA_HOME", QStringLiteral(".local/share"));
+}
+
+QString programFolderOf(const Installation& installation, const QString& userData)
+{
+    return installation.templateFolder.isEmpty() ? QFileInfo(installation.executable).absolutePath()
+                                                 : pathIn(userData, QLatin1String(ProductName));
 }
 
 QString pathIn(const QString& folder, const QString& name)
@@ -37,12 +36,8 @@ QString pathIn(const QString& folder, const QString& name)
 
 bool noteFirstStart()
 {
-    // The platform's state folder; Qt 6.4 has no name for it.
-    QString state = qEnvironmentVariable("XDG_STATE_HOME");
-    if (!QDir::isAbsolutePath(state)) {
-        state = QDir::homePath() + QStringLiteral("/.local/state");
-    }
-    const QString folder = state + QStringLiteral("/ambertask");
+    const QString folder =
+        pathIn(baseFolder("XDG_STATE_HOME", QStringLiteral(".local/state")), QStringLiteral("ambertask"));
     QFile marker(folder + QStringLiteral("/started"));
     // Noted before anything is registered: a machine that cannot keep the note is not registered at every
     // start.

@@ -2,12 +2,20 @@
 
 #include <QString>
 
+struct Installation;
+
 /// The product's name: of the executable, of the autostart entry, of the application's title.
 inline constexpr char ProductName[] = "Ambertask";
+/// The name, without its ending, of the desktop entry of an installed program: by it a desktop finds the icon
+/// of its windows.
+inline constexpr char DesktopEntryName[] = "example.ambertask.ambertask";
 
-/// The folder that holds data.dat, Skins, sounds and custom icons: that of the running executable, with links
-/// resolved. Needs no application object.
-QString findProgramFolder();
+/// The folder of the user's own data (XDG data home), below which an installed program keeps its folder.
+QString userDataFolder();
+
+/// The folder that holds data.dat, Skins, sounds and custom icons: that of the executable, or, for a program
+/// that is installed for everybody, one of the user's own in the folder `userData`.
+QString programFolderOf(const Installation& installation, const QString& userData);
 
 /// `folder` and `name` with exactly one separator between them.
 QString pathIn(const QString& folder, const QString& name);

@@ -113,8 +113,14 @@ std::unique_ptr<Registry> makeSystemRegistry()
 namespace
 {
 
-// The Exec key of the Desktop Entry format: an argument in double quotes in which four characters are
-// escaped, "%" is doubled, and the whole is a string value in which a backslash is escaped once more.
+// A string value of the Desktop Entry format.
+QString stringValue(QString text)
+{
+    return text.replace(QStringLiteral("\\"), QStringLiteral("\\\\"));
+}
+
+// The Exec key of that format: an argument in double quotes in which four characters are escaped, "%" is
+// doubled, and the whole is a string value.
 QString execValue(const QString& path)
 {
     QString quoted;
@@ -127,8 +133,7 @@ QString execValue(const QString& path)
             quoted += c;
         }
     }
-    quoted = u'"' + quoted + u'"';
-    return quoted.replace(QStringLiteral("\\"), QStringLiteral("\\\\"));
+    return stringValue(u'"' + quoted + u'"');
 }
 
 class AutostartRegistry final : public Registry
@@ -151,13 +156,15 @@ public:
             return;
         }
         const QString program = QString::fromLocal8Bit(name);
+        // With TryExec no desktop complains of a program that is gone.
         const QString text = QStringLiteral("[Desktop Entry]\n"
                                             "Type=Application\n"
                                             "Version=1.0\n"
                                             "Name=%1\n"
                                             "Exec=%2\n"
+                                            "TryExec=%3\n"
                                             "Terminal=false\n")
-                                 .arg(program, execValue(path));
+                                 .arg(program, execValue(path), stringValue(path));
         const QByteArray bytes = text.toUtf8();
         // A failed flush must not replace a good entry by an empty one.
         if (entry.write(bytes) == bytes.size() && entry.flush()) {

@@ -11,8 +11,11 @@ class DesktopCase(unittest.TestCase):
     tray = True
     sound = False
 
+    def make_desk(self):
+        return Desktop(tray=self.tray, sound=self.sound)
+
     def setUp(self):
-        self.desk = self.enterContext(Desktop(tray=self.tray, sound=self.sound))
+        self.desk = self.enterContext(self.make_desk())
         self.store = self.desk.store
 
     def tearDown(self):

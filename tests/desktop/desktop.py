@@ -87,10 +87,12 @@ class Program:
 class Desktop:
     """Context manager. Everything it starts ends with it, everything it writes is removed with it."""
 
-    def __init__(self, tray=True, sound=False, folder=None):
+    def __init__(self, tray=True, sound=False, folder=None, name="program"):
+        """`folder` holds the finished program, `name` is the name of the copy that runs here."""
         self._with_tray = tray
         self._with_sound = sound
         self._source = folder or program_folder()
+        self._name = name
         self._starts = 0
         self.screen = None
         self.sound = None
@@ -177,8 +179,9 @@ class Desktop:
         os.chmod(path, 0o755)
 
     def _copy_program(self):
-        self.program = self.path("program")
+        self.program = self.path(self._name)
         shutil.copytree(self._source, self.program, symlinks=False)
+        self.executable = os.path.join(self.program, PROGRAM_NAME)
         self.data_file = os.path.join(self.program, "data.dat")
         self.store = Store(self.data_file)
 
@@ -257,15 +260,14 @@ class Desktop:
     # The program ------------------------------------------------------------------------------------------
 
     def start(self, clock=None, command=None, environment=None):
-        """Starts the program of this desk. `clock` is a Clock; `command` stands before the program's path."""
+        """Starts the executable of this desk. `clock` is a Clock; `command` stands before the executable's path."""
         self._starts += 1
         name = f"program{self._starts}"
         variables = dict(self.environment)
         if clock:
             variables.update(clock.environment())
         variables.update(environment or {})
-        child = self._children.start((command or []) + [os.path.join(self.program, PROGRAM_NAME)], variables, name,
-                                     cwd=self.path("home"))
+        child = self._children.start((command or []) + [self.executable], variables, name, cwd=self.path("home"))
         return Program(child, os.path.join(self.logs, name + ".out"), os.path.join(self.logs, name + ".err"))
 
     def start_beside(self, arguments):

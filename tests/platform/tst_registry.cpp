@@ -94,27 +94,36 @@ void TestRegistry::theRunEntryIsADesktopEntry()
     writeRunEntry(*m_registry, QStringLiteral("/opt/ambertask"));
     QCOMPARE(entry(),
         QByteArray("[Desktop Entry]\nType=Application\nVersion=1.0\nName=Ambertask\n"
-                   "Exec=\"/opt/ambertask/Ambertask\"\nTerminal=false\n"));
+                   "Exec=\"/opt/ambertask/Ambertask\"\nTryExec=/opt/ambertask/Ambertask\nTerminal=false\n"));
 }
 
 void TestRegistry::specialCharactersOfThePathAreEscaped_data()
 {
     QTest::addColumn<QString>("folder");
     QTest::addColumn<QByteArray>("exec");
-    QTest::newRow("blank") << QStringLiteral("/a b") << QByteArray("\"/a b/Ambertask\"");
-    QTest::newRow("percent") << QStringLiteral("/100%") << QByteArray("\"/100%%/Ambertask\"");
-    QTest::newRow("dollar") << QStringLiteral("/$x") << QByteArray("\"/\\\\$x/Ambertask\"");
-    QTest::newRow("quote") << QStringLiteral("/a\"b") << QByteArray("\"/a\\\\\"b/Ambertask\"");
-    QTest::newRow("backslash") << QStringLiteral("/a\\b") << QByteArray("\"/a\\\\\\\\b/Ambertask\"");
-    QTest::newRow("umlaut") << QString::fromUtf8("/Bücher") << QByteArray("\"/Bücher/Ambertask\"");
+    QTest::addColumn<QByteArray>("tryExec");
+    QTest::newRow("blank") << QStringLiteral("/a b") << QByteArray("\"/a b/Ambertask\"")
+                           << QByteArray("/a b/Ambertask");
+    QTest::newRow("percent") << QStringLiteral("/100%") << QByteArray("\"/100%%/Ambertask\"")
+                             << QByteArray("/100%/Ambertask");
+    QTest::newRow("dollar") << QStringLiteral("/$x") << QByteArray("\"/\\\\$x/Ambertask\"")
+                            << QByteArray("/$x/Ambertask");
+    QTest::newRow("quote") << QStringLiteral("/a\"b") << QByteArray("\"/a\\\\\"b/Ambertask\"")
+                           << QByteArray("/a\"b/Ambertask");
+    QTest::newRow("backslash") << QStringLiteral("/a\\b") << QByteArray("\"/a\\\\\\\\b/Ambertask\"")
+                               << QByteArray("/a\\\\b/Ambertask");
+    QTest::newRow("umlaut") << QString::fromUtf8("/Bücher") << QByteArray("\"/Bücher/Ambertask\"")
+                            << QByteArray("/Bücher/Ambertask");
 }
 
 void TestRegistry::specialCharactersOfThePathAreEscaped()
 {
     QFETCH(const QString, folder);
     QFETCH(const QByteArray, exec);
+    QFETCH(const QByteArray, tryExec);
     writeRunEntry(*m_registry, folder);
     QVERIFY2(entry().contains("\nExec=" + exec + "\n"), entry().constData());
+    QVERIFY2(entry().contains("\nTryExec=" + tryExec + "\n"), entry().constData());
 }
 
 void TestRegistry::aPathWithALineBreakIsNotEntered()

@@ -1,0 +1,12 @@
+# Where an installation below a prefix puts its files. Elsewhere than on Linux and its kin the program stays in one folder.
+if(UNIX AND NOT APPLE)
+  set(AMBERTASK_INSTALLS_TO_PREFIX ON)
+  include(GNUInstallDirs)
+  # Debian asks for the name of the package, which has no capital letters.
+  set(AMBERTASK_INSTALL_DOC_FOLDER "${CMAKE_INSTALL_DATAROOTDIR}/doc/ambertask")
+  set(AMBERTASK_INSTALL_TEMPLATE_FOLDER "${CMAKE_INSTALL_DATADIR}/ambertask")
+  # A running copy must not load the modules of the version that has replaced it.
+  set(AMBERTASK_INSTALL_MODULE_FOLDER "${CMAKE_INSTALL_LIBDIR}/ambertask/${PROJECT_VERSION}")
+  set(AMBERTASK_INSTALL_FULL_TEMPLATE_FOLDER "${CMAKE_INSTALL_FULL_DATADIR}/ambertask")
+  set(AMBERTASK_INSTALL_FULL_MODULE_FOLDER "${CMAKE_INSTALL_FULL_LIBDIR}/ambertask/${PROJECT_VERSION}")
+endif()

@@ -1,0 +1,59 @@
+#include "platform/Installation.h"
+
+#include "platform/ProgramFolder.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#ifdef Q_OS_WIN
+#include <windows.h>
+#elif defined(Q_OS_MACOS)
+#include <climits>
+#include <mach-o/dyld.h>
+#endif
+
+namespace
+{
+
+QString runningExecutable()
+{
+#ifdef Q_OS_WIN
+    wchar_t path[MAX_PATH];
+    const DWORD length = GetModuleFileNameW(nullptr, path, MAX_PATH);
+    return QString::fromWCharArray(path, static_cast<int>(length));
+#elif defined(Q_OS_MACOS)
+    char path[PATH_MAX];
+    uint32_t size = sizeof(path);
+    return _NSGetExecutablePath(path, &size) == 0 ? QFileInfo(QFile::decodeName(path)).canonicalFilePath()
+                                                  : QString();
+#else
+    return QFile::symLinkTarget(QStringLiteral("/proc/self/exe"));
+#endif
+}
+
+} // namespace
+
+Installation installationOf(const QString& executable)
+{
+    const QDir folder = QFileInfo(executable).absoluteDir();
+#ifdef AMBERTASK_BIN_FOLDER
+    // The folder's name counts as well: an archive may be unpacked anywhere, beside a folder "share" too.
+    const QString files = QDir::cleanPath(folder.filePath(QStringLiteral(AMBERTASK_TEMPLATE_FROM_BIN)));
+    if (folder.dirName() == QLatin1String(AMBERTASK_BIN_FOLDER) && QFileInfo(files).isDir()) {
+        return {
+            executable, QDir::cleanPath(folder.filePath(QStringLiteral(AMBERTASK_MODULES_FROM_BIN))), files};
+    }
+#endif
+    return {executable, folder.path(), QString()};
+}
+
+Installation runningInstallation()
+{
+    return installationOf(runningExecutable());
+}
+
+QString modulePath(const QString& name)
+{
+    return pathIn(runningInstallation().moduleFolder, name);
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+
+/// Where the files of a program lie. All paths are absolute.
+struct Installation {
+    QString executable; ///< with links resolved
+    QString moduleFolder; ///< of the modules that are loaded at their first use
+    /// What a user's program folder is made from. Empty where the executable lies in the program folder
+    /// itself (build tree, unpacked archive).
+    QString templateFolder;
+
+    bool operator==(const Installation&) const = default;
+};
+
+/// The installation that `executable` is part of: one below a prefix when its folder is the prefix's folder
+/// for executables and the template folder is there.
+Installation installationOf(const QString& executable);
+
+/// That of the running program. Needs no application object.
+Installation runningInstallation();
+
+/// The file of the module `name` of the running program, without the ending that the platform gives it.
+QString modulePath(const QString& name);

@@ -1,0 +1,284 @@
+#include "platform/ProgramFolderTemplate.h"
+
+#include "platform/FileReplace.h"
+#include "platform/Installation.h"
+#include "platform/ProgramFolder.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QDirIterator>
+#include <QHash>
+#include <QSaveFile>
+#include <QUuid>
+#include <filesystem>
+#include <system_error>
+
+#ifdef Q_OS_UNIX
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+#endif
+
+namespace
+{
+
+constexpr QFileDevice::Permissions PrivateFolder = PrivateFile | QFileDevice::ExeOwner;
+constexpr char DataFileName[] = "data.dat";
+constexpr char UnfinishedPrefix[] = ".Ambertask-";
+
+[[noreturn]] void fail(const QString& path, const QString& why)
+{
+    throw FileError(QStringLiteral("\"%1\": %2.").arg(path, why));
+}
+
+std::filesystem::path native(const QString& path)
+{
+    return QFileInfo(path).filesystemFilePath();
+}
+
+bool isAnything(const QString& path)
+{
+    const QFileInfo file(path);
+    return file.exists() || file.isSymLink();
+}
+
+/// Keeps copies of the program that start at once from filling a folder each. The lock is on the folder that
+/// holds them; where the file system knows no locks there is none.
+class FolderLock
+{
+public:
+    explicit FolderLock(const QString& folder)
+    {
+#ifdef Q_OS_UNIX
+        m_handle = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+        m_held = m_handle >= 0 && ::flock(m_handle, LOCK_EX) == 0;
+#else
+        Q_UNUSED(folder);
+#endif
+    }
+    ~FolderLock()
+    {
+#ifdef Q_OS_UNIX
+        if (m_handle >= 0) {
+            ::close(m_handle);
+        }
+#endif
+    }
+    FolderLock(const FolderLock&) = delete;
+    FolderLock& operator=(const FolderLock&) = delete;
+
+    bool isHeld() const
+    {
+        return m_held;
+    }
+
+private:
+    int m_handle = -1;
+    bool m_held = false;
+};
+
+void makePrivateFolder(const QString& folder)
+{
+    if (!QDir().mkdir(folder, PrivateFolder)) {
+        fail(folder, qt_error_string());
+    }
+}
+
+/// The user's data folder, which another copy of the program may be making, too.
+void ensureUserData(const QString& userData)
+{
+    QDir().mkpath(QFileInfo(userData).absolutePath());
+    if (!QDir().mkdir(userData, PrivateFolder) && !QFileInfo(userData).isDir()) {
+        fail(userData, qt_error_string());
+    }
+}
+
+QString unfinishedIn(const QString& folder)
+{
+    return pathIn(folder, QLatin1String(UnfinishedPrefix) + QUuid::createUuid().toString(QUuid::Id128));
+}
+
+/// What was left by a start that was ended while it filled its folder.
+void removeUnfinished(const QString& userData)
+{
+    QDirIterator left(userData, {QLatin1String(UnfinishedPrefix) + u'*'},
+        QDir::Dirs | QDir::Hidden | QDir::NoSymLinks | QDir::NoDotAndDotDot);
+    while (left.hasNext()) {
+        QDir(left.next()).removeRecursively();
+    }
+}
+
+/// Points the link in the folder to the executable. Anything but a link that has its name stays. A file
+/// system without links goes without: it serves the start with the session alone.
+void refreshLink(const Installation& installation, const QString& folder)
+{
+    const QString link = pathIn(folder, QLatin1String(ProductName));
+    const QFileInfo present(link);
+    if ((present.exists() && !present.isSymLink()) || present.symLinkTarget() == installation.executable) {
+        return;
+    }
+    const QString beside = unfinishedIn(folder);
+    if (QFile::link(installation.executable, beside)) {
+        std::error_code error;
+        std::filesystem::rename(native(beside), native(link), error);
+    }
+}
+
+void copyTemplate(const Installation& installation, const QString& folder)
+{
+    const QDir files(installation.templateFolder);
+    QStringList folders{folder};
+    QDirIterator entries(
+        files.path(), QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
+    while (entries.hasNext()) {
+        const QString source = entries.next();
+        const QString name = files.relativeFilePath(source);
+        const QString target = pathIn(folder, name);
+        if (QFileInfo(source).isDir()) {
+            makePrivateFolder(target);
+            folders.append(target);
+        } else {
+            copyToNewFile(source, target, name == QLatin1String(DataFileName) ? PrivateFile : PublicFile);
+        }
+    }
+    for (const char* name : {DataFileName, ShippedListName}) {
+        if (!QFileInfo(pathIn(folder, QLatin1String(name))).isFile()) {
+            fail(files.filePath(QLatin1String(name)), QStringLiteral("it is missing from this installation"));
+        }
+    }
+    refreshLink(installation, folder);
+    for (const QString& one : folders) {
+        flushFolder(one);
+    }
+}
+
+struct ShippedFile {
+    QByteArray sum;
+    QString path; ///< in the program folder
+};
+
+QList<ShippedFile> readList(const QByteArray& text)
+{
+    constexpr int SumLength = 64;
+    QList<ShippedFile> files;
+    for (const QByteArray& line : text.split('\n')) {
+        const QString path = QString::fromUtf8(line.mid(SumLength + 2));
+        if (!path.isEmpty()) {
+            files.append({line.left(SumLength), path});
+        }
+    }
+    return files;
+}
+
+QByteArray writtenList(const QList<ShippedFile>& files)
+{
+    QByteArray text;
+    for (const ShippedFile& file : files) {
+        text += file.sum + "  " + file.path.toUtf8() + '\n';
+    }
+    return text;
+}
+
+QByteArray contentOf(const QString& path)
+{
+    QFile file(path);
+    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QByteArray sumOf(const QString& path)
+{
+    return QCryptographicHash::hash(contentOf(path), QCryptographicHash::Sha256).toHex();
+}
+
+/// Whether the user made or changed the file. The user's place are the folders: what lies beside data.dat,
+/// such as the help, is the program's.
+bool isUsersOwn(const QString& programFolder, const QString& path, const QByteArray& sumWhenBrought)
+{
+    const QString file = pathIn(programFolder, path);
+    return path.contains(u'/') && isAnything(file) && sumOf(file) != sumWhenBrought;
+}
+
+bool bringFile(const QString& source, const QString& target)
+{
+    try {
+        QDir().mkpath(QFileInfo(target).absolutePath());
+        replaceByCopy(source, target, PublicFile);
+        return true;
+    } catch (const FileError&) {
+        // The program runs with what is there.
+        return false;
+    }
+}
+
+void bringShippedFiles(const QString& templateFolder, const QString& programFolder)
+{
+    const QString stamp = pathIn(programFolder, QLatin1String(ShippedListName));
+    const QByteArray shipped = contentOf(pathIn(templateFolder, QLatin1String(ShippedListName)));
+    const QByteArray before = contentOf(stamp);
+    if (shipped.isEmpty() || shipped == before) {
+        return;
+    }
+    QHash<QString, QByteArray> sumsBefore;
+    for (const ShippedFile& file : readList(before)) {
+        sumsBefore.insert(file.path, file.sum);
+    }
+    QList<ShippedFile> now = readList(shipped);
+    for (ShippedFile& file : now) {
+        const QByteArray sumBefore = sumsBefore.value(file.path);
+        if (!isUsersOwn(programFolder, file.path, sumBefore)
+            && !bringFile(pathIn(templateFolder, file.path), pathIn(programFolder, file.path))) {
+            // The stamp then differs from the list, and the next start tries again.
+            file.sum = sumBefore;
+        }
+    }
+    const QByteArray after = writtenList(now);
+    QSaveFile file(stamp);
+    if (after != before && file.open(QIODevice::WriteOnly) && file.write(after) == after.size()) {
+        file.commit();
+    }
+}
+
+} // namespace
+
+void makeProgramFolder(const Installation& installation, const QString& programFolder)
+{
+    if (installation.templateFolder.isEmpty() || isAnything(programFolder)) {
+        return;
+    }
+    const QString userData = QFileInfo(programFolder).absolutePath();
+    ensureUserData(userData);
+    const FolderLock lock(userData);
+    if (isAnything(programFolder)) {
+        return;
+    }
+    if (lock.isHeld()) {
+        removeUnfinished(userData);
+    }
+    const QString unfinished = unfinishedIn(userData);
+    makePrivateFolder(unfinished);
+    try {
+        copyTemplate(installation, unfinished);
+        std::error_code error;
+        std::filesystem::rename(native(unfinished), native(programFolder), error);
+        if (error) {
+            fail(programFolder, QString::fromStdString(error.message()));
+        }
+    } catch (const FileError&) {
+        QDir(unfinished).removeRecursively();
+        if (!isAnything(programFolder)) {
+            throw;
+        }
+    }
+    flushFolder(userData);
+}
+
+void refreshProgramFolder(const Installation& installation, const QString& programFolder)
+{
+    // A folder without data.dat is no program folder: the start reports it, and nothing in it changes.
+    if (installation.templateFolder.isEmpty()
+        || !QFileInfo(pathIn(programFolder, QLatin1String(DataFileName))).isFile()) {
+        return;
+    }
+    refreshLink(installation, programFolder);
+    bringShippedFiles(installation.templateFolder, programFolder);
+}
