@@ -13,6 +13,7 @@ struct DueReminder {
     qint32 icon = 0; ///< of the category, an index into the image list
     qint32 periority = 0;
     Moment dueDate{};
+    QString reminder; ///< its moment, as stored
     QString sound;
     QString file;
     bool played = false;

@@ -141,6 +141,7 @@ void frmAlerts::check()
     checker.close();
     if (marks) {
         m_owesMark = false;
+        m_fired.clear();
     }
 }
 
@@ -149,7 +150,17 @@ void frmAlerts::redraw(const std::vector<DueReminder>& due)
     setWindowTitle(titleFor(static_cast<int>(due.size())));
     m_reminders.setReminders(due);
     for (const DueReminder& reminder : due) {
+        fireOnce(reminder);
+    }
+}
+
+// A redraw of fewer marks nothing, and a mark can fail: the data file alone does not tell what has sounded.
+void frmAlerts::fireOnce(const DueReminder& reminder)
+{
+    const auto fired = m_fired.constFind(reminder.id);
+    if (!reminder.played && (fired == m_fired.constEnd() || *fired != reminder.reminder)) {
         fire(reminder);
+        m_fired.insert(reminder.id, reminder.reminder);
     }
 }
 
@@ -232,6 +243,7 @@ void frmAlerts::btnRemindMeLater_Click()
     store(connection,
         QStringLiteral("update tasks set played=0 ,reminder_date_time =#") + monthFirstText(date, time)
             + QStringLiteral("# where task_id = ") + m_reminders.idText(row));
+    m_fired.remove(m_reminders.idText(row).toInt());
     removeReminder(row);
     connection.close();
     closeSound();

@@ -6,6 +6,7 @@
 #include "reminders/AlertListModel.h"
 #include "ui/FormServices.h"
 
+#include <QHash>
 #include <QTimer>
 #include <QWidget>
 
@@ -52,6 +53,7 @@ private:
 
     void check();
     void redraw(const std::vector<DueReminder>& due);
+    void fireOnce(const DueReminder& reminder);
     void fire(const DueReminder& reminder);
     void comeUp();
 
@@ -83,4 +85,7 @@ private:
     bool m_isActive = false;
     /// What is listed has sounded, but could not be marked as played.
     bool m_owesMark = false;
+    /// What has sounded without being marked as played since, by task id: the reminder's moment. It is listed
+    /// again, but does not sound again.
+    QHash<qint32, QString> m_fired;
 };

@@ -155,6 +155,44 @@ private slots:
         QVERIFY(!alerts.isPlayed(swapped));
     }
 
+    void aMarkThatFailedMakesNothingSoundTwiceWhenAnotherFallsDue()
+    {
+        AlertsFixture alerts;
+        alerts.aDueTask(QStringLiteral("x")).sounding(QStringLiteral("x.wav")).add();
+        {
+            const OtherProgram other(alerts.database(), LocksWriting);
+            QVERIFY(other.holds());
+            alerts.tick();
+        }
+        QCOMPARE(alerts.takeSounds(), QStringList(QStringLiteral("play x.wav")));
+        const qint32 next = alerts.aDueTask(QStringLiteral("y")).sounding(QStringLiteral("y.wav")).add();
+        alerts.tick();
+        QCOMPARE(alerts.takeSounds(), QStringList(QStringLiteral("play y.wav")));
+        QVERIFY(alerts.isPlayed(next));
+    }
+
+    void aReminderPostponedBeforeItCouldBeMarkedSoundsAgainAtItsNewMoment()
+    {
+        AlertsFixture alerts;
+        // On the minute, so that the moment that the pickers show is not in the past.
+        alerts.clock().set(toMinute(alerts.now()));
+        aTask(alerts.database())
+            .named(QStringLiteral("x"))
+            .remindingAt(alerts.now())
+            .sounding(QStringLiteral("x.wav"))
+            .add();
+        {
+            const OtherProgram other(alerts.database(), LocksWriting);
+            QVERIFY(other.holds());
+            alerts.tick();
+        }
+        alerts.click(QStringLiteral("btnRemindMeLater"));
+        QCOMPARE(alerts.rows(), 0);
+        alerts.takeSounds();
+        alerts.tick();
+        QCOMPARE(alerts.takeSounds(), QStringList(QStringLiteral("play x.wav")));
+    }
+
     void aReminderFiresAgainWhenTheProgramDiedBetweenShowingAndMarking()
     {
         AlertsFixture alerts;

@@ -209,6 +209,25 @@ private slots:
         QVERIFY(!alerts.isPlayed(fresh));
     }
 
+    void whatARedrawOfFewerHasSoundedDoesNotSoundAgainWhenMoreAreDue()
+    {
+        AlertsFixture alerts;
+        alerts.aDueTask(QStringLiteral("a")).add();
+        alerts.aDueTask(QStringLiteral("b")).add();
+        alerts.tick();
+        alerts.database().sql(QStringLiteral("delete from tasks"));
+        alerts.aDueTask(QStringLiteral("c"))
+            .sounding(QStringLiteral("c.wav"))
+            .starting(QStringLiteral("c.sh"))
+            .add();
+        alerts.tick();
+        QCOMPARE(alerts.takeSounds(), QStringList(QStringLiteral("play c.wav")));
+        alerts.aDueTask(QStringLiteral("d")).sounding(QStringLiteral("d.wav")).add();
+        alerts.tick();
+        QCOMPARE(alerts.takeSounds(), QStringList(QStringLiteral("play d.wav")));
+        QCOMPARE(alerts.world.shell.started, QStringList(QStringLiteral("c.sh")));
+    }
+
     void withoutRemindersNothingIsShown()
     {
         AlertsFixture alerts;
