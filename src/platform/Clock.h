@@ -16,6 +16,9 @@ public:
     virtual Moment now() const = 0;
 };
 
+/// The local date and time of an instant, in the time zone that is in force at the call.
+Moment localMoment(std::chrono::sys_seconds instant);
+
 /// The machine's clock.
 class SystemClock final : public Clock
 {

@@ -1,0 +1,238 @@
+#include "RunningProgram.h"
+
+#include "app/frmMain.h"
+#include "platform/GridView.h"
+#include "reminders/frmAlerts.h"
+#include "tasks/frmTaskDetails.h"
+#include "ui/Combos.h"
+#include "ui/Pickers.h"
+
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QTest>
+#include <QTimeEdit>
+#include <QTimer>
+
+namespace
+{
+
+constexpr int IdColumn = 0;
+
+void require(bool condition, const char* what)
+{
+    if (!condition) {
+        QTest::qFail(what, __FILE__, __LINE__);
+        throw std::runtime_error(what);
+    }
+}
+
+QString text(Moment moment)
+{
+    return QString::fromStdString(storedText(moment));
+}
+
+int rowOf(const GridView& grid, qint32 id)
+{
+    const QAbstractItemModel& model = *grid.model();
+    for (int row = 0; row < model.rowCount(); ++row) {
+        if (model.index(row, IdColumn).data().toInt() == id) {
+            return row;
+        }
+    }
+    return -1;
+}
+
+void check(QWidget& window, const char* box, bool checked)
+{
+    auto* control = RunningProgram::control<QCheckBox>(window, box);
+    if (control->isChecked() != checked) {
+        control->click();
+    }
+    require(control->isChecked() == checked, box);
+}
+
+} // namespace
+
+RunningProgram::~RunningProgram()
+{
+    if (isRunning()) {
+        end();
+    }
+}
+
+void RunningProgram::start()
+{
+    m_program = std::make_unique<Program>(m_machine.machine());
+    m_program->start([] { return false; });
+    m_program->loadDialogs();
+}
+
+void RunningProgram::end()
+{
+    m_program->end();
+    m_program->unload();
+    m_program.reset();
+}
+
+void RunningProgram::kill()
+{
+    m_program.reset();
+}
+
+void RunningProgram::tick()
+{
+    auto* timer = control<QTimer>(m_program->alerts(), "tmrTasksChecker");
+    require(timer->isActive(), "the checker's timer runs");
+    QMetaObject::invokeMethod(timer, "timeout");
+}
+
+bool RunningProgram::isAlertVisible()
+{
+    return m_program->alerts().isVisible();
+}
+
+QString RunningProgram::alertCaption()
+{
+    return m_program->alerts().windowTitle();
+}
+
+QList<qint32> RunningProgram::listed()
+{
+    QList<qint32> ids;
+    const QAbstractItemModel& model = *control<GridView>(m_program->alerts(), "grdTasks")->model();
+    for (int row = 0; row < model.rowCount(); ++row) {
+        ids.append(model.index(row, IdColumn).data().toInt());
+    }
+    return ids;
+}
+
+bool RunningProgram::selectListed(qint32 id)
+{
+    auto* grid = control<GridView>(m_program->alerts(), "grdTasks");
+    const int row = rowOf(*grid, id);
+    grid->selectOnly(row);
+    return row >= 0;
+}
+
+void RunningProgram::press(QWidget& window, const char* button)
+{
+    auto* control = RunningProgram::control<QAbstractButton>(window, button);
+    require(control != nullptr && control->isEnabled(), button);
+    control->click();
+}
+
+void RunningProgram::selectInMainList(qint32 id)
+{
+    auto* grid = control<GridView>(m_program->mainWindow(), "grdTasks");
+    const int row = rowOf(*grid, id);
+    require(row >= 0, "the main window lists the task");
+    grid->selectOnly(row);
+}
+
+void RunningProgram::addTask(const TaskEntry& entry)
+{
+    press(m_program->mainWindow(), "btnTaskAdd");
+    fillAndConfirm(entry);
+}
+
+void RunningProgram::editTask(qint32 id, const TaskEntry& entry)
+{
+    selectInMainList(id);
+    press(m_program->mainWindow(), "btnTaskEdit");
+    fillAndConfirm(entry);
+}
+
+void RunningProgram::editListedTask(qint32 id, const TaskEntry& entry)
+{
+    require(selectListed(id), "the alert lists the task");
+    press(m_program->alerts(), "btnOpenItem");
+    fillAndConfirm(entry);
+}
+
+void RunningProgram::fillAndConfirm(const TaskEntry& entry)
+{
+    frmTaskDetails& dialog = m_program->taskDetails();
+    control<QLineEdit>(dialog, "txtTask")->setText(entry.name);
+    control<QPlainTextEdit>(dialog, "txtDescription")->setPlainText(entry.description);
+    selectNumber(*control<QComboBox>(dialog, "cmbCategories"), entry.category);
+    selectNumber(*control<QComboBox>(dialog, "cmbStatus"), entry.status);
+    selectNumber(*control<QComboBox>(dialog, "cmbPeriorities"), entry.periority);
+    setPickers(
+        *control<QDateEdit>(dialog, "dtpDueDate"), *control<QTimeEdit>(dialog, "dtpDueTime"), entry.due);
+    // The sound and the file can be entered while the reminder is on only.
+    check(dialog, "chkEnableReminder", true);
+    check(dialog, "chkReminderSound", !entry.sound.isEmpty());
+    control<QLineEdit>(dialog, "txtReminderSound")->setText(entry.sound);
+    check(dialog, "chkReminderFile", !entry.file.isEmpty());
+    control<QLineEdit>(dialog, "txtReminderFile")->setText(entry.file);
+    setPickers(*control<QDateEdit>(dialog, "dtpReminderDate"), *control<QTimeEdit>(dialog, "dtpReminderTime"),
+        entry.reminder);
+    check(dialog, "chkEnableReminder", entry.reminderOn);
+    press(dialog, "btnOk");
+    require(!dialog.isVisible(), qPrintable(QStringLiteral("the dialog takes ") + text(entry.reminder)));
+}
+
+void RunningProgram::deleteTask(qint32 id)
+{
+    selectInMainList(id);
+    m_machine.dialogs.expectAsk(QStringLiteral("Are you sure you want to delete this task?"), true);
+    press(m_program->mainWindow(), "btnTaskDelete");
+}
+
+void RunningProgram::dismiss(qint32 id)
+{
+    require(selectListed(id), "the alert lists the task");
+    press(m_program->alerts(), "btnDismiss");
+}
+
+void RunningProgram::dismissAll()
+{
+    press(m_program->alerts(), "btnDismissAll");
+}
+
+void RunningProgram::remindLater(qint32 id, Moment moment)
+{
+    require(selectListed(id), "the alert lists the task");
+    frmAlerts& alerts = m_program->alerts();
+    setPickers(*control<QDateEdit>(alerts, "dtpReminderDate"), *control<QTimeEdit>(alerts, "dtpReminderTime"),
+        moment);
+    press(alerts, "btnRemindMeLater");
+}
+
+void RunningProgram::deleteCategory(qint16 id)
+{
+    const QString name =
+        database().sql(QStringLiteral("select cat_name from categories where cat_id=%1").arg(id)).toString();
+    auto* list = control<QListWidget>(m_program->mainWindow(), "lstViewCategories");
+    for (int row = 0; row < list->count(); ++row) {
+        if (list->item(row)->data(Qt::UserRole).toInt() == id) {
+            list->clearSelection();
+            list->item(row)->setSelected(true);
+            m_machine.dialogs.expectAsk(
+                QStringLiteral("Are you sure you want to delete '%1' category, all tasks under this category "
+                               "will be deleted?")
+                    .arg(name),
+                true);
+            press(m_program->mainWindow(), "btnDeleteCat");
+            return;
+        }
+    }
+    require(false, "the main window lists the category");
+}
+
+void RunningProgram::backUp(const QString& file)
+{
+    m_machine.dialogs.expectSave(file);
+    press(m_program->mainWindow(), "btnBackup");
+}
+
+void RunningProgram::restore(const QString& file)
+{
+    m_machine.dialogs.expectOpen(file);
+    press(m_program->mainWindow(), "btnRestore");
+}
