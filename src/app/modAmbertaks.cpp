@@ -8,6 +8,7 @@
 #include "platform/FileDialogs.h"
 #include "platform/FileReplace.h"
 #include "platform/Installation.h"
+#include "platform/Language.h"
 #include "platform/MMControl.h"
 #include "platform/MessageBoxes.h"
 #include "platform/ProgramFolder.h"
@@ -108,5 +109,7 @@ int runAmbertask(int argc, char** argv)
     QGuiApplication::setDesktopFileName(QLatin1String(DesktopEntryName));
     // The program ends by "Exit" alone.
     QApplication::setQuitOnLastWindowClosed(false);
+    Language language;
+    language.speakAsTheSystem();
     return runInstance(application, programFolder, folderFailure);
 }

@@ -1,0 +1,1572 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ar" sourcelanguage="en">
+<context>
+    <name>AlertListModel</name>
+    <message>
+        <source>id</source>
+        <translation>المعرّف</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>الاسم</translation>
+    </message>
+    <message>
+        <source>Periority</source>
+        <translation>الأولوية</translation>
+    </message>
+    <message>
+        <source>Due Date</source>
+        <translation>تاريخ الاستحقاق</translation>
+    </message>
+</context>
+<context>
+    <name>CategoriesPage</name>
+    <message>
+        <source>&amp;Add</source>
+        <translation>إ&amp;ضافة</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>تح&amp;رير</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>ح&amp;ذف</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>م&amp;ساعدة</translation>
+    </message>
+    <message>
+        <source>Categories</source>
+        <translation>الفئات</translation>
+    </message>
+    <message>
+        <source>Add a category</source>
+        <translation>إضافة فئة</translation>
+    </message>
+    <message>
+        <source>Edit the selected category</source>
+        <translation>تحرير الفئة المحددة</translation>
+    </message>
+    <message>
+        <source>Delete the selected category</source>
+        <translation>حذف الفئة المحددة</translation>
+    </message>
+    <message>
+        <source>Help on categories</source>
+        <translation>مساعدة حول الفئات</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete &apos;%1&apos; category, all tasks under this category will be deleted?</source>
+        <translation>هل تريد بالتأكيد حذف الفئة «%1»؟ ستُحذف معها كل المهام التابعة لها.</translation>
+    </message>
+</context>
+<context>
+    <name>ClsTask</name>
+    <message>
+        <source>The statement is unfinished: %1</source>
+        <translation>العبارة غير مكتملة: %1</translation>
+    </message>
+</context>
+<context>
+    <name>CompiledHelpWindow</name>
+    <message>
+        <source>Ambertask Help</source>
+        <translation>مساعدة Ambertask</translation>
+    </message>
+    <message>
+        <source>Topic</source>
+        <translation>الموضوع</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;رجوع</translation>
+    </message>
+    <message>
+        <source>&amp;Forward</source>
+        <translation>&amp;تقدم</translation>
+    </message>
+    <message>
+        <source>&amp;Home</source>
+        <translation>ال&amp;صفحة الرئيسية</translation>
+    </message>
+    <message>
+        <source>&amp;Smaller text</source>
+        <translation>نص أص&amp;غر</translation>
+    </message>
+    <message>
+        <source>&amp;Larger text</source>
+        <translation>نص أ&amp;كبر</translation>
+    </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>ال&amp;محتويات</translation>
+    </message>
+    <message>
+        <source>&amp;Index</source>
+        <translation>ال&amp;فهرس</translation>
+    </message>
+    <message>
+        <source>S&amp;earch</source>
+        <translation>ال&amp;بحث</translation>
+    </message>
+    <message>
+        <source>The help cannot be shown</source>
+        <translation>تعذّر عرض المساعدة</translation>
+    </message>
+    <message>
+        <source>The help file &quot;%1&quot; is damaged or cannot be read. Installing the program again brings it back; your tasks are kept.</source>
+        <translation>ملف المساعدة «%1» تالف أو تتعذّر قراءته. إعادة تثبيت البرنامج تعيده؛ وتبقى مهامك محفوظة.</translation>
+    </message>
+    <message>
+        <source>The help file &quot;%1&quot; is not in the program&apos;s folder. Installing the program again brings it back; your tasks are kept.</source>
+        <translation>ملف المساعدة «%1» غير موجود في مجلد البرنامج. إعادة تثبيت البرنامج تعيده؛ وتبقى مهامك محفوظة.</translation>
+    </message>
+    <message>
+        <source>This page cannot be shown</source>
+        <translation>تعذّر عرض هذه الصفحة</translation>
+    </message>
+    <message>
+        <source>The help file has no topic number %1.</source>
+        <translation>لا يحتوي ملف المساعدة على الموضوع رقم %1.</translation>
+    </message>
+</context>
+<context>
+    <name>Connection</name>
+    <message>
+        <source>The connection is open already.</source>
+        <translation>الاتصال مفتوح بالفعل.</translation>
+    </message>
+    <message>
+        <source>The data file knows no users and no passwords.</source>
+        <translation>لا يعرف ملف البيانات مستخدمين ولا كلمات مرور.</translation>
+    </message>
+    <message>
+        <source>The connection string &quot;%1&quot; names no data file.</source>
+        <translation>سلسلة الاتصال «%1» لا تحدد أي ملف بيانات.</translation>
+    </message>
+    <message>
+        <source>The connection to the data file is not open.</source>
+        <translation>الاتصال بملف البيانات غير مفتوح.</translation>
+    </message>
+</context>
+<context>
+    <name>ContentsPane</name>
+    <message>
+        <source>Contents</source>
+        <translation>المحتويات</translation>
+    </message>
+</context>
+<context>
+    <name>CustomIcons</name>
+    <message>
+        <source>The picture &quot;%1&quot; cannot be used: this is not a plain file name.</source>
+        <translation>تعذّر استخدام الصورة «%1»: ليس اسم ملف مجردًا.</translation>
+    </message>
+</context>
+<context>
+    <name>DataFileCopies</name>
+    <message>
+        <source>&quot;%1&quot; belongs to the data file.</source>
+        <translation>«%1» تابع لملف البيانات.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is the data file itself.</source>
+        <translation>«%1» هو ملف البيانات نفسه.</translation>
+    </message>
+    <message>
+        <source>An operation on &quot;%1&quot; is not finished.</source>
+        <translation>لم تكتمل عملية على «%1».</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no data file.</source>
+        <translation>«%1» ليس ملف بيانات.</translation>
+    </message>
+    <message>
+        <source>The file is damaged.</source>
+        <translation>الملف تالف.</translation>
+    </message>
+</context>
+<context>
+    <name>Dialect</name>
+    <message>
+        <source>The date literal %1 is not of the form #month/day/year hours:minutes#.</source>
+        <translation>قيمة التاريخ %1 ليست على الصيغة #شهر/يوم/سنة ساعات:دقائق#.</translation>
+    </message>
+    <message>
+        <source>The date literal %1 names no existing day and time.</source>
+        <translation>قيمة التاريخ %1 لا تدل على يوم ووقت موجودين.</translation>
+    </message>
+    <message>
+        <source>The statement holds a zero character.</source>
+        <translation>تحتوي العبارة على حرف صفري.</translation>
+    </message>
+    <message>
+        <source>The date literal %1 is not closed.</source>
+        <translation>قيمة التاريخ %1 غير مغلقة.</translation>
+    </message>
+</context>
+<context>
+    <name>FileDialogs</name>
+    <message>
+        <source>Folder</source>
+        <translation>مجلد</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>جميع الملفات (*)</translation>
+    </message>
+</context>
+<context>
+    <name>FileError</name>
+    <message>
+        <source>it is not a file</source>
+        <translation>ليس ملفًا</translation>
+    </message>
+    <message>
+        <source>there is no file name</source>
+        <translation>اسم الملف غير موجود</translation>
+    </message>
+</context>
+<context>
+    <name>HTMLHelpViewer</name>
+    <message>
+        <source>The help window is missing from this installation.</source>
+        <translation>نافذة المساعدة غير موجودة في هذا التثبيت.</translation>
+    </message>
+</context>
+<context>
+    <name>IndexPane</name>
+    <message>
+        <source>First letters of a keyword</source>
+        <translation>الأحرف الأولى من كلمة مفتاحية</translation>
+    </message>
+    <message>
+        <source>Index</source>
+        <translation>الفهرس</translation>
+    </message>
+    <message>
+        <source>&amp;Keyword</source>
+        <translation>الكلمة المفتا&amp;حية</translation>
+    </message>
+</context>
+<context>
+    <name>MaintenancePage</name>
+    <message>
+        <source>Ambertaks Backup Files (*.abk)|*.abk</source>
+        <translation>ملفات النسخ الاحتياطي لـ Ambertask (*.abk)|*.abk</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>م&amp;ساعدة</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>ح&amp;ذف</translation>
+    </message>
+    <message>
+        <source>Delete Tasks</source>
+        <translation>حذف المهام</translation>
+    </message>
+    <message>
+        <source>&amp;Category</source>
+        <translation>ال&amp;فئة</translation>
+    </message>
+    <message>
+        <source>&amp;Status</source>
+        <translation>ال&amp;حالة</translation>
+    </message>
+    <message>
+        <source>&amp;All tasks</source>
+        <translation>&amp;كل المهام</translation>
+    </message>
+    <message>
+        <source>Acti&amp;ve tasks only</source>
+        <translation>المهام ال&amp;نشطة فقط</translation>
+    </message>
+    <message>
+        <source>&amp;Expired tasks only</source>
+        <translation>المهام المتأ&amp;خرة فقط</translation>
+    </message>
+    <message>
+        <source>Date Range</source>
+        <translation>نطاق التاريخ</translation>
+    </message>
+    <message>
+        <source>&amp;From</source>
+        <translation>&amp;من</translation>
+    </message>
+    <message>
+        <source>&amp;To</source>
+        <translation>&amp;إلى</translation>
+    </message>
+    <message>
+        <source>&amp;Backup</source>
+        <translation>نسخ احتيا&amp;طي</translation>
+    </message>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>است&amp;عادة</translation>
+    </message>
+    <message>
+        <source>Backup and Restore</source>
+        <translation>النسخ الاحتياطي والاستعادة</translation>
+    </message>
+    <message>
+        <source>There is no tasks according to the selected criteria!</source>
+        <translation>لا توجد مهام مطابقة للمعايير المحددة!</translation>
+    </message>
+    <message numerus="yes">
+        <source>Are you sure you want to delete %n tasks?</source>
+        <translation>
+            <numerusform>هل تريد بالتأكيد حذف %n مهمة؟</numerusform>
+            <numerusform>هل تريد بالتأكيد حذف مهمة واحدة؟</numerusform>
+            <numerusform>هل تريد بالتأكيد حذف مهمتين؟</numerusform>
+            <numerusform>هل تريد بالتأكيد حذف %n مهام؟</numerusform>
+            <numerusform>هل تريد بالتأكيد حذف %n مهمة؟</numerusform>
+            <numerusform>هل تريد بالتأكيد حذف %n مهمة؟</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MessageBoxes</name>
+    <message>
+        <source>OK</source>
+        <translation>موافق</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;نعم</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;لا</translation>
+    </message>
+</context>
+<context>
+    <name>OverflowError</name>
+    <message>
+        <source>task id</source>
+        <translation>معرّف المهمة</translation>
+    </message>
+    <message>
+        <source>icon number</source>
+        <translation>رقم الأيقونة</translation>
+    </message>
+    <message>
+        <source>category id</source>
+        <translation>معرّف الفئة</translation>
+    </message>
+    <message>
+        <source>Overflow: the %1 %2 does not fit into 16 bits.</source>
+        <translation>تجاوز السعة: %1 %2 لا يتسع في 16 بت.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureFile</name>
+    <message>
+        <source>it is neither a GIF nor a JPEG nor a PNG picture.</source>
+        <translation>ليست صورة بتنسيق GIF أو JPEG أو PNG.</translation>
+    </message>
+    <message>
+        <source>it is damaged or incomplete.</source>
+        <translation>إنها تالفة أو غير مكتملة.</translation>
+    </message>
+    <message>
+        <source>it is %1 x %2 pixels large, more than %3 x %3 are not accepted.</source>
+        <translation>حجمها %1×%2 بكسل، ولا يُقبل أكثر من %3×%3.</translation>
+    </message>
+    <message>
+        <source>there is no such file.</source>
+        <translation>لا يوجد ملف بهذا الاسم.</translation>
+    </message>
+    <message>
+        <source>it is not an ordinary file.</source>
+        <translation>ليس ملفًا عاديًا.</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB.</source>
+        <translation>حجمها أكبر من %1 ميبيبايت.</translation>
+    </message>
+    <message>
+        <source>The picture &quot;%1&quot; cannot be used: %2</source>
+        <translation>تعذّر استخدام الصورة «%1»: %2</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewWindow</name>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>&amp;طباعة…</translation>
+    </message>
+    <message>
+        <source>&amp;Export PDF...</source>
+        <translation>ت&amp;صدير PDF…</translation>
+    </message>
+    <message>
+        <source>&amp;First</source>
+        <translation>الأ&amp;ولى</translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious</source>
+        <translation>ال&amp;سابقة</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>ال&amp;تالية</translation>
+    </message>
+    <message>
+        <source>&amp;Last</source>
+        <translation>الأ&amp;خيرة</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>عمودي</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>أفقي</translation>
+    </message>
+    <message>
+        <source>P&amp;aper</source>
+        <translation>الور&amp;ق</translation>
+    </message>
+    <message>
+        <source>&amp;Orientation</source>
+        <translation>الات&amp;جاه</translation>
+    </message>
+    <message>
+        <source>Whole page</source>
+        <translation>الصفحة كاملة</translation>
+    </message>
+    <message>
+        <source>Page width</source>
+        <translation>عرض الصفحة</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;in</source>
+        <translation>ت&amp;كبير</translation>
+    </message>
+    <message>
+        <source>Zoom o&amp;ut</source>
+        <translation>تص&amp;غير</translation>
+    </message>
+    <message>
+        <source>&amp;Zoom</source>
+        <translation>&amp;نسبة التكبير</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ge</source>
+        <translation>الص&amp;فحة</translation>
+    </message>
+    <message>
+        <source> of %1</source>
+        <translation> من %1</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>الصفحة %1 من %2</translation>
+    </message>
+    <message>
+        <source>The report could not be printed.</source>
+        <translation>تعذّرت طباعة التقرير.</translation>
+    </message>
+    <message>
+        <source>The report could not be written to &quot;%1&quot;: %2.</source>
+        <translation>تعذّرت كتابة التقرير في «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>No printer is set up on this computer.</source>
+        <translation>لا توجد طابعة مُعدّة على هذا الحاسوب.</translation>
+    </message>
+</context>
+<context>
+    <name>RecordSet</name>
+    <message>
+        <source>The value of column &quot;%1&quot; is no whole number.</source>
+        <translation>قيمة العمود «%1» ليست عددًا صحيحًا.</translation>
+    </message>
+    <message>
+        <source>The value of column &quot;%1&quot; is out of range: %2.</source>
+        <translation>قيمة العمود «%1» خارج النطاق: %2.</translation>
+    </message>
+    <message>
+        <source>There is no current record.</source>
+        <translation>لا يوجد سجل حالي.</translation>
+    </message>
+    <message>
+        <source>The field name &quot;%1&quot; is ambiguous.</source>
+        <translation>اسم الحقل «%1» ملتبس.</translation>
+    </message>
+    <message>
+        <source>There is no field &quot;%1&quot;.</source>
+        <translation>لا يوجد حقل «%1».</translation>
+    </message>
+    <message>
+        <source>There is no field number %1.</source>
+        <translation>لا يوجد حقل رقم %1.</translation>
+    </message>
+    <message>
+        <source>The value of column &quot;%1&quot; is null.</source>
+        <translation>قيمة العمود «%1» فارغة (NULL).</translation>
+    </message>
+    <message>
+        <source>The value of column &quot;%1&quot; is no text.</source>
+        <translation>قيمة العمود «%1» ليست نصًا.</translation>
+    </message>
+    <message>
+        <source>The value of column &quot;%1&quot; does not fit into memory.</source>
+        <translation>قيمة العمود «%1» لا تتسع لها الذاكرة.</translation>
+    </message>
+    <message>
+        <source>The value of column &quot;%1&quot; is no date and time: %2.</source>
+        <translation>قيمة العمود «%1» ليست تاريخًا ووقتًا: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenErrorReport</name>
+    <message>
+        <source>Close program</source>
+        <translation>إغلاق البرنامج</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>متابعة</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>موافق</translation>
+    </message>
+</context>
+<context>
+    <name>SearchPane</name>
+    <message>
+        <source>&amp;List topics</source>
+        <translation>&amp;عرض المواضيع</translation>
+    </message>
+    <message>
+        <source>Words to search for</source>
+        <translation>الكلمات المطلوب البحث عنها</translation>
+    </message>
+    <message>
+        <source>Topics found</source>
+        <translation>المواضيع التي عُثر عليها</translation>
+    </message>
+    <message>
+        <source>&amp;Words</source>
+        <translation>الك&amp;لمات</translation>
+    </message>
+    <message>
+        <source>No topic contains all of these words.</source>
+        <translation>لا يوجد موضوع يحتوي على كل هذه الكلمات.</translation>
+    </message>
+    <message>
+        <source>1 topic found.</source>
+        <translation>عُثر على موضوع واحد.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n topics found.</source>
+        <translation>
+            <numerusform>لم يُعثر على أي موضوع.</numerusform>
+            <numerusform>عُثر على موضوع واحد.</numerusform>
+            <numerusform>عُثر على موضوعين.</numerusform>
+            <numerusform>عُثر على %n مواضيع.</numerusform>
+            <numerusform>عُثر على %n موضوعًا.</numerusform>
+            <numerusform>عُثر على %n موضوع.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Session</name>
+    <message>
+        <source>it does not exist</source>
+        <translation>غير موجود</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>إنه مجلد</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>إنه فارغ</translation>
+    </message>
+    <message>
+        <source>out of memory</source>
+        <translation>الذاكرة غير كافية</translation>
+    </message>
+    <message>
+        <source>The data file &quot;%1&quot; failed before; the statement was not run: %2</source>
+        <translation>حدث خطأ سابق في ملف البيانات «%1»؛ لم تُنفَّذ العبارة: %2</translation>
+    </message>
+    <message>
+        <source>The statement is too long (%1 bytes): %2</source>
+        <translation>العبارة طويلة جدًا (%1 بايت): %2</translation>
+    </message>
+    <message>
+        <source>The statement is empty.</source>
+        <translation>العبارة فارغة.</translation>
+    </message>
+    <message>
+        <source>The text holds more than one statement: %1</source>
+        <translation>يحتوي النص على أكثر من عبارة: %1</translation>
+    </message>
+    <message>
+        <source>The data file &quot;%1&quot; could not be written: %2.</source>
+        <translation>تعذّرت الكتابة في ملف البيانات «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>The data file &quot;%1&quot; failed before; nothing was stored.</source>
+        <translation>حدث خطأ سابق في ملف البيانات «%1»؛ لم يُحفظ شيء.</translation>
+    </message>
+    <message>
+        <source>The data file &quot;%1&quot; could not be written; nothing was stored: %2.</source>
+        <translation>تعذّرت الكتابة في ملف البيانات «%1»؛ لم يُحفظ شيء: %2.</translation>
+    </message>
+    <message>
+        <source>The data file &quot;%1&quot; could not be opened: %2.</source>
+        <translation>تعذّر فتح ملف البيانات «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>The statement failed: %1.
+%2</source>
+        <translation>فشلت العبارة: %1.
+%2</translation>
+    </message>
+    <message>
+        <source>The data file &quot;%1&quot; failed at the statement
+%2
+: %3.</source>
+        <translation>حدث خطأ في ملف البيانات «%1» عند العبارة
+%2
+: %3.</translation>
+    </message>
+    <message>
+        <source>another program is using it (%1)</source>
+        <translation>يستخدمه برنامج آخر (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsPage</name>
+    <message>
+        <source>&amp;Save Settings</source>
+        <translation>&amp;حفظ الإعدادات</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>م&amp;ساعدة</translation>
+    </message>
+    <message>
+        <source>Show &amp;grid</source>
+        <translation>إظهار خطوط ال&amp;شبكة</translation>
+    </message>
+    <message>
+        <source>Show &amp;today&apos;s tasks on start</source>
+        <translation>إظهار مهام ال&amp;يوم عند البدء</translation>
+    </message>
+    <message>
+        <source>Start with &amp;windows</source>
+        <translation>البدء مع &amp;تسجيل الدخول</translation>
+    </message>
+    <message>
+        <source>Always on to&amp;p</source>
+        <translation>&amp;دائمًا في المقدمة</translation>
+    </message>
+    <message>
+        <source>&amp;Minimize on start</source>
+        <translation>البدء م&amp;صغرًا</translation>
+    </message>
+    <message>
+        <source>Show tray &amp;balloon when closed</source>
+        <translation>إظهار إشعار في منطقة الإشعارات عند الإ&amp;غلاق</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>عام</translation>
+    </message>
+    <message>
+        <source>Task p&amp;riority</source>
+        <translation>الأ&amp;ولوية</translation>
+    </message>
+    <message>
+        <source>Task &amp;due date</source>
+        <translation>تاريخ الاستح&amp;قاق</translation>
+    </message>
+    <message>
+        <source>Task r&amp;eminder</source>
+        <translation>التذ&amp;كير</translation>
+    </message>
+    <message>
+        <source>Task stat&amp;us</source>
+        <translation>الحا&amp;لة</translation>
+    </message>
+    <message>
+        <source>Show Columns</source>
+        <translation>الأعمدة الظاهرة</translation>
+    </message>
+    <message>
+        <source>Current s&amp;kin</source>
+        <translation>ال&amp;مظهر الحالي</translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>استعراض</translation>
+    </message>
+    <message>
+        <source>Add &amp;new skin</source>
+        <translation>إ&amp;ضافة مظهر جديد</translation>
+    </message>
+    <message>
+        <source>Add new skin</source>
+        <translation>إضافة مظهر جديد</translation>
+    </message>
+    <message>
+        <source>Download More Skins</source>
+        <translation>تنزيل المزيد من المظاهر</translation>
+    </message>
+    <message>
+        <source>Skins</source>
+        <translation>المظاهر</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>إظهار</translation>
+    </message>
+    <message>
+        <source>Hide</source>
+        <translation>إخفاء</translation>
+    </message>
+    <message>
+        <source>Skin Files (*.skf)|*.skf</source>
+        <translation>ملفات المظاهر (*.skf)|*.skf</translation>
+    </message>
+    <message>
+        <source>The new skin is now available in the skins list.</source>
+        <translation>أصبح المظهر الجديد متاحًا الآن في قائمة المظاهر.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsStore</name>
+    <message>
+        <source>The row of the table &quot;settings&quot; is missing in the data file.</source>
+        <translation>سطر الجدول «settings» مفقود من ملف البيانات.</translation>
+    </message>
+</context>
+<context>
+    <name>SkinFile</name>
+    <message>
+        <source>%1: the file is not a text in UTF-8</source>
+        <translation>%1: الملف ليس نصًا بترميز UTF-8</translation>
+    </message>
+    <message>
+        <source>%1: the file does not exist</source>
+        <translation>%1: الملف غير موجود</translation>
+    </message>
+    <message>
+        <source>%1: it is not a file</source>
+        <translation>%1: ليس ملفًا</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1: the file is larger than 1 MiB</source>
+        <translation>%1: حجم الملف أكبر من 1 ميبيبايت</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1، السطر %2: %3</translation>
+    </message>
+</context>
+<context>
+    <name>SkinHeader</name>
+    <message>
+        <source>the file does not begin with a comment block</source>
+        <translation>لا يبدأ الملف بكتلة تعليق</translation>
+    </message>
+    <message>
+        <source>the comment block has no end</source>
+        <translation>كتلة التعليق بلا نهاية</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be the name of a file</source>
+        <translation>لا يمكن أن يكون «%1» اسم ملف</translation>
+    </message>
+    <message>
+        <source>unknown keyword &quot;%1&quot;</source>
+        <translation>كلمة مفتاحية غير معروفة «%1»</translation>
+    </message>
+    <message>
+        <source>a second &quot;%1&quot;</source>
+        <translation>«%1» مكرر</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; says nothing</source>
+        <translation>«%1» بلا محتوى</translation>
+    </message>
+    <message>
+        <source>expected &quot;@color token #rrggbb&quot;</source>
+        <translation>المتوقع «@color token #rrggbb»</translation>
+    </message>
+    <message>
+        <source>a second colour &quot;%1&quot;</source>
+        <translation>اللون «%1» مكرر</translation>
+    </message>
+    <message>
+        <source>expected &quot;@disabled Role $token&quot;</source>
+        <translation>المتوقع «@disabled Role $token»</translation>
+    </message>
+    <message>
+        <source>expected &quot;@palette Role $token&quot;</source>
+        <translation>المتوقع «@palette Role $token»</translation>
+    </message>
+    <message>
+        <source>unknown palette role &quot;%1&quot;</source>
+        <translation>دور لوحة ألوان غير معروف «%1»</translation>
+    </message>
+    <message>
+        <source>the comment block has no &quot;@name&quot;</source>
+        <translation>لا تحتوي كتلة التعليق على «@name»</translation>
+    </message>
+    <message>
+        <source>unknown colour &quot;$%1&quot;</source>
+        <translation>لون غير معروف «$%1»</translation>
+    </message>
+</context>
+<context>
+    <name>SkinSheet</name>
+    <message>
+        <source>unknown colour &quot;$%1&quot;</source>
+        <translation>لون غير معروف «$%1»</translation>
+    </message>
+    <message>
+        <source>a comment has no end</source>
+        <translation>تعليق بلا نهاية</translation>
+    </message>
+    <message>
+        <source>a text in quotes has no end</source>
+        <translation>نص بين علامتي اقتباس بلا نهاية</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is drawn by the program</source>
+        <translation>«%1» يرسمه البرنامج</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not allowed</source>
+        <translation>«%1» غير مسموح به</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: a skin is one file and holds no pictures</source>
+        <translation>«%1»: المظهر ملف واحد ولا يحتوي على صور</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; would take the arrow of a list or picker away</source>
+        <translation>«%1» سيزيل سهم قائمة أو حقل تاريخ</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no property with a value</source>
+        <translation>«%1» ليست خاصية ذات قيمة</translation>
+    </message>
+    <message>
+        <source>expected a rule</source>
+        <translation>المتوقع قاعدة</translation>
+    </message>
+    <message>
+        <source>a rule has no selector or no end</source>
+        <translation>قاعدة بلا محدِّد أو بلا نهاية</translation>
+    </message>
+</context>
+<context>
+    <name>Skins</name>
+    <message>
+        <source>The skin could not be used.
+%1</source>
+        <translation>تعذّر استخدام المظهر.
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>TaskInput</name>
+    <message>
+        <source>Reminder date and time should not be earlier than current system date and time</source>
+        <translation>يجب ألا يسبق تاريخ التذكير ووقته التاريخ والوقت الحاليين للنظام</translation>
+    </message>
+    <message>
+        <source>Please enter task name.</source>
+        <translation>يُرجى إدخال اسم المهمة.</translation>
+    </message>
+    <message>
+        <source>Please select category.</source>
+        <translation>يُرجى اختيار فئة.</translation>
+    </message>
+    <message>
+        <source>Please select reminder sound.</source>
+        <translation>يُرجى اختيار صوت للتذكير.</translation>
+    </message>
+    <message>
+        <source>Please select reminder file.</source>
+        <translation>يُرجى اختيار ملف للتذكير.</translation>
+    </message>
+</context>
+<context>
+    <name>TaskListModel</name>
+    <message>
+        <source>id</source>
+        <translation>المعرّف</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>الاسم</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>الحالة</translation>
+    </message>
+    <message>
+        <source>Due Date</source>
+        <translation>تاريخ الاستحقاق</translation>
+    </message>
+    <message>
+        <source>periority</source>
+        <translation>الأولوية</translation>
+    </message>
+    <message>
+        <source>reminder</source>
+        <translation>التذكير</translation>
+    </message>
+    <message>
+        <source>Reminder on</source>
+        <translation>التذكير مفعّل</translation>
+    </message>
+    <message>
+        <source>Reminder off</source>
+        <translation>التذكير معطّل</translation>
+    </message>
+</context>
+<context>
+    <name>TasksPage</name>
+    <message>
+        <source>A&amp;ll</source>
+        <translation>ا&amp;لكل</translation>
+    </message>
+    <message>
+        <source>Spec&amp;ific</source>
+        <translation>فترة محد&amp;دة</translation>
+    </message>
+    <message>
+        <source>All tas&amp;ks</source>
+        <translation>&amp;كل المهام</translation>
+    </message>
+    <message>
+        <source>Acti&amp;ve tasks only</source>
+        <translation>المهام ال&amp;نشطة فقط</translation>
+    </message>
+    <message>
+        <source>E&amp;xpired tasks only</source>
+        <translation>المهام المتأ&amp;خرة فقط</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>المهام</translation>
+    </message>
+    <message>
+        <source>&amp;From</source>
+        <translation>&amp;من</translation>
+    </message>
+    <message>
+        <source>&amp;To</source>
+        <translation>&amp;إلى</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>إظهار</translation>
+    </message>
+    <message>
+        <source>Categor&amp;y</source>
+        <translation>ال&amp;فئة</translation>
+    </message>
+    <message>
+        <source>Stat&amp;us</source>
+        <translation>ال&amp;حالة</translation>
+    </message>
+    <message>
+        <source>S&amp;ort by</source>
+        <translation>ال&amp;ترتيب حسب</translation>
+    </message>
+    <message>
+        <source>Due date</source>
+        <translation>تاريخ الاستحقاق</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>النوع</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>إ&amp;ضافة</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>تح&amp;رير</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>ح&amp;ذف</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>&amp;طباعة</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>م&amp;ساعدة</translation>
+    </message>
+    <message>
+        <source>Please enter categories in the categories section first.</source>
+        <translation>يُرجى أولًا إدخال فئات في صفحة «الفئات».</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete this task?</source>
+        <translation>هل تريد بالتأكيد حذف هذه المهمة؟</translation>
+    </message>
+</context>
+<context>
+    <name>TopicView</name>
+    <message>
+        <source>This page cannot be shown</source>
+        <translation>تعذّر عرض هذه الصفحة</translation>
+    </message>
+    <message>
+        <source>The help file has no readable page &quot;%1&quot;.</source>
+        <translation>لا يحتوي ملف المساعدة على صفحة مقروءة باسم «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>clsGuiLoader</name>
+    <message>
+        <source>None</source>
+        <translation>بلا ترتيب</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>الاسم</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>الأولوية</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>الحالة</translation>
+    </message>
+    <message>
+        <source>Due Date</source>
+        <translation>تاريخ الاستحقاق</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <comment>statuses</comment>
+        <translation>الكل</translation>
+    </message>
+    <message>
+        <source>Not Started</source>
+        <translation>لم تبدأ</translation>
+    </message>
+    <message>
+        <source>In Progress</source>
+        <translation>قيد التنفيذ</translation>
+    </message>
+    <message>
+        <source>Completed</source>
+        <translation>مكتملة</translation>
+    </message>
+    <message>
+        <source>Waiting on someone else</source>
+        <translation>بانتظار شخص آخر</translation>
+    </message>
+    <message>
+        <source>Deferred</source>
+        <translation>مؤجلة</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <comment>categories</comment>
+        <translation>الكل</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>عادية</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>منخفضة</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>عالية</translation>
+    </message>
+</context>
+<context>
+    <name>drTasks</name>
+    <message>
+        <source>Category</source>
+        <translation>الفئة</translation>
+    </message>
+    <message>
+        <source>Periority</source>
+        <translation>الأولوية</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>الحالة</translation>
+    </message>
+    <message>
+        <source>Due date</source>
+        <translation>تاريخ الاستحقاق</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>الوصف</translation>
+    </message>
+    <message>
+        <source>Tasks Report</source>
+        <translation>تقرير المهام</translation>
+    </message>
+    <message>
+        <source>The report cannot be shown: the module &quot;ambertask_report&quot; is missing from the program&apos;s folder or damaged.</source>
+        <translation>تعذّر عرض التقرير: الوحدة «ambertask_report» مفقودة من مجلد البرنامج أو تالفة.</translation>
+    </message>
+    <message>
+        <source>PDF Files (*.pdf)|*.pdf</source>
+        <translation>ملفات PDF (*.pdf)|*.pdf</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; already exists. Do you want to replace it?</source>
+        <translation>«%1» موجود بالفعل. هل تريد استبداله؟</translation>
+    </message>
+</context>
+<context>
+    <name>frmAbout</name>
+    <message>
+        <source>About Ambertask</source>
+        <translation>حول Ambertask</translation>
+    </message>
+    <message>
+        <source>Version 1.1</source>
+        <translation>الإصدار 1.1</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>م&amp;وافق</translation>
+    </message>
+    <message>
+        <source>Ambertask is a simple and powerful task management software program.</source>
+        <translation>Ambertask برنامج بسيط وقوي لإدارة المهام.</translation>
+    </message>
+    <message>
+        <source>Ambertask comes without any warranty. Your tasks stay on this computer; keep a backup of what you would miss.</source>
+        <translation>يُقدَّم Ambertask دون أي ضمان. تبقى مهامك على هذا الحاسوب؛ احتفظ بنسخة احتياطية مما لا تريد فقدانه.</translation>
+    </message>
+    <message>
+        <source>System Information Is Unavailable At This Time</source>
+        <translation>معلومات النظام غير متاحة في الوقت الحالي</translation>
+    </message>
+</context>
+<context>
+    <name>frmAlerts</name>
+    <message>
+        <source>Due re&amp;minders</source>
+        <translation>التذكيرات المس&amp;تحقة</translation>
+    </message>
+    <message>
+        <source>New reminder</source>
+        <translation>تذكير جديد</translation>
+    </message>
+    <message>
+        <source>&amp;Remind me later</source>
+        <translation>&amp;ذكّرني لاحقًا</translation>
+    </message>
+    <message>
+        <source>&amp;Open Item</source>
+        <translation>&amp;فتح المهمة</translation>
+    </message>
+    <message>
+        <source>&amp;Dismiss</source>
+        <translation>ت&amp;جاهل</translation>
+    </message>
+    <message>
+        <source>Dismiss &amp;All</source>
+        <translation>تجاهل ال&amp;كل</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>م&amp;ساعدة</translation>
+    </message>
+    <message>
+        <source>Da&amp;te:</source>
+        <translation>التا&amp;ريخ:</translation>
+    </message>
+    <message>
+        <source>T&amp;ime:</source>
+        <translation>ال&amp;وقت:</translation>
+    </message>
+    <message>
+        <source>Due reminders</source>
+        <translation>التذكيرات المستحقة</translation>
+    </message>
+    <message>
+        <source>New reminder date</source>
+        <translation>تاريخ التذكير الجديد</translation>
+    </message>
+    <message>
+        <source>New reminder time</source>
+        <translation>وقت التذكير الجديد</translation>
+    </message>
+    <message>
+        <source>Moves the selected reminder to the new date and time</source>
+        <translation>ينقل التذكير المحدد إلى التاريخ والوقت الجديدين</translation>
+    </message>
+    <message>
+        <source>Opens the task of the selected reminder</source>
+        <translation>يفتح مهمة التذكير المحدد</translation>
+    </message>
+    <message>
+        <source>Switches the selected reminder off</source>
+        <translation>يوقف التذكير المحدد</translation>
+    </message>
+    <message>
+        <source>Switches all due reminders off</source>
+        <translation>يوقف كل التذكيرات المستحقة</translation>
+    </message>
+    <message>
+        <source>1 Reminder</source>
+        <translation>تذكير واحد</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Reminders</source>
+        <translation>
+            <numerusform>لا توجد تذكيرات</numerusform>
+            <numerusform>تذكير واحد</numerusform>
+            <numerusform>تذكيران</numerusform>
+            <numerusform>%n تذكيرات</numerusform>
+            <numerusform>%n تذكيرًا</numerusform>
+            <numerusform>%n تذكير</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Reminder date and time should not be earlier than current system date and time</source>
+        <translation>يجب ألا يسبق تاريخ التذكير ووقته التاريخ والوقت الحاليين للنظام</translation>
+    </message>
+</context>
+<context>
+    <name>frmCategoryDetails</name>
+    <message>
+        <source>Icon %1 of %2</source>
+        <translation>الأيقونة %1 من %2</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>الفئة</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>الوصف</translation>
+    </message>
+    <message>
+        <source>De&amp;fault Icon</source>
+        <translation>الأيقونة الافترا&amp;ضية</translation>
+    </message>
+    <message>
+        <source>C&amp;ustom Icon</source>
+        <translation>أيقونة &amp;مخصصة</translation>
+    </message>
+    <message>
+        <source>Default icons</source>
+        <translation>الأيقونات الافتراضية</translation>
+    </message>
+    <message>
+        <source>Custom icon</source>
+        <translation>أيقونة مخصصة</translation>
+    </message>
+    <message>
+        <source>Custom icon preview</source>
+        <translation>معاينة الأيقونة المخصصة</translation>
+    </message>
+    <message>
+        <source>Prefered size 24*24 pixels</source>
+        <translation>الحجم المفضّل 24×24 بكسل</translation>
+    </message>
+    <message>
+        <source>&amp;Browse</source>
+        <translation>ا&amp;ستعراض</translation>
+    </message>
+    <message>
+        <source>Browse for a custom icon</source>
+        <translation>استعراض بحثًا عن أيقونة مخصصة</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>م&amp;وافق</translation>
+    </message>
+    <message>
+        <source>Ca&amp;ncel</source>
+        <translation>إل&amp;غاء</translation>
+    </message>
+    <message>
+        <source>&amp;Description</source>
+        <translation>الو&amp;صف</translation>
+    </message>
+    <message>
+        <source>&amp;Category</source>
+        <translation>ال&amp;فئة</translation>
+    </message>
+    <message>
+        <source>Category Details</source>
+        <translation>تفاصيل الفئة</translation>
+    </message>
+    <message>
+        <source>The category no longer exists.</source>
+        <translation>لم تعد الفئة موجودة.</translation>
+    </message>
+    <message>
+        <source>Image Files (*.gif;*.jpg;*.jpeg)|*.gif;*.jpg;*.jpeg</source>
+        <translation>ملفات الصور (*.gif;*.jpg;*.jpeg)|*.gif;*.jpg;*.jpeg</translation>
+    </message>
+    <message>
+        <source>A category with the same name already exists</source>
+        <translation>توجد فئة بالاسم نفسه بالفعل</translation>
+    </message>
+    <message>
+        <source>Please enter category name.</source>
+        <translation>يُرجى إدخال اسم الفئة.</translation>
+    </message>
+    <message>
+        <source>Please browse for a custom icon</source>
+        <translation>يُرجى اختيار أيقونة مخصصة</translation>
+    </message>
+</context>
+<context>
+    <name>frmMain</name>
+    <message>
+        <source>Tasks</source>
+        <translation>المهام</translation>
+    </message>
+    <message>
+        <source>Categories</source>
+        <translation>الفئات</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>الإعدادات</translation>
+    </message>
+    <message>
+        <source>Maintenance</source>
+        <translation>الصيانة</translation>
+    </message>
+    <message>
+        <source>Version 1.1</source>
+        <translation>الإصدار 1.1</translation>
+    </message>
+    <message>
+        <source>Tray</source>
+        <translation>منطقة الإشعارات</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>إظهار</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>حول</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>مساعدة</translation>
+    </message>
+    <message>
+        <source>Send feedback</source>
+        <translation>إرسال ملاحظات</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>إنهاء</translation>
+    </message>
+    <message>
+        <source>Ambertaks</source>
+        <translation>Ambertask</translation>
+    </message>
+    <message>
+        <source>Hide</source>
+        <translation>إخفاء</translation>
+    </message>
+    <message>
+        <source>Ambertaks is still running..</source>
+        <translation>لا يزال Ambertask قيد التشغيل.</translation>
+    </message>
+</context>
+<context>
+    <name>frmTaskDetails</name>
+    <message>
+        <source>Task Details</source>
+        <translation>تفاصيل المهمة</translation>
+    </message>
+    <message>
+        <source>The task no longer exists.</source>
+        <translation>لم تعد المهمة موجودة.</translation>
+    </message>
+    <message>
+        <source>Executable Files (*.exe;*.bat;)|*.exe;*.bat</source>
+        <translation>الملفات التنفيذية (*.exe;*.bat;)|*.exe;*.bat</translation>
+    </message>
+    <message>
+        <source>Wave Files (*.wav)|*.wav</source>
+        <translation>ملفات الصوت Wave (*.wav)|*.wav</translation>
+    </message>
+    <message>
+        <source>Reminder</source>
+        <translation>التذكير</translation>
+    </message>
+    <message>
+        <source>&amp;Enable reminder</source>
+        <translation>&amp;تفعيل التذكير</translation>
+    </message>
+    <message>
+        <source>Reminder sou&amp;nd</source>
+        <translation>صوت التذ&amp;كير</translation>
+    </message>
+    <message>
+        <source>Reminder &amp;file</source>
+        <translation>&amp;ملف التذكير</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>ا&amp;ستعراض…</translation>
+    </message>
+    <message>
+        <source>Bro&amp;wse...</source>
+        <translation>استعرا&amp;ض…</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>م&amp;وافق</translation>
+    </message>
+    <message>
+        <source>C&amp;ancel</source>
+        <translation>إل&amp;غاء</translation>
+    </message>
+    <message>
+        <source>Task name</source>
+        <translation>اسم المهمة</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>الفئة</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>الوصف</translation>
+    </message>
+    <message>
+        <source>Due date</source>
+        <translation>تاريخ الاستحقاق</translation>
+    </message>
+    <message>
+        <source>Due time</source>
+        <translation>وقت الاستحقاق</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>الحالة</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>الأولوية</translation>
+    </message>
+    <message>
+        <source>Enable reminder</source>
+        <translation>تفعيل التذكير</translation>
+    </message>
+    <message>
+        <source>Reminder date</source>
+        <translation>تاريخ التذكير</translation>
+    </message>
+    <message>
+        <source>Reminder time</source>
+        <translation>وقت التذكير</translation>
+    </message>
+    <message>
+        <source>Reminder sound</source>
+        <translation>صوت التذكير</translation>
+    </message>
+    <message>
+        <source>Reminder sound file</source>
+        <translation>ملف صوت التذكير</translation>
+    </message>
+    <message>
+        <source>Browse for a reminder sound</source>
+        <translation>استعراض بحثًا عن صوت للتذكير</translation>
+    </message>
+    <message>
+        <source>Reminder file</source>
+        <translation>ملف التذكير</translation>
+    </message>
+    <message>
+        <source>Program or batch file</source>
+        <translation>برنامج أو ملف دُفعي</translation>
+    </message>
+    <message>
+        <source>Browse for a reminder file</source>
+        <translation>استعراض بحثًا عن ملف للتذكير</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>موافق</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>&amp;Task name:</source>
+        <translation>اسم الم&amp;همة:</translation>
+    </message>
+    <message>
+        <source>&amp;Category:</source>
+        <translation>ال&amp;فئة:</translation>
+    </message>
+    <message>
+        <source>&amp;Description:</source>
+        <translation>الو&amp;صف:</translation>
+    </message>
+    <message>
+        <source>D&amp;ue date:</source>
+        <translation>تاريخ الاست&amp;حقاق:</translation>
+    </message>
+    <message>
+        <source>Due ti&amp;me:</source>
+        <translation>وقت الاستح&amp;قاق:</translation>
+    </message>
+    <message>
+        <source>&amp;Status:</source>
+        <translation>الحا&amp;لة:</translation>
+    </message>
+    <message>
+        <source>&amp;Priority:</source>
+        <translation>الأولو&amp;ية:</translation>
+    </message>
+    <message>
+        <source>&amp;Reminder date:</source>
+        <translation>تا&amp;ريخ التذكير:</translation>
+    </message>
+    <message>
+        <source>Reminder t&amp;ime:</source>
+        <translation>وقت الت&amp;ذكير:</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,1560 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name>AlertListModel</name>
+    <message>
+        <source>id</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Periority</source>
+        <translation>Prioridad</translation>
+    </message>
+    <message>
+        <source>Due Date</source>
+        <translation>Vencimiento</translation>
+    </message>
+</context>
+<context>
+    <name>CategoriesPage</name>
+    <message>
+        <source>&amp;Add</source>
+        <translation>Añad&amp;ir</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Editar</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>E&amp;liminar</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <source>Categories</source>
+        <translation>Categorías</translation>
+    </message>
+    <message>
+        <source>Add a category</source>
+        <translation>Añadir una categoría</translation>
+    </message>
+    <message>
+        <source>Edit the selected category</source>
+        <translation>Editar la categoría seleccionada</translation>
+    </message>
+    <message>
+        <source>Delete the selected category</source>
+        <translation>Eliminar la categoría seleccionada</translation>
+    </message>
+    <message>
+        <source>Help on categories</source>
+        <translation>Ayuda sobre las categorías</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete &apos;%1&apos; category, all tasks under this category will be deleted?</source>
+        <translation>¿Seguro que desea eliminar la categoría «%1»? También se eliminarán todas sus tareas.</translation>
+    </message>
+</context>
+<context>
+    <name>ClsTask</name>
+    <message>
+        <source>The statement is unfinished: %1</source>
+        <translation>La instrucción está incompleta: %1</translation>
+    </message>
+</context>
+<context>
+    <name>CompiledHelpWindow</name>
+    <message>
+        <source>Ambertask Help</source>
+        <translation>Ayuda de Ambertask</translation>
+    </message>
+    <message>
+        <source>Topic</source>
+        <translation>Tema</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Atrás</translation>
+    </message>
+    <message>
+        <source>&amp;Forward</source>
+        <translation>A&amp;delante</translation>
+    </message>
+    <message>
+        <source>&amp;Home</source>
+        <translation>&amp;Inicio</translation>
+    </message>
+    <message>
+        <source>&amp;Smaller text</source>
+        <translation>Texto más &amp;pequeño</translation>
+    </message>
+    <message>
+        <source>&amp;Larger text</source>
+        <translation>Texto más &amp;grande</translation>
+    </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>&amp;Contenido</translation>
+    </message>
+    <message>
+        <source>&amp;Index</source>
+        <translation>Índic&amp;e</translation>
+    </message>
+    <message>
+        <source>S&amp;earch</source>
+        <translation>&amp;Buscar</translation>
+    </message>
+    <message>
+        <source>The help cannot be shown</source>
+        <translation>No se puede mostrar la ayuda</translation>
+    </message>
+    <message>
+        <source>The help file &quot;%1&quot; is damaged or cannot be read. Installing the program again brings it back; your tasks are kept.</source>
+        <translation>El archivo de ayuda «%1» está dañado o no se puede leer. Al reinstalar el programa se recupera; sus tareas se conservan.</translation>
+    </message>
+    <message>
+        <source>The help file &quot;%1&quot; is not in the program&apos;s folder. Installing the program again brings it back; your tasks are kept.</source>
+        <translation>El archivo de ayuda «%1» no está en la carpeta del programa. Al reinstalar el programa se recupera; sus tareas se conservan.</translation>
+    </message>
+    <message>
+        <source>This page cannot be shown</source>
+        <translation>No se puede mostrar esta página</translation>
+    </message>
+    <message>
+        <source>The help file has no topic number %1.</source>
+        <translation>El archivo de ayuda no contiene el tema número %1.</translation>
+    </message>
+</context>
+<context>
+    <name>Connection</name>
+    <message>
+        <source>The connection is open already.</source>
+        <translation>La conexión ya está abierta.</translation>
+    </message>
+    <message>
+        <source>The data file knows no users and no passwords.</source>
+        <translation>El archivo de datos no admite usuarios ni contraseñas.</translation>
+    </message>
+    <message>
+        <source>The connection string &quot;%1&quot; names no data file.</source>
+        <translation>La cadena de conexión «%1» no indica ningún archivo de datos.</translation>
+    </message>
+    <message>
+        <source>The connection to the data file is not open.</source>
+        <translation>La conexión con el archivo de datos no está abierta.</translation>
+    </message>
+</context>
+<context>
+    <name>ContentsPane</name>
+    <message>
+        <source>Contents</source>
+        <translation>Contenido</translation>
+    </message>
+</context>
+<context>
+    <name>CustomIcons</name>
+    <message>
+        <source>The picture &quot;%1&quot; cannot be used: this is not a plain file name.</source>
+        <translation>No se puede usar la imagen «%1»: no es un simple nombre de archivo.</translation>
+    </message>
+</context>
+<context>
+    <name>DataFileCopies</name>
+    <message>
+        <source>&quot;%1&quot; belongs to the data file.</source>
+        <translation>«%1» forma parte del archivo de datos.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is the data file itself.</source>
+        <translation>«%1» es el propio archivo de datos.</translation>
+    </message>
+    <message>
+        <source>An operation on &quot;%1&quot; is not finished.</source>
+        <translation>Una operación en «%1» no ha terminado.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no data file.</source>
+        <translation>«%1» no es un archivo de datos.</translation>
+    </message>
+    <message>
+        <source>The file is damaged.</source>
+        <translation>El archivo está dañado.</translation>
+    </message>
+</context>
+<context>
+    <name>Dialect</name>
+    <message>
+        <source>The date literal %1 is not of the form #month/day/year hours:minutes#.</source>
+        <translation>El literal de fecha %1 no tiene la forma #mes/día/año horas:minutos#.</translation>
+    </message>
+    <message>
+        <source>The date literal %1 names no existing day and time.</source>
+        <translation>El literal de fecha %1 no indica un momento existente.</translation>
+    </message>
+    <message>
+        <source>The statement holds a zero character.</source>
+        <translation>La instrucción contiene un carácter nulo.</translation>
+    </message>
+    <message>
+        <source>The date literal %1 is not closed.</source>
+        <translation>El literal de fecha %1 no está cerrado.</translation>
+    </message>
+</context>
+<context>
+    <name>FileDialogs</name>
+    <message>
+        <source>Folder</source>
+        <translation>Carpeta</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>Todos los archivos (*)</translation>
+    </message>
+</context>
+<context>
+    <name>FileError</name>
+    <message>
+        <source>it is not a file</source>
+        <translation>no es un archivo</translation>
+    </message>
+    <message>
+        <source>there is no file name</source>
+        <translation>falta el nombre del archivo</translation>
+    </message>
+</context>
+<context>
+    <name>HTMLHelpViewer</name>
+    <message>
+        <source>The help window is missing from this installation.</source>
+        <translation>Falta la ventana de ayuda en esta instalación.</translation>
+    </message>
+</context>
+<context>
+    <name>IndexPane</name>
+    <message>
+        <source>First letters of a keyword</source>
+        <translation>Primeras letras de una palabra clave</translation>
+    </message>
+    <message>
+        <source>Index</source>
+        <translation>Índice</translation>
+    </message>
+    <message>
+        <source>&amp;Keyword</source>
+        <translation>Palabra cla&amp;ve</translation>
+    </message>
+</context>
+<context>
+    <name>MaintenancePage</name>
+    <message>
+        <source>Ambertaks Backup Files (*.abk)|*.abk</source>
+        <translation>Copias de seguridad de Ambertask (*.abk)|*.abk</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>E&amp;liminar</translation>
+    </message>
+    <message>
+        <source>Delete Tasks</source>
+        <translation>Eliminar tareas</translation>
+    </message>
+    <message>
+        <source>&amp;Category</source>
+        <translation>&amp;Categoría</translation>
+    </message>
+    <message>
+        <source>&amp;Status</source>
+        <translation>&amp;Estado</translation>
+    </message>
+    <message>
+        <source>&amp;All tasks</source>
+        <translation>&amp;Todas las tareas</translation>
+    </message>
+    <message>
+        <source>Acti&amp;ve tasks only</source>
+        <translation>Solo tareas &amp;activas</translation>
+    </message>
+    <message>
+        <source>&amp;Expired tasks only</source>
+        <translation>Solo tareas &amp;vencidas</translation>
+    </message>
+    <message>
+        <source>Date Range</source>
+        <translation>Período</translation>
+    </message>
+    <message>
+        <source>&amp;From</source>
+        <translation>De&amp;sde</translation>
+    </message>
+    <message>
+        <source>&amp;To</source>
+        <translation>&amp;Hasta</translation>
+    </message>
+    <message>
+        <source>&amp;Backup</source>
+        <translation>Crear co&amp;pia</translation>
+    </message>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Restaurar</translation>
+    </message>
+    <message>
+        <source>Backup and Restore</source>
+        <translation>Copia de seguridad y restauración</translation>
+    </message>
+    <message>
+        <source>There is no tasks according to the selected criteria!</source>
+        <translation>¡No hay tareas que cumplan los criterios seleccionados!</translation>
+    </message>
+    <message numerus="yes">
+        <source>Are you sure you want to delete %n tasks?</source>
+        <translation>
+            <numerusform>¿Seguro que desea eliminar %n tarea?</numerusform>
+            <numerusform>¿Seguro que desea eliminar %n tareas?</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MessageBoxes</name>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Sí</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;No</translation>
+    </message>
+</context>
+<context>
+    <name>OverflowError</name>
+    <message>
+        <source>task id</source>
+        <translation>identificador de tarea</translation>
+    </message>
+    <message>
+        <source>icon number</source>
+        <translation>número de icono</translation>
+    </message>
+    <message>
+        <source>category id</source>
+        <translation>identificador de categoría</translation>
+    </message>
+    <message>
+        <source>Overflow: the %1 %2 does not fit into 16 bits.</source>
+        <translation>Desbordamiento: %1 %2 no cabe en 16 bits.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureFile</name>
+    <message>
+        <source>it is neither a GIF nor a JPEG nor a PNG picture.</source>
+        <translation>no es una imagen GIF, JPEG ni PNG.</translation>
+    </message>
+    <message>
+        <source>it is damaged or incomplete.</source>
+        <translation>está dañada o incompleta.</translation>
+    </message>
+    <message>
+        <source>it is %1 x %2 pixels large, more than %3 x %3 are not accepted.</source>
+        <translation>mide %1 × %2 píxeles y no se admiten más de %3 × %3.</translation>
+    </message>
+    <message>
+        <source>there is no such file.</source>
+        <translation>el archivo no existe.</translation>
+    </message>
+    <message>
+        <source>it is not an ordinary file.</source>
+        <translation>no es un archivo normal.</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB.</source>
+        <translation>ocupa más de %1 MiB.</translation>
+    </message>
+    <message>
+        <source>The picture &quot;%1&quot; cannot be used: %2</source>
+        <translation>No se puede usar la imagen «%1»: %2</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewWindow</name>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>&amp;Imprimir…</translation>
+    </message>
+    <message>
+        <source>&amp;Export PDF...</source>
+        <translation>&amp;Exportar a PDF…</translation>
+    </message>
+    <message>
+        <source>&amp;First</source>
+        <translation>P&amp;rimera</translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious</source>
+        <translation>&amp;Anterior</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Siguiente</translation>
+    </message>
+    <message>
+        <source>&amp;Last</source>
+        <translation>Ú&amp;ltima</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Vertical</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Horizontal</translation>
+    </message>
+    <message>
+        <source>P&amp;aper</source>
+        <translation>Pa&amp;pel</translation>
+    </message>
+    <message>
+        <source>&amp;Orientation</source>
+        <translation>&amp;Orientación</translation>
+    </message>
+    <message>
+        <source>Whole page</source>
+        <translation>Página completa</translation>
+    </message>
+    <message>
+        <source>Page width</source>
+        <translation>Ancho de página</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;in</source>
+        <translation>A&amp;mpliar</translation>
+    </message>
+    <message>
+        <source>Zoom o&amp;ut</source>
+        <translation>Re&amp;ducir</translation>
+    </message>
+    <message>
+        <source>&amp;Zoom</source>
+        <translation>&amp;Zoom</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ge</source>
+        <translation>Pá&amp;gina</translation>
+    </message>
+    <message>
+        <source> of %1</source>
+        <translation> de %1</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Página %1 de %2</translation>
+    </message>
+    <message>
+        <source>The report could not be printed.</source>
+        <translation>No se pudo imprimir el informe.</translation>
+    </message>
+    <message>
+        <source>The report could not be written to &quot;%1&quot;: %2.</source>
+        <translation>No se pudo escribir el informe en «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>No printer is set up on this computer.</source>
+        <translation>No hay ninguna impresora configurada en este equipo.</translation>
+    </message>
+</context>
+<context>
+    <name>RecordSet</name>
+    <message>
+        <source>The value of column &quot;%1&quot; is no whole number.</source>
+        <translation>El valor de la columna «%1» no es un número entero.</translation>
+    </message>
+    <message>
+        <source>The value of column &quot;%1&quot; is out of range: %2.</source>
+        <translation>El valor de la columna «%1» está fuera del intervalo: %2.</translation>
+    </message>
+    <message>
+        <source>There is no current record.</source>
+        <translation>No hay ningún registro actual.</translation>
+    </message>
+    <message>
+        <source>The field name &quot;%1&quot; is ambiguous.</source>
+        <translation>El nombre de campo «%1» es ambiguo.</translation>
+    </message>
+    <message>
+        <source>There is no field &quot;%1&quot;.</source>
+        <translation>No existe el campo «%1».</translation>
+    </message>
+    <message>
+        <source>There is no field number %1.</source>
+        <translation>No existe el campo número %1.</translation>
+    </message>
+    <message>
+        <source>The value of column &quot;%1&quot; is null.</source>
+        <translation>El valor de la columna «%1» es nulo.</translation>
+    </message>
+    <message>
+        <source>The value of column &quot;%1&quot; is no text.</source>
+        <translation>El valor de la columna «%1» no es texto.</translation>
+    </message>
+    <message>
+        <source>The value of column &quot;%1&quot; does not fit into memory.</source>
+        <translation>El valor de la columna «%1» no cabe en la memoria.</translation>
+    </message>
+    <message>
+        <source>The value of column &quot;%1&quot; is no date and time: %2.</source>
+        <translation>El valor de la columna «%1» no es una fecha con hora: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenErrorReport</name>
+    <message>
+        <source>Close program</source>
+        <translation>Cerrar el programa</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuar</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+</context>
+<context>
+    <name>SearchPane</name>
+    <message>
+        <source>&amp;List topics</source>
+        <translation>&amp;Listar temas</translation>
+    </message>
+    <message>
+        <source>Words to search for</source>
+        <translation>Palabras que se buscan</translation>
+    </message>
+    <message>
+        <source>Topics found</source>
+        <translation>Temas encontrados</translation>
+    </message>
+    <message>
+        <source>&amp;Words</source>
+        <translation>Palab&amp;ras</translation>
+    </message>
+    <message>
+        <source>No topic contains all of these words.</source>
+        <translation>Ningún tema contiene todas estas palabras.</translation>
+    </message>
+    <message>
+        <source>1 topic found.</source>
+        <translation>Se encontró 1 tema.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n topics found.</source>
+        <translation>
+            <numerusform>Se encontró %n tema.</numerusform>
+            <numerusform>Se encontraron %n temas.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Session</name>
+    <message>
+        <source>it does not exist</source>
+        <translation>no existe</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>es una carpeta</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>está vacío</translation>
+    </message>
+    <message>
+        <source>out of memory</source>
+        <translation>memoria insuficiente</translation>
+    </message>
+    <message>
+        <source>The data file &quot;%1&quot; failed before; the statement was not run: %2</source>
+        <translation>El archivo de datos «%1» ya había fallado; la instrucción no se ejecutó: %2</translation>
+    </message>
+    <message>
+        <source>The statement is too long (%1 bytes): %2</source>
+        <translation>La instrucción es demasiado larga (%1 bytes): %2</translation>
+    </message>
+    <message>
+        <source>The statement is empty.</source>
+        <translation>La instrucción está vacía.</translation>
+    </message>
+    <message>
+        <source>The text holds more than one statement: %1</source>
+        <translation>El texto contiene más de una instrucción: %1</translation>
+    </message>
+    <message>
+        <source>The data file &quot;%1&quot; could not be written: %2.</source>
+        <translation>No se pudo escribir en el archivo de datos «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>The data file &quot;%1&quot; failed before; nothing was stored.</source>
+        <translation>El archivo de datos «%1» ya había fallado; no se guardó nada.</translation>
+    </message>
+    <message>
+        <source>The data file &quot;%1&quot; could not be written; nothing was stored: %2.</source>
+        <translation>No se pudo escribir en el archivo de datos «%1»; no se guardó nada: %2.</translation>
+    </message>
+    <message>
+        <source>The data file &quot;%1&quot; could not be opened: %2.</source>
+        <translation>No se pudo abrir el archivo de datos «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>The statement failed: %1.
+%2</source>
+        <translation>La instrucción falló: %1.
+%2</translation>
+    </message>
+    <message>
+        <source>The data file &quot;%1&quot; failed at the statement
+%2
+: %3.</source>
+        <translation>El archivo de datos «%1» falló en la instrucción
+%2
+: %3.</translation>
+    </message>
+    <message>
+        <source>another program is using it (%1)</source>
+        <translation>otro programa lo está usando (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsPage</name>
+    <message>
+        <source>&amp;Save Settings</source>
+        <translation>&amp;Guardar configuración</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <source>Show &amp;grid</source>
+        <translation>Mostrar &amp;cuadrícula</translation>
+    </message>
+    <message>
+        <source>Show &amp;today&apos;s tasks on start</source>
+        <translation>Mostrar las tareas de &amp;hoy al iniciar</translation>
+    </message>
+    <message>
+        <source>Start with &amp;windows</source>
+        <translation>&amp;Iniciar con la sesión</translation>
+    </message>
+    <message>
+        <source>Always on to&amp;p</source>
+        <translation>&amp;Siempre visible</translation>
+    </message>
+    <message>
+        <source>&amp;Minimize on start</source>
+        <translation>Iniciar &amp;minimizado</translation>
+    </message>
+    <message>
+        <source>Show tray &amp;balloon when closed</source>
+        <translation>Mostrar &amp;aviso en la bandeja al cerrar</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Task p&amp;riority</source>
+        <translation>&amp;Prioridad</translation>
+    </message>
+    <message>
+        <source>Task &amp;due date</source>
+        <translation>&amp;Vencimiento</translation>
+    </message>
+    <message>
+        <source>Task r&amp;eminder</source>
+        <translation>&amp;Recordatorio</translation>
+    </message>
+    <message>
+        <source>Task stat&amp;us</source>
+        <translation>&amp;Estado</translation>
+    </message>
+    <message>
+        <source>Show Columns</source>
+        <translation>Columnas visibles</translation>
+    </message>
+    <message>
+        <source>Current s&amp;kin</source>
+        <translation>&amp;Tema actual</translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>Examinar</translation>
+    </message>
+    <message>
+        <source>Add &amp;new skin</source>
+        <translation>Añadir tema &amp;nuevo</translation>
+    </message>
+    <message>
+        <source>Add new skin</source>
+        <translation>Añadir tema nuevo</translation>
+    </message>
+    <message>
+        <source>Download More Skins</source>
+        <translation>Descargar más temas</translation>
+    </message>
+    <message>
+        <source>Skins</source>
+        <translation>Temas</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Mostrar</translation>
+    </message>
+    <message>
+        <source>Hide</source>
+        <translation>Ocultar</translation>
+    </message>
+    <message>
+        <source>Skin Files (*.skf)|*.skf</source>
+        <translation>Archivos de tema (*.skf)|*.skf</translation>
+    </message>
+    <message>
+        <source>The new skin is now available in the skins list.</source>
+        <translation>El tema nuevo ya está disponible en la lista de temas.</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsStore</name>
+    <message>
+        <source>The row of the table &quot;settings&quot; is missing in the data file.</source>
+        <translation>Falta la fila de la tabla «settings» en el archivo de datos.</translation>
+    </message>
+</context>
+<context>
+    <name>SkinFile</name>
+    <message>
+        <source>%1: the file is not a text in UTF-8</source>
+        <translation>%1: el archivo no es texto en UTF-8</translation>
+    </message>
+    <message>
+        <source>%1: the file does not exist</source>
+        <translation>%1: el archivo no existe</translation>
+    </message>
+    <message>
+        <source>%1: it is not a file</source>
+        <translation>%1: no es un archivo</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1: the file is larger than 1 MiB</source>
+        <translation>%1: el archivo ocupa más de 1 MiB</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, línea %2: %3</translation>
+    </message>
+</context>
+<context>
+    <name>SkinHeader</name>
+    <message>
+        <source>the file does not begin with a comment block</source>
+        <translation>el archivo no empieza con un bloque de comentario</translation>
+    </message>
+    <message>
+        <source>the comment block has no end</source>
+        <translation>el bloque de comentario no tiene fin</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be the name of a file</source>
+        <translation>«%1» no puede ser un nombre de archivo</translation>
+    </message>
+    <message>
+        <source>unknown keyword &quot;%1&quot;</source>
+        <translation>palabra clave «%1» desconocida</translation>
+    </message>
+    <message>
+        <source>a second &quot;%1&quot;</source>
+        <translation>«%1» aparece dos veces</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; says nothing</source>
+        <translation>«%1» está vacío</translation>
+    </message>
+    <message>
+        <source>expected &quot;@color token #rrggbb&quot;</source>
+        <translation>se esperaba «@color token #rrggbb»</translation>
+    </message>
+    <message>
+        <source>a second colour &quot;%1&quot;</source>
+        <translation>el color «%1» aparece dos veces</translation>
+    </message>
+    <message>
+        <source>expected &quot;@disabled Role $token&quot;</source>
+        <translation>se esperaba «@disabled Role $token»</translation>
+    </message>
+    <message>
+        <source>expected &quot;@palette Role $token&quot;</source>
+        <translation>se esperaba «@palette Role $token»</translation>
+    </message>
+    <message>
+        <source>unknown palette role &quot;%1&quot;</source>
+        <translation>rol de paleta «%1» desconocido</translation>
+    </message>
+    <message>
+        <source>the comment block has no &quot;@name&quot;</source>
+        <translation>falta «@name» en el bloque de comentario</translation>
+    </message>
+    <message>
+        <source>unknown colour &quot;$%1&quot;</source>
+        <translation>color «$%1» desconocido</translation>
+    </message>
+</context>
+<context>
+    <name>SkinSheet</name>
+    <message>
+        <source>unknown colour &quot;$%1&quot;</source>
+        <translation>color «$%1» desconocido</translation>
+    </message>
+    <message>
+        <source>a comment has no end</source>
+        <translation>un comentario no tiene fin</translation>
+    </message>
+    <message>
+        <source>a text in quotes has no end</source>
+        <translation>un texto entre comillas no tiene fin</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is drawn by the program</source>
+        <translation>«%1» lo dibuja el programa</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not allowed</source>
+        <translation>«%1» no está permitido</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: a skin is one file and holds no pictures</source>
+        <translation>«%1»: un tema es un solo archivo y no contiene imágenes</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; would take the arrow of a list or picker away</source>
+        <translation>«%1» quitaría la flecha de una lista o de un selector</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no property with a value</source>
+        <translation>«%1» no es una propiedad con un valor</translation>
+    </message>
+    <message>
+        <source>expected a rule</source>
+        <translation>se esperaba una regla</translation>
+    </message>
+    <message>
+        <source>a rule has no selector or no end</source>
+        <translation>una regla no tiene selector o no tiene fin</translation>
+    </message>
+</context>
+<context>
+    <name>Skins</name>
+    <message>
+        <source>The skin could not be used.
+%1</source>
+        <translation>No se pudo usar el tema.
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>TaskInput</name>
+    <message>
+        <source>Reminder date and time should not be earlier than current system date and time</source>
+        <translation>La fecha y la hora del recordatorio no pueden ser anteriores a la fecha y la hora actuales del sistema</translation>
+    </message>
+    <message>
+        <source>Please enter task name.</source>
+        <translation>Escriba el nombre de la tarea.</translation>
+    </message>
+    <message>
+        <source>Please select category.</source>
+        <translation>Seleccione una categoría.</translation>
+    </message>
+    <message>
+        <source>Please select reminder sound.</source>
+        <translation>Seleccione un sonido de recordatorio.</translation>
+    </message>
+    <message>
+        <source>Please select reminder file.</source>
+        <translation>Seleccione un archivo de recordatorio.</translation>
+    </message>
+</context>
+<context>
+    <name>TaskListModel</name>
+    <message>
+        <source>id</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Due Date</source>
+        <translation>Vencimiento</translation>
+    </message>
+    <message>
+        <source>periority</source>
+        <translation>Prioridad</translation>
+    </message>
+    <message>
+        <source>reminder</source>
+        <translation>Recordatorio</translation>
+    </message>
+    <message>
+        <source>Reminder on</source>
+        <translation>Recordatorio activado</translation>
+    </message>
+    <message>
+        <source>Reminder off</source>
+        <translation>Recordatorio desactivado</translation>
+    </message>
+</context>
+<context>
+    <name>TasksPage</name>
+    <message>
+        <source>A&amp;ll</source>
+        <translation>&amp;Todas</translation>
+    </message>
+    <message>
+        <source>Spec&amp;ific</source>
+        <translation>&amp;Período</translation>
+    </message>
+    <message>
+        <source>All tas&amp;ks</source>
+        <translation>T&amp;odas las tareas</translation>
+    </message>
+    <message>
+        <source>Acti&amp;ve tasks only</source>
+        <translation>Solo tareas &amp;activas</translation>
+    </message>
+    <message>
+        <source>E&amp;xpired tasks only</source>
+        <translation>Solo tareas &amp;vencidas</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>Tareas</translation>
+    </message>
+    <message>
+        <source>&amp;From</source>
+        <translation>De&amp;sde</translation>
+    </message>
+    <message>
+        <source>&amp;To</source>
+        <translation>&amp;Hasta</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Mostrar</translation>
+    </message>
+    <message>
+        <source>Categor&amp;y</source>
+        <translation>&amp;Categoría</translation>
+    </message>
+    <message>
+        <source>Stat&amp;us</source>
+        <translation>Esta&amp;do</translation>
+    </message>
+    <message>
+        <source>S&amp;ort by</source>
+        <translation>O&amp;rdenar por</translation>
+    </message>
+    <message>
+        <source>Due date</source>
+        <translation>Vencimiento</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>Añad&amp;ir</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Editar</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>E&amp;liminar</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>I&amp;mprimir</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <source>Please enter categories in the categories section first.</source>
+        <translation>Primero cree categorías en la página «Categorías».</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete this task?</source>
+        <translation>¿Seguro que desea eliminar esta tarea?</translation>
+    </message>
+</context>
+<context>
+    <name>TopicView</name>
+    <message>
+        <source>This page cannot be shown</source>
+        <translation>No se puede mostrar esta página</translation>
+    </message>
+    <message>
+        <source>The help file has no readable page &quot;%1&quot;.</source>
+        <translation>El archivo de ayuda no contiene la página «%1» o no se puede leer.</translation>
+    </message>
+</context>
+<context>
+    <name>clsGuiLoader</name>
+    <message>
+        <source>None</source>
+        <translation>Sin ordenar</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>Prioridad</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Due Date</source>
+        <translation>Vencimiento</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <comment>statuses</comment>
+        <translation>Todos</translation>
+    </message>
+    <message>
+        <source>Not Started</source>
+        <translation>No iniciada</translation>
+    </message>
+    <message>
+        <source>In Progress</source>
+        <translation>En curso</translation>
+    </message>
+    <message>
+        <source>Completed</source>
+        <translation>Completada</translation>
+    </message>
+    <message>
+        <source>Waiting on someone else</source>
+        <translation>A la espera de otra persona</translation>
+    </message>
+    <message>
+        <source>Deferred</source>
+        <translation>Aplazada</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <comment>categories</comment>
+        <translation>Todas</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Baja</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Alta</translation>
+    </message>
+</context>
+<context>
+    <name>drTasks</name>
+    <message>
+        <source>Category</source>
+        <translation>Categoría</translation>
+    </message>
+    <message>
+        <source>Periority</source>
+        <translation>Prioridad</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Due date</source>
+        <translation>Vencimiento</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Descripción</translation>
+    </message>
+    <message>
+        <source>Tasks Report</source>
+        <translation>Informe de tareas</translation>
+    </message>
+    <message>
+        <source>The report cannot be shown: the module &quot;ambertask_report&quot; is missing from the program&apos;s folder or damaged.</source>
+        <translation>No se puede mostrar el informe: el módulo «ambertask_report» falta en la carpeta del programa o está dañado.</translation>
+    </message>
+    <message>
+        <source>PDF Files (*.pdf)|*.pdf</source>
+        <translation>Archivos PDF (*.pdf)|*.pdf</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; already exists. Do you want to replace it?</source>
+        <translation>«%1» ya existe. ¿Desea reemplazarlo?</translation>
+    </message>
+</context>
+<context>
+    <name>frmAbout</name>
+    <message>
+        <source>About Ambertask</source>
+        <translation>Acerca de Ambertask</translation>
+    </message>
+    <message>
+        <source>Version 1.1</source>
+        <translation>Versión 1.1</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>Acep&amp;tar</translation>
+    </message>
+    <message>
+        <source>Ambertask is a simple and powerful task management software program.</source>
+        <translation>Ambertask es un programa de gestión de tareas sencillo y potente.</translation>
+    </message>
+    <message>
+        <source>Ambertask comes without any warranty. Your tasks stay on this computer; keep a backup of what you would miss.</source>
+        <translation>Ambertask se ofrece sin garantía alguna. Sus tareas permanecen en este equipo; haga una copia de seguridad de lo que no quiera perder.</translation>
+    </message>
+    <message>
+        <source>System Information Is Unavailable At This Time</source>
+        <translation>La información del sistema no está disponible en este momento</translation>
+    </message>
+</context>
+<context>
+    <name>frmAlerts</name>
+    <message>
+        <source>Due re&amp;minders</source>
+        <translation>Recordatorios &amp;pendientes</translation>
+    </message>
+    <message>
+        <source>New reminder</source>
+        <translation>Recordatorio nuevo</translation>
+    </message>
+    <message>
+        <source>&amp;Remind me later</source>
+        <translation>Recordar &amp;más tarde</translation>
+    </message>
+    <message>
+        <source>&amp;Open Item</source>
+        <translation>Abr&amp;ir tarea</translation>
+    </message>
+    <message>
+        <source>&amp;Dismiss</source>
+        <translation>&amp;Descartar</translation>
+    </message>
+    <message>
+        <source>Dismiss &amp;All</source>
+        <translation>Descartar &amp;todos</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <source>Da&amp;te:</source>
+        <translation>&amp;Fecha:</translation>
+    </message>
+    <message>
+        <source>T&amp;ime:</source>
+        <translation>&amp;Hora:</translation>
+    </message>
+    <message>
+        <source>Due reminders</source>
+        <translation>Recordatorios pendientes</translation>
+    </message>
+    <message>
+        <source>New reminder date</source>
+        <translation>Fecha del recordatorio nuevo</translation>
+    </message>
+    <message>
+        <source>New reminder time</source>
+        <translation>Hora del recordatorio nuevo</translation>
+    </message>
+    <message>
+        <source>Moves the selected reminder to the new date and time</source>
+        <translation>Mueve el recordatorio seleccionado a la fecha y la hora nuevas</translation>
+    </message>
+    <message>
+        <source>Opens the task of the selected reminder</source>
+        <translation>Abre la tarea del recordatorio seleccionado</translation>
+    </message>
+    <message>
+        <source>Switches the selected reminder off</source>
+        <translation>Desactiva el recordatorio seleccionado</translation>
+    </message>
+    <message>
+        <source>Switches all due reminders off</source>
+        <translation>Desactiva todos los recordatorios pendientes</translation>
+    </message>
+    <message>
+        <source>1 Reminder</source>
+        <translation>1 recordatorio</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Reminders</source>
+        <translation>
+            <numerusform>%n recordatorio</numerusform>
+            <numerusform>%n recordatorios</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Reminder date and time should not be earlier than current system date and time</source>
+        <translation>La fecha y la hora del recordatorio no pueden ser anteriores a la fecha y la hora actuales del sistema</translation>
+    </message>
+</context>
+<context>
+    <name>frmCategoryDetails</name>
+    <message>
+        <source>Icon %1 of %2</source>
+        <translation>Icono %1 de %2</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Categoría</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Descripción</translation>
+    </message>
+    <message>
+        <source>De&amp;fault Icon</source>
+        <translation>Icono &amp;predeterminado</translation>
+    </message>
+    <message>
+        <source>C&amp;ustom Icon</source>
+        <translation>Icono per&amp;sonalizado</translation>
+    </message>
+    <message>
+        <source>Default icons</source>
+        <translation>Iconos predeterminados</translation>
+    </message>
+    <message>
+        <source>Custom icon</source>
+        <translation>Icono personalizado</translation>
+    </message>
+    <message>
+        <source>Custom icon preview</source>
+        <translation>Vista previa del icono personalizado</translation>
+    </message>
+    <message>
+        <source>Prefered size 24*24 pixels</source>
+        <translation>Tamaño recomendado: 24 × 24 píxeles</translation>
+    </message>
+    <message>
+        <source>&amp;Browse</source>
+        <translation>E&amp;xaminar</translation>
+    </message>
+    <message>
+        <source>Browse for a custom icon</source>
+        <translation>Buscar un icono personalizado</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>Acep&amp;tar</translation>
+    </message>
+    <message>
+        <source>Ca&amp;ncel</source>
+        <translation>Cance&amp;lar</translation>
+    </message>
+    <message>
+        <source>&amp;Description</source>
+        <translation>&amp;Descripción</translation>
+    </message>
+    <message>
+        <source>&amp;Category</source>
+        <translation>&amp;Categoría</translation>
+    </message>
+    <message>
+        <source>Category Details</source>
+        <translation>Detalles de la categoría</translation>
+    </message>
+    <message>
+        <source>The category no longer exists.</source>
+        <translation>La categoría ya no existe.</translation>
+    </message>
+    <message>
+        <source>Image Files (*.gif;*.jpg;*.jpeg)|*.gif;*.jpg;*.jpeg</source>
+        <translation>Archivos de imagen (*.gif;*.jpg;*.jpeg)|*.gif;*.jpg;*.jpeg</translation>
+    </message>
+    <message>
+        <source>A category with the same name already exists</source>
+        <translation>Ya existe una categoría con ese nombre</translation>
+    </message>
+    <message>
+        <source>Please enter category name.</source>
+        <translation>Escriba el nombre de la categoría.</translation>
+    </message>
+    <message>
+        <source>Please browse for a custom icon</source>
+        <translation>Seleccione un icono personalizado</translation>
+    </message>
+</context>
+<context>
+    <name>frmMain</name>
+    <message>
+        <source>Tasks</source>
+        <translation>Tareas</translation>
+    </message>
+    <message>
+        <source>Categories</source>
+        <translation>Categorías</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Configuración</translation>
+    </message>
+    <message>
+        <source>Maintenance</source>
+        <translation>Mantenimiento</translation>
+    </message>
+    <message>
+        <source>Version 1.1</source>
+        <translation>Versión 1.1</translation>
+    </message>
+    <message>
+        <source>Tray</source>
+        <translation>Bandeja</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Mostrar</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Acerca de</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Ayuda</translation>
+    </message>
+    <message>
+        <source>Send feedback</source>
+        <translation>Enviar comentarios</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Salir</translation>
+    </message>
+    <message>
+        <source>Ambertaks</source>
+        <translation>Ambertask</translation>
+    </message>
+    <message>
+        <source>Hide</source>
+        <translation>Ocultar</translation>
+    </message>
+    <message>
+        <source>Ambertaks is still running..</source>
+        <translation>Ambertask sigue en ejecución.</translation>
+    </message>
+</context>
+<context>
+    <name>frmTaskDetails</name>
+    <message>
+        <source>Task Details</source>
+        <translation>Detalles de la tarea</translation>
+    </message>
+    <message>
+        <source>The task no longer exists.</source>
+        <translation>La tarea ya no existe.</translation>
+    </message>
+    <message>
+        <source>Executable Files (*.exe;*.bat;)|*.exe;*.bat</source>
+        <translation>Archivos ejecutables (*.exe;*.bat;)|*.exe;*.bat</translation>
+    </message>
+    <message>
+        <source>Wave Files (*.wav)|*.wav</source>
+        <translation>Archivos Wave (*.wav)|*.wav</translation>
+    </message>
+    <message>
+        <source>Reminder</source>
+        <translation>Recordatorio</translation>
+    </message>
+    <message>
+        <source>&amp;Enable reminder</source>
+        <translation>&amp;Activar recordatorio</translation>
+    </message>
+    <message>
+        <source>Reminder sou&amp;nd</source>
+        <translation>&amp;Sonido del recordatorio</translation>
+    </message>
+    <message>
+        <source>Reminder &amp;file</source>
+        <translation>Archi&amp;vo del recordatorio</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>E&amp;xaminar…</translation>
+    </message>
+    <message>
+        <source>Bro&amp;wse...</source>
+        <translation>Exa&amp;minar…</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>Acep&amp;tar</translation>
+    </message>
+    <message>
+        <source>C&amp;ancel</source>
+        <translation>Cance&amp;lar</translation>
+    </message>
+    <message>
+        <source>Task name</source>
+        <translation>Nombre de la tarea</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Categoría</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Descripción</translation>
+    </message>
+    <message>
+        <source>Due date</source>
+        <translation>Fecha de vencimiento</translation>
+    </message>
+    <message>
+        <source>Due time</source>
+        <translation>Hora de vencimiento</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>Prioridad</translation>
+    </message>
+    <message>
+        <source>Enable reminder</source>
+        <translation>Activar recordatorio</translation>
+    </message>
+    <message>
+        <source>Reminder date</source>
+        <translation>Fecha del recordatorio</translation>
+    </message>
+    <message>
+        <source>Reminder time</source>
+        <translation>Hora del recordatorio</translation>
+    </message>
+    <message>
+        <source>Reminder sound</source>
+        <translation>Sonido del recordatorio</translation>
+    </message>
+    <message>
+        <source>Reminder sound file</source>
+        <translation>Archivo de sonido del recordatorio</translation>
+    </message>
+    <message>
+        <source>Browse for a reminder sound</source>
+        <translation>Buscar un sonido de recordatorio</translation>
+    </message>
+    <message>
+        <source>Reminder file</source>
+        <translation>Archivo del recordatorio</translation>
+    </message>
+    <message>
+        <source>Program or batch file</source>
+        <translation>Programa o archivo por lotes</translation>
+    </message>
+    <message>
+        <source>Browse for a reminder file</source>
+        <translation>Buscar un archivo de recordatorio</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>&amp;Task name:</source>
+        <translation>&amp;Nombre de la tarea:</translation>
+    </message>
+    <message>
+        <source>&amp;Category:</source>
+        <translation>&amp;Categoría:</translation>
+    </message>
+    <message>
+        <source>&amp;Description:</source>
+        <translation>&amp;Descripción:</translation>
+    </message>
+    <message>
+        <source>D&amp;ue date:</source>
+        <translation>&amp;Fecha de vencimiento:</translation>
+    </message>
+    <message>
+        <source>Due ti&amp;me:</source>
+        <translation>&amp;Hora de vencimiento:</translation>
+    </message>
+    <message>
+        <source>&amp;Status:</source>
+        <translation>&amp;Estado:</translation>
+    </message>
+    <message>
+        <source>&amp;Priority:</source>
+        <translation>&amp;Prioridad:</translation>
+    </message>
+    <message>
+        <source>&amp;Reminder date:</source>
+        <translation>Fecha del &amp;recordatorio:</translation>
+    </message>
+    <message>
+        <source>Reminder t&amp;ime:</source>
+        <translation>H&amp;ora del recordatorio:</translation>
+    </message>
+</context>
+</TS>

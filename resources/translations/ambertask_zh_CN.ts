@@ -1,0 +1,1557 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>AlertListModel</name>
+    <message>
+        <source>id</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Periority</source>
+        <translation>优先级</translation>
+    </message>
+    <message>
+        <source>Due Date</source>
+        <translation>截止日期</translation>
+    </message>
+</context>
+<context>
+    <name>CategoriesPage</name>
+    <message>
+        <source>&amp;Add</source>
+        <translation>添加(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>编辑(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>删除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Categories</source>
+        <translation>类别</translation>
+    </message>
+    <message>
+        <source>Add a category</source>
+        <translation>添加类别</translation>
+    </message>
+    <message>
+        <source>Edit the selected category</source>
+        <translation>编辑所选类别</translation>
+    </message>
+    <message>
+        <source>Delete the selected category</source>
+        <translation>删除所选类别</translation>
+    </message>
+    <message>
+        <source>Help on categories</source>
+        <translation>类别帮助</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete &apos;%1&apos; category, all tasks under this category will be deleted?</source>
+        <translation>确定要删除类别“%1”吗？该类别下的所有任务也将被删除。</translation>
+    </message>
+</context>
+<context>
+    <name>ClsTask</name>
+    <message>
+        <source>The statement is unfinished: %1</source>
+        <translation>语句不完整：%1</translation>
+    </message>
+</context>
+<context>
+    <name>CompiledHelpWindow</name>
+    <message>
+        <source>Ambertask Help</source>
+        <translation>Ambertask 帮助</translation>
+    </message>
+    <message>
+        <source>Topic</source>
+        <translation>主题</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>后退(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Forward</source>
+        <translation>前进(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Home</source>
+        <translation>主页(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Smaller text</source>
+        <translation>缩小文字(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Larger text</source>
+        <translation>放大文字(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>目录(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Index</source>
+        <translation>索引(&amp;I)</translation>
+    </message>
+    <message>
+        <source>S&amp;earch</source>
+        <translation>搜索(&amp;E)</translation>
+    </message>
+    <message>
+        <source>The help cannot be shown</source>
+        <translation>无法显示帮助</translation>
+    </message>
+    <message>
+        <source>The help file &quot;%1&quot; is damaged or cannot be read. Installing the program again brings it back; your tasks are kept.</source>
+        <translation>帮助文件“%1”已损坏或无法读取。重新安装程序即可恢复；您的任务会保留。</translation>
+    </message>
+    <message>
+        <source>The help file &quot;%1&quot; is not in the program&apos;s folder. Installing the program again brings it back; your tasks are kept.</source>
+        <translation>程序文件夹中没有帮助文件“%1”。重新安装程序即可恢复；您的任务会保留。</translation>
+    </message>
+    <message>
+        <source>This page cannot be shown</source>
+        <translation>无法显示此页</translation>
+    </message>
+    <message>
+        <source>The help file has no topic number %1.</source>
+        <translation>帮助文件中没有编号为 %1 的主题。</translation>
+    </message>
+</context>
+<context>
+    <name>Connection</name>
+    <message>
+        <source>The connection is open already.</source>
+        <translation>连接已打开。</translation>
+    </message>
+    <message>
+        <source>The data file knows no users and no passwords.</source>
+        <translation>数据文件没有用户和密码。</translation>
+    </message>
+    <message>
+        <source>The connection string &quot;%1&quot; names no data file.</source>
+        <translation>连接字符串“%1”没有指明数据文件。</translation>
+    </message>
+    <message>
+        <source>The connection to the data file is not open.</source>
+        <translation>与数据文件的连接未打开。</translation>
+    </message>
+</context>
+<context>
+    <name>ContentsPane</name>
+    <message>
+        <source>Contents</source>
+        <translation>目录</translation>
+    </message>
+</context>
+<context>
+    <name>CustomIcons</name>
+    <message>
+        <source>The picture &quot;%1&quot; cannot be used: this is not a plain file name.</source>
+        <translation>无法使用图片“%1”：这不是单纯的文件名。</translation>
+    </message>
+</context>
+<context>
+    <name>DataFileCopies</name>
+    <message>
+        <source>&quot;%1&quot; belongs to the data file.</source>
+        <translation>“%1”属于数据文件。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is the data file itself.</source>
+        <translation>“%1”就是数据文件本身。</translation>
+    </message>
+    <message>
+        <source>An operation on &quot;%1&quot; is not finished.</source>
+        <translation>对“%1”的操作尚未完成。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no data file.</source>
+        <translation>“%1”不是数据文件。</translation>
+    </message>
+    <message>
+        <source>The file is damaged.</source>
+        <translation>文件已损坏。</translation>
+    </message>
+</context>
+<context>
+    <name>Dialect</name>
+    <message>
+        <source>The date literal %1 is not of the form #month/day/year hours:minutes#.</source>
+        <translation>日期文字 %1 不符合 #月/日/年 时:分# 的形式。</translation>
+    </message>
+    <message>
+        <source>The date literal %1 names no existing day and time.</source>
+        <translation>日期文字 %1 不是有效的日期和时间。</translation>
+    </message>
+    <message>
+        <source>The statement holds a zero character.</source>
+        <translation>语句中含有空字符。</translation>
+    </message>
+    <message>
+        <source>The date literal %1 is not closed.</source>
+        <translation>日期文字 %1 没有结束。</translation>
+    </message>
+</context>
+<context>
+    <name>FileDialogs</name>
+    <message>
+        <source>Folder</source>
+        <translation>文件夹</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>所有文件 (*)</translation>
+    </message>
+</context>
+<context>
+    <name>FileError</name>
+    <message>
+        <source>it is not a file</source>
+        <translation>这不是文件</translation>
+    </message>
+    <message>
+        <source>there is no file name</source>
+        <translation>没有文件名</translation>
+    </message>
+</context>
+<context>
+    <name>HTMLHelpViewer</name>
+    <message>
+        <source>The help window is missing from this installation.</source>
+        <translation>此安装中缺少帮助窗口。</translation>
+    </message>
+</context>
+<context>
+    <name>IndexPane</name>
+    <message>
+        <source>First letters of a keyword</source>
+        <translation>关键字的开头字母</translation>
+    </message>
+    <message>
+        <source>Index</source>
+        <translation>索引</translation>
+    </message>
+    <message>
+        <source>&amp;Keyword</source>
+        <translation>关键字(&amp;K)</translation>
+    </message>
+</context>
+<context>
+    <name>MaintenancePage</name>
+    <message>
+        <source>Ambertaks Backup Files (*.abk)|*.abk</source>
+        <translation>Ambertask 备份文件 (*.abk)|*.abk</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>删除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Delete Tasks</source>
+        <translation>删除任务</translation>
+    </message>
+    <message>
+        <source>&amp;Category</source>
+        <translation>类别(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Status</source>
+        <translation>状态(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;All tasks</source>
+        <translation>所有任务(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Acti&amp;ve tasks only</source>
+        <translation>仅未过期的任务(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Expired tasks only</source>
+        <translation>仅已过期的任务(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Date Range</source>
+        <translation>日期范围</translation>
+    </message>
+    <message>
+        <source>&amp;From</source>
+        <translation>从(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;To</source>
+        <translation>到(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Backup</source>
+        <translation>备份(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>还原(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Backup and Restore</source>
+        <translation>备份和还原</translation>
+    </message>
+    <message>
+        <source>There is no tasks according to the selected criteria!</source>
+        <translation>没有符合所选条件的任务！</translation>
+    </message>
+    <message numerus="yes">
+        <source>Are you sure you want to delete %n tasks?</source>
+        <translation>
+            <numerusform>确定要删除 %n 个任务吗？</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MessageBoxes</name>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>是(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>否(&amp;N)</translation>
+    </message>
+</context>
+<context>
+    <name>OverflowError</name>
+    <message>
+        <source>task id</source>
+        <translation>任务编号</translation>
+    </message>
+    <message>
+        <source>icon number</source>
+        <translation>图标编号</translation>
+    </message>
+    <message>
+        <source>category id</source>
+        <translation>类别编号</translation>
+    </message>
+    <message>
+        <source>Overflow: the %1 %2 does not fit into 16 bits.</source>
+        <translation>溢出：%1 %2 超出 16 位范围。</translation>
+    </message>
+</context>
+<context>
+    <name>PictureFile</name>
+    <message>
+        <source>it is neither a GIF nor a JPEG nor a PNG picture.</source>
+        <translation>它不是 GIF、JPEG 或 PNG 图片。</translation>
+    </message>
+    <message>
+        <source>it is damaged or incomplete.</source>
+        <translation>它已损坏或不完整。</translation>
+    </message>
+    <message>
+        <source>it is %1 x %2 pixels large, more than %3 x %3 are not accepted.</source>
+        <translation>它的大小为 %1 × %2 像素，最多允许 %3 × %3 像素。</translation>
+    </message>
+    <message>
+        <source>there is no such file.</source>
+        <translation>文件不存在。</translation>
+    </message>
+    <message>
+        <source>it is not an ordinary file.</source>
+        <translation>它不是普通文件。</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB.</source>
+        <translation>它大于 %1 MiB。</translation>
+    </message>
+    <message>
+        <source>The picture &quot;%1&quot; cannot be used: %2</source>
+        <translation>无法使用图片“%1”：%2</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewWindow</name>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>打印(&amp;P)…</translation>
+    </message>
+    <message>
+        <source>&amp;Export PDF...</source>
+        <translation>导出 PDF(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>&amp;First</source>
+        <translation>第一页(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Pre&amp;vious</source>
+        <translation>上一页(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>下一页(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Last</source>
+        <translation>最后一页(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>纵向</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>横向</translation>
+    </message>
+    <message>
+        <source>P&amp;aper</source>
+        <translation>纸张(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Orientation</source>
+        <translation>方向(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Whole page</source>
+        <translation>整页</translation>
+    </message>
+    <message>
+        <source>Page width</source>
+        <translation>页宽</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;in</source>
+        <translation>放大(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Zoom o&amp;ut</source>
+        <translation>缩小(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Zoom</source>
+        <translation>缩放(&amp;Z)</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ge</source>
+        <translation>页(&amp;G)</translation>
+    </message>
+    <message>
+        <source> of %1</source>
+        <translation> / %1</translation>
+    </message>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>第 %1 页，共 %2 页</translation>
+    </message>
+    <message>
+        <source>The report could not be printed.</source>
+        <translation>无法打印报表。</translation>
+    </message>
+    <message>
+        <source>The report could not be written to &quot;%1&quot;: %2.</source>
+        <translation>无法将报表写入“%1”：%2。</translation>
+    </message>
+    <message>
+        <source>No printer is set up on this computer.</source>
+        <translation>此计算机上没有设置打印机。</translation>
+    </message>
+</context>
+<context>
+    <name>RecordSet</name>
+    <message>
+        <source>The value of column &quot;%1&quot; is no whole number.</source>
+        <translation>列“%1”的值不是整数。</translation>
+    </message>
+    <message>
+        <source>The value of column &quot;%1&quot; is out of range: %2.</source>
+        <translation>列“%1”的值超出范围：%2。</translation>
+    </message>
+    <message>
+        <source>There is no current record.</source>
+        <translation>没有当前记录。</translation>
+    </message>
+    <message>
+        <source>The field name &quot;%1&quot; is ambiguous.</source>
+        <translation>字段名“%1”不明确。</translation>
+    </message>
+    <message>
+        <source>There is no field &quot;%1&quot;.</source>
+        <translation>没有字段“%1”。</translation>
+    </message>
+    <message>
+        <source>There is no field number %1.</source>
+        <translation>没有编号为 %1 的字段。</translation>
+    </message>
+    <message>
+        <source>The value of column &quot;%1&quot; is null.</source>
+        <translation>列“%1”的值为空 (NULL)。</translation>
+    </message>
+    <message>
+        <source>The value of column &quot;%1&quot; is no text.</source>
+        <translation>列“%1”的值不是文本。</translation>
+    </message>
+    <message>
+        <source>The value of column &quot;%1&quot; does not fit into memory.</source>
+        <translation>列“%1”的值过大，内存无法容纳。</translation>
+    </message>
+    <message>
+        <source>The value of column &quot;%1&quot; is no date and time: %2.</source>
+        <translation>列“%1”的值不是日期和时间：%2。</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenErrorReport</name>
+    <message>
+        <source>Close program</source>
+        <translation>关闭程序</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>继续</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+</context>
+<context>
+    <name>SearchPane</name>
+    <message>
+        <source>&amp;List topics</source>
+        <translation>列出主题(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Words to search for</source>
+        <translation>要搜索的字词</translation>
+    </message>
+    <message>
+        <source>Topics found</source>
+        <translation>找到的主题</translation>
+    </message>
+    <message>
+        <source>&amp;Words</source>
+        <translation>字词(&amp;W)</translation>
+    </message>
+    <message>
+        <source>No topic contains all of these words.</source>
+        <translation>没有主题包含所有这些字词。</translation>
+    </message>
+    <message>
+        <source>1 topic found.</source>
+        <translation>找到 1 个主题。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n topics found.</source>
+        <translation>
+            <numerusform>找到 %n 个主题。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Session</name>
+    <message>
+        <source>it does not exist</source>
+        <translation>文件不存在</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>这是文件夹</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>文件为空</translation>
+    </message>
+    <message>
+        <source>out of memory</source>
+        <translation>内存不足</translation>
+    </message>
+    <message>
+        <source>The data file &quot;%1&quot; failed before; the statement was not run: %2</source>
+        <translation>数据文件“%1”先前已出错；未执行语句：%2</translation>
+    </message>
+    <message>
+        <source>The statement is too long (%1 bytes): %2</source>
+        <translation>语句过长（%1 字节）：%2</translation>
+    </message>
+    <message>
+        <source>The statement is empty.</source>
+        <translation>语句为空。</translation>
+    </message>
+    <message>
+        <source>The text holds more than one statement: %1</source>
+        <translation>文本包含多条语句：%1</translation>
+    </message>
+    <message>
+        <source>The data file &quot;%1&quot; could not be written: %2.</source>
+        <translation>无法写入数据文件“%1”：%2。</translation>
+    </message>
+    <message>
+        <source>The data file &quot;%1&quot; failed before; nothing was stored.</source>
+        <translation>数据文件“%1”先前已出错；未保存任何内容。</translation>
+    </message>
+    <message>
+        <source>The data file &quot;%1&quot; could not be written; nothing was stored: %2.</source>
+        <translation>无法写入数据文件“%1”；未保存任何内容：%2。</translation>
+    </message>
+    <message>
+        <source>The data file &quot;%1&quot; could not be opened: %2.</source>
+        <translation>无法打开数据文件“%1”：%2。</translation>
+    </message>
+    <message>
+        <source>The statement failed: %1.
+%2</source>
+        <translation>语句执行失败：%1。
+%2</translation>
+    </message>
+    <message>
+        <source>The data file &quot;%1&quot; failed at the statement
+%2
+: %3.</source>
+        <translation>数据文件“%1”在执行语句
+%2
+时出错：%3。</translation>
+    </message>
+    <message>
+        <source>another program is using it (%1)</source>
+        <translation>另一个程序正在使用它 (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsPage</name>
+    <message>
+        <source>&amp;Save Settings</source>
+        <translation>保存设置(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Show &amp;grid</source>
+        <translation>显示网格线(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Show &amp;today&apos;s tasks on start</source>
+        <translation>启动时显示今天的任务(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Start with &amp;windows</source>
+        <translation>登录时启动(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Always on to&amp;p</source>
+        <translation>总在最前(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Minimize on start</source>
+        <translation>启动时最小化(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Show tray &amp;balloon when closed</source>
+        <translation>关闭时显示托盘气泡(&amp;B)</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>常规</translation>
+    </message>
+    <message>
+        <source>Task p&amp;riority</source>
+        <translation>任务优先级(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Task &amp;due date</source>
+        <translation>任务截止日期(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Task r&amp;eminder</source>
+        <translation>任务提醒(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Task stat&amp;us</source>
+        <translation>任务状态(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Show Columns</source>
+        <translation>显示的列</translation>
+    </message>
+    <message>
+        <source>Current s&amp;kin</source>
+        <translation>当前皮肤(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Browse</source>
+        <translation>浏览</translation>
+    </message>
+    <message>
+        <source>Add &amp;new skin</source>
+        <translation>添加新皮肤(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Add new skin</source>
+        <translation>添加新皮肤</translation>
+    </message>
+    <message>
+        <source>Download More Skins</source>
+        <translation>下载更多皮肤</translation>
+    </message>
+    <message>
+        <source>Skins</source>
+        <translation>皮肤</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>显示</translation>
+    </message>
+    <message>
+        <source>Hide</source>
+        <translation>隐藏</translation>
+    </message>
+    <message>
+        <source>Skin Files (*.skf)|*.skf</source>
+        <translation>皮肤文件 (*.skf)|*.skf</translation>
+    </message>
+    <message>
+        <source>The new skin is now available in the skins list.</source>
+        <translation>新皮肤现在可以在皮肤列表中选用。</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsStore</name>
+    <message>
+        <source>The row of the table &quot;settings&quot; is missing in the data file.</source>
+        <translation>数据文件中缺少表“settings”的行。</translation>
+    </message>
+</context>
+<context>
+    <name>SkinFile</name>
+    <message>
+        <source>%1: the file is not a text in UTF-8</source>
+        <translation>%1：文件不是 UTF-8 文本</translation>
+    </message>
+    <message>
+        <source>%1: the file does not exist</source>
+        <translation>%1：文件不存在</translation>
+    </message>
+    <message>
+        <source>%1: it is not a file</source>
+        <translation>%1：这不是文件</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>%1: the file is larger than 1 MiB</source>
+        <translation>%1：文件大于 1 MiB</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1，第 %2 行：%3</translation>
+    </message>
+</context>
+<context>
+    <name>SkinHeader</name>
+    <message>
+        <source>the file does not begin with a comment block</source>
+        <translation>文件没有以注释块开头</translation>
+    </message>
+    <message>
+        <source>the comment block has no end</source>
+        <translation>注释块没有结束</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be the name of a file</source>
+        <translation>“%1”不能用作文件名</translation>
+    </message>
+    <message>
+        <source>unknown keyword &quot;%1&quot;</source>
+        <translation>未知的关键字“%1”</translation>
+    </message>
+    <message>
+        <source>a second &quot;%1&quot;</source>
+        <translation>“%1”重复出现</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; says nothing</source>
+        <translation>“%1”没有内容</translation>
+    </message>
+    <message>
+        <source>expected &quot;@color token #rrggbb&quot;</source>
+        <translation>应为“@color token #rrggbb”</translation>
+    </message>
+    <message>
+        <source>a second colour &quot;%1&quot;</source>
+        <translation>颜色“%1”重复出现</translation>
+    </message>
+    <message>
+        <source>expected &quot;@disabled Role $token&quot;</source>
+        <translation>应为“@disabled Role $token”</translation>
+    </message>
+    <message>
+        <source>expected &quot;@palette Role $token&quot;</source>
+        <translation>应为“@palette Role $token”</translation>
+    </message>
+    <message>
+        <source>unknown palette role &quot;%1&quot;</source>
+        <translation>未知的调色板角色“%1”</translation>
+    </message>
+    <message>
+        <source>the comment block has no &quot;@name&quot;</source>
+        <translation>注释块中没有“@name”</translation>
+    </message>
+    <message>
+        <source>unknown colour &quot;$%1&quot;</source>
+        <translation>未知的颜色“$%1”</translation>
+    </message>
+</context>
+<context>
+    <name>SkinSheet</name>
+    <message>
+        <source>unknown colour &quot;$%1&quot;</source>
+        <translation>未知的颜色“$%1”</translation>
+    </message>
+    <message>
+        <source>a comment has no end</source>
+        <translation>注释没有结束</translation>
+    </message>
+    <message>
+        <source>a text in quotes has no end</source>
+        <translation>引号中的文本没有结束</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is drawn by the program</source>
+        <translation>“%1”由程序绘制</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not allowed</source>
+        <translation>不允许使用“%1”</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;: a skin is one file and holds no pictures</source>
+        <translation>“%1”：皮肤是单个文件，不含图片</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; would take the arrow of a list or picker away</source>
+        <translation>“%1”会去掉列表或日期选择框的箭头</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no property with a value</source>
+        <translation>“%1”不是带值的属性</translation>
+    </message>
+    <message>
+        <source>expected a rule</source>
+        <translation>应为一条规则</translation>
+    </message>
+    <message>
+        <source>a rule has no selector or no end</source>
+        <translation>规则没有选择器或没有结束</translation>
+    </message>
+</context>
+<context>
+    <name>Skins</name>
+    <message>
+        <source>The skin could not be used.
+%1</source>
+        <translation>无法使用该皮肤。
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>TaskInput</name>
+    <message>
+        <source>Reminder date and time should not be earlier than current system date and time</source>
+        <translation>提醒的日期和时间不能早于系统当前的日期和时间</translation>
+    </message>
+    <message>
+        <source>Please enter task name.</source>
+        <translation>请输入任务名称。</translation>
+    </message>
+    <message>
+        <source>Please select category.</source>
+        <translation>请选择类别。</translation>
+    </message>
+    <message>
+        <source>Please select reminder sound.</source>
+        <translation>请选择提醒声音。</translation>
+    </message>
+    <message>
+        <source>Please select reminder file.</source>
+        <translation>请选择提醒文件。</translation>
+    </message>
+</context>
+<context>
+    <name>TaskListModel</name>
+    <message>
+        <source>id</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Due Date</source>
+        <translation>截止日期</translation>
+    </message>
+    <message>
+        <source>periority</source>
+        <translation>优先级</translation>
+    </message>
+    <message>
+        <source>reminder</source>
+        <translation>提醒</translation>
+    </message>
+    <message>
+        <source>Reminder on</source>
+        <translation>提醒已开启</translation>
+    </message>
+    <message>
+        <source>Reminder off</source>
+        <translation>提醒已关闭</translation>
+    </message>
+</context>
+<context>
+    <name>TasksPage</name>
+    <message>
+        <source>A&amp;ll</source>
+        <translation>全部(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Spec&amp;ific</source>
+        <translation>指定(&amp;I)</translation>
+    </message>
+    <message>
+        <source>All tas&amp;ks</source>
+        <translation>所有任务(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Acti&amp;ve tasks only</source>
+        <translation>仅未过期的任务(&amp;V)</translation>
+    </message>
+    <message>
+        <source>E&amp;xpired tasks only</source>
+        <translation>仅已过期的任务(&amp;X)</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>任务</translation>
+    </message>
+    <message>
+        <source>&amp;From</source>
+        <translation>从(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;To</source>
+        <translation>到(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>显示</translation>
+    </message>
+    <message>
+        <source>Categor&amp;y</source>
+        <translation>类别(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Stat&amp;us</source>
+        <translation>状态(&amp;U)</translation>
+    </message>
+    <message>
+        <source>S&amp;ort by</source>
+        <translation>排序方式(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Due date</source>
+        <translation>截止日期</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>添加(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>编辑(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>删除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>打印(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Please enter categories in the categories section first.</source>
+        <translation>请先在“类别”页中添加类别。</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete this task?</source>
+        <translation>确定要删除此任务吗？</translation>
+    </message>
+</context>
+<context>
+    <name>TopicView</name>
+    <message>
+        <source>This page cannot be shown</source>
+        <translation>无法显示此页</translation>
+    </message>
+    <message>
+        <source>The help file has no readable page &quot;%1&quot;.</source>
+        <translation>帮助文件中没有可读取的页面“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>clsGuiLoader</name>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>优先级</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Due Date</source>
+        <translation>截止日期</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <comment>statuses</comment>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>Not Started</source>
+        <translation>未开始</translation>
+    </message>
+    <message>
+        <source>In Progress</source>
+        <translation>进行中</translation>
+    </message>
+    <message>
+        <source>Completed</source>
+        <translation>已完成</translation>
+    </message>
+    <message>
+        <source>Waiting on someone else</source>
+        <translation>正在等待他人</translation>
+    </message>
+    <message>
+        <source>Deferred</source>
+        <translation>已推迟</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <comment>categories</comment>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>普通</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>低</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>高</translation>
+    </message>
+</context>
+<context>
+    <name>drTasks</name>
+    <message>
+        <source>Category</source>
+        <translation>类别</translation>
+    </message>
+    <message>
+        <source>Periority</source>
+        <translation>优先级</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Due date</source>
+        <translation>截止日期</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>说明</translation>
+    </message>
+    <message>
+        <source>Tasks Report</source>
+        <translation>任务报表</translation>
+    </message>
+    <message>
+        <source>The report cannot be shown: the module &quot;ambertask_report&quot; is missing from the program&apos;s folder or damaged.</source>
+        <translation>无法显示报表：程序文件夹中缺少模块“ambertask_report”，或该模块已损坏。</translation>
+    </message>
+    <message>
+        <source>PDF Files (*.pdf)|*.pdf</source>
+        <translation>PDF 文件 (*.pdf)|*.pdf</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; already exists. Do you want to replace it?</source>
+        <translation>“%1”已存在。要替换它吗？</translation>
+    </message>
+</context>
+<context>
+    <name>frmAbout</name>
+    <message>
+        <source>About Ambertask</source>
+        <translation>关于 Ambertask</translation>
+    </message>
+    <message>
+        <source>Version 1.1</source>
+        <translation>版本 1.1</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>确定(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Ambertask is a simple and powerful task management software program.</source>
+        <translation>Ambertask 是一款简单而强大的任务管理软件。</translation>
+    </message>
+    <message>
+        <source>Ambertask comes without any warranty. Your tasks stay on this computer; keep a backup of what you would miss.</source>
+        <translation>Ambertask 不提供任何担保。您的任务只保存在这台计算机上；请备份您不想丢失的内容。</translation>
+    </message>
+    <message>
+        <source>System Information Is Unavailable At This Time</source>
+        <translation>系统信息目前不可用</translation>
+    </message>
+</context>
+<context>
+    <name>frmAlerts</name>
+    <message>
+        <source>Due re&amp;minders</source>
+        <translation>到期的提醒(&amp;M)</translation>
+    </message>
+    <message>
+        <source>New reminder</source>
+        <translation>新的提醒</translation>
+    </message>
+    <message>
+        <source>&amp;Remind me later</source>
+        <translation>稍后提醒(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Open Item</source>
+        <translation>打开任务(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Dismiss</source>
+        <translation>消除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Dismiss &amp;All</source>
+        <translation>全部消除(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Da&amp;te:</source>
+        <translation>日期(&amp;T)：</translation>
+    </message>
+    <message>
+        <source>T&amp;ime:</source>
+        <translation>时间(&amp;I)：</translation>
+    </message>
+    <message>
+        <source>Due reminders</source>
+        <translation>到期的提醒</translation>
+    </message>
+    <message>
+        <source>New reminder date</source>
+        <translation>新提醒的日期</translation>
+    </message>
+    <message>
+        <source>New reminder time</source>
+        <translation>新提醒的时间</translation>
+    </message>
+    <message>
+        <source>Moves the selected reminder to the new date and time</source>
+        <translation>将所选提醒改到新的日期和时间</translation>
+    </message>
+    <message>
+        <source>Opens the task of the selected reminder</source>
+        <translation>打开所选提醒对应的任务</translation>
+    </message>
+    <message>
+        <source>Switches the selected reminder off</source>
+        <translation>关闭所选的提醒</translation>
+    </message>
+    <message>
+        <source>Switches all due reminders off</source>
+        <translation>关闭所有到期的提醒</translation>
+    </message>
+    <message>
+        <source>1 Reminder</source>
+        <translation>1 个提醒</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Reminders</source>
+        <translation>
+            <numerusform>%n 个提醒</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Reminder date and time should not be earlier than current system date and time</source>
+        <translation>提醒的日期和时间不能早于系统当前的日期和时间</translation>
+    </message>
+</context>
+<context>
+    <name>frmCategoryDetails</name>
+    <message>
+        <source>Icon %1 of %2</source>
+        <translation>图标 %1，共 %2 个</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>类别</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>说明</translation>
+    </message>
+    <message>
+        <source>De&amp;fault Icon</source>
+        <translation>默认图标(&amp;F)</translation>
+    </message>
+    <message>
+        <source>C&amp;ustom Icon</source>
+        <translation>自定义图标(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Default icons</source>
+        <translation>默认图标</translation>
+    </message>
+    <message>
+        <source>Custom icon</source>
+        <translation>自定义图标</translation>
+    </message>
+    <message>
+        <source>Custom icon preview</source>
+        <translation>自定义图标预览</translation>
+    </message>
+    <message>
+        <source>Prefered size 24*24 pixels</source>
+        <translation>建议大小：24 × 24 像素</translation>
+    </message>
+    <message>
+        <source>&amp;Browse</source>
+        <translation>浏览(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Browse for a custom icon</source>
+        <translation>浏览自定义图标</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>确定(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Ca&amp;ncel</source>
+        <translation>取消(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Description</source>
+        <translation>说明(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Category</source>
+        <translation>类别(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Category Details</source>
+        <translation>类别详细信息</translation>
+    </message>
+    <message>
+        <source>The category no longer exists.</source>
+        <translation>该类别已不存在。</translation>
+    </message>
+    <message>
+        <source>Image Files (*.gif;*.jpg;*.jpeg)|*.gif;*.jpg;*.jpeg</source>
+        <translation>图像文件 (*.gif;*.jpg;*.jpeg)|*.gif;*.jpg;*.jpeg</translation>
+    </message>
+    <message>
+        <source>A category with the same name already exists</source>
+        <translation>已存在同名类别</translation>
+    </message>
+    <message>
+        <source>Please enter category name.</source>
+        <translation>请输入类别名称。</translation>
+    </message>
+    <message>
+        <source>Please browse for a custom icon</source>
+        <translation>请选择一个自定义图标</translation>
+    </message>
+</context>
+<context>
+    <name>frmMain</name>
+    <message>
+        <source>Tasks</source>
+        <translation>任务</translation>
+    </message>
+    <message>
+        <source>Categories</source>
+        <translation>类别</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Maintenance</source>
+        <translation>维护</translation>
+    </message>
+    <message>
+        <source>Version 1.1</source>
+        <translation>版本 1.1</translation>
+    </message>
+    <message>
+        <source>Tray</source>
+        <translation>通知区域</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>显示</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>关于</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>帮助</translation>
+    </message>
+    <message>
+        <source>Send feedback</source>
+        <translation>发送反馈</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>退出</translation>
+    </message>
+    <message>
+        <source>Ambertaks</source>
+        <translation>Ambertask</translation>
+    </message>
+    <message>
+        <source>Hide</source>
+        <translation>隐藏</translation>
+    </message>
+    <message>
+        <source>Ambertaks is still running..</source>
+        <translation>Ambertask 仍在运行。</translation>
+    </message>
+</context>
+<context>
+    <name>frmTaskDetails</name>
+    <message>
+        <source>Task Details</source>
+        <translation>任务详细信息</translation>
+    </message>
+    <message>
+        <source>The task no longer exists.</source>
+        <translation>该任务已不存在。</translation>
+    </message>
+    <message>
+        <source>Executable Files (*.exe;*.bat;)|*.exe;*.bat</source>
+        <translation>可执行文件 (*.exe;*.bat;)|*.exe;*.bat</translation>
+    </message>
+    <message>
+        <source>Wave Files (*.wav)|*.wav</source>
+        <translation>波形文件 (*.wav)|*.wav</translation>
+    </message>
+    <message>
+        <source>Reminder</source>
+        <translation>提醒</translation>
+    </message>
+    <message>
+        <source>&amp;Enable reminder</source>
+        <translation>启用提醒(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Reminder sou&amp;nd</source>
+        <translation>提醒声音(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Reminder &amp;file</source>
+        <translation>提醒文件(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>浏览(&amp;B)…</translation>
+    </message>
+    <message>
+        <source>Bro&amp;wse...</source>
+        <translation>浏览(&amp;W)…</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>确定(&amp;O)</translation>
+    </message>
+    <message>
+        <source>C&amp;ancel</source>
+        <translation>取消(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Task name</source>
+        <translation>任务名称</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>类别</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>说明</translation>
+    </message>
+    <message>
+        <source>Due date</source>
+        <translation>截止日期</translation>
+    </message>
+    <message>
+        <source>Due time</source>
+        <translation>截止时间</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>优先级</translation>
+    </message>
+    <message>
+        <source>Enable reminder</source>
+        <translation>启用提醒</translation>
+    </message>
+    <message>
+        <source>Reminder date</source>
+        <translation>提醒日期</translation>
+    </message>
+    <message>
+        <source>Reminder time</source>
+        <translation>提醒时间</translation>
+    </message>
+    <message>
+        <source>Reminder sound</source>
+        <translation>提醒声音</translation>
+    </message>
+    <message>
+        <source>Reminder sound file</source>
+        <translation>提醒声音文件</translation>
+    </message>
+    <message>
+        <source>Browse for a reminder sound</source>
+        <translation>浏览提醒声音</translation>
+    </message>
+    <message>
+        <source>Reminder file</source>
+        <translation>提醒文件</translation>
+    </message>
+    <message>
+        <source>Program or batch file</source>
+        <translation>程序或批处理文件</translation>
+    </message>
+    <message>
+        <source>Browse for a reminder file</source>
+        <translation>浏览提醒文件</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>&amp;Task name:</source>
+        <translation>任务名称(&amp;T)：</translation>
+    </message>
+    <message>
+        <source>&amp;Category:</source>
+        <translation>类别(&amp;C)：</translation>
+    </message>
+    <message>
+        <source>&amp;Description:</source>
+        <translation>说明(&amp;D)：</translation>
+    </message>
+    <message>
+        <source>D&amp;ue date:</source>
+        <translation>截止日期(&amp;U)：</translation>
+    </message>
+    <message>
+        <source>Due ti&amp;me:</source>
+        <translation>截止时间(&amp;M)：</translation>
+    </message>
+    <message>
+        <source>&amp;Status:</source>
+        <translation>状态(&amp;S)：</translation>
+    </message>
+    <message>
+        <source>&amp;Priority:</source>
+        <translation>优先级(&amp;P)：</translation>
+    </message>
+    <message>
+        <source>&amp;Reminder date:</source>
+        <translation>提醒日期(&amp;R)：</translation>
+    </message>
+    <message>
+        <source>Reminder t&amp;ime:</source>
+        <translation>提醒时间(&amp;I)：</translation>
+    </message>
+</context>
+</TS>

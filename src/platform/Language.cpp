@@ -1,0 +1,68 @@
+#include "platform/Language.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QGuiApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+
+namespace
+{
+
+const QLatin1String Folder(":/translations");
+const QLatin1String Prefix("ambertask_");
+const QLatin1String Suffix(".qm");
+
+} // namespace
+
+QString catalogueFor(const QStringList& uiLanguages, const QStringList& shipped)
+{
+    for (const QString& name : uiLanguages) {
+        const QLocale wanted(name);
+        if (wanted.language() == QLocale::English || wanted.language() == QLocale::C) {
+            return {};
+        }
+        for (const QString& catalogue : shipped) {
+            const QLocale offered(catalogue);
+            if (offered.language() == wanted.language() && offered.script() == wanted.script()) {
+                return catalogue;
+            }
+        }
+    }
+    return {};
+}
+
+QStringList Language::shipped()
+{
+    QStringList names;
+    for (const QString& file : QDir(Folder).entryList({Prefix + u'*' + Suffix})) {
+        names.append(file.mid(Prefix.size()).chopped(Suffix.size()));
+    }
+    return names;
+}
+
+void Language::speak(const QString& catalogue)
+{
+    QCoreApplication::removeTranslator(&m_toolkit);
+    QCoreApplication::removeTranslator(&m_own);
+    if (catalogue.isEmpty()) {
+        QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+        return;
+    }
+    // Distributions put them where the toolkit says; an archive that brings the toolkit along, beside the
+    // program.
+    const QString toolkit = QLatin1String("qtbase_") + catalogue;
+    if (m_toolkit.load(toolkit, QLibraryInfo::path(QLibraryInfo::TranslationsPath))
+        || m_toolkit.load(toolkit, QCoreApplication::applicationDirPath() + QLatin1String("/translations"))) {
+        QCoreApplication::installTranslator(&m_toolkit);
+    }
+    if (m_own.load(Folder + u'/' + Prefix + catalogue + Suffix)) {
+        QCoreApplication::installTranslator(&m_own);
+    }
+    QGuiApplication::setLayoutDirection(QLocale(catalogue).textDirection());
+}
+
+void Language::speakAsTheSystem()
+{
+    speak(catalogueFor(QLocale::system().uiLanguages(), shipped()));
+}

@@ -1,0 +1,38 @@
+#include "platform/Language.h"
+#include "support/TestMain.h"
+
+#include <QTest>
+
+class LanguageTest : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void theCatalogueFollowsWhatTheUserReads_data()
+    {
+        QTest::addColumn<QStringList>("uiLanguages");
+        QTest::addColumn<QString>("catalogue");
+        QTest::newRow("German") << QStringList{"de-DE", "de"} << "de";
+        QTest::newRow("of another country") << QStringList{"es-MX"} << "es";
+        QTest::newRow("with its script") << QStringList{"ar-Arab-EG"} << "ar";
+        QTest::newRow("simplified Chinese") << QStringList{"zh-Hans-SG"} << "zh_CN";
+        QTest::newRow("Chinese of China") << QStringList{"zh-CN"} << "zh_CN";
+        QTest::newRow("traditional Chinese") << QStringList{"zh-TW", "zh-Hant-TW"} << "";
+        QTest::newRow("no language") << QStringList{"C"} << "";
+        QTest::newRow("nothing known") << QStringList{} << "";
+        QTest::newRow("one that does not ship") << QStringList{"ja-JP"} << "";
+        QTest::newRow("the second best ships") << QStringList{"ja-JP", "fr-FR"} << "fr";
+        QTest::newRow("English before German") << QStringList{"en-GB", "de-DE"} << "";
+    }
+
+    void theCatalogueFollowsWhatTheUserReads()
+    {
+        QFETCH(const QStringList, uiLanguages);
+        const QStringList shipped{QStringLiteral("ar"), QStringLiteral("de"), QStringLiteral("es"),
+            QStringLiteral("fr"), QStringLiteral("zh_CN")};
+        QTEST(catalogueFor(uiLanguages, shipped), "catalogue");
+    }
+};
+
+AMBERTASK_TEST_MAIN(LanguageTest)
+#include "tst_language.moc"

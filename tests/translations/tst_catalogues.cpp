@@ -1,0 +1,227 @@
+#include "support/TestMain.h"
+#include "tests/translations/Catalogue.h"
+
+#include <QDir>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace
+{
+
+const QLatin1String Translations(AMBERTASK_TRANSLATIONS);
+
+Message message(const QString& source, const QString& translation)
+{
+    Message made;
+    made.context = QStringLiteral("frmMain");
+    made.source = source;
+    made.forms.append(translation);
+    return made;
+}
+
+} // namespace
+
+class CataloguesTest : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void aGoodTranslationHasNoFaults_data();
+    void aGoodTranslationHasNoFaults();
+    void aFaultIsFound_data();
+    void aFaultIsFound();
+    void aPluralFormThatIsMissingIsFound();
+
+    void theLanguagesShip();
+    void everyTextOfTheProgramIsTranslated_data() { languages(); }
+    void everyTextOfTheProgramIsTranslated();
+    void theTranslationsKeepWhatTheTextsHold_data() { languages(); }
+    void theTranslationsKeepWhatTheTextsHold();
+
+private:
+    static void languages();
+    static QStringList names();
+    static QString fileOf(const QString& language)
+    {
+        return Translations + QStringLiteral("/ambertask_%1.ts").arg(language);
+    }
+};
+
+QStringList CataloguesTest::names()
+{
+    QStringList names;
+    for (const QString& file : QDir(Translations).entryList({QStringLiteral("ambertask_*.ts")})) {
+        names.append(file.section(u'.', 0, 0).section(u'_', 1));
+    }
+    return names;
+}
+
+void CataloguesTest::languages()
+{
+    QTest::addColumn<QString>("language");
+    for (const QString& name : names()) {
+        QTest::newRow(qPrintable(name)) << name;
+    }
+}
+
+void CataloguesTest::aGoodTranslationHasNoFaults_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("source");
+    QTest::addColumn<QString>("translation");
+    QTest::newRow("mnemonic elsewhere") << "de"
+                                        << "&Help"
+                                        << "H&ilfe";
+    QTest::newRow("real ellipsis") << "de"
+                                   << "&Browse..." << QStringLiteral("D&urchsuchen\u2026");
+    QTest::newRow("markers turned around") << "de"
+                                           << "%1 of %2"
+                                           << "von %2 %1";
+    QTest::newRow("French blanks") << "fr"
+                                   << "Really?" << QStringLiteral("Vraiment\u202f?");
+    QTest::newRow("Spanish marks") << "es"
+                                   << "Really?" << QStringLiteral("\u00bfSeguro?");
+    QTest::newRow("Chinese suffix") << "zh_CN"
+                                    << "&Date:" << QStringLiteral("\u65e5\u671f(&D)\uff1a");
+    QTest::newRow("filter") << "de"
+                            << "Skin Files (*.skf)|*.skf"
+                            << "Skin-Dateien (*.skf)|*.skf";
+}
+
+void CataloguesTest::aGoodTranslationHasNoFaults()
+{
+    QFETCH(const QString, language);
+    QFETCH(const QString, source);
+    QFETCH(const QString, translation);
+    QCOMPARE(faultsOf(message(source, translation), language), QStringList());
+}
+
+void CataloguesTest::aFaultIsFound_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("source");
+    QTest::addColumn<QString>("translation");
+    QTest::newRow("untranslated") << "de"
+                                  << "Help"
+                                  << "";
+    QTest::newRow("lost marker") << "de"
+                                 << "Page %1 of %2"
+                                 << "Seite %1";
+    QTest::newRow("foreign marker") << "de"
+                                    << "Page %1"
+                                    << "Seite %1 von %2";
+    QTest::newRow("lost mnemonic") << "de"
+                                   << "&Help"
+                                   << "Hilfe";
+    QTest::newRow("second mnemonic") << "de"
+                                     << "&Help"
+                                     << "&Hi&lfe";
+    QTest::newRow("mnemonic from nowhere") << "de"
+                                           << "Help"
+                                           << "&Hilfe";
+    QTest::newRow("lost ellipsis") << "de"
+                                   << "Browse..."
+                                   << "Durchsuchen";
+    QTest::newRow("lost colon") << "de"
+                                << "Date:"
+                                << "Datum";
+    QTest::newRow("lost full stop") << "de"
+                                    << "Please select category."
+                                    << "Bitte eine Kategorie";
+    QTest::newRow("lost line break") << "de"
+                                     << "One\ntwo"
+                                     << "Eins zwei";
+    QTest::newRow("lost blank") << "de"
+                                << " of %1"
+                                << "von %1";
+    QTest::newRow("changed pattern") << "de"
+                                     << "Skins (*.skf)|*.skf"
+                                     << "Skins (*.skf)|*.skin";
+    QTest::newRow("English quotes") << "de"
+                                    << "no \"%1\""
+                                    << "kein \"%1\"";
+    QTest::newRow("French blank") << "fr"
+                                  << "Really?"
+                                  << "Vraiment ?";
+    QTest::newRow("Spanish mark") << "es"
+                                  << "Really?"
+                                  << "Seguro?";
+    QTest::newRow("narrow Chinese mark") << "zh_CN"
+                                         << "Really?" << QStringLiteral("\u786e\u5b9a?");
+    QTest::newRow("Chinese mnemonic") << "zh_CN"
+                                      << "&Help" << QStringLiteral("&\u5e2e\u52a9");
+    QTest::newRow("Arabic mark") << "ar"
+                                 << "Really?" << QStringLiteral("\u062d\u0642\u0627?");
+}
+
+void CataloguesTest::aFaultIsFound()
+{
+    QFETCH(const QString, language);
+    QFETCH(const QString, source);
+    QFETCH(const QString, translation);
+    QVERIFY(!faultsOf(message(source, translation), language).isEmpty());
+}
+
+void CataloguesTest::aPluralFormThatIsMissingIsFound()
+{
+    Message counted = message(QStringLiteral("%n Reminders"), QStringLiteral("%n Erinnerung"));
+    counted.hasNumber = true;
+    counted.forms.append(QStringLiteral("%n Erinnerungen"));
+    QCOMPARE(faultsOf(counted, QStringLiteral("de")), QStringList());
+    counted.forms.last().clear();
+    QCOMPARE(faultsOf(counted, QStringLiteral("de")).size(), 1);
+    counted.forms.last() = QStringLiteral("Erinnerungen");
+    QCOMPARE(faultsOf(counted, QStringLiteral("de")).size(), 1);
+}
+
+void CataloguesTest::theLanguagesShip()
+{
+    const QStringList shipped = names();
+    for (const char* language : {"ar", "de", "es", "fr", "zh_CN"}) {
+        QVERIFY2(shipped.contains(QLatin1String(language)), language);
+    }
+}
+
+void CataloguesTest::everyTextOfTheProgramIsTranslated()
+{
+    QFETCH(const QString, language);
+    // What an update would make of the file, without making it.
+    const QTemporaryDir folder;
+    const QString copy = folder.filePath(QFileInfo(fileOf(language)).fileName());
+    QVERIFY(QFile::copy(fileOf(language), copy));
+    QProcess update;
+    update.start(QStringLiteral(AMBERTASK_LUPDATE),
+        {QStringLiteral("-silent"), QStringLiteral("-locations"), QStringLiteral("none"),
+            QStringLiteral(AMBERTASK_SOURCES), QStringLiteral("-ts"), copy});
+    QVERIFY(update.waitForFinished());
+    QCOMPARE(update.exitCode(), 0);
+
+    QStringList faults;
+    const QList<Message> messages = messagesOf(copy);
+    QVERIFY(messages.size() > 300);
+    for (const Message& text : messages) {
+        const QString name = QStringLiteral("%1: \"%2\"").arg(text.context, text.source);
+        if (text.isVanished) {
+            faults.append(name + QStringLiteral(" is in the file, but no longer in the program"));
+        } else if (!text.isFinished || text.forms.isEmpty() || text.forms.contains(QString())) {
+            faults.append(name + QStringLiteral(" is not translated"));
+        }
+    }
+    QVERIFY2(faults.isEmpty(),
+        qPrintable(QStringLiteral("Run script/translations and translate what is unfinished in %1:\n%2")
+                       .arg(fileOf(language), faults.join(u'\n'))));
+}
+
+void CataloguesTest::theTranslationsKeepWhatTheTextsHold()
+{
+    QFETCH(const QString, language);
+    QStringList faults;
+    for (const Message& text : messagesOf(fileOf(language))) {
+        faults += faultsOf(text, language);
+    }
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
+}
+
+AMBERTASK_TEST_MAIN(CataloguesTest)
+#include "tst_catalogues.moc"
