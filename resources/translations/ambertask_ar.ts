@@ -1569,4 +1569,13 @@
         <translation>وقت الت&amp;ذكير:</translation>
     </message>
 </context>
+<context>
+    <name>modAmbertaks</name>
+    <message>
+        <source>The program folder could not be made.
+%1</source>
+        <translation>تعذّر إنشاء مجلد البرنامج.
+%1</translation>
+    </message>
+</context>
 </TS>

@@ -1557,4 +1557,13 @@ ein Fehler auf: %3.</translation>
         <translation>Erinnerung u&amp;m:</translation>
     </message>
 </context>
+<context>
+    <name>modAmbertaks</name>
+    <message>
+        <source>The program folder could not be made.
+%1</source>
+        <translation>Der Programmordner konnte nicht angelegt werden.
+%1</translation>
+    </message>
+</context>
 </TS>

@@ -1557,4 +1557,13 @@
         <translation>H&amp;ora del recordatorio:</translation>
     </message>
 </context>
+<context>
+    <name>modAmbertaks</name>
+    <message>
+        <source>The program folder could not be made.
+%1</source>
+        <translation>No se pudo crear la carpeta del programa.
+%1</translation>
+    </message>
+</context>
 </TS>

@@ -1557,4 +1557,13 @@
         <translation>Heure du rappe&amp;l&#xa0;:</translation>
     </message>
 </context>
+<context>
+    <name>modAmbertaks</name>
+    <message>
+        <source>The program folder could not be made.
+%1</source>
+        <translation>Le dossier du programme n’a pas pu être créé.
+%1</translation>
+    </message>
+</context>
 </TS>

@@ -1554,4 +1554,13 @@
         <translation>提醒时间(&amp;I)：</translation>
     </message>
 </context>
+<context>
+    <name>modAmbertaks</name>
+    <message>
+        <source>The program folder could not be made.
+%1</source>
+        <translation>无法创建程序文件夹。
+%1</translation>
+    </message>
+</context>
 </TS>

@@ -76,7 +76,8 @@ int runInstance(Application& application, const QString& programFolder, const QS
     try {
         if (!folderFailure.isEmpty()) {
             throw RuntimeError(
-                QApplication::tr("The program folder could not be made.\n%1").arg(folderFailure));
+                QCoreApplication::translate("modAmbertaks", "The program folder could not be made.\n%1")
+                    .arg(folderFailure));
         }
         program.start(noteFirstStart);
     } catch (const RuntimeError& error) {
