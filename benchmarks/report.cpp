@@ -1,8 +1,8 @@
 // The printed report.
 #include "app/drTasks.h"
 #include "limits/PaintedTexts.h"
+#include "platform/printing/PageOutput.h"
 #include "report/ReportLayout.h"
-#include "report/ReportOutput.h"
 #include "support/Bench.h"
 #include "support/RecordedReportWindow.h"
 #include "support/TaskFile.h"
@@ -43,8 +43,8 @@ ReportContent contentOf(int tasks)
 void exportAll(const ReportContent& content, const QString& file)
 {
     const QPageLayout page(QPageSize(QPageSize::A4), QPageLayout::Portrait, {}, QPageLayout::Millimeter);
-    const ReportLayout layout(content, printableArea(page));
-    if (exportReportPdf(layout, page, QStringLiteral("Tasks Report"), file)) {
+    const ReportLayout layout(std::make_shared<const ReportContent>(content), printableArea(page));
+    if (writePdf(layout, page, QStringLiteral("Tasks Report"), file).outcome != Outcome::Done) {
         qFatal("the report could not be exported");
     }
 }

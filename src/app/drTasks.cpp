@@ -3,17 +3,14 @@
 #include "app/TaskReportQuery.h"
 #include "data/ClsDatabase.h"
 #include "platform/ErrorReport.h"
-#include "platform/FileDialogs.h"
 #include "platform/Installation.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Shell.h"
 #include "platform/WindowPlacement.h"
-#include "ui/CheckerTimer.h"
+#include "ui/PdfFileChoice.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
 #include <QLibrary>
-#include <QStandardPaths>
 #include <array>
 
 namespace
@@ -182,21 +179,7 @@ void drTasks::DataReport_QueryClose()
 
 QString drTasks::choosePdfFile(QWidget* owner)
 {
-    const CheckerPause pause(m_services.checkerTimer);
-    FileDialogRequest request;
-    request.filter = tr("PDF Files (*.pdf)|*.pdf");
-    request.fileName = QStringLiteral("Tasks Report.pdf");
-    request.initialFolder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    request.promptBeforeOverwriting = true;
-    QString file = m_services.fileDialogs.save(owner, request);
-    if (file.isEmpty() || !QFileInfo(file).suffix().isEmpty()) {
-        return file;
-    }
-    file += QStringLiteral(".pdf");
-    // The dialog has asked about the name without its ending.
-    const bool replaces = QFileInfo::exists(file);
-    const QString question = tr("\"%1\" already exists. Do you want to replace it?").arg(file);
-    return !replaces || m_services.messages.ask(owner, question) ? file : QString();
+    return ::choosePdfFile(m_services, owner, QStringLiteral("Tasks Report.pdf"));
 }
 
 void drTasks::tellFailure(QWidget* owner, const QString& text)

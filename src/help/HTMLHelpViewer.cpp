@@ -5,16 +5,17 @@
 #include "platform/Shell.h"
 #include "platform/WindowPlacement.h"
 #include "ui/FormServices.h"
+#include "ui/PdfFileChoice.h"
 
 #include <QCoreApplication>
 #include <QLibrary>
 
-HelpWindow* loadHelpWindow(const WebPageOpener& openWebPage)
+HelpWindow* loadHelpWindow(HelpHost& host)
 {
     QLibrary module(modulePath(QStringLiteral("ambertask_help")));
-    using Make = HelpWindow* (*)(const WebPageOpener&);
+    using Make = HelpWindow* (*)(HelpHost&);
     const auto make = reinterpret_cast<Make>(module.resolve("ambertaskMakeHelpWindow"));
-    return make == nullptr ? nullptr : make(openWebPage);
+    return make == nullptr ? nullptr : make(host);
 }
 
 HTMLHelpViewer::HTMLHelpViewer(HelpWindowFactory factory, const FormServices& services)
@@ -30,7 +31,7 @@ HTMLHelpViewer::~HTMLHelpViewer()
 template <typename Operation> void HTMLHelpViewer::show(Operation operation)
 {
     if (m_window == nullptr && m_factory) {
-        m_window.reset(m_factory([this](const QString& address) { m_services.shell.openWebPage(address); }));
+        m_window.reset(m_factory(*this));
     }
     if (m_window == nullptr) {
         m_services.messages.tell(nullptr, MessageBoxes::Icon::Exclamation,
@@ -80,4 +81,24 @@ void HTMLHelpViewer::Unload()
         m_window->close();
         m_window.reset();
     }
+}
+
+void HTMLHelpViewer::openWebPage(const QString& address)
+{
+    m_services.shell.openWebPage(address);
+}
+
+QString HTMLHelpViewer::choosePdfFile(QWidget* owner, const QString& name)
+{
+    return ::choosePdfFile(m_services, owner, name);
+}
+
+bool HTMLHelpViewer::ask(QWidget* owner, const QString& question)
+{
+    return m_services.messages.ask(owner, question);
+}
+
+void HTMLHelpViewer::tellFailure(QWidget* owner, const QString& text)
+{
+    m_services.messages.tell(owner, MessageBoxes::Icon::Exclamation, text);
 }

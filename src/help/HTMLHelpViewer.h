@@ -8,15 +8,13 @@ struct FormServices;
 
 /// Opens the program's help file in the one help window. What the window cannot show it says itself; the
 /// program goes on. Interface thread only.
-class HTMLHelpViewer
+class HTMLHelpViewer final : private HelpHost
 {
 public:
     /// `services` outlives the viewer.
     HTMLHelpViewer(HelpWindowFactory factory, const FormServices& services);
     /// Closes the viewer.
-    ~HTMLHelpViewer();
-    HTMLHelpViewer(const HTMLHelpViewer&) = delete;
-    HTMLHelpViewer& operator=(const HTMLHelpViewer&) = delete;
+    ~HTMLHelpViewer() override;
 
     /// Full path of the help file.
     const QString& HelpFile() const { return m_helpFile; }
@@ -36,6 +34,11 @@ public:
 
 private:
     template <typename Operation> void show(Operation operation);
+
+    void openWebPage(const QString& address) override;
+    QString choosePdfFile(QWidget* owner, const QString& name) override;
+    bool ask(QWidget* owner, const QString& question) override;
+    void tellFailure(QWidget* owner, const QString& text) override;
 
     HelpWindowFactory m_factory;
     const FormServices& m_services;

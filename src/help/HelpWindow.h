@@ -24,10 +24,27 @@ public:
     virtual void showContext(qint32 context) = 0;
 };
 
-/// Opens a page of the web; help topics may link to such.
-using WebPageOpener = std::function<void(const QString& address)>;
-/// Makes the window, hidden and without a parent; null where its module is missing.
-using HelpWindowFactory = std::function<HelpWindow*(const WebPageOpener&)>;
+/// What the help window asks of the program around it.
+class HelpHost
+{
+public:
+    HelpHost() = default;
+    virtual ~HelpHost() = default;
+    HelpHost(const HelpHost&) = delete;
+    HelpHost& operator=(const HelpHost&) = delete;
+
+    /// Opens a page of the web; help topics may link to such.
+    virtual void openWebPage(const QString& address) = 0;
+    /// The file to write to, `name` proposed; empty when the user has cancelled.
+    virtual QString choosePdfFile(QWidget* owner, const QString& name) = 0;
+    /// Asks a question for yes or no.
+    virtual bool ask(QWidget* owner, const QString& question) = 0;
+    /// Tells the user what failed and why.
+    virtual void tellFailure(QWidget* owner, const QString& text) = 0;
+};
+
+/// Makes the window, hidden and without a parent; null where its module is missing. The host outlives it.
+using HelpWindowFactory = std::function<HelpWindow*(HelpHost&)>;
 
 /// The factory of the installed program: loads the module beside the executable.
-HelpWindow* loadHelpWindow(const WebPageOpener& openWebPage);
+HelpWindow* loadHelpWindow(HelpHost& host);

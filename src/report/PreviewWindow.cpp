@@ -1,16 +1,14 @@
 #include "report/PreviewWindow.h"
 
-#include "report/ReportOutput.h"
+#include "platform/printing/PageOutput.h"
+#include "platform/printing/WindowPrinting.h"
 
 #include <QBoxLayout>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QGraphicsView>
-#include <QGuiApplication>
 #include <QLabel>
-#include <QLocale>
 #include <QPainter>
-#include <QPrintDialog>
 #include <QPrintPreviewWidget>
 #include <QPushButton>
 #include <QScreen>
@@ -24,22 +22,12 @@ namespace
 
 constexpr QSize FirstSize(820, 860);
 constexpr QSize RoomForFrame(20, 50);
-constexpr qreal MarginMillimetres = 15;
 constexpr std::array PaperSizes{
     QPageSize::A3, QPageSize::A4, QPageSize::A5, QPageSize::Letter, QPageSize::Legal};
 // The first two entries of the zoom list fit the page; those after them are percentages.
 constexpr int FitPage = 0;
 constexpr int FitWidth = 1;
 constexpr std::array ZoomPercentages{25, 50, 75, 100, 125, 150, 200, 300, 400};
-
-class WaitCursor
-{
-public:
-    WaitCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~WaitCursor() { QGuiApplication::restoreOverrideCursor(); }
-    WaitCursor(const WaitCursor&) = delete;
-    WaitCursor& operator=(const WaitCursor&) = delete;
-};
 
 template <typename Control> Control* named(Control* control, const char* name)
 {
@@ -52,11 +40,6 @@ QLabel* labelFor(QWidget* buddy, const QString& text)
     auto* label = new QLabel(text);
     label->setBuddy(buddy);
     return label;
-}
-
-QPageSize::PageSizeId usualPaper()
-{
-    return QLocale().measurementSystem() == QLocale::ImperialUSSystem ? QPageSize::Letter : QPageSize::A4;
 }
 
 } // namespace
@@ -75,9 +58,7 @@ PreviewWindow::PreviewWindow(ReportHost& host, std::function<bool()> hasPrinter)
     setObjectName(QStringLiteral("drTasks"));
     m_printer.setOutputFormat(QPrinter::PdfFormat);
     m_printer.setResolution(UnitsPerInch);
-    m_printer.setPageLayout({QPageSize(usualPaper()), QPageLayout::Portrait,
-        QMarginsF(MarginMillimetres, MarginMillimetres, MarginMillimetres, MarginMillimetres),
-        QPageLayout::Millimeter});
+    m_printer.setPageLayout(usualPage());
     m_preview = named(new QPrintPreviewWidget(&m_printer), "prvReport");
     m_preview->setZoomMode(QPrintPreviewWidget::FitInView);
 
@@ -87,11 +68,11 @@ PreviewWindow::PreviewWindow(ReportHost& host, std::function<bool()> hasPrinter)
     layout->addLayout(makePageRow());
     makeShortcuts();
     resize(FirstSize.boundedTo(screen()->availableSize() - RoomForFrame));
-    layOut();
+    setContent({});
 
     connect(m_preview, &QPrintPreviewWidget::paintRequested, this, [this](QPrinter* printer) {
         QPainter painter(printer);
-        paintReportPage(painter, *m_layout, m_page);
+        paintPage(painter, *m_layout, m_page);
     });
     connect(m_preview, &QPrintPreviewWidget::previewChanged, this, &PreviewWindow::showZoom);
 }
@@ -176,10 +157,11 @@ void PreviewWindow::makeShortcuts()
 void PreviewWindow::setContent(ReportContent content)
 {
     m_layout.reset();
-    m_content = std::move(content);
-    setWindowTitle(m_content.caption);
+    m_content = std::make_shared<const ReportContent>(std::move(content));
+    setWindowTitle(m_content->caption);
     m_page = 0;
-    layOut();
+    m_layout = layOut(printableArea(m_printer.pageLayout()));
+    showPage();
 }
 
 int PreviewWindow::pageCount() const
@@ -187,10 +169,11 @@ int PreviewWindow::pageCount() const
     return m_layout->pageCount();
 }
 
-void PreviewWindow::layOut()
+std::shared_ptr<const ReportLayout> PreviewWindow::layOut(QSizeF area) const
 {
-    m_layout = std::make_unique<ReportLayout>(m_content, printableArea(m_printer.pageLayout()));
-    showPage();
+    return m_layout != nullptr && m_layout->page() == area
+        ? m_layout
+        : std::make_shared<const ReportLayout>(m_content, area);
 }
 
 void PreviewWindow::goToPage(int page)
@@ -245,7 +228,7 @@ void PreviewWindow::pageFormat_Click()
     m_printer.setPageLayout(page);
     // What stood at the top of the page in view stays in view.
     const std::size_t record = m_layout->firstRecord(m_page);
-    m_layout = std::make_unique<ReportLayout>(m_content, printableArea(page));
+    m_layout = layOut(printableArea(page));
     m_page = m_layout->pageOf(record);
     showPage();
 }
@@ -292,20 +275,11 @@ void PreviewWindow::showZoom()
 
 void PreviewWindow::btnPrint_Click()
 {
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setPageLayout(m_printer.pageLayout());
-    printer.setDocName(windowTitle());
-    QPrintDialog dialog(&printer, this);
-    dialog.setWindowFlag(Qt::WindowStaysOnTopHint, windowFlags().testFlag(Qt::WindowStaysOnTopHint));
-    dialog.setOption(QAbstractPrintDialog::PrintCurrentPage);
-    dialog.setMinMax(1, pageCount());
-    if (dialog.exec() != QDialog::Accepted) {
-        return;
-    }
-    const WaitCursor wait;
-    // The dialog may have chosen another paper.
-    const ReportLayout layout(m_content, printableArea(printer.pageLayout()));
-    if (!paintReportPages(printer, layout, chosenPages(printer, layout.pageCount(), m_page))) {
+    const PrintRequest request{
+        windowTitle(), m_printer.pageLayout(), pageCount(), m_page, [this](QSizeF area) {
+            return layOut(area);
+        }};
+    if (printThroughDialog(*this, request) == Outcome::Failed) {
         tell(tr("The report could not be printed."));
     }
 }
@@ -320,13 +294,11 @@ void PreviewWindow::btnExport_Click()
 
 void PreviewWindow::exportTo(const QString& file)
 {
-    std::optional<QString> failure;
-    {
-        const WaitCursor wait;
-        failure = exportReportPdf(*m_layout, m_printer.pageLayout(), windowTitle(), file);
-    }
-    if (failure) {
-        tell(tr("The report could not be written to \"%1\": %2.").arg(file, *failure));
+    // Kept here: another report may be set while this one is written.
+    const std::shared_ptr<const ReportLayout> layout = m_layout;
+    const PdfOutcome result = writePdfFrom(*this, *layout, m_printer.pageLayout(), windowTitle(), file);
+    if (result.outcome == Outcome::Failed) {
+        tell(tr("The report could not be written to \"%1\": %2.").arg(file, result.failure));
     }
 }
 

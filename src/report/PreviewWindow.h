@@ -32,7 +32,8 @@ public:
     int page() const { return m_page; }
     void goToPage(int page);
     QPageLayout pageLayout() const { return m_printer.pageLayout(); }
-    /// Exports the report as it is in view; failures are told to the user.
+    /// Exports the report as it is in view and returns when that is done or cancelled; failures are told to
+    /// the user. Another report may be set meanwhile.
     void exportTo(const QString& file);
 
 protected:
@@ -49,16 +50,16 @@ private:
     QBoxLayout* makeCommandRow();
     QBoxLayout* makePageRow();
     void makeShortcuts();
-    void layOut();
+    std::shared_ptr<const ReportLayout> layOut(QSizeF area) const;
     void showPage();
     void showZoom();
     void tell(const QString& text);
 
     ReportHost& m_host;
     std::function<bool()> m_hasPrinter;
-    ReportContent m_content;
+    std::shared_ptr<const ReportContent> m_content;
     QPrinter m_printer; ///< for the preview alone: it writes no file and needs no printer
-    std::unique_ptr<ReportLayout> m_layout;
+    std::shared_ptr<const ReportLayout> m_layout;
     int m_page = 0;
     QPrintPreviewWidget* m_preview;
     QPushButton* m_print;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/printing/PrintedPages.h"
+
 #include <QColor>
 #include <QFont>
 #include <QTextLayout>
@@ -8,13 +10,6 @@
 #include <vector>
 
 class QPainter;
-
-// All lengths of the report are in units of 1/600 inch, whatever it is painted on.
-inline constexpr int UnitsPerInch = 600;
-constexpr qreal millimetres(qreal length)
-{
-    return length * UnitsPerInch / 25.4;
-}
 
 /// How a text is written: font, colour and line height, with what is needed to measure a short text cheaply.
 class TextStyle

@@ -69,11 +69,11 @@ struct ReportLayout::LaidRecord {
     std::vector<Band> bands;
 };
 
-ReportLayout::ReportLayout(const ReportContent& content, QSizeF page)
-    : m_content(content), m_page(page), m_label(9, false, Faint), m_text(10, false, Ink),
+ReportLayout::ReportLayout(std::shared_ptr<const ReportContent> content, QSizeF page)
+    : m_content(std::move(content)), m_page(page), m_label(9, false, Faint), m_text(10, false, Ink),
       m_name(12, true, Ink), m_title(18, true, Amber), m_subtitle(18, false, Ink)
 {
-    for (const ReportSection& section : content.sections) {
+    for (const ReportSection& section : m_content->sections) {
         std::size_t column = 0;
         for (const ReportControl& control : section.controls) {
             if (control.kind == ReportControl::Kind::Text) {
@@ -87,7 +87,7 @@ ReportLayout::ReportLayout(const ReportContent& content, QSizeF page)
         m_labelWidth = std::max(m_labelWidth, m_label.widthOf(captionOf(QLatin1String(label))));
     }
     m_labelWidth += LabelGap;
-    m_stacked = !m_content.records.empty() && !hasRoomSideBySide();
+    m_stacked = !m_content->records.empty() && !hasRoomSideBySide();
     findPageStarts();
 }
 
@@ -101,7 +101,7 @@ QString ReportLayout::captionOf(const QString& control) const
 
 const QString& ReportLayout::value(std::size_t record, const QString& control) const
 {
-    return m_content.records[record][m_columns.at(control)];
+    return m_content->records[record][m_columns.at(control)];
 }
 
 ReportLayout::CodePlace ReportLayout::placeOf(std::size_t code) const
@@ -121,7 +121,7 @@ bool ReportLayout::hasRoomSideBySide() const
     for (std::size_t i = 0; i < Codes.size(); ++i) {
         const std::size_t column = m_columns.at(QLatin1String(Codes[i].text));
         const QString* longest = nullptr;
-        for (const std::vector<QString>& record : m_content.records) {
+        for (const std::vector<QString>& record : m_content->records) {
             if (longest == nullptr || record[column].size() > longest->size()) {
                 longest = &record[column];
             }
@@ -211,7 +211,7 @@ void ReportLayout::findPageStarts()
     m_pages.push_back({0, 0});
     qreal y = 0;
     std::vector<qreal> bands;
-    for (std::size_t record = 0; record < m_content.records.size(); ++record) {
+    for (std::size_t record = 0; record < m_content->records.size(); ++record) {
         measure(record, bands);
         const qreal height = sum(bands);
         if (y > 0 && y + height > room) {
@@ -244,11 +244,11 @@ int ReportLayout::pageOf(std::size_t record) const
 void ReportLayout::paintHeader(QPainter& painter) const
 {
     qreal left = 0;
-    if (!m_content.image.isNull()) {
+    if (!m_content->image.isNull()) {
         const QSizeF size =
-            QSizeF(m_content.image.size()).scaled(m_page.width(), HeaderHeight, Qt::KeepAspectRatio);
+            QSizeF(m_content->image.size()).scaled(m_page.width(), HeaderHeight, Qt::KeepAspectRatio);
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.drawImage(QRectF(QPointF(0, 0), size), m_content.image);
+        painter.drawImage(QRectF(QPointF(0, 0), size), m_content->image);
         left = size.width() + LogoGap;
     }
     const qreal base = HeaderHeight * TitleBase;
@@ -277,11 +277,11 @@ void ReportLayout::paintPage(QPainter& painter, int page) const
     const auto index = static_cast<std::size_t>(page);
     const PageStart start = m_pages[index];
     const PageStart end =
-        index + 1 < m_pages.size() ? m_pages[index + 1] : PageStart{m_content.records.size(), 0};
+        index + 1 < m_pages.size() ? m_pages[index + 1] : PageStart{m_content->records.size(), 0};
     painter.save();
     paintHeader(painter);
     qreal y = HeaderHeight + HeaderGap;
-    for (std::size_t record = start.record; record <= end.record && record < m_content.records.size();
+    for (std::size_t record = start.record; record <= end.record && record < m_content->records.size();
          ++record) {
         if (record == end.record && end.band == 0) {
             break;

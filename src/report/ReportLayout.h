@@ -5,24 +5,25 @@
 
 #include <QSizeF>
 #include <map>
+#include <memory>
 
 /// A report laid out for one size of page: where its pages start, and how each of them is painted. A record
 /// is kept whole on a page; one that is taller than a page begins on a page of its own and is split between
 /// lines.
-class ReportLayout
+class ReportLayout final : public PrintedPages
 {
 public:
-    /// `content` outlives the layout and does not change. `page` is the printable area, in units.
-    ReportLayout(const ReportContent& content, QSizeF page);
-    ~ReportLayout();
+    /// `page` is the printable area, in units.
+    ReportLayout(std::shared_ptr<const ReportContent> content, QSizeF page);
+    ~ReportLayout() override;
 
-    int pageCount() const { return static_cast<int>(m_pages.size()); }
+    QSizeF page() const { return m_page; }
+    int pageCount() const override { return static_cast<int>(m_pages.size()); }
     /// The number of the first record that stands on that page; pages count from 0.
     std::size_t firstRecord(int page) const { return m_pages[static_cast<std::size_t>(page)].record; }
     /// The page on which that record begins.
     int pageOf(std::size_t record) const;
-    /// Paints a page whose printable area begins at the painter's origin, one unit a length of 1.
-    void paintPage(QPainter& painter, int page) const;
+    void paintPage(QPainter& painter, int page) const override;
 
 private:
     struct PageStart {
@@ -49,7 +50,7 @@ private:
     std::unique_ptr<LaidRecord> layOut(std::size_t record) const;
     void paintHeader(QPainter& painter) const;
 
-    const ReportContent& m_content;
+    std::shared_ptr<const ReportContent> m_content;
     QSizeF m_page;
     TextStyle m_label;
     TextStyle m_text;

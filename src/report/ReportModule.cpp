@@ -1,8 +1,7 @@
+#include "platform/printing/WindowPrinting.h"
 #include "report/PreviewWindow.h"
-
-#include <QPrinterInfo>
 
 extern "C" Q_DECL_EXPORT ReportWindow* ambertaskMakeReportWindow(ReportHost& host)
 {
-    return new PreviewWindow(host, [] { return !QPrinterInfo::availablePrinterNames().isEmpty(); });
+    return new PreviewWindow(host, hasPrinter);
 }

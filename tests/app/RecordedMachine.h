@@ -41,7 +41,7 @@ struct RecordedMachine {
         return {database.engine(), dialogs, dialogs, dialogs, shell, registry,
             [this] { return std::make_unique<RecordedWaves>(played, stops); },
             [this] { return notificationArea; },
-            [this](const WebPageOpener&) {
+            [this](HelpHost&) {
                 helpWindow = new RecordedHelpWindow(helpLog);
                 return helpWindow;
             },

@@ -8,6 +8,7 @@
 #include "tasks/frmTaskDetails.h"
 #include "tests/app/Legibility.h"
 #include "tests/app/ProgramFixture.h"
+#include "tests/help/RecordedHelpHost.h"
 
 #include <QCalendarWidget>
 #include <QCheckBox>
@@ -267,7 +268,8 @@ void SkinsOnWindowsTest::theHelpCanBeRead()
 {
     QFETCH(const QString, skin);
     const SkinnedProgram f(skin);
-    CompiledHelpWindow window([](const QString&) {});
+    RecordedHelpHost host;
+    CompiledHelpWindow window(host, [] { return false; });
     window.setFile(QStringLiteral(AMBERTASK_HELP_FILE));
     window.showContents();
     window.show();

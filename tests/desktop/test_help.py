@@ -1,11 +1,13 @@
 """The help and the about box as their user opens them."""
 import os
+import subprocess
 
 import names
 from case import DesktopCase, main
 from polling import wait_until
 
 HELP = "Ambertask Help"
+NO_PRINTER = "No printer is set up on this computer. Do you want to write this topic to a PDF file instead?"
 HELP_BUTTON = ("button", "Help", "Help on categories")
 PAGES = {"Tasks": "The page Tasks", "Categories": "The page Categories", "Settings": "The page Settings",
          "Maintenance": "The page Maintenance"}
@@ -56,6 +58,20 @@ class HelpTest(HelpCase):
         self.user.window(HELP)
         self.user.choose_tray_entry("Exit")
         self.assertEqual(self.user.program.wait_end(), 0)
+
+    def test_a_topic_is_printed_to_a_pdf_file_where_there_is_no_printer(self):
+        self.start_shown()
+        self.desk.input.key("F1")
+        self.user.window(HELP)
+        self.user.wait_active(HELP)
+        self.topic_shows("Welcome to Ambertask")
+        self.desk.input.key("p", "Control_L")
+        self.user.answer(NO_PRINTER, names.YES)
+        target = self.desk.path("topic.pdf")
+        self.user.choose_file(names.SAVE_FILE, str(target))
+        wait_until(lambda: os.path.exists(target), "the file is written")
+        text = subprocess.run(["pdftotext", target, "-"], check=True, capture_output=True, text=True).stdout
+        self.assertIn("Welcome to Ambertask", text)
 
     def test_a_missing_help_file_is_told_and_the_program_goes_on(self):
         os.remove(self.desk.path("program", "Ambertask1.1.chm"))

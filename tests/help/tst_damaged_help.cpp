@@ -1,6 +1,7 @@
 #include "help/window/CompiledHelpWindow.h"
 #include "help/window/HelpBook.h"
 #include "support/TestMain.h"
+#include "tests/help/RecordedHelpHost.h"
 
 #include <QRandomGenerator>
 #include <QTemporaryDir>
@@ -148,7 +149,8 @@ private slots:
 
     void theWindowSaysThatTheFileIsMissing()
     {
-        CompiledHelpWindow window({});
+        RecordedHelpHost host;
+        CompiledHelpWindow window(host, [] { return false; });
         window.setFile(m_folder.filePath(QStringLiteral("no<b>where.chm")));
         window.showContents();
         window.show();
@@ -165,7 +167,8 @@ private slots:
 
     void theWindowSaysThatTheFileIsDamaged()
     {
-        CompiledHelpWindow window({});
+        RecordedHelpHost host;
+        CompiledHelpWindow window(host, [] { return false; });
         window.setFile(file(m_good.left(100)));
         window.showContext(1);
         QVERIFY(shownText(window).contains(QLatin1String("\"damaged.chm\" is damaged")));
@@ -173,7 +176,8 @@ private slots:
 
     void whatCannotBeUsedWithoutAFileIsDisabledOrHidden()
     {
-        CompiledHelpWindow window({});
+        RecordedHelpHost host;
+        CompiledHelpWindow window(host, [] { return false; });
         window.setFile(file("no help file"));
         window.showContents();
         window.show();
@@ -185,7 +189,8 @@ private slots:
 
     void aFileThatIsPutBackIsShownByTheNextCall()
     {
-        CompiledHelpWindow window({});
+        RecordedHelpHost host;
+        CompiledHelpWindow window(host, [] { return false; });
         const QString path = file("no help file");
         window.setFile(path);
         window.showContext(2);
@@ -198,7 +203,8 @@ private slots:
 
     void aTopicThatIsDamagedIsToldAndTheRestStaysReadable()
     {
-        CompiledHelpWindow window({});
+        RecordedHelpHost host;
+        CompiledHelpWindow window(host, [] { return false; });
         // The topics lie in the file in the order of their names.
         window.setFile(file(m_good.left(m_good.indexOf("<title>The page Tasks"))));
         window.showContext(1);

@@ -14,9 +14,9 @@ namespace
 struct Viewer {
     Viewer()
         : viewer(
-            [this](const WebPageOpener& opener) {
+            [this](HelpHost& asked) {
                 ++made;
-                openWebPage = opener;
+                host = &asked;
                 window = new RecordedHelpWindow(log);
                 return window;
             },
@@ -28,7 +28,7 @@ struct Viewer {
     TestServices services;
     QStringList log;
     int made = 0;
-    WebPageOpener openWebPage;
+    HelpHost* host = nullptr;
     QPointer<RecordedHelpWindow> window;
     HTMLHelpViewer viewer;
 };
@@ -118,7 +118,7 @@ private slots:
         const TestServices services;
         {
             HTMLHelpViewer viewer(
-                [&log](const WebPageOpener&) { return new RecordedHelpWindow(log); }, services.services);
+                [&log](HelpHost&) { return new RecordedHelpWindow(log); }, services.services);
             viewer.Show();
         }
         QCOMPARE(log.last(), QStringLiteral("destroyed"));
@@ -139,15 +139,41 @@ private slots:
     {
         Viewer help;
         help.viewer.Show();
-        help.openWebPage(QStringLiteral("https://www.ambertask.example/support.htm"));
+        help.host->openWebPage(QStringLiteral("https://www.ambertask.example/support.htm"));
         QCOMPARE(help.services.shell.webPages,
             QStringList(QStringLiteral("https://www.ambertask.example/support.htm")));
+    }
+
+    void theFileToPrintToIsAskedForWhileTheCheckerWaits()
+    {
+        Viewer help;
+        help.viewer.Show();
+        help.services.dialogs.expectSave(
+            QStringLiteral("/documents/mine.pdf"), [&help](const FileDialogRequest& request) {
+                QVERIFY(!help.services.checkerTimer.enabled);
+                QCOMPARE(request.fileName, QStringLiteral("Keys.pdf"));
+                QCOMPARE(request.filter, QStringLiteral("PDF Files (*.pdf)|*.pdf"));
+                QVERIFY(request.promptBeforeOverwriting);
+            });
+        QCOMPARE(help.host->choosePdfFile(help.window, QStringLiteral("Keys.pdf")),
+            QStringLiteral("/documents/mine.pdf"));
+        QVERIFY(help.services.checkerTimer.enabled);
+    }
+
+    void questionsAndFailuresOfTheWindowAreMessages()
+    {
+        Viewer help;
+        help.viewer.Show();
+        help.services.dialogs.expectAsk(QStringLiteral("Write it?"), true);
+        QVERIFY(help.host->ask(help.window, QStringLiteral("Write it?")));
+        help.services.dialogs.expectTell(MessageBoxes::Icon::Exclamation, QStringLiteral("No room."));
+        help.host->tellFailure(help.window, QStringLiteral("No room."));
     }
 
     void aMissingModuleIsToldAndTheProgramGoesOn()
     {
         TestServices services;
-        HTMLHelpViewer viewer([](const WebPageOpener&) -> HelpWindow* { return nullptr; }, services.services);
+        HTMLHelpViewer viewer([](HelpHost&) -> HelpWindow* { return nullptr; }, services.services);
         services.dialogs.expectTell(MessageBoxes::Icon::Exclamation,
             QStringLiteral("The help window is missing from this installation."));
         viewer.ShowContents();
@@ -158,12 +184,11 @@ private slots:
     void theModuleOfThisBuildMakesAWindow()
     {
         QLibrary module(QStringLiteral(AMBERTASK_HELP_MODULE));
-        using Make = HelpWindow* (*)(const WebPageOpener&);
+        using Make = HelpWindow* (*)(HelpHost&);
         const auto make = reinterpret_cast<Make>(module.resolve("ambertaskMakeHelpWindow"));
         QVERIFY2(make != nullptr, qPrintable(module.errorString()));
         const TestServices services;
-        HTMLHelpViewer viewer(
-            [make](const WebPageOpener& opener) { return make(opener); }, services.services);
+        HTMLHelpViewer viewer([make](HelpHost& host) { return make(host); }, services.services);
         viewer.SetHelpFile(QStringLiteral(AMBERTASK_HELP_FILE));
         viewer.ShowContext(0);
         QVERIFY(viewer.viewerWindow()->isVisible());

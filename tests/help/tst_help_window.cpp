@@ -2,12 +2,15 @@
 #include "help/window/HelpPanes.h"
 #include "help/window/TopicView.h"
 #include "support/TestMain.h"
+#include "tests/help/RecordedHelpHost.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTabWidget>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTextBlock>
 
@@ -16,7 +19,11 @@ namespace
 
 struct Help {
     Help()
-        : window([this](const QString& address) { webPages.append(address); }),
+        : window(host,
+            [this] {
+                ++askedForPrinter;
+                return hasPrinter;
+            }),
           topic(*window.findChild<TopicView*>()), tabs(*window.findChild<QTabWidget*>())
     {
         window.setFile(QStringLiteral(AMBERTASK_HELP_FILE));
@@ -42,7 +49,9 @@ struct Help {
         QTest::keyClick(&control("txtSearch"), Qt::Key_Return);
     }
 
-    QStringList webPages;
+    RecordedHelpHost host;
+    bool hasPrinter = false;
+    int askedForPrinter = 0;
     CompiledHelpWindow window;
     TopicView& topic;
     QTabWidget& tabs;
@@ -253,10 +262,77 @@ private slots:
         Help help;
         help.window.showContext(0);
         const QVariant read = help.topic.document()->resource(QTextDocument::ImageResource, address);
-        QVERIFY(!read.isValid() || read.value<QImage>().isNull());
+        QCOMPARE(read.value<QImage>(), noPicture());
         emit help.topic.anchorClicked(address);
         QVERIFY(!help.topic.toPlainText().contains(QLatin1String("root:")));
         QVERIFY(!help.topic.toPlainText().contains(QLatin1String("font-family")));
+    }
+
+    void picturesThatTheFileDoesNotHoldAreNotDrawnFromTheDisk()
+    {
+        const QTemporaryDir folder;
+        QImage red(24, 24, QImage::Format_RGB32);
+        red.fill(QColor(0xff, 0x01, 0x02));
+        const QString picture = folder.filePath(QStringLiteral("r.png"));
+        QVERIFY(red.save(picture));
+        QFile good(QStringLiteral(AMBERTASK_HELP_FILE));
+        QVERIFY(good.open(QIODevice::ReadOnly));
+        QByteArray bytes = good.readAll();
+        const QByteArray before("<img src=\"tasks.png\" alt=\"The page Tasks\"></p>");
+        QByteArray after = "<img src=\"" + picture.toUtf8() + "\">";
+        QVERIFY(after.size() <= before.size());
+        after += QByteArray(before.size() - after.size(), ' ');
+        QVERIFY(bytes.contains(before));
+        bytes.replace(before, after);
+        QFile hostile(folder.filePath(QStringLiteral("hostile.chm")));
+        QVERIFY(hostile.open(QIODevice::WriteOnly) && hostile.write(bytes) == bytes.size());
+        hostile.close();
+        Help help;
+        help.window.setFile(hostile.fileName());
+        help.window.showContext(0);
+        const QImage shown = help.topic.grab().toImage();
+        for (int y = 0; y < shown.height(); ++y) {
+            for (int x = 0; x < shown.width(); ++x) {
+                QVERIFY(shown.pixelColor(x, y) != QColor(0xff, 0x01, 0x02));
+            }
+        }
+    }
+
+    void mnemonicsAreOfTheirControlAlone_data()
+    {
+        QTest::addColumn<int>("tab");
+        QTest::newRow("contents") << 0;
+        QTest::newRow("index") << 1;
+        QTest::newRow("search") << 2;
+    }
+
+    void mnemonicsAreOfTheirControlAlone()
+    {
+        QFETCH(const int, tab);
+        Help help;
+        help.tabs.setCurrentIndex(tab);
+        QStringList captions;
+        for (int i = 0; i < help.tabs.count(); ++i) {
+            captions.append(help.tabs.tabText(i));
+        }
+        for (const auto* button : help.window.findChildren<QPushButton*>()) {
+            if (button->isVisible()) {
+                captions.append(button->text());
+            }
+        }
+        for (const auto* label : help.window.findChildren<QLabel*>()) {
+            if (label->isVisible() && label->buddy() != nullptr) {
+                captions.append(label->text());
+            }
+        }
+        QSet<QChar> mnemonics;
+        for (const QString& caption : std::as_const(captions)) {
+            const qsizetype mark = caption.indexOf(u'&');
+            QVERIFY2(mark >= 0, qPrintable(caption));
+            QVERIFY2(!mnemonics.contains(caption[mark + 1].toLower()), qPrintable(caption));
+            mnemonics.insert(caption[mark + 1].toLower());
+        }
+        QVERIFY(mnemonics.size() >= 9);
     }
 
     void linksToTheWebLeaveTheTopicAndAskTheDesktop()
@@ -265,7 +341,7 @@ private slots:
         help.window.showContext(0);
         emit help.topic.anchorClicked(
             QUrl(QStringLiteral("https://www.ambertask.example/support.htm?referer=p")));
-        QCOMPARE(help.webPages,
+        QCOMPARE(help.host.webPages,
             QStringList(QStringLiteral("https://www.ambertask.example/support.htm?referer=p")));
         QCOMPARE(help.topic.topic(), QStringLiteral("/tasks.html"));
     }
@@ -277,7 +353,7 @@ private slots:
         for (const char* address : {"file:///etc/passwd", "javascript:alert(1)", "mailto:a@b.example"}) {
             emit help.topic.anchorClicked(QUrl(QString::fromLatin1(address)));
         }
-        QCOMPARE(help.webPages, QStringList());
+        QCOMPARE(help.host.webPages, QStringList());
         QCOMPARE(help.topic.topic(), QStringLiteral("/tasks.html"));
     }
 

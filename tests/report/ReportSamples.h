@@ -2,11 +2,6 @@
 
 #include "report/ReportWindow.h"
 
-#include <QFile>
-#include <QProcess>
-#include <QStringList>
-#include <QTest>
-
 /// A record with that name and description; the rest is usual.
 inline std::vector<QString> recordOf(const QString& name, const QString& description = {})
 {
@@ -46,20 +41,4 @@ inline ReportContent contentOf(std::vector<std::vector<QString>> records)
                 label("Label5", "Description"), text("txtTaskDesc")}}};
     content.records = std::move(records);
     return content;
-}
-
-/// The text of each page of a PDF file, as a reader of PDF files sees it.
-inline QStringList pagesOfPdf(const QString& file)
-{
-    QProcess reader;
-    reader.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), file, QStringLiteral("-")});
-    if (!reader.waitForFinished() || reader.exitCode() != 0) {
-        QTest::qFail(qPrintable(reader.errorString() + QString::fromLocal8Bit(reader.readAllStandardError())),
-            __FILE__, __LINE__);
-        return {};
-    }
-    QStringList pages = QString::fromUtf8(reader.readAllStandardOutput()).split(u'\f');
-    // Each page ends with a form feed.
-    pages.removeLast();
-    return pages;
 }

@@ -1,4 +1,5 @@
 #include "report/PreviewWindow.h"
+#include "support/PdfFile.h"
 #include "support/TestMain.h"
 #include "tests/report/ReportSamples.h"
 
@@ -12,6 +13,7 @@
 #include <QSet>
 #include <QSpinBox>
 #include <QTemporaryDir>
+#include <QTest>
 
 namespace
 {

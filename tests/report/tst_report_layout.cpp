@@ -1,4 +1,6 @@
-#include "report/ReportOutput.h"
+#include "platform/printing/PageOutput.h"
+#include "report/ReportLayout.h"
+#include "support/PdfFile.h"
 #include "support/TestMain.h"
 #include "tests/report/ReportSamples.h"
 
@@ -7,7 +9,9 @@
 #include <QPageSize>
 #include <QPainter>
 #include <QPrinter>
+#include <QRegularExpression>
 #include <QTemporaryDir>
+#include <QTest>
 #include <numeric>
 
 namespace
@@ -28,14 +32,20 @@ QString linesOf(int count)
     return lines.join(u'\n');
 }
 
+ReportLayout laidOut(const ReportContent& content, const QPageLayout& page)
+{
+    return ReportLayout(std::make_shared<const ReportContent>(content), printableArea(page));
+}
+
 /// The pages that a report of these records has as a PDF.
 QStringList exported(const ReportContent& content, const QPageLayout& page = pageOf())
 {
     const QTemporaryDir folder;
     const QString file = folder.filePath(QStringLiteral("report.pdf"));
-    const ReportLayout layout(content, printableArea(page));
-    if (const auto failure = exportReportPdf(layout, page, content.caption, file)) {
-        QTest::qFail(qPrintable(*failure), __FILE__, __LINE__);
+    const ReportLayout layout = laidOut(content, page);
+    const PdfOutcome result = writePdf(layout, page, content.caption, file);
+    if (result.outcome != Outcome::Done) {
+        QTest::qFail(qPrintable(result.failure), __FILE__, __LINE__);
         return {};
     }
     return pagesOfPdf(file);
@@ -157,7 +167,7 @@ private slots:
         const ReportContent content = contentOf(std::move(records));
         const QPageLayout page = pageOf(
             static_cast<QPageSize::PageSizeId>(size), static_cast<QPageLayout::Orientation>(orientation));
-        const ReportLayout layout(content, printableArea(page));
+        const ReportLayout layout = laidOut(content, page);
         QVERIFY(layout.pageCount() > 3);
         constexpr int Border = 40;
         constexpr qreal Scale = 0.1;
@@ -204,7 +214,7 @@ private slots:
     {
         const ReportContent content = contentOf({recordOf(QStringLiteral("שלום"))});
         const QSizeF area = printableArea(pageOf());
-        const ReportLayout layout(content, area);
+        const ReportLayout layout = laidOut(content, pageOf());
         QImage paper((area * 0.1).toSize(), QImage::Format_Grayscale8);
         paper.fill(Qt::white);
         QPainter painter(&paper);
@@ -240,7 +250,7 @@ private slots:
     void aPageIsFoundByItsRecord()
     {
         const ReportContent content = contentOf(recordsOf(60));
-        const ReportLayout layout(content, printableArea(pageOf()));
+        const ReportLayout layout = laidOut(content, pageOf());
         for (int page = 0; page < layout.pageCount(); ++page) {
             QCOMPARE(layout.pageOf(layout.firstRecord(page)), page);
         }
@@ -275,8 +285,8 @@ private slots:
         printer.setOutputFileName(folder.filePath(QStringLiteral("printed.pdf")));
         printer.setResolution(300);
         printer.setPageLayout(pageOf());
-        const ReportLayout layout(content, printableArea(printer.pageLayout()));
-        QVERIFY(paintReportPages(printer, layout, chosenPages(printer, layout.pageCount(), 0)));
+        const ReportLayout layout = laidOut(content, printer.pageLayout());
+        QCOMPARE(paintPages(printer, layout, chosenPages(printer, layout.pageCount(), 0)), Outcome::Done);
         QCOMPARE(pagesOfPdf(printer.outputFileName()), exported(content));
     }
 
@@ -286,10 +296,10 @@ private slots:
         QPrinter printer;
         printer.setOutputFormat(QPrinter::PdfFormat);
         printer.setOutputFileName(QStringLiteral("/nowhere/at/all.pdf"));
-        const ReportLayout layout(content, printableArea(pageOf()));
+        const ReportLayout layout = laidOut(content, pageOf());
         QTest::ignoreMessage(
             QtWarningMsg, QRegularExpression(QStringLiteral("QPainter::begin\\(\\): Returned false")));
-        QVERIFY(!paintReportPages(printer, layout, {0}));
+        QCOMPARE(paintPages(printer, layout, {0}), Outcome::Failed);
     }
 
     void anExportReplacesAFileWhole()
@@ -301,8 +311,8 @@ private slots:
         before.write(QByteArray(1000000, 'x'));
         before.close();
         const ReportContent content = contentOf(recordsOf(1));
-        const ReportLayout layout(content, printableArea(pageOf()));
-        QVERIFY(!exportReportPdf(layout, pageOf(), content.caption, file));
+        const ReportLayout layout = laidOut(content, pageOf());
+        QCOMPARE(writePdf(layout, pageOf(), content.caption, file).outcome, Outcome::Done);
         QVERIFY(pagesOfPdf(file).value(0).contains(QStringLiteral("record 1.")));
         QVERIFY(QFileInfo(file).size() < 1000000);
         QCOMPARE(

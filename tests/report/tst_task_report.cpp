@@ -2,13 +2,16 @@
 #include "platform/WindowPlacement.h"
 #include "report/PreviewWindow.h"
 #include "support/CaughtError.h"
+#include "support/PdfFile.h"
 #include "support/TestMain.h"
 #include "support/TestServices.h"
 #include "tests/report/ReportSamples.h"
 
 #include <QLibrary>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTemporaryDir>
+#include <QTest>
 
 using namespace std::chrono_literals;
 

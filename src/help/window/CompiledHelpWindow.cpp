@@ -2,7 +2,9 @@
 
 #include "help/window/HelpBook.h"
 #include "help/window/HelpPanes.h"
+#include "help/window/TopicPages.h"
 #include "help/window/TopicView.h"
+#include "platform/printing/WindowPrinting.h"
 
 #include <QBoxLayout>
 #include <QFileInfo>
@@ -22,10 +24,18 @@ constexpr int LargestText = 12;
 constexpr QSize FirstSize(1000, 680);
 constexpr int PaneWidth = 280;
 
+/// A title as the name of a file: what is no letter or digit becomes a blank.
+QString fileNameOf(QString title)
+{
+    std::replace_if(
+        title.begin(), title.end(), [](QChar c) { return !c.isLetterOrNumber(); }, QChar(u' '));
+    return title.simplified();
+}
+
 } // namespace
 
-CompiledHelpWindow::CompiledHelpWindow(WebPageOpener openWebPage)
-    : m_openWebPage(std::move(openWebPage)), m_tabs(new QTabWidget), m_contents(new ContentsPane),
+CompiledHelpWindow::CompiledHelpWindow(HelpHost& host, std::function<bool()> hasPrinter)
+    : m_host(host), m_hasPrinter(std::move(hasPrinter)), m_tabs(new QTabWidget), m_contents(new ContentsPane),
       m_index(new IndexPane), m_search(new SearchPane), m_topic(new TopicView)
 {
     setObjectName(QStringLiteral("HelpWindow"));
@@ -65,14 +75,16 @@ QWidget* CompiledHelpWindow::makeBar()
     m_back = add("btnBack", tr("&Back"), Qt::ALT | Qt::Key_Left);
     m_forward = add("btnForward", tr("&Forward"), Qt::ALT | Qt::Key_Right);
     m_home = add("btnHome", tr("&Home"), Qt::ALT | Qt::Key_Home);
+    m_print = add("btnPrint", tr("&Print..."), QKeySequence::Print);
     layout->addStretch();
     m_smaller = add("btnSmaller", tr("&Smaller text"), Qt::CTRL | Qt::Key_Minus);
-    m_larger = add("btnLarger", tr("&Larger text"), Qt::CTRL | Qt::Key_Plus);
+    m_larger = add("btnLarger", tr("La&rger text"), Qt::CTRL | Qt::Key_Plus);
     m_back->setEnabled(false);
     m_forward->setEnabled(false);
     connect(m_back, &QPushButton::clicked, m_topic, &QTextBrowser::backward);
     connect(m_forward, &QPushButton::clicked, m_topic, &QTextBrowser::forward);
     connect(m_home, &QPushButton::clicked, this, &CompiledHelpWindow::openHome);
+    connect(m_print, &QPushButton::clicked, this, &CompiledHelpWindow::btnPrint_Click);
     connect(m_smaller, &QPushButton::clicked, this, [this] { setTextSize(m_topic->textSize() - 1); });
     connect(m_larger, &QPushButton::clicked, this, [this] { setTextSize(m_topic->textSize() + 1); });
     connect(m_topic, &QTextBrowser::backwardAvailable, m_back, &QWidget::setEnabled);
@@ -97,11 +109,8 @@ void CompiledHelpWindow::connectPanes()
     connect(m_contents, &ContentsPane::topicChosen, this, open);
     connect(m_index, &IndexPane::topicChosen, this, open);
     connect(m_search, &SearchPane::hitChosen, m_topic, &TopicView::openTopic);
-    connect(m_topic, &TopicView::webPageRequested, this, [this](const QString& address) {
-        if (m_openWebPage) {
-            m_openWebPage(address);
-        }
-    });
+    connect(m_topic, &TopicView::webPageRequested, this,
+        [this](const QString& address) { m_host.openWebPage(address); });
     connect(m_topic, &QTextBrowser::sourceChanged, this, [this] { m_contents->select(m_topic->topic()); });
 }
 
@@ -113,6 +122,7 @@ void CompiledHelpWindow::addKeys()
     onKey(Qt::ALT | Qt::Key_Left, [this] { m_back->click(); });
     onKey(Qt::ALT | Qt::Key_Right, [this] { m_forward->click(); });
     onKey(Qt::ALT | Qt::Key_Home, [this] { m_home->click(); });
+    onKey(QKeySequence::Print, [this] { m_print->click(); });
     onKey(Qt::CTRL | Qt::Key_Plus, [this] { m_larger->click(); });
     onKey(Qt::CTRL | Qt::Key_Equal, [this] { m_larger->click(); });
     onKey(Qt::CTRL | Qt::Key_Minus, [this] { m_smaller->click(); });
@@ -155,6 +165,7 @@ void CompiledHelpWindow::load()
     const bool readable = m_book != nullptr;
     m_tabs->setVisible(readable);
     m_home->setEnabled(readable);
+    m_print->setEnabled(readable);
     setWindowTitle(readable && !m_book->title().isEmpty() ? m_book->title() : tr("Ambertask Help"));
     if (readable) {
         openHome();
@@ -230,4 +241,40 @@ void CompiledHelpWindow::showContext(qint32 context)
         }
     }
     m_topic->setFocus();
+}
+
+void CompiledHelpWindow::btnPrint_Click()
+{
+    if (!m_hasPrinter()) {
+        if (m_host.ask(this,
+                tr("No printer is set up on this computer. Do you want to write this topic to a PDF file "
+                   "instead?"))) {
+            writeTopicPdf();
+        }
+        return;
+    }
+    const QPageLayout page = usualPage();
+    const PrintRequest request{m_topic->documentTitle(), page,
+        TopicPages(*m_topic->document(), printableArea(page)).pageCount(), 0, [this](QSizeF area) {
+            return std::make_shared<TopicPages>(*m_topic->document(), area);
+        }};
+    if (printThroughDialog(*this, request) == Outcome::Failed) {
+        m_host.tellFailure(this, tr("The topic could not be printed."));
+    }
+}
+
+void CompiledHelpWindow::writeTopicPdf()
+{
+    const QString title = m_topic->documentTitle();
+    const QString file = m_host.choosePdfFile(this, fileNameOf(title) + QStringLiteral(".pdf"));
+    if (file.isEmpty()) {
+        return;
+    }
+    const QPageLayout page = usualPage();
+    const TopicPages pages(*m_topic->document(), printableArea(page));
+    const PdfOutcome result = writePdfFrom(*this, pages, page, title, file);
+    if (result.outcome == Outcome::Failed) {
+        m_host.tellFailure(
+            this, tr("The topic could not be written to \"%1\": %2.").arg(file, result.failure));
+    }
 }

@@ -19,7 +19,9 @@ class CompiledHelpWindow final : public HelpWindow
     Q_OBJECT
 
 public:
-    explicit CompiledHelpWindow(WebPageOpener openWebPage);
+    /// `host` outlives the window. `hasPrinter` answers whether there is a printer to print on; it is asked
+    /// by the first print.
+    CompiledHelpWindow(HelpHost& host, std::function<bool()> hasPrinter);
     ~CompiledHelpWindow() override;
 
     void setFile(const QString& file) override;
@@ -39,8 +41,11 @@ private:
     void openFirstIfNone();
     void sayMissing();
     void setTextSize(int steps);
+    void btnPrint_Click();
+    void writeTopicPdf();
 
-    WebPageOpener m_openWebPage;
+    HelpHost& m_host;
+    std::function<bool()> m_hasPrinter;
     QString m_file;
     QDateTime m_written;
     std::unique_ptr<HelpBook> m_book;
@@ -52,6 +57,7 @@ private:
     QPushButton* m_back = nullptr;
     QPushButton* m_forward = nullptr;
     QPushButton* m_home = nullptr;
+    QPushButton* m_print = nullptr;
     QPushButton* m_smaller = nullptr;
     QPushButton* m_larger = nullptr;
 };

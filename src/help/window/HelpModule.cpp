@@ -1,6 +1,7 @@
 #include "help/window/CompiledHelpWindow.h"
+#include "platform/printing/WindowPrinting.h"
 
-extern "C" Q_DECL_EXPORT HelpWindow* ambertaskMakeHelpWindow(const WebPageOpener& openWebPage)
+extern "C" Q_DECL_EXPORT HelpWindow* ambertaskMakeHelpWindow(HelpHost& host)
 {
-    return new CompiledHelpWindow(openWebPage);
+    return new CompiledHelpWindow(host, hasPrinter);
 }

@@ -8,6 +8,13 @@
 #include <QScrollBar>
 #include <QTextBlock>
 
+QImage noPicture()
+{
+    QImage point(1, 1, QImage::Format_ARGB32_Premultiplied);
+    point.fill(Qt::transparent);
+    return point;
+}
+
 namespace
 {
 
@@ -28,16 +35,17 @@ QUrl urlOf(const QString& topic)
     return url;
 }
 
-QVariant picture(const QByteArray& bytes)
+QImage picture(const QByteArray& bytes)
 {
     QBuffer buffer;
     buffer.setData(bytes);
     QImageReader reader(&buffer);
     const QSize size = reader.size();
     if (!size.isValid() || size.width() > LargestPictureSide || size.height() > LargestPictureSide) {
-        return {};
+        return noPicture();
     }
-    return reader.read();
+    const QImage read = reader.read();
+    return read.isNull() ? noPicture() : read;
 }
 
 QString messagePage(const QString& title, const QString& text)
@@ -123,7 +131,7 @@ QVariant TopicView::loadResource(int type, const QUrl& name)
                      : messagePage(tr("This page cannot be shown"),
                          tr("The help file has no readable page \"%1\".").arg(url.path()));
     case QTextDocument::ImageResource:
-        return bytes ? picture(*bytes) : QVariant();
+        return bytes ? picture(*bytes) : noPicture();
     case QTextDocument::StyleSheetResource:
         return bytes ? htmlText(*bytes) : QString();
     default:

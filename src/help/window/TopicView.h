@@ -1,9 +1,14 @@
 #pragma once
 
+#include <QImage>
 #include <QStringList>
 #include <QTextBrowser>
 
 class HelpBook;
+
+/// What stands for a picture that the help file does not hold: a transparent point. For a null picture the
+/// toolkit would read the file of that name on the disk.
+QImage noPicture();
 
 /// Shows topics of a help file. Pictures and style sheets come from the file alone, never from the disk or
 /// the net.

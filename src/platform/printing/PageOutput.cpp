@@ -1,5 +1,6 @@
-#include "report/ReportOutput.h"
+#include "platform/printing/PageOutput.h"
 
+#include <QLocale>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPrinter>
@@ -7,35 +8,54 @@
 #include <algorithm>
 #include <numeric>
 
+namespace
+{
+
+constexpr qreal MarginMillimetres = 15;
+
+} // namespace
+
+QPageLayout usualPage()
+{
+    const bool isImperial = QLocale().measurementSystem() == QLocale::ImperialUSSystem;
+    return {QPageSize(isImperial ? QPageSize::Letter : QPageSize::A4), QPageLayout::Portrait,
+        QMarginsF(MarginMillimetres, MarginMillimetres, MarginMillimetres, MarginMillimetres),
+        QPageLayout::Millimeter};
+}
+
 QSizeF printableArea(const QPageLayout& page)
 {
     return QSizeF(page.paintRectPixels(UnitsPerInch).size());
 }
 
-void paintReportPage(QPainter& painter, const ReportLayout& layout, int page)
+void paintPage(QPainter& painter, const PrintedPages& pages, int page)
 {
     painter.save();
     painter.scale(painter.device()->logicalDpiX() / qreal(UnitsPerInch),
         painter.device()->logicalDpiY() / qreal(UnitsPerInch));
-    layout.paintPage(painter, page);
+    pages.paintPage(painter, page);
     painter.restore();
 }
 
-bool paintReportPages(QPagedPaintDevice& device, const ReportLayout& layout, const std::vector<int>& pages)
+Outcome paintPages(QPagedPaintDevice& device, const PrintedPages& pages, const std::vector<int>& order,
+    const PageDone& pageDone)
 {
     QPainter painter;
     if (!painter.begin(&device)) {
-        return false;
+        return Outcome::Failed;
     }
     bool first = true;
-    for (const int page : pages) {
+    for (const int page : order) {
         if (!first && !device.newPage()) {
-            return false;
+            return Outcome::Failed;
         }
         first = false;
-        paintReportPage(painter, layout, page);
+        paintPage(painter, pages, page);
+        if (pageDone && !pageDone()) {
+            return Outcome::Cancelled;
+        }
     }
-    return painter.end();
+    return painter.end() ? Outcome::Done : Outcome::Failed;
 }
 
 std::vector<int> chosenPages(const QPrinter& printer, int pageCount, int currentPage)
@@ -56,30 +76,30 @@ std::vector<int> chosenPages(const QPrinter& printer, int pageCount, int current
     return pages;
 }
 
-std::optional<QString> exportReportPdf(
-    const ReportLayout& layout, const QPageLayout& page, const QString& title, const QString& file)
+PdfOutcome writePdf(const PrintedPages& pages, const QPageLayout& page, const QString& title,
+    const QString& file, const PageDone& pageDone)
 {
     // Writes beside the target; commit flushes to the disk and renames, and anything else leaves no trace.
     QSaveFile target(file);
     if (!target.open(QIODevice::WriteOnly)) {
-        return target.errorString();
+        return {Outcome::Failed, target.errorString()};
     }
-    bool painted = false;
+    Outcome outcome = Outcome::Failed;
     {
         QPdfWriter writer(&target);
         writer.setResolution(UnitsPerInch);
         writer.setPageLayout(page);
         writer.setTitle(title);
         writer.setCreator(QStringLiteral("Ambertask"));
-        std::vector<int> pages(static_cast<std::size_t>(layout.pageCount()));
-        std::iota(pages.begin(), pages.end(), 0);
-        painted = paintReportPages(writer, layout, pages);
+        std::vector<int> order(static_cast<std::size_t>(pages.pageCount()));
+        std::iota(order.begin(), order.end(), 0);
+        outcome = paintPages(writer, pages, order, pageDone);
     }
-    if (!painted) {
-        target.cancelWriting();
+    if (outcome == Outcome::Cancelled) {
+        return {outcome, {}};
     }
-    if (!target.commit()) {
-        return target.errorString();
+    if (outcome == Outcome::Failed || !target.commit()) {
+        return {Outcome::Failed, target.errorString()};
     }
-    return std::nullopt;
+    return {};
 }

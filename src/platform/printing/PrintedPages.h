@@ -1,0 +1,27 @@
+#pragma once
+
+class QPainter;
+
+// All lengths on paper are in units of 1/600 inch, whatever is painted on.
+inline constexpr int UnitsPerInch = 600;
+constexpr double millimetres(double length)
+{
+    return length * UnitsPerInch / 25.4;
+}
+
+/// Pages that are laid out and wait to be painted: on paper, in a PDF file, on the screen. Black on white,
+/// whatever the program looks like.
+class PrintedPages
+{
+public:
+    PrintedPages() = default;
+    virtual ~PrintedPages() = default;
+    PrintedPages(const PrintedPages&) = delete;
+    PrintedPages& operator=(const PrintedPages&) = delete;
+
+    /// At least one.
+    virtual int pageCount() const = 0;
+    /// Paints a page, counted from 0, whose printable area begins at the painter's origin; one unit is a
+    /// length of 1.
+    virtual void paintPage(QPainter& painter, int page) const = 0;
+};

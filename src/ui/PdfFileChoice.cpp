@@ -1,0 +1,31 @@
+#include "ui/PdfFileChoice.h"
+
+#include "platform/FileDialogs.h"
+#include "platform/MessageBoxes.h"
+#include "ui/CheckerTimer.h"
+#include "ui/FormServices.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+QString choosePdfFile(const FormServices& services, QWidget* owner, const QString& name)
+{
+    const CheckerPause pause(services.checkerTimer);
+    FileDialogRequest request;
+    request.filter = QCoreApplication::translate("PdfFileChoice", "PDF Files (*.pdf)|*.pdf");
+    request.fileName = name;
+    request.initialFolder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    request.promptBeforeOverwriting = true;
+    QString file = services.fileDialogs.save(owner, request);
+    if (file.isEmpty() || !QFileInfo(file).suffix().isEmpty()) {
+        return file;
+    }
+    file += QStringLiteral(".pdf");
+    // The dialog has asked about the name without its ending.
+    const bool replaces = QFileInfo::exists(file);
+    const QString question =
+        QCoreApplication::translate("PdfFileChoice", "\"%1\" already exists. Do you want to replace it?")
+            .arg(file);
+    return !replaces || services.messages.ask(owner, question) ? file : QString();
+}
