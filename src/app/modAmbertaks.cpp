@@ -20,6 +20,7 @@
 #include "platform/TerminationSignals.h"
 #include "platform/TrayIcon.h"
 
+#include <QSessionManager>
 #include <QStyleFactory>
 
 namespace
@@ -108,6 +109,9 @@ int runAmbertask(int argc, char** argv)
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setWindowIcon(programIcon());
     QGuiApplication::setDesktopFileName(QLatin1String(DesktopEntryName));
+    // Only the entry that the settings page writes starts the program with the session.
+    QObject::connect(&application, &QGuiApplication::saveStateRequest, &application,
+        [](QSessionManager& session) { session.setRestartHint(QSessionManager::RestartNever); });
     // The program ends by "Exit" alone.
     QApplication::setQuitOnLastWindowClosed(false);
     Language language;

@@ -119,12 +119,11 @@ QString stringValue(QString text)
     return text.replace(QStringLiteral("\\"), QStringLiteral("\\\\"));
 }
 
-// The Exec key of that format: an argument in double quotes in which four characters are escaped, "%" is
-// doubled, and the whole is a string value.
-QString execValue(const QString& path)
+// An argument of the Exec key of that format: in double quotes, four characters escaped, "%" doubled.
+QString execArgument(const QString& text)
 {
     QString quoted;
-    for (const QChar c : path) {
+    for (const QChar c : text) {
         if (c == u'"' || c == u'`' || c == u'$' || c == u'\\') {
             quoted += u'\\';
         }
@@ -133,7 +132,17 @@ QString execValue(const QString& path)
             quoted += c;
         }
     }
-    return stringValue(u'"' + quoted + u'"');
+    return u'"' + quoted + u'"';
+}
+
+QString execValue(const QString& path)
+{
+    QString command = execArgument(path);
+    // The first word may hold no "=", and common readers look for the program before they take "%%" for "%".
+    if (path.contains(u'=') || path.contains(u'%')) {
+        command.prepend(QStringLiteral("/bin/sh -c ") + execArgument(QStringLiteral("exec \"$0\"")) + u' ');
+    }
+    return stringValue(command);
 }
 
 class AutostartRegistry final : public Registry

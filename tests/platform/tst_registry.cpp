@@ -104,8 +104,11 @@ void TestRegistry::specialCharactersOfThePathAreEscaped_data()
     QTest::addColumn<QByteArray>("tryExec");
     QTest::newRow("blank") << QStringLiteral("/a b") << QByteArray("\"/a b/Ambertask\"")
                            << QByteArray("/a b/Ambertask");
-    QTest::newRow("percent") << QStringLiteral("/100%") << QByteArray("\"/100%%/Ambertask\"")
+    const QByteArray bySecondWord("/bin/sh -c \"exec \\\\\"\\\\$0\\\\\"\" ");
+    QTest::newRow("percent") << QStringLiteral("/100%") << bySecondWord + "\"/100%%/Ambertask\""
                              << QByteArray("/100%/Ambertask");
+    QTest::newRow("equal") << QStringLiteral("/a=b") << bySecondWord + "\"/a=b/Ambertask\""
+                           << QByteArray("/a=b/Ambertask");
     QTest::newRow("dollar") << QStringLiteral("/$x") << QByteArray("\"/\\\\$x/Ambertask\"")
                             << QByteArray("/$x/Ambertask");
     QTest::newRow("quote") << QStringLiteral("/a\"b") << QByteArray("\"/a\\\\\"b/Ambertask\"")
