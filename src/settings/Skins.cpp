@@ -8,6 +8,7 @@
 #include <QDirIterator>
 #include <QEvent>
 #include <QFileInfo>
+#include <QScopedValueRollback>
 #include <QWidget>
 #include <QWindow>
 
@@ -49,6 +50,10 @@ SkinEngine& Skins::engine()
 
 bool Skins::wear(const QString& name)
 {
+    // A list without skins names none.
+    if (name.isEmpty()) {
+        return false;
+    }
     const QString file = fileOf(name);
     const QString fileName = QFileInfo(file).fileName();
     try {
@@ -110,6 +115,11 @@ bool Skins::eventFilter(QObject* watched, QEvent* event)
 
 void Skins::reportPending()
 {
+    // The window is painted again under an open report.
+    if (m_reporting) {
+        return;
+    }
+    const QScopedValueRollback guard(m_reporting, true);
     while (!m_pending.isEmpty()) {
         m_messages.tell(m_window, MessageBoxes::Icon::Exclamation, m_pending.takeFirst());
     }

@@ -25,7 +25,7 @@ public:
     /// Pending messages other than user input run between the files.
     QStringList names() const;
     /// Loads and applies the skin of that name. False when it cannot be: the look stays as it was, and the
-    /// user is told once, by file name, when the window of `reportOn` is on the screen.
+    /// user is told once, by file name, when the window of `reportOn` is on the screen. No name is no fault.
     bool wear(const QString& name);
     /// Copies a skin file into the folder, over a file of that name. Throws RuntimeError for a file that is
     /// no skin.
@@ -47,4 +47,5 @@ private:
     QPointer<QWidget> m_window;
     QStringList m_pending;
     QStringList m_reported;
+    bool m_reporting = false;
 };

@@ -41,6 +41,27 @@ struct SkinsUnderTest {
 namespace
 {
 
+/// Message boxes under which the window below is painted again, as real ones are moved over it.
+class PaintingBoxes final : public MessageBoxes
+{
+public:
+    void tell(QWidget* owner, Icon /*icon*/, const QString& /*text*/) override
+    {
+        mostOpen = std::max(mostOpen, ++m_open);
+        owner->repaint();
+        QCoreApplication::processEvents();
+        --m_open;
+        ++told;
+    }
+    bool ask(QWidget* /*owner*/, const QString& /*question*/) override { return false; }
+
+    int told = 0;
+    int mostOpen = 0;
+
+private:
+    int m_open = 0;
+};
+
 const QString BadSkin = QStringLiteral("Bad.skf, line 1: the file does not begin with a comment block");
 
 } // namespace
@@ -59,6 +80,8 @@ private slots:
     void aSkinThatWorkedAgainIsReportedAgain();
     void aFaultBeforeThereIsAWindowWaitsForIt();
     void twoFaultsAreReportedOneAfterTheOther();
+    void noReportOpensOverAnother();
+    void noNameIsNoFault();
     void addedFilesAreReadableByOthers();
     void addingRefusesAPathThatIsNoFile();
 };
@@ -172,6 +195,31 @@ void TestSkins::twoFaultsAreReportedOneAfterTheOther()
     test.expectReport(BadSkin);
     test.expectReport(QStringLiteral("Gone.skf: the file does not exist"));
     test.window.show();
+    QVERIFY(test.allReported());
+}
+
+void TestSkins::noReportOpensOverAnother()
+{
+    PaintingBoxes boxes;
+    const QTemporaryDir folder;
+    QWidget window;
+    Skins skins(folder.path(), boxes);
+    skins.reportOn(&window);
+    skins.wear(QStringLiteral("Gone"));
+    skins.wear(QStringLiteral("Away"));
+    window.show();
+    QVERIFY(QTest::qWaitFor([&] { return boxes.told == 2; }));
+    QCOMPARE(boxes.mostOpen, 1);
+}
+
+void TestSkins::noNameIsNoFault()
+{
+    SkinsUnderTest test;
+    test.window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&test.window));
+    QVERIFY(!test.skins.wear({}));
+    test.expectReport(BadSkin);
+    test.skins.wear(QStringLiteral("Bad"));
     QVERIFY(test.allReported());
 }
 
