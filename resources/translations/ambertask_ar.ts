@@ -97,10 +97,6 @@
         <translation>نص أص&amp;غر</translation>
     </message>
     <message>
-        <source>&amp;Larger text</source>
-        <translation>نص أ&amp;كبر</translation>
-    </message>
-    <message>
         <source>&amp;Contents</source>
         <translation>ال&amp;محتويات</translation>
     </message>
@@ -131,6 +127,26 @@
     <message>
         <source>The help file has no topic number %1.</source>
         <translation>لا يحتوي ملف المساعدة على الموضوع رقم %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>&amp;طباعة…</translation>
+    </message>
+    <message>
+        <source>La&amp;rger text</source>
+        <translation>نص أ&amp;كبر</translation>
+    </message>
+    <message>
+        <source>No printer is set up on this computer. Do you want to write this topic to a PDF file instead?</source>
+        <translation>لا توجد طابعة مُعدّة على هذا الحاسوب. هل تريد كتابة هذا الموضوع في ملف PDF بدلًا من ذلك؟</translation>
+    </message>
+    <message>
+        <source>The topic could not be printed.</source>
+        <translation>تعذّرت طباعة الموضوع.</translation>
+    </message>
+    <message>
+        <source>The topic could not be written to &quot;%1&quot;: %2.</source>
+        <translation>تعذّرت كتابة الموضوع في «%1»: %2.</translation>
     </message>
 </context>
 <context>
@@ -365,6 +381,17 @@
     </message>
 </context>
 <context>
+    <name>PdfFileChoice</name>
+    <message>
+        <source>PDF Files (*.pdf)|*.pdf</source>
+        <translation>ملفات PDF (*.pdf)|*.pdf</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; already exists. Do you want to replace it?</source>
+        <translation>«%1» موجود بالفعل. هل تريد استبداله؟</translation>
+    </message>
+</context>
+<context>
     <name>PictureFile</name>
     <message>
         <source>it is neither a GIF nor a JPEG nor a PNG picture.</source>
@@ -487,6 +514,24 @@
     </message>
 </context>
 <context>
+    <name>Printing</name>
+    <message>
+        <source>Printing...</source>
+        <translation>جارٍ الطباعة…</translation>
+    </message>
+    <message>
+        <source>Writing the PDF file...</source>
+        <translation>جارٍ كتابة ملف PDF…</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressBox</name>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>إل&amp;غاء</translation>
+    </message>
+</context>
+<context>
     <name>RecordSet</name>
     <message>
         <source>The value of column &quot;%1&quot; is no whole number.</source>
@@ -547,7 +592,7 @@
 <context>
     <name>SearchPane</name>
     <message>
-        <source>&amp;List topics</source>
+        <source>List &amp;topics</source>
         <translation>&amp;عرض المواضيع</translation>
     </message>
     <message>
@@ -938,7 +983,7 @@
     </message>
     <message>
         <source>reminder</source>
-        <translation>التذكير</translation>
+        <translation>تذكير</translation>
     </message>
     <message>
         <source>Reminder on</source>
@@ -1141,14 +1186,6 @@
     <message>
         <source>The report cannot be shown: the module &quot;ambertask_report&quot; is missing from the program&apos;s folder or damaged.</source>
         <translation>تعذّر عرض التقرير: الوحدة «ambertask_report» مفقودة من مجلد البرنامج أو تالفة.</translation>
-    </message>
-    <message>
-        <source>PDF Files (*.pdf)|*.pdf</source>
-        <translation>ملفات PDF (*.pdf)|*.pdf</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; already exists. Do you want to replace it?</source>
-        <translation>«%1» موجود بالفعل. هل تريد استبداله؟</translation>
     </message>
 </context>
 <context>

@@ -97,10 +97,6 @@
         <translation>&amp;Kleinere Schrift</translation>
     </message>
     <message>
-        <source>&amp;Larger text</source>
-        <translation>&amp;Größere Schrift</translation>
-    </message>
-    <message>
         <source>&amp;Contents</source>
         <translation>&amp;Inhalt</translation>
     </message>
@@ -131,6 +127,26 @@
     <message>
         <source>The help file has no topic number %1.</source>
         <translation>Die Hilfedatei enthält kein Thema mit der Nummer %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>&amp;Drucken…</translation>
+    </message>
+    <message>
+        <source>La&amp;rger text</source>
+        <translation>&amp;Größere Schrift</translation>
+    </message>
+    <message>
+        <source>No printer is set up on this computer. Do you want to write this topic to a PDF file instead?</source>
+        <translation>Auf diesem Computer ist kein Drucker eingerichtet. Möchten Sie dieses Thema stattdessen in eine PDF-Datei schreiben?</translation>
+    </message>
+    <message>
+        <source>The topic could not be printed.</source>
+        <translation>Das Thema konnte nicht gedruckt werden.</translation>
+    </message>
+    <message>
+        <source>The topic could not be written to &quot;%1&quot;: %2.</source>
+        <translation>Das Thema konnte nicht in „%1“ geschrieben werden: %2.</translation>
     </message>
 </context>
 <context>
@@ -361,6 +377,17 @@
     </message>
 </context>
 <context>
+    <name>PdfFileChoice</name>
+    <message>
+        <source>PDF Files (*.pdf)|*.pdf</source>
+        <translation>PDF-Dateien (*.pdf)|*.pdf</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; already exists. Do you want to replace it?</source>
+        <translation>„%1“ ist bereits vorhanden. Möchten Sie die Datei ersetzen?</translation>
+    </message>
+</context>
+<context>
     <name>PictureFile</name>
     <message>
         <source>it is neither a GIF nor a JPEG nor a PNG picture.</source>
@@ -483,6 +510,24 @@
     </message>
 </context>
 <context>
+    <name>Printing</name>
+    <message>
+        <source>Printing...</source>
+        <translation>Drucken…</translation>
+    </message>
+    <message>
+        <source>Writing the PDF file...</source>
+        <translation>PDF-Datei wird geschrieben…</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressBox</name>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+</context>
+<context>
     <name>RecordSet</name>
     <message>
         <source>The value of column &quot;%1&quot; is no whole number.</source>
@@ -543,7 +588,7 @@
 <context>
     <name>SearchPane</name>
     <message>
-        <source>&amp;List topics</source>
+        <source>List &amp;topics</source>
         <translation>The&amp;men auflisten</translation>
     </message>
     <message>
@@ -930,7 +975,7 @@ ein Fehler auf: %3.</translation>
     </message>
     <message>
         <source>reminder</source>
-        <translation>Erinnerung</translation>
+        <translation>Alarm</translation>
     </message>
     <message>
         <source>Reminder on</source>
@@ -1133,14 +1178,6 @@ ein Fehler auf: %3.</translation>
     <message>
         <source>The report cannot be shown: the module &quot;ambertask_report&quot; is missing from the program&apos;s folder or damaged.</source>
         <translation>Der Bericht kann nicht angezeigt werden: Das Modul „ambertask_report“ fehlt im Programmordner oder ist beschädigt.</translation>
-    </message>
-    <message>
-        <source>PDF Files (*.pdf)|*.pdf</source>
-        <translation>PDF-Dateien (*.pdf)|*.pdf</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; already exists. Do you want to replace it?</source>
-        <translation>„%1“ ist bereits vorhanden. Möchten Sie die Datei ersetzen?</translation>
     </message>
 </context>
 <context>

@@ -97,10 +97,6 @@
         <translation>Texto más &amp;pequeño</translation>
     </message>
     <message>
-        <source>&amp;Larger text</source>
-        <translation>Texto más &amp;grande</translation>
-    </message>
-    <message>
         <source>&amp;Contents</source>
         <translation>&amp;Contenido</translation>
     </message>
@@ -131,6 +127,26 @@
     <message>
         <source>The help file has no topic number %1.</source>
         <translation>El archivo de ayuda no contiene el tema número %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>I&amp;mprimir…</translation>
+    </message>
+    <message>
+        <source>La&amp;rger text</source>
+        <translation>Texto más &amp;grande</translation>
+    </message>
+    <message>
+        <source>No printer is set up on this computer. Do you want to write this topic to a PDF file instead?</source>
+        <translation>No hay ninguna impresora configurada en este equipo. ¿Desea guardar este tema en un archivo PDF?</translation>
+    </message>
+    <message>
+        <source>The topic could not be printed.</source>
+        <translation>No se pudo imprimir el tema.</translation>
+    </message>
+    <message>
+        <source>The topic could not be written to &quot;%1&quot;: %2.</source>
+        <translation>No se pudo escribir el tema en «%1»: %2.</translation>
     </message>
 </context>
 <context>
@@ -361,6 +377,17 @@
     </message>
 </context>
 <context>
+    <name>PdfFileChoice</name>
+    <message>
+        <source>PDF Files (*.pdf)|*.pdf</source>
+        <translation>Archivos PDF (*.pdf)|*.pdf</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; already exists. Do you want to replace it?</source>
+        <translation>«%1» ya existe. ¿Desea reemplazarlo?</translation>
+    </message>
+</context>
+<context>
     <name>PictureFile</name>
     <message>
         <source>it is neither a GIF nor a JPEG nor a PNG picture.</source>
@@ -483,6 +510,24 @@
     </message>
 </context>
 <context>
+    <name>Printing</name>
+    <message>
+        <source>Printing...</source>
+        <translation>Imprimiendo…</translation>
+    </message>
+    <message>
+        <source>Writing the PDF file...</source>
+        <translation>Escribiendo el archivo PDF…</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressBox</name>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+</context>
+<context>
     <name>RecordSet</name>
     <message>
         <source>The value of column &quot;%1&quot; is no whole number.</source>
@@ -543,7 +588,7 @@
 <context>
     <name>SearchPane</name>
     <message>
-        <source>&amp;List topics</source>
+        <source>List &amp;topics</source>
         <translation>&amp;Listar temas</translation>
     </message>
     <message>
@@ -930,7 +975,7 @@
     </message>
     <message>
         <source>reminder</source>
-        <translation>Recordatorio</translation>
+        <translation>Aviso</translation>
     </message>
     <message>
         <source>Reminder on</source>
@@ -1133,14 +1178,6 @@
     <message>
         <source>The report cannot be shown: the module &quot;ambertask_report&quot; is missing from the program&apos;s folder or damaged.</source>
         <translation>No se puede mostrar el informe: el módulo «ambertask_report» falta en la carpeta del programa o está dañado.</translation>
-    </message>
-    <message>
-        <source>PDF Files (*.pdf)|*.pdf</source>
-        <translation>Archivos PDF (*.pdf)|*.pdf</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; already exists. Do you want to replace it?</source>
-        <translation>«%1» ya existe. ¿Desea reemplazarlo?</translation>
     </message>
 </context>
 <context>

@@ -97,10 +97,6 @@
         <translation>Te&amp;xte plus petit</translation>
     </message>
     <message>
-        <source>&amp;Larger text</source>
-        <translation>Texte plus &amp;grand</translation>
-    </message>
-    <message>
         <source>&amp;Contents</source>
         <translation>&amp;Sommaire</translation>
     </message>
@@ -131,6 +127,26 @@
     <message>
         <source>The help file has no topic number %1.</source>
         <translation>Le fichier d’aide ne contient pas de rubrique numéro %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>&amp;Imprimer…</translation>
+    </message>
+    <message>
+        <source>La&amp;rger text</source>
+        <translation>Texte plus &amp;grand</translation>
+    </message>
+    <message>
+        <source>No printer is set up on this computer. Do you want to write this topic to a PDF file instead?</source>
+        <translation>Aucune imprimante n’est configurée sur cet ordinateur. Voulez-vous plutôt écrire cette rubrique dans un fichier PDF&#x202f;?</translation>
+    </message>
+    <message>
+        <source>The topic could not be printed.</source>
+        <translation>La rubrique n’a pas pu être imprimée.</translation>
+    </message>
+    <message>
+        <source>The topic could not be written to &quot;%1&quot;: %2.</source>
+        <translation>La rubrique n’a pas pu être écrite dans «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
 </context>
 <context>
@@ -361,6 +377,17 @@
     </message>
 </context>
 <context>
+    <name>PdfFileChoice</name>
+    <message>
+        <source>PDF Files (*.pdf)|*.pdf</source>
+        <translation>Fichiers PDF (*.pdf)|*.pdf</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; already exists. Do you want to replace it?</source>
+        <translation>«&#xa0;%1&#xa0;» existe déjà. Voulez-vous le remplacer&#x202f;?</translation>
+    </message>
+</context>
+<context>
     <name>PictureFile</name>
     <message>
         <source>it is neither a GIF nor a JPEG nor a PNG picture.</source>
@@ -483,6 +510,24 @@
     </message>
 </context>
 <context>
+    <name>Printing</name>
+    <message>
+        <source>Printing...</source>
+        <translation>Impression…</translation>
+    </message>
+    <message>
+        <source>Writing the PDF file...</source>
+        <translation>Écriture du fichier PDF…</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressBox</name>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>A&amp;nnuler</translation>
+    </message>
+</context>
+<context>
     <name>RecordSet</name>
     <message>
         <source>The value of column &quot;%1&quot; is no whole number.</source>
@@ -543,7 +588,7 @@
 <context>
     <name>SearchPane</name>
     <message>
-        <source>&amp;List topics</source>
+        <source>List &amp;topics</source>
         <translation>&amp;Lister les rubriques</translation>
     </message>
     <message>
@@ -1133,14 +1178,6 @@
     <message>
         <source>The report cannot be shown: the module &quot;ambertask_report&quot; is missing from the program&apos;s folder or damaged.</source>
         <translation>Le rapport ne peut pas être affiché&#xa0;: le module «&#xa0;ambertask_report&#xa0;» est absent du dossier du programme ou endommagé.</translation>
-    </message>
-    <message>
-        <source>PDF Files (*.pdf)|*.pdf</source>
-        <translation>Fichiers PDF (*.pdf)|*.pdf</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; already exists. Do you want to replace it?</source>
-        <translation>«&#xa0;%1&#xa0;» existe déjà. Voulez-vous le remplacer&#x202f;?</translation>
     </message>
 </context>
 <context>

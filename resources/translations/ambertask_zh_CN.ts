@@ -97,10 +97,6 @@
         <translation>缩小文字(&amp;S)</translation>
     </message>
     <message>
-        <source>&amp;Larger text</source>
-        <translation>放大文字(&amp;L)</translation>
-    </message>
-    <message>
         <source>&amp;Contents</source>
         <translation>目录(&amp;C)</translation>
     </message>
@@ -131,6 +127,26 @@
     <message>
         <source>The help file has no topic number %1.</source>
         <translation>帮助文件中没有编号为 %1 的主题。</translation>
+    </message>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>打印(&amp;P)…</translation>
+    </message>
+    <message>
+        <source>La&amp;rger text</source>
+        <translation>放大文字(&amp;R)</translation>
+    </message>
+    <message>
+        <source>No printer is set up on this computer. Do you want to write this topic to a PDF file instead?</source>
+        <translation>此计算机上没有设置打印机。要将此主题写入 PDF 文件吗？</translation>
+    </message>
+    <message>
+        <source>The topic could not be printed.</source>
+        <translation>无法打印此主题。</translation>
+    </message>
+    <message>
+        <source>The topic could not be written to &quot;%1&quot;: %2.</source>
+        <translation>无法将此主题写入“%1”：%2。</translation>
     </message>
 </context>
 <context>
@@ -360,6 +376,17 @@
     </message>
 </context>
 <context>
+    <name>PdfFileChoice</name>
+    <message>
+        <source>PDF Files (*.pdf)|*.pdf</source>
+        <translation>PDF 文件 (*.pdf)|*.pdf</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; already exists. Do you want to replace it?</source>
+        <translation>“%1”已存在。要替换它吗？</translation>
+    </message>
+</context>
+<context>
     <name>PictureFile</name>
     <message>
         <source>it is neither a GIF nor a JPEG nor a PNG picture.</source>
@@ -482,6 +509,24 @@
     </message>
 </context>
 <context>
+    <name>Printing</name>
+    <message>
+        <source>Printing...</source>
+        <translation>正在打印…</translation>
+    </message>
+    <message>
+        <source>Writing the PDF file...</source>
+        <translation>正在写入 PDF 文件…</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressBox</name>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>取消(&amp;C)</translation>
+    </message>
+</context>
+<context>
     <name>RecordSet</name>
     <message>
         <source>The value of column &quot;%1&quot; is no whole number.</source>
@@ -542,8 +587,8 @@
 <context>
     <name>SearchPane</name>
     <message>
-        <source>&amp;List topics</source>
-        <translation>列出主题(&amp;L)</translation>
+        <source>List &amp;topics</source>
+        <translation>列出主题(&amp;T)</translation>
     </message>
     <message>
         <source>Words to search for</source>
@@ -1131,14 +1176,6 @@
     <message>
         <source>The report cannot be shown: the module &quot;ambertask_report&quot; is missing from the program&apos;s folder or damaged.</source>
         <translation>无法显示报表：程序文件夹中缺少模块“ambertask_report”，或该模块已损坏。</translation>
-    </message>
-    <message>
-        <source>PDF Files (*.pdf)|*.pdf</source>
-        <translation>PDF 文件 (*.pdf)|*.pdf</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; already exists. Do you want to replace it?</source>
-        <translation>“%1”已存在。要替换它吗？</translation>
     </message>
 </context>
 <context>

@@ -87,10 +87,11 @@ QWidget* TasksPage::makeFilterFrame()
     form->addRow(labelFor(m_categories, tr("Categor&y"), QStringLiteral("SCLabel1")), m_categories);
     form->addRow(labelFor(m_status, tr("Stat&us"), QStringLiteral("SCLabel2")), m_status);
     form->addRow(labelFor(m_sort, tr("S&ort by"), QStringLiteral("SCLabel3")), m_sort);
-    for (QComboBox* combo : {m_categories, m_status, m_sort}) {
-        combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-        combo->setMinimumContentsLength(18);
-    }
+    // The longest category is not to widen the page; the words of the program are to be seen whole.
+    m_categories->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_categories->setMinimumContentsLength(18);
+    keepEntriesWhole(*m_status);
+    keepEntriesWhole(*m_sort);
     return frame;
 }
 

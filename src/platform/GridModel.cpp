@@ -54,6 +54,9 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
     switch (role) {
     case Qt::DisplayRole:
         return m_columns[section].header;
+    case Qt::ToolTipRole:
+        // The whole of a caption that is too long for its column.
+        return m_columns[section].header;
     case Qt::UserRole:
         return m_columns[section].key;
     case Qt::TextAlignmentRole:

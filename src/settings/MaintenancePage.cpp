@@ -80,10 +80,10 @@ QGroupBox* MaintenancePage::makeDeleteFrame()
 {
     m_cmbCategories = named("cmbCategoriesMaintenance", new QComboBox);
     m_cmbStatus = named("cmbStatusMaintenance", new QComboBox);
-    for (QComboBox* combo : {m_cmbCategories, m_cmbStatus}) {
-        combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-        combo->setMinimumContentsLength(22);
-    }
+    // The longest category is not to widen the page; the statuses are to be seen whole.
+    m_cmbCategories->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_cmbCategories->setMinimumContentsLength(22);
+    keepEntriesWhole(*m_cmbStatus);
     m_btnDeleteTasks = named("btnDeleteTasksMaintenance", new QPushButton(tr("&Delete")));
 
     auto* frame = new QGroupBox(tr("Delete Tasks"));

@@ -1,5 +1,6 @@
 #include "tasks/TaskDetailsControls.h"
 
+#include "ui/Combos.h"
 #include "ui/Pickers.h"
 
 #include <QCheckBox>
@@ -83,6 +84,8 @@ void TaskDetailsControls::setUp()
     // The longest category is not to widen the dialog.
     cmbCategories->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     cmbCategories->setMinimumContentsLength(20);
+    keepEntriesWhole(*cmbStatus);
+    keepEntriesWhole(*cmbPeriorities);
     for (QDateEdit* picker : {dtpDueDate, dtpReminderDate}) {
         setUpDatePicker(*picker);
     }

@@ -95,6 +95,8 @@ QWidget* CompiledHelpWindow::makeBar()
 QWidget* CompiledHelpWindow::makeTabs()
 {
     m_tabs->setObjectName(QStringLiteral("tabHelp"));
+    // The pane is as wide as its tabs rather.
+    m_tabs->setUsesScrollButtons(false);
     m_tabs->addTab(m_contents, tr("&Contents"));
     m_tabs->addTab(m_index, tr("&Index"));
     m_tabs->addTab(m_search, tr("S&earch"));

@@ -173,7 +173,7 @@ void IndexPane::selectFirstThatBegins(const QString& text)
 }
 
 SearchPane::SearchPane(QWidget* parent)
-    : QWidget(parent), m_input(new QLineEdit), m_start(new QPushButton(tr("&List topics"))),
+    : QWidget(parent), m_input(new QLineEdit), m_start(new QPushButton(tr("List &topics"))),
       m_result(new QLabel), m_list(new ChoiceList)
 {
     m_input->setObjectName(QStringLiteral("txtSearch"));

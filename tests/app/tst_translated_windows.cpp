@@ -1,0 +1,384 @@
+#include "app/drTasks.h"
+#include "categories/frmCategoryDetails.h"
+#include "help/frmAbout.h"
+#include "help/window/CompiledHelpWindow.h"
+#include "platform/Language.h"
+#include "platform/MessageBoxes.h"
+#include "platform/ScreenErrorReport.h"
+#include "reminders/frmAlerts.h"
+#include "report/PreviewWindow.h"
+#include "support/TestMain.h"
+#include "tasks/frmTaskDetails.h"
+#include "tests/app/ProgramFixture.h"
+#include "tests/app/PseudoTranslator.h"
+#include "tests/app/WindowTexts.h"
+#include "tests/help/RecordedHelpHost.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QMenu>
+#include <QRadioButton>
+#include <QTabWidget>
+#include <QTimer>
+
+using namespace std::chrono_literals;
+
+namespace
+{
+
+const QString Pseudo = QStringLiteral("twice as long");
+
+/// The language of the application while it lives.
+class Speaking
+{
+public:
+    explicit Speaking(const QString& language)
+    {
+        if (language == Pseudo) {
+            QCoreApplication::installTranslator(&m_pseudo);
+        } else {
+            m_language.speak(language);
+        }
+    }
+    ~Speaking()
+    {
+        QCoreApplication::removeTranslator(&m_pseudo);
+        m_language.speak({});
+    }
+    Speaking(const Speaking&) = delete;
+    Speaking& operator=(const Speaking&) = delete;
+
+private:
+    Language m_language;
+    PseudoTranslator m_pseudo;
+};
+
+/// The program in a language, with a few tasks.
+struct TranslatedProgram {
+    explicit TranslatedProgram(const QString& language) : speaking(language)
+    {
+        const Moment now = f.database.clock().now();
+        aTask(f.database).named(QStringLiteral("1")).withPeriority(0).remindingAt(now - 1min).add();
+        aTask(f.database).named(QStringLiteral("2")).withStatus(4).withPeriority(2).add();
+        aTask(f.database).named(QStringLiteral("3")).dueAt(now - 24h).withStatus(2).add();
+        f.start();
+        f.program.loadDialogs();
+    }
+
+    Speaking speaking;
+    ProgramFixture f;
+};
+
+template <typename Window> Window* openWindow()
+{
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (auto* found = dynamic_cast<Window*>(window); found != nullptr && found->isVisible()) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+/// The texts that stand as they are in every language: names of the program, of categories and of skins.
+QStringList names()
+{
+    return {QStringLiteral("Ambertask"), QStringLiteral("Amber"), QStringLiteral("Organizer"),
+        QStringLiteral("task"), QStringLiteral("Appointments"), QStringLiteral("Personal"),
+        QStringLiteral("Shopping"), QStringLiteral("Work"), QStringLiteral("Aqua"),
+        QStringLiteral("https://www.ambertask.example")};
+}
+
+/// The texts of a window that have not come through translation.
+QStringList untranslated(QWidget& window)
+{
+    QStringList found;
+    for (const QString& text : textsOf(window)) {
+        const bool hasLetters =
+            std::any_of(text.cbegin(), text.cend(), [](QChar letter) { return letter.isLetter(); });
+        if (hasLetters && !PseudoTranslator::isPseudo(text) && !names().contains(text)) {
+            found.append(text);
+        }
+    }
+    return found;
+}
+
+QStringList doubled(QStringList texts)
+{
+    QStringList found;
+    texts.sort();
+    for (qsizetype i = 1; i < texts.size(); ++i) {
+        if (texts[i] == texts[i - 1]) {
+            found.append(texts[i]);
+        }
+    }
+    return found;
+}
+
+QStringList faultsOf(QWidget& window, const QString& language)
+{
+    // A layout that has grown makes its window grow with the next turn of the event loop.
+    QCoreApplication::sendPostedEvents();
+    QStringList faults = cutOffTexts(window);
+    if (language == Pseudo) {
+        for (const QString& text : untranslated(window)) {
+            faults.append(QStringLiteral("not translated: \"%1\"").arg(text));
+        }
+        return faults;
+    }
+    for (const QString& letter : doubled(mnemonicsOf(window))) {
+        faults.append(QStringLiteral("two mnemonics \"%1\"").arg(letter));
+    }
+    constexpr QSize SmallScreen(1024, 768);
+    if (window.width() > SmallScreen.width() || window.height() > SmallScreen.height()) {
+        faults.append(QStringLiteral("%1 x %2 is too large").arg(window.width()).arg(window.height()));
+    }
+    return faults;
+}
+
+/// Runs `open`, which shows a box, and looks at the box.
+QStringList faultsOfBox(const QString& language, const std::function<void()>& open)
+{
+    QStringList faults{QStringLiteral("no box")};
+    QTimer::singleShot(0, qApp, [&] {
+        if (QWidget* box = QApplication::activeModalWidget()) {
+            faults = faultsOf(*box, language);
+            box->close();
+        }
+    });
+    open();
+    return faults;
+}
+
+/// A report window around which there is nothing.
+struct NoHost final : ReportHost {
+    QString choosePdfFile(QWidget*) override { return {}; }
+    void tellFailure(QWidget*, const QString&) override { }
+    void windowClosed() override { }
+};
+
+} // namespace
+
+#define EXPECT_GOOD(window, language)                                                                        \
+    do {                                                                                                     \
+        const QStringList faults = faultsOf(window, language);                                               \
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));                                          \
+    } while (false)
+
+class TranslatedWindowsTest : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void theMadeUpLanguageIsTwiceAsLongAndKeepsWhatTheProgramNeeds();
+    void aTextThatIsCutOffIsFound();
+    void aTextThatIsNotTranslatedIsFound();
+    void aMnemonicThatServesTwoControlsIsFound();
+    void theDirectionOfReadingFollowsTheLanguage();
+
+    void thePagesAreGood_data() { languages(); }
+    void thePagesAreGood();
+    void theTaskDialogIsGood_data() { languages(); }
+    void theTaskDialogIsGood();
+    void theCategoryDialogIsGood_data() { languages(); }
+    void theCategoryDialogIsGood();
+    void theAlertIsGood_data() { languages(); }
+    void theAlertIsGood();
+    void theAboutBoxIsGood_data() { languages(); }
+    void theAboutBoxIsGood();
+    void theTrayMenuIsGood_data() { languages(); }
+    void theTrayMenuIsGood();
+    void boxesAreGood_data() { languages(); }
+    void boxesAreGood();
+    void theHelpIsGood_data() { languages(); }
+    void theHelpIsGood();
+    void theReportIsGood_data() { languages(); }
+    void theReportIsGood();
+
+private:
+    static void languages();
+};
+
+void TranslatedWindowsTest::languages()
+{
+    QTest::addColumn<QString>("language");
+    QTest::newRow("en") << QString();
+    for (const QString& name : Language::shipped()) {
+        QTest::newRow(qPrintable(name)) << name;
+    }
+    QTest::newRow(qPrintable(Pseudo)) << Pseudo;
+}
+
+void TranslatedWindowsTest::theMadeUpLanguageIsTwiceAsLongAndKeepsWhatTheProgramNeeds()
+{
+    const PseudoTranslator pseudo;
+    const auto say = [&pseudo](const char* text) {
+        return pseudo.translate("frmMain", text, nullptr, -1);
+    };
+    QCOMPARE(say("&Help"), QStringLiteral("[&H\u00e9\u013cp \u0124\u00e9\u013cp]"));
+    QCOMPARE(say("Page %1"), QStringLiteral("[P\u00e1\u0121\u00e9 %1 P\u00e1\u0121\u00e9 ]"));
+    QVERIFY(say("Skin Files (*.skf)|*.skf").endsWith(QLatin1String("] (*.skf)|*.skf")));
+    QVERIFY(PseudoTranslator::isPseudo(say("Help")));
+}
+
+void TranslatedWindowsTest::aTextThatIsCutOffIsFound()
+{
+    QWidget window;
+    auto* label = new QLabel(QStringLiteral("A label"), &window);
+    auto* button = new QPushButton(QStringLiteral("A button"), &window);
+    auto* option = new QRadioButton(QStringLiteral("An option"), &window);
+    auto* list = new QComboBox(&window);
+    list->addItem(QStringLiteral("An entry"));
+    const QList<QWidget*> controls{label, button, option, list};
+    for (QWidget* control : controls) {
+        control->resize(control->sizeHint());
+    }
+    QCOMPARE(cutOffTexts(window), QStringList());
+    for (QWidget* control : controls) {
+        control->resize(control->width() * 2 / 3, control->height());
+    }
+    QCOMPARE(cutOffTexts(window).size(), 4);
+}
+
+void TranslatedWindowsTest::aTextThatIsNotTranslatedIsFound()
+{
+    QWidget window;
+    auto* label = new QLabel(QStringLiteral("[L\u00e1bel]"), &window);
+    QCOMPARE(untranslated(window), QStringList());
+    label->setToolTip(QStringLiteral("Tip"));
+    label->setAccessibleName(QStringLiteral("Name"));
+    QCOMPARE(untranslated(window), QStringList({QStringLiteral("Tip"), QStringLiteral("Name")}));
+}
+
+void TranslatedWindowsTest::aMnemonicThatServesTwoControlsIsFound()
+{
+    QWidget window;
+    new QPushButton(QStringLiteral("&One"), &window);
+    new QLabel(QStringLiteral("Tw&o"), &window);
+    new QLabel(QStringLiteral("&Three"), &window);
+    QCOMPARE(doubled(mnemonicsOf(window)), QStringList{QStringLiteral("o")});
+}
+
+void TranslatedWindowsTest::theDirectionOfReadingFollowsTheLanguage()
+{
+    {
+        const Speaking arabic(QStringLiteral("ar"));
+        QCOMPARE(QGuiApplication::layoutDirection(), Qt::RightToLeft);
+    }
+    const Speaking german(QStringLiteral("de"));
+    QCOMPARE(QGuiApplication::layoutDirection(), Qt::LeftToRight);
+}
+
+void TranslatedWindowsTest::thePagesAreGood()
+{
+    QFETCH(const QString, language);
+    TranslatedProgram t(language);
+    t.f.control<QRadioButton>(t.f.main(), "opnSpecificDate")->click();
+    auto* tabs = t.f.control<QTabWidget>(t.f.main(), "tabMain");
+    for (int page = 0; page < tabs->count(); ++page) {
+        tabs->setCurrentIndex(page);
+        EXPECT_GOOD(t.f.main(), language);
+    }
+}
+
+void TranslatedWindowsTest::theTaskDialogIsGood()
+{
+    QFETCH(const QString, language);
+    TranslatedProgram t(language);
+    t.f.press(t.f.main(), "btnTaskAdd");
+    EXPECT_GOOD(t.f.program.taskDetails(), language);
+}
+
+void TranslatedWindowsTest::theCategoryDialogIsGood()
+{
+    QFETCH(const QString, language);
+    TranslatedProgram t(language);
+    t.f.press(t.f.main(), "btnAddCat");
+    EXPECT_GOOD(t.f.program.categoryDetails(), language);
+}
+
+void TranslatedWindowsTest::theAlertIsGood()
+{
+    QFETCH(const QString, language);
+    TranslatedProgram t(language);
+    QVERIFY(t.f.program.alerts().isVisible());
+    EXPECT_GOOD(t.f.program.alerts(), language);
+}
+
+void TranslatedWindowsTest::theAboutBoxIsGood()
+{
+    QFETCH(const QString, language);
+    TranslatedProgram t(language);
+    t.f.menu("mnuAbout")->trigger();
+    auto* about = openWindow<frmAbout>();
+    QVERIFY(about != nullptr);
+    EXPECT_GOOD(*about, language);
+}
+
+void TranslatedWindowsTest::theTrayMenuIsGood()
+{
+    QFETCH(const QString, language);
+    TranslatedProgram t(language);
+    auto* menu = t.f.main().findChild<QMenu*>(QStringLiteral("mnuTray"));
+    menu->popup(QPoint(10, 10));
+    EXPECT_GOOD(*menu, language);
+    menu->close();
+}
+
+void TranslatedWindowsTest::boxesAreGood()
+{
+    QFETCH(const QString, language);
+    const Speaking speaking(language);
+    ScreenMessageBoxes boxes;
+    ScreenErrorReport errors([] {});
+    const QString text = QStringLiteral("[1]");
+    QCOMPARE(faultsOfBox(language, [&] { boxes.ask(nullptr, text); }), QStringList());
+    QCOMPARE(faultsOfBox(language, [&] { boxes.tell(nullptr, MessageBoxes::Icon::Information, text); }),
+        QStringList());
+    QCOMPARE(faultsOfBox(language, [&] { errors.report(text); }), QStringList());
+    QCOMPARE(faultsOfBox(language, [&] { ScreenErrorReport::reportFailedStart(text); }), QStringList());
+}
+
+void TranslatedWindowsTest::theHelpIsGood()
+{
+    QFETCH(const QString, language);
+    const Speaking speaking(language);
+    RecordedHelpHost host;
+    CompiledHelpWindow window(host, [] { return false; });
+    window.setFile(QStringLiteral(AMBERTASK_HELP_FILE));
+    window.setWindowTitle({}); // the manual's own
+    window.show();
+    window.showContents();
+    EXPECT_GOOD(window, language);
+    window.showIndex();
+    EXPECT_GOOD(window, language);
+    window.showSearch();
+    EXPECT_GOOD(window, language);
+}
+
+void TranslatedWindowsTest::theReportIsGood()
+{
+    QFETCH(const QString, language);
+    TranslatedProgram t(language);
+    NoHost host;
+    PreviewWindow window(host, [] { return false; });
+    t.f.press(t.f.main(), "btnTaskPrint");
+    QVERIFY(t.f.reportWindow != nullptr);
+    ReportContent content = t.f.reportWindow->content;
+    if (language == Pseudo) {
+        QVERIFY(PseudoTranslator::isPseudo(content.caption));
+        for (const ReportSection& section : content.sections) {
+            for (const ReportControl& label : section.controls) {
+                QVERIFY2(label.caption.isEmpty() || names().contains(label.caption)
+                        || PseudoTranslator::isPseudo(label.caption),
+                    qPrintable(label.caption));
+            }
+        }
+    }
+    window.setContent(std::move(content));
+    window.show();
+    EXPECT_GOOD(window, language);
+}
+
+AMBERTASK_TEST_MAIN(TranslatedWindowsTest)
+#include "tst_translated_windows.moc"
