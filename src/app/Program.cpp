@@ -52,11 +52,16 @@ Program::~Program() = default;
 void Program::start(const std::function<bool()>& noteFirstStart)
 {
     m_settings = SettingsStore(m_machine.engine).read();
-    m_skins.wear(m_settings.skin);
+    const bool isSkinLoaded = m_skins.load(m_settings.skin);
     if (noteFirstStart()) {
         writeRunEntry(m_machine.registry, m_machine.engine.programFolder);
     }
-    loadMainWindow();
+    makeMainWindow();
+    // A control that is made under a style sheet is laid out anew for every parent that it gets.
+    if (isSkinLoaded) {
+        m_skins.apply();
+    }
+    m_main->Form_Load();
     m_helpViewer.SetHelpFile(pathIn(m_machine.engine.programFolder, QStringLiteral("Ambertask1.1.chm")));
     // A program that starts hidden, or whose window is never activated, has to remind all the same. A window
     // that is about to appear comes first: mapped later, it would cover the alert.
@@ -73,7 +78,7 @@ void Program::onFirstPainted()
     }
 }
 
-void Program::loadMainWindow()
+void Program::makeMainWindow()
 {
     auto* settingsPage = new SettingsPage(m_services, m_settings, m_machine.registry, m_skins, *this);
     MainWindowPages pages;
@@ -104,8 +109,6 @@ void Program::loadMainWindow()
     connectGuarded(pages.tasks, &TasksPage::printRequested, this, &Program::printTasks, errors);
 
     connectHelp(pages);
-
-    m_main->Form_Load();
 }
 
 void Program::connectHelp(const MainWindowPages& pages)

@@ -114,8 +114,9 @@ void frmMain::Form_Load()
     m_pages.tasks->fillFilters();
     m_pages.settings->LoadSkinsList();
     m_pages.settings->LoadSettingsPage();
+    // Selecting the date option builds the list; nothing runs in between that could change it before the next
+    // step, which would build it again.
     ApplyChanges();
-    LoadTasks();
     m_pages.maintenance->prepareFilters();
     m_tabs->setCurrentIndex(TasksIndex);
     m_loaded = true;
@@ -230,7 +231,8 @@ void frmMain::syncTrayCaption()
 
 bool frmMain::event(QEvent* event)
 {
-    if (event->type() == QEvent::WindowActivate && m_loaded) {
+    // A window that becomes active before it is on the screen gets there first.
+    if (event->type() == QEvent::WindowActivate && m_painted) {
         emit activated();
     }
     return QWidget::event(event);
