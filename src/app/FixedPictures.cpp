@@ -44,6 +44,12 @@ QIcon programIcon()
     return iconOf(QStringLiteral("program"), "ambertask", sizes);
 }
 
+QIcon programWindowIcon()
+{
+    constexpr std::array sizes{16, 24, 32, 48, 64, 128};
+    return iconOf(QStringLiteral("program"), "ambertask", sizes);
+}
+
 QIcon logoIcon()
 {
     constexpr std::array sizes{24, 32, 48, 96};

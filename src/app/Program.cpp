@@ -21,6 +21,7 @@
 #include "tasks/frmTaskDetails.h"
 #include "ui/clsGuiLoader.h"
 
+#include <QApplication>
 #include <QTimer>
 #include <utility>
 
@@ -97,7 +98,7 @@ void Program::makeMainWindow()
 
     ErrorReport& errors = m_machine.errors;
     connect(m_main.get(), &frmMain::firstPainted, this, &Program::onFirstPainted, Qt::QueuedConnection);
-    connect(m_main.get(), &frmMain::activated, this, &Program::loadDialogs);
+    connect(m_main.get(), &frmMain::activated, this, &Program::loadDialogs, Qt::QueuedConnection);
     connect(m_main.get(), &frmMain::exitRequested, this, &Program::end);
     connectGuarded(
         pages.categories, &CategoriesPage::categoriesChanged, this, &Program::onCategoriesChanged, errors);
@@ -134,6 +135,8 @@ void Program::loadDialogs()
     if (std::exchange(m_dialogsLoaded, true)) {
         return;
     }
+    // Now that the main window is on the screen: the pictures of a window's icon are many, and large.
+    QApplication::setWindowIcon(programWindowIcon());
     // The alert window has to be there even when a dialog cannot be loaded: without it nothing reminds.
     m_machine.errors.guard([this] { taskDetails(); });
     m_machine.errors.guard([this] { categoryDetails(); });

@@ -36,7 +36,6 @@ frmMain::frmMain(
 {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QStringLiteral("Ambertask"));
-    setWindowIcon(programIcon());
     m_tabs->setObjectName(QStringLiteral("tabMain"));
     m_tabs->addTab(m_pages.tasks, tr("Tasks"));
     m_tabs->addTab(m_pages.categories, tr("Categories"));
@@ -124,7 +123,7 @@ void frmMain::Form_Load()
     if (m_ending) {
         return;
     }
-    m_trayIcon.add(windowIcon(), tr("Ambertaks"), m_trayMenu);
+    m_trayIcon.add(programIcon(), tr("Ambertaks"), m_trayMenu);
     if (!m_settings.minimize_on_start) {
         if (m_settings.always_on_top) {
             makeTopmost(this);
