@@ -1,9 +1,10 @@
 #include "categories/CategoryList.h"
 
+#include "platform/PlainToolTip.h"
+
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QStyledItemDelegate>
-#include <QTextDocument>
 #include <QTextLayout>
 #include <QToolTip>
 #include <algorithm>
@@ -18,7 +19,6 @@ constexpr int LabelCharacters = 16;
 constexpr qsizetype LaidOutCharacters = 64;
 constexpr int Padding = 16;
 constexpr int MinimumCellWidth = 116;
-constexpr qsizetype ToolTipCharacters = 2000;
 
 /// `text` in as many lines as a label has, none of them wider than `width`; what is left over is elided.
 QString wrapped(const QString& text, const QFont& font, int width)
@@ -78,15 +78,6 @@ protected:
 private:
     const QListView& m_list;
 };
-
-/// `text` as markup that shows it letter for letter, wrapped into lines.
-QString plainToolTip(const QString& text)
-{
-    const QString shown =
-        text.size() <= ToolTipCharacters ? text : text.left(ToolTipCharacters) + QChar(0x2026);
-    return QLatin1String("<qt>") + Qt::convertFromPlainText(shown, Qt::WhiteSpaceNormal)
-        + QLatin1String("</qt>");
-}
 
 } // namespace
 

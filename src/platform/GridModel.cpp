@@ -1,6 +1,7 @@
 #include "platform/GridModel.h"
 
 #include "platform/ImageList.h"
+#include "platform/PlainToolTip.h"
 
 void GridModel::setColumns(const QList<GridColumn>& columns)
 {
@@ -28,22 +29,29 @@ QVariant GridModel::data(const QModelIndex& index, int role) const
         return icon == NoIcon || m_images == nullptr ? QVariant() : QVariant(m_images->icon(icon));
     }
     case Qt::AccessibleTextRole:
-    case Qt::ToolTipRole: {
-        QString word = cellWord(index.row(), field);
-        if (word.isEmpty()) {
-            word = cellText(index.row(), field);
-        }
-        if (word.isEmpty()) {
-            return {};
-        }
-        // A tool tip that looks like markup would be shown as such.
-        return role == Qt::ToolTipRole ? QStringLiteral("<qt>%1</qt>").arg(word.toHtmlEscaped()) : word;
-    }
+        return wordOrText(index.row(), field);
+    case Qt::AccessibleDescriptionRole:
+        return cellNote(index.row(), field);
+    case Qt::ToolTipRole:
+        return toolTip(index.row(), field);
     case Qt::TextAlignmentRole:
         return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
     default:
         return {};
     }
+}
+
+QString GridModel::wordOrText(int row, int field) const
+{
+    const QString word = cellWord(row, field);
+    return word.isEmpty() ? cellText(row, field) : word;
+}
+
+QString GridModel::toolTip(int row, int field) const
+{
+    QStringList lines{wordOrText(row, field), cellNote(row, field)};
+    lines.removeAll(QString());
+    return plainToolTip(lines.join(u'\n'));
 }
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const

@@ -46,8 +46,14 @@ protected:
     virtual int cellIcon(int row, int field) const = 0;
     /// The word for what a cell says by its picture alone, for tool tips and screen readers; empty for none.
     virtual QString cellWord(int row, int field) const = 0;
+    /// What the tool tip of a cell says below its text or word, and screen readers say of it when asked for
+    /// more; empty for nothing.
+    virtual QString cellNote(int /*row*/, int /*field*/) const { return {}; }
 
 private:
+    QString wordOrText(int row, int field) const;
+    QString toolTip(int row, int field) const;
+
     const ImageList* m_images = nullptr;
     QList<GridColumn> m_columns;
 };

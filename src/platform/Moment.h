@@ -16,6 +16,10 @@ Moment startOfDay(Moment moment);
 /// The moment without its seconds.
 Moment toMinute(Moment moment);
 
+/// What the clock will show when `by` has passed since it showed `from`: on a day on which the clocks of this
+/// place are set, not the sum. Needs a look-up of the time zone.
+Moment whenPassed(Moment from, std::chrono::seconds by);
+
 std::chrono::year_month_day dayOf(Moment moment);
 std::chrono::seconds timeOfDayOf(Moment moment);
 

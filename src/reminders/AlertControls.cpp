@@ -2,6 +2,7 @@
 
 #include "platform/GridView.h"
 #include "reminders/FlashBand.h"
+#include "reminders/UsualMomentButton.h"
 #include "ui/Pickers.h"
 
 #include <QDateEdit>
@@ -40,12 +41,14 @@ QLabel* labelOf(QWidget* buddy, const QString& text, QWidget* parent)
 
 } // namespace
 
-AlertControls::AlertControls(QWidget& form)
+AlertControls::AlertControls(QWidget& form, const Clock& clock)
     : grdTasks(named(new GridView(&form), QStringLiteral("grdTasks"))),
       band(named(new FlashBand(tr("Due re&minders"), &form), QStringLiteral("lblDueReminders"))),
       framNewReminder(named(new QGroupBox(tr("New reminder"), &form), QStringLiteral("framNewReminder"))),
       dtpReminderDate(named(new QDateEdit(framNewReminder), QStringLiteral("dtpReminderDate"))),
       dtpReminderTime(named(new QTimeEdit(framNewReminder), QStringLiteral("dtpReminderTime"))),
+      btnUsualMoment(named(
+          new UsualMomentButton(tr("&Set to"), clock, framNewReminder), QStringLiteral("btnUsualMoment"))),
       btnRemindMeLater(button(tr("&Remind me later"), QStringLiteral("btnRemindMeLater"), form)),
       btnOpenItem(button(tr("&Open Item"), QStringLiteral("btnOpenItem"), form)),
       btnDismiss(button(tr("&Dismiss"), QStringLiteral("btnDismiss"), form)),
@@ -56,6 +59,7 @@ AlertControls::AlertControls(QWidget& form)
     grdTasks->setMinimumSize(SmallestGrid);
     setUpDatePicker(*dtpReminderDate);
     setUpTimePicker(*dtpReminderTime);
+    btnUsualMoment->setAutoDefault(false);
     btnHelp->setEnabled(false);
     layOut(form);
     setAccessibleNames();
@@ -91,6 +95,8 @@ void AlertControls::layOutNewReminder()
     row->addSpacing(row->spacing());
     row->addWidget(labelOf(dtpReminderTime, tr("T&ime:"), framNewReminder));
     row->addWidget(dtpReminderTime);
+    row->addSpacing(row->spacing());
+    row->addWidget(btnUsualMoment);
     row->addStretch(1);
     row->addWidget(btnRemindMeLater);
 }
@@ -100,6 +106,9 @@ void AlertControls::setAccessibleNames()
     grdTasks->setAccessibleName(tr("Due reminders"));
     dtpReminderDate->setAccessibleName(tr("New reminder date"));
     dtpReminderTime->setAccessibleName(tr("New reminder time"));
+    btnUsualMoment->setAccessibleName(tr("Set date and time to"));
+    btnUsualMoment->setAccessibleDescription(
+        tr("Fills in a usual moment; \"Remind me later\" then puts the reminder off"));
     btnRemindMeLater->setAccessibleDescription(tr("Moves the selected reminder to the new date and time"));
     btnOpenItem->setAccessibleDescription(tr("Opens the task of the selected reminder"));
     btnDismiss->setAccessibleDescription(tr("Switches the selected reminder off"));
@@ -110,7 +119,7 @@ void AlertControls::setTabOrder()
 {
     QWidget* last = grdTasks;
     for (QWidget* next : std::initializer_list<QWidget*>{btnOpenItem, btnDismiss, btnDismissAll, btnHelp,
-             dtpReminderDate, dtpReminderTime, btnRemindMeLater}) {
+             dtpReminderDate, dtpReminderTime, btnUsualMoment, btnRemindMeLater}) {
         QWidget::setTabOrder(last, next);
         last = next;
     }

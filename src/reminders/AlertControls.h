@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 
+class Clock;
 class FlashBand;
 class GridView;
 class QDateEdit;
@@ -9,6 +10,7 @@ class QGroupBox;
 class QPushButton;
 class QTimeEdit;
 class QWidget;
+class UsualMomentButton;
 
 /// The controls of the alert window and their places. They are children of `form`, which owns them.
 class AlertControls
@@ -16,13 +18,15 @@ class AlertControls
     Q_DECLARE_TR_FUNCTIONS(frmAlerts)
 
 public:
-    explicit AlertControls(QWidget& form);
+    /// `clock` outlives the controls.
+    AlertControls(QWidget& form, const Clock& clock);
 
     GridView* grdTasks;
     FlashBand* band; ///< inverts while the window is active
     QGroupBox* framNewReminder;
     QDateEdit* dtpReminderDate;
     QTimeEdit* dtpReminderTime;
+    UsualMomentButton* btnUsualMoment; ///< fills the two pickers
     QPushButton* btnRemindMeLater;
     QPushButton* btnOpenItem;
     QPushButton* btnDismiss;

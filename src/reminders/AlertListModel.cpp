@@ -1,9 +1,15 @@
 #include "reminders/AlertListModel.h"
 
+#include "platform/Clock.h"
+#include "reminders/Lateness.h"
 #include "ui/MomentTexts.h"
 #include "ui/TaskPictures.h"
 
 #include <algorithm>
+
+AlertListModel::AlertListModel(const Clock& clock, QObject* parent) : GridModel(parent), m_clock(clock)
+{
+}
 
 void AlertListModel::createColumns()
 {
@@ -73,4 +79,17 @@ int AlertListModel::cellIcon(int row, int field) const
 QString AlertListModel::cellWord(int row, int field) const
 {
     return field == Periority ? periorityWord(at(row).periority) : QString();
+}
+
+QString AlertListModel::cellNote(int row, int field) const
+{
+    const DueReminder& shown = at(row);
+    QStringList notes;
+    if (field == Name && !shown.category.isEmpty()) {
+        notes.append(tr("Category: %1").arg(shown.category));
+    }
+    if (const auto reminder = momentFromStoredText(shown.reminder.toStdString())) {
+        notes.append(latenessText(*reminder, m_clock.now()));
+    }
+    return notes.join(u'\n');
 }

@@ -13,7 +13,8 @@ class AlertListModel : public GridModel
 public:
     enum Field { Id, Name, Periority, DueDate };
 
-    using GridModel::GridModel;
+    /// `clock` outlives the model; how late a reminder is follows it.
+    explicit AlertListModel(const Clock& clock, QObject* parent = nullptr);
 
     void createColumns();
     /// Replaces all rows. The columns and the widths that the user has given them stay.
@@ -30,9 +31,11 @@ protected:
     QString cellText(int row, int field) const override;
     int cellIcon(int row, int field) const override;
     QString cellWord(int row, int field) const override;
+    QString cellNote(int row, int field) const override;
 
 private:
     const DueReminder& at(int row) const { return m_reminders[static_cast<std::size_t>(row)]; }
 
+    const Clock& m_clock;
     std::vector<DueReminder> m_reminders;
 };

@@ -30,6 +30,7 @@ void ReminderChecker::readDue()
     const int icon = records.field("cat_icon");
     const int periority = records.field("task_periority");
     const int dueDate = records.field("task_due_date");
+    const int category = records.field("cat_name");
     const int reminder = records.field("reminder_date_time");
     const int sound = records.field("reminder_sound");
     const int file = records.field("reminder_file");
@@ -37,9 +38,10 @@ void ReminderChecker::readDue()
     const int reminderOn = records.field("reminder_on");
     for (; !records.atEnd(); records.moveNext()) {
         try {
-            m_due.push_back({records.int32(id), records.text(name), records.int32(icon),
-                records.int32(periority), records.moment(dueDate), records.text(reminder),
-                records.text(sound), records.text(file), records.flag(played), records.flag(reminderOn)});
+            m_due.push_back(
+                {records.int32(id), records.text(name), records.int32(icon), records.text(category),
+                    records.int32(periority), records.moment(dueDate), records.text(reminder),
+                    records.text(sound), records.text(file), records.flag(played), records.flag(reminderOn)});
         } catch (const DatabaseError& error) {
             // Another tool has written it. Nobody can be told of it every ten seconds, and it must not keep
             // the other reminders from the user.

@@ -11,6 +11,7 @@ struct DueReminder {
     qint32 id = 0;
     QString name;
     qint32 icon = 0; ///< of the category, an index into the image list
+    QString category; ///< its name
     qint32 periority = 0;
     Moment dueDate{};
     QString reminder; ///< its moment, as stored

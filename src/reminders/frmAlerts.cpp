@@ -8,6 +8,7 @@
 #include "platform/WindowPlacement.h"
 #include "reminders/AlertsHost.h"
 #include "reminders/FlashBand.h"
+#include "reminders/UsualMomentButton.h"
 #include "ui/DateComposition.h"
 #include "ui/Pickers.h"
 
@@ -43,7 +44,8 @@ bool isOwnBoxOpen()
 frmAlerts::frmAlerts(
     const FormServices& services, AlertsHost& host, WaveBackendFactory waveBackend, QWidget* parent)
     : QWidget(parent, Qt::Dialog), m_services(services), m_host(host), m_database(services.engine),
-      m_mmc(std::move(waveBackend), this), m_tmrTasksChecker(this), m_tmrFlasher(this), m_controls(*this)
+      m_mmc(std::move(waveBackend), this), m_reminders(services.clock), m_tmrTasksChecker(this),
+      m_tmrFlasher(this), m_controls(*this, services.clock)
 {
     setObjectName(QStringLiteral("frmAlerts"));
     setWindowTitle(titleFor(0));
@@ -70,6 +72,7 @@ void frmAlerts::connectControls()
         m_controls.btnOpenItem, &QPushButton::clicked, this, &frmAlerts::btnOpenItem_Click, errors);
     connectGuarded(
         m_controls.grdTasks, &GridView::rowDoubleClicked, this, &frmAlerts::btnOpenItem_Click, errors);
+    connect(m_controls.btnUsualMoment, &UsualMomentButton::momentChosen, this, &frmAlerts::setPickersTo);
     connect(m_controls.btnHelp, &QPushButton::clicked, this, &frmAlerts::helpRequested);
     connect(&m_tmrTasksChecker, &QTimer::timeout, this, &frmAlerts::tmrTasksChecker_Timer);
     connect(&m_tmrFlasher, &QTimer::timeout, this, &frmAlerts::tmrFlasher_Timer);
@@ -333,7 +336,12 @@ void frmAlerts::tmrFlasher_Timer()
 
 void frmAlerts::setPickersToNow()
 {
-    setPickers(*m_controls.dtpReminderDate, *m_controls.dtpReminderTime, m_services.clock.now());
+    setPickersTo(m_services.clock.now());
+}
+
+void frmAlerts::setPickersTo(Moment moment)
+{
+    setPickers(*m_controls.dtpReminderDate, *m_controls.dtpReminderTime, moment);
 }
 
 void frmAlerts::showEvent(QShowEvent* event)

@@ -68,6 +68,7 @@ private:
     void Form_Deactivate();
     void stopFlashing();
     void setPickersToNow();
+    void setPickersTo(Moment moment);
 
     Connection openConnection() const;
     /// Runs a statement that changes the data file and makes it durable.

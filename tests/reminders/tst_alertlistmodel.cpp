@@ -1,5 +1,6 @@
 #include "platform/ImageList.h"
 #include "reminders/AlertListModel.h"
+#include "support/SteppedClock.h"
 #include "support/TestMain.h"
 
 #include <QAbstractItemModelTester>
@@ -22,6 +23,8 @@ DueReminder reminder(qint32 id, const QString& name, qint32 periority = 1, qint1
     made.periority = periority;
     made.icon = icon;
     made.dueDate = Due;
+    made.category = QStringLiteral("Work");
+    made.reminder = QString::fromStdString(storedText(Due));
     return made;
 }
 
@@ -50,7 +53,7 @@ class tst_alertlistmodel : public TestCase
 private slots:
     void theColumnsCarryTheirKeysAndHeaders()
     {
-        AlertListModel model;
+        AlertListModel model(m_clock);
         QCOMPARE(model.columnCount(), 0);
         model.createColumns();
         QStringList keys;
@@ -74,7 +77,7 @@ private slots:
     {
         ImageList images;
         fill(images);
-        AlertListModel model;
+        AlertListModel model(m_clock);
         const QAbstractItemModelTester tester(&model);
         model.setImageList(&images);
         model.createColumns();
@@ -104,7 +107,7 @@ private slots:
         QFETCH(qint32, periority);
         ImageList images;
         fill(images);
-        AlertListModel model;
+        AlertListModel model(m_clock);
         model.setImageList(&images);
         model.createColumns();
         model.setReminders({reminder(1, QStringLiteral("x"), periority)});
@@ -114,16 +117,49 @@ private slots:
 
     void aToolTipSaysTheNameInFullAsPlainText()
     {
-        AlertListModel model;
+        AlertListModel model(m_clock);
         model.createColumns();
         model.setReminders({reminder(1, QStringLiteral("<h1>Call</h1> & \"more\""))});
         QCOMPARE(model.index(0, 1).data(Qt::ToolTipRole).toString(),
-            QStringLiteral("<qt>&lt;h1&gt;Call&lt;/h1&gt; &amp; &quot;more&quot;</qt>"));
+            QStringLiteral(
+                "<qt>&lt;h1&gt;Call&lt;/h1&gt; &amp; &quot;more&quot;<br>Category: Work<br>due now</qt>"));
+    }
+
+    void everyCellSaysHowLateItsReminderIsWhenItIsLookedAt()
+    {
+        SteppedClock clock(Due + 12min);
+        AlertListModel model(clock);
+        model.createColumns();
+        model.setReminders({reminder(1, QStringLiteral("Call"), 0)});
+        const auto toolTip = [&model](int column) {
+            return model.index(0, column).data(Qt::ToolTipRole).toString();
+        };
+        const auto described = [&model](int column) {
+            return model.index(0, column).data(Qt::AccessibleDescriptionRole).toString();
+        };
+        QCOMPARE(toolTip(1), QStringLiteral("<qt>Call<br>Category: Work<br>12 minutes late</qt>"));
+        QCOMPARE(toolTip(2), QStringLiteral("<qt>High<br>12 minutes late</qt>"));
+        QCOMPARE(toolTip(3), QStringLiteral("<qt>1/5/2026 9:07:03 AM<br>12 minutes late</qt>"));
+        QCOMPARE(described(1), QStringLiteral("Category: Work\n12 minutes late"));
+        QCOMPARE(described(3), QStringLiteral("12 minutes late"));
+        clock.step(1min);
+        QCOMPARE(toolTip(2), QStringLiteral("<qt>High<br>13 minutes late</qt>"));
+        QCOMPARE(described(3), QStringLiteral("13 minutes late"));
+    }
+
+    void aReminderWithoutAReadableMomentSaysNothingOfIt()
+    {
+        AlertListModel model(m_clock);
+        model.createColumns();
+        DueReminder unreadable = reminder(1, QStringLiteral("Call"), 0);
+        unreadable.reminder = QStringLiteral("soon");
+        model.setReminders({unreadable});
+        QCOMPARE(model.index(0, 2).data(Qt::ToolTipRole).toString(), QStringLiteral("<qt>High</qt>"));
     }
 
     void aRefillReplacesTheRowsAndKeepsTheColumns()
     {
-        AlertListModel model;
+        AlertListModel model(m_clock);
         const QAbstractItemModelTester tester(&model);
         model.createColumns();
         model.setReminders({reminder(1, QStringLiteral("a")), reminder(2, QStringLiteral("b"))});
@@ -138,7 +174,7 @@ private slots:
 
     void removingARowLeavesTheOthersInPlace()
     {
-        AlertListModel model;
+        AlertListModel model(m_clock);
         const QAbstractItemModelTester tester(&model);
         model.createColumns();
         const DueReminder a = reminder(1, QStringLiteral("a"));
@@ -151,6 +187,9 @@ private slots:
         QVERIFY(!model.lists({a}));
         QVERIFY(!model.lists({a, b}));
     }
+
+private:
+    const SteppedClock m_clock{Due};
 };
 
 AMBERTASK_TEST_MAIN(tst_alertlistmodel)

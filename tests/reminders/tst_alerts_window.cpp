@@ -318,7 +318,7 @@ private slots:
         QCOMPARE(order.join(QLatin1Char(' ')),
             QStringLiteral(
                 "grdTasks btnOpenItem btnDismiss btnDismissAll btnHelp dtpReminderDate dtpReminderTime "
-                "btnRemindMeLater"));
+                "btnUsualMoment btnRemindMeLater"));
         QCOMPARE(QApplication::focusWidget(), alerts.grid());
     }
 

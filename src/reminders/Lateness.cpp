@@ -1,0 +1,33 @@
+#include "reminders/Lateness.h"
+
+#include <QCoreApplication>
+
+using namespace std::chrono_literals;
+
+namespace
+{
+
+struct Lateness {
+    Q_DECLARE_TR_FUNCTIONS(Lateness)
+};
+
+} // namespace
+
+QString latenessText(Moment reminder, Moment now)
+{
+    const std::chrono::seconds late = now - reminder;
+    if (late < 1min) {
+        return Lateness::tr("due now");
+    }
+    // The singular is a text of its own: the untranslated program needs both forms.
+    if (late < 1h) {
+        const int n = static_cast<int>(late / 1min);
+        return n == 1 ? Lateness::tr("1 minute late") : Lateness::tr("%n minutes late", nullptr, n);
+    }
+    if (late < 24h) {
+        const int n = static_cast<int>(late / 1h);
+        return n == 1 ? Lateness::tr("1 hour late") : Lateness::tr("%n hours late", nullptr, n);
+    }
+    const int n = static_cast<int>(late / 24h);
+    return n == 1 ? Lateness::tr("1 day late") : Lateness::tr("%n days late", nullptr, n);
+}

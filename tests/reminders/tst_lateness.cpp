@@ -1,0 +1,47 @@
+#include "reminders/Lateness.h"
+#include "support/TestMain.h"
+
+#include <QTest>
+
+using namespace std::chrono_literals;
+
+class LatenessTest : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void latenessIsToldInTheLargestUnitThatHasPassed_data()
+    {
+        QTest::addColumn<qint64>("seconds");
+        QTest::addColumn<QString>("text");
+        const auto row = [](std::chrono::seconds late, const char* text) {
+            QTest::newRow(text) << qint64(late.count()) << QString::fromLatin1(text);
+        };
+        QTest::newRow("ahead") << qint64(-3600) << QStringLiteral("due now");
+        QTest::newRow("this second") << qint64(0) << QStringLiteral("due now");
+        QTest::newRow("within the first minute") << qint64(59) << QStringLiteral("due now");
+        row(1min, "1 minute late");
+        QTest::newRow("not yet two") << qint64(119) << QStringLiteral("1 minute late");
+        row(2min, "2 minutes late");
+        row(12min + 30s, "12 minutes late");
+        row(59min + 59s, "59 minutes late");
+        row(1h, "1 hour late");
+        QTest::newRow("not yet two hours") << qint64(7199) << QStringLiteral("1 hour late");
+        row(2h, "2 hours late");
+        row(23h + 59min, "23 hours late");
+        row(24h, "1 day late");
+        QTest::newRow("not yet two days") << qint64(47 * 3600) << QStringLiteral("1 day late");
+        row(48h, "2 days late");
+        row(24h * 365 * 30, "10950 days late");
+    }
+
+    void latenessIsToldInTheLargestUnitThatHasPassed()
+    {
+        QFETCH(qint64, seconds);
+        const Moment now = toMoment(QDate(2026, 1, 15), QTime(10, 0));
+        QTEST(latenessText(now - std::chrono::seconds(seconds), now), "text");
+    }
+};
+
+AMBERTASK_TEST_MAIN(LatenessTest)
+#include "tst_lateness.moc"
