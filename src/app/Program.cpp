@@ -21,7 +21,6 @@
 #include "tasks/frmTaskDetails.h"
 #include "ui/clsGuiLoader.h"
 
-#include <QApplication>
 #include <QTimer>
 #include <utility>
 
@@ -53,16 +52,11 @@ Program::~Program() = default;
 void Program::start(const std::function<bool()>& noteFirstStart)
 {
     m_settings = SettingsStore(m_machine.engine).read();
-    const bool isSkinLoaded = m_skins.load(m_settings.skin);
+    m_skins.wear(m_settings.skin);
     if (noteFirstStart()) {
         writeRunEntry(m_machine.registry, m_machine.engine.programFolder);
     }
-    makeMainWindow();
-    // A control that is made under a style sheet is laid out anew for every parent that it gets.
-    if (isSkinLoaded) {
-        m_skins.apply();
-    }
-    m_main->Form_Load();
+    loadMainWindow();
     m_helpViewer.SetHelpFile(pathIn(m_machine.engine.programFolder, QStringLiteral("Ambertask1.1.chm")));
     // A program that starts hidden, or whose window is never activated, has to remind all the same. A window
     // that is about to appear comes first: mapped later, it would cover the alert.
@@ -79,7 +73,7 @@ void Program::onFirstPainted()
     }
 }
 
-void Program::makeMainWindow()
+void Program::loadMainWindow()
 {
     auto* settingsPage = new SettingsPage(m_services, m_settings, m_machine.registry, m_skins, *this);
     MainWindowPages pages;
@@ -98,7 +92,7 @@ void Program::makeMainWindow()
 
     ErrorReport& errors = m_machine.errors;
     connect(m_main.get(), &frmMain::firstPainted, this, &Program::onFirstPainted, Qt::QueuedConnection);
-    connect(m_main.get(), &frmMain::activated, this, &Program::loadDialogs, Qt::QueuedConnection);
+    connect(m_main.get(), &frmMain::activated, this, &Program::loadDialogs);
     connect(m_main.get(), &frmMain::exitRequested, this, &Program::end);
     connectGuarded(
         pages.categories, &CategoriesPage::categoriesChanged, this, &Program::onCategoriesChanged, errors);
@@ -110,6 +104,8 @@ void Program::makeMainWindow()
     connectGuarded(pages.tasks, &TasksPage::printRequested, this, &Program::printTasks, errors);
 
     connectHelp(pages);
+
+    m_main->Form_Load();
 }
 
 void Program::connectHelp(const MainWindowPages& pages)
@@ -135,8 +131,6 @@ void Program::loadDialogs()
     if (std::exchange(m_dialogsLoaded, true)) {
         return;
     }
-    // Now that the main window is on the screen: the pictures of a window's icon are many, and large.
-    QApplication::setWindowIcon(programWindowIcon());
     // The alert window has to be there even when a dialog cannot be loaded: without it nothing reminds.
     m_machine.errors.guard([this] { taskDetails(); });
     m_machine.errors.guard([this] { categoryDetails(); });
@@ -250,7 +244,7 @@ void Program::openTask(qint16 id)
 
 void Program::onTaskStored()
 {
-    if (isAlertVisible()) {
+    if (m_alerts != nullptr && m_alerts->isVisible()) {
         m_alerts->tmrTasksChecker_Timer();
     }
 }
@@ -334,11 +328,6 @@ bool Program::hasNotificationArea() const
     return m_machine.hasNotificationArea();
 }
 
-bool Program::isAlertVisible() const
-{
-    return m_alerts != nullptr && m_alerts->isVisible();
-}
-
 int Program::selectedCategoryIndex() const
 {
     return m_main->tasksPage()->selectedCategoryIndex();
@@ -352,6 +341,18 @@ void Program::setTrayCaption(const QString& caption)
 void Program::placeMainWindow(bool topmost)
 {
     m_main->place(topmost);
+    if (topmost) {
+        return;
+    }
+    // What came up topmost would stay above the windows of other programs for good. In front of the main
+    // window all the same: a reminder is not to vanish behind it.
+    for (QWidget* window : std::initializer_list<QWidget*>{m_taskDetails.get(), m_categoryDetails.get(),
+             m_about.get(), m_report == nullptr ? nullptr : m_report->window(), m_helpViewer.viewerWindow(),
+             m_alerts.get()}) {
+        if (window != nullptr) {
+            leaveTopmost(window);
+        }
+    }
 }
 
 void Program::setGridLines(bool shown)

@@ -78,7 +78,7 @@ signals:
     void endRequested();
 
 private:
-    void makeMainWindow();
+    void loadMainWindow();
     void onFirstPainted();
 
     void connectHelp(const MainWindowPages& pages);
@@ -101,7 +101,6 @@ private:
     void hideDialogs() override;
     bool hasNotificationArea() const override;
     // TaskDetailsHost
-    bool isAlertVisible() const override;
     int selectedCategoryIndex() const override;
     // AlertsHost
     void openTask(qint16 id) override;

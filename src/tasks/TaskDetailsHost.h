@@ -9,7 +9,6 @@ public:
     TaskDetailsHost(const TaskDetailsHost&) = delete;
     TaskDetailsHost& operator=(const TaskDetailsHost&) = delete;
 
-    virtual bool isAlertVisible() const = 0;
     /// The index selected in the main window's category filter; 0 is "All".
     virtual int selectedCategoryIndex() const = 0;
 };

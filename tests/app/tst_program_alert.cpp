@@ -1,0 +1,85 @@
+#include "ProgramFixture.h"
+#include "platform/WindowPlacement.h"
+#include "reminders/frmAlerts.h"
+#include "support/TestMain.h"
+#include "tasks/frmTaskDetails.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+
+using namespace std::chrono_literals;
+
+/// What the rest of the program has to do with the alert window.
+class ProgramAlertTest : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void aTaskSavedWhileTheAlertIsHiddenWaitsForTheTick()
+    {
+        ProgramFixture f;
+        f.start();
+        f.program.loadDialogs();
+        f.press(f.main(), "btnTaskAdd");
+        frmTaskDetails& dialog = f.program.taskDetails();
+        f.control<QLineEdit>(dialog, "txtTask")->setText(QStringLiteral("due at once"));
+        f.control<QComboBox>(dialog, "cmbCategories")->setCurrentIndex(0);
+        f.control<QCheckBox>(dialog, "chkEnableReminder")->click();
+        f.press(dialog, "btnOk");
+        QVERIFY(!dialog.isVisible());
+        QVERIFY(!f.program.alerts().isVisible());
+        f.program.alerts().tmrTasksChecker_Timer();
+        QVERIFY(f.program.alerts().isVisible());
+    }
+
+    void withoutAlwaysOnTopNoWindowStaysTopmost()
+    {
+        ProgramFixture f;
+        f.setting(QStringLiteral("always_on_top"), 1);
+        aTask(f.database).remindingAt(f.database.clock().now() - 1min).add();
+        f.start();
+        f.program.loadDialogs();
+        f.press(f.main(), "btnTaskAdd");
+        f.press(f.main(), "btnTaskPrint");
+        f.press(f.main(), "btnHelpTasks");
+        f.menu("mnuAbout")->trigger();
+        const QWidgetList opened = {&f.program.alerts(), &f.program.taskDetails(), f.reportWindow.data(),
+            f.helpWindow.data(), aboutBox()};
+        for (const QWidget* window : opened) {
+            QVERIFY2(isTopmost(window), qPrintable(window->windowTitle()));
+        }
+        f.control<QCheckBox>(f.main(), "chkOnTop")->setChecked(false);
+        f.press(f.main(), "btnSave");
+        QVERIFY(!isTopmost(&f.main()));
+        for (const QWidget* window : opened) {
+            QVERIFY2(!isTopmost(window), qPrintable(window->windowTitle()));
+            QVERIFY2(window->isVisible(), qPrintable(window->windowTitle()));
+        }
+    }
+
+    void savedWithAlwaysOnTopTheAlertStaysTopmost()
+    {
+        ProgramFixture f;
+        f.setting(QStringLiteral("always_on_top"), 1);
+        aTask(f.database).remindingAt(f.database.clock().now() - 1min).add();
+        f.start();
+        f.program.loadDialogs();
+        f.press(f.main(), "btnSave");
+        QVERIFY(isTopmost(&f.program.alerts()));
+    }
+
+private:
+    static QWidget* aboutBox()
+    {
+        for (QWidget* window : QApplication::topLevelWidgets()) {
+            if (window->objectName() == QLatin1String("frmAbout")) {
+                return window;
+            }
+        }
+        return nullptr;
+    }
+};
+
+AMBERTASK_TEST_MAIN(ProgramAlertTest)
+#include "tst_program_alert.moc"
