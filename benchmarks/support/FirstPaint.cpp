@@ -6,6 +6,7 @@
 #include <QEvent>
 #include <QFile>
 #include <QSet>
+#include <QTimer>
 #include <QWidget>
 #include <ctime>
 #include <unistd.h>
@@ -50,17 +51,10 @@ public:
     {
         if (event->type() == QEvent::Paint && watched->objectName() == QLatin1String("frmMain")) {
             qApp->removeEventFilter(this);
-            // All of the window is painted and handed to the screen in one go; nothing comes between that and this.
-            QCoreApplication::postEvent(this, new QEvent(QEvent::User), Qt::HighEventPriority);
+            // All of the window is painted and handed to the screen within this event.
+            QTimer::singleShot(0, this, &Probe::tell);
         }
         return false;
-    }
-    bool event(QEvent* event) override
-    {
-        if (event->type() == QEvent::User) {
-            tell();
-        }
-        return QObject::event(event);
     }
 
 private:

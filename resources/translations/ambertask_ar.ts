@@ -19,6 +19,10 @@
         <source>Due Date</source>
         <translation>تاريخ الاستحقاق</translation>
     </message>
+    <message>
+        <source>Category: %1</source>
+        <translation>الفئة: %1</translation>
+    </message>
 </context>
 <context>
     <name>CategoriesPage</name>
@@ -61,6 +65,57 @@
     <message>
         <source>Are you sure you want to delete &apos;%1&apos; category, all tasks under this category will be deleted?</source>
         <translation>هل تريد بالتأكيد حذف الفئة «%1»؟ ستُحذف معها كل المهام التابعة لها.</translation>
+    </message>
+</context>
+<context>
+    <name>CategoryPictures</name>
+    <message>
+        <source>Home</source>
+        <translation>المنزل</translation>
+    </message>
+    <message>
+        <source>Work</source>
+        <translation>العمل</translation>
+    </message>
+    <message>
+        <source>Shopping</source>
+        <translation>التسوق</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation>التقويم</translation>
+    </message>
+    <message>
+        <source>Phone</source>
+        <translation>الهاتف</translation>
+    </message>
+    <message>
+        <source>Mail</source>
+        <translation>البريد</translation>
+    </message>
+    <message>
+        <source>Finance</source>
+        <translation>المال</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>الصحة</translation>
+    </message>
+    <message>
+        <source>Travel</source>
+        <translation>السفر</translation>
+    </message>
+    <message>
+        <source>Study</source>
+        <translation>الدراسة</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>العائلة</translation>
+    </message>
+    <message>
+        <source>Ideas</source>
+        <translation>أفكار</translation>
     </message>
 </context>
 <context>
@@ -269,6 +324,58 @@
     </message>
 </context>
 <context>
+    <name>Lateness</name>
+    <message>
+        <source>due now</source>
+        <translation>مستحق الآن</translation>
+    </message>
+    <message>
+        <source>1 minute late</source>
+        <translation>متأخر دقيقة واحدة</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n minutes late</source>
+        <translation>
+            <numerusform>مستحق الآن</numerusform>
+            <numerusform>متأخر دقيقة واحدة</numerusform>
+            <numerusform>متأخر دقيقتين</numerusform>
+            <numerusform>متأخر %n دقائق</numerusform>
+            <numerusform>متأخر %n دقيقة</numerusform>
+            <numerusform>متأخر %n دقيقة</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 hour late</source>
+        <translation>متأخر ساعة واحدة</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hours late</source>
+        <translation>
+            <numerusform>مستحق الآن</numerusform>
+            <numerusform>متأخر ساعة واحدة</numerusform>
+            <numerusform>متأخر ساعتين</numerusform>
+            <numerusform>متأخر %n ساعات</numerusform>
+            <numerusform>متأخر %n ساعة</numerusform>
+            <numerusform>متأخر %n ساعة</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 day late</source>
+        <translation>متأخر يومًا واحدًا</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days late</source>
+        <translation>
+            <numerusform>مستحق الآن</numerusform>
+            <numerusform>متأخر يومًا واحدًا</numerusform>
+            <numerusform>متأخر يومين</numerusform>
+            <numerusform>متأخر %n أيام</numerusform>
+            <numerusform>متأخر %n يومًا</numerusform>
+            <numerusform>متأخر %n يوم</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MaintenancePage</name>
     <message>
         <source>Ambertaks Backup Files (*.abk)|*.abk</source>
@@ -349,16 +456,16 @@
 <context>
     <name>MessageBoxes</name>
     <message>
-        <source>OK</source>
-        <translation>موافق</translation>
-    </message>
-    <message>
         <source>&amp;Yes</source>
         <translation>&amp;نعم</translation>
     </message>
     <message>
         <source>&amp;No</source>
         <translation>&amp;لا</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>م&amp;وافق</translation>
     </message>
 </context>
 <context>
@@ -430,7 +537,7 @@
     </message>
     <message>
         <source>&amp;Export PDF...</source>
-        <translation>ت&amp;صدير إلى PDF‏…</translation>
+        <translation>ت&amp;صدير PDF…</translation>
     </message>
     <message>
         <source>&amp;First</source>
@@ -577,16 +684,16 @@
 <context>
     <name>ScreenErrorReport</name>
     <message>
-        <source>Close program</source>
-        <translation>إغلاق البرنامج</translation>
+        <source>Close &amp;program</source>
+        <translation>إغلاق ال&amp;برنامج</translation>
     </message>
     <message>
-        <source>Continue</source>
-        <translation>متابعة</translation>
+        <source>&amp;Continue</source>
+        <translation>م&amp;تابعة</translation>
     </message>
     <message>
-        <source>OK</source>
-        <translation>موافق</translation>
+        <source>&amp;OK</source>
+        <translation>م&amp;وافق</translation>
     </message>
 </context>
 <context>
@@ -993,6 +1100,10 @@
         <source>Reminder off</source>
         <translation>التذكير معطّل</translation>
     </message>
+    <message>
+        <source>Category: %1</source>
+        <translation>الفئة: %1</translation>
+    </message>
 </context>
 <context>
     <name>TasksPage</name>
@@ -1090,6 +1201,33 @@
     <message>
         <source>The help file has no readable page &quot;%1&quot;.</source>
         <translation>لا يحتوي ملف المساعدة على صفحة مقروءة باسم «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>UsualMoments</name>
+    <message>
+        <source>In &amp;5 minutes</source>
+        <translation>بعد &amp;5 دقائق</translation>
+    </message>
+    <message>
+        <source>In &amp;15 minutes</source>
+        <translation>بعد &amp;15 دقيقة</translation>
+    </message>
+    <message>
+        <source>In 1 &amp;hour</source>
+        <translation>بعد &amp;ساعة</translation>
+    </message>
+    <message>
+        <source>This &amp;evening</source>
+        <translation>هذا ال&amp;مساء</translation>
+    </message>
+    <message>
+        <source>&amp;Tomorrow morning</source>
+        <translation>صباح ال&amp;غد</translation>
+    </message>
+    <message>
+        <source>&amp;Next week</source>
+        <translation>الأسبوع ال&amp;قادم</translation>
     </message>
 </context>
 <context>
@@ -1204,7 +1342,7 @@
     </message>
     <message>
         <source>Ambertask is a simple and powerful task management software program.</source>
-        <translation>برنامج Ambertask أداة بسيطة وقوية لإدارة المهام.</translation>
+        <translation>Ambertask برنامج بسيط وقوي لإدارة المهام.</translation>
     </message>
     <message>
         <source>Ambertask comes without any warranty. Your tasks stay on this computer; keep a backup of what you would miss.</source>
@@ -1299,6 +1437,18 @@
     <message>
         <source>Reminder date and time should not be earlier than current system date and time</source>
         <translation>يجب ألا يسبق تاريخ التذكير ووقته التاريخ والوقت الحاليين للنظام</translation>
+    </message>
+    <message>
+        <source>&amp;Set to</source>
+        <translation>ت&amp;عيين إلى</translation>
+    </message>
+    <message>
+        <source>Set date and time to</source>
+        <translation>تعيين التاريخ والوقت إلى</translation>
+    </message>
+    <message>
+        <source>Fills in a usual moment; &quot;Remind me later&quot; then puts the reminder off</source>
+        <translation>يملأ وقتًا معتادًا؛ ثم يؤجل «ذكّرني لاحقًا» التذكير</translation>
     </message>
 </context>
 <context>
@@ -1604,6 +1754,14 @@
     <message>
         <source>Reminder t&amp;ime:</source>
         <translation>وقت الت&amp;ذكير:</translation>
+    </message>
+    <message>
+        <source>Wa&amp;ve:</source>
+        <translation>المقط&amp;ع:</translation>
+    </message>
+    <message>
+        <source>Pro&amp;gram:</source>
+        <translation>ال&amp;برنامج:</translation>
     </message>
 </context>
 <context>

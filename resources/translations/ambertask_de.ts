@@ -19,6 +19,10 @@
         <source>Due Date</source>
         <translation>Fällig am</translation>
     </message>
+    <message>
+        <source>Category: %1</source>
+        <translation>Kategorie: %1</translation>
+    </message>
 </context>
 <context>
     <name>CategoriesPage</name>
@@ -61,6 +65,57 @@
     <message>
         <source>Are you sure you want to delete &apos;%1&apos; category, all tasks under this category will be deleted?</source>
         <translation>Möchten Sie die Kategorie „%1“ wirklich löschen? Alle Aufgaben dieser Kategorie werden mitgelöscht.</translation>
+    </message>
+</context>
+<context>
+    <name>CategoryPictures</name>
+    <message>
+        <source>Home</source>
+        <translation>Zuhause</translation>
+    </message>
+    <message>
+        <source>Work</source>
+        <translation>Arbeit</translation>
+    </message>
+    <message>
+        <source>Shopping</source>
+        <translation>Einkaufen</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation>Kalender</translation>
+    </message>
+    <message>
+        <source>Phone</source>
+        <translation>Telefon</translation>
+    </message>
+    <message>
+        <source>Mail</source>
+        <translation>Post</translation>
+    </message>
+    <message>
+        <source>Finance</source>
+        <translation>Finanzen</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>Gesundheit</translation>
+    </message>
+    <message>
+        <source>Travel</source>
+        <translation>Reisen</translation>
+    </message>
+    <message>
+        <source>Study</source>
+        <translation>Lernen</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>Familie</translation>
+    </message>
+    <message>
+        <source>Ideas</source>
+        <translation>Ideen</translation>
     </message>
 </context>
 <context>
@@ -269,6 +324,46 @@
     </message>
 </context>
 <context>
+    <name>Lateness</name>
+    <message>
+        <source>due now</source>
+        <translation>jetzt fällig</translation>
+    </message>
+    <message>
+        <source>1 minute late</source>
+        <translation>1 Minute zu spät</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n minutes late</source>
+        <translation>
+            <numerusform>%n Minute zu spät</numerusform>
+            <numerusform>%n Minuten zu spät</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 hour late</source>
+        <translation>1 Stunde zu spät</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hours late</source>
+        <translation>
+            <numerusform>%n Stunde zu spät</numerusform>
+            <numerusform>%n Stunden zu spät</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 day late</source>
+        <translation>1 Tag zu spät</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days late</source>
+        <translation>
+            <numerusform>%n Tag zu spät</numerusform>
+            <numerusform>%n Tage zu spät</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MaintenancePage</name>
     <message>
         <source>Ambertaks Backup Files (*.abk)|*.abk</source>
@@ -345,16 +440,16 @@
 <context>
     <name>MessageBoxes</name>
     <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
         <source>&amp;Yes</source>
         <translation>&amp;Ja</translation>
     </message>
     <message>
         <source>&amp;No</source>
         <translation>&amp;Nein</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
     </message>
 </context>
 <context>
@@ -573,16 +668,16 @@
 <context>
     <name>ScreenErrorReport</name>
     <message>
-        <source>Close program</source>
-        <translation>Programm beenden</translation>
+        <source>Close &amp;program</source>
+        <translation>&amp;Programm beenden</translation>
     </message>
     <message>
-        <source>Continue</source>
-        <translation>Fortfahren</translation>
+        <source>&amp;Continue</source>
+        <translation>&amp;Fortfahren</translation>
     </message>
     <message>
-        <source>OK</source>
-        <translation>OK</translation>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
     </message>
 </context>
 <context>
@@ -985,6 +1080,10 @@ ein Fehler auf: %3.</translation>
         <source>Reminder off</source>
         <translation>Erinnerung aus</translation>
     </message>
+    <message>
+        <source>Category: %1</source>
+        <translation>Kategorie: %1</translation>
+    </message>
 </context>
 <context>
     <name>TasksPage</name>
@@ -1038,7 +1137,7 @@ ein Fehler auf: %3.</translation>
     </message>
     <message>
         <source>Due date</source>
-        <translation>Fälligkeit</translation>
+        <translation>Fällig am</translation>
     </message>
     <message>
         <source>Kind</source>
@@ -1082,6 +1181,33 @@ ein Fehler auf: %3.</translation>
     <message>
         <source>The help file has no readable page &quot;%1&quot;.</source>
         <translation>Die Hilfedatei enthält keine lesbare Seite „%1“.</translation>
+    </message>
+</context>
+<context>
+    <name>UsualMoments</name>
+    <message>
+        <source>In &amp;5 minutes</source>
+        <translation>In &amp;5 Minuten</translation>
+    </message>
+    <message>
+        <source>In &amp;15 minutes</source>
+        <translation>In &amp;15 Minuten</translation>
+    </message>
+    <message>
+        <source>In 1 &amp;hour</source>
+        <translation>In 1 &amp;Stunde</translation>
+    </message>
+    <message>
+        <source>This &amp;evening</source>
+        <translation>Heute &amp;Abend</translation>
+    </message>
+    <message>
+        <source>&amp;Tomorrow morning</source>
+        <translation>&amp;Morgen früh</translation>
+    </message>
+    <message>
+        <source>&amp;Next week</source>
+        <translation>&amp;Nächste Woche</translation>
     </message>
 </context>
 <context>
@@ -1288,6 +1414,18 @@ ein Fehler auf: %3.</translation>
         <source>Reminder date and time should not be earlier than current system date and time</source>
         <translation>Datum und Uhrzeit der Erinnerung dürfen nicht in der Vergangenheit liegen</translation>
     </message>
+    <message>
+        <source>&amp;Set to</source>
+        <translation>&amp;Setzen auf</translation>
+    </message>
+    <message>
+        <source>Set date and time to</source>
+        <translation>Datum und Uhrzeit setzen auf</translation>
+    </message>
+    <message>
+        <source>Fills in a usual moment; &quot;Remind me later&quot; then puts the reminder off</source>
+        <translation>Trägt einen üblichen Zeitpunkt ein; „Später erinnern“ verschiebt dann die Erinnerung</translation>
+    </message>
 </context>
 <context>
     <name>frmCategoryDetails</name>
@@ -1475,7 +1613,7 @@ ein Fehler auf: %3.</translation>
     </message>
     <message>
         <source>Bro&amp;wse...</source>
-        <translation>Du&amp;rchsuchen…</translation>
+        <translation>Durc&amp;hsuchen…</translation>
     </message>
     <message>
         <source>&amp;OK</source>
@@ -1592,6 +1730,14 @@ ein Fehler auf: %3.</translation>
     <message>
         <source>Reminder t&amp;ime:</source>
         <translation>Erinnerung u&amp;m:</translation>
+    </message>
+    <message>
+        <source>Wa&amp;ve:</source>
+        <translation>&amp;Wave:</translation>
+    </message>
+    <message>
+        <source>Pro&amp;gram:</source>
+        <translation>P&amp;rogramm:</translation>
     </message>
 </context>
 <context>

@@ -19,6 +19,10 @@
         <source>Due Date</source>
         <translation>Vencimiento</translation>
     </message>
+    <message>
+        <source>Category: %1</source>
+        <translation>Categoría: %1</translation>
+    </message>
 </context>
 <context>
     <name>CategoriesPage</name>
@@ -61,6 +65,57 @@
     <message>
         <source>Are you sure you want to delete &apos;%1&apos; category, all tasks under this category will be deleted?</source>
         <translation>¿Seguro que desea eliminar la categoría «%1»? También se eliminarán todas sus tareas.</translation>
+    </message>
+</context>
+<context>
+    <name>CategoryPictures</name>
+    <message>
+        <source>Home</source>
+        <translation>Casa</translation>
+    </message>
+    <message>
+        <source>Work</source>
+        <translation>Trabajo</translation>
+    </message>
+    <message>
+        <source>Shopping</source>
+        <translation>Compras</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation>Calendario</translation>
+    </message>
+    <message>
+        <source>Phone</source>
+        <translation>Teléfono</translation>
+    </message>
+    <message>
+        <source>Mail</source>
+        <translation>Correo</translation>
+    </message>
+    <message>
+        <source>Finance</source>
+        <translation>Finanzas</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>Salud</translation>
+    </message>
+    <message>
+        <source>Travel</source>
+        <translation>Viajes</translation>
+    </message>
+    <message>
+        <source>Study</source>
+        <translation>Estudio</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>Familia</translation>
+    </message>
+    <message>
+        <source>Ideas</source>
+        <translation>Ideas</translation>
     </message>
 </context>
 <context>
@@ -269,6 +324,46 @@
     </message>
 </context>
 <context>
+    <name>Lateness</name>
+    <message>
+        <source>due now</source>
+        <translation>vence ahora</translation>
+    </message>
+    <message>
+        <source>1 minute late</source>
+        <translation>1 minuto de retraso</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n minutes late</source>
+        <translation>
+            <numerusform>%n minuto de retraso</numerusform>
+            <numerusform>%n minutos de retraso</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 hour late</source>
+        <translation>1 hora de retraso</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hours late</source>
+        <translation>
+            <numerusform>%n hora de retraso</numerusform>
+            <numerusform>%n horas de retraso</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 day late</source>
+        <translation>1 día de retraso</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days late</source>
+        <translation>
+            <numerusform>%n día de retraso</numerusform>
+            <numerusform>%n días de retraso</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MaintenancePage</name>
     <message>
         <source>Ambertaks Backup Files (*.abk)|*.abk</source>
@@ -345,16 +440,16 @@
 <context>
     <name>MessageBoxes</name>
     <message>
-        <source>OK</source>
-        <translation>Aceptar</translation>
-    </message>
-    <message>
         <source>&amp;Yes</source>
         <translation>&amp;Sí</translation>
     </message>
     <message>
         <source>&amp;No</source>
         <translation>&amp;No</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;Aceptar</translation>
     </message>
 </context>
 <context>
@@ -573,16 +668,16 @@
 <context>
     <name>ScreenErrorReport</name>
     <message>
-        <source>Close program</source>
-        <translation>Cerrar el programa</translation>
+        <source>Close &amp;program</source>
+        <translation>Cerrar el &amp;programa</translation>
     </message>
     <message>
-        <source>Continue</source>
-        <translation>Continuar</translation>
+        <source>&amp;Continue</source>
+        <translation>&amp;Continuar</translation>
     </message>
     <message>
-        <source>OK</source>
-        <translation>Aceptar</translation>
+        <source>&amp;OK</source>
+        <translation>&amp;Aceptar</translation>
     </message>
 </context>
 <context>
@@ -985,6 +1080,10 @@
         <source>Reminder off</source>
         <translation>Recordatorio desactivado</translation>
     </message>
+    <message>
+        <source>Category: %1</source>
+        <translation>Categoría: %1</translation>
+    </message>
 </context>
 <context>
     <name>TasksPage</name>
@@ -1082,6 +1181,33 @@
     <message>
         <source>The help file has no readable page &quot;%1&quot;.</source>
         <translation>El archivo de ayuda no contiene la página «%1» o no se puede leer.</translation>
+    </message>
+</context>
+<context>
+    <name>UsualMoments</name>
+    <message>
+        <source>In &amp;5 minutes</source>
+        <translation>En &amp;5 minutos</translation>
+    </message>
+    <message>
+        <source>In &amp;15 minutes</source>
+        <translation>En &amp;15 minutos</translation>
+    </message>
+    <message>
+        <source>In 1 &amp;hour</source>
+        <translation>En 1 &amp;hora</translation>
+    </message>
+    <message>
+        <source>This &amp;evening</source>
+        <translation>Esta &amp;tarde</translation>
+    </message>
+    <message>
+        <source>&amp;Tomorrow morning</source>
+        <translation>&amp;Mañana por la mañana</translation>
+    </message>
+    <message>
+        <source>&amp;Next week</source>
+        <translation>La &amp;próxima semana</translation>
     </message>
 </context>
 <context>
@@ -1287,6 +1413,18 @@
     <message>
         <source>Reminder date and time should not be earlier than current system date and time</source>
         <translation>La fecha y la hora del recordatorio no pueden ser anteriores a la fecha y la hora actuales del sistema</translation>
+    </message>
+    <message>
+        <source>&amp;Set to</source>
+        <translation>&amp;Establecer en</translation>
+    </message>
+    <message>
+        <source>Set date and time to</source>
+        <translation>Establecer la fecha y la hora en</translation>
+    </message>
+    <message>
+        <source>Fills in a usual moment; &quot;Remind me later&quot; then puts the reminder off</source>
+        <translation>Rellena un momento habitual; «Recordar más tarde» aplaza después el recordatorio</translation>
     </message>
 </context>
 <context>
@@ -1592,6 +1730,14 @@
     <message>
         <source>Reminder t&amp;ime:</source>
         <translation>H&amp;ora del recordatorio:</translation>
+    </message>
+    <message>
+        <source>Wa&amp;ve:</source>
+        <translation>&amp;Wave:</translation>
+    </message>
+    <message>
+        <source>Pro&amp;gram:</source>
+        <translation>Pro&amp;grama:</translation>
     </message>
 </context>
 <context>

@@ -19,6 +19,10 @@
         <source>Due Date</source>
         <translation>Échéance</translation>
     </message>
+    <message>
+        <source>Category: %1</source>
+        <translation>Catégorie&#xa0;: %1</translation>
+    </message>
 </context>
 <context>
     <name>CategoriesPage</name>
@@ -61,6 +65,57 @@
     <message>
         <source>Are you sure you want to delete &apos;%1&apos; category, all tasks under this category will be deleted?</source>
         <translation>Voulez-vous vraiment supprimer la catégorie «&#xa0;%1&#xa0;»&#x202f;? Toutes ses tâches seront également supprimées.</translation>
+    </message>
+</context>
+<context>
+    <name>CategoryPictures</name>
+    <message>
+        <source>Home</source>
+        <translation>Maison</translation>
+    </message>
+    <message>
+        <source>Work</source>
+        <translation>Travail</translation>
+    </message>
+    <message>
+        <source>Shopping</source>
+        <translation>Achats</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation>Calendrier</translation>
+    </message>
+    <message>
+        <source>Phone</source>
+        <translation>Téléphone</translation>
+    </message>
+    <message>
+        <source>Mail</source>
+        <translation>Courrier</translation>
+    </message>
+    <message>
+        <source>Finance</source>
+        <translation>Finances</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>Santé</translation>
+    </message>
+    <message>
+        <source>Travel</source>
+        <translation>Voyages</translation>
+    </message>
+    <message>
+        <source>Study</source>
+        <translation>Études</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>Famille</translation>
+    </message>
+    <message>
+        <source>Ideas</source>
+        <translation>Idées</translation>
     </message>
 </context>
 <context>
@@ -269,6 +324,46 @@
     </message>
 </context>
 <context>
+    <name>Lateness</name>
+    <message>
+        <source>due now</source>
+        <translation>échu à l’instant</translation>
+    </message>
+    <message>
+        <source>1 minute late</source>
+        <translation>1 minute de retard</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n minutes late</source>
+        <translation>
+            <numerusform>%n minute de retard</numerusform>
+            <numerusform>%n minutes de retard</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 hour late</source>
+        <translation>1 heure de retard</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hours late</source>
+        <translation>
+            <numerusform>%n heure de retard</numerusform>
+            <numerusform>%n heures de retard</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 day late</source>
+        <translation>1 jour de retard</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days late</source>
+        <translation>
+            <numerusform>%n jour de retard</numerusform>
+            <numerusform>%n jours de retard</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MaintenancePage</name>
     <message>
         <source>Ambertaks Backup Files (*.abk)|*.abk</source>
@@ -345,16 +440,16 @@
 <context>
     <name>MessageBoxes</name>
     <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
         <source>&amp;Yes</source>
         <translation>&amp;Oui</translation>
     </message>
     <message>
         <source>&amp;No</source>
         <translation>&amp;Non</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
     </message>
 </context>
 <context>
@@ -573,16 +668,16 @@
 <context>
     <name>ScreenErrorReport</name>
     <message>
-        <source>Close program</source>
-        <translation>Fermer le programme</translation>
+        <source>Close &amp;program</source>
+        <translation>Fermer le &amp;programme</translation>
     </message>
     <message>
-        <source>Continue</source>
-        <translation>Continuer</translation>
+        <source>&amp;Continue</source>
+        <translation>&amp;Continuer</translation>
     </message>
     <message>
-        <source>OK</source>
-        <translation>OK</translation>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
     </message>
 </context>
 <context>
@@ -985,6 +1080,10 @@
         <source>Reminder off</source>
         <translation>Rappel désactivé</translation>
     </message>
+    <message>
+        <source>Category: %1</source>
+        <translation>Catégorie&#xa0;: %1</translation>
+    </message>
 </context>
 <context>
     <name>TasksPage</name>
@@ -1082,6 +1181,33 @@
     <message>
         <source>The help file has no readable page &quot;%1&quot;.</source>
         <translation>Le fichier d’aide ne contient pas de page lisible «&#xa0;%1&#xa0;».</translation>
+    </message>
+</context>
+<context>
+    <name>UsualMoments</name>
+    <message>
+        <source>In &amp;5 minutes</source>
+        <translation>Dans &amp;5 minutes</translation>
+    </message>
+    <message>
+        <source>In &amp;15 minutes</source>
+        <translation>Dans &amp;15 minutes</translation>
+    </message>
+    <message>
+        <source>In 1 &amp;hour</source>
+        <translation>Dans 1 &amp;heure</translation>
+    </message>
+    <message>
+        <source>This &amp;evening</source>
+        <translation>Ce &amp;soir</translation>
+    </message>
+    <message>
+        <source>&amp;Tomorrow morning</source>
+        <translation>&amp;Demain matin</translation>
+    </message>
+    <message>
+        <source>&amp;Next week</source>
+        <translation>La semaine &amp;prochaine</translation>
     </message>
 </context>
 <context>
@@ -1287,6 +1413,18 @@
     <message>
         <source>Reminder date and time should not be earlier than current system date and time</source>
         <translation>La date et l’heure du rappel ne doivent pas être antérieures à la date et à l’heure actuelles du système</translation>
+    </message>
+    <message>
+        <source>&amp;Set to</source>
+        <translation>Ré&amp;gler sur</translation>
+    </message>
+    <message>
+        <source>Set date and time to</source>
+        <translation>Régler la date et l’heure sur</translation>
+    </message>
+    <message>
+        <source>Fills in a usual moment; &quot;Remind me later&quot; then puts the reminder off</source>
+        <translation>Remplit un moment habituel ; «&#xa0;Me le rappeler plus tard&#xa0;» reporte ensuite le rappel</translation>
     </message>
 </context>
 <context>
@@ -1592,6 +1730,14 @@
     <message>
         <source>Reminder t&amp;ime:</source>
         <translation>Heure du rappe&amp;l&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Wa&amp;ve:</source>
+        <translation>&amp;Wave&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Pro&amp;gram:</source>
+        <translation>Pro&amp;gramme&#xa0;:</translation>
     </message>
 </context>
 <context>

@@ -19,6 +19,10 @@
         <source>Due Date</source>
         <translation>截止日期</translation>
     </message>
+    <message>
+        <source>Category: %1</source>
+        <translation>类别：%1</translation>
+    </message>
 </context>
 <context>
     <name>CategoriesPage</name>
@@ -61,6 +65,57 @@
     <message>
         <source>Are you sure you want to delete &apos;%1&apos; category, all tasks under this category will be deleted?</source>
         <translation>确定要删除类别“%1”吗？该类别下的所有任务也将被删除。</translation>
+    </message>
+</context>
+<context>
+    <name>CategoryPictures</name>
+    <message>
+        <source>Home</source>
+        <translation>家</translation>
+    </message>
+    <message>
+        <source>Work</source>
+        <translation>工作</translation>
+    </message>
+    <message>
+        <source>Shopping</source>
+        <translation>购物</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation>日历</translation>
+    </message>
+    <message>
+        <source>Phone</source>
+        <translation>电话</translation>
+    </message>
+    <message>
+        <source>Mail</source>
+        <translation>邮件</translation>
+    </message>
+    <message>
+        <source>Finance</source>
+        <translation>财务</translation>
+    </message>
+    <message>
+        <source>Health</source>
+        <translation>健康</translation>
+    </message>
+    <message>
+        <source>Travel</source>
+        <translation>旅行</translation>
+    </message>
+    <message>
+        <source>Study</source>
+        <translation>学习</translation>
+    </message>
+    <message>
+        <source>Family</source>
+        <translation>家庭</translation>
+    </message>
+    <message>
+        <source>Ideas</source>
+        <translation>想法</translation>
     </message>
 </context>
 <context>
@@ -269,6 +324,43 @@
     </message>
 </context>
 <context>
+    <name>Lateness</name>
+    <message>
+        <source>due now</source>
+        <translation>现在到期</translation>
+    </message>
+    <message>
+        <source>1 minute late</source>
+        <translation>迟到 1 分钟</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n minutes late</source>
+        <translation>
+            <numerusform>迟到 %n 分钟</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 hour late</source>
+        <translation>迟到 1 小时</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hours late</source>
+        <translation>
+            <numerusform>迟到 %n 小时</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 day late</source>
+        <translation>迟到 1 天</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days late</source>
+        <translation>
+            <numerusform>迟到 %n 天</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MaintenancePage</name>
     <message>
         <source>Ambertaks Backup Files (*.abk)|*.abk</source>
@@ -344,16 +436,16 @@
 <context>
     <name>MessageBoxes</name>
     <message>
-        <source>OK</source>
-        <translation>确定</translation>
-    </message>
-    <message>
         <source>&amp;Yes</source>
         <translation>是(&amp;Y)</translation>
     </message>
     <message>
         <source>&amp;No</source>
         <translation>否(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>确定(&amp;O)</translation>
     </message>
 </context>
 <context>
@@ -572,16 +664,16 @@
 <context>
     <name>ScreenErrorReport</name>
     <message>
-        <source>Close program</source>
-        <translation>关闭程序</translation>
+        <source>Close &amp;program</source>
+        <translation>关闭程序(&amp;P)</translation>
     </message>
     <message>
-        <source>Continue</source>
-        <translation>继续</translation>
+        <source>&amp;Continue</source>
+        <translation>继续(&amp;C)</translation>
     </message>
     <message>
-        <source>OK</source>
-        <translation>确定</translation>
+        <source>&amp;OK</source>
+        <translation>确定(&amp;O)</translation>
     </message>
 </context>
 <context>
@@ -983,6 +1075,10 @@
         <source>Reminder off</source>
         <translation>提醒已关闭</translation>
     </message>
+    <message>
+        <source>Category: %1</source>
+        <translation>类别：%1</translation>
+    </message>
 </context>
 <context>
     <name>TasksPage</name>
@@ -1080,6 +1176,33 @@
     <message>
         <source>The help file has no readable page &quot;%1&quot;.</source>
         <translation>帮助文件中没有可读取的页面“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>UsualMoments</name>
+    <message>
+        <source>In &amp;5 minutes</source>
+        <translation>5 分钟后(&amp;5)</translation>
+    </message>
+    <message>
+        <source>In &amp;15 minutes</source>
+        <translation>15 分钟后(&amp;1)</translation>
+    </message>
+    <message>
+        <source>In 1 &amp;hour</source>
+        <translation>1 小时后(&amp;H)</translation>
+    </message>
+    <message>
+        <source>This &amp;evening</source>
+        <translation>今晚(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Tomorrow morning</source>
+        <translation>明天上午(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Next week</source>
+        <translation>下周(&amp;N)</translation>
     </message>
 </context>
 <context>
@@ -1284,6 +1407,18 @@
     <message>
         <source>Reminder date and time should not be earlier than current system date and time</source>
         <translation>提醒的日期和时间不能早于系统当前的日期和时间</translation>
+    </message>
+    <message>
+        <source>&amp;Set to</source>
+        <translation>设为(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Set date and time to</source>
+        <translation>将日期和时间设为</translation>
+    </message>
+    <message>
+        <source>Fills in a usual moment; &quot;Remind me later&quot; then puts the reminder off</source>
+        <translation>填入一个常用时间；再按“稍后提醒”即可推迟提醒</translation>
     </message>
 </context>
 <context>
@@ -1589,6 +1724,14 @@
     <message>
         <source>Reminder t&amp;ime:</source>
         <translation>提醒时间(&amp;I)：</translation>
+    </message>
+    <message>
+        <source>Wa&amp;ve:</source>
+        <translation>波形文件(&amp;V)：</translation>
+    </message>
+    <message>
+        <source>Pro&amp;gram:</source>
+        <translation>程序(&amp;G)：</translation>
     </message>
 </context>
 <context>

@@ -112,3 +112,12 @@ QString TaskListModel::cellWord(int row, int field) const
         return {};
     }
 }
+
+QString TaskListModel::cellNote(int row, int field) const
+{
+    if (field != Name || !m_categoryName) {
+        return {};
+    }
+    const QString category = m_categoryName(taskAt(row).CategoryId());
+    return category.isEmpty() ? QString() : tr("Category: %1").arg(category);
+}

@@ -3,6 +3,7 @@
 #include "data/ClsTask.h"
 #include "platform/GridModel.h"
 
+#include <functional>
 #include <vector>
 
 /// Which of the optional columns the task list shows.
@@ -23,6 +24,8 @@ public:
 
     using GridModel::GridModel;
 
+    /// How the name of a category is found, empty for an unknown one; asked when a cell is looked at.
+    void setCategoryNames(std::function<QString(qint16 id)> nameOf) { m_categoryName = std::move(nameOf); }
     /// Replaces all rows and columns.
     void setTasks(std::vector<ClsTask> tasks, const TaskColumns& shown);
     /// Removes one row; the others keep their places.
@@ -37,9 +40,11 @@ protected:
     QString cellText(int row, int field) const override;
     int cellIcon(int row, int field) const override;
     QString cellWord(int row, int field) const override;
+    QString cellNote(int row, int field) const override;
 
 private:
     const ClsTask& taskAt(int row) const { return m_tasks[static_cast<std::size_t>(row)]; }
 
     std::vector<ClsTask> m_tasks;
+    std::function<QString(qint16 id)> m_categoryName;
 };

@@ -25,6 +25,7 @@ namespace
 QLabel* labelFor(QWidget* buddy, const QString& text, const QString& name)
 {
     auto* label = new QLabel(text);
+    label->setTextFormat(Qt::PlainText);
     label->setObjectName(name);
     label->setBuddy(buddy);
     return label;
@@ -51,6 +52,10 @@ TasksPage::TasksPage(const FormServices& services, std::function<TaskColumns()> 
 {
     m_grid->setAccessibleName(tr("Tasks"));
     m_grid->setGridModel(m_model);
+    m_model->setCategoryNames([this](qint16 id) {
+        const int index = m_categories->findData(static_cast<qint32>(id));
+        return index < 0 ? QString() : m_categories->itemText(index);
+    });
     m_dateFromLabel = labelFor(m_dateFrom, tr("&From"), QStringLiteral("lblDateFrom"));
     m_dateToLabel = labelFor(m_dateTo, tr("&To"), QStringLiteral("lblDateTo"));
 

@@ -36,11 +36,13 @@ frmMain::frmMain(
 {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QStringLiteral("Ambertask"));
+    setWindowIcon(programIcon());
     m_tabs->setObjectName(QStringLiteral("tabMain"));
     m_tabs->addTab(m_pages.tasks, tr("Tasks"));
     m_tabs->addTab(m_pages.categories, tr("Categories"));
     m_tabs->addTab(m_pages.settings, tr("Settings"));
     m_tabs->addTab(m_pages.maintenance, tr("Maintenance"));
+    addPageKeys();
     m_trayMenu = makeTrayMenu();
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(makeHeader());
@@ -50,6 +52,16 @@ frmMain::frmMain(
     // Only now: adding pages switches to the first one.
     connectGuarded(m_tabs, &QTabWidget::currentChanged, this, &frmMain::tabMain_Switch, services.errors);
     connectGuarded(&m_trayIcon, &TrayIcon::activated, this, &frmMain::toggle, services.errors);
+}
+
+void frmMain::addPageKeys()
+{
+    for (int page = 0; page < m_tabs->count(); ++page) {
+        const QKeySequence keys(Qt::AltModifier | static_cast<Qt::Key>(Qt::Key_1 + page));
+        connect(new QShortcut(keys, this), &QShortcut::activated, m_tabs,
+            [this, page] { m_tabs->setCurrentIndex(page); });
+        m_tabs->setTabToolTip(page, keys.toString(QKeySequence::NativeText));
+    }
 }
 
 QWidget* frmMain::makeHeader()
@@ -75,6 +87,7 @@ QWidget* frmMain::makeHeader()
     addLink("lblOrganizerHeader", QStringLiteral("Organizer"), false);
     layout->addStretch();
     auto* version = new QLabel(tr("Version 1.1"));
+    version->setTextFormat(Qt::PlainText);
     version->setObjectName(QStringLiteral("lblVersionHeader"));
     layout->addWidget(version, 0, Qt::AlignBottom);
     // The way to the tray menu on a desktop that has no notification area.
@@ -113,9 +126,8 @@ void frmMain::Form_Load()
     m_pages.tasks->fillFilters();
     m_pages.settings->LoadSkinsList();
     m_pages.settings->LoadSettingsPage();
-    // Selecting the date option builds the list; nothing runs in between that could change it before the next
-    // step, which would build it again.
     ApplyChanges();
+    LoadTasks();
     m_pages.maintenance->prepareFilters();
     m_tabs->setCurrentIndex(TasksIndex);
     m_loaded = true;
@@ -123,7 +135,7 @@ void frmMain::Form_Load()
     if (m_ending) {
         return;
     }
-    m_trayIcon.add(programIcon(), tr("Ambertaks"), m_trayMenu);
+    m_trayIcon.add(windowIcon(), tr("Ambertaks"), m_trayMenu);
     if (!m_settings.minimize_on_start) {
         if (m_settings.always_on_top) {
             makeTopmost(this);
@@ -230,8 +242,7 @@ void frmMain::syncTrayCaption()
 
 bool frmMain::event(QEvent* event)
 {
-    // A window that becomes active before it is on the screen gets there first.
-    if (event->type() == QEvent::WindowActivate && m_painted) {
+    if (event->type() == QEvent::WindowActivate && m_loaded) {
         emit activated();
     }
     return QWidget::event(event);

@@ -82,7 +82,7 @@ public:
     CategoriesPage* categoriesPage() const { return m_pages.categories; }
 
 signals:
-    /// The window, painted before, has become the active one.
+    /// The window has become the active one.
     void activated();
     /// The window has appeared on the screen for the first time.
     void firstPainted();
@@ -108,6 +108,7 @@ private:
     void hideWindow();
     void showWindow();
     void syncTrayCaption();
+    void addPageKeys();
     QWidget* makeHeader();
     QMenu* makeTrayMenu();
 

@@ -2,6 +2,7 @@
 
 #include "categories/IconBox.h"
 #include "categories/PicturePanel.h"
+#include "ui/TaskPictures.h"
 
 #include <QBoxLayout>
 #include <QButtonGroup>
@@ -30,6 +31,7 @@ template <typename Control> Control* named(const QString& name, QWidget& parent)
 QLabel* labelFor(QWidget& buddy, const char* name, const QString& text, QWidget& form)
 {
     auto* label = named<QLabel>(QLatin1String(name), form);
+    label->setTextFormat(Qt::PlainText);
     label->setText(text);
     label->setBuddy(&buddy);
     return label;
@@ -55,6 +57,8 @@ CategoryDetailsControls::CategoryDetailsControls(QWidget& form)
         IconBox*& box = imgIcon.at(static_cast<std::size_t>(i));
         box = named<IconBox>(QStringLiteral("imgIcon%1").arg(i), *picIcons);
         box->setAccessibleName(tr("Icon %1 of %2").arg(i + 1).arg(IconCount));
+        box->setAccessibleDescription(categoryPictureWord(i));
+        box->setToolTip(categoryPictureWord(i));
         group->addButton(box);
     }
     setUp();

@@ -19,7 +19,7 @@ QMessageBox::StandardButton show(
     QMessageBox box(icon, QStringLiteral("Ambertask"), text, buttons, owner);
     box.setTextFormat(Qt::PlainText);
     // The toolkit's own captions follow a catalogue of the system that may be missing.
-    name(box, QMessageBox::Ok, MessageBoxes::tr("OK"));
+    name(box, QMessageBox::Ok, MessageBoxes::tr("&OK"));
     name(box, QMessageBox::Yes, MessageBoxes::tr("&Yes"));
     name(box, QMessageBox::No, MessageBoxes::tr("&No"));
     // A message has to be seen above a topmost owner.

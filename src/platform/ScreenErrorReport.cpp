@@ -21,8 +21,8 @@ void ScreenErrorReport::report(const QString& text)
     box.setTextFormat(Qt::PlainText);
     box.setWindowFlag(Qt::WindowStaysOnTopHint,
         owner != nullptr && owner->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
-    QPushButton* close = box.addButton(tr("Close program"), QMessageBox::DestructiveRole);
-    QPushButton* proceed = box.addButton(tr("Continue"), QMessageBox::RejectRole);
+    QPushButton* close = box.addButton(tr("Close &program"), QMessageBox::DestructiveRole);
+    QPushButton* proceed = box.addButton(tr("&Continue"), QMessageBox::RejectRole);
     box.setDefaultButton(close);
     box.setEscapeButton(proceed);
     box.exec();
@@ -35,6 +35,6 @@ void ScreenErrorReport::reportFailedStart(const QString& text)
 {
     QMessageBox box(QMessageBox::Critical, QStringLiteral("Ambertask"), text, QMessageBox::Ok);
     box.setTextFormat(Qt::PlainText);
-    box.button(QMessageBox::Ok)->setText(tr("OK"));
+    box.button(QMessageBox::Ok)->setText(tr("&OK"));
     box.exec();
 }

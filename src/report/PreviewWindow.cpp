@@ -38,6 +38,7 @@ template <typename Control> Control* named(Control* control, const char* name)
 QLabel* labelFor(QWidget* buddy, const QString& text)
 {
     auto* label = new QLabel(text);
+    label->setTextFormat(Qt::PlainText);
     label->setBuddy(buddy);
     return label;
 }
@@ -194,13 +195,14 @@ void PreviewWindow::showPage()
     m_pageNumber->setValue(m_page + 1);
     const QString place = tr("Page %1 of %2").arg(m_page + 1).arg(count);
     m_pageNumber->setAccessibleName(place);
-    m_preview->setAccessibleName(place);
     m_first->setEnabled(m_page > 0);
     m_previous->setEnabled(m_page > 0);
     m_next->setEnabled(m_page + 1 < count);
     m_last->setEnabled(m_page + 1 < count);
     m_preview->updatePreview();
-    if (const auto* view = m_preview->findChild<QGraphicsView*>()) {
+    if (auto* view = m_preview->findChild<QGraphicsView*>()) {
+        // The part of the preview that takes the focus.
+        view->setAccessibleName(place);
         view->verticalScrollBar()->setValue(view->verticalScrollBar()->minimum());
     }
 }

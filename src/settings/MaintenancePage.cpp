@@ -45,6 +45,7 @@ template <typename Control> Control* named(const char* name, Control* control)
 QLabel* labelFor(QWidget* control, const QString& caption, const QString& name)
 {
     auto* label = new QLabel(caption);
+    label->setTextFormat(Qt::PlainText);
     label->setObjectName(name);
     label->setBuddy(control);
     return label;

@@ -9,12 +9,12 @@
 #include "settings/SettingsPageHost.h"
 #include "settings/SettingsStore.h"
 #include "settings/Skins.h"
+#include "ui/CheckBox.h"
 #include "ui/CheckerTimer.h"
 #include "ui/FormServices.h"
 #include "ui/LinkLabel.h"
 
 #include <QBoxLayout>
-#include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -50,7 +50,7 @@ SettingsPage::SettingsPage(const FormServices& services, SettingsRecord& record,
 
 QCheckBox* SettingsPage::makeBox(const char* name, const QString& caption)
 {
-    auto* box = new QCheckBox(caption);
+    auto* box = new CheckBox(caption);
     box->setObjectName(QLatin1String(name));
     return box;
 }
@@ -97,12 +97,14 @@ QGroupBox* SettingsPage::makeSkinsFrame()
     m_cmbSkins->addItems({QStringLiteral("Aqua"), QStringLiteral("Lemon"), QStringLiteral("Classic")});
     m_cmbSkins->setMinimumContentsLength(20);
     auto* currentSkin = new QLabel(tr("Current s&kin"));
+    currentSkin->setTextFormat(Qt::PlainText);
     currentSkin->setObjectName(QStringLiteral("SCLabel4"));
     currentSkin->setBuddy(m_cmbSkins);
 
     m_btnBrowseNewSkin = new QPushButton(tr("Browse"));
     m_btnBrowseNewSkin->setObjectName(QStringLiteral("btnBrowseNewSkin"));
     auto* addNewSkin = new QLabel(tr("Add &new skin"));
+    addNewSkin->setTextFormat(Qt::PlainText);
     addNewSkin->setObjectName(QStringLiteral("SCLabel5"));
     addNewSkin->setBuddy(m_btnBrowseNewSkin);
     m_btnBrowseNewSkin->setAccessibleName(m_btnBrowseNewSkin->text());

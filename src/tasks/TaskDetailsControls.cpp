@@ -1,9 +1,9 @@
 #include "tasks/TaskDetailsControls.h"
 
+#include "ui/CheckBox.h"
 #include "ui/Combos.h"
 #include "ui/Pickers.h"
 
-#include <QCheckBox>
 #include <QComboBox>
 #include <QDateEdit>
 #include <QGridLayout>
@@ -29,6 +29,7 @@ template <typename Control> Control* named(const char* name, QWidget& parent)
 /// Adds a caption whose mnemonic leads to `control`.
 QLabel* addLabel(QGridLayout& grid, int row, int column, QLabel* label, const QString& text, QWidget* control)
 {
+    label->setTextFormat(Qt::PlainText);
     label->setText(text);
     label->setBuddy(control);
     grid.addWidget(label, row, column);
@@ -44,15 +45,17 @@ TaskDetailsControls::TaskDetailsControls(QWidget& form)
       cmbStatus(named<QComboBox>("cmbStatus", form)),
       cmbPeriorities(named<QComboBox>("cmbPeriorities", form)),
       framReminderLater(named<QGroupBox>("framReminderLater", form)),
-      chkEnableReminder(named<QCheckBox>("chkEnableReminder", *framReminderLater)),
+      chkEnableReminder(named<CheckBox>("chkEnableReminder", *framReminderLater)),
       lblReminderDate(named<QLabel>("lblReminderDate", *framReminderLater)),
       dtpReminderDate(named<QDateEdit>("dtpReminderDate", *framReminderLater)),
       lblReminderTime(named<QLabel>("lblReminderTime", *framReminderLater)),
       dtpReminderTime(named<QTimeEdit>("dtpReminderTime", *framReminderLater)),
-      chkReminderSound(named<QCheckBox>("chkReminderSound", *framReminderLater)),
+      chkReminderSound(named<CheckBox>("chkReminderSound", *framReminderLater)),
+      lblReminderSound(named<QLabel>("lblReminderSound", *framReminderLater)),
       txtReminderSound(named<QLineEdit>("txtReminderSound", *framReminderLater)),
       btnSoundBrowse(named<QPushButton>("btnSoundBrowse", *framReminderLater)),
-      chkReminderFile(named<QCheckBox>("chkReminderFile", *framReminderLater)),
+      chkReminderFile(named<CheckBox>("chkReminderFile", *framReminderLater)),
+      lblReminderFile(named<QLabel>("lblReminderFile", *framReminderLater)),
       txtReminderFile(named<QLineEdit>("txtReminderFile", *framReminderLater)),
       btnFileBrowse(named<QPushButton>("btnFileBrowse", *framReminderLater)),
       btnOk(named<QPushButton>("btnOk", form)), btnCancel(named<QPushButton>("btnCancel", form))
@@ -178,17 +181,18 @@ void TaskDetailsControls::layOutReminder()
     addLabel(*grid, 1, 2, lblReminderTime, tr("Reminder t&ime:"), dtpReminderTime);
     grid->addWidget(dtpReminderTime, 1, 3);
 
-    // The buttons stand below each other at the right edge; the paths take what is left.
-    auto* sound = new QHBoxLayout;
-    sound->addWidget(txtReminderSound, 1);
-    sound->addWidget(btnSoundBrowse);
     grid->addWidget(chkReminderSound, 2, 0);
-    grid->addLayout(sound, 2, 1, 1, 3);
-    auto* file = new QHBoxLayout;
-    file->addWidget(txtReminderFile, 1);
-    file->addWidget(btnFileBrowse);
     grid->addWidget(chkReminderFile, 3, 0);
-    grid->addLayout(file, 3, 1, 1, 3);
+    // The buttons stand below each other at the right edge; the paths take what is left.
+    auto* paths = new QGridLayout;
+    addLabel(*paths, 0, 0, lblReminderSound, tr("Wa&ve:"), txtReminderSound);
+    paths->addWidget(txtReminderSound, 0, 1);
+    paths->addWidget(btnSoundBrowse, 0, 2);
+    addLabel(*paths, 1, 0, lblReminderFile, tr("Pro&gram:"), txtReminderFile);
+    paths->addWidget(txtReminderFile, 1, 1);
+    paths->addWidget(btnFileBrowse, 1, 2);
+    paths->setColumnStretch(1, 1);
+    grid->addLayout(paths, 2, 1, 2, 3);
 
     grid->setColumnStretch(1, 1);
     grid->setColumnStretch(3, 1);

@@ -37,9 +37,11 @@ public:
     QLabel* lblReminderTime;
     QTimeEdit* dtpReminderTime;
     QCheckBox* chkReminderSound;
+    QLabel* lblReminderSound;
     QLineEdit* txtReminderSound;
     QPushButton* btnSoundBrowse;
     QCheckBox* chkReminderFile;
+    QLabel* lblReminderFile;
     QLineEdit* txtReminderFile;
     QPushButton* btnFileBrowse;
     QPushButton* btnOk;

@@ -166,8 +166,10 @@ void frmTaskDetails::enableReminderControls()
              m_controls.chkReminderSound, m_controls.chkReminderFile}) {
         control->setEnabled(reminder);
     }
+    m_controls.lblReminderSound->setEnabled(sound);
     m_controls.txtReminderSound->setEnabled(sound);
     m_controls.btnSoundBrowse->setEnabled(sound);
+    m_controls.lblReminderFile->setEnabled(file);
     m_controls.txtReminderFile->setEnabled(file);
     m_controls.btnFileBrowse->setEnabled(file);
 }
@@ -219,9 +221,7 @@ void frmTaskDetails::btnOk_Click()
         return;
     }
     store(entered.toTask(m_services.engine, edited()));
-    if (m_host.isAlertVisible()) {
-        emit taskStored();
-    }
+    emit taskStored();
     hide();
     emit taskSaved();
 }

@@ -33,8 +33,7 @@ public:
     void reloadCategories();
 
 signals:
-    /// The task has been written while the alert window is visible: what the alert lists may have changed.
-    /// The dialog still shows.
+    /// The task has been written: what is due may have changed. The dialog still shows.
     void taskStored();
     /// The task has been written and the dialog is hidden.
     void taskSaved();

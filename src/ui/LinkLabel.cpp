@@ -1,5 +1,7 @@
 #include "ui/LinkLabel.h"
 
+#include "ui/AccessibleControls.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -11,12 +13,18 @@ LinkLabel::LinkLabel(const QString& text, QWidget* parent) : QLabel(text, parent
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
     setAccessibleName(text);
+    installAccessibleControls();
+}
+
+void LinkLabel::click()
+{
+    emit clicked();
 }
 
 void LinkLabel::mouseReleaseEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) {
-        emit clicked();
+        click();
     }
     QLabel::mouseReleaseEvent(event);
 }
@@ -24,7 +32,7 @@ void LinkLabel::mouseReleaseEvent(QMouseEvent* event)
 void LinkLabel::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        emit clicked();
+        click();
     } else {
         QLabel::keyPressEvent(event);
     }

@@ -10,6 +10,9 @@ class LinkLabel : public QLabel
 public:
     explicit LinkLabel(const QString& text, QWidget* parent = nullptr);
 
+    /// Presses it, as a click of the user does.
+    void click();
+
 signals:
     void clicked();
 

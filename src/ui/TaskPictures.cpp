@@ -3,6 +3,17 @@
 #include "data/TaskCodes.h"
 #include "ui/clsGuiLoader.h"
 
+#include <QCoreApplication>
+
+namespace
+{
+
+struct CategoryPictures {
+    Q_DECLARE_TR_FUNCTIONS(CategoryPictures)
+};
+
+} // namespace
+
 int statusPicture(qint32 status)
 {
     switch (status) {
@@ -62,6 +73,38 @@ QString periorityWord(qint32 periority)
         return clsGuiLoader::tr("Normal");
     case TaskPeriority::Low:
         return clsGuiLoader::tr("Low");
+    default:
+        return {};
+    }
+}
+
+QString categoryPictureWord(int picture)
+{
+    switch (picture) {
+    case 0:
+        return CategoryPictures::tr("Home");
+    case 1:
+        return CategoryPictures::tr("Work");
+    case 2:
+        return CategoryPictures::tr("Shopping");
+    case 3:
+        return CategoryPictures::tr("Calendar");
+    case 4:
+        return CategoryPictures::tr("Phone");
+    case 5:
+        return CategoryPictures::tr("Mail");
+    case 6:
+        return CategoryPictures::tr("Finance");
+    case 7:
+        return CategoryPictures::tr("Health");
+    case 8:
+        return CategoryPictures::tr("Travel");
+    case 9:
+        return CategoryPictures::tr("Study");
+    case 10:
+        return CategoryPictures::tr("Family");
+    case 11:
+        return CategoryPictures::tr("Ideas");
     default:
         return {};
     }

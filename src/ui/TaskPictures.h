@@ -17,3 +17,6 @@ int periorityPicture(qint32 periority);
 QString statusWord(qint32 status);
 /// The word for a priority, as the list of choices has it; empty for an unknown code.
 QString periorityWord(qint32 periority);
+
+/// What a built-in picture for categories shows, counted from 0; empty for an unknown one.
+QString categoryPictureWord(int picture);

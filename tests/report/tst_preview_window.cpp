@@ -1,6 +1,7 @@
 #include "report/PreviewWindow.h"
 #include "support/PdfFile.h"
 #include "support/TestMain.h"
+#include "tests/report/RecordedReportHost.h"
 #include "tests/report/ReportSamples.h"
 
 #include <QApplication>
@@ -17,18 +18,6 @@
 
 namespace
 {
-
-class RecordedHost final : public ReportHost
-{
-public:
-    QString choosePdfFile(QWidget*) override { return file; }
-    void tellFailure(QWidget*, const QString& text) override { failures.append(text); }
-    void windowClosed() override { ++closed; }
-
-    QString file;
-    QStringList failures;
-    int closed = 0;
-};
 
 struct Fixture {
     explicit Fixture(int records, bool hasPrinter = false) : window(host, [hasPrinter] { return hasPrinter; })
@@ -59,7 +48,7 @@ struct Fixture {
         return preview()->grab().toImage().convertToFormat(QImage::Format_RGB32);
     }
 
-    RecordedHost host;
+    RecordedReportHost host;
     PreviewWindow window;
 };
 

@@ -10,9 +10,7 @@
 class TestHost final : public TaskDetailsHost
 {
 public:
-    bool isAlertVisible() const override { return alertVisible; }
     int selectedCategoryIndex() const override { return filterIndex; }
-    bool alertVisible = false;
     int filterIndex = 0;
 };
 

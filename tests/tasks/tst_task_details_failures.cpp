@@ -17,7 +17,6 @@ private slots:
 void TestTaskDetailsFailures::aLockedFileIsReportedAndTheInputStays()
 {
     TaskDialog dialog;
-    dialog.host.alertVisible = true;
     dialog.showValid();
     dialog.setText("txtTask", QStringLiteral(" kept "));
     {

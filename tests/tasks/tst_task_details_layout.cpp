@@ -117,7 +117,7 @@ void TestTaskDetailsLayout::everyMnemonicIsUnique()
     for (const QAbstractButton* button : dialog.form->findChildren<QAbstractButton*>()) {
         mnemonics.append(QKeySequence::mnemonic(button->text()).toString());
     }
-    QCOMPARE(mnemonics.size(), 16);
+    QCOMPARE(mnemonics.size(), 18);
     QVERIFY(!mnemonics.contains(QString()));
     mnemonics.sort();
     QCOMPARE(mnemonics.removeDuplicates(), 0);
@@ -133,7 +133,7 @@ void TestTaskDetailsLayout::everyFieldIsTheBuddyOfALabel()
     }
     buddies.sort();
     QStringList fields({"txtTask", "cmbCategories", "txtDescription", "dtpDueDate", "dtpDueTime", "cmbStatus",
-        "cmbPeriorities", "dtpReminderDate", "dtpReminderTime"});
+        "cmbPeriorities", "dtpReminderDate", "dtpReminderTime", "txtReminderSound", "txtReminderFile"});
     fields.sort();
     QCOMPARE(buddies, fields);
 }

@@ -1,6 +1,7 @@
 #include "support/TestMain.h"
 #include "tasks/TaskDialog.h"
 
+#include <QAccessible>
 #include <QCheckBox>
 
 using namespace std::chrono_literals;
@@ -12,6 +13,8 @@ class TestTaskDetailsReminder : public TestCase
 private slots:
     void enablingCopiesTheDueMoment();
     void enablingByTheKeyboardCopiesTheDueMoment();
+    void enablingThroughAssistiveTechnologyCopiesTheDueMoment();
+    void pathsAreOpenedThroughAssistiveTechnologyToo();
     void enablingAgainCopiesTheDueMomentAgain();
     void enablingOpensThePickersAndTheTwoBoxes();
     void enablingOpensThePathsOfCheckedBoxesAlone();
@@ -20,6 +23,14 @@ private slots:
     void checkedByTheProgramTheBoxCopiesNothing();
     void theSoundBoxOpensItsPath();
     void theFileBoxOpensItsPath();
+
+private:
+    static void toggleAccessibly(const TaskDialog& dialog, const char* name)
+    {
+        QAccessible::queryAccessibleInterface(dialog.widget(name))
+            ->actionInterface()
+            ->doAction(QAccessibleActionInterface::toggleAction());
+    }
 };
 
 void TestTaskDetailsReminder::enablingCopiesTheDueMoment()
@@ -42,6 +53,31 @@ void TestTaskDetailsReminder::enablingByTheKeyboardCopiesTheDueMoment()
     dialog.press(Qt::Key_Space);
     QCOMPARE(dialog.text("chkEnableReminder"), QStringLiteral("1"));
     QCOMPARE(dialog.moment("dtpReminderDate", "dtpReminderTime"), QStringLiteral("2026-01-15 12:00:00"));
+}
+
+void TestTaskDetailsReminder::enablingThroughAssistiveTechnologyCopiesTheDueMoment()
+{
+    TaskDialog dialog;
+    dialog.form->EmptyForm();
+    dialog.show();
+    dialog.setMoment("dtpDueDate", "dtpDueTime", fromStart(2h));
+    toggleAccessibly(dialog, "chkEnableReminder");
+    QCOMPARE(dialog.text("chkEnableReminder"), QStringLiteral("1"));
+    QVERIFY(dialog.widget("dtpReminderTime")->isEnabled());
+    QCOMPARE(dialog.moment("dtpReminderDate", "dtpReminderTime"), QStringLiteral("2026-01-15 12:00:00"));
+    toggleAccessibly(dialog, "chkEnableReminder");
+    QVERIFY(!dialog.widget("dtpReminderTime")->isEnabled());
+}
+
+void TestTaskDetailsReminder::pathsAreOpenedThroughAssistiveTechnologyToo()
+{
+    TaskDialog dialog;
+    dialog.showValid();
+    toggleAccessibly(dialog, "chkEnableReminder");
+    toggleAccessibly(dialog, "chkReminderSound");
+    QVERIFY(dialog.widget("txtReminderSound")->isEnabled());
+    toggleAccessibly(dialog, "chkReminderFile");
+    QVERIFY(dialog.widget("txtReminderFile")->isEnabled());
 }
 
 void TestTaskDetailsReminder::enablingAgainCopiesTheDueMomentAgain()

@@ -42,6 +42,7 @@ QString withoutPlace(const QString& topic)
 QLabel* labelFor(QWidget* buddy, const QString& text)
 {
     auto* label = new QLabel(text);
+    label->setTextFormat(Qt::PlainText);
     label->setBuddy(buddy);
     return label;
 }
