@@ -6,7 +6,6 @@
 #include <QEvent>
 #include <QFile>
 #include <QSet>
-#include <QTimer>
 #include <QWidget>
 #include <ctime>
 #include <unistd.h>
@@ -51,10 +50,17 @@ public:
     {
         if (event->type() == QEvent::Paint && watched->objectName() == QLatin1String("frmMain")) {
             qApp->removeEventFilter(this);
-            // All of the window is painted and handed to the screen within this event.
-            QTimer::singleShot(0, this, &Probe::tell);
+            // All of the window is painted and handed to the screen in one go; nothing comes between that and this.
+            QCoreApplication::postEvent(this, new QEvent(QEvent::User), Qt::HighEventPriority);
         }
         return false;
+    }
+    bool event(QEvent* event) override
+    {
+        if (event->type() == QEvent::User) {
+            tell();
+        }
+        return QObject::event(event);
     }
 
 private:

@@ -537,7 +537,7 @@
     </message>
     <message>
         <source>&amp;Export PDF...</source>
-        <translation>ت&amp;صدير PDF…</translation>
+        <translation>ت&amp;صدير إلى PDF‏…</translation>
     </message>
     <message>
         <source>&amp;First</source>
@@ -1342,7 +1342,7 @@
     </message>
     <message>
         <source>Ambertask is a simple and powerful task management software program.</source>
-        <translation>Ambertask برنامج بسيط وقوي لإدارة المهام.</translation>
+        <translation>برنامج Ambertask أداة بسيطة وقوية لإدارة المهام.</translation>
     </message>
     <message>
         <source>Ambertask comes without any warranty. Your tasks stay on this computer; keep a backup of what you would miss.</source>

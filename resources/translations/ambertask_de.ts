@@ -1137,7 +1137,7 @@ ein Fehler auf: %3.</translation>
     </message>
     <message>
         <source>Due date</source>
-        <translation>Fällig am</translation>
+        <translation>Fälligkeit</translation>
     </message>
     <message>
         <source>Kind</source>

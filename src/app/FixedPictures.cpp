@@ -1,6 +1,7 @@
 #include "app/FixedPictures.h"
 
 #include "platform/ImageList.h"
+#include "platform/SizedIcon.h"
 
 #include <array>
 
@@ -19,13 +20,12 @@ constexpr int LogoProportion = 3;
 template <std::size_t Count>
 QIcon iconOf(const QString& folder, const char* name, const std::array<int, Count>& sizes, int proportion = 1)
 {
-    QIcon icon;
+    QList<SizedPicture> pictures;
     for (const int size : sizes) {
-        // With its size given, a picture is read only when it is painted.
-        icon.addFile(QStringLiteral(":/%1/%2-%3.png").arg(folder, QLatin1String(name)).arg(size),
-            QSize(size * proportion, size));
+        pictures.append({QStringLiteral(":/%1/%2-%3.png").arg(folder, QLatin1String(name)).arg(size),
+            QSize(size * proportion, size)});
     }
-    return icon;
+    return sizedIcon(pictures);
 }
 
 } // namespace
@@ -41,6 +41,12 @@ void appendFixedPictures(ImageList& images)
 QIcon programIcon()
 {
     constexpr std::array sizes{16, 22, 24, 32, 48, 64, 128, 256};
+    return iconOf(QStringLiteral("program"), "ambertask", sizes);
+}
+
+QIcon programWindowIcon()
+{
+    constexpr std::array sizes{16, 24, 32, 48, 64, 128};
     return iconOf(QStringLiteral("program"), "ambertask", sizes);
 }
 

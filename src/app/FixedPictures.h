@@ -11,5 +11,8 @@ void appendFixedPictures(ImageList& images);
 /// The program's own icon, in all sizes.
 QIcon programIcon();
 
+/// The same for the title bars: without the sizes that only the about box shows.
+QIcon programWindowIcon();
+
 /// The mark of the about box, three times as wide as high.
 QIcon logoIcon();

@@ -21,6 +21,7 @@
 #include "tasks/frmTaskDetails.h"
 #include "ui/clsGuiLoader.h"
 
+#include <QApplication>
 #include <QTimer>
 #include <utility>
 
@@ -52,11 +53,16 @@ Program::~Program() = default;
 void Program::start(const std::function<bool()>& noteFirstStart)
 {
     m_settings = SettingsStore(m_machine.engine).read();
-    m_skins.wear(m_settings.skin);
+    const bool isSkinLoaded = m_skins.load(m_settings.skin);
     if (noteFirstStart()) {
         writeRunEntry(m_machine.registry, m_machine.engine.programFolder);
     }
-    loadMainWindow();
+    makeMainWindow();
+    // A control that is made under a style sheet is laid out anew for every parent that it gets.
+    if (isSkinLoaded) {
+        m_skins.apply();
+    }
+    m_main->Form_Load();
     m_helpViewer.SetHelpFile(pathIn(m_machine.engine.programFolder, QStringLiteral("Ambertask1.1.chm")));
     // A program that starts hidden, or whose window is never activated, has to remind all the same. A window
     // that is about to appear comes first: mapped later, it would cover the alert.
@@ -73,7 +79,7 @@ void Program::onFirstPainted()
     }
 }
 
-void Program::loadMainWindow()
+void Program::makeMainWindow()
 {
     auto* settingsPage = new SettingsPage(m_services, m_settings, m_machine.registry, m_skins, *this);
     MainWindowPages pages;
@@ -92,7 +98,7 @@ void Program::loadMainWindow()
 
     ErrorReport& errors = m_machine.errors;
     connect(m_main.get(), &frmMain::firstPainted, this, &Program::onFirstPainted, Qt::QueuedConnection);
-    connect(m_main.get(), &frmMain::activated, this, &Program::loadDialogs);
+    connect(m_main.get(), &frmMain::activated, this, &Program::loadDialogs, Qt::QueuedConnection);
     connect(m_main.get(), &frmMain::exitRequested, this, &Program::end);
     connectGuarded(
         pages.categories, &CategoriesPage::categoriesChanged, this, &Program::onCategoriesChanged, errors);
@@ -104,8 +110,6 @@ void Program::loadMainWindow()
     connectGuarded(pages.tasks, &TasksPage::printRequested, this, &Program::printTasks, errors);
 
     connectHelp(pages);
-
-    m_main->Form_Load();
 }
 
 void Program::connectHelp(const MainWindowPages& pages)
@@ -131,6 +135,8 @@ void Program::loadDialogs()
     if (std::exchange(m_dialogsLoaded, true)) {
         return;
     }
+    // Now that the main window is on the screen: the pictures of a window's icon are many, and large.
+    QApplication::setWindowIcon(programWindowIcon());
     // The alert window has to be there even when a dialog cannot be loaded: without it nothing reminds.
     m_machine.errors.guard([this] { taskDetails(); });
     m_machine.errors.guard([this] { categoryDetails(); });

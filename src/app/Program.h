@@ -78,7 +78,7 @@ signals:
     void endRequested();
 
 private:
-    void loadMainWindow();
+    void makeMainWindow();
     void onFirstPainted();
 
     void connectHelp(const MainWindowPages& pages);

@@ -36,7 +36,6 @@ frmMain::frmMain(
 {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QStringLiteral("Ambertask"));
-    setWindowIcon(programIcon());
     m_tabs->setObjectName(QStringLiteral("tabMain"));
     m_tabs->addTab(m_pages.tasks, tr("Tasks"));
     m_tabs->addTab(m_pages.categories, tr("Categories"));
@@ -126,8 +125,9 @@ void frmMain::Form_Load()
     m_pages.tasks->fillFilters();
     m_pages.settings->LoadSkinsList();
     m_pages.settings->LoadSettingsPage();
+    // Selecting the date option builds the list; nothing runs in between that could change it before the next
+    // step, which would build it again.
     ApplyChanges();
-    LoadTasks();
     m_pages.maintenance->prepareFilters();
     m_tabs->setCurrentIndex(TasksIndex);
     m_loaded = true;
@@ -135,7 +135,7 @@ void frmMain::Form_Load()
     if (m_ending) {
         return;
     }
-    m_trayIcon.add(windowIcon(), tr("Ambertaks"), m_trayMenu);
+    m_trayIcon.add(programIcon(), tr("Ambertaks"), m_trayMenu);
     if (!m_settings.minimize_on_start) {
         if (m_settings.always_on_top) {
             makeTopmost(this);
@@ -242,7 +242,8 @@ void frmMain::syncTrayCaption()
 
 bool frmMain::event(QEvent* event)
 {
-    if (event->type() == QEvent::WindowActivate && m_loaded) {
+    // A window that becomes active before it is on the screen gets there first.
+    if (event->type() == QEvent::WindowActivate && m_painted) {
         emit activated();
     }
     return QWidget::event(event);

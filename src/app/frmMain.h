@@ -82,7 +82,7 @@ public:
     CategoriesPage* categoriesPage() const { return m_pages.categories; }
 
 signals:
-    /// The window has become the active one.
+    /// The window, painted before, has become the active one.
     void activated();
     /// The window has appeared on the screen for the first time.
     void firstPainted();

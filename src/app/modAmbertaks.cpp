@@ -1,7 +1,6 @@
 #include "app/modAmbertaks.h"
 
 #include "app/Application.h"
-#include "app/FixedPictures.h"
 #include "app/Program.h"
 #include "app/drTasks.h"
 #include "platform/Clock.h"
@@ -107,7 +106,6 @@ int runAmbertask(int argc, char** argv)
     Application application(argc, argv);
     QCoreApplication::setApplicationName(QLatin1String(ProductName));
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    QApplication::setWindowIcon(programIcon());
     QGuiApplication::setDesktopFileName(QLatin1String(DesktopEntryName));
     // Only the entry that the settings page writes starts the program with the session.
     QObject::connect(&application, &QGuiApplication::saveStateRequest, &application,

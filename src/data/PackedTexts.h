@@ -2,17 +2,35 @@
 
 #include <QString>
 #include <array>
-#include <string>
+#include <cstdint>
+#include <memory>
 #include <string_view>
 
-/// `Count` texts in one buffer: a record of a long list costs one allocation, not one a field. UTF-8 inside.
+/// `Count` texts in one buffer: a record of a long list costs one allocation, not one a field, and a pointer.
+/// UTF-8 inside. Copyable; of texts that were moved from, all are empty.
 template <std::size_t Count> class PackedTexts
 {
 public:
+    PackedTexts() = default;
+    PackedTexts(PackedTexts&&) noexcept = default;
+    PackedTexts& operator=(PackedTexts&&) noexcept = default;
+    ~PackedTexts() = default;
+    PackedTexts(const PackedTexts& other) { assign(other.all()); }
+    PackedTexts& operator=(const PackedTexts& other)
+    {
+        if (this != &other) {
+            assign(other.all());
+        }
+        return *this;
+    }
+
     std::string_view utf8(std::size_t index) const
     {
-        const std::size_t begin = index == 0 ? 0 : m_ends[index - 1];
-        return std::string_view(m_buffer).substr(begin, m_ends[index] - begin);
+        if (m_buffer == nullptr) {
+            return {};
+        }
+        const std::uint32_t begin = index == 0 ? 0 : m_buffer[index - 1];
+        return {reinterpret_cast<const char*>(&m_buffer[Count]) + begin, m_buffer[index] - begin};
     }
     QString text(std::size_t index) const
     {
@@ -21,29 +39,40 @@ public:
     }
     void set(std::size_t index, std::string_view value)
     {
-        const std::size_t begin = index == 0 ? 0 : m_ends[index - 1];
-        const std::size_t oldSize = m_ends[index] - begin;
-        m_buffer.replace(begin, oldSize, value);
-        for (std::size_t i = index; i < Count; ++i) {
-            m_ends[i] = static_cast<std::uint32_t>(m_ends[i] - oldSize + value.size());
-        }
+        std::array<std::string_view, Count> values = all();
+        values[index] = value;
+        assign(values);
     }
-    /// Replaces all texts at once, with one allocation.
+    /// Replaces all texts at once, with one allocation. They may be texts of this object.
     void assign(const std::array<std::string_view, Count>& values)
     {
         std::size_t size = 0;
         for (const std::string_view value : values) {
             size += value.size();
         }
-        m_buffer.clear();
-        m_buffer.reserve(size);
+        // The ends of the texts, then the texts.
+        std::unique_ptr<std::uint32_t[]> buffer(new std::uint32_t[Count + (size + WordSize - 1) / WordSize]);
+        char* texts = reinterpret_cast<char*>(&buffer[Count]);
+        std::uint32_t end = 0;
         for (std::size_t i = 0; i < Count; ++i) {
-            m_buffer.append(values[i]);
-            m_ends[i] = static_cast<std::uint32_t>(m_buffer.size());
+            values[i].copy(texts + end, values[i].size());
+            end += static_cast<std::uint32_t>(values[i].size());
+            buffer[i] = end;
         }
+        m_buffer = std::move(buffer);
     }
 
 private:
-    std::string m_buffer;
-    std::array<std::uint32_t, Count> m_ends{};
+    static constexpr std::size_t WordSize = sizeof(std::uint32_t);
+
+    std::array<std::string_view, Count> all() const
+    {
+        std::array<std::string_view, Count> values;
+        for (std::size_t i = 0; i < Count; ++i) {
+            values[i] = utf8(i);
+        }
+        return values;
+    }
+
+    std::unique_ptr<std::uint32_t[]> m_buffer; ///< null for empty texts
 };

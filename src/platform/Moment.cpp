@@ -19,17 +19,15 @@ void writeDigits(std::string& text, std::size_t position, int count, unsigned va
     }
 }
 
-/// The number in `count` digits at `position`; -1 when one of them is no digit.
-int readDigits(std::string_view text, std::size_t position, std::size_t count)
+/// The number in the two digits at `position`; 100 or more when one of them is no digit.
+unsigned twoDigits(std::string_view text, std::size_t position)
 {
-    int value = 0;
-    for (const char c : text.substr(position, count)) {
-        if (c < '0' || c > '9') {
-            return -1;
-        }
-        value = value * 10 + (c - '0');
-    }
-    return value;
+    const auto digit = [text](std::size_t place) {
+        return static_cast<unsigned>(static_cast<unsigned char>(text[place])) - '0';
+    };
+    const unsigned tens = digit(position);
+    const unsigned ones = digit(position + 1);
+    return tens > 9 || ones > 9 ? 100 : tens * 10 + ones;
 }
 
 } // namespace
@@ -90,18 +88,16 @@ std::optional<Moment> momentFromStoredText(std::string_view text)
         || text[16] != ':') {
         return std::nullopt;
     }
-    const int year = readDigits(text, 0, 4);
-    const int month = readDigits(text, 5, 2);
-    const int day = readDigits(text, 8, 2);
-    const int hour = readDigits(text, 11, 2);
-    const int minute = readDigits(text, 14, 2);
-    const int second = readDigits(text, 17, 2);
-    if (year < 0 || month < 0 || day < 0 || hour < 0 || hour > 23 || minute < 0 || minute > 59 || second < 0
-        || second > 59) {
+    const unsigned century = twoDigits(text, 0);
+    const unsigned yearOfCentury = twoDigits(text, 2);
+    const unsigned hour = twoDigits(text, 11);
+    const unsigned minute = twoDigits(text, 14);
+    const unsigned second = twoDigits(text, 17);
+    if (century > 99 || yearOfCentury > 99 || hour > 23 || minute > 59 || second > 59) {
         return std::nullopt;
     }
-    const std::chrono::year_month_day date(std::chrono::year(year),
-        std::chrono::month(static_cast<unsigned>(month)), std::chrono::day(static_cast<unsigned>(day)));
+    const std::chrono::year_month_day date(std::chrono::year(static_cast<int>(century * 100 + yearOfCentury)),
+        std::chrono::month(twoDigits(text, 5)), std::chrono::day(twoDigits(text, 8)));
     if (!date.ok()) {
         return std::nullopt;
     }

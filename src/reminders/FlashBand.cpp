@@ -40,6 +40,6 @@ void FlashBand::paintEvent(QPaintEvent*)
     painter.fillRect(rect(), paper);
     painter.setPen(ink);
     const int alignment = QStyle::visualAlignment(layoutDirection(), this->alignment()).toInt();
-    painter.drawText(
-        contentsRect().adjusted(margin(), 0, -margin(), 0), alignment | Qt::TextShowMnemonic, text());
+    style()->drawItemText(&painter, contentsRect().adjusted(margin(), 0, -margin(), 0),
+        alignment | Qt::TextShowMnemonic, palette(), true, text());
 }

@@ -3,6 +3,8 @@
 #include "settings/SkinStyle.h"
 
 #include <QApplication>
+#include <QFileInfo>
+#include <system_error>
 
 SkinEngine::SkinEngine()
 {
@@ -12,12 +14,25 @@ SkinEngine::SkinEngine()
 
 SkinInfo SkinEngine::skinInfo(const QString& path)
 {
-    return SkinFile::read(path).info;
+    return read(path).info;
 }
 
 void SkinEngine::loadSkinFile(const QString& path)
 {
-    m_loaded = SkinFile::read(path);
+    m_loaded = read(path);
+}
+
+const SkinFile& SkinEngine::read(const QString& path)
+{
+    const QFileInfo info(path);
+    std::error_code error;
+    const auto changed = std::filesystem::last_write_time(info.filesystemFilePath(), error);
+    const auto known = m_read.constFind(path);
+    if (known != m_read.constEnd() && !error && known->changed == changed && known->size == info.size()) {
+        return known->skin;
+    }
+    m_read.remove(path);
+    return m_read.insert(path, {changed, info.size(), SkinFile::read(path)})->skin;
 }
 
 void SkinEngine::applySkin()

@@ -1,6 +1,5 @@
 #include "settings/SkinHeader.h"
 
-#include <QRegularExpression>
 #include <algorithm>
 #include <array>
 
@@ -25,12 +24,51 @@ constexpr std::array<NamedRole, 20> Roles{
         {u"LinkVisited", QPalette::LinkVisited}, {u"ToolTipBase", QPalette::ToolTipBase},
         {u"ToolTipText", QPalette::ToolTipText}}};
 
+bool isLower(QChar c)
+{
+    return c >= u'a' && c <= u'z';
+}
+
+/// Letters, digits and "_".
+bool isWord(QStringView text)
+{
+    return !text.isEmpty() && std::all_of(text.begin(), text.end(), [](QChar c) {
+        return c == u'_' || (c < QChar(0x80) && c.isLetterOrNumber());
+    });
+}
+
+/// Small letters, digits and hyphens, a letter first.
+bool isToken(QStringView text)
+{
+    return !text.isEmpty() && isLower(text.front()) && std::all_of(text.begin(), text.end(), [](QChar c) {
+        return c == u'-' || isLower(c) || (c >= u'0' && c <= u'9');
+    });
+}
+
+/// "#rrggbb".
+bool isColor(QStringView text)
+{
+    return text.size() == 7 && text.front() == u'#' && std::all_of(text.begin() + 1, text.end(), [](QChar c) {
+        return (c >= u'0' && c <= u'9') || (c >= u'a' && c <= u'f') || (c >= u'A' && c <= u'F');
+    });
+}
+
+/// The text up to the first blanks, and what follows them.
+std::pair<QStringView, QStringView> firstWord(QStringView text)
+{
+    const auto* end = std::find_if(text.begin(), text.end(), [](QChar c) { return c.isSpace(); });
+    const qsizetype length = end - text.begin();
+    return {text.first(length), text.mid(length).trimmed()};
+}
+
 // The name of a skin is the base name of its file, on every system.
 bool couldBeFileName(const QString& name)
 {
-    static const QRegularExpression forbidden(QStringLiteral("[\\x00-\\x1f\\x7f/\\\\:*?\"<>|]"));
-    return !name.isEmpty() && name.size() <= LongestName && !name.contains(forbidden)
-        && !name.startsWith(u'.') && !name.endsWith(u'.');
+    const bool isAllowed = std::none_of(name.begin(), name.end(), [](QChar c) {
+        return c < QChar(0x20) || c == QChar(0x7f) || QStringView(u"/\\:*?\"<>|").contains(c);
+    });
+    return !name.isEmpty() && name.size() <= LongestName && isAllowed && !name.startsWith(u'.')
+        && !name.endsWith(u'.');
 }
 
 } // namespace
@@ -99,31 +137,29 @@ void SkinHeader::takeText(QString& field, QStringView keyword, QStringView value
 
 void SkinHeader::takeColor(QStringView value, int number)
 {
-    static const QRegularExpression form(QStringLiteral("^([a-z][a-z0-9-]*)\\s+(#[0-9A-Fa-f]{6})$"));
-    const QRegularExpressionMatch match = form.match(value.toString());
-    if (!match.hasMatch()) {
+    const auto [token, color] = firstWord(value);
+    if (!isToken(token) || !isColor(color)) {
         throw SkinLineError(number, tr("expected \"@color token #rrggbb\""));
     }
-    if (m_colors.contains(match.captured(1))) {
-        throw SkinLineError(number, tr("a second colour \"%1\"").arg(match.captured(1)));
+    if (m_colors.contains(token.toString())) {
+        throw SkinLineError(number, tr("a second colour \"%1\"").arg(token));
     }
-    m_colors.insert(match.captured(1), QColor(match.captured(2)));
+    m_colors.insert(token.toString(), QColor(color));
 }
 
 void SkinHeader::takeRole(bool disabled, QStringView value, int number)
 {
-    static const QRegularExpression form(QStringLiteral("^(\\w+)\\s+\\$([a-z][a-z0-9-]*)$"));
-    const QRegularExpressionMatch match = form.match(value.toString());
-    if (!match.hasMatch()) {
+    const auto [name, token] = firstWord(value);
+    if (!token.startsWith(u'$') || !isToken(token.mid(1)) || !isWord(name)) {
         throw SkinLineError(number,
             disabled ? tr("expected \"@disabled Role $token\"") : tr("expected \"@palette Role $token\""));
     }
-    const auto* role = std::find_if(Roles.begin(), Roles.end(),
-        [&match](const NamedRole& candidate) { return candidate.name == match.captured(1); });
+    const auto* role = std::find_if(
+        Roles.begin(), Roles.end(), [&name](const NamedRole& candidate) { return candidate.name == name; });
     if (role == Roles.end()) {
-        throw SkinLineError(number, tr("unknown palette role \"%1\"").arg(match.captured(1)));
+        throw SkinLineError(number, tr("unknown palette role \"%1\"").arg(name));
     }
-    m_roles.append({role->role, disabled, match.captured(2), number});
+    m_roles.append({role->role, disabled, token.mid(1).toString(), number});
 }
 
 void SkinHeader::check() const

@@ -12,23 +12,36 @@ struct SkinSheet {
     Q_DECLARE_TR_FUNCTIONS(SkinSheet)
 };
 
+bool isWordCharacter(QChar c)
+{
+    return c == u'_' || (c < QChar(0x80) && c.isLetterOrNumber());
+}
+
+/// Where the run of word characters and hyphens that begins at `start` ends.
+qsizetype endOfWord(QStringView text, qsizetype start)
+{
+    while (start < text.size() && (isWordCharacter(text[start]) || text[start] == u'-')) {
+        ++start;
+    }
+    return start;
+}
+
 QString withColors(QStringView sheet, int firstLine, const SkinColors& colors)
 {
-    static const QRegularExpression token(QStringLiteral("\\$([A-Za-z0-9_-]*)"));
     QString expanded;
-    int line = firstLine;
+    expanded.reserve(sheet.size() + sheet.size() / 8);
     qsizetype copied = 0;
-    for (auto matches = token.globalMatch(sheet.toString()); matches.hasNext();) {
-        const QRegularExpressionMatch match = matches.next();
-        const QStringView before = sheet.mid(copied, match.capturedStart() - copied);
-        line += static_cast<int>(before.count(u'\n'));
-        const auto color = colors.find(match.captured(1));
+    for (qsizetype token = sheet.indexOf(u'$'); token >= 0; token = sheet.indexOf(u'$', copied)) {
+        const qsizetype end = endOfWord(sheet, token + 1);
+        const QString name = sheet.mid(token + 1, end - token - 1).toString();
+        const auto color = colors.find(name);
         if (color == colors.end()) {
-            throw SkinLineError(line, SkinSheet::tr("unknown colour \"$%1\"").arg(match.captured(1)));
+            throw SkinLineError(firstLine + static_cast<int>(sheet.first(token).count(u'\n')),
+                SkinSheet::tr("unknown colour \"$%1\"").arg(name));
         }
-        expanded += before;
+        expanded += sheet.mid(copied, token - copied);
         expanded += color->name();
-        copied = match.capturedEnd();
+        copied = end;
     }
     expanded += sheet.mid(copied);
     return expanded;
@@ -40,14 +53,15 @@ QString withoutCommentsAndStrings(QStringView sheet, int firstLine)
 {
     QString plain = sheet.toString();
     int line = firstLine;
-    for (qsizetype i = 0; i < plain.size(); ++i) {
-        const bool comment = QStringView(plain).mid(i).startsWith(u"/*");
-        if (!comment && plain[i] != u'"' && plain[i] != u'\'') {
-            line += plain[i] == u'\n' ? 1 : 0;
+    for (qsizetype i = 0; i < sheet.size(); ++i) {
+        const QChar c = sheet[i];
+        const bool comment = c == u'/' && sheet.mid(i).startsWith(u"/*");
+        if (!comment && c != u'"' && c != u'\'') {
+            line += c == u'\n' ? 1 : 0;
             continue;
         }
-        const QString close = comment ? QStringLiteral("*/") : QString(plain[i]);
-        const qsizetype end = plain.indexOf(close, i + (comment ? 2 : 1));
+        const QString close = comment ? QStringLiteral("*/") : QString(c);
+        const qsizetype end = sheet.indexOf(close, i + (comment ? 2 : 1));
         if (end < 0) {
             throw SkinLineError(line,
                 comment ? SkinSheet::tr("a comment has no end")
@@ -68,12 +82,16 @@ QString withoutCommentsAndStrings(QStringView sheet, int firstLine)
 
 /// What a style sheet may not do, wherever it does it.
 struct Refusal {
+    QLatin1String sign; ///< stands in every match of the pattern; looked for first, because patterns are slow
     QRegularExpression pattern;
     const char* why;
 };
 
 void refuse(const QString& text, int line, const Refusal& refusal)
 {
+    if (!text.contains(refusal.sign, Qt::CaseInsensitive)) {
+        return;
+    }
     const QRegularExpressionMatch match = refusal.pattern.match(text);
     if (match.hasMatch()) {
         const qsizetype before = QStringView(text).first(match.capturedStart()).count(u'\n');
@@ -87,16 +105,48 @@ QRegularExpression pattern(const char* text)
     return QRegularExpression(QLatin1String(text), QRegularExpression::CaseInsensitiveOption);
 }
 
+/// What a selector says of the controls that it reaches: their type and their name, as far as it names them.
+struct SelectorSubject {
+    explicit SelectorSubject(QStringView selector)
+    {
+        QStringView rest = selector.trimmed();
+        for (qsizetype i = rest.size() - 1; i >= 0; --i) {
+            if (rest[i].isSpace() || rest[i] == u'>') {
+                rest = rest.mid(i + 1);
+                break;
+            }
+        }
+        if (rest.startsWith(u'.')) {
+            rest = rest.mid(1);
+        }
+        type = rest.startsWith(u'*') ? rest.first(1) : word(rest);
+        rest = rest.mid(type.size());
+        for (qsizetype close = 0; rest.startsWith(u'[') && (close = rest.indexOf(u']')) > 0;) {
+            rest = rest.mid(close + 1);
+        }
+        if (rest.startsWith(u'#')) {
+            name = word(rest.mid(1));
+        }
+    }
+
+    QStringView type;
+    QStringView name;
+
+private:
+    static QStringView word(QStringView text)
+    {
+        const auto end = std::find_if_not(text.begin(), text.end(), isWordCharacter);
+        return text.first(end - text.begin());
+    }
+};
+
 /// Whether a selector reaches a control that has an arrow: by its own type, or because it reaches every
 /// widget.
 bool reachesArrows(QStringView selector)
 {
-    static const QRegularExpression subject(QStringLiteral("([^\\s>]+)\\s*$"));
-    static const QRegularExpression parts(
-        QStringLiteral("^\\.?(\\*|[A-Za-z_]\\w*)?(?:\\[[^\\]]*\\])*(?:#(\\w+))?"));
-    const QRegularExpressionMatch match = parts.match(subject.match(selector.toString()).captured(1));
-    const QString type = match.captured(1);
-    const QString name = match.captured(2);
+    const SelectorSubject subject(selector);
+    const QStringView type = subject.type;
+    const QStringView name = subject.name;
     if (type.isEmpty() || type == u"*" || type == u"QWidget" || type == u"QObject") {
         return name.isEmpty() || name.startsWith(u"cmb") || name.startsWith(u"dtp");
     }
@@ -107,40 +157,52 @@ bool reachesArrows(QStringView selector)
 
 void checkRule(const QString& selectors, int selectorLine, const QString& declarations, int line)
 {
-    static const Refusal drawnParts{
+    static const Refusal drawnParts{QLatin1String("::"),
         pattern(
             "::(indicator|menu-indicator|menu-button|menu-arrow|up-arrow|down-arrow|left-arrow|right-arrow"
             "|drop-down|up-button|down-button|branch)\\b"),
         QT_TRANSLATE_NOOP("SkinSheet", "\"%1\" is drawn by the program")};
-    static const Refusal atRule{pattern("@[\\w-]+"), QT_TRANSLATE_NOOP("SkinSheet", "\"%1\" is not allowed")};
-    static const Refusal otherFiles{pattern("\\burl\\s*\\("),
+    static const Refusal atRule{
+        QLatin1String("@"), pattern("@[\\w-]+"), QT_TRANSLATE_NOOP("SkinSheet", "\"%1\" is not allowed")};
+    static const Refusal otherFiles{QLatin1String("url"), pattern("\\burl\\s*\\("),
         QT_TRANSLATE_NOOP("SkinSheet", "\"%1\": a skin is one file and holds no pictures")};
-    static const Refusal properties{
-        pattern("\\bqproperty-[\\w-]+"), QT_TRANSLATE_NOOP("SkinSheet", "\"%1\" is not allowed")};
-    static const Refusal boxes{pattern("(^|[;\\s])(border|background)[\\w-]*\\s*:"),
-        QT_TRANSLATE_NOOP("SkinSheet", "\"%1\" would take the arrow of a list or picker away")};
+    static const Refusal properties{QLatin1String("qproperty-"), pattern("\\bqproperty-[\\w-]+"),
+        QT_TRANSLATE_NOOP("SkinSheet", "\"%1\" is not allowed")};
+    constexpr const char* takesArrow =
+        QT_TRANSLATE_NOOP("SkinSheet", "\"%1\" would take the arrow of a list or picker away");
+    static const Refusal borders{
+        QLatin1String("border"), pattern("(^|[;\\s])border[\\w-]*\\s*:"), takesArrow};
+    static const Refusal grounds{
+        QLatin1String("background"), pattern("(^|[;\\s])background[\\w-]*\\s*:"), takesArrow};
     refuse(selectors, selectorLine, drawnParts);
     refuse(selectors, selectorLine, atRule);
     refuse(declarations, line, otherFiles);
     refuse(declarations, line, properties);
     for (const QStringView selector : QStringView(selectors).split(u',')) {
         if (!selector.contains(u"::") && reachesArrows(selector)) {
-            refuse(declarations, line, boxes);
+            refuse(declarations, line, borders);
+            refuse(declarations, line, grounds);
         }
     }
 }
 
-void checkDeclarations(const QString& declarations, int line)
+/// "property: value", without blanks at its ends.
+bool isDeclaration(QStringView text)
 {
-    static const QRegularExpression form(QStringLiteral("^\\s*[\\w-]+\\s*:\\s*\\S[\\s\\S]*$"));
-    for (const QString& declaration : declarations.split(u';')) {
-        const QString text = declaration.trimmed();
-        const auto blankLines = QStringView(declaration)
-                                    .first(declaration.indexOf(text.isEmpty() ? QString() : text))
-                                    .count(u'\n');
-        if (!text.isEmpty() && !form.match(text).hasMatch()) {
+    const qsizetype end = endOfWord(text, 0);
+    const QStringView rest = text.mid(end).trimmed();
+    return end > 0 && rest.size() > 1 && rest.startsWith(u':');
+}
+
+void checkDeclarations(QStringView declarations, int line)
+{
+    for (const QStringView declaration : declarations.split(u';')) {
+        const QStringView text = declaration.trimmed();
+        if (!text.isEmpty() && !isDeclaration(text)) {
+            const auto blankLines = declaration.first(text.begin() - declaration.begin()).count(u'\n');
             throw SkinLineError(line + static_cast<int>(blankLines),
-                SkinSheet::tr("\"%1\" is no property with a value").arg(text.section(u'\n', 0, 0)));
+                SkinSheet::tr("\"%1\" is no property with a value")
+                    .arg(text.toString().section(u'\n', 0, 0)));
         }
         line += static_cast<int>(declaration.count(u'\n'));
     }

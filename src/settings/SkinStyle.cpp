@@ -1,5 +1,6 @@
 #include "settings/SkinStyle.h"
 
+#include "settings/JoinedText.h"
 #include "settings/SkinPainting.h"
 
 #include <QAbstractScrollArea>
@@ -165,6 +166,23 @@ void SkinStyle::drawSpinBox(const QStyleOptionComplex& option, QPainter& painter
     };
     paintButton(SC_SpinBoxUp, QAbstractSpinBox::StepUpEnabled, Qt::UpArrow);
     paintButton(SC_SpinBoxDown, QAbstractSpinBox::StepDownEnabled, Qt::DownArrow);
+}
+
+void SkinStyle::drawItemText(QPainter* painter, const QRect& rect, int flags, const QPalette& palette,
+    bool enabled, const QString& text, QPalette::ColorRole role) const
+{
+    if (!(flags & Qt::TextShowMnemonic) || !hasJoinedLetters(text)) {
+        QProxyStyle::drawItemText(painter, rect, flags, palette, enabled, text, role);
+        return;
+    }
+    const int unmarked = (flags & ~Qt::TextShowMnemonic) | Qt::TextHideMnemonic;
+    QProxyStyle::drawItemText(painter, rect, unmarked, palette, enabled, text, role);
+    painter->save();
+    if (role != QPalette::NoRole) {
+        painter->setPen(palette.color(role));
+    }
+    underlineMnemonic(*painter, itemTextRect(painter->fontMetrics(), rect, unmarked, enabled, text), text);
+    painter->restore();
 }
 
 int SkinStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const

@@ -24,14 +24,14 @@ QString Skins::fileOf(const QString& name) const
     return m_folder + u'/' + name + QStringLiteral(".skf");
 }
 
-QStringList Skins::names() const
+QStringList Skins::names()
 {
     QStringList names;
     QDirIterator files(
         m_folder, {QStringLiteral("*.skf")}, QDir::Files | QDir::Hidden | QDir::System | QDir::CaseSensitive);
     while (files.hasNext()) {
         try {
-            names.append(SkinEngine::skinInfo(files.next()).name);
+            names.append(engine().skinInfo(files.next()).name);
         } catch (const SkinError&) {
             // Not a skin that could be worn.
         }
@@ -48,7 +48,7 @@ SkinEngine& Skins::engine()
     return *m_engine;
 }
 
-bool Skins::wear(const QString& name)
+bool Skins::load(const QString& name)
 {
     // A list without skins names none.
     if (name.isEmpty()) {
@@ -62,14 +62,27 @@ bool Skins::wear(const QString& name)
         noteUnreadable(fileName, error.text());
         return false;
     }
-    engine().applySkin();
     m_reported.removeAll(fileName);
     return true;
 }
 
+void Skins::apply()
+{
+    engine().applySkin();
+}
+
+bool Skins::wear(const QString& name)
+{
+    const bool isLoaded = load(name);
+    if (isLoaded) {
+        apply();
+    }
+    return isLoaded;
+}
+
 void Skins::add(const QString& file) const
 {
-    SkinEngine::skinInfo(file);
+    SkinFile::read(file);
     replaceByCopy(file, pathIn(m_folder, file.section(u'/', -1)), PublicFile);
 }
 

@@ -23,7 +23,11 @@ public:
     QString fileOf(const QString& name) const;
     /// The names of the skins in the folder, in the file system's order; unreadable files are left out.
     /// Pending messages other than user input run between the files.
-    QStringList names() const;
+    QStringList names();
+    /// Loads the skin of that name without applying it. False when it cannot be; what `wear` says holds.
+    bool load(const QString& name);
+    /// All windows wear the skin that was loaded last.
+    void apply();
     /// Loads and applies the skin of that name. False when it cannot be: the look stays as it was, and the
     /// user is told once, by file name, when the window of `reportOn` is on the screen. No name is no fault.
     bool wear(const QString& name);

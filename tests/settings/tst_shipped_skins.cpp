@@ -154,7 +154,7 @@ void TestShippedSkins::fiveSkinsAreShipped()
 void TestShippedSkins::aSkinIsNamedAfterItsFile()
 {
     QFETCH(const QString, skin);
-    const SkinInfo info = SkinEngine::skinInfo(pathOf(skin));
+    const SkinInfo info = m_engine->skinInfo(pathOf(skin));
     QCOMPARE(info.name, skin);
     QVERIFY(!info.version.isEmpty() && !info.author.isEmpty() && !info.description.isEmpty());
 }

@@ -68,13 +68,15 @@ template <typename Integer> Integer integer(sqlite3_stmt* statement, int field)
 
 RecordSet::RecordSet() = default;
 RecordSet::RecordSet(RecordSet&& other) noexcept
-    : m_cursor(std::move(other.m_cursor)), m_atEnd(std::exchange(other.m_atEnd, true))
+    : m_cursor(std::move(other.m_cursor)), m_fieldCount(other.m_fieldCount),
+      m_atEnd(std::exchange(other.m_atEnd, true))
 {
 }
 
 RecordSet& RecordSet::operator=(RecordSet&& other) noexcept
 {
     m_cursor = std::move(other.m_cursor);
+    m_fieldCount = other.m_fieldCount;
     m_atEnd = std::exchange(other.m_atEnd, true);
     return *this;
 }
@@ -84,6 +86,8 @@ RecordSet::~RecordSet() = default;
 RecordSet::RecordSet(std::unique_ptr<Cursor> cursor) : m_cursor(std::move(cursor))
 {
     m_atEnd = !m_cursor->step();
+    // Known only now: the engine may have compiled the statement anew for its first row.
+    m_fieldCount = sqlite3_column_count(m_cursor->statement());
 }
 
 void RecordSet::moveNext()
@@ -119,7 +123,7 @@ void RecordSet::requireField(int field) const
     if (m_atEnd || m_cursor->statement() == nullptr) {
         refuse(tr("There is no current record."));
     }
-    if (field < 0 || field >= sqlite3_column_count(m_cursor->statement())) {
+    if (field < 0 || field >= m_fieldCount) [[unlikely]] {
         refuse(tr("There is no field number %1.").arg(field));
     }
 }

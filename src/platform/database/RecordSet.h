@@ -49,5 +49,6 @@ private:
     void requireField(int field) const;
 
     std::unique_ptr<Cursor> m_cursor;
+    int m_fieldCount = 0;
     bool m_atEnd = true;
 };

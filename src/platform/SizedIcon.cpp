@@ -1,0 +1,78 @@
+#include "platform/SizedIcon.h"
+
+#include <QGuiApplication>
+#include <QIconEngine>
+#include <QPainter>
+#include <algorithm>
+#include <memory>
+#include <vector>
+
+namespace
+{
+
+class SizedIconEngine final : public QIconEngine
+{
+public:
+    explicit SizedIconEngine(const QList<SizedPicture>& pictures) : m_shared(std::make_shared<Shared>())
+    {
+        m_shared->pictures = pictures;
+        m_shared->read.resize(static_cast<std::size_t>(pictures.size()));
+    }
+
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override
+    {
+        const QPaintDevice* device = painter->device();
+        const qreal scale = device == nullptr ? qGuiApp->devicePixelRatio() : device->devicePixelRatioF();
+        painter->drawPixmap(rect, pixmap(rect.size() * scale, mode, state));
+    }
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
+    {
+        return fitting(size).pixmap(size, 1, mode, state);
+    }
+    QSize actualSize(const QSize& size, QIcon::Mode /*mode*/, QIcon::State /*state*/) override
+    {
+        const QSize largest = m_shared->pictures.constLast().size;
+        const bool fits = largest.width() <= size.width() && largest.height() <= size.height();
+        return fits ? largest : largest.scaled(size, Qt::KeepAspectRatio);
+    }
+    QList<QSize> availableSizes(QIcon::Mode /*mode*/, QIcon::State /*state*/) override
+    {
+        QList<QSize> sizes;
+        for (const SizedPicture& picture : m_shared->pictures) {
+            sizes.append(picture.size);
+        }
+        return sizes;
+    }
+    QIconEngine* clone() const override { return new SizedIconEngine(*this); }
+
+private:
+    struct Shared {
+        QList<SizedPicture> pictures;
+        std::vector<QIcon> read;
+    };
+
+    /// The smallest picture that need not be enlarged, else the largest one.
+    const QIcon& fitting(const QSize& size) const
+    {
+        const auto found = std::find_if(
+            m_shared->pictures.cbegin(), m_shared->pictures.cend(), [&size](const SizedPicture& picture) {
+                return picture.size.width() >= size.width() || picture.size.height() >= size.height();
+            });
+        const auto index = std::min(found - m_shared->pictures.cbegin(), m_shared->pictures.size() - 1);
+        QIcon& icon = m_shared->read[static_cast<std::size_t>(index)];
+        if (icon.isNull()) {
+            icon.addFile(m_shared->pictures[index].file);
+        }
+        return icon;
+    }
+
+    // Copies of an icon share what has been read.
+    std::shared_ptr<Shared> m_shared;
+};
+
+} // namespace
+
+QIcon sizedIcon(const QList<SizedPicture>& pictures)
+{
+    return QIcon(new SizedIconEngine(pictures));
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QIcon>
+#include <QList>
+
+/// One picture in a file of its own for each size.
+struct SizedPicture {
+    QString file;
+    QSize size;
+};
+
+/// An icon of a picture that comes in several sizes, the smallest first, none of them empty. A file is read
+/// when the picture is first painted in about that size: the toolkit's own icons read all of them at once.
+QIcon sizedIcon(const QList<SizedPicture>& pictures);
