@@ -229,6 +229,18 @@ std::vector<ClsTask> ClsTask::GetTasks(qint16 cat, qint32 status, qint32 sortBy,
     return tasks;
 }
 
+void ClsTask::readAll() const
+{
+    Connection connection = ClsDatabase(*m_engine).Connect();
+    connection.open();
+    RecordSet records = connection.execute(SelectJoin);
+    const Reader reader(records);
+    for (ClsTask task(*m_engine); !records.atEnd(); records.moveNext()) {
+        reader.read(records, task);
+    }
+    connection.close();
+}
+
 void ClsTask::DeleteTasks(qint16 cat, qint32 status, Moment fromDate, Moment toDate, qint32 taskType) const
 {
     runAlone(*m_engine,

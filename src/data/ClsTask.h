@@ -58,6 +58,8 @@ public:
     /// `fromDate` and `toDate` count as whole days and only when `isDateRange` is set.
     std::vector<ClsTask> GetTasks(qint16 cat, qint32 status, qint32 sortBy, bool isDateRange, Moment fromDate,
         Moment toDate, qint32 taskType) const;
+    /// Reads every task that the list shows, and keeps none: throws what `GetTasks` would throw.
+    void readAll() const;
     /// Deletes the tasks due from `fromDate` to the end of `toDate` that match.
     void DeleteTasks(qint16 cat, qint32 status, Moment fromDate, Moment toDate, qint32 taskType) const;
     /// How many tasks `DeleteTasks` would delete.

@@ -1,5 +1,7 @@
 #include "platform/FileReplace.h"
 
+#include "platform/Progress.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QUuid>
@@ -32,10 +34,44 @@ bool flushToDisk(const QFile& file)
 #endif
 }
 
-void copyBytes(QFile& from, QFile& to)
+// What is copied goes to the disk on the way: at the end one flush of it all would hold up everything for
+// seconds.
+class Writeback
+{
+public:
+    explicit Writeback(const QFile& file) : m_file(file) { }
+
+    /// `written` bytes have been written so far.
+    void follow(qint64 written)
+    {
+#ifdef Q_OS_LINUX
+        if (written - m_started < Window) {
+            return;
+        }
+        if (m_started > 0) {
+            sync_file_range(m_file.handle(), m_started - Window, Window,
+                SYNC_FILE_RANGE_WAIT_BEFORE | SYNC_FILE_RANGE_WRITE | SYNC_FILE_RANGE_WAIT_AFTER);
+        }
+        sync_file_range(m_file.handle(), m_started, Window, SYNC_FILE_RANGE_WRITE);
+        m_started += Window;
+#else
+        Q_UNUSED(written);
+#endif
+    }
+
+private:
+    static constexpr qint64 Window = 8 * ChunkSize;
+
+    const QFile& m_file;
+    qint64 m_started = 0;
+};
+
+void copyBytes(QFile& from, QFile& to, Progress* progress)
 {
     QByteArray chunk(ChunkSize, Qt::Uninitialized);
-    for (;;) {
+    const qint64 total = from.size();
+    Writeback writeback(to);
+    for (qint64 copied = 0;;) {
         const qint64 size = from.read(chunk.data(), ChunkSize);
         if (size < 0) {
             fail(from.fileName(), from.errorString());
@@ -50,7 +86,18 @@ void copyBytes(QFile& from, QFile& to)
             }
             written += step;
         }
+        copied += size;
+        writeback.follow(copied);
+        if (progress != nullptr) {
+            progress->advance(copied, qMax(copied, total));
+        }
     }
+}
+
+QString unusedNameBeside(const QString& target)
+{
+    return QFileInfo(resolvedPath(target)).absolutePath() + QStringLiteral("/.ambertask-")
+        + QUuid::createUuid().toString(QUuid::Id128);
 }
 
 } // namespace
@@ -82,7 +129,8 @@ void flushFolder(const QString& folder)
 #endif
 }
 
-void copyToNewFile(const QString& source, const QString& target, QFileDevice::Permissions permissions)
+void copyToNewFile(
+    const QString& source, const QString& target, QFileDevice::Permissions permissions, Progress* progress)
 {
     // A pipe or a device would never end.
     if (!QFileInfo(source).isFile()) {
@@ -97,7 +145,7 @@ void copyToNewFile(const QString& source, const QString& target, QFileDevice::Pe
         fail(target, to.errorString());
     }
     try {
-        copyBytes(from, to);
+        copyBytes(from, to, progress);
         if (!flushToDisk(to)) {
             fail(target, qt_error_string());
         }
@@ -105,7 +153,7 @@ void copyToNewFile(const QString& source, const QString& target, QFileDevice::Pe
         if (to.error() != QFileDevice::NoError) {
             fail(target, to.errorString());
         }
-    } catch (const FileError&) {
+    } catch (...) {
         to.close();
         QFile::remove(target);
         throw;
@@ -127,18 +175,40 @@ void moveOver(const QString& file, const QString& target)
     flushFolder(present.absolutePath());
 }
 
-void replaceByCopy(const QString& source, const QString& target, QFileDevice::Permissions permissions)
+void replaceByCopy(
+    const QString& source, const QString& target, QFileDevice::Permissions permissions, Progress* progress)
 {
     if (target.isEmpty()) {
-        fail(target, FileError::tr("there is no file name"));
+        fail(target, QStringLiteral("there is no file name"));
     }
-    const QString beside = QFileInfo(resolvedPath(target)).absolutePath() + QStringLiteral("/.ambertask-")
-        + QUuid::createUuid().toString(QUuid::Id128);
-    copyToNewFile(source, beside, permissions);
+    const QString beside = unusedNameBeside(target);
+    copyToNewFile(source, beside, permissions, progress);
     try {
         moveOver(beside, target);
     } catch (const FileError&) {
         QFile::remove(beside);
         throw;
     }
+}
+
+void keepAlso(
+    const QString& file, const QString& target, QFileDevice::Permissions permissions, Progress* progress)
+{
+    const QString beside = unusedNameBeside(target);
+    std::error_code error;
+    std::filesystem::create_hard_link(
+        QFileInfo(resolvedPath(file)).filesystemFilePath(), QFileInfo(beside).filesystemFilePath(), error);
+    if (error) {
+        replaceByCopy(file, target, permissions, progress);
+        return;
+    }
+    QFile::setPermissions(beside, permissions);
+    try {
+        moveOver(beside, target);
+    } catch (const FileError&) {
+        QFile::remove(beside);
+        throw;
+    }
+    // Where both were names of one file before, the renaming has done nothing and left the new name.
+    QFile::remove(beside);
 }

@@ -4,6 +4,8 @@
 
 #include <QFileDevice>
 
+class Progress;
+
 /// A file that could not be copied or replaced.
 class FileError : public RuntimeError
 {
@@ -20,16 +22,24 @@ inline constexpr QFileDevice::Permissions PublicFile =
     PrivateFile | QFileDevice::ReadGroup | QFileDevice::ReadOther;
 
 // Files appear under their name complete or not at all, whenever the power fails. All functions throw
-// FileError.
+// FileError; those that are given a `progress` tell it the bytes copied, and end without a trace when it
+// throws.
 
 /// Copies the regular file `source`, byte for byte, to the new file `target`; all of it is on the disk at the
 /// return. After an error there is no `target`.
-void copyToNewFile(const QString& source, const QString& target, QFileDevice::Permissions permissions);
+void copyToNewFile(const QString& source, const QString& target, QFileDevice::Permissions permissions,
+    Progress* progress = nullptr);
 /// Gives `file` the name `target`, over a regular file of that name; both lie in one file system. Where
 /// `target` is a link, the file that it points to is replaced.
 void moveOver(const QString& file, const QString& target);
 /// Copies `source` over `target`, which keeps its content unless the copy is complete.
-void replaceByCopy(const QString& source, const QString& target, QFileDevice::Permissions permissions);
+void replaceByCopy(const QString& source, const QString& target, QFileDevice::Permissions permissions,
+    Progress* progress = nullptr);
+/// Gives `file` the second name `target`, in the same folder, over a regular file of that name; where the
+/// file system knows no second names, copies it. Both names keep the content when one of them is then
+/// replaced.
+void keepAlso(const QString& file, const QString& target, QFileDevice::Permissions permissions,
+    Progress* progress = nullptr);
 
 /// Brings the names that `folder` holds to the disk. Some file systems cannot be asked for that; then nothing
 /// happens.

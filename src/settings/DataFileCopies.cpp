@@ -3,7 +3,6 @@
 #include "data/ClsCategory.h"
 #include "data/ClsDatabase.h"
 #include "data/ClsTask.h"
-#include "data/TaskCodes.h"
 #include "platform/FileReplace.h"
 #include "platform/ProgramFolder.h"
 #include "platform/database/DatabaseError.h"
@@ -31,7 +30,7 @@ DataFileCopies::DataFileCopies(const DatabaseEngine& engine)
 {
 }
 
-void DataFileCopies::backUpTo(const QString& file) const
+void DataFileCopies::backUpTo(const QString& file, Progress* progress) const
 {
     const QFileInfo target(resolvedPath(file));
     for (const char* companion : Companions) {
@@ -44,10 +43,10 @@ void DataFileCopies::backUpTo(const QString& file) const
     }
     settle();
     refuseOpenOperation(m_dataFile);
-    replaceByCopy(m_dataFile, file, PrivateFile);
+    replaceByCopy(m_dataFile, file, PrivateFile, progress);
 }
 
-void DataFileCopies::restoreFrom(const QString& file) const
+void DataFileCopies::restoreFrom(const QString& file, Progress* progress) const
 {
     if (isSameFile(file, m_dataFile)) {
         throw FileError(tr("\"%1\" is the data file itself.").arg(file));
@@ -61,13 +60,23 @@ void DataFileCopies::restoreFrom(const QString& file) const
         throw FileError(folder.errorString());
     }
     const QString checked = folder.filePath(ClsDatabase(*m_engine).FileName());
-    copyToNewFile(file, checked, PrivateFile);
-    checkIsDataFile(folder.path());
-    if (QFileInfo::exists(place)) {
-        settleIfSound();
-        replaceByCopy(place, place + QStringLiteral(".before-restore"), PrivateFile);
+    copyToNewFile(file, checked, PrivateFile, progress);
+    checkIsDataFile(folder.path(), progress);
+    if (!QFileInfo::exists(place)) {
+        moveOver(checked, place);
+        return;
     }
-    moveOver(checked, place);
+    settleIfSound();
+    // No bytes are copied: the restored file takes the name, and the old one keeps its second one.
+    const QString replaced = place + QStringLiteral(".before-restore");
+    keepAlso(place, replaced, PrivateFile, progress);
+    try {
+        moveOver(checked, place);
+    } catch (const FileError&) {
+        // The data file is not to be known by two names.
+        QFile::remove(replaced);
+        throw;
+    }
 }
 
 // A process that died inside an operation has left its journal; the engine rolls it back when the file is
@@ -109,9 +118,9 @@ void DataFileCopies::refuseForeignFile(const QString& file) const
     }
 }
 
-void DataFileCopies::checkIsDataFile(const QString& folder) const
+void DataFileCopies::checkIsDataFile(const QString& folder, Progress* progress) const
 {
-    const DatabaseEngine engine{folder, m_engine->clock, nullptr};
+    const DatabaseEngine engine{folder, m_engine->clock, nullptr, progress};
     Connection connection = ClsDatabase(engine).Connect();
     connection.open();
     const RecordSet verdict = connection.execute(QStringLiteral("pragma integrity_check"));
@@ -124,6 +133,5 @@ void DataFileCopies::checkIsDataFile(const QString& folder) const
     connection.close();
     // Every record has to be one that the lists can show.
     ClsCategory(engine).GetAllCategories();
-    ClsTask(engine).GetTasks(
-        CategoryFilter::All, TaskStatus::All, TaskSort::None, false, {}, {}, TaskType::All);
+    ClsTask(engine).readAll();
 }

@@ -3,10 +3,11 @@
 #include <QCoreApplication>
 #include <QString>
 
+class Progress;
 struct DatabaseEngine;
 
 /// Copies of the data file: backups, and the way back from one. No connection to the data file may be open
-/// meanwhile. All operations throw RuntimeError, and then nothing has changed.
+/// meanwhile. All operations throw RuntimeError, or what `progress` throws, and then nothing has changed.
 class DataFileCopies
 {
     Q_DECLARE_TR_FUNCTIONS(DataFileCopies)
@@ -17,17 +18,17 @@ public:
 
     /// Copies the data file, byte for byte, to `file`, over a file of that name. At the return the copy is on
     /// the disk.
-    void backUpTo(const QString& file) const;
+    void backUpTo(const QString& file, Progress* progress = nullptr) const;
     /// Replaces the data file by `file`, which has to be a sound data file of this program. What was replaced
     /// stays beside it as data.dat.before-restore.
-    void restoreFrom(const QString& file) const;
+    void restoreFrom(const QString& file, Progress* progress = nullptr) const;
 
 private:
     void settle() const;
     void settleIfSound() const;
     void refuseForeignFile(const QString& file) const;
     void refuseOpenOperation(const QString& file) const;
-    void checkIsDataFile(const QString& folder) const;
+    void checkIsDataFile(const QString& folder, Progress* progress) const;
 
     const DatabaseEngine* m_engine;
     QString m_dataFile;

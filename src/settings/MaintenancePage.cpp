@@ -6,6 +6,7 @@
 #include "platform/ErrorReport.h"
 #include "platform/FileDialogs.h"
 #include "platform/MessageBoxes.h"
+#include "platform/ScreenProgress.h"
 #include "settings/DataFileCopies.h"
 #include "ui/CheckerTimer.h"
 #include "ui/Combos.h"
@@ -200,9 +201,11 @@ void MaintenancePage::btnBackup_Click()
             QStringLiteral("Ambertaks ") + shortDate(m_services.clock.now()).replace(u'/', u'-');
         request.promptBeforeOverwriting = true;
         const QString file = m_services.fileDialogs.save(window(), request);
-        DataFileCopies(m_services.engine).backUpTo(file);
+        ScreenProgress(this, tr("Backing up the data...")).run([&](Progress& progress) {
+            DataFileCopies(m_services.engine).backUpTo(file, &progress);
+        });
     } catch (const std::exception&) {
-        // A cancelled dialog or a target that cannot be written: nothing is reported.
+        // A cancelled dialog or copy, or a target that cannot be written: nothing is reported.
     }
 }
 
@@ -215,10 +218,13 @@ void MaintenancePage::btnRestore_Click()
         request.filter = backupFilter();
         request.promptBeforeOverwriting = true;
         const QString file = m_services.fileDialogs.open(window(), request);
-        DataFileCopies(m_services.engine).restoreFrom(file);
+        ScreenProgress(this, tr("Restoring the data...")).run([&](Progress& progress) {
+            DataFileCopies(m_services.engine).restoreFrom(file, &progress);
+        });
         emit dataRestored();
     } catch (const std::exception&) {
-        // A cancelled dialog or a file that is no backup: nothing has changed, and nothing is reported.
+        // A cancelled dialog or copy, or a file that is no backup: nothing has changed, and nothing is
+        // reported.
     }
 }
 

@@ -36,6 +36,8 @@ private slots:
     void whatIsNoFileIsNotCopied();
     void anEmptyNameIsRefused();
     void aFailureNamesTheFile();
+    void aSecondNameKeepsTheContent();
+    void aSecondNameMayBeGivenAgain();
     void linksAndSecondNamesAreTheSameFile();
 
 private:
@@ -151,6 +153,28 @@ void TestFileReplace::aFailureNamesTheFile()
     });
     QVERIFY(error.has_value());
     QVERIFY2(error->text().startsWith(QStringLiteral("\"/nowhere/at all\": ")), qPrintable(error->text()));
+}
+
+void TestFileReplace::aSecondNameKeepsTheContent()
+{
+    const QString file = write(QStringLiteral("file"), "old");
+    const QString kept = write(QStringLiteral("kept"), "older");
+    keepAlso(file, kept, PrivateFile);
+    moveOver(write(QStringLiteral("new"), "new"), file);
+    QCOMPARE(contentOf(kept), QByteArray("old"));
+    QCOMPARE(contentOf(file), QByteArray("new"));
+    QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden),
+        QStringList({QStringLiteral("file"), QStringLiteral("kept")}));
+}
+
+void TestFileReplace::aSecondNameMayBeGivenAgain()
+{
+    const QString file = write(QStringLiteral("file"), "old");
+    const QString kept = path(QStringLiteral("kept"));
+    keepAlso(file, kept, PrivateFile);
+    keepAlso(file, kept, PrivateFile);
+    QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden),
+        QStringList({QStringLiteral("file"), QStringLiteral("kept")}));
 }
 
 void TestFileReplace::linksAndSecondNamesAreTheSameFile()

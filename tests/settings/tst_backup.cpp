@@ -1,6 +1,7 @@
 #include "settings/DataFileCopies.h"
 #include "settings/DeadOperation.h"
 #include "settings/MaintenancePageUnderTest.h"
+#include "support/CancellingProgress.h"
 #include "support/CaughtError.h"
 #include "support/TestMain.h"
 
@@ -23,6 +24,7 @@ private slots:
     void theDataFileItselfIsNeverTheTarget_data();
     void theDataFileItselfIsNeverTheTarget();
     void aFullDiskLeavesTheOlderBackup();
+    void aCancelledCopyLeavesTheOlderBackup();
     void theJournalOfADeadProcessIsRolledBackFirst();
     void noStatementIsSent();
     void noHandleToTheDataFileStaysOpen();
@@ -175,6 +177,20 @@ void TestBackup::aFullDiskLeavesTheOlderBackup()
     QCOMPARE(contentOf(backup), QByteArray("old"));
     QCOMPARE(test.files(), QStringList({QStringLiteral("data.dat"), QStringLiteral("old.abk")}));
     QVERIFY(test.checkerTimer.enabled);
+}
+
+void TestBackup::aCancelledCopyLeavesTheOlderBackup()
+{
+    MaintenancePageUnderTest test;
+    const QString backup = test.pathOf(QStringLiteral("old.abk"));
+    writeText(backup, "old");
+    CancellingProgress progress(CancellingProgress::At::FirstStep);
+    QVERIFY(caught<Cancelled>([&] {
+        DataFileCopies(test.database.engine()).backUpTo(backup, &progress);
+    }).has_value());
+    QCOMPARE(progress.lastDone, QFileInfo(test.database.dataFile()).size());
+    QCOMPARE(contentOf(backup), QByteArray("old"));
+    QCOMPARE(test.files(), QStringList({QStringLiteral("data.dat"), QStringLiteral("old.abk")}));
 }
 
 void TestBackup::theJournalOfADeadProcessIsRolledBackFirst()

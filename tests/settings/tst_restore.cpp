@@ -1,7 +1,9 @@
+#include "platform/FileReplace.h"
 #include "settings/DataFileCopies.h"
 #include "settings/DeadOperation.h"
 #include "settings/MaintenancePageUnderTest.h"
 #include "settings/SettingsPageUnderTest.h"
+#include "support/CancellingProgress.h"
 #include "support/CaughtError.h"
 #include "support/TestMain.h"
 
@@ -59,6 +61,9 @@ private slots:
     void aDamagedDataFileIsReplaced();
     void aMissingDataFileIsReplaced();
     void theJournalOfADeadProcessDoesNotReachTheNewFile();
+    void aRestoreThatIsCancelledChangesNothing_data();
+    void aRestoreThatIsCancelledChangesNothing();
+    void theReplacedFileAndTheDataFileAreTwoFiles();
     void nothingIsLeftBehind();
 };
 
@@ -263,6 +268,41 @@ void TestRestore::theJournalOfADeadProcessDoesNotReachTheNewFile()
     QVERIFY(!QFileInfo::exists(dead.filePath(QStringLiteral("data.dat-journal"))));
     QVERIFY(contentOf(dead.filePath(QStringLiteral("data.dat.before-restore")))
         == contentOf(test.database.dataFile()));
+}
+
+void TestRestore::aRestoreThatIsCancelledChangesNothing_data()
+{
+    QTest::addColumn<CancellingProgress::At>("at");
+    QTest::newRow("while it copies") << CancellingProgress::At::FirstStep;
+    QTest::newRow("while it checks") << CancellingProgress::At::UnknownLength;
+}
+
+void TestRestore::aRestoreThatIsCancelledChangesNothing()
+{
+    QFETCH(CancellingProgress::At, at);
+    RestoreUnderTest test;
+    // Enough to be told of while the check runs.
+    for (int i = 0; i < 10; ++i) {
+        execute(test.backup(), qPrintable(TwoHundredTasks));
+    }
+    CancellingProgress progress(at);
+    QVERIFY(caught<Cancelled>([&] {
+        DataFileCopies(test.database.engine()).restoreFrom(test.backup(), &progress);
+    }).has_value());
+    QCOMPARE(test.tasks(), QStringList(QStringLiteral("after")));
+    QCOMPARE(test.files(), QStringList(QStringLiteral("data.dat")));
+}
+
+void TestRestore::theReplacedFileAndTheDataFileAreTwoFiles()
+{
+    RestoreUnderTest test;
+    const QString replaced = test.pathOf(QStringLiteral("data.dat.before-restore"));
+    for (int i = 0; i < 2; ++i) {
+        test.restore(test.backup());
+        QVERIFY(!isSameFile(test.database.dataFile(), replaced));
+    }
+    aTask(test.database).named(QStringLiteral("later")).add();
+    QVERIFY(contentOf(replaced) == contentOf(test.backup()));
 }
 
 void TestRestore::nothingIsLeftBehind()

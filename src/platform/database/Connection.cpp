@@ -57,7 +57,8 @@ void Connection::open(const QString& user, const QString& password, int)
     if (!m_connectionString.startsWith(Prefix)) {
         refuse(tr("The connection string \"%1\" names no data file.").arg(m_connectionString));
     }
-    m_session = std::make_unique<Session>(m_connectionString.mid(Prefix.size()), *m_engine->clock);
+    m_session = std::make_unique<Session>(
+        m_connectionString.mid(Prefix.size()), *m_engine->clock, m_engine->progress);
     if (m_engine->listener != nullptr) {
         m_engine->listener->connectionOpened(m_connectionString);
     }

@@ -4,6 +4,7 @@
 #include <QStringView>
 
 class Clock;
+class Progress;
 
 /// Sees what the program asks of its data file. Called on the thread that uses the connection.
 class StatementListener
@@ -25,4 +26,5 @@ struct DatabaseEngine {
     QString programFolder; ///< absolute path of the folder that holds the data file
     const Clock* clock = nullptr; ///< not owned; answers now() in statements
     StatementListener* listener = nullptr; ///< not owned; may be null
+    Progress* progress = nullptr; ///< not owned; told while statements run, as of unknown length; may be null
 };

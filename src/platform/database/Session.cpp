@@ -1,6 +1,7 @@
 #include "platform/database/Session.h"
 
 #include "platform/Clock.h"
+#include "platform/Progress.h"
 #include "platform/database/DatabaseError.h"
 #include "platform/database/Dialect.h"
 #include "platform/database/UnicodeCollation.h"
@@ -18,6 +19,8 @@ namespace
 using Kind = DatabaseError::Kind;
 
 constexpr int LargestStatement = 64 * 1024 * 1024;
+/// So many steps of the engine's machine are done in well under a millisecond.
+constexpr int StepsOfProgress = 20000;
 constexpr int BusyMilliseconds = 250;
 constexpr qsizetype ShownStatementLength = 200;
 
@@ -107,7 +110,8 @@ bool Cursor::step()
     return false;
 }
 
-Session::Session(QString path, const Clock& clock) : m_path(std::move(path)), m_clock(&clock)
+Session::Session(QString path, const Clock& clock, Progress* progress)
+    : m_path(std::move(path)), m_clock(&clock), m_progress(progress)
 {
     try {
         openFile();
@@ -173,9 +177,25 @@ void Session::harden()
     check(sqlite3_create_function_v2(m_database, "now", 0,
         SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_DIRECTONLY, this, answerNow, nullptr, nullptr, nullptr));
     check(sqlite3_set_authorizer(m_database, authorize, this));
+    if (m_progress != nullptr) {
+        sqlite3_progress_handler(m_database, StepsOfProgress, tellProgress, this);
+    }
     // Large sorts hold the user's texts: they stay in memory and out of the folder for temporary files.
     check(executeOwn(
         "PRAGMA synchronous=EXTRA; PRAGMA temp_store=MEMORY; SELECT 1 FROM sqlite_schema LIMIT 1"));
+}
+
+// Exceptions do not pass through the engine: the statement is interrupted, and `fail` throws what was thrown.
+int Session::tellProgress(void* session)
+{
+    auto* self = static_cast<Session*>(session);
+    try {
+        self->m_progress->advance(0, 0);
+        return 0;
+    } catch (...) {
+        self->m_thrownByProgress = std::current_exception();
+        return 1;
+    }
 }
 
 int Session::authorize(
@@ -305,6 +325,10 @@ void Session::failStorage(const QString& text)
 
 void Session::fail(int code, const QString& statement)
 {
+    if (m_thrownByProgress) {
+        undo();
+        std::rethrow_exception(std::exchange(m_thrownByProgress, nullptr));
+    }
     if (isStatementError(code)) {
         throw DatabaseError(
             Kind::Statement, tr("The statement failed: %1.\n%2").arg(reason(code), shortened(statement)));

@@ -6,6 +6,7 @@
 #include <vector>
 
 class Clock;
+class Progress;
 class Session;
 struct sqlite3;
 struct sqlite3_context;
@@ -42,9 +43,9 @@ class Session
     Q_DECLARE_TR_FUNCTIONS(Session)
 
 public:
-    /// Opens an existing file and reads its header. `clock` outlives the session. Throws DatabaseError
-    /// (Storage).
-    Session(QString path, const Clock& clock);
+    /// Opens an existing file and reads its header. `clock` and `progress` outlive the session; what
+    /// `progress` throws ends the statement that runs. Throws DatabaseError (Storage).
+    Session(QString path, const Clock& clock, Progress* progress = nullptr);
     /// Gives up what was not committed.
     ~Session();
     Session(const Session&) = delete;
@@ -63,6 +64,7 @@ private:
     friend class Cursor;
     static int authorize(
         void* session, int action, const char* first, const char* second, const char*, const char*);
+    static int tellProgress(void* session);
     static void answerNow(sqlite3_context* context, int, sqlite3_value**);
 
     void openFile();
@@ -79,6 +81,8 @@ private:
 
     QString m_path;
     const Clock* m_clock;
+    Progress* m_progress;
+    std::exception_ptr m_thrownByProgress;
     sqlite3* m_database = nullptr;
     std::vector<Cursor*> m_cursors;
     std::string m_now;

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "platform/RuntimeError.h"
+
+/// The user has cancelled a long operation, or the program is about to end.
+class Cancelled : public RuntimeError
+{
+public:
+    Cancelled() : RuntimeError(QStringLiteral("The operation was cancelled.")) { }
+};
+
+/// Is told by a long operation how far it is.
+class Progress
+{
+public:
+    Progress() = default;
+    virtual ~Progress() = default;
+    Progress(const Progress&) = delete;
+    Progress& operator=(const Progress&) = delete;
+
+    /// `done` of `total`, in any unit; a `total` of 0 says that nobody knows. Called often, between two steps
+    /// of which neither takes long. Throws Cancelled.
+    virtual void advance(qint64 done, qint64 total) = 0;
+};
