@@ -452,6 +452,14 @@
             <numerusform>هل تريد بالتأكيد حذف %n مهمة؟</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Backing up the data...</source>
+        <translation>جارٍ نسخ البيانات احتياطيًا...</translation>
+    </message>
+    <message>
+        <source>Restoring the data...</source>
+        <translation>جارٍ استعادة البيانات...</translation>
+    </message>
 </context>
 <context>
     <name>MessageBoxes</name>
@@ -694,6 +702,13 @@
     <message>
         <source>&amp;OK</source>
         <translation>م&amp;وافق</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenProgress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>إلغاء</translation>
     </message>
 </context>
 <context>

@@ -436,6 +436,14 @@
             <numerusform>Möchten Sie %n Aufgaben wirklich löschen?</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Backing up the data...</source>
+        <translation>Die Daten werden gesichert...</translation>
+    </message>
+    <message>
+        <source>Restoring the data...</source>
+        <translation>Die Daten werden wiederhergestellt...</translation>
+    </message>
 </context>
 <context>
     <name>MessageBoxes</name>
@@ -678,6 +686,13 @@
     <message>
         <source>&amp;OK</source>
         <translation>&amp;OK</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenProgress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>

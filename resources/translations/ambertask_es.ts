@@ -436,6 +436,14 @@
             <numerusform>¿Seguro que desea eliminar %n tareas?</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Backing up the data...</source>
+        <translation>Haciendo la copia de seguridad...</translation>
+    </message>
+    <message>
+        <source>Restoring the data...</source>
+        <translation>Restaurando los datos...</translation>
+    </message>
 </context>
 <context>
     <name>MessageBoxes</name>
@@ -678,6 +686,13 @@
     <message>
         <source>&amp;OK</source>
         <translation>&amp;Aceptar</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenProgress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>

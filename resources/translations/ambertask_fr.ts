@@ -436,6 +436,14 @@
             <numerusform>Voulez-vous vraiment supprimer %n tâches&#x202f;?</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Backing up the data...</source>
+        <translation>Sauvegarde des données en cours...</translation>
+    </message>
+    <message>
+        <source>Restoring the data...</source>
+        <translation>Restauration des données en cours...</translation>
+    </message>
 </context>
 <context>
     <name>MessageBoxes</name>
@@ -678,6 +686,13 @@
     <message>
         <source>&amp;OK</source>
         <translation>&amp;OK</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenProgress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>

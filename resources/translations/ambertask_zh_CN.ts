@@ -432,6 +432,14 @@
             <numerusform>确定要删除 %n 个任务吗？</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Backing up the data...</source>
+        <translation>正在备份数据...</translation>
+    </message>
+    <message>
+        <source>Restoring the data...</source>
+        <translation>正在还原数据...</translation>
+    </message>
 </context>
 <context>
     <name>MessageBoxes</name>
@@ -674,6 +682,13 @@
     <message>
         <source>&amp;OK</source>
         <translation>确定(&amp;O)</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenProgress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
     </message>
 </context>
 <context>

@@ -179,7 +179,7 @@ void replaceByCopy(
     const QString& source, const QString& target, QFileDevice::Permissions permissions, Progress* progress)
 {
     if (target.isEmpty()) {
-        fail(target, QStringLiteral("there is no file name"));
+        fail(target, FileError::tr("there is no file name"));
     }
     const QString beside = unusedNameBeside(target);
     copyToNewFile(source, beside, permissions, progress);
