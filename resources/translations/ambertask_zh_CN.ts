@@ -434,11 +434,11 @@
     </message>
     <message>
         <source>Backing up the data...</source>
-        <translation>正在备份数据...</translation>
+        <translation>正在备份数据……</translation>
     </message>
     <message>
         <source>Restoring the data...</source>
-        <translation>正在还原数据...</translation>
+        <translation>正在还原数据……</translation>
     </message>
 </context>
 <context>
