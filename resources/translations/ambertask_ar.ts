@@ -300,6 +300,10 @@
         <source>there is no file name</source>
         <translation>اسم الملف غير موجود</translation>
     </message>
+    <message>
+        <source>it is missing from this installation</source>
+        <translation>غير موجود في هذا التثبيت</translation>
+    </message>
 </context>
 <context>
     <name>HTMLHelpViewer</name>

@@ -300,6 +300,10 @@
         <source>there is no file name</source>
         <translation>der Dateiname fehlt</translation>
     </message>
+    <message>
+        <source>it is missing from this installation</source>
+        <translation>es fehlt in dieser Installation</translation>
+    </message>
 </context>
 <context>
     <name>HTMLHelpViewer</name>
@@ -331,35 +335,35 @@
     </message>
     <message>
         <source>1 minute late</source>
-        <translation>1 Minute zu spät</translation>
+        <translation>seit 1 Minute fällig</translation>
     </message>
     <message numerus="yes">
         <source>%n minutes late</source>
         <translation>
-            <numerusform>%n Minute zu spät</numerusform>
-            <numerusform>%n Minuten zu spät</numerusform>
+            <numerusform>seit %n Minute fällig</numerusform>
+            <numerusform>seit %n Minuten fällig</numerusform>
         </translation>
     </message>
     <message>
         <source>1 hour late</source>
-        <translation>1 Stunde zu spät</translation>
+        <translation>seit 1 Stunde fällig</translation>
     </message>
     <message numerus="yes">
         <source>%n hours late</source>
         <translation>
-            <numerusform>%n Stunde zu spät</numerusform>
-            <numerusform>%n Stunden zu spät</numerusform>
+            <numerusform>seit %n Stunde fällig</numerusform>
+            <numerusform>seit %n Stunden fällig</numerusform>
         </translation>
     </message>
     <message>
         <source>1 day late</source>
-        <translation>1 Tag zu spät</translation>
+        <translation>seit 1 Tag fällig</translation>
     </message>
     <message numerus="yes">
         <source>%n days late</source>
         <translation>
-            <numerusform>%n Tag zu spät</numerusform>
-            <numerusform>%n Tage zu spät</numerusform>
+            <numerusform>seit %n Tag fällig</numerusform>
+            <numerusform>seit %n Tagen fällig</numerusform>
         </translation>
     </message>
 </context>

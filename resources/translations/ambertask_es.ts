@@ -300,6 +300,10 @@
         <source>there is no file name</source>
         <translation>falta el nombre del archivo</translation>
     </message>
+    <message>
+        <source>it is missing from this installation</source>
+        <translation>falta en esta instalación</translation>
+    </message>
 </context>
 <context>
     <name>HTMLHelpViewer</name>

@@ -300,6 +300,10 @@
         <source>there is no file name</source>
         <translation>le nom du fichier est absent</translation>
     </message>
+    <message>
+        <source>it is missing from this installation</source>
+        <translation>il est absent de cette installation</translation>
+    </message>
 </context>
 <context>
     <name>HTMLHelpViewer</name>
@@ -1439,7 +1443,7 @@
     </message>
     <message>
         <source>Fills in a usual moment; &quot;Remind me later&quot; then puts the reminder off</source>
-        <translation>Remplit un moment habituel ; «&#xa0;Me le rappeler plus tard&#xa0;» reporte ensuite le rappel</translation>
+        <translation>Remplit un moment habituel&#x202f;; «&#xa0;Me le rappeler plus tard&#xa0;» reporte ensuite le rappel</translation>
     </message>
 </context>
 <context>

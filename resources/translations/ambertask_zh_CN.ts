@@ -300,6 +300,10 @@
         <source>there is no file name</source>
         <translation>没有文件名</translation>
     </message>
+    <message>
+        <source>it is missing from this installation</source>
+        <translation>此安装中缺少该文件</translation>
+    </message>
 </context>
 <context>
     <name>HTMLHelpViewer</name>
@@ -331,32 +335,32 @@
     </message>
     <message>
         <source>1 minute late</source>
-        <translation>迟到 1 分钟</translation>
+        <translation>已逾期 1 分钟</translation>
     </message>
     <message numerus="yes">
         <source>%n minutes late</source>
         <translation>
-            <numerusform>迟到 %n 分钟</numerusform>
+            <numerusform>已逾期 %n 分钟</numerusform>
         </translation>
     </message>
     <message>
         <source>1 hour late</source>
-        <translation>迟到 1 小时</translation>
+        <translation>已逾期 1 小时</translation>
     </message>
     <message numerus="yes">
         <source>%n hours late</source>
         <translation>
-            <numerusform>迟到 %n 小时</numerusform>
+            <numerusform>已逾期 %n 小时</numerusform>
         </translation>
     </message>
     <message>
         <source>1 day late</source>
-        <translation>迟到 1 天</translation>
+        <translation>已逾期 1 天</translation>
     </message>
     <message numerus="yes">
         <source>%n days late</source>
         <translation>
-            <numerusform>迟到 %n 天</numerusform>
+            <numerusform>已逾期 %n 天</numerusform>
         </translation>
     </message>
 </context>

@@ -143,7 +143,7 @@ void copyTemplate(const Installation& installation, const QString& folder)
     }
     for (const char* name : {DataFileName, ShippedListName}) {
         if (!QFileInfo(pathIn(folder, QLatin1String(name))).isFile()) {
-            fail(files.filePath(QLatin1String(name)), QStringLiteral("it is missing from this installation"));
+            fail(files.filePath(QLatin1String(name)), FileError::tr("it is missing from this installation"));
         }
     }
     refreshLink(installation, folder);

@@ -301,8 +301,14 @@ void TranslatedWindowsTest::theAlertIsGood()
 {
     QFETCH(const QString, language);
     TranslatedProgram t(language);
-    QVERIFY(t.f.program.alerts().isVisible());
-    EXPECT_GOOD(t.f.program.alerts(), language);
+    frmAlerts& alert = t.f.program.alerts();
+    QVERIFY(alert.isVisible());
+    EXPECT_GOOD(alert, language);
+    auto* usualMoments = alert.findChild<QMenu*>();
+    QVERIFY(usualMoments != nullptr);
+    usualMoments->popup(QPoint(10, 10));
+    EXPECT_GOOD(*usualMoments, language);
+    usualMoments->close();
 }
 
 void TranslatedWindowsTest::theAboutBoxIsGood()

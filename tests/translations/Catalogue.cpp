@@ -103,7 +103,7 @@ private:
         if (mnemonics(m_message.source) != mnemonics(m_form)) {
             note(QStringLiteral("has lost its mnemonic, or has one too many"));
         }
-        static const QRegularExpression suffix(QStringLiteral("\\(&[A-Z]\\)"));
+        static const QRegularExpression suffix(QStringLiteral("\\(&[A-Z0-9]\\)"));
         if (m_language.startsWith(QLatin1String("zh")) && mnemonics(m_form) > 0
             && !suffix.match(m_form).hasMatch()) {
             note(QStringLiteral("needs its mnemonic as (&X)"));

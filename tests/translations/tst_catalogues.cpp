@@ -1,7 +1,9 @@
 #include "support/TestMain.h"
 #include "tests/translations/Catalogue.h"
+#include "tests/translations/SourceTexts.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
@@ -33,6 +35,9 @@ private slots:
     void aFaultIsFound();
     void aPluralFormThatIsMissingIsFound();
 
+    void aSentenceOutsideOfTranslationIsFound_data();
+    void aSentenceOutsideOfTranslationIsFound();
+    void noSentenceOfTheProgramStandsOutsideOfTranslation();
     void theLanguagesShip();
     void everyTextOfTheProgramIsTranslated_data() { languages(); }
     void everyTextOfTheProgramIsTranslated();
@@ -173,6 +178,53 @@ void CataloguesTest::aPluralFormThatIsMissingIsFound()
     QCOMPARE(faultsOf(counted, QStringLiteral("de")).size(), 1);
     counted.forms.last() = QStringLiteral("Erinnerungen");
     QCOMPARE(faultsOf(counted, QStringLiteral("de")).size(), 1);
+}
+
+void CataloguesTest::aSentenceOutsideOfTranslationIsFound_data()
+{
+    QTest::addColumn<QString>("code");
+    QTest::addColumn<QStringList>("found");
+    const auto row = [](const char* name, const char* code, const QStringList& found = {}) {
+        QTest::newRow(name) << QString::fromLatin1(code) << found;
+    };
+    row("outside", "show(QStringLiteral(\"The file is gone.\"));", {QStringLiteral("The file is gone.")});
+    row("in two pieces", "show(\"The file \"\n    \"is gone.\");", {QStringLiteral("The file is gone.")});
+    row("translated", "show(tr(\"The file is gone.\"));");
+    row("in two pieces, translated", "show(tr(\"The file \"\n    \"is gone.\"));");
+    row("of another context", "translate(\"frmMain\", \"The file is gone.\")");
+    row("marked", "QT_TRANSLATE_NOOP(\"frmMain\", \"The file is gone.\")");
+    row("in a comment", "// The \"file is gone\".\n/* \"It is gone\" */");
+    row("statement", "execute(\"delete from tasks\");");
+}
+
+void CataloguesTest::aSentenceOutsideOfTranslationIsFound()
+{
+    QFETCH(const QString, code);
+    QTEST(untranslatedSentences(code), "found");
+}
+
+void CataloguesTest::noSentenceOfTheProgramStandsOutsideOfTranslation()
+{
+    // Key of a column, folder, mark of a file format.
+    const QStringList names{
+        QStringLiteral("due date"), QStringLiteral("/custom icons"), QStringLiteral("SQLite format 3\\0")};
+    QStringList faults;
+    int files = 0;
+    QDirIterator sources(QStringLiteral(AMBERTASK_SOURCES), {QStringLiteral("*.cpp"), QStringLiteral("*.h")},
+        QDir::Files, QDirIterator::Subdirectories);
+    while (sources.hasNext()) {
+        QFile source(sources.next());
+        QVERIFY(source.open(QIODevice::ReadOnly));
+        ++files;
+        for (const QString& text : untranslatedSentences(QString::fromUtf8(source.readAll()))) {
+            if (!names.contains(text)) {
+                faults.append(source.fileName() + QStringLiteral(": ") + text);
+            }
+        }
+    }
+    QVERIFY(files > 100);
+    QVERIFY2(faults.isEmpty(),
+        qPrintable(QStringLiteral("Let these go through tr():\n%1").arg(faults.join(u'\n'))));
 }
 
 void CataloguesTest::theLanguagesShip()
