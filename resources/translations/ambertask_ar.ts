@@ -25,6 +25,13 @@
     </message>
 </context>
 <context>
+    <name>Cancelled</name>
+    <message>
+        <source>The operation was cancelled.</source>
+        <translation>أُلغيت العملية.</translation>
+    </message>
+</context>
+<context>
     <name>CategoriesPage</name>
     <message>
         <source>&amp;Add</source>
@@ -458,11 +465,11 @@
     </message>
     <message>
         <source>Backing up the data...</source>
-        <translation>جارٍ نسخ البيانات احتياطيًا...</translation>
+        <translation>جارٍ نسخ البيانات احتياطيًا…</translation>
     </message>
     <message>
         <source>Restoring the data...</source>
-        <translation>جارٍ استعادة البيانات...</translation>
+        <translation>جارٍ استعادة البيانات…</translation>
     </message>
 </context>
 <context>

@@ -25,6 +25,13 @@
     </message>
 </context>
 <context>
+    <name>Cancelled</name>
+    <message>
+        <source>The operation was cancelled.</source>
+        <translation>Der Vorgang wurde abgebrochen.</translation>
+    </message>
+</context>
+<context>
     <name>CategoriesPage</name>
     <message>
         <source>&amp;Add</source>
@@ -442,11 +449,11 @@
     </message>
     <message>
         <source>Backing up the data...</source>
-        <translation>Die Daten werden gesichert...</translation>
+        <translation>Die Daten werden gesichert…</translation>
     </message>
     <message>
         <source>Restoring the data...</source>
-        <translation>Die Daten werden wiederhergestellt...</translation>
+        <translation>Die Daten werden wiederhergestellt…</translation>
     </message>
 </context>
 <context>

@@ -25,6 +25,13 @@
     </message>
 </context>
 <context>
+    <name>Cancelled</name>
+    <message>
+        <source>The operation was cancelled.</source>
+        <translation>La operación se ha cancelado.</translation>
+    </message>
+</context>
+<context>
     <name>CategoriesPage</name>
     <message>
         <source>&amp;Add</source>
@@ -442,11 +449,11 @@
     </message>
     <message>
         <source>Backing up the data...</source>
-        <translation>Haciendo la copia de seguridad...</translation>
+        <translation>Haciendo la copia de seguridad…</translation>
     </message>
     <message>
         <source>Restoring the data...</source>
-        <translation>Restaurando los datos...</translation>
+        <translation>Restaurando los datos…</translation>
     </message>
 </context>
 <context>

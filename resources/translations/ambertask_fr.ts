@@ -25,6 +25,13 @@
     </message>
 </context>
 <context>
+    <name>Cancelled</name>
+    <message>
+        <source>The operation was cancelled.</source>
+        <translation>L’opération a été annulée.</translation>
+    </message>
+</context>
+<context>
     <name>CategoriesPage</name>
     <message>
         <source>&amp;Add</source>
@@ -442,11 +449,11 @@
     </message>
     <message>
         <source>Backing up the data...</source>
-        <translation>Sauvegarde des données en cours...</translation>
+        <translation>Sauvegarde des données en cours…</translation>
     </message>
     <message>
         <source>Restoring the data...</source>
-        <translation>Restauration des données en cours...</translation>
+        <translation>Restauration des données en cours…</translation>
     </message>
 </context>
 <context>

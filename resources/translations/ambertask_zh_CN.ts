@@ -25,6 +25,13 @@
     </message>
 </context>
 <context>
+    <name>Cancelled</name>
+    <message>
+        <source>The operation was cancelled.</source>
+        <translation>操作已取消。</translation>
+    </message>
+</context>
+<context>
     <name>CategoriesPage</name>
     <message>
         <source>&amp;Add</source>
@@ -438,11 +445,11 @@
     </message>
     <message>
         <source>Backing up the data...</source>
-        <translation>正在备份数据……</translation>
+        <translation>正在备份数据…</translation>
     </message>
     <message>
         <source>Restoring the data...</source>
-        <translation>正在还原数据……</translation>
+        <translation>正在还原数据…</translation>
     </message>
 </context>
 <context>

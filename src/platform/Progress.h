@@ -5,8 +5,10 @@
 /// The user has cancelled a long operation, or the program is about to end.
 class Cancelled : public RuntimeError
 {
+    Q_DECLARE_TR_FUNCTIONS(Cancelled)
+
 public:
-    Cancelled() : RuntimeError(QStringLiteral("The operation was cancelled.")) { }
+    Cancelled() : RuntimeError(tr("The operation was cancelled.")) { }
 };
 
 /// Is told by a long operation how far it is.

@@ -153,6 +153,7 @@ private:
         } else if (m_language == QLatin1String("ar")) {
             refuse(QStringLiteral("[?;,]"), QStringLiteral("needs Arabic punctuation"));
         }
+        refuse(QStringLiteral("\\.\\.\\.|\\x{2026}{2}"), QStringLiteral("needs one ellipsis character"));
         refuse(QStringLiteral("\""), QStringLiteral("needs the quotes of the language"));
     }
 

@@ -128,6 +128,9 @@ void CataloguesTest::aFaultIsFound_data()
     QTest::newRow("lost ellipsis") << "de"
                                    << "Browse..."
                                    << "Durchsuchen";
+    QTest::newRow("three points") << "de"
+                                  << "Browse..."
+                                  << "Durchsuchen...";
     QTest::newRow("lost colon") << "de"
                                 << "Date:"
                                 << "Datum";
