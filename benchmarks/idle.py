@@ -43,4 +43,5 @@ def main():
         rig.result(f"Hidden for {SECONDS} s, CPU a second", (cpu_then - cpu) / SECONDS * 1000, "ms", target=0.1)
 
 
-main()
+if __name__ == "__main__":
+    main()
