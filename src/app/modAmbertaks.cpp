@@ -28,7 +28,7 @@ namespace
 /// The real machine around the program.
 struct RealMachine {
     RealMachine(const QString& programFolder, ErrorReport& errorReport)
-        : engine{programFolder, &clock, nullptr}, errors(errorReport)
+        : engine{programFolder, &clock, nullptr, &dataFileIsSound}, errors(errorReport)
     {
     }
 
@@ -39,6 +39,7 @@ struct RealMachine {
     }
 
     SystemClock clock;
+    bool dataFileIsSound = false;
     DatabaseEngine engine;
     ScreenMessageBoxes messages;
     ScreenFileDialogs fileDialogs;

@@ -58,7 +58,7 @@ void Connection::open(const QString& user, const QString& password, int)
         refuse(tr("The connection string \"%1\" names no data file.").arg(m_connectionString));
     }
     m_session = std::make_unique<Session>(
-        m_connectionString.mid(Prefix.size()), *m_engine->clock, m_engine->progress);
+        m_connectionString.mid(Prefix.size()), *m_engine->clock, m_engine->progress, m_engine->knownSound);
     if (m_engine->listener != nullptr) {
         m_engine->listener->connectionOpened(m_connectionString);
     }
@@ -95,5 +95,16 @@ void Connection::close()
     session->releaseCursors();
     if (!session->isUndone()) {
         session->commit();
+    }
+}
+
+void Connection::abandon()
+{
+    if (m_session == nullptr) {
+        return;
+    }
+    m_session.reset();
+    if (m_engine->listener != nullptr) {
+        m_engine->listener->connectionClosed();
     }
 }

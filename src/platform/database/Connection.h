@@ -44,6 +44,8 @@ public:
     /// commit failed: then nothing of this connection's writing is in the file, and the connection is closed
     /// all the same.
     void close();
+    /// Closes and gives up what was not committed; abandoning a closed connection does nothing.
+    void abandon();
 
 private:
     const DatabaseEngine* m_engine;

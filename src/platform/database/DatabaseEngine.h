@@ -27,4 +27,8 @@ struct DatabaseEngine {
     const Clock* clock = nullptr; ///< not owned; answers now() in statements
     StatementListener* listener = nullptr; ///< not owned; may be null
     Progress* progress = nullptr; ///< not owned; told while statements run, as of unknown length; may be null
+    /// Not owned; may be null. Where it is given and false, the first connection that writes looks through
+    /// the file first: damage that reading does not notice could make the engine write over living records. A
+    /// sound file sets it; a damaged one is not written to.
+    bool* knownSound = nullptr;
 };

@@ -110,8 +110,8 @@ bool Cursor::step()
     return false;
 }
 
-Session::Session(QString path, const Clock& clock, Progress* progress)
-    : m_path(std::move(path)), m_clock(&clock), m_progress(progress)
+Session::Session(QString path, const Clock& clock, Progress* progress, bool* knownSound)
+    : m_path(std::move(path)), m_clock(&clock), m_progress(progress), m_knownSound(knownSound)
 {
     try {
         openFile();
@@ -275,9 +275,34 @@ int Session::executeOwn(const char* sql)
 
 void Session::begin()
 {
+    if (m_knownSound != nullptr && !*m_knownSound) {
+        requireSound();
+        *m_knownSound = true;
+    }
     const int code = executeOwn("BEGIN IMMEDIATE");
     if (code != SQLITE_OK) {
         failStorage(tr("The data file \"%1\" could not be written: %2.").arg(m_path, reason(code)));
+    }
+}
+
+void Session::requireSound()
+{
+    // What concerns the file as a whole; an odd value in a record does not keep the others from being
+    // written.
+    bool damaged = false;
+    const auto note = [](void* found, int, char** texts, char**) {
+        if (std::string_view(texts[0]).starts_with("*** in database")) {
+            *static_cast<bool*>(found) = true;
+        }
+        return 0;
+    };
+    m_runsOwnStatement = true;
+    const int code = sqlite3_exec(m_database, "PRAGMA quick_check", note, &damaged, nullptr);
+    m_runsOwnStatement = false;
+    if (code != SQLITE_OK || damaged) {
+        failStorage(
+            tr("The data file \"%1\" could not be written; nothing was stored: %2.")
+                .arg(m_path, damaged ? QString::fromUtf8(sqlite3_errstr(SQLITE_CORRUPT)) : reason(code)));
     }
 }
 

@@ -43,9 +43,10 @@ class Session
     Q_DECLARE_TR_FUNCTIONS(Session)
 
 public:
-    /// Opens an existing file and reads its header. `clock` and `progress` outlive the session; what
-    /// `progress` throws ends the statement that runs. Throws DatabaseError (Storage).
-    Session(QString path, const Clock& clock, Progress* progress = nullptr);
+    /// Opens an existing file and reads its header. `clock`, `progress` and `knownSound` (see DatabaseEngine)
+    /// outlive the session; what `progress` throws ends the statement that runs. Throws DatabaseError
+    /// (Storage).
+    Session(QString path, const Clock& clock, Progress* progress, bool* knownSound);
     /// Gives up what was not committed.
     ~Session();
     Session(const Session&) = delete;
@@ -73,6 +74,7 @@ private:
     sqlite3_stmt* prepare(const QString& statement);
     int executeOwn(const char* sql);
     void begin();
+    void requireSound();
     void undo();
     [[noreturn]] void failToOpen(const QString& why);
     [[noreturn]] void failStorage(const QString& text);
@@ -83,6 +85,7 @@ private:
     const Clock* m_clock;
     Progress* m_progress;
     std::exception_ptr m_thrownByProgress;
+    bool* m_knownSound;
     sqlite3* m_database = nullptr;
     std::vector<Cursor*> m_cursors;
     std::string m_now;

@@ -2,6 +2,7 @@
 #include "support/CaughtError.h"
 #include "support/TestDatabase.h"
 #include "support/TestMain.h"
+#include "support/TestPictures.h"
 
 #include <QFile>
 #include <QTest>
@@ -90,6 +91,7 @@ private slots:
     void afterAStorageErrorTheConnectionCanOnlyBeClosed();
     void aFinishedRecordSetHoldsNoLock();
     void aReadingConnectionMayWriteWhileItsRecordSetIsOpen();
+    void abandonedWritingIsGone();
     void aCopyTakenWithItsJournalInTheMiddleGoesBackToTheStart();
 };
 
@@ -283,6 +285,20 @@ void DeferredCommitTest::aCopyTakenWithItsJournalInTheMiddleGoesBackToTheStart()
     QVERIFY(!second.execute(QStringLiteral("select * from settings")).atEnd());
     QVERIFY(second.execute(QStringLiteral("select * from tasks where task_name >= 'y'")).atEnd());
     QCOMPARE(second.execute(QStringLiteral("pragma integrity_check")).text(0), QStringLiteral("ok"));
+}
+
+void DeferredCommitTest::abandonedWritingIsGone()
+{
+    TestDatabase database;
+    const QByteArray before = bytesOf(database.dataFile());
+    Connection connection = opened(database);
+    connection.execute(DeleteSettings);
+    connection.abandon();
+    QCOMPARE(connection.state(), Connection::State::Closed);
+    connection.abandon();
+    connection.close();
+    QVERIFY(bytesOf(database.dataFile()) == before);
+    QCOMPARE(database.statements().closed(), 1);
 }
 
 AMBERTASK_TEST_MAIN(DeferredCommitTest)
