@@ -28,7 +28,7 @@ namespace
 /// The real machine around the program.
 struct RealMachine {
     RealMachine(const QString& programFolder, ErrorReport& errorReport)
-        : engine{programFolder, &clock, nullptr, &dataFileIsSound}, errors(errorReport)
+        : engine{programFolder, &clock, nullptr, nullptr, &dataFileIsSound}, errors(errorReport)
     {
     }
 

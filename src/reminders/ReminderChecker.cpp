@@ -15,7 +15,8 @@ const QLatin1String MarkPlayed(
 } // namespace
 
 ReminderChecker::ReminderChecker(const DatabaseEngine& engine)
-    : m_clock(engine.clock->now()), m_engine{engine.programFolder, &m_clock, engine.listener, engine.knownSound},
+    : m_clock(engine.clock->now()), m_engine{engine.programFolder, &m_clock, engine.listener, engine.progress,
+                                        engine.knownSound},
       m_connection(ClsDatabase(m_engine).Connect())
 {
     m_connection.open();

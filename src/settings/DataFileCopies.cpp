@@ -1,11 +1,10 @@
 #include "settings/DataFileCopies.h"
 
-#include "data/ClsCategory.h"
 #include "data/ClsDatabase.h"
-#include "data/ClsTask.h"
 #include "platform/FileReplace.h"
 #include "platform/ProgramFolder.h"
 #include "platform/database/DatabaseError.h"
+#include "settings/DataFileCheck.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -16,12 +15,6 @@ namespace
 {
 
 constexpr std::array Companions{"-journal", "-wal"};
-constexpr std::array ColumnQueries{
-    "select always_on_top,start_with_windows,minimize_on_start,skin,show_task_status,show_task_due_date,"
-    "show_task_periority,show_task_reminder,show_today_tasks,show_grid,show_ballon_icon from settings",
-    "select cat_id,cat_name,cat_desc,cat_icon,custom_icon,cat_icon_name from categories",
-    "select task_id,task_name,task_desc,task_status,cat_id,task_due_date,task_periority,reminder_on,"
-    "reminder_date_time,reminder_sound,reminder_file,played,dismissed from tasks"};
 
 } // namespace
 
@@ -61,7 +54,7 @@ void DataFileCopies::restoreFrom(const QString& file, Progress* progress) const
     }
     const QString checked = folder.filePath(ClsDatabase(*m_engine).FileName());
     copyToNewFile(file, checked, PrivateFile, progress);
-    checkIsDataFile(folder.path(), progress);
+    requireServiceableDataFile({folder.path(), m_engine->clock, nullptr, progress});
     if (!QFileInfo::exists(place)) {
         moveOver(checked, place);
         return;
@@ -116,22 +109,4 @@ void DataFileCopies::refuseForeignFile(const QString& file) const
     if (!QFileInfo(file).isFile() || !source.open(QIODevice::ReadOnly) || source.read(Head.size()) != Head) {
         throw FileError(tr("\"%1\" is no data file.").arg(file));
     }
-}
-
-void DataFileCopies::checkIsDataFile(const QString& folder, Progress* progress) const
-{
-    const DatabaseEngine engine{folder, m_engine->clock, nullptr, progress};
-    Connection connection = ClsDatabase(engine).Connect();
-    connection.open();
-    const RecordSet verdict = connection.execute(QStringLiteral("pragma integrity_check"));
-    if (verdict.atEnd() || verdict.text(0) != QLatin1String("ok")) {
-        throw FileError(tr("The file is damaged."));
-    }
-    for (const char* query : ColumnQueries) {
-        connection.execute(QLatin1String(query));
-    }
-    connection.close();
-    // Every record has to be one that the lists can show.
-    ClsCategory(engine).GetAllCategories();
-    ClsTask(engine).readAll();
 }

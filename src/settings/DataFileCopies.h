@@ -28,7 +28,6 @@ private:
     void settleIfSound() const;
     void refuseForeignFile(const QString& file) const;
     void refuseOpenOperation(const QString& file) const;
-    void checkIsDataFile(const QString& folder, Progress* progress) const;
 
     const DatabaseEngine* m_engine;
     QString m_dataFile;

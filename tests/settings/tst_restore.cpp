@@ -172,6 +172,27 @@ void TestRestore::aFileThatIsNoBackupChangesNothing_data()
         << QByteArray("alter table tasks rename to t; create view tasks as select * from t") << QByteArray();
     QTest::newRow("a moment that is none")
         << QByteArray("update tasks set task_due_date='soon'") << QByteArray();
+    QTest::newRow("a reminder whose mark is no flag")
+        << QByteArray("update tasks set played='no'") << QByteArray();
+    QTest::newRow("settings that are no flags")
+        << QByteArray("update settings set show_grid='yes'") << QByteArray();
+    QTest::newRow("new tasks would count as played")
+        << QByteArray("pragma writable_schema=1; update sqlite_schema set sql="
+                      "replace(sql,'played INTEGER NOT NULL DEFAULT 0','played INTEGER NOT NULL DEFAULT 1')")
+        << QByteArray();
+    QTest::newRow("names would lose their leading zeros") << QByteArray(
+        "pragma writable_schema=1; update sqlite_schema set sql="
+        "replace(sql,'task_name TEXT','task_name REAL')") << QByteArray();
+    QTest::newRow("an order of names that nobody knows")
+        << QByteArray("pragma writable_schema=1; update sqlite_schema set sql=replace(sql,"
+                      "'cat_name TEXT NOT NULL DEFAULT '''' COLLATE NOCASE',"
+                      "'cat_name TEXT NOT NULL DEFAULT '''' COLLATE OTHER')")
+        << QByteArray();
+    QTest::newRow("no task ids are left")
+        << QByteArray("update sqlite_sequence set seq=2147483647 where name='tasks'") << QByteArray();
+    QTest::newRow("no category ids are left")
+        << QByteArray("update sqlite_sequence set seq=32767 where name='categories'") << QByteArray();
+    QTest::newRow("of a format that can only be read") << QByteArray() << QByteArray("format");
     QTest::newRow("a category id of 17 bits")
         << QByteArray("update categories set cat_id=70000 where cat_id=4") << QByteArray();
 }
@@ -189,6 +210,11 @@ void TestRestore::aFileThatIsNoBackupChangesNothing()
     } else if (content == "damage") {
         QByteArray bytes = contentOf(file);
         writeText(file, bytes.replace(4096, 8192, QByteArray(8192, '\x55')));
+    } else if (content == "format") {
+        constexpr int WriteFormat = 18;
+        QByteArray bytes = contentOf(file);
+        bytes[WriteFormat] = 9;
+        writeText(file, bytes);
     } else if (content.isNull()) {
         file += QStringLiteral(".missing");
     } else {

@@ -37,7 +37,7 @@ struct UnknownFile {
 
     TestDatabase database;
     bool sound = false;
-    DatabaseEngine engine{database.folder(), &database.clock(), nullptr, &sound};
+    DatabaseEngine engine{database.folder(), &database.clock(), nullptr, nullptr, &sound};
 };
 
 } // namespace

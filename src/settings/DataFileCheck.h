@@ -1,0 +1,8 @@
+#pragma once
+
+struct DatabaseEngine;
+
+/// Makes sure that `data.dat` in the folder of `engine` can serve as the program's data file: it is sound and
+/// holds the program's tables, every record is one that the program can read, and it takes new records as the
+/// program writes them. Changes nothing in it. Throws RuntimeError that says what is wrong.
+void requireServiceableDataFile(const DatabaseEngine& engine);
