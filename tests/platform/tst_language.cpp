@@ -1,6 +1,9 @@
 #include "platform/Language.h"
 #include "support/TestMain.h"
 
+#include <QDir>
+#include <QProcess>
+#include <QScopeGuard>
 #include <QTest>
 
 class LanguageTest : public TestCase
@@ -31,6 +34,29 @@ private slots:
         const QStringList shipped{QStringLiteral("ar"), QStringLiteral("de"), QStringLiteral("es"),
             QStringLiteral("fr"), QStringLiteral("zh_CN")};
         QTEST(catalogueFor(uiLanguages, shipped), "catalogue");
+    }
+
+    void theToolkitsOwnTextsMayLieBesideTheProgram()
+    {
+        const QDir folder(QCoreApplication::applicationDirPath() + QStringLiteral("/translations"));
+        QVERIFY(QDir().mkpath(folder.path()));
+        const auto clean = qScopeGuard([folder] { QDir(folder).removeRecursively(); });
+        // A language that no system brings.
+        QFile source(folder.filePath(QStringLiteral("qtbase_eo.ts")));
+        QVERIFY(source.open(QIODevice::WriteOnly));
+        source.write(
+            "<!DOCTYPE TS><TS version=\"2.1\" language=\"eo\"><context><name>QFileDialog</name><message>"
+            "<source>Open</source><translation>Malfermi</translation></message></context></TS>");
+        source.close();
+        QCOMPARE(QProcess::execute(
+                     QStringLiteral(AMBERTASK_LRELEASE), {QStringLiteral("-silent"), source.fileName()}),
+            0);
+
+        Language language;
+        language.speak(QStringLiteral("eo"));
+        QCOMPARE(QCoreApplication::translate("QFileDialog", "Open"), QStringLiteral("Malfermi"));
+        language.speak({});
+        QCOMPARE(QCoreApplication::translate("QFileDialog", "Open"), QStringLiteral("Open"));
     }
 };
 
