@@ -50,7 +50,8 @@ public:
     {
         if (event->type() == QEvent::Paint && watched->objectName() == QLatin1String("frmMain")) {
             qApp->removeEventFilter(this);
-            // All of the window is painted and handed to the screen in one go; nothing comes between that and this.
+            // All of the window is painted and handed to the screen in one go; nothing comes between that and
+            // this.
             QCoreApplication::postEvent(this, new QEvent(QEvent::User), Qt::HighEventPriority);
         }
         return false;

@@ -149,7 +149,9 @@ void SkinHeader::takeColor(QStringView value, int number)
 
 void SkinHeader::takeRole(bool disabled, QStringView value, int number)
 {
-    const auto [name, token] = firstWord(value);
+    const auto words = firstWord(value);
+    const QStringView name = words.first;
+    const QStringView token = words.second;
     if (!token.startsWith(u'$') || !isToken(token.mid(1)) || !isWord(name)) {
         throw SkinLineError(number,
             disabled ? tr("expected \"@disabled Role $token\"") : tr("expected \"@palette Role $token\""));
