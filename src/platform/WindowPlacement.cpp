@@ -1,5 +1,7 @@
 #include "platform/WindowPlacement.h"
 
+#include "platform/ActiveWindow.h"
+
 #include <QWidget>
 #include <QWindow>
 
@@ -61,6 +63,21 @@ void bringToFront(QWidget* window)
 void setOwner(QWidget* window, QWidget* owner)
 {
     nativeWindow(window)->setTransientParent(nativeWindow(owner));
+}
+
+void showUnasked(QWidget* window)
+{
+    const bool yields = isAnotherProgramActive();
+    // Window managers activate what is restored, whatever it asks for.
+    if (window->isMinimized()) {
+        window->hide();
+        window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+    }
+    window->setAttribute(Qt::WA_ShowWithoutActivating, yields);
+    // A native window that exists takes no notice of the attribute.
+    nativeWindow(window)->setProperty("_q_showWithoutActivating", yields);
+    window->show();
+    bringToFront(window);
 }
 
 void showOwned(QWidget* window, QWidget* owner)

@@ -13,5 +13,8 @@ bool isTopmost(const QWidget* window);
 void bringToFront(QWidget* window);
 /// Makes `owner` the window that `window` stays above, without making it a child.
 void setOwner(QWidget* window, QWidget* owner);
+/// Shows `window`, restores it when it is minimized, and brings it to the front. It becomes the active window
+/// unless one of another program is that now: from another program it takes neither activation nor keys.
+void showUnasked(QWidget* window);
 /// Shows `window` modeless above its owner, in front and active; restores it when it is minimized.
 void showOwned(QWidget* window, QWidget* owner);

@@ -189,13 +189,7 @@ void frmAlerts::comeUp()
     if (m_services.alwaysOnTop()) {
         makeTopmost(this);
     }
-    const bool wasMinimized = isVisible() && isMinimized();
-    setWindowState(windowState() & ~Qt::WindowMinimized);
-    show();
-    bringToFront(this);
-    if (wasMinimized) {
-        m_controls.grdTasks->setFocus();
-    }
+    showUnasked(this);
     QApplication::alert(this);
 }
 

@@ -2,10 +2,11 @@
 import struct
 import zlib
 
-from Xlib import X, Xutil, display, error
+from Xlib import X, XK, Xutil, display, error
 from Xlib.protocol import event
 
 ICONIC = 3
+KEY_NAMES = {symbol: name.removeprefix("XK_") for name, symbol in vars(XK).items() if name.startswith("XK_")}
 
 
 class Window:
@@ -181,13 +182,23 @@ class Screen:
     def open_plain_window(self, title, x, y, width, height):
         """Shows a window of another program, to be covered or to take the focus."""
         handle = self.root.create_window(x, y, width, height, 0, X.CopyFromParent, X.InputOutput, X.CopyFromParent,
-                                         background_pixel=0x336699, event_mask=X.FocusChangeMask)
+                                         background_pixel=0x336699,
+                                         event_mask=X.FocusChangeMask | X.KeyPressMask)
         handle.set_wm_name(title)
         handle.set_wm_protocols([self.atom("WM_DELETE_WINDOW")])
         handle.set_wm_normal_hints(flags=Xutil.PPosition | Xutil.PSize)
         handle.map()
         self.display.sync()
         return Window(self, handle)
+
+    def keys_struck(self):
+        """The symbols of the keys that the plain windows have received since the last call, as X names them."""
+        names = []
+        while self.display.pending_events():
+            one = self.display.next_event()
+            if one.type == X.KeyPress:
+                names.append(KEY_NAMES.get(self.display.keycode_to_keysym(one.detail, 0)))
+        return names
 
     # The notification area --------------------------------------------------------------------------------
 

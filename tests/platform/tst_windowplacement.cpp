@@ -28,6 +28,38 @@ class WindowPlacementTest : public TestCase
     Q_OBJECT
 
 private slots:
+    void aWindowShownUnaskedIsActiveWhereTheProgramIs()
+    {
+        QWidget first;
+        first.show();
+        first.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&first));
+        QWidget second;
+        showUnasked(&second);
+        QVERIFY(!second.testAttribute(Qt::WA_ShowWithoutActivating));
+        QVERIFY(!second.windowHandle()->property("_q_showWithoutActivating").toBool());
+        QVERIFY(second.isVisible());
+    }
+
+    void aWindowShownUnaskedLeavesTheKeysToAnotherProgram()
+    {
+        // Focus that the last window had goes with its end.
+        QTRY_VERIFY(QGuiApplication::focusWindow() == nullptr);
+        QWidget window;
+        showUnasked(&window);
+        QVERIFY(window.windowHandle()->property("_q_showWithoutActivating").toBool());
+        QVERIFY(window.isVisible());
+    }
+
+    void aMinimizedWindowShownUnaskedIsRestored()
+    {
+        QWidget window;
+        window.showMinimized();
+        showUnasked(&window);
+        QVERIFY(window.isVisible());
+        QVERIFY(!window.isMinimized());
+    }
+
     void aVisibleWindowBecomesTopmostWithoutBeingShownAgainOrMoved()
     {
         Watched window;
