@@ -32,7 +32,9 @@ constexpr std::array Bindings{Binding{"txtCatName", "cat_name"}, Binding{"txtTas
 
 ReportControl control(Kind kind, const char* name, const QString& caption = {})
 {
-    return {kind, QLatin1String(name), caption, {}};
+    // The report is arranged from left to right: a caption of another direction would leave its place.
+    constexpr QChar LeftToRightMark(0x200E);
+    return {kind, QLatin1String(name), caption.isRightToLeft() ? LeftToRightMark + caption : caption, {}};
 }
 
 std::vector<ReportSection> makeSections()

@@ -371,6 +371,11 @@ void TranslatedWindowsTest::theReportIsGood()
     t.f.press(t.f.main(), "btnTaskPrint");
     QVERIFY(t.f.reportWindow != nullptr);
     ReportContent content = t.f.reportWindow->content;
+    for (const ReportSection& section : content.sections) {
+        for (const ReportControl& label : section.controls) {
+            QVERIFY2(!label.caption.isRightToLeft(), qPrintable(label.caption));
+        }
+    }
     if (language == Pseudo) {
         QVERIFY(PseudoTranslator::isPseudo(content.caption));
         for (const ReportSection& section : content.sections) {
