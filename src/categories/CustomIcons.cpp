@@ -4,7 +4,6 @@
 #include "platform/PictureFile.h"
 #include "platform/RuntimeError.h"
 
-#include <QDir>
 #include <QPixmap>
 #include <algorithm>
 
@@ -42,8 +41,7 @@ QIcon CustomIcons::loadFile(const QString& path)
 void CustomIcons::store(const QString& source, const QString& name) const
 {
     const QString destination = pathOf(name);
-    // A folder that cannot be made is reported by the copy, which then has no place.
-    QDir().mkpath(m_folder);
+    makeFolder(m_folder);
     replaceByCopy(source, destination, PublicFile);
 }
 

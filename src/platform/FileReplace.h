@@ -2,6 +2,7 @@
 
 #include "platform/RuntimeError.h"
 
+#include <QByteArray>
 #include <QFileDevice>
 
 class Progress;
@@ -21,18 +22,19 @@ inline constexpr QFileDevice::Permissions PrivateFile = QFileDevice::ReadOwner |
 inline constexpr QFileDevice::Permissions PublicFile =
     PrivateFile | QFileDevice::ReadGroup | QFileDevice::ReadOther;
 
-// Files appear under their name complete or not at all, whenever the power fails. All functions throw
-// FileError; those that are given a `progress` tell it the bytes copied, and end without a trace when it
-// throws.
+// Files appear under their name complete or not at all, whenever the power fails, and what has been done is
+// on the disk at the return (as far as the file system can flush a folder). A private file is private
+// whatever the user's mask is. All functions throw FileError.
 
-/// Copies the regular file `source`, byte for byte, to the new file `target`; all of it is on the disk at the
-/// return. After an error there is no `target`.
+/// Copies the regular file `source`, byte for byte, to the new file `target`, whose name is not flushed.
+/// After an error there is no `target`.
 void copyToNewFile(const QString& source, const QString& target, QFileDevice::Permissions permissions,
     Progress* progress = nullptr);
 /// Gives `file` the name `target`, over a regular file of that name; both lie in one file system. Where
 /// `target` is a link, the file that it points to is replaced.
 void moveOver(const QString& file, const QString& target);
-/// Copies `source` over `target`, which keeps its content unless the copy is complete.
+/// Copies `source` over `target`, which keeps its content unless the copy is complete. Meanwhile the copy
+/// lies beside it; copies that a process left there when it died are removed.
 void replaceByCopy(const QString& source, const QString& target, QFileDevice::Permissions permissions,
     Progress* progress = nullptr);
 /// Gives `file` the second name `target`, in the same folder, over a regular file of that name; where the
@@ -40,11 +42,19 @@ void replaceByCopy(const QString& source, const QString& target, QFileDevice::Pe
 /// replaced.
 void keepAlso(const QString& file, const QString& target, QFileDevice::Permissions permissions,
     Progress* progress = nullptr);
+/// Writes `bytes` over `target`, in the same way.
+void replaceByBytes(const QByteArray& bytes, const QString& target, QFileDevice::Permissions permissions);
+/// Removes the file; one that does not exist is none.
+void removeFile(const QString& path);
+/// Makes the folder, and those above it that are missing.
+void makeFolder(const QString& path);
 
 /// Brings the names that `folder` holds to the disk. Some file systems cannot be asked for that; then nothing
 /// happens.
 void flushFolder(const QString& folder);
 
+/// Whether there is anything of that name. Throws when the disk cannot tell: that is no "no".
+bool isPresent(const QString& path);
 /// The path with links resolved, as far as the file exists.
 QString resolvedPath(const QString& path);
 /// Whether both paths lead to one existing file, by whatever links.

@@ -8,7 +8,6 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QHash>
-#include <QSaveFile>
 #include <QUuid>
 #include <filesystem>
 #include <system_error>
@@ -232,9 +231,13 @@ void bringShippedFiles(const QString& templateFolder, const QString& programFold
         }
     }
     const QByteArray after = writtenList(now);
-    QSaveFile file(stamp);
-    if (after != before && file.open(QIODevice::WriteOnly) && file.write(after) == after.size()) {
-        file.commit();
+    if (after == before) {
+        return;
+    }
+    try {
+        replaceByBytes(after, stamp, PublicFile);
+    } catch (const FileError&) {
+        // The next start tries again.
     }
 }
 

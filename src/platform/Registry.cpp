@@ -1,10 +1,10 @@
 #include "platform/Registry.h"
 
+#include "platform/FileReplace.h"
 #include "platform/ProgramFolder.h"
 
 #include <QDir>
-#include <QFile>
-#include <QSaveFile>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 #ifdef Q_OS_WIN
@@ -156,14 +156,6 @@ public:
         if (!isRunKey(hive, keyPath) || path.contains(u'\n') || path.contains(u'\r')) {
             return;
         }
-        const QString file = entryFile(name);
-        if (!QDir().mkpath(QFileInfo(file).path())) {
-            return;
-        }
-        QSaveFile entry(file);
-        if (!entry.open(QIODevice::WriteOnly)) {
-            return;
-        }
         const QString program = QString::fromLocal8Bit(name);
         // With TryExec no desktop complains of a program that is gone.
         const QString text = QStringLiteral("[Desktop Entry]\n"
@@ -174,17 +166,24 @@ public:
                                             "TryExec=%3\n"
                                             "Terminal=false\n")
                                  .arg(program, execValue(path), stringValue(path));
-        const QByteArray bytes = text.toUtf8();
-        // A failed flush must not replace a good entry by an empty one.
-        if (entry.write(bytes) == bytes.size() && entry.flush()) {
-            entry.commit();
+        try {
+            const QString file = entryFile(name);
+            makeFolder(QFileInfo(file).path());
+            replaceByBytes(text.toUtf8(), file, PublicFile);
+        } catch (const FileError&) {
+            // Without the right to write there is no entry, and nobody is told.
         }
     }
 
     void deleteValue(quint32 hive, const QString& keyPath, const QByteArray& name) override
     {
-        if (isRunKey(hive, keyPath)) {
-            QFile::remove(entryFile(name));
+        if (!isRunKey(hive, keyPath)) {
+            return;
+        }
+        try {
+            removeFile(entryFile(name));
+        } catch (const FileError&) {
+            // As above.
         }
     }
 

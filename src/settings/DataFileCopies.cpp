@@ -6,15 +6,61 @@
 #include "platform/database/DatabaseError.h"
 #include "settings/DataFileCheck.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QTemporaryDir>
 #include <array>
 
 namespace
 {
 
 constexpr std::array Companions{"-journal", "-wal"};
+
+/// The folder in which a file is checked before it takes the place of the data file; private, gone with this
+/// object. Its name is fixed, so that what a process left there when it died goes with the next restore.
+class CheckingFolder
+{
+public:
+    explicit CheckingFolder(const QString& dataFile)
+        : m_path(QFileInfo(dataFile).absolutePath() + QStringLiteral("/.restore"))
+    {
+        remove();
+        constexpr QFileDevice::Permissions Private = PrivateFile | QFileDevice::ExeOwner;
+        // The user's mask must not take away what the owner needs.
+        if (!QDir().mkdir(m_path, Private) || !QFile::setPermissions(m_path, Private)) {
+            throw FileError(DataFileCopies::tr("The folder \"%1\" cannot be made.").arg(m_path));
+        }
+    }
+    ~CheckingFolder() { remove(); }
+    CheckingFolder(const CheckingFolder&) = delete;
+    CheckingFolder& operator=(const CheckingFolder&) = delete;
+    QString path() const { return m_path; }
+
+private:
+    void remove() const
+    {
+        // What a link points to is not ours.
+        if (QFileInfo(m_path).isSymLink()) {
+            QFile::remove(m_path);
+        } else {
+            QDir(m_path).removeRecursively();
+        }
+    }
+
+    QString m_path;
+};
+
+/// Whether the engine would take something back from that journal: not from one that is empty or whose head
+/// has been wiped.
+bool isUnfinished(const QString& journal)
+{
+    QFile file(journal);
+    if (!isPresent(journal)) {
+        return false;
+    }
+    char first = '\0';
+    return !file.open(QIODevice::ReadOnly) || file.read(&first, 1) < 0 || first != '\0';
+}
 
 } // namespace
 
@@ -48,18 +94,20 @@ void DataFileCopies::restoreFrom(const QString& file, Progress* progress) const
     refuseForeignFile(file);
     const QString place = resolvedPath(m_dataFile);
     // Beside the data file: what has been checked is what takes its place, by a mere renaming.
-    const QTemporaryDir folder(QFileInfo(place).absolutePath() + QStringLiteral("/.restore-XXXXXX"));
-    if (!folder.isValid()) {
-        throw FileError(folder.errorString());
-    }
-    const QString checked = folder.filePath(ClsDatabase(*m_engine).FileName());
+    const CheckingFolder folder(place);
+    const QString checked = pathIn(folder.path(), ClsDatabase(*m_engine).FileName());
     copyToNewFile(file, checked, PrivateFile, progress);
     requireServiceableDataFile({folder.path(), m_engine->clock, nullptr, progress});
-    if (!QFileInfo::exists(place)) {
+    const bool replaces = isPresent(place);
+    if (replaces) {
+        settleIfSound();
+    }
+    // It would be rolled back into the new file.
+    refuseOpenOperation(m_dataFile);
+    if (!replaces) {
         moveOver(checked, place);
         return;
     }
-    settleIfSound();
     // No bytes are copied: the restored file takes the name, and the old one keeps its second one.
     const QString replaced = place + QStringLiteral(".before-restore");
     keepAlso(place, replaced, PrivateFile, progress);
@@ -81,21 +129,19 @@ void DataFileCopies::settle() const
     connection.close();
 }
 
-// A damaged data file is the best reason for a restore. What matters is that no journal is left that would be
-// rolled back into the new file.
 void DataFileCopies::settleIfSound() const
 {
     try {
         settle();
     } catch (const DatabaseError&) {
+        // A damaged data file is the best reason for a restore.
     }
-    refuseOpenOperation(m_dataFile);
 }
 
 void DataFileCopies::refuseOpenOperation(const QString& file) const
 {
     for (const char* companion : Companions) {
-        if (QFileInfo(resolvedPath(file) + QLatin1String(companion)).size() > 0) {
+        if (isUnfinished(resolvedPath(file) + QLatin1String(companion))) {
             throw FileError(tr("An operation on \"%1\" is not finished.").arg(file));
         }
     }

@@ -7,7 +7,8 @@ class Progress;
 struct DatabaseEngine;
 
 /// Copies of the data file: backups, and the way back from one. No connection to the data file may be open
-/// meanwhile. All operations throw RuntimeError, or what `progress` throws, and then nothing has changed.
+/// meanwhile. All operations throw RuntimeError, or what `progress` throws, and then the data
+/// file and the backups are as they were.
 class DataFileCopies
 {
     Q_DECLARE_TR_FUNCTIONS(DataFileCopies)

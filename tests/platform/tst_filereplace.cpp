@@ -6,7 +6,10 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace
 {
@@ -39,6 +42,15 @@ private slots:
     void aSecondNameKeepsTheContent();
     void aSecondNameMayBeGivenAgain();
     void linksAndSecondNamesAreTheSameFile();
+    void aPrivateFileIsPrivateWhateverTheMask_data();
+    void aPrivateFileIsPrivateWhateverTheMask();
+    void bytesReplaceAFile();
+    void whatADeadProcessLeftGoesWithTheNextReplacement();
+    void theUnfinishedFileOfAnotherProcessStays();
+    void otherHiddenFilesStay();
+    void aMissingFileIsAsGoodAsRemoved();
+    void foldersAreMadeWithThoseAboveThem();
+    void whatTheDiskCannotTellIsNoNo();
 
 private:
     QString write(const QString& name, const QByteArray& bytes) const
@@ -188,6 +200,102 @@ void TestFileReplace::linksAndSecondNamesAreTheSameFile()
     QVERIFY(!isSameFile(file, other));
     QVERIFY(!isSameFile(file, path(QStringLiteral("missing"))));
     QVERIFY(!isSameFile(path(QStringLiteral("missing")), path(QStringLiteral("missing"))));
+}
+
+void TestFileReplace::aPrivateFileIsPrivateWhateverTheMask_data()
+{
+    QTest::addColumn<int>("mask");
+    for (const int mask : {0, 022, 077, 0277, 0777}) {
+        QTest::addRow("%o", mask) << mask;
+    }
+}
+
+void TestFileReplace::aPrivateFileIsPrivateWhateverTheMask()
+{
+    QFETCH(const int, mask);
+    const QString source = write(QStringLiteral("source"), "x");
+    write(QStringLiteral("replaced"), "old");
+    QVERIFY(QFile::setPermissions(source, QFileDevice::Permissions(0x7777)));
+    QVERIFY(QFile::setPermissions(path(QStringLiteral("replaced")), QFileDevice::Permissions(0x7777)));
+    const mode_t before = umask(static_cast<mode_t>(mask));
+    copyToNewFile(source, path(QStringLiteral("copied")), PrivateFile);
+    replaceByCopy(source, path(QStringLiteral("replaced")), PrivateFile);
+    replaceByBytes("x", path(QStringLiteral("bytes")), PrivateFile);
+    umask(before);
+    for (const char* name : {"copied", "replaced", "bytes"}) {
+        struct stat status {
+        };
+        QCOMPARE(stat(QFile::encodeName(path(QLatin1String(name))).constData(), &status), 0);
+        QCOMPARE(status.st_mode & 07777, 0600);
+    }
+}
+
+void TestFileReplace::bytesReplaceAFile()
+{
+    const QString target = write(QStringLiteral("target"), "an old and longer content");
+    replaceByBytes("new", target, PublicFile);
+    QCOMPARE(contentOf(target), QByteArray("new"));
+    QCOMPARE(files(), QStringList(QStringLiteral("target")));
+}
+
+void TestFileReplace::whatADeadProcessLeftGoesWithTheNextReplacement()
+{
+    write(QStringLiteral(".ambertask-0123456789abcdef0123456789abcdef"), "half");
+    write(QStringLiteral(".ambertask-fedcba98765432100123456789abcdef"), "");
+    replaceByBytes("x", path(QStringLiteral("target")), PrivateFile);
+    QCOMPARE(files(), QStringList(QStringLiteral("target")));
+}
+
+void TestFileReplace::theUnfinishedFileOfAnotherProcessStays()
+{
+    const QString unfinished = write(QStringLiteral(".ambertask-0123456789abcdef0123456789abcdef"), "half");
+    const int handle = open(QFile::encodeName(unfinished).constData(), O_RDWR | O_CLOEXEC);
+    QCOMPARE(flock(handle, LOCK_EX), 0);
+    replaceByBytes("x", path(QStringLiteral("target")), PrivateFile);
+    QVERIFY(QFile::exists(unfinished));
+    close(handle);
+    replaceByBytes("x", path(QStringLiteral("target")), PrivateFile);
+    QVERIFY(!QFile::exists(unfinished));
+}
+
+void TestFileReplace::otherHiddenFilesStay()
+{
+    const QStringList others{QStringLiteral(".ambertask-0123456789abcdef0123456789abcde"),
+        QStringLiteral(".ambertask-0123456789abcdef0123456789abcdefx"), QStringLiteral(".ambertask-notes")};
+    for (const QString& name : others) {
+        write(name, "x");
+    }
+    QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral(".ambertask-ffffffffffffffffffffffffffffffff")));
+    replaceByBytes("x", path(QStringLiteral("target")), PrivateFile);
+    QCOMPARE(files().size(), others.size() + 2);
+}
+
+void TestFileReplace::aMissingFileIsAsGoodAsRemoved()
+{
+    const QString file = write(QStringLiteral("file"), "x");
+    removeFile(file);
+    QVERIFY(!QFile::exists(file));
+    removeFile(file);
+    QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("folder")));
+    QVERIFY(caught<FileError>([&] { removeFile(path(QStringLiteral("folder"))); }).has_value());
+}
+
+void TestFileReplace::foldersAreMadeWithThoseAboveThem()
+{
+    makeFolder(path(QStringLiteral("a/b/c")));
+    makeFolder(path(QStringLiteral("a/b/c")));
+    QVERIFY(QFileInfo(path(QStringLiteral("a/b/c"))).isDir());
+    write(QStringLiteral("file"), "x");
+    QVERIFY(caught<FileError>([&] { makeFolder(path(QStringLiteral("file/d"))); }).has_value());
+}
+
+void TestFileReplace::whatTheDiskCannotTellIsNoNo()
+{
+    const QString file = write(QStringLiteral("file"), "x");
+    QVERIFY(isPresent(file));
+    QVERIFY(!isPresent(path(QStringLiteral("missing"))));
+    QVERIFY(!isPresent(path(QStringLiteral("file/below"))));
+    QVERIFY(caught<FileError>([&] { isPresent(path(QString(300, u'x'))); }).has_value());
 }
 
 AMBERTASK_TEST_MAIN(TestFileReplace)

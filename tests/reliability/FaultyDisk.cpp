@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <unistd.h>
 #include <utility>
 
 namespace files = std::filesystem;
@@ -85,6 +86,9 @@ int FaultyDisk::refuse(FileCall call, const std::string& path)
     }
     if (m_calls.size() == m_fault.atCall) {
         m_refusedKind = call;
+    }
+    if (m_fault.error == Death) {
+        _exit(0);
     }
     const bool refuses = m_calls.size() == m_fault.atCall || m_fault.lasting == Lasting::ForAll
         || (m_fault.lasting == Lasting::ForThisKind && call == m_refusedKind);

@@ -41,9 +41,11 @@ public:
         ForThisKind, ///< from then on, all calls of the kind that was refused first
         ForAll ///< from then on, all calls
     };
+    /// In the place of an error number: the process ends there.
+    static constexpr int Death = -1;
     struct Fault {
         std::size_t atCall = 0; ///< counted from 1; 0 for none
-        int error = 0;
+        int error = 0; ///< an error number, or Death
         Lasting lasting = Lasting::Once;
     };
     struct Call {

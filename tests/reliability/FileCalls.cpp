@@ -357,6 +357,20 @@ int stat64(const char* path, struct stat64* status) noexcept
     return call.refused(FileCall::Status) ? -1 : stat(path, status);
 }
 
+int stat(const char* path, struct stat* status) noexcept
+{
+    static const auto stat = libraryFunction<int(const char*, struct stat*)>("stat");
+    const Watched call(path);
+    return call.refused(FileCall::Status) ? -1 : stat(path, status);
+}
+
+int lstat64(const char* path, struct stat64* status) noexcept
+{
+    static const auto stat = libraryFunction<int(const char*, struct stat64*)>("lstat64");
+    const Watched call(path);
+    return call.refused(FileCall::Status) ? -1 : stat(path, status);
+}
+
 int fstat64(int handle, struct stat64* status) noexcept
 {
     static const auto stat = libraryFunction<int(int, struct stat64*)>("fstat64");

@@ -5,6 +5,8 @@
 #include <array>
 #include <cerrno>
 #include <filesystem>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace
 {
@@ -71,6 +73,7 @@ Sweep::Figures& Sweep::Figures::operator+=(const Figures& other)
     calls += other.calls;
     faults += other.faults;
     failures += other.failures;
+    deaths += other.deaths;
     cuts += other.cuts;
     images += other.images;
     return *this;
@@ -78,10 +81,11 @@ Sweep::Figures& Sweep::Figures::operator+=(const Figures& other)
 
 QString Sweep::Figures::text() const
 {
-    return QStringLiteral("%1 calls, %2 faults, %3 failures, %4 power cuts, %5 disk contents")
+    return QStringLiteral("%1 calls, %2 faults, %3 failures, %4 deaths, %5 power cuts, %6 disk contents")
         .arg(calls)
         .arg(faults)
         .arg(failures)
+        .arg(deaths)
         .arg(cuts)
         .arg(images);
 }
@@ -97,8 +101,7 @@ Sweep::Sweep(std::string folder, Operation operation)
 {
     std::filesystem::create_directory(m_lost);
     reset(m_start);
-    m_told = run({});
-    if (m_told == Told::Failure) {
+    if (run({}) == Told::Failure) {
         complain("without a fault", "it failed");
     }
     m_calls = m_disk.calls();
@@ -224,7 +227,12 @@ void Sweep::expectSuccessNow(const std::string& where)
     if (said == Told::Failure) {
         complain(where, "it fails again without a fault");
     }
-    expect(where + ", done again", said, judge(m_folder));
+    const Judged judged = judge(m_folder);
+    if (judged.verdict == Verdict::Wrong) {
+        complain(where + ", done again", judged.why);
+    } else if (judged.verdict == Verdict::Old && m_old != m_new) {
+        complain(where, "done again without an effect");
+    }
     if (namesIn(imageOf(m_folder)) != namesIn(m_end)) {
         std::string all;
         for (const std::string& name : namesIn(imageOf(m_folder))) {
@@ -266,6 +274,30 @@ void Sweep::cut(const PowerCut& power, Survives data, Survives names, Told said,
     }
 }
 
+void Sweep::everyDeath()
+{
+    for (std::size_t at = 1; at <= m_calls.size(); ++at) {
+        const std::string where = "death at call " + std::to_string(at);
+        reset(m_start);
+        const pid_t child = fork();
+        if (child == 0) {
+            run({at, FaultyDisk::Death, FaultyDisk::Lasting::Once});
+            _exit(1);
+        }
+        int status = 1;
+        waitpid(child, &status, 0);
+        if (!WIFEXITED(status) || WEXITSTATUS(status) != 0) {
+            complain(where, "it did not die there");
+        }
+        ++m_figures.deaths;
+        const Judged judged = judge(m_folder);
+        expect(where, Told::Nothing, judged);
+        if (m_operation.repeats && judged.verdict == Verdict::Old) {
+            expectSuccessNow(where);
+        }
+    }
+}
+
 void Sweep::everyPowerCut(int chances, std::size_t points)
 {
     PowerCut power(m_history.start);
@@ -280,7 +312,7 @@ void Sweep::everyPowerCut(int chances, std::size_t points)
         }
         const std::string where =
             "power cut after change " + std::to_string(at) + " of " + std::to_string(last);
-        const Told said = at == last ? m_told : Told::Nothing;
+        const Told said = at == last ? Told::Success : Told::Nothing;
         for (const Survives data : {Survives::Nothing, Survives::Everything}) {
             for (const Survives names : {Survives::Nothing, Survives::Everything}) {
                 cut(power, data, names, said, where);

@@ -42,6 +42,7 @@ public:
         std::size_t calls = 0; ///< of the operation when nothing fails
         std::size_t faults = 0; ///< runs with a fault
         std::size_t failures = 0; ///< of them, said to have failed
+        std::size_t deaths = 0; ///< of a process
         std::size_t cuts = 0; ///< power cuts looked at
         std::size_t images = 0; ///< of them, with different content on the disk
         Figures& operator+=(const Figures& other);
@@ -57,6 +58,8 @@ public:
     /// Every call fails in every way it can: once, then for good, then together with all calls after it. Of
     /// an operation of many calls about `points`, evenly spread.
     void everyFault(std::size_t points = AllPoints);
+    /// A process of its own does the operation and dies at every call.
+    void everyDeath();
     /// The power fails before, between and after all changes, or at about `points` of these moments; at each
     /// `chances` times with a random part of what was not flushed.
     void everyPowerCut(int chances, std::size_t points = AllPoints);
@@ -92,7 +95,6 @@ private:
     DiskImage m_end;
     std::string m_old;
     std::string m_new;
-    Told m_told = Told::Nothing;
     std::vector<FaultyDisk::Call> m_calls;
     DiskHistory m_history;
     std::map<std::size_t, Judged> m_judged;

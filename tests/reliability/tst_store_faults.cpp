@@ -181,8 +181,8 @@ class TestStoreFaults : public TestCase
     Q_OBJECT
 
 private slots:
-    void everyFaultLeavesTheOldStateOrTheNew_data() { listActions(); }
-    void everyFaultLeavesTheOldStateOrTheNew();
+    void everyFaultAndEveryDeathLeavesTheOldStateOrTheNew_data() { listActions(); }
+    void everyFaultAndEveryDeathLeavesTheOldStateOrTheNew();
     void everyPowerCutLeavesTheOldStateOrTheNew_data() { listActions(); }
     void everyPowerCutLeavesTheOldStateOrTheNew();
     void anOperationLargerThanTheCacheIsWholeToo();
@@ -220,7 +220,7 @@ void TestStoreFaults::expectNoComplaints(const Sweep& sweep)
     QVERIFY2(sweep.complaints().isEmpty(), qPrintable(sweep.complaints()));
 }
 
-void TestStoreFaults::everyFaultLeavesTheOldStateOrTheNew()
+void TestStoreFaults::everyFaultAndEveryDeathLeavesTheOldStateOrTheNew()
 {
     QFETCH(const int, action);
     TestDatabase database;
@@ -228,6 +228,7 @@ void TestStoreFaults::everyFaultLeavesTheOldStateOrTheNew()
     Sweep sweep(database.folder().toStdString(),
         operationOf(database.engine(), actions()[static_cast<std::size_t>(action)].action));
     sweep.everyFault();
+    sweep.everyDeath();
     expectNoComplaints(sweep);
 }
 

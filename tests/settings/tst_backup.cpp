@@ -26,6 +26,7 @@ private slots:
     void aFullDiskLeavesTheOlderBackup();
     void aCancelledCopyLeavesTheOlderBackup();
     void theJournalOfADeadProcessIsRolledBackFirst();
+    void aJournalThatNothingIsTakenBackFromHoldsNoBackupUp();
     void noStatementIsSent();
     void noHandleToTheDataFileStaysOpen();
 };
@@ -204,6 +205,19 @@ void TestBackup::theJournalOfADeadProcessIsRolledBackFirst()
     DataFileCopies(engine).backUpTo(backup);
     QVERIFY(contentOf(backup) == contentOf(test.database.dataFile()));
     QVERIFY(!QFileInfo::exists(dead.filePath(QStringLiteral("data.dat-journal"))));
+}
+
+void TestBackup::aJournalThatNothingIsTakenBackFromHoldsNoBackupUp()
+{
+    MaintenancePageUnderTest test;
+    const QString backup = test.pathOf(QStringLiteral("b.abk"));
+    // A power cut can leave a journal with a length but without content.
+    for (const QByteArray& left : {QByteArray(), QByteArray(1024, '\0')}) {
+        writeText(test.pathOf(QStringLiteral("data.dat-journal")), left);
+        DataFileCopies(test.database.engine()).backUpTo(backup);
+        QVERIFY(contentOf(backup) == contentOf(test.database.dataFile()));
+        QVERIFY(QFile::remove(backup));
+    }
 }
 
 void TestBackup::noStatementIsSent()

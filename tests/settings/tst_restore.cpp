@@ -64,7 +64,10 @@ private slots:
     void aRestoreThatIsCancelledChangesNothing_data();
     void aRestoreThatIsCancelledChangesNothing();
     void theReplacedFileAndTheDataFileAreTwoFiles();
+    void theJournalOfAMissingDataFileDoesNotReachTheNewFile();
     void nothingIsLeftBehind();
+    void whatADeadRestoreLeftGoesWithTheNext();
+    void aLinkInThePlaceOfTheCheckingFolderIsNotFollowed();
 };
 
 void TestRestore::aBackupBringsItsTasksAndCategoriesBack()
@@ -337,6 +340,43 @@ void TestRestore::nothingIsLeftBehind()
     test.restore(test.backup());
     QCOMPARE(
         test.files(), QStringList({QStringLiteral("data.dat"), QStringLiteral("data.dat.before-restore")}));
+}
+
+void TestRestore::theJournalOfAMissingDataFileDoesNotReachTheNewFile()
+{
+    RestoreUnderTest test;
+    test.database.sql(TwoHundredTasks);
+    const QTemporaryDir dead;
+    leaveDeadOperation(test.database.dataFile(), dead.path());
+    QVERIFY(QFile::remove(dead.filePath(QStringLiteral("data.dat"))));
+    const DatabaseEngine engine{dead.path(), &test.services.clock, nullptr};
+    QVERIFY(caught<FileError>([&] { DataFileCopies(engine).restoreFrom(test.backup()); }));
+    QVERIFY(!QFileInfo::exists(dead.filePath(QStringLiteral("data.dat"))));
+    QVERIFY(QFileInfo(dead.filePath(QStringLiteral("data.dat-journal"))).size() > 0);
+}
+
+void TestRestore::whatADeadRestoreLeftGoesWithTheNext()
+{
+    RestoreUnderTest test;
+    QVERIFY(QDir().mkdir(test.pathOf(QStringLiteral(".restore"))));
+    writeText(test.pathOf(QStringLiteral(".restore/data.dat")), "half a cop");
+    writeText(test.pathOf(QStringLiteral(".restore/data.dat-journal")), "and its journal");
+    writeText(test.pathOf(QStringLiteral(".ambertask-0123456789abcdef0123456789abcdef")), "half a copy");
+    test.restore(test.backup());
+    QCOMPARE(test.tasks(), QStringList(QStringLiteral("before")));
+    QCOMPARE(
+        test.files(), QStringList({QStringLiteral("data.dat"), QStringLiteral("data.dat.before-restore")}));
+}
+
+void TestRestore::aLinkInThePlaceOfTheCheckingFolderIsNotFollowed()
+{
+    RestoreUnderTest test;
+    writeText(test.elsewhere.filePath(QStringLiteral("precious")), "x");
+    QVERIFY(QFile::link(test.elsewhere.path(), test.pathOf(QStringLiteral(".restore"))));
+    test.restore(test.backup());
+    QCOMPARE(test.tasks(), QStringList(QStringLiteral("before")));
+    QVERIFY(QFileInfo::exists(test.elsewhere.filePath(QStringLiteral("precious"))));
+    QVERIFY(!QFileInfo(test.pathOf(QStringLiteral(".restore"))).isSymLink());
 }
 
 AMBERTASK_TEST_MAIN(TestRestore)

@@ -1,0 +1,258 @@
+#include "categories/CustomIcons.h"
+#include "data/ClsTask.h"
+#include "platform/Registry.h"
+#include "platform/RuntimeError.h"
+#include "reliability/DataFileState.h"
+#include "reliability/Sweep.h"
+#include "settings/DataFileCopies.h"
+#include "settings/DeadOperation.h"
+#include "settings/Skins.h"
+#include "support/ScriptedDialogs.h"
+#include "support/TestDatabase.h"
+#include "support/TestMain.h"
+#include "support/TestPictures.h"
+
+#include <QStandardPaths>
+#include <QTest>
+#include <filesystem>
+
+namespace
+{
+
+constexpr auto BeforeRestore = "data.dat.before-restore";
+
+/// The content of a file, or "none".
+std::string contentIn(const std::string& folder, const std::string& name)
+{
+    const std::string path = folder + '/' + name;
+    return std::filesystem::exists(path) ? bytesOf(QString::fromStdString(path)).toStdString() : "none";
+}
+
+/// The rows of a data file, or "none".
+std::string rowsIn(const std::string& folder, const std::string& name)
+{
+    return std::filesystem::exists(folder + '/' + name) ? dataFileState(folder, name) : "none";
+}
+
+/// A folder with a program folder in "program", a folder for other files in "elsewhere", and the folder of
+/// the user's configuration in "config".
+struct Place {
+    Place()
+    {
+        for (const char* name : {"program", "elsewhere", "config"}) {
+            QDir(root.path()).mkdir(QLatin1String(name));
+        }
+        aTask(database).named(QStringLiteral("before")).add();
+        copyDataFile(QStringLiteral("elsewhere/b.abk"));
+        database.sql(QStringLiteral("update tasks set task_name='after'"));
+        copyDataFile(QStringLiteral("program/data.dat"));
+    }
+
+    QString path(const QString& name) const { return root.filePath(name); }
+    void copyDataFile(const QString& name) const { QVERIFY(QFile::copy(database.dataFile(), path(name))); }
+    Operation backup(const QString& name) const
+    {
+        return {[this, name] { return told([&] { DataFileCopies(engine).backUpTo(path(name)); }); },
+            [name](const std::string& folder) {
+                return dataFileState(folder + "/program") + '/' + rowsIn(folder, name.toStdString());
+            }};
+    }
+    /// The data file that was replaced has to be found beside the new one, and no other file may take its
+    /// name.
+    Operation restore() const
+    {
+        const std::string replaced = rowsIn(root.path().toStdString(), "program/data.dat");
+        const std::string kept = rowsIn(root.path().toStdString(), std::string("program/") + BeforeRestore);
+        return {[this] {
+                    return told(
+                        [&] { DataFileCopies(engine).restoreFrom(path(QStringLiteral("elsewhere/b.abk"))); });
+                },
+            [replaced, kept](const std::string& folder) {
+                const std::string state = dataFileState(folder + "/program");
+                const std::string beside = rowsIn(folder + "/program", BeforeRestore);
+                if (beside != replaced && (beside != kept || state != replaced)) {
+                    throw std::runtime_error("what was replaced is lost");
+                }
+                return state;
+            }};
+    }
+
+    TestDatabase database;
+    QTemporaryDir root;
+    DatabaseEngine engine{root.filePath(QStringLiteral("program")), database.engine().clock, nullptr};
+};
+
+} // namespace
+
+class TestReplacementFaults : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QStandardPaths::setTestModeEnabled(false); }
+    void aBackupUnderANewNameIsWholeOrNotThere();
+    void aBackupReplacesAnOlderOneWholeOrNotAtAll();
+    void aBackupAfterADeadOperationIsWholeOrNotThere();
+    void aBackupAfterEveryPowerCutHoldsTheOldStateOrTheNew();
+    void aRestoreReplacesTheDataFileWholeOrNotAtAll();
+    void aRestoreOverADeadOperationIsWholeOrNotAtAll();
+    void aSecondRestoreKeepsWhatItReplaces();
+    void aSkinIsAddedWholeOrNotAtAll();
+    void aCustomIconIsStoredWholeOrNotAtAll();
+    void theSessionEntryIsWrittenWholeOrNotAtAll();
+    void theSessionEntryIsReplacedWholeOrNotAtAll();
+    void theSessionEntryIsRemovedOrStays();
+    void cleanupTestCase() { qInfo("all: %s", qPrintable(m_all.text())); }
+
+private:
+    void trySweep(const Place& place, Operation operation)
+    {
+        Sweep sweep(place.root.path().toStdString(), std::move(operation));
+        sweep.everyFault();
+        sweep.everyDeath();
+        sweep.everyPowerCut(8 * sweeps());
+        m_all += sweep.figures();
+        qInfo("%s", qPrintable(sweep.figures().text()));
+        QVERIFY2(sweep.complaints().isEmpty(), qPrintable(sweep.complaints()));
+    }
+    void tryEntry(const Place& place, const std::function<void(Registry&)>& action)
+    {
+        qputenv("XDG_CONFIG_HOME", QFile::encodeName(place.path(QStringLiteral("config"))));
+        const std::unique_ptr<Registry> registry = makeSystemRegistry();
+        trySweep(place,
+            {[&] {
+                 action(*registry);
+                 return Told::Nothing;
+             },
+                [](const std::string& folder) {
+                    return contentIn(folder, "config/autostart/Ambertask.desktop");
+                }});
+    }
+
+    Sweep::Figures m_all;
+};
+
+void TestReplacementFaults::aBackupUnderANewNameIsWholeOrNotThere()
+{
+    const Place place;
+    trySweep(place, place.backup(QStringLiteral("elsewhere/new.abk")));
+}
+
+void TestReplacementFaults::aBackupReplacesAnOlderOneWholeOrNotAtAll()
+{
+    const Place place;
+    trySweep(place, place.backup(QStringLiteral("elsewhere/b.abk")));
+}
+
+void TestReplacementFaults::aBackupAfterADeadOperationIsWholeOrNotThere()
+{
+    const Place place;
+    place.database.sql(TwoHundredTasks);
+    QVERIFY(QFile::remove(place.path(QStringLiteral("program/data.dat"))));
+    leaveDeadOperation(place.database.dataFile(), place.path(QStringLiteral("program")));
+    QVERIFY(QFile::remove(place.path(QStringLiteral("program/work.dat"))));
+    trySweep(place, place.backup(QStringLiteral("elsewhere/b.abk")));
+}
+
+void TestReplacementFaults::aBackupAfterEveryPowerCutHoldsTheOldStateOrTheNew()
+{
+    const Place place;
+    // The backup is the first to open what the power cut left.
+    const auto backedUp = [&](const std::string& folder) {
+        const QString program = QString::fromStdString(folder) + QStringLiteral("/program");
+        const DatabaseEngine lost{program, place.engine.clock, nullptr};
+        const QString target = QString::fromStdString(folder) + QStringLiteral("/elsewhere/after.abk");
+        DataFileCopies(lost).backUpTo(target);
+        const std::string state = dataFileState(folder, "elsewhere/after.abk");
+        QFile::remove(target);
+        return state;
+    };
+    trySweep(place,
+        {[&] {
+             return told([&] {
+                 ClsTask task(place.engine);
+                 task.setTaskName(QString(5000, u'x'));
+                 task.setCategoryId(1);
+                 task.Add();
+             });
+         },
+            backedUp});
+}
+
+void TestReplacementFaults::aRestoreReplacesTheDataFileWholeOrNotAtAll()
+{
+    const Place place;
+    trySweep(place, place.restore());
+}
+
+void TestReplacementFaults::aRestoreOverADeadOperationIsWholeOrNotAtAll()
+{
+    const Place place;
+    place.database.sql(TwoHundredTasks);
+    QVERIFY(QFile::remove(place.path(QStringLiteral("program/data.dat"))));
+    leaveDeadOperation(place.database.dataFile(), place.path(QStringLiteral("program")));
+    QVERIFY(QFile::remove(place.path(QStringLiteral("program/work.dat"))));
+    const DiskImage dead = imageOf(place.root.path().toStdString());
+    const Operation restore = place.restore();
+    writeImage(dead, place.root.path().toStdString());
+    trySweep(place, restore);
+}
+
+void TestReplacementFaults::aSecondRestoreKeepsWhatItReplaces()
+{
+    const Place place;
+    place.database.sql(QStringLiteral("update tasks set task_name='long ago'"));
+    place.copyDataFile(QStringLiteral("program/data.dat.before-restore"));
+    trySweep(place, place.restore());
+}
+
+void TestReplacementFaults::aSkinIsAddedWholeOrNotAtAll()
+{
+    const Place place;
+    const QString skin = place.path(QStringLiteral("elsewhere/New.skf"));
+    QVERIFY(QFile::copy(QStringLiteral(AMBERTASK_SHIPPED_SKINS "/Lemon.skf"), skin));
+    writeFile(place.path(QStringLiteral("program/Skins")), QStringLiteral("New.skf"), "an older one");
+    ScriptedDialogs dialogs;
+    const Skins skins(place.engine.programFolder, dialogs);
+    trySweep(place,
+        {[&] { return told([&] { skins.add(skin); }); },
+            [](const std::string& folder) {
+                return contentIn(folder, "program/Skins/New.skf");
+            }});
+}
+
+void TestReplacementFaults::aCustomIconIsStoredWholeOrNotAtAll()
+{
+    const Place place;
+    const QString picture =
+        writeFile(place.path(QStringLiteral("elsewhere")), QStringLiteral("p.gif"), gifOf());
+    const CustomIcons icons(place.engine.programFolder);
+    trySweep(place,
+        {[&] { return told([&] { icons.store(picture, QStringLiteral("icon7.gif")); }); },
+            [](const std::string& folder) {
+                return contentIn(folder, "program/custom icons/icon7.gif");
+            }});
+}
+
+void TestReplacementFaults::theSessionEntryIsWrittenWholeOrNotAtAll()
+{
+    const Place place;
+    tryEntry(place, [&](Registry& registry) { writeRunEntry(registry, place.engine.programFolder); });
+}
+
+void TestReplacementFaults::theSessionEntryIsReplacedWholeOrNotAtAll()
+{
+    const Place place;
+    writeFile(place.path(QStringLiteral("config/autostart")), QStringLiteral("Ambertask.desktop"), "old");
+    tryEntry(place, [&](Registry& registry) { writeRunEntry(registry, place.engine.programFolder); });
+}
+
+void TestReplacementFaults::theSessionEntryIsRemovedOrStays()
+{
+    const Place place;
+    writeFile(place.path(QStringLiteral("config/autostart")), QStringLiteral("Ambertask.desktop"), "old");
+    tryEntry(place, [](Registry& registry) { deleteRunEntry(registry); });
+}
+
+AMBERTASK_TEST_MAIN(TestReplacementFaults)
+#include "tst_replacement_faults.moc"
