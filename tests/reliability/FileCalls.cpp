@@ -1,8 +1,7 @@
-#include "reliability/FileCalls.h"
+#include "reliability/WatchedCall.h"
 
 #include <cerrno>
 #include <cstdarg>
-#include <dlfcn.h>
 #include <fcntl.h>
 #include <filesystem>
 #include <map>
@@ -17,61 +16,12 @@ namespace
 thread_local FileCallObserver* currentObserver = nullptr;
 thread_local std::map<int, std::string>* observedHandles = nullptr;
 
-/// The function of that name in the libraries behind this executable.
-template <typename Function> Function* libraryFunction(const char* name)
+int openWatched(const char* path, int flags, va_list arguments)
 {
-    return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
-}
-
-/// One call that may be watched. While it is handled, nothing else is.
-class Watched
-{
-public:
-    explicit Watched(const char* path) : m_observer(std::exchange(currentObserver, nullptr))
-    {
-        if (m_observer != nullptr && path != nullptr) {
-            m_path = std::filesystem::path(path).lexically_normal().string();
-            m_watches = m_observer->watches(m_path);
-        }
-    }
-    explicit Watched(int handle) : m_observer(std::exchange(currentObserver, nullptr))
-    {
-        if (m_observer != nullptr) {
-            const auto found = observedHandles->find(handle);
-            m_watches = found != observedHandles->end();
-            m_path = m_watches ? found->second : std::string();
-        }
-    }
-    ~Watched() { currentObserver = m_observer; }
-    Watched(const Watched&) = delete;
-    Watched& operator=(const Watched&) = delete;
-
-    /// Whether the observer is to be told.
-    explicit operator bool() const { return m_watches; }
-    FileCallObserver* operator->() const { return m_observer; }
-    const std::string& path() const { return m_path; }
-
-    /// Sets `errno` when the call is refused.
-    bool refused(FileCall call) const
-    {
-        const int error = m_watches ? m_observer->refuse(call, m_path) : 0;
-        if (error != 0) {
-            errno = error;
-        }
-        return error != 0;
-    }
-
-private:
-    FileCallObserver* m_observer;
-    std::string m_path;
-    bool m_watches = false;
-};
-
-int openWatched(const char* path, int flags, mode_t mode)
-{
+    const mode_t mode = (flags & (O_CREAT | O_TMPFILE)) != 0 ? va_arg(arguments, mode_t) : 0;
     static const auto open = libraryFunction<int(const char*, int, ...)>("open64");
     static const auto present = libraryFunction<int(const char*, int)>("access");
-    const Watched call(path);
+    const WatchedCall call(path);
     if (call.refused(FileCall::Open)) {
         return -1;
     }
@@ -90,7 +40,7 @@ int openWatched(const char* path, int flags, mode_t mode)
 
 template <typename Write> ssize_t writeWatched(int handle, const void* bytes, std::size_t size, Write write)
 {
-    const Watched call(handle);
+    const WatchedCall call(handle);
     std::size_t accepted = size;
     if (call) {
         const ssize_t answer = call->accepted(call.path(), size);
@@ -111,7 +61,7 @@ template <typename Write> ssize_t writeWatched(int handle, const void* bytes, st
 
 int syncWatched(int handle)
 {
-    const Watched call(handle);
+    const WatchedCall call(handle);
     if (call.refused(FileCall::Sync)) {
         return -1;
     }
@@ -124,7 +74,7 @@ int syncWatched(int handle)
 int truncateWatched(int handle, off_t size)
 {
     static const auto truncate = libraryFunction<int(int, off_t)>("ftruncate64");
-    const Watched call(handle);
+    const WatchedCall call(handle);
     if (call.refused(FileCall::Truncate)) {
         return -1;
     }
@@ -138,7 +88,7 @@ int truncateWatched(int handle, off_t size)
 int controlWatched(int handle, int command, void* argument)
 {
     static const auto control = libraryFunction<int(int, int, ...)>("fcntl64");
-    const Watched call(handle);
+    const WatchedCall call(handle);
     if (command == F_SETLK || command == F_SETLKW || command == F_GETLK) {
         const auto* lock = static_cast<const struct flock*>(argument);
         const bool unlocks = command != F_GETLK && lock->l_type == F_UNLCK;
@@ -150,6 +100,37 @@ int controlWatched(int handle, int command, void* argument)
 }
 
 } // namespace
+
+WatchedCall::WatchedCall(const char* path) : m_observer(std::exchange(currentObserver, nullptr))
+{
+    if (m_observer != nullptr && path != nullptr) {
+        m_path = std::filesystem::path(path).lexically_normal().string();
+        m_watches = m_observer->watches(m_path);
+    }
+}
+
+WatchedCall::WatchedCall(int handle) : m_observer(std::exchange(currentObserver, nullptr))
+{
+    if (m_observer != nullptr) {
+        const auto found = observedHandles->find(handle);
+        m_watches = found != observedHandles->end();
+        m_path = m_watches ? found->second : std::string();
+    }
+}
+
+WatchedCall::~WatchedCall()
+{
+    currentObserver = m_observer;
+}
+
+bool WatchedCall::refused(FileCall call) const
+{
+    const int error = m_watches ? m_observer->refuse(call, m_path) : 0;
+    if (error != 0) {
+        errno = error;
+    }
+    return error != 0;
+}
 
 void observeFileCalls(FileCallObserver* observer)
 {
@@ -171,24 +152,24 @@ int open64(const char* path, int flags, ...)
 {
     va_list arguments;
     va_start(arguments, flags);
-    const mode_t mode = (flags & (O_CREAT | O_TMPFILE)) != 0 ? va_arg(arguments, mode_t) : 0;
+    const int handle = openWatched(path, flags, arguments);
     va_end(arguments);
-    return openWatched(path, flags, mode);
+    return handle;
 }
 
 int open(const char* path, int flags, ...)
 {
     va_list arguments;
     va_start(arguments, flags);
-    const mode_t mode = (flags & (O_CREAT | O_TMPFILE)) != 0 ? va_arg(arguments, mode_t) : 0;
+    const int handle = openWatched(path, flags, arguments);
     va_end(arguments);
-    return openWatched(path, flags, mode);
+    return handle;
 }
 
 int close(int handle)
 {
     static const auto close = libraryFunction<int(int)>("close");
-    const Watched call(handle);
+    const WatchedCall call(handle);
     const bool refused = call.refused(FileCall::Close);
     const int error = errno;
     if (observedHandles != nullptr) {
@@ -205,22 +186,18 @@ int close(int handle)
 ssize_t read(int handle, void* bytes, size_t size)
 {
     static const auto read = libraryFunction<ssize_t(int, void*, size_t)>("read");
-    const Watched call(handle);
-    return call.refused(FileCall::Read) ? -1 : read(handle, bytes, size);
+    return passWatched(handle, FileCall::Read, [&] { return read(handle, bytes, size); });
 }
 
 ssize_t pread64(int handle, void* bytes, size_t size, off64_t offset)
 {
     static const auto read = libraryFunction<ssize_t(int, void*, size_t, off64_t)>("pread64");
-    const Watched call(handle);
-    return call.refused(FileCall::Read) ? -1 : read(handle, bytes, size, offset);
+    return passWatched(handle, FileCall::Read, [&] { return read(handle, bytes, size, offset); });
 }
 
 ssize_t pread(int handle, void* bytes, size_t size, off_t offset)
 {
-    static const auto read = libraryFunction<ssize_t(int, void*, size_t, off64_t)>("pread64");
-    const Watched call(handle);
-    return call.refused(FileCall::Read) ? -1 : read(handle, bytes, size, offset);
+    return pread64(handle, bytes, size, offset);
 }
 
 ssize_t write(int handle, const void* bytes, size_t size)
@@ -242,10 +219,7 @@ ssize_t pwrite64(int handle, const void* bytes, size_t size, off64_t offset)
 
 ssize_t pwrite(int handle, const void* bytes, size_t size, off_t offset)
 {
-    static const auto write = libraryFunction<ssize_t(int, const void*, size_t, off64_t)>("pwrite64");
-    return writeWatched(handle, bytes, size, [&](std::size_t accepted, auto note) {
-        return note(offset, write(handle, bytes, accepted, offset));
-    });
+    return pwrite64(handle, bytes, size, offset);
 }
 
 int fsync(int handle)
@@ -268,62 +242,6 @@ int ftruncate64(int handle, off64_t size) noexcept
     return truncateWatched(handle, size);
 }
 
-int unlink(const char* path) noexcept
-{
-    static const auto unlink = libraryFunction<int(const char*)>("unlink");
-    const Watched call(path);
-    if (call.refused(FileCall::Remove)) {
-        return -1;
-    }
-    const int result = unlink(path);
-    if (call && result == 0) {
-        call->removed(call.path());
-    }
-    return result;
-}
-
-int rename(const char* from, const char* to) noexcept
-{
-    static const auto rename = libraryFunction<int(const char*, const char*)>("rename");
-    const Watched call(from);
-    if (call.refused(FileCall::Rename)) {
-        return -1;
-    }
-    const int result = rename(from, to);
-    if (call && result == 0) {
-        call->renamed(call.path(), std::filesystem::path(to).lexically_normal().string());
-    }
-    return result;
-}
-
-int mkdir(const char* path, mode_t mode) noexcept
-{
-    static const auto mkdir = libraryFunction<int(const char*, mode_t)>("mkdir");
-    const Watched call(path);
-    if (call.refused(FileCall::MakeFolder)) {
-        return -1;
-    }
-    const int result = mkdir(path, mode);
-    if (call && result == 0) {
-        call->folderMade(call.path());
-    }
-    return result;
-}
-
-int rmdir(const char* path) noexcept
-{
-    static const auto rmdir = libraryFunction<int(const char*)>("rmdir");
-    const Watched call(path);
-    if (call.refused(FileCall::RemoveFolder)) {
-        return -1;
-    }
-    const int result = rmdir(path);
-    if (call && result == 0) {
-        call->removed(call.path());
-    }
-    return result;
-}
-
 int fcntl64(int handle, int command, ...)
 {
     va_list arguments;
@@ -337,73 +255,29 @@ int fcntl(int handle, int command, ...)
 {
     va_list arguments;
     va_start(arguments, command);
-    void* argument = va_arg(arguments, void*);
+    const int result = fcntl64(handle, command, va_arg(arguments, void*));
     va_end(arguments);
-    return controlWatched(handle, command, argument);
+    return result;
 }
 
 int flock(int handle, int operation) noexcept
 {
     static const auto lock = libraryFunction<int(int, int)>("flock");
-    const Watched call(handle);
+    const WatchedCall call(handle);
     const bool unlocks = (operation & LOCK_UN) != 0;
     return call.refused(unlocks ? FileCall::Unlock : FileCall::Lock) ? -1 : lock(handle, operation);
-}
-
-int stat64(const char* path, struct stat64* status) noexcept
-{
-    static const auto stat = libraryFunction<int(const char*, struct stat64*)>("stat64");
-    const Watched call(path);
-    return call.refused(FileCall::Status) ? -1 : stat(path, status);
-}
-
-int stat(const char* path, struct stat* status) noexcept
-{
-    static const auto stat = libraryFunction<int(const char*, struct stat*)>("stat");
-    const Watched call(path);
-    return call.refused(FileCall::Status) ? -1 : stat(path, status);
-}
-
-int lstat64(const char* path, struct stat64* status) noexcept
-{
-    static const auto stat = libraryFunction<int(const char*, struct stat64*)>("lstat64");
-    const Watched call(path);
-    return call.refused(FileCall::Status) ? -1 : stat(path, status);
 }
 
 int fstat64(int handle, struct stat64* status) noexcept
 {
     static const auto stat = libraryFunction<int(int, struct stat64*)>("fstat64");
-    const Watched call(handle);
-    return call.refused(FileCall::Status) ? -1 : stat(handle, status);
-}
-
-int statx(int folder, const char* path, int flags, unsigned mask, struct statx* status) noexcept
-{
-    static const auto stat = libraryFunction<int(int, const char*, int, unsigned, struct statx*)>("statx");
-    const Watched call(path);
-    return call.refused(FileCall::Status) ? -1 : stat(folder, path, flags, mask, status);
-}
-
-int access(const char* path, int mode) noexcept
-{
-    static const auto access = libraryFunction<int(const char*, int)>("access");
-    const Watched call(path);
-    return call.refused(FileCall::Status) ? -1 : access(path, mode);
-}
-
-int chmod(const char* path, mode_t mode) noexcept
-{
-    static const auto chmod = libraryFunction<int(const char*, mode_t)>("chmod");
-    const Watched call(path);
-    return call.refused(FileCall::ChangeMode) ? -1 : chmod(path, mode);
+    return passWatched(handle, FileCall::Status, [&] { return stat(handle, status); });
 }
 
 int fchmod(int handle, mode_t mode) noexcept
 {
     static const auto chmod = libraryFunction<int(int, mode_t)>("fchmod");
-    const Watched call(handle);
-    return call.refused(FileCall::ChangeMode) ? -1 : chmod(handle, mode);
+    return passWatched(handle, FileCall::ChangeMode, [&] { return chmod(handle, mode); });
 }
 
 int usleep(useconds_t microseconds)

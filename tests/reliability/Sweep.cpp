@@ -107,6 +107,9 @@ Sweep::Sweep(std::string folder, Operation operation)
     m_calls = m_disk.calls();
     m_history = m_disk.history();
     m_figures.calls = m_calls.size();
+    if (m_operation.checkDone) {
+        m_operation.checkDone();
+    }
     m_new = m_operation.stateOf(m_folder);
     m_end = imageOf(m_folder);
     reset(m_start);
@@ -114,7 +117,7 @@ Sweep::Sweep(std::string folder, Operation operation)
 
 Sweep::~Sweep()
 {
-    reset(m_start);
+    writeImage(m_start, m_folder);
     std::filesystem::remove_all(m_lost);
 }
 
@@ -130,6 +133,14 @@ QString Sweep::complaints() const
 void Sweep::complain(const std::string& where, const std::string& what)
 {
     m_complaints.push_back(where + ": " + what);
+}
+
+void Sweep::reset(const DiskImage& image) const
+{
+    writeImage(image, m_folder);
+    if (m_operation.prepare) {
+        m_operation.prepare();
+    }
 }
 
 Told Sweep::run(const FaultyDisk::Fault& fault)
@@ -198,13 +209,18 @@ void Sweep::tryFault(const FaultyDisk::Fault& fault, const std::string& where)
             complain(where, "the fault was not met");
         }
         m_figures.failures += said == Told::Failure ? 1 : 0;
+        PowerCut power(m_disk.history().start);
+        for (const DiskEvent& event : m_disk.history().events) {
+            power.apply(event);
+        }
         // Where folders cannot be flushed, nobody can promise more than that the state is whole.
-        expectDurable(where, m_disk.hasRefusedFolder() ? Told::Nothing : said);
+        const Told promised = m_disk.hasRefusedFolder() ? Told::Nothing : said;
         const Judged judged = judge(m_folder);
         expect(where, said, judged);
-        if (m_operation.repeats && judged.verdict == Verdict::Old) {
+        if (judged.verdict == Verdict::Old) {
             expectSuccessNow(where);
         }
+        expectDurable(where, power, promised);
     } catch (const std::exception& error) {
         complain(where, error.what());
     }
@@ -232,6 +248,8 @@ void Sweep::expectSuccessNow(const std::string& where)
         complain(where + ", done again", judged.why);
     } else if (judged.verdict == Verdict::Old && m_old != m_new) {
         complain(where, "done again without an effect");
+    } else if (m_operation.checkDone) {
+        m_operation.checkDone();
     }
     if (namesIn(imageOf(m_folder)) != namesIn(m_end)) {
         std::string all;
@@ -242,12 +260,8 @@ void Sweep::expectSuccessNow(const std::string& where)
     }
 }
 
-void Sweep::expectDurable(const std::string& where, Told said)
+void Sweep::expectDurable(const std::string& where, const PowerCut& power, Told said)
 {
-    PowerCut power(m_disk.history().start);
-    for (const DiskEvent& event : m_disk.history().events) {
-        power.apply(event);
-    }
     for (const Survives data : {Survives::Nothing, Survives::Everything}) {
         for (const Survives names : {Survives::Nothing, Survives::Everything}) {
             cut(power, data, names, said, where + ", then a power cut");
@@ -266,11 +280,9 @@ void Sweep::cut(const PowerCut& power, Survives data, Survives names, Told said,
         return;
     }
     ++m_figures.images;
-    if (m_operation.repeats && judged.verdict == Verdict::Old) {
-        const DiskImage present = imageOf(m_folder);
+    if (judged.verdict == Verdict::Old) {
         reset(image);
         expectSuccessNow(where);
-        reset(present);
     }
 }
 
@@ -292,7 +304,7 @@ void Sweep::everyDeath()
         ++m_figures.deaths;
         const Judged judged = judge(m_folder);
         expect(where, Told::Nothing, judged);
-        if (m_operation.repeats && judged.verdict == Verdict::Old) {
+        if (judged.verdict == Verdict::Old) {
             expectSuccessNow(where);
         }
     }

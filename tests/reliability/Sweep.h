@@ -25,8 +25,11 @@ struct Operation {
     std::function<Told()> run;
     /// What the folder holds, as a text; throws std::exception when something is wrong with it.
     std::function<std::string(const std::string& folder)> stateOf;
-    /// Whether a failed or cut off operation can be done again by `run`.
-    bool repeats = true;
+    /// Runs before each first try, as if the program had just started; may be empty.
+    std::function<void()> prepare{};
+    /// Runs when the operation has succeeded at last; throws std::exception when something is wrong. May be
+    /// empty.
+    std::function<void()> checkDone{};
 };
 
 /// Tries an operation on the files of a folder with every fault and a power cut at every point. After each,
@@ -75,7 +78,7 @@ private:
         std::string why;
     };
 
-    void reset(const DiskImage& image) const { writeImage(image, m_folder); }
+    void reset(const DiskImage& image) const;
     Told run(const FaultyDisk::Fault& fault);
     void complain(const std::string& where, const std::string& what);
     Judged judge(const std::string& folder) const;
@@ -83,7 +86,7 @@ private:
     void tryFault(const FaultyDisk::Fault& fault, const std::string& where);
     void expect(const std::string& where, Told told, const Judged& judged);
     void expectSuccessNow(const std::string& where);
-    void expectDurable(const std::string& where, Told told);
+    void expectDurable(const std::string& where, const PowerCut& power, Told told);
     void cut(const PowerCut& power, Survives data, Survives names, Told told, const std::string& where);
 
     std::string m_folder;
