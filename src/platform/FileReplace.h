@@ -37,13 +37,13 @@ void moveOver(const QString& file, const QString& target);
 /// lies beside it; copies that a process left there when it died are removed.
 void replaceByCopy(const QString& source, const QString& target, QFileDevice::Permissions permissions,
     Progress* progress = nullptr);
-/// Gives `file` the second name `target`, in the same folder, over a regular file of that name; where the
+/// Writes `bytes` over `target`, in the same way.
+void replaceByBytes(const QByteArray& bytes, const QString& target, QFileDevice::Permissions permissions);
+/// Gives `file` the second name `target`, in the same file system, over a regular file; where the
 /// file system knows no second names, copies it. Both names keep the content when one of them is then
 /// replaced.
 void keepAlso(const QString& file, const QString& target, QFileDevice::Permissions permissions,
     Progress* progress = nullptr);
-/// Writes `bytes` over `target`, in the same way.
-void replaceByBytes(const QByteArray& bytes, const QString& target, QFileDevice::Permissions permissions);
 /// Removes the file; one that does not exist is none.
 void removeFile(const QString& path);
 /// Makes the folder, and those above it that are missing.

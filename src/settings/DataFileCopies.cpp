@@ -15,6 +15,8 @@ namespace
 {
 
 constexpr std::array Companions{"-journal", "-wal"};
+constexpr char ReplacedSuffix[] = ".before-restore";
+constexpr char EarlierName[] = "earlier";
 
 /// The folder in which a file is checked before it takes the place of the data file; private, gone with this
 /// object. Its name is fixed, so that what a process left there when it died goes with the next restore.
@@ -108,15 +110,39 @@ void DataFileCopies::restoreFrom(const QString& file, Progress* progress) const
         moveOver(checked, place);
         return;
     }
-    // No bytes are copied: the restored file takes the name, and the old one keeps its second one.
-    const QString replaced = place + QStringLiteral(".before-restore");
-    keepAlso(place, replaced, PrivateFile, progress);
+    keepReplaced(place, folder.path(), progress);
     try {
         moveOver(checked, place);
     } catch (const FileError&) {
-        // The data file is not to be known by two names.
-        QFile::remove(replaced);
+        putBackEarlier(place, folder.path());
         throw;
+    }
+}
+
+// No bytes are copied: the restored file takes the name, and the old one keeps its second one. The file of an
+// earlier restore waits until the new one is in place.
+void DataFileCopies::keepReplaced(const QString& place, const QString& folder, Progress* progress)
+{
+    const QString replaced = place + QLatin1String(ReplacedSuffix);
+    if (isPresent(replaced)) {
+        keepAlso(replaced, pathIn(folder, QLatin1String(EarlierName)), PrivateFile, progress);
+    }
+    keepAlso(place, replaced, PrivateFile, progress);
+}
+
+void DataFileCopies::putBackEarlier(const QString& place, const QString& folder)
+{
+    const QString replaced = place + QLatin1String(ReplacedSuffix);
+    const QString earlier = pathIn(folder, QLatin1String(EarlierName));
+    try {
+        if (isPresent(earlier)) {
+            moveOver(earlier, replaced);
+        } else {
+            // The data file is not to be known by two names.
+            removeFile(replaced);
+        }
+    } catch (const FileError&) {
+        // Then it is; nothing is lost by that.
     }
 }
 

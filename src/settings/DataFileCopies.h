@@ -25,6 +25,8 @@ public:
     void restoreFrom(const QString& file, Progress* progress = nullptr) const;
 
 private:
+    static void keepReplaced(const QString& place, const QString& folder, Progress* progress);
+    static void putBackEarlier(const QString& place, const QString& folder);
     void settle() const;
     void settleIfSound() const;
     void refuseForeignFile(const QString& file) const;

@@ -113,8 +113,13 @@ ssize_t FaultyDisk::accepted(const std::string& path, std::size_t size)
 void FaultyDisk::note(DiskEvent::Kind kind, const std::string& path)
 {
     const std::string name = relative(path);
+    m_history.events.push_back({kind, nodeOf(name), name, {}, 0, {}});
+}
+
+int FaultyDisk::nodeOf(const std::string& name) const
+{
     const auto node = m_nodes.find(name);
-    m_history.events.push_back({kind, node == m_nodes.end() ? 0 : node->second, name, {}, 0, {}});
+    return node == m_nodes.end() ? 0 : node->second;
 }
 
 void FaultyDisk::created(const std::string& path)
@@ -155,10 +160,20 @@ void FaultyDisk::removed(const std::string& path)
 
 void FaultyDisk::renamed(const std::string& from, const std::string& to)
 {
+    const int node = nodeOf(relative(from));
+    if (nodeOf(relative(to)) == node) {
+        // Both are names of one file: that changes nothing.
+        return;
+    }
     note(DiskEvent::Kind::Rename, from);
     m_history.events.back().newPath = relative(to);
-    const auto moved = m_nodes.extract(relative(from));
-    if (!moved.empty()) {
-        m_nodes[relative(to)] = moved.mapped();
-    }
+    m_nodes.erase(relative(from));
+    m_nodes[relative(to)] = node;
+}
+
+void FaultyDisk::linked(const std::string& file, const std::string& name)
+{
+    note(DiskEvent::Kind::Link, file);
+    m_history.events.back().newPath = relative(name);
+    m_nodes[relative(name)] = nodeOf(relative(file));
 }

@@ -17,11 +17,11 @@ void writeImage(const DiskImage& image, const std::string& folder);
 /// One change of a disk. A node is a file or folder, whatever its name; it keeps its number when it is
 /// renamed.
 struct DiskEvent {
-    enum class Kind { Create, MakeFolder, Write, Truncate, Sync, Remove, Rename };
+    enum class Kind { Create, MakeFolder, Write, Truncate, Sync, Remove, Rename, Link };
     Kind kind;
     int node;
     std::string path;
-    std::string newPath; ///< of a Rename
+    std::string newPath; ///< of a Rename and a Link
     off_t position = 0; ///< of a Write; the new size of a Truncate
     std::string bytes; ///< of a Write
 };
@@ -75,11 +75,13 @@ public:
     void synced(const std::string& path) override;
     void removed(const std::string& path) override;
     void renamed(const std::string& from, const std::string& to) override;
+    void linked(const std::string& file, const std::string& name) override;
     void folderMade(const std::string& path) override;
 
 private:
     std::string relative(const std::string& path) const;
     void note(DiskEvent::Kind kind, const std::string& path);
+    int nodeOf(const std::string& name) const;
 
     std::string m_folder;
     Fault m_fault;

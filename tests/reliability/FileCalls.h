@@ -13,6 +13,7 @@ enum class FileCall {
     Truncate,
     Remove,
     Rename,
+    Link,
     MakeFolder,
     RemoveFolder,
     Lock,
@@ -48,6 +49,8 @@ public:
     virtual void synced(const std::string& path) = 0;
     virtual void removed(const std::string& path) = 0;
     virtual void renamed(const std::string& from, const std::string& to) = 0;
+    /// A second name for a file.
+    virtual void linked(const std::string& file, const std::string& name) = 0;
     virtual void folderMade(const std::string& path) = 0;
 };
 

@@ -45,6 +45,20 @@ int rename(const char* from, const char* to) noexcept
     return result;
 }
 
+int link(const char* file, const char* name) noexcept
+{
+    static const auto link = libraryFunction<int(const char*, const char*)>("link");
+    const WatchedCall call(name);
+    if (call.refused(FileCall::Link)) {
+        return -1;
+    }
+    const int result = link(file, name);
+    if (call && result == 0) {
+        call->linked(std::filesystem::path(file).lexically_normal().string(), call.path());
+    }
+    return result;
+}
+
 int mkdir(const char* path, mode_t mode) noexcept
 {
     static const auto mkdir = libraryFunction<int(const char*, mode_t)>("mkdir");

@@ -53,6 +53,9 @@ void PowerCut::apply(const DiskEvent& event)
         m_unsafeSteps.push_back({{folderOf(event.path), folderOf(event.newPath)},
             {{event.path, 0}, {event.newPath, event.node}}});
         break;
+    case Kind::Link:
+        m_unsafeSteps.push_back({{folderOf(event.newPath)}, {{event.newPath, event.node}}});
+        break;
     case Kind::Write:
         m_nodes[event.node].unsafe.push_back({event.position, event.bytes});
         break;

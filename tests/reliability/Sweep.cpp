@@ -15,8 +15,8 @@ constexpr std::size_t ShownComplaints = 12;
 
 const char* nameOf(FileCall call)
 {
-    constexpr std::array Names{"open", "read", "write", "sync", "truncate", "remove", "rename", "make folder",
-        "remove folder", "lock", "unlock", "status", "change mode", "close"};
+    constexpr std::array Names{"open", "read", "write", "sync", "truncate", "remove", "rename", "link",
+        "make folder", "remove folder", "lock", "unlock", "status", "change mode", "close"};
     return Names.at(static_cast<std::size_t>(call));
 }
 
@@ -27,6 +27,7 @@ std::vector<int> errorsOf(FileCall call)
         return {EIO, EACCES, ENOSPC};
     case FileCall::Write:
     case FileCall::Rename:
+    case FileCall::Link:
     case FileCall::MakeFolder:
         return {EIO, ENOSPC};
     case FileCall::Lock:

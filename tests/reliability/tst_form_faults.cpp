@@ -59,7 +59,6 @@ std::string stateIn(const std::string& folder)
 class NoOtherWindows final : public TaskDetailsHost
 {
 public:
-    bool isAlertVisible() const override { return false; }
     int selectedCategoryIndex() const override { return 0; }
 };
 

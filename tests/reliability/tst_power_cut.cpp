@@ -22,6 +22,7 @@ private slots:
     void aFlushedFileIsThereWhenItsFolderIsFlushedToo();
     void aRemovedFileComesBackUntilItsFolderIsFlushed();
     void aRenamedFileReplacesTheOtherWholeOrNotAtAll();
+    void aSecondNameLeadsToTheSameFile();
     void ofSectorsThatWereNotFlushedAnyMaySurvive();
     void aFaultMeetsTheCallItIsPlannedFor();
     void aFullDiskTakesWhatStillFits();
@@ -120,6 +121,23 @@ void TestPowerCut::aRenamedFileReplacesTheOtherWholeOrNotAtAll()
                      rename(path("b").c_str(), path("a").c_str());
                  }),
         "");
+}
+
+void TestPowerCut::aSecondNameLeadsToTheSameFile()
+{
+    write("a", "old", true);
+    write("c", "else", true);
+    const auto action = [this] {
+        link(path("a").c_str(), path("b").c_str());
+        write("b", "new", true);
+        rename(path("c").c_str(), path("a").c_str());
+    };
+    QCOMPARE(left("b", Survives::Nothing, Survives::Everything, action), "new");
+    QCOMPARE(left("a", Survives::Nothing, Survives::Nothing, action), "else");
+    QVERIFY(QFile::remove(m_folder->filePath(QStringLiteral("b"))));
+    QCOMPARE(left("b", Survives::Nothing, Survives::Nothing,
+                 [this] { link(path("a").c_str(), path("b").c_str()); }),
+        "none");
 }
 
 void TestPowerCut::ofSectorsThatWereNotFlushedAnyMaySurvive()
