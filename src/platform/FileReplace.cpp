@@ -345,7 +345,7 @@ void makeFolder(const QString& path)
     }
     makeFolder(QFileInfo(path).absolutePath());
     if (!QDir().mkdir(path)) {
-        fail(path, FileError::tr("the folder cannot be made"));
+        fail(path, qt_error_string());
     }
     flushFolderOf(path);
 }

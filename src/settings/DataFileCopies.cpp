@@ -30,7 +30,7 @@ public:
         constexpr QFileDevice::Permissions Private = PrivateFile | QFileDevice::ExeOwner;
         // The user's mask must not take away what the owner needs.
         if (!QDir().mkdir(m_path, Private) || !QFile::setPermissions(m_path, Private)) {
-            throw FileError(DataFileCopies::tr("The folder \"%1\" cannot be made.").arg(m_path));
+            throw FileError(QStringLiteral("\"%1\": %2.").arg(m_path, qt_error_string()));
         }
     }
     ~CheckingFolder() { remove(); }
