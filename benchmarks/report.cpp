@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QFileInfo>
 #include <QLocale>
+#include <memory>
 
 namespace
 {
@@ -21,7 +22,7 @@ QString count(int tasks)
 }
 
 /// What the program hands to the report's window.
-ReportContent contentOf(int tasks)
+std::shared_ptr<const ReportContent> contentOf(int tasks)
 {
     const TaskFile file({tasks});
     TestServices world;
@@ -37,20 +38,20 @@ ReportContent contentOf(int tasks)
         return made;
     });
     report.printTasks({}, nullptr);
-    return window->content;
+    return std::make_shared<const ReportContent>(window->content);
 }
 
-void exportAll(const ReportContent& content, const QString& file)
+void exportAll(const std::shared_ptr<const ReportContent>& content, const QString& file)
 {
     const QPageLayout page(QPageSize(QPageSize::A4), QPageLayout::Portrait, {}, QPageLayout::Millimeter);
-    const ReportLayout layout(std::make_shared<const ReportContent>(content), printableArea(page));
-    if (writePdf(layout, page, QStringLiteral("Tasks Report"), file).outcome != Outcome::Done) {
+    const ReportLayout layout(content, printableArea(page));
+    if (writePdf({file, QStringLiteral("Tasks Report"), page}, layout, allPages(layout))) {
         qFatal("the report could not be exported");
     }
 }
 
 /// By how much the memory grows in an export, at its end, in MB.
-double growth(const ReportContent& content, const QString& file)
+double growth(const std::shared_ptr<const ReportContent>& content, const QString& file)
 {
     returnFreedMemory();
     const double before = proportionalBytes();
@@ -67,14 +68,14 @@ int main(int argc, char** argv)
     const QTemporaryDir folder;
     const QString file = folder.filePath(QStringLiteral("report.pdf"));
     const int tasks = bench.size(10'000, 20);
-    const ReportContent content = contentOf(tasks);
+    const auto content = contentOf(tasks);
     const auto medians = bench.alternate(
         5, [&] { exportAll(content, file); },
-        [&] { paintTextsToPdf(content, folder.filePath(QStringLiteral("limit.pdf"))); });
+        [&] { paintTextsToPdf(*content, folder.filePath(QStringLiteral("limit.pdf"))); });
     bench.ratio(
         QStringLiteral("Report of %1 tasks to PDF; the same texts painted").arg(count(tasks)), medians, 1.2);
 
-    const ReportContent few = contentOf(tasks / 10);
+    const auto few = contentOf(tasks / 10);
     growth(few, file);
     const double fewGrowth = growth(few, file);
     bench.value(QStringLiteral("Memory that an export of %1 tasks takes more than one of %2")

@@ -631,13 +631,6 @@
     </message>
 </context>
 <context>
-    <name>ProgressBox</name>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>取消(&amp;C)</translation>
-    </message>
-</context>
-<context>
     <name>RecordSet</name>
     <message>
         <source>The value of column &quot;%1&quot; is no whole number.</source>

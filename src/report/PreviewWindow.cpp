@@ -281,7 +281,7 @@ void PreviewWindow::btnPrint_Click()
         windowTitle(), m_printer.pageLayout(), pageCount(), m_page, [this](QSizeF area) {
             return layOut(area);
         }};
-    if (printThroughDialog(*this, request) == Outcome::Failed) {
+    if (!printThroughDialog(*this, request)) {
         tell(tr("The report could not be printed."));
     }
 }
@@ -296,11 +296,9 @@ void PreviewWindow::btnExport_Click()
 
 void PreviewWindow::exportTo(const QString& file)
 {
-    // Kept here: another report may be set while this one is written.
-    const std::shared_ptr<const ReportLayout> layout = m_layout;
-    const PdfOutcome result = writePdfFrom(*this, *layout, m_printer.pageLayout(), windowTitle(), file);
-    if (result.outcome == Outcome::Failed) {
-        tell(tr("The report could not be written to \"%1\": %2.").arg(file, result.failure));
+    const auto failure = writePdfFrom(*this, {file, windowTitle(), m_printer.pageLayout()}, *m_layout);
+    if (failure) {
+        tell(tr("The report could not be written to \"%1\": %2.").arg(file, *failure));
     }
 }
 

@@ -4,14 +4,16 @@
 
 #include <QColor>
 #include <QFont>
+#include <QFontMetricsF>
 #include <QTextLayout>
-#include <array>
+#include <map>
 #include <memory>
+#include <tuple>
 #include <vector>
 
 class QPainter;
 
-/// How a text is written: font, colour and line height, with what is needed to measure a short text cheaply.
+/// How a text is written: font, colour and line height, with what is needed to break a simple text cheaply.
 class TextStyle
 {
 public:
@@ -24,23 +26,30 @@ public:
     qreal ascent() const { return m_ascent; }
     /// The width of `text` on one line.
     qreal widthOf(const QString& text) const;
-    /// Whether `text` certainly fits on one line of that width; answers no where only a full layout could
-    /// tell.
-    bool surelyFits(QStringView text, qreal width) const;
+    /// No less than what a simple character takes in a text: one of this font that stands for itself, from
+    /// left to right. 0 for any other.
+    qreal simpleAdvance(QChar character) const;
 
 private:
+    qreal measuredAdvance(QChar character) const;
+
     QFont m_font;
     QColor m_colour;
+    QFontMetricsF m_metrics;
     qreal m_lineHeight;
     qreal m_ascent;
-    std::array<qreal, 128> m_advances{};
+    /// By character; negative until it is asked for.
+    mutable std::vector<qreal> m_advances;
 };
 
 /// A plain text broken into lines of a width. Each paragraph runs in its own direction.
 class BrokenText
 {
 public:
-    BrokenText(const QString& text, const TextStyle& style, qreal width);
+    /// For a text that is painted often the letters are kept as they are shaped.
+    enum class Use { Once, Often };
+
+    BrokenText(const QString& text, const TextStyle& style, qreal width, Use use = Use::Once);
 
     int lineCount() const { return static_cast<int>(m_lines.size()); }
     qreal lineHeight(int line) const { return m_lines[static_cast<std::size_t>(line)].height; }
@@ -48,16 +57,35 @@ public:
     void paintLine(QPainter& painter, int line, QPointF position) const;
 
 private:
+    /// One of simple characters that is painted once is broken here, which takes a tenth of the time.
+    struct Paragraph {
+        QString text;
+        std::unique_ptr<QTextLayout> layout; ///< null when it is broken here
+    };
     struct Line {
         std::size_t paragraph;
-        int index;
+        qsizetype begin; ///< in the text, or the number of the line in the layout
+        qsizetype length;
         qreal height;
         qreal top; ///< from the line's place down to the text
     };
+    bool breakSimple(std::size_t paragraph, qreal width);
+    void layOut(std::size_t paragraph, qreal width);
+
     const TextStyle* m_style;
-    std::vector<std::unique_ptr<QTextLayout>> m_paragraphs;
+    std::vector<Paragraph> m_paragraphs;
     std::vector<Line> m_lines;
 };
 
-/// The heights of the lines that a BrokenText of these arguments has, in order, without keeping it.
+/// Texts that come again on most records, each broken once. Holds a few dozen.
+class KeptTexts
+{
+public:
+    std::shared_ptr<const BrokenText> text(const QString& text, const TextStyle& style, qreal width);
+
+private:
+    std::map<std::tuple<const TextStyle*, qreal, QString>, std::shared_ptr<const BrokenText>> m_texts;
+};
+
+/// Appends the heights of the lines that a BrokenText of these arguments has, in order, without keeping it.
 void appendLineHeights(const QString& text, const TextStyle& style, qreal width, std::vector<qreal>& heights);

@@ -41,8 +41,10 @@ qreal sum(const std::vector<qreal>& heights)
 
 /// A record ready to be painted.
 struct ReportLayout::LaidRecord {
+    using Text = std::shared_ptr<const BrokenText>;
+
     struct Piece {
-        std::size_t text;
+        Text text;
         int line;
         QPointF position; ///< from the top left corner of the band
     };
@@ -51,21 +53,15 @@ struct ReportLayout::LaidRecord {
         std::vector<Piece> pieces;
     };
 
-    std::size_t addText(const QString& text, const TextStyle& style, qreal width)
-    {
-        texts.emplace_back(text, style, width);
-        return texts.size() - 1;
-    }
     /// One band a line of the text.
-    void addLines(std::size_t text, qreal left)
+    void addLines(const Text& text, qreal left)
     {
-        for (int line = 0; line < texts[text].lineCount(); ++line) {
-            bands.push_back({texts[text].lineHeight(line), {{text, line, QPointF(left, 0)}}});
+        for (int line = 0; line < text->lineCount(); ++line) {
+            bands.push_back({text->lineHeight(line), {{text, line, QPointF(left, 0)}}});
         }
     }
 
     std::size_t record = 0;
-    std::vector<BrokenText> texts;
     std::vector<Band> bands;
 };
 
@@ -87,7 +83,11 @@ ReportLayout::ReportLayout(std::shared_ptr<const ReportContent> content, QSizeF 
         m_labelWidth = std::max(m_labelWidth, m_label.widthOf(captionOf(QLatin1String(label))));
     }
     m_labelWidth += LabelGap;
-    m_stacked = !m_content->records.empty() && !hasRoomSideBySide();
+    placeCodes();
+    if (!m_content->records.empty() && !hasRoomSideBySide()) {
+        m_stacked = true;
+        placeCodes();
+    }
     findPageStarts();
 }
 
@@ -116,6 +116,14 @@ ReportLayout::CodePlace ReportLayout::placeOf(std::size_t code) const
     return {left, left + label, m_page.width() * CodeParts[code] - label - LabelGap};
 }
 
+void ReportLayout::placeCodes()
+{
+    m_places.clear();
+    for (std::size_t code = 0; code < Codes.size(); ++code) {
+        m_places.push_back(placeOf(code));
+    }
+}
+
 bool ReportLayout::hasRoomSideBySide() const
 {
     for (std::size_t i = 0; i < Codes.size(); ++i) {
@@ -126,7 +134,7 @@ bool ReportLayout::hasRoomSideBySide() const
                 longest = &record[column];
             }
         }
-        if (longest != nullptr && m_text.widthOf(*longest) > placeOf(i).width) {
+        if (longest != nullptr && m_text.widthOf(*longest) > m_places[i].width) {
             return false;
         }
     }
@@ -145,7 +153,7 @@ void ReportLayout::measure(std::size_t record, std::vector<qreal>& bands) const
     std::vector<qreal> lines;
     for (std::size_t i = 0; i < Codes.size(); ++i) {
         lines.clear();
-        appendLineHeights(value(record, QLatin1String(Codes[i].text)), m_text, placeOf(i).width, lines);
+        appendLineHeights(value(record, QLatin1String(Codes[i].text)), m_text, m_places[i].width, lines);
         height = std::max(height, sum(lines));
         if (m_stacked || i + 1 == Codes.size()) {
             bands.push_back(height + RowGap);
@@ -162,36 +170,39 @@ std::unique_ptr<ReportLayout::LaidRecord> ReportLayout::layOut(std::size_t recor
     laid->record = record;
     const qreal beside = m_page.width() - m_labelWidth;
     const auto addLabel = [&](const QString& name, std::size_t band, qreal left) {
-        const std::size_t label = laid->addText(captionOf(name), m_label, m_page.width());
         // Small letters stand on the line of the big ones beside them.
-        laid->bands[band].pieces.push_back({label, 0, QPointF(left, m_text.ascent() - m_label.ascent())});
+        laid->bands[band].pieces.push_back({m_kept.text(captionOf(name), m_label, m_page.width()), 0,
+            QPointF(left, m_text.ascent() - m_label.ascent())});
+    };
+    const auto broken = [&](const char* control, const TextStyle& style, qreal width) {
+        return std::make_shared<const BrokenText>(value(record, QLatin1String(control)), style, width);
     };
 
-    laid->addLines(laid->addText(value(record, QStringLiteral("txtCatName")), m_text, beside), m_labelWidth);
+    laid->addLines(m_kept.text(value(record, QStringLiteral("txtCatName")), m_text, beside), m_labelWidth);
     addLabel(QStringLiteral("Label6"), 0, 0);
     laid->bands.back().height += RowGap;
-    laid->addLines(laid->addText(value(record, QStringLiteral("txtTaskName")), m_name, m_page.width()), 0);
+    laid->addLines(broken("txtTaskName", m_name, m_page.width()), 0);
     laid->bands.back().height += RowGap;
 
     for (std::size_t i = 0; i < Codes.size(); ++i) {
-        const CodePlace place = placeOf(i);
+        const CodePlace& place = m_places[i];
         if (m_stacked || i == 0) {
             laid->bands.push_back({RowGap, {}});
         }
         addLabel(QLatin1String(Codes[i].label), laid->bands.size() - 1, place.label);
-        const std::size_t text =
-            laid->addText(value(record, QLatin1String(Codes[i].text)), m_text, place.width);
+        const LaidRecord::Text text =
+            m_kept.text(value(record, QLatin1String(Codes[i].text)), m_text, place.width);
         LaidRecord::Band& band = laid->bands.back();
         qreal top = 0;
-        for (int line = 0; line < laid->texts[text].lineCount(); ++line) {
+        for (int line = 0; line < text->lineCount(); ++line) {
             band.pieces.push_back({text, line, QPointF(place.value, top)});
-            top += laid->texts[text].lineHeight(line);
+            top += text->lineHeight(line);
         }
         band.height = std::max(band.height, top + RowGap);
     }
 
     const std::size_t descriptionBand = laid->bands.size();
-    laid->addLines(laid->addText(value(record, QStringLiteral("txtTaskDesc")), m_text, beside), m_labelWidth);
+    laid->addLines(broken("txtTaskDesc", m_text, beside), m_labelWidth);
     addLabel(QStringLiteral("Label5"), descriptionBand, 0);
     laid->bands.back().height += LineGap + LineThickness;
     return laid;
@@ -291,7 +302,7 @@ void ReportLayout::paintPage(QPainter& painter, int page) const
         const std::size_t last = record == end.record ? end.band : laid.bands.size();
         for (std::size_t band = first; band < last; ++band) {
             for (const LaidRecord::Piece& piece : laid.bands[band].pieces) {
-                laid.texts[piece.text].paintLine(painter, piece.line, piece.position + QPointF(0, y));
+                piece.text->paintLine(painter, piece.line, piece.position + QPointF(0, y));
             }
             y += laid.bands[band].height;
         }

@@ -41,6 +41,7 @@ private:
     QString captionOf(const QString& control) const;
     const QString& value(std::size_t record, const QString& control) const;
     CodePlace placeOf(std::size_t code) const;
+    void placeCodes();
     /// Whether the short values all fit beside each other.
     bool hasRoomSideBySide() const;
     /// Heights of the bands of a record, from its top to its line.
@@ -61,7 +62,9 @@ private:
     std::map<QString, QString> m_captions;
     qreal m_labelWidth = 0;
     bool m_stacked = false; ///< the short values stand below each other
+    std::vector<CodePlace> m_places; ///< one a short value
     std::vector<PageStart> m_pages;
     /// The record that was laid out last: one that goes on for pages is laid out once.
     mutable std::unique_ptr<LaidRecord> m_laid;
+    mutable KeptTexts m_kept;
 };

@@ -13,6 +13,7 @@ from datetime import timezone
 from gi.repository import Gio, GLib
 
 from access import connect_bus
+from printer import PrintServer
 from processes import Children, adopt_orphans, listens
 from polling import wait_until
 from sound import SoundServer
@@ -159,6 +160,8 @@ class Desktop:
             "TMPDIR": self._make_folder("tmp", mode=0o777 | stat.S_ISVTX),
             "QT_QPA_PLATFORM": "xcb",
             "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
+            # Where no server listens, whatever printers the machine has.
+            "CUPS_SERVER": self.path("cups.sock"),
             "PULSE_SERVER": "unix:" + self.path("pulse-socket"),
             "PULSE_CLIENTCONFIG": self.path("pulse-client.conf"),
         })
@@ -241,6 +244,10 @@ class Desktop:
             wait_until(watcher.has_window_manager, "the window manager is there")
         finally:
             watcher.close()
+
+    def start_printer(self):
+        """Makes a printer stand on the desk; returns its server."""
+        return PrintServer(self._children, self.environment, self.root)
 
     def start_tray(self):
         """Starts a notification area; returns its process for `end`."""

@@ -8,6 +8,9 @@ from case import DesktopCase, main
 from polling import wait_until
 
 NOW = datetime(2026, 3, 2, 10, 20, 30)
+PRINT_DIALOG = "Print"
+# More pages than a second prints.
+MANY = 20000
 DUE = datetime(2026, 3, 9, 12, 0, 0)
 
 
@@ -78,4 +81,39 @@ class ReportTest(ReportCase):
         self.assertEqual(self.user.exit(), 0)
 
 
-main()
+class PrinterTest(ReportCase):
+    def setUp(self):
+        super().setUp()
+        self.printer = self.desk.start_printer()
+
+    def start_printing(self):
+        self.print_list()
+        self.desk.input.key("p", "Alt_L")
+        self.user.wait_active(PRINT_DIALOG)
+        self.desk.input.key("Return")
+        self.user.wait_hidden(PRINT_DIALOG)
+
+    def test_the_printer_prints_what_the_report_shows(self):
+        self.start_printing()
+        text = self.printer.printed()
+        for expected in ("Water the plants", "Write the letter", names.VENDOR):
+            self.assertIn(expected, text)
+
+    def test_cancelled_printing_prints_nothing_and_the_report_goes_on(self):
+        columns = "task_desc,task_status,cat_id,task_due_date,task_periority,reminder_on,reminder_date_time"
+        self.store.execute(f"insert into tasks(task_name,{columns}) with n(i) as (select 1 union all select i+1 from n "
+                           f"limit ?) select 'Task '||i,{columns} from n,(select * from tasks limit 1)", (MANY,))
+        self.start_printing()
+        # The box has the title of all boxes; the main window stays behind.
+        self.user.wait_active(names.MAIN)
+        self.assertTrue(self.desk.screen.active().modal)
+        self.desk.input.key("Escape")
+        self.user.wait_active(names.REPORT)
+        # Had the cancelled job been sent, it would have come first.
+        self.desk.input.key("e", "Alt_L")
+        wait_until(self.file_dialog_is_active, "the report answers")
+        self.assertEqual(self.printer.jobs(), [])
+
+
+if __name__ == "__main__":
+    main()

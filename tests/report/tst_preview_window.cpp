@@ -6,15 +6,20 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDialog>
 #include <QDir>
 #include <QLabel>
+#include <QLineEdit>
+#include <QPrintDialog>
 #include <QPrintPreviewWidget>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QRegularExpression>
 #include <QSet>
 #include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 namespace
 {
@@ -193,6 +198,32 @@ private slots:
         QVERIFY(f.control<QPushButton>("btnPrint")->toolTip().isEmpty());
     }
 
+    // The dialog of the toolkit, driven as a user would; without a printer it knows files alone.
+    void theChosenPagesArePrinted()
+    {
+        Fixture f(60, true);
+        const QTemporaryDir folder;
+        const QString file = folder.filePath(QStringLiteral("printed.pdf"));
+        bool seen = false;
+        QTimer::singleShot(0, this, [&] {
+            auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+            QVERIFY(dialog != nullptr);
+            seen = true;
+            dialog->findChild<QLineEdit*>(QStringLiteral("filename"))->setText(file);
+            dialog->findChild<QRadioButton*>(QStringLiteral("printRange"))->setChecked(true);
+            dialog->findChild<QSpinBox*>(QStringLiteral("from"))->setValue(2);
+            dialog->findChild<QSpinBox*>(QStringLiteral("to"))->setValue(3);
+            dialog->accept();
+        });
+        f.press("btnPrint");
+        QVERIFY(seen);
+        QCOMPARE(f.host.failures, QStringList());
+        const QStringList pages = pagesOfPdf(file);
+        QCOMPARE(pages.size(), 2);
+        QVERIFY(!pages[0].contains(QStringLiteral("record 1.")));
+        QVERIFY(pages[0].contains(QStringLiteral("record ")));
+    }
+
     void thePdfHoldsAllPages()
     {
         Fixture f(60);
@@ -210,6 +241,28 @@ private slots:
         Fixture f(1);
         f.press("btnExport");
         QCOMPARE(f.host.failures, QStringList());
+    }
+
+    // Long enough for the box, which the real time brings.
+    void aLongExportIsCancelledByItsBoxAndLeavesNoFile()
+    {
+        Fixture f(1);
+        f.window.setContent(contentOf(recordsOf(60000)));
+        const QTemporaryDir folder;
+        f.host.file = folder.filePath(QStringLiteral("out.pdf"));
+        QTimer looking;
+        QString text;
+        connect(&looking, &QTimer::timeout, this, [&] {
+            if (auto* box = f.control<QDialog>("progress")) {
+                text = box->findChild<QLabel*>()->text();
+                box->findChild<QPushButton*>(QStringLiteral("btnCancel"))->click();
+            }
+        });
+        looking.start(10);
+        f.press("btnExport");
+        QCOMPARE(text, QStringLiteral("Writing the PDF file..."));
+        QCOMPARE(f.host.failures, QStringList());
+        QVERIFY(QDir(folder.path()).isEmpty());
     }
 
     void anUnwritablePathIsReportedAndLeavesNoHalfFile()

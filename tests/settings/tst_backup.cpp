@@ -3,10 +3,9 @@
 #include "settings/MaintenancePageUnderTest.h"
 #include "support/CancellingProgress.h"
 #include "support/CaughtError.h"
+#include "support/FullDisk.h"
 #include "support/TestMain.h"
 
-#include <csignal>
-#include <sys/resource.h>
 #include <unistd.h>
 
 class TestBackup : public TestCase
@@ -30,30 +29,6 @@ private slots:
     void noStatementIsSent();
     void noHandleToTheDataFileStaysOpen();
 };
-
-namespace
-{
-
-/// Writes beyond this size fail while it lives, as on a full disk.
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t bytes)
-    {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit tight{bytes, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &tight);
-    }
-    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &m_before); }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-private:
-    rlimit m_before{};
-};
-
-} // namespace
 
 void TestBackup::theProposedNameHoldsTheDateWithDashes()
 {

@@ -260,7 +260,7 @@ void CompiledHelpWindow::btnPrint_Click()
         TopicPages(*m_topic->document(), printableArea(page)).pageCount(), 0, [this](QSizeF area) {
             return std::make_shared<TopicPages>(*m_topic->document(), area);
         }};
-    if (printThroughDialog(*this, request) == Outcome::Failed) {
+    if (!printThroughDialog(*this, request)) {
         m_host.tellFailure(this, tr("The topic could not be printed."));
     }
 }
@@ -274,9 +274,8 @@ void CompiledHelpWindow::writeTopicPdf()
     }
     const QPageLayout page = usualPage();
     const TopicPages pages(*m_topic->document(), printableArea(page));
-    const PdfOutcome result = writePdfFrom(*this, pages, page, title, file);
-    if (result.outcome == Outcome::Failed) {
-        m_host.tellFailure(
-            this, tr("The topic could not be written to \"%1\": %2.").arg(file, result.failure));
+    const auto failure = writePdfFrom(*this, {file, title, page}, pages);
+    if (failure) {
+        m_host.tellFailure(this, tr("The topic could not be written to \"%1\": %2.").arg(file, *failure));
     }
 }

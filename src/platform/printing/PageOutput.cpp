@@ -1,6 +1,9 @@
 #include "platform/printing/PageOutput.h"
 
+#include "platform/Progress.h"
+
 #include <QLocale>
+#include <QPageRanges>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPrinter>
@@ -28,6 +31,38 @@ QSizeF printableArea(const QPageLayout& page)
     return QSizeF(page.paintRectPixels(UnitsPerInch).size());
 }
 
+std::vector<int> allPages(const PrintedPages& pages)
+{
+    std::vector<int> all(static_cast<std::size_t>(pages.pageCount()));
+    std::iota(all.begin(), all.end(), 0);
+    return all;
+}
+
+std::vector<int> chosenPages(const QPrinter& printer, int pageCount, int currentPage)
+{
+    const QPageRanges ranges = printer.pageRanges();
+    const auto isChosen = [&](int page) {
+        switch (printer.printRange()) {
+        case QPrinter::CurrentPage:
+            return page == currentPage;
+        case QPrinter::PageRange:
+            return ranges.isEmpty() || ranges.contains(page + 1);
+        default:
+            return true;
+        }
+    };
+    std::vector<int> pages;
+    for (int page = 0; page < pageCount; ++page) {
+        if (isChosen(page)) {
+            pages.push_back(page);
+        }
+    }
+    if (printer.pageOrder() == QPrinter::LastPageFirst) {
+        std::reverse(pages.begin(), pages.end());
+    }
+    return pages;
+}
+
 void paintPage(QPainter& painter, const PrintedPages& pages, int page)
 {
     painter.save();
@@ -37,69 +72,47 @@ void paintPage(QPainter& painter, const PrintedPages& pages, int page)
     painter.restore();
 }
 
-Outcome paintPages(QPagedPaintDevice& device, const PrintedPages& pages, const std::vector<int>& order,
-    const PageDone& pageDone)
+bool paintPages(
+    QPagedPaintDevice& device, const PrintedPages& pages, const std::vector<int>& order, Progress* progress)
 {
     QPainter painter;
     if (!painter.begin(&device)) {
-        return Outcome::Failed;
+        return false;
     }
-    bool first = true;
-    for (const int page : order) {
-        if (!first && !device.newPage()) {
-            return Outcome::Failed;
+    for (std::size_t i = 0; i < order.size(); ++i) {
+        if (i > 0 && !device.newPage()) {
+            return false;
         }
-        first = false;
-        paintPage(painter, pages, page);
-        if (pageDone && !pageDone()) {
-            return Outcome::Cancelled;
+        paintPage(painter, pages, order[i]);
+        if (progress != nullptr) {
+            progress->advance(static_cast<qint64>(i + 1), static_cast<qint64>(order.size()));
         }
     }
-    return painter.end() ? Outcome::Done : Outcome::Failed;
+    return painter.end();
 }
 
-std::vector<int> chosenPages(const QPrinter& printer, int pageCount, int currentPage)
-{
-    int first = 1;
-    int last = pageCount;
-    if (printer.printRange() == QPrinter::CurrentPage) {
-        first = last = currentPage + 1;
-    } else if (printer.printRange() == QPrinter::PageRange) {
-        first = std::max(1, printer.fromPage());
-        last = printer.toPage() == 0 ? pageCount : std::min(pageCount, printer.toPage());
-    }
-    std::vector<int> pages(static_cast<std::size_t>(std::max(0, last - first + 1)));
-    std::iota(pages.begin(), pages.end(), first - 1);
-    if (printer.pageOrder() == QPrinter::LastPageFirst) {
-        std::reverse(pages.begin(), pages.end());
-    }
-    return pages;
-}
-
-PdfOutcome writePdf(const PrintedPages& pages, const QPageLayout& page, const QString& title,
-    const QString& file, const PageDone& pageDone)
+std::optional<QString> writePdf(
+    const PdfTarget& target, const PrintedPages& pages, const std::vector<int>& order, Progress* progress)
 {
     // Writes beside the target; commit flushes to the disk and renames, and anything else leaves no trace.
-    QSaveFile target(file);
-    if (!target.open(QIODevice::WriteOnly)) {
-        return {Outcome::Failed, target.errorString()};
+    QSaveFile file(target.file);
+    if (!file.open(QIODevice::WriteOnly)) {
+        return file.errorString();
     }
-    Outcome outcome = Outcome::Failed;
+    bool painted = false;
     {
-        QPdfWriter writer(&target);
+        QPdfWriter writer(&file);
         writer.setResolution(UnitsPerInch);
-        writer.setPageLayout(page);
-        writer.setTitle(title);
+        writer.setPageLayout(target.page);
+        writer.setTitle(target.title);
         writer.setCreator(QStringLiteral("Ambertask"));
-        std::vector<int> order(static_cast<std::size_t>(pages.pageCount()));
-        std::iota(order.begin(), order.end(), 0);
-        outcome = paintPages(writer, pages, order, pageDone);
+        painted = paintPages(writer, pages, order, progress);
     }
-    if (outcome == Outcome::Cancelled) {
-        return {outcome, {}};
+    if (!painted) {
+        file.cancelWriting();
     }
-    if (outcome == Outcome::Failed || !target.commit()) {
-        return {Outcome::Failed, target.errorString()};
+    if (!file.commit()) {
+        return file.errorString();
     }
-    return {};
+    return std::nullopt;
 }

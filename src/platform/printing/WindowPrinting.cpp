@@ -1,18 +1,77 @@
 #include "platform/printing/WindowPrinting.h"
 
-#include "platform/printing/OutputProgress.h"
+#include "platform/ScreenProgress.h"
+#include "platform/printing/WithheldPrinting.h"
 
 #include <QCoreApplication>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
 
+namespace
+{
+
+/// Takes back what was painted for a printer when the user cancels.
+class PrinterProgress final : public Progress
+{
+public:
+    PrinterProgress(QPrinter& printer, Progress& progress) : m_printer(printer), m_progress(progress) { }
+
+    void advance(qint64 done, qint64 total) override
+    {
+        try {
+            m_progress.advance(done, total);
+        } catch (const Cancelled&) {
+            m_printer.abort();
+            m_withheld.emplace();
+            throw;
+        }
+    }
+
+private:
+    QPrinter& m_printer;
+    Progress& m_progress;
+    std::optional<WithheldPrinting> m_withheld;
+};
+
+std::optional<QString> putOutWithProgress(
+    QWidget& window, const QString& text, const std::function<std::optional<QString>(Progress&)>& putOut)
+{
+    std::optional<QString> failure;
+    try {
+        ScreenProgress(&window, text).run([&](Progress& progress) { failure = putOut(progress); });
+    } catch (const Cancelled&) {
+        return std::nullopt;
+    }
+    return failure;
+}
+
+bool print(QWidget& window, QPrinter& printer, const PrintedPages& pages, const std::vector<int>& order)
+{
+    const QString text = QCoreApplication::translate("Printing", "Printing...");
+    return !putOutWithProgress(window, text, [&](Progress& progress) -> std::optional<QString> {
+        PrinterProgress withdrawing(printer, progress);
+        const bool painted = paintPages(printer, pages, order, &withdrawing);
+        return painted ? std::nullopt : std::optional(QString());
+    });
+}
+
+std::optional<QString> writePages(
+    QWidget& window, const PdfTarget& target, const PrintedPages& pages, const std::vector<int>& order)
+{
+    const QString text = QCoreApplication::translate("Printing", "Writing the PDF file...");
+    return putOutWithProgress(
+        window, text, [&](Progress& progress) { return writePdf(target, pages, order, &progress); });
+}
+
+} // namespace
+
 bool hasPrinter()
 {
     return !QPrinterInfo::availablePrinterNames().isEmpty();
 }
 
-Outcome printThroughDialog(QWidget& window, const PrintRequest& request)
+bool printThroughDialog(QWidget& window, const PrintRequest& request)
 {
     QPrinter printer(QPrinter::HighResolution);
     printer.setPageLayout(request.page);
@@ -22,29 +81,22 @@ Outcome printThroughDialog(QWidget& window, const PrintRequest& request)
     dialog.setOption(QAbstractPrintDialog::PrintCurrentPage);
     dialog.setMinMax(1, request.pageCount);
     if (dialog.exec() != QDialog::Accepted) {
-        return Outcome::Cancelled;
+        return true;
     }
     // The dialog may have chosen another paper.
     const auto pages = request.layOut(printableArea(printer.pageLayout()));
     const std::vector<int> order = chosenPages(printer, pages->pageCount(), request.currentPage);
     if (order.empty()) {
-        return Outcome::Done;
+        return true;
     }
-    OutputProgress progress(
-        window, QCoreApplication::translate("Printing", "Printing..."), static_cast<int>(order.size()));
-    return paintPages(printer, *pages, order, [&] {
-        const bool goOn = progress.pageDone();
-        if (!goOn) {
-            printer.abort();
-        }
-        return goOn;
-    });
+    if (printer.outputFormat() == QPrinter::PdfFormat) {
+        return !writePages(
+            window, {printer.outputFileName(), request.title, printer.pageLayout()}, *pages, order);
+    }
+    return print(window, printer, *pages, order);
 }
 
-PdfOutcome writePdfFrom(QWidget& window, const PrintedPages& pages, const QPageLayout& page,
-    const QString& title, const QString& file)
+std::optional<QString> writePdfFrom(QWidget& window, const PdfTarget& target, const PrintedPages& pages)
 {
-    OutputProgress progress(
-        window, QCoreApplication::translate("Printing", "Writing the PDF file..."), pages.pageCount());
-    return writePdf(pages, page, title, file, [&progress] { return progress.pageDone(); });
+    return writePages(window, target, pages, allPages(pages));
 }

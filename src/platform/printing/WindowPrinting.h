@@ -2,11 +2,12 @@
 
 #include "platform/printing/PageOutput.h"
 
+#include <functional>
 #include <memory>
 
 class QWidget;
 
-// Printing from a window: the program goes on answering, the window takes no input until it is over.
+// Printing from a window, with a box that shows how far it is and offers to cancel it once it takes long.
 
 /// What is to be printed.
 struct PrintRequest {
@@ -21,9 +22,10 @@ struct PrintRequest {
 /// Whether there is a printer to print on. The first question loads what the system has for printing.
 bool hasPrinter();
 
-/// Lets the user choose printer and pages, and prints them. The user may cancel the dialog and the printing.
-Outcome printThroughDialog(QWidget& window, const PrintRequest& request);
+/// Lets the user choose printer and pages, and prints them. False when that failed; who cancels dialog or
+/// printing has nothing printed, and that is no failure.
+bool printThroughDialog(QWidget& window, const PrintRequest& request);
 
-/// Writes all pages to a PDF file, which appears complete or not at all. The user may cancel.
-PdfOutcome writePdfFrom(QWidget& window, const PrintedPages& pages, const QPageLayout& page,
-    const QString& title, const QString& file);
+/// Writes all pages to a PDF file, which appears complete or not at all. The text of the failure, if any; to
+/// be cancelled is none.
+std::optional<QString> writePdfFrom(QWidget& window, const PdfTarget& target, const PrintedPages& pages);
