@@ -2,6 +2,7 @@
 
 #include "platform/printing/PageOutput.h"
 #include "platform/printing/WindowPrinting.h"
+#include "report/FlowLayout.h"
 
 #include <QBoxLayout>
 #include <QCloseEvent>
@@ -43,6 +44,16 @@ QLabel* labelFor(QWidget* buddy, const QString& text)
     return label;
 }
 
+/// Controls that stay beside each other.
+QBoxLayout* groupOf(std::initializer_list<QWidget*> controls)
+{
+    auto* group = new QHBoxLayout;
+    for (QWidget* control : controls) {
+        group->addWidget(control);
+    }
+    return group;
+}
+
 } // namespace
 
 PreviewWindow::PreviewWindow(ReportHost& host, std::function<bool()> hasPrinter)
@@ -78,7 +89,7 @@ PreviewWindow::PreviewWindow(ReportHost& host, std::function<bool()> hasPrinter)
     connect(m_preview, &QPrintPreviewWidget::previewChanged, this, &PreviewWindow::showZoom);
 }
 
-QBoxLayout* PreviewWindow::makeCommandRow()
+FlowLayout* PreviewWindow::makeCommandRow()
 {
     for (const QPageSize::PageSizeId size : PaperSizes) {
         m_paper->addItem(QPageSize::name(size), size);
@@ -87,15 +98,11 @@ QBoxLayout* PreviewWindow::makeCommandRow()
     m_orientation->addItem(tr("Portrait"), QPageLayout::Portrait);
     m_orientation->addItem(tr("Landscape"), QPageLayout::Landscape);
 
-    auto* row = new QHBoxLayout;
-    row->addWidget(m_print);
-    row->addWidget(m_export);
+    auto* row = new FlowLayout;
+    row->addGroup(groupOf({m_print, m_export}));
     row->addStretch();
-    row->addWidget(labelFor(m_paper, tr("P&aper")));
-    row->addWidget(m_paper);
-    row->addSpacing(style()->pixelMetric(QStyle::PM_LayoutHorizontalSpacing));
-    row->addWidget(labelFor(m_orientation, tr("&Orientation")));
-    row->addWidget(m_orientation);
+    row->addGroup(groupOf({labelFor(m_paper, tr("P&aper")), m_paper}));
+    row->addGroup(groupOf({labelFor(m_orientation, tr("&Orientation")), m_orientation}));
 
     connect(m_print, &QPushButton::clicked, this, &PreviewWindow::btnPrint_Click);
     connect(m_export, &QPushButton::clicked, this, &PreviewWindow::btnExport_Click);
@@ -104,7 +111,7 @@ QBoxLayout* PreviewWindow::makeCommandRow()
     return row;
 }
 
-QBoxLayout* PreviewWindow::makePageRow()
+FlowLayout* PreviewWindow::makePageRow()
 {
     m_zoom->addItem(tr("Whole page"));
     m_zoom->addItem(tr("Page width"));
@@ -116,18 +123,13 @@ QBoxLayout* PreviewWindow::makePageRow()
     m_pageNumber->setMinimum(1);
     m_pageNumber->setKeyboardTracking(false);
 
-    auto* row = new QHBoxLayout;
-    row->addWidget(labelFor(m_zoom, tr("&Zoom")));
-    row->addWidget(m_zoom);
-    row->addWidget(zoomOut);
-    row->addWidget(zoomIn);
+    auto* row = new FlowLayout;
+    row->addGroup(groupOf({labelFor(m_zoom, tr("&Zoom")), m_zoom}));
+    row->addGroup(groupOf({zoomOut, zoomIn}));
     row->addStretch();
-    row->addWidget(m_first);
-    row->addWidget(m_previous);
-    row->addWidget(labelFor(m_pageNumber, tr("Pa&ge")));
-    row->addWidget(m_pageNumber);
-    row->addWidget(m_next);
-    row->addWidget(m_last);
+    row->addGroup(groupOf({m_first, m_previous}));
+    row->addGroup(groupOf({labelFor(m_pageNumber, tr("Pa&ge")), m_pageNumber}));
+    row->addGroup(groupOf({m_next, m_last}));
 
     connect(m_zoom, &QComboBox::activated, this, &PreviewWindow::cmbZoom_Click);
     connect(zoomIn, &QPushButton::clicked, this, [this] { zoomBy(1); });

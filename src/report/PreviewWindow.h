@@ -9,7 +9,7 @@
 #include <functional>
 #include <optional>
 
-class QBoxLayout;
+class FlowLayout;
 class QComboBox;
 class QPrintPreviewWidget;
 class QPushButton;
@@ -47,8 +47,8 @@ private:
     void cmbZoom_Click(int index);
     void zoomBy(int step);
     void scrollOrTurn(int direction);
-    QBoxLayout* makeCommandRow();
-    QBoxLayout* makePageRow();
+    FlowLayout* makeCommandRow();
+    FlowLayout* makePageRow();
     void makeShortcuts();
     std::shared_ptr<const ReportLayout> layOut(QSizeF area) const;
     void showPage();

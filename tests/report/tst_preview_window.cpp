@@ -318,6 +318,49 @@ private slots:
         QVERIFY(!f.window.isVisible());
     }
 
+    void aNarrowWindowShowsEveryControlWhole_data()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<Qt::LayoutDirection>("direction");
+        QTest::newRow("wide") << QSize(1200, 700) << Qt::LeftToRight;
+        QTest::newRow("small screen") << QSize(1004, 590) << Qt::LeftToRight;
+        QTest::newRow("scaled screen") << QSize(833, 480) << Qt::LeftToRight;
+        QTest::newRow("narrow") << QSize(420, 480) << Qt::LeftToRight;
+        QTest::newRow("narrow, from right to left") << QSize(420, 480) << Qt::RightToLeft;
+    }
+
+    void aNarrowWindowShowsEveryControlWhole()
+    {
+        QFETCH(const QSize, size);
+        QFETCH(const Qt::LayoutDirection, direction);
+        Fixture f(60, true);
+        f.window.setLayoutDirection(direction);
+        f.window.resize(size);
+        QCoreApplication::processEvents();
+        QCOMPARE(f.window.size(), size);
+        QList<QWidget*> controls;
+        for (QWidget* control : f.window.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+            if (control->isVisible()) {
+                controls.append(control);
+            }
+        }
+        QCOMPARE(controls.size(), 17);
+        for (const QWidget* control : std::as_const(controls)) {
+            QVERIFY2(f.window.rect().contains(control->geometry()), qPrintable(control->objectName()));
+            QVERIFY2(control->width() >= control->minimumSizeHint().width()
+                    && control->height() >= control->minimumSizeHint().height(),
+                qPrintable(control->objectName()));
+            if (control != f.preview()) {
+                QVERIFY2(control->width() >= control->sizeHint().width(), qPrintable(control->objectName()));
+            }
+            for (const QWidget* other : std::as_const(controls)) {
+                QVERIFY2(other == control || !other->geometry().intersects(control->geometry()),
+                    qPrintable(control->objectName() + u' ' + other->objectName()));
+            }
+        }
+        QVERIFY(f.preview()->height() > 150);
+    }
+
     void everyControlIsReachedByTabAndByAMnemonicOfItsOwn()
     {
         Fixture f(60, true);
