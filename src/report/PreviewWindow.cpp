@@ -57,7 +57,10 @@ QBoxLayout* groupOf(std::initializer_list<QWidget*> controls)
 } // namespace
 
 PreviewWindow::PreviewWindow(ReportHost& host, std::function<bool()> hasPrinter)
-    : QWidget(nullptr, Qt::Window), m_host(host), m_hasPrinter(std::move(hasPrinter)),
+    : QWidget(nullptr,
+        Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinMaxButtonsHint
+            | Qt::WindowCloseButtonHint),
+      m_host(host), m_hasPrinter(std::move(hasPrinter)),
       m_print(named(new QPushButton(tr("&Print...")), "btnPrint")),
       m_export(named(new QPushButton(tr("&Export PDF...")), "btnExport")),
       m_paper(named(new QComboBox, "cmbPaper")), m_orientation(named(new QComboBox, "cmbOrientation")),

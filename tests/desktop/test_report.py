@@ -56,6 +56,21 @@ class ReportTest(ReportCase):
         self.user.open_new_task()
         self.assertTrue(self.user.shows(names.REPORT))
 
+    def test_the_report_belongs_to_the_main_window_and_stays_above_it(self):
+        window = self.print_list()
+        main = self.user.window(names.MAIN)
+        self.assertEqual(window.owner, main)
+        main.activate()
+        self.user.wait_active(names.MAIN)
+        self.assertTrue(self.desk.screen.is_above(window, main))
+
+    def test_the_report_can_be_maximized(self):
+        window = self.print_list()
+        self.desk.screen.tell_manager(window.handle, "_NET_WM_STATE", [
+            1, self.desk.screen.atom("_NET_WM_STATE_MAXIMIZED_VERT"),
+            self.desk.screen.atom("_NET_WM_STATE_MAXIMIZED_HORZ"), 2, 0])
+        wait_until(lambda: "_NET_WM_STATE_MAXIMIZED_VERT" in window.states, "the report is maximized")
+
     def test_a_closed_report_opens_again(self):
         self.print_list().close()
         self.user.wait_hidden(names.REPORT)
