@@ -1052,6 +1052,10 @@
         <source>a rule has no selector or no end</source>
         <translation>قاعدة بلا محدِّد أو بلا نهاية</translation>
     </message>
+    <message>
+        <source>more than %1 properties</source>
+        <translation>أكثر من %1 خاصية</translation>
+    </message>
 </context>
 <context>
     <name>Skins</name>

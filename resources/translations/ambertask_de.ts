@@ -1032,6 +1032,10 @@ ein Fehler auf: %3.</translation>
         <source>a rule has no selector or no end</source>
         <translation>eine Regel hat keinen Selektor oder kein Ende</translation>
     </message>
+    <message>
+        <source>more than %1 properties</source>
+        <translation>mehr als %1 Eigenschaften</translation>
+    </message>
 </context>
 <context>
     <name>Skins</name>

@@ -1032,6 +1032,10 @@
         <source>a rule has no selector or no end</source>
         <translation>una regla no tiene selector o no tiene fin</translation>
     </message>
+    <message>
+        <source>more than %1 properties</source>
+        <translation>más de %1 propiedades</translation>
+    </message>
 </context>
 <context>
     <name>Skins</name>

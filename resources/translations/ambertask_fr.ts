@@ -1032,6 +1032,10 @@
         <source>a rule has no selector or no end</source>
         <translation>une règle n’a pas de sélecteur ou pas de fin</translation>
     </message>
+    <message>
+        <source>more than %1 properties</source>
+        <translation>plus de %1 propriétés</translation>
+    </message>
 </context>
 <context>
     <name>Skins</name>

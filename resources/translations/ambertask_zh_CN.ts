@@ -1027,6 +1027,10 @@
         <source>a rule has no selector or no end</source>
         <translation>规则没有选择器或没有结束</translation>
     </message>
+    <message>
+        <source>more than %1 properties</source>
+        <translation>超过 %1 个属性</translation>
+    </message>
 </context>
 <context>
     <name>Skins</name>

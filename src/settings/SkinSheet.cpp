@@ -1,5 +1,7 @@
 #include "settings/SkinSheet.h"
 
+#include "settings/SkinGrammar.h"
+
 #include <QCoreApplication>
 #include <QRegularExpression>
 #include <algorithm>
@@ -47,6 +49,20 @@ QString withColors(QStringView sheet, int firstLine, const SkinColors& colors)
     return expanded;
 }
 
+/// Within quotation marks the toolkit's reader knows escapes and no line breaks: what it took for the end of
+/// a text would be another place than here.
+void requirePlainText(QStringView text, int line)
+{
+    for (const QChar c : text) {
+        if (c == u'\n' || c == u'\r' || c == u'\f') {
+            throw SkinLineError(line, SkinSheet::tr("a text in quotes has no end"));
+        }
+        if (c == u'\\' || (c < u' ' && c != u'\t') || c == u'\x7f') {
+            throw SkinLineError(line, SkinSheet::tr("\"%1\" is not allowed").arg(c));
+        }
+    }
+}
+
 /// Replaces comments and the content of strings by blanks, so that what is left can be searched. Keeps line
 /// breaks.
 QString withoutCommentsAndStrings(QStringView sheet, int firstLine)
@@ -68,6 +84,9 @@ QString withoutCommentsAndStrings(QStringView sheet, int firstLine)
                         : SkinSheet::tr("a text in quotes has no end"));
         }
         const qsizetype last = end + close.size() - 1;
+        if (!comment) {
+            requirePlainText(sheet.mid(i + 1, end - i - 1), line);
+        }
         for (qsizetype blank = i; blank <= last; ++blank) {
             line += plain[blank] == u'\n' ? 1 : 0;
             // The quotation marks stay: a text is a value.
@@ -109,7 +128,7 @@ QRegularExpression pattern(const char* text)
 struct SelectorSubject {
     explicit SelectorSubject(QStringView selector)
     {
-        QStringView rest = selector.trimmed();
+        QStringView rest = withoutBlanks(selector);
         for (qsizetype i = rest.size() - 1; i >= 0; --i) {
             if (rest[i].isSpace() || rest[i] == u'>') {
                 rest = rest.mid(i + 1);
@@ -179,6 +198,9 @@ void checkRule(const QString& selectors, int selectorLine, const QString& declar
     refuse(declarations, line, otherFiles);
     refuse(declarations, line, properties);
     for (const QStringView selector : QStringView(selectors).split(u',')) {
+        if (!isSelector(selector)) {
+            throw SkinLineError(selectorLine, SkinSheet::tr("a rule has no selector or no end"));
+        }
         if (!selector.contains(u"::") && reachesArrows(selector)) {
             refuse(declarations, line, borders);
             refuse(declarations, line, grounds);
@@ -186,18 +208,10 @@ void checkRule(const QString& selectors, int selectorLine, const QString& declar
     }
 }
 
-/// "property: value", without blanks at its ends.
-bool isDeclaration(QStringView text)
-{
-    const qsizetype end = endOfWord(text, 0);
-    const QStringView rest = text.mid(end).trimmed();
-    return end > 0 && rest.size() > 1 && rest.startsWith(u':');
-}
-
 void checkDeclarations(QStringView declarations, int line)
 {
     for (const QStringView declaration : declarations.split(u';')) {
-        const QStringView text = declaration.trimmed();
+        const QStringView text = withoutBlanks(declaration);
         if (!text.isEmpty() && !isDeclaration(text)) {
             const auto blankLines = declaration.first(text.begin() - declaration.begin()).count(u'\n');
             throw SkinLineError(line + static_cast<int>(blankLines),
@@ -208,14 +222,19 @@ void checkDeclarations(QStringView declarations, int line)
     }
 }
 
+/// Each control weighs all properties of all selectors: a sheet of hundreds of thousands would keep the program
+/// from its user at every start.
+constexpr qsizetype MostProperties = 5000;
+
 void checkRules(const QString& plain, int line)
 {
+    qsizetype properties = 0;
     qsizetype start = 0;
     for (;;) {
         const qsizetype open = plain.indexOf(u'{', start);
         const qsizetype close = plain.indexOf(u'}', start);
         const QString selectors = plain.mid(start, (open < 0 ? plain.size() : open) - start);
-        const QString trimmed = selectors.trimmed();
+        const QString trimmed = withoutBlanks(selectors).toString();
         const qsizetype before = trimmed.isEmpty() ? selectors.size() : selectors.indexOf(trimmed);
         const int selectorLine = line + static_cast<int>(QStringView(selectors).first(before).count(u'\n'));
         if (open < 0) {
@@ -230,8 +249,12 @@ void checkRules(const QString& plain, int line)
         }
         const int bodyLine = line + static_cast<int>(selectors.count(u'\n'));
         const QString declarations = plain.mid(open + 1, close - open - 1);
-        checkDeclarations(declarations, bodyLine);
         checkRule(trimmed, selectorLine, declarations, bodyLine);
+        checkDeclarations(declarations, bodyLine);
+        properties += (selectors.count(u',') + 1) * (declarations.count(u';') + 1);
+        if (properties > MostProperties) {
+            throw SkinLineError(selectorLine, SkinSheet::tr("more than %1 properties").arg(MostProperties));
+        }
         line = bodyLine + static_cast<int>(declarations.count(u'\n'));
         start = close + 1;
     }

@@ -112,6 +112,35 @@ void TestSkinFile::aFaultNamesFileAndLine_data()
     row("text after the rules", skinWith("", "QLabel {}\n\nQLabel"), "8: expected a rule");
     row("property without value", skinWith("", "QLabel {\n color: $ink;\n bold;\n}"),
         "8: \"bold\" is no property with a value");
+    row("text over two lines", skinWith("", "QLabel { font-family: \"Sans\n\"; }"),
+        "6: a text in quotes has no end");
+    row("other file behind an escape",
+        skinWith("", "QLabel {\n font: \"\\\"; x: \"; image: url(a.png); y: \";\" }"),
+        "7: \"\\\" is not allowed");
+    row("escape outside of texts", skinWith("", "QLabel {\n c\\olor: $ink; }"),
+        "7: \"c\\olor: #102030\" is no property with a value");
+    for (const char* selector : {"QLabel#", "QLabel:", "QLabel::", "Q|abel", "Q!abel", "QLabel >", "> QLabel",
+             "QLabel,", "QLabel[", "QLabel[a", "QLabel[=a]", "QLabel(a)", "1QLabel", "QLabel:!",
+             "QLa\x01"
+             "bel",
+             "QLabel + QLabel"}) {
+        row(selector, skinWith("", QByteArray("\n") + selector + " { color: $ink; }"),
+            "7: a rule has no selector or no end");
+    }
+    for (const char* property :
+        {"color: (red", "color: red)", "color: rgb(1,2", "color: #12345", "color: !red", "color: red,",
+            "color: 1px 2px /", "color:", "color: :red", "3color: red", "color: `red",
+            "color: red\x0b"
+            "blue",
+            "color: --x"}) {
+        row(property, skinWith("", QByteArray("QLabel {\n") + property + "; }"),
+            qPrintable(QStringLiteral("7: \"%1\" is no property with a value").arg(QLatin1String(property))));
+    }
+    row("blank that is none", skinWith("", "QLabel {\n color: $ink;\x0b }"),
+        "7: \"\x0b\" is no property with a value");
+    row("too many properties",
+        skinWith("", "QLabel {}\nQLabel, QFrame {" + QByteArray("a:b;").repeated(2600) + "}"),
+        "7: more than 5000 properties");
     row("at-rule", skinWith("", "@import \"other.qss\";"), "6: expected a rule");
     row("media rule", skinWith("", "@media screen { }"), "6: \"@media\" is not allowed");
     row("picture", skinWith("", "QLabel {\n image: URL(a.png); }"),
@@ -152,6 +181,15 @@ void TestSkinFile::whatLooksAlikeIsAllowed_data()
         << QByteArray("QComboBox QAbstractItemView { background: $ink; }");
     QTest::newRow("ground of a named frame") << QByteArray("#framHeader { background: $ink; }");
     QTest::newRow("edge of a bar") << QByteArray("QScrollBar::handle { background: $ink; }");
+    for (const char* selector :
+        {"QLabel#a.b[c]:d:!e::f:g", "QFrame>QLabel  QLabel", ".QLabel", "*[a=\"x\"][b~=c]#d", "#d"}) {
+        QTest::newRow(selector) << QByteArray(selector) + " { color: $ink; }";
+    }
+    for (const char* value : {"-1px +2.5em .5ex 50%", "Sans, \"DejaVu Sans\", 'x'", "rgba(1, 2, 3, 50%)",
+             "qlineargradient(x1:0, y1:-.5, stop:0 #fff, stop: 0.5 rgba(1,2,3,4))", "#abc #aabbcc #ddaabbcc",
+             "12px/14px Sans"}) {
+        QTest::newRow(value) << "QLabel { x: " + QByteArray(value) + "; }";
+    }
     QTest::newRow("no last semicolon") << QByteArray("QLabel { color: $ink }");
     QTest::newRow("nothing") << QByteArray("");
 }
