@@ -266,15 +266,17 @@ class Desktop:
 
     # The program ------------------------------------------------------------------------------------------
 
-    def start(self, clock=None, command=None, environment=None):
-        """Starts the executable of this desk. `clock` is a Clock; `command` stands before the executable's path."""
+    def start(self, clock=None, command=None, environment=None, arguments=None):
+        """Starts the executable of this desk. `clock` is a Clock; `command` stands before the executable's path,
+        `arguments` behind it."""
         self._starts += 1
         name = f"program{self._starts}"
         variables = dict(self.environment)
         if clock:
             variables.update(clock.environment())
         variables.update(environment or {})
-        child = self._children.start((command or []) + [self.executable], variables, name, cwd=self.path("home"))
+        line = (command or []) + [self.executable] + (arguments or [])
+        child = self._children.start(line, variables, name, cwd=self.path("home"))
         return Program(child, os.path.join(self.logs, name + ".out"), os.path.join(self.logs, name + ".err"))
 
     def start_beside(self, arguments):
