@@ -2,6 +2,7 @@
 
 #include "app/frmMain.h"
 #include "help/HTMLHelpViewer.h"
+#include "platform/ElidedTextTips.h"
 #include "platform/ImageList.h"
 #include "platform/WaveBackend.h"
 #include "reminders/AlertsHost.h"
@@ -117,6 +118,7 @@ private:
     SettingsRecord m_settings;
     FormServices m_services;
     Skins m_skins;
+    ElidedTextTips m_tips;
     HTMLHelpViewer m_helpViewer;
     std::unique_ptr<frmMain> m_main;
     std::unique_ptr<frmTaskDetails> m_taskDetails;

@@ -4,12 +4,15 @@
 #include "app/TasksPage.h"
 #include "categories/CategoriesPage.h"
 #include "platform/ErrorReport.h"
+#include "platform/LetterScale.h"
+#include "platform/ScrollFrame.h"
 #include "platform/Shell.h"
 #include "platform/WindowPlacement.h"
 #include "settings/MaintenancePage.h"
 #include "settings/SettingsPage.h"
 #include "settings/SettingsRecord.h"
 #include "ui/LinkLabel.h"
+#include "ui/PictureLabel.h"
 #include "ui/clsGuiLoader.h"
 
 #include <QAction>
@@ -18,6 +21,7 @@
 #include <QGuiApplication>
 #include <QMenu>
 #include <QShortcut>
+#include <QTabBar>
 #include <QTabWidget>
 
 namespace
@@ -27,6 +31,7 @@ enum Page { TasksIndex, CategoriesIndex, SettingsIndex, MaintenanceIndex };
 
 constexpr int BalloonMilliseconds = 2000;
 constexpr QSize FirstSize(960, 640);
+constexpr QSize LogoSize(32, 32);
 
 } // namespace
 
@@ -37,16 +42,20 @@ frmMain::frmMain(
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QStringLiteral("Ambertask"));
     m_tabs->setObjectName(QStringLiteral("tabMain"));
-    m_tabs->addTab(m_pages.tasks, tr("Tasks"));
-    m_tabs->addTab(m_pages.categories, tr("Categories"));
-    m_tabs->addTab(m_pages.settings, tr("Settings"));
-    m_tabs->addTab(m_pages.maintenance, tr("Maintenance"));
+    QWidget* header = makeHeader();
+    const auto addPage = [&](QWidget* page, const QString& caption) {
+        m_tabs->addTab(new ScrollFrame(page, {header, m_tabs->tabBar()}), caption);
+    };
+    addPage(m_pages.tasks, tr("Tasks"));
+    addPage(m_pages.categories, tr("Categories"));
+    addPage(m_pages.settings, tr("Settings"));
+    addPage(m_pages.maintenance, tr("Maintenance"));
     addPageKeys();
     m_trayMenu = makeTrayMenu();
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(makeHeader());
+    layout->addWidget(header);
     layout->addWidget(m_tabs, 1);
-    resize(FirstSize);
+    resize(withLetters(FirstSize, font()));
     connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, &frmMain::helpRequested);
     // Only now: adding pages switches to the first one.
     connectGuarded(m_tabs, &QTabWidget::currentChanged, this, &frmMain::tabMain_Switch, services.errors);
@@ -69,21 +78,27 @@ QWidget* frmMain::makeHeader()
     header->setObjectName(QStringLiteral("framHeader"));
     auto* layout = new QHBoxLayout(header);
     layout->setContentsMargins(0, 0, 0, 0);
-    auto* picture = new QLabel;
-    picture->setPixmap(programIcon().pixmap(32, 32));
-    layout->addWidget(picture);
-    const auto addLink = [&](const char* name, const QString& text, bool bold) {
+    // The product's name is read from left to right, whatever the direction of the program.
+    auto* product = new QWidget;
+    product->setLayoutDirection(Qt::LeftToRight);
+    auto* name = new QHBoxLayout(product);
+    name->setContentsMargins({});
+    auto* picture = new PictureLabel(LogoSize);
+    picture->setPicture(programIcon());
+    name->addWidget(picture);
+    const auto addLink = [&](const char* objectName, const QString& text, bool bold) {
         auto* label = new LinkLabel(text);
-        label->setObjectName(QLatin1String(name));
+        label->setObjectName(QLatin1String(objectName));
         QFont font = label->font();
         font.setPointSizeF(font.pointSizeF() * 1.7);
         font.setBold(bold);
         label->setFont(font);
         connectGuarded(label, &LinkLabel::clicked, this, &frmMain::header_Click, m_services.errors);
-        layout->addWidget(label);
+        name->addWidget(label);
     };
     addLink("lblAmberHeader", QStringLiteral("Amber"), true);
     addLink("lblOrganizerHeader", QStringLiteral("Organizer"), false);
+    layout->addWidget(product);
     layout->addStretch();
     auto* version = new QLabel(tr("Version 1.1"));
     version->setTextFormat(Qt::PlainText);
@@ -140,6 +155,7 @@ void frmMain::Form_Load()
         if (m_settings.always_on_top) {
             makeTopmost(this);
         }
+        putInPlace(this);
         show();
         m_pages.tasks->focusGrid();
     } else {
@@ -222,6 +238,7 @@ void frmMain::hideWindow()
 void frmMain::stayReachable()
 {
     if (!isVisible() && !m_host.hasNotificationArea()) {
+        putInPlace(this);
         showMinimized();
     }
 }

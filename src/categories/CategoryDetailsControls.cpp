@@ -2,6 +2,9 @@
 
 #include "categories/IconBox.h"
 #include "categories/PicturePanel.h"
+#include "platform/LetterScale.h"
+#include "platform/ScrollFrame.h"
+#include "ui/PictureLabel.h"
 #include "ui/TaskPictures.h"
 
 #include <QBoxLayout>
@@ -18,6 +21,7 @@ namespace
 {
 
 constexpr int StartWidth = 380;
+constexpr int PreviewFrame = 1;
 constexpr int IconColumns = 6;
 constexpr int DescriptionLines = 4;
 
@@ -46,7 +50,7 @@ CategoryDetailsControls::CategoryDetailsControls(QWidget& form)
       picIcons(named<PicturePanel>(QStringLiteral("picIcons"), form)), imgIcon{},
       opnCustomIcon(named<QRadioButton>(QStringLiteral("opnCustomIcon"), form)),
       picCustomIcon(named<PicturePanel>(QStringLiteral("picCustomIcon"), form)),
-      imgCustomIcon(named<QLabel>(QStringLiteral("imgCustomIcon"), *picCustomIcon)),
+      imgCustomIcon(new PictureLabel(QSize(PreviewEdge, PreviewEdge), picCustomIcon)),
       lblIconSize(named<QLabel>(QStringLiteral("lblIconSize"), *picCustomIcon)),
       btnBrowse(named<QPushButton>(QStringLiteral("btnBrowse"), *picCustomIcon)),
       btnOk(named<QPushButton>(QStringLiteral("btnOk"), form)),
@@ -61,12 +65,12 @@ CategoryDetailsControls::CategoryDetailsControls(QWidget& form)
         box->setToolTip(categoryPictureWord(i));
         group->addButton(box);
     }
-    setUp();
+    setUp(form);
     layOut(form);
     setTabOrder();
 }
 
-void CategoryDetailsControls::setUp()
+void CategoryDetailsControls::setUp(const QWidget& form)
 {
     // An edit cuts at 32,767 characters unless told otherwise.
     txtCatName->setMaxLength(std::numeric_limits<int>::max());
@@ -78,8 +82,9 @@ void CategoryDetailsControls::setUp()
     picIcons->setAccessibleName(tr("Default icons"));
     picCustomIcon->setAccessibleName(tr("Custom icon"));
 
-    imgCustomIcon->setFixedSize(PreviewEdge + 2, PreviewEdge + 2);
-    imgCustomIcon->setAlignment(Qt::AlignCenter);
+    imgCustomIcon->setObjectName(QStringLiteral("imgCustomIcon"));
+    const int preview = withLetters(PreviewEdge, form.font()) + 2 * PreviewFrame;
+    imgCustomIcon->setFixedSize(preview, preview);
     imgCustomIcon->setAccessibleName(tr("Custom icon preview"));
     lblIconSize->setTextFormat(Qt::PlainText);
     lblIconSize->setText(tr("Prefered size 24*24 pixels"));
@@ -104,7 +109,9 @@ void CategoryDetailsControls::layOut(QWidget& form)
     layOutCustomIcon();
     txtCatDesc->setMinimumHeight(txtCatDesc->fontMetrics().lineSpacing() * DescriptionLines);
 
-    auto* grid = new QGridLayout(&form);
+    auto* content = new QWidget;
+    auto* grid = new QGridLayout(content);
+    grid->setContentsMargins({});
     QLabel* description = labelFor(*txtCatDesc, "lblCatDesc", tr("&Description"), form);
     description->setAlignment(Qt::AlignTop | Qt::AlignLeading);
     int row = 0;
@@ -116,13 +123,15 @@ void CategoryDetailsControls::layOut(QWidget& form)
     grid->addWidget(opnDefaultIcon, row++, 0, 1, 2);
     grid->addWidget(picIcons, row++, 0, 1, 2);
     grid->addWidget(opnCustomIcon, row++, 0, 1, 2);
-    grid->addWidget(picCustomIcon, row++, 0, 1, 2);
+    grid->addWidget(picCustomIcon, row, 0, 1, 2);
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
     buttons->addWidget(btnOk);
     buttons->addWidget(btnCancel);
-    grid->addLayout(buttons, row, 0, 1, 2);
-    form.resize(StartWidth, grid->minimumSize().height());
+    auto* all = new QVBoxLayout(&form);
+    all->addWidget(new ScrollFrame(content, {btnOk}), 1);
+    all->addLayout(buttons);
+    form.resize(withLetters(StartWidth, form.font()), all->minimumSize().height());
 }
 
 void CategoryDetailsControls::layOutIcons()

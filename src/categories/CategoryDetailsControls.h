@@ -4,6 +4,7 @@
 #include <array>
 
 class IconBox;
+class PictureLabel;
 class PicturePanel;
 class QButtonGroup;
 class QLabel;
@@ -32,14 +33,14 @@ public:
     std::array<IconBox*, IconCount> imgIcon;
     QRadioButton* opnCustomIcon;
     PicturePanel* picCustomIcon;
-    QLabel* imgCustomIcon;
+    PictureLabel* imgCustomIcon;
     QLabel* lblIconSize;
     QPushButton* btnBrowse;
     QPushButton* btnOk;
     QPushButton* btnCancel;
 
 private:
-    void setUp();
+    void setUp(const QWidget& form);
     void layOut(QWidget& form);
     void layOutIcons();
     void layOutCustomIcon();

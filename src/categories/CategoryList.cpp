@@ -1,6 +1,7 @@
 #include "categories/CategoryList.h"
 
-#include "platform/PlainToolTip.h"
+#include "platform/LetterScale.h"
+#include "platform/PlainText.h"
 
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -17,6 +18,7 @@ constexpr int LabelLines = 2;
 constexpr int LabelCharacters = 16;
 /// More than two lines can show: a name without end is not laid out.
 constexpr qsizetype LaidOutCharacters = 64;
+const QChar Ellipsis(0x2026);
 constexpr int Padding = 16;
 constexpr int MinimumCellWidth = 116;
 
@@ -36,12 +38,12 @@ QString wrapped(const QString& text, const QFont& font, int width)
             break;
         }
         line.setLineWidth(width);
-        lines.append(text.mid(start, line.textLength()).trimmed());
+        lines.append(inOwnDirection(text.mid(start, line.textLength()).trimmed()));
         start += line.textLength();
     }
     layout.endLayout();
     if (start < text.size()) {
-        lines.append(QFontMetrics(font).elidedText(text.mid(start), Qt::ElideRight, width));
+        lines.append(inOwnDirection(QFontMetrics(font).elidedText(text.mid(start), Qt::ElideRight, width)));
     }
     return lines.join(QChar::LineSeparator);
 }
@@ -50,7 +52,7 @@ QString wrapped(const QString& text, const QFont& font, int width)
 class CellDelegate final : public QStyledItemDelegate
 {
 public:
-    explicit CellDelegate(const QListView& list) : m_list(list) { }
+    explicit CellDelegate(const CategoryList& list) : m_list(list) { }
 
     QSize sizeHint(const QStyleOptionViewItem& /*option*/, const QModelIndex& /*index*/) const override
     {
@@ -71,12 +73,11 @@ protected:
         option->decorationSize = m_list.iconSize();
         option->displayAlignment = Qt::AlignHCenter | Qt::AlignTop;
         option->features.setFlag(QStyleOptionViewItem::WrapText, false);
-        option->text =
-            wrapped(option->text.left(LaidOutCharacters), option->font, m_list.gridSize().width() - Padding);
+        option->text = wrapped(option->text.left(LaidOutCharacters), option->font, m_list.labelWidth());
     }
 
 private:
-    const QListView& m_list;
+    const CategoryList& m_list;
 };
 
 } // namespace
@@ -94,7 +95,6 @@ CategoryList::CategoryList(QWidget* parent) : QListWidget(parent)
     setUniformItemSizes(true);
     setWordWrap(true);
     setTextElideMode(Qt::ElideRight);
-    setIconSize(QSize(IconEdge, IconEdge));
     setItemDelegate(new CellDelegate(*this));
     itemDelegate()->setParent(this);
     setCellSize();
@@ -129,13 +129,23 @@ bool CategoryList::viewportEvent(QEvent* event)
     }
     const auto* help = static_cast<QHelpEvent*>(event);
     const QListWidgetItem* under = itemAt(help->pos());
-    if (under == nullptr || under->toolTip().isEmpty()) {
+    const QString tip = under == nullptr ? QString() : tipOf(*under);
+    if (tip.isEmpty()) {
         QToolTip::hideText();
     } else {
-        QToolTip::showText(
-            help->globalPos(), plainToolTip(under->toolTip()), viewport(), visualItemRect(under));
+        QToolTip::showText(help->globalPos(), plainToolTip(tip), viewport(), visualItemRect(under));
     }
     return true;
+}
+
+QString CategoryList::tipOf(const QListWidgetItem& item) const
+{
+    const QString name = item.text();
+    const QString shown = wrapped(name.left(LaidOutCharacters), font(), labelWidth());
+    if (name.size() <= LaidOutCharacters && !shown.contains(Ellipsis)) {
+        return item.toolTip();
+    }
+    return item.toolTip().isEmpty() ? name : name + QLatin1String("\n\n") + item.toolTip();
 }
 
 void CategoryList::changeEvent(QEvent* event)
@@ -149,6 +159,13 @@ void CategoryList::changeEvent(QEvent* event)
 void CategoryList::setCellSize()
 {
     const QFontMetrics metrics = fontMetrics();
+    const int edge = withLetters(IconEdge, font());
+    setIconSize(QSize(edge, edge));
     setGridSize(QSize(std::max(MinimumCellWidth, LabelCharacters * metrics.averageCharWidth()),
-        IconEdge + LabelLines * metrics.lineSpacing() + Padding));
+        edge + LabelLines * metrics.lineSpacing() + Padding));
+}
+
+int CategoryList::labelWidth() const
+{
+    return gridSize().width() - Padding;
 }

@@ -16,6 +16,8 @@ public:
     void selectOnly(int row);
     /// None when nothing is selected.
     QListWidgetItem* selectedItem() const;
+    /// Pixels that a line of a name may be wide.
+    int labelWidth() const;
 
 signals:
     void enterPressed();
@@ -27,5 +29,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    /// The item's tool tip, headed by its name when not all of that can be seen.
+    QString tipOf(const QListWidgetItem& item) const;
     void setCellSize();
 };

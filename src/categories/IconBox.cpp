@@ -1,5 +1,8 @@
 #include "categories/IconBox.h"
 
+#include "platform/LetterScale.h"
+#include "ui/Outline.h"
+
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -8,12 +11,16 @@ namespace
 
 constexpr int PictureEdge = 32;
 constexpr int Margin = 5;
+constexpr int BorderWidth = 1;
+constexpr int FocusWidth = 2;
+/// Stands out from the panel's white under every skin.
+const QColor FocusInk(0x0B, 0x5F, 0xC4);
 
 } // namespace
 
 IconBox::IconBox(QWidget* parent) : QRadioButton(parent)
 {
-    setIconSize(QSize(PictureEdge, PictureEdge));
+    followLetters();
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
@@ -25,6 +32,20 @@ QSize IconBox::sizeHint() const
 QSize IconBox::minimumSizeHint() const
 {
     return sizeHint();
+}
+
+void IconBox::changeEvent(QEvent* event)
+{
+    QRadioButton::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        followLetters();
+    }
+}
+
+void IconBox::followLetters()
+{
+    const int edge = withLetters(PictureEdge, font());
+    setIconSize(QSize(edge, edge));
 }
 
 bool IconBox::hitButton(const QPoint& position) const
@@ -51,11 +72,9 @@ void IconBox::paintEvent(QPaintEvent* /*event*/)
     icon().paint(&painter, picture, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
     const QColor line = parentWidget()->palette().color(QPalette::WindowText);
     if (isChecked()) {
-        painter.setPen(line);
-        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        paintOutline(painter, rect(), BorderWidth, line);
     }
     if (hasFocus()) {
-        painter.setPen(QPen(line, 1, Qt::DotLine));
-        painter.drawRect(rect().adjusted(2, 2, -3, -3));
+        paintOutline(painter, rect().adjusted(2, 2, -2, -2), FocusWidth, FocusInk);
     }
 }

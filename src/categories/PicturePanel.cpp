@@ -1,10 +1,13 @@
 #include "categories/PicturePanel.h"
 
+#include "ui/Outline.h"
+
 #include <QPainter>
 
 namespace
 {
 
+constexpr int EdgeWidth = 1;
 const QColor Usable(0xFF, 0xFF, 0xFF);
 const QColor Unusable(0xE0, 0xE0, 0xE0);
 const QColor Ink(0x20, 0x20, 0x20);
@@ -35,6 +38,5 @@ void PicturePanel::paintEvent(QPaintEvent* /*event*/)
     // A skin's style sheet may replace the palette, so the colours do not come from there.
     QPainter painter(this);
     painter.fillRect(rect(), m_background);
-    painter.setPen(Edge);
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    paintOutline(painter, rect(), EdgeWidth, Edge);
 }

@@ -9,10 +9,10 @@
 #include "platform/MessageBoxes.h"
 #include "ui/CheckerTimer.h"
 #include "ui/ControlValue.h"
+#include "ui/PictureLabel.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -128,10 +128,8 @@ QString frmCategoryDetails::NewCustomIconName() const
 
 void frmCategoryDetails::showCustomPicture(const QIcon& picture)
 {
-    constexpr QSize size(CategoryDetailsControls::PreviewEdge, CategoryDetailsControls::PreviewEdge);
     m_customPicture = picture;
-    m_controls.imgCustomIcon->setPixmap(
-        picture.isNull() ? QPixmap() : picture.pixmap(size, devicePixelRatio()));
+    m_controls.imgCustomIcon->setPicture(picture);
 }
 
 void frmCategoryDetails::opnDefaultIcon_Click()

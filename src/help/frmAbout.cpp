@@ -1,11 +1,13 @@
 #include "help/frmAbout.h"
 
 #include "platform/ErrorReport.h"
+#include "platform/LetterScale.h"
 #include "platform/MessageBoxes.h"
 #include "platform/ProgramFolder.h"
 #include "platform/Registry.h"
 #include "platform/Shell.h"
 #include "ui/FormServices.h"
+#include "ui/PictureLabel.h"
 
 #include <QBoxLayout>
 #include <QCloseEvent>
@@ -43,9 +45,9 @@ QLabel* arialLabel(const char* name, const QString& text, qreal scale, bool bold
 
 QLabel* picture(const char* name, const QIcon& icon, QSize size)
 {
-    auto* made = new QLabel;
+    auto* made = new PictureLabel(size);
     made->setObjectName(QLatin1String(name));
-    made->setPixmap(icon.pixmap(size));
+    made->setPicture(icon);
     // The product's name stands beside it.
     made->setAccessibleName(QStringLiteral("Ambertask"));
     return made;
@@ -55,7 +57,7 @@ QLabel* paragraph(const char* name, const QString& text)
 {
     QLabel* made = label(name, text);
     made->setWordWrap(true);
-    made->setMinimumWidth(TextWidth);
+    made->setMinimumWidth(withLetters(TextWidth, made->font()));
     return made;
 }
 
@@ -92,16 +94,19 @@ frmAbout::frmAbout(const FormServices& services, Registry& registry, const About
 
 void frmAbout::layOut(const AboutPictures& pictures)
 {
-    auto* name = new QHBoxLayout;
+    // One word in two labels, read from left to right whatever the direction of the program.
+    auto* product = new QWidget;
+    product->setLayoutDirection(Qt::LeftToRight);
+    auto* name = new QHBoxLayout(product);
+    name->setContentsMargins({});
     name->setSpacing(0);
     name->addWidget(arialLabel("Label1", QStringLiteral("Amber"), 2.2, true));
     name->addWidget(arialLabel("Label2", QStringLiteral("task"), 2.2, false));
-    name->addStretch();
 
     auto* title = new QVBoxLayout;
     title->setSpacing(2);
     title->addStretch(1);
-    title->addLayout(name);
+    title->addWidget(product, 0, Qt::AlignLeading);
     title->addWidget(arialLabel("Label3", tr("Version 1.1"), 1.1, false));
     title->addStretch(1);
 

@@ -1,5 +1,7 @@
 #include "platform/FittingHeader.h"
 
+#include "platform/PlainText.h"
+
 #include <QPainter>
 #include <QStyleOption>
 
@@ -7,23 +9,33 @@ namespace
 {
 
 constexpr int SmallestStretch = 62; // percent; letters get hard to read below
+constexpr int StretchStep = 4;
 constexpr int CaptionMargin = 5; // pixels on either side
 
 } // namespace
 
 FittingHeader::FittingHeader(QWidget* parent) : QHeaderView(Qt::Horizontal, parent)
 {
-    setTextElideMode(Qt::ElideRight);
+    setTextElideMode(Qt::ElideNone);
+}
+
+int FittingHeader::roomFor(int logicalIndex) const
+{
+    return qMax(1, sectionSize(logicalIndex) - 2 * CaptionMargin);
 }
 
 QFont FittingHeader::fontFor(int logicalIndex) const
 {
     QFont squeezed = font();
     const QString caption = model()->headerData(logicalIndex, orientation(), Qt::DisplayRole).toString();
-    const int available = qMax(1, sectionSize(logicalIndex) - 2 * CaptionMargin);
+    const int available = roomFor(logicalIndex);
     const int needed = QFontMetrics(squeezed).horizontalAdvance(caption);
-    if (needed > available) {
-        squeezed.setStretch(qMax(SmallestStretch, 100 * available / needed));
+    // A font may not be had as narrow as it is asked for.
+    for (int stretch = 100 * available / qMax(1, needed); needed > available; stretch -= StretchStep) {
+        squeezed.setStretch(qMax(SmallestStretch, stretch));
+        if (stretch <= SmallestStretch || QFontMetrics(squeezed).horizontalAdvance(caption) <= available) {
+            break;
+        }
     }
     return squeezed;
 }
@@ -38,4 +50,7 @@ void FittingHeader::initStyleOptionForIndex(QStyleOptionHeader* option, int logi
 {
     QHeaderView::initStyleOptionForIndex(option, logicalIndex);
     option->fontMetrics = QFontMetrics(fontFor(logicalIndex));
+    // The header itself would reckon with the letters as they are before they are squeezed.
+    option->text =
+        inOwnDirection(option->fontMetrics.elidedText(option->text, Qt::ElideRight, roomFor(logicalIndex)));
 }

@@ -16,5 +16,7 @@ protected:
     void initStyleOptionForIndex(QStyleOptionHeader* option, int logicalIndex) const override;
 
 private:
+    /// Pixels for the caption.
+    int roomFor(int logicalIndex) const;
     QFont fontFor(int logicalIndex) const;
 };

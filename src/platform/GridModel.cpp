@@ -1,7 +1,7 @@
 #include "platform/GridModel.h"
 
 #include "platform/ImageList.h"
-#include "platform/PlainToolTip.h"
+#include "platform/PlainText.h"
 
 void GridModel::setColumns(const QList<GridColumn>& columns)
 {
@@ -64,7 +64,7 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
         return m_columns[section].header;
     case Qt::ToolTipRole:
         // The whole of a caption that is too long for its column.
-        return m_columns[section].header;
+        return plainToolTip(m_columns[section].header);
     case Qt::UserRole:
         return m_columns[section].key;
     case Qt::TextAlignmentRole:

@@ -2,10 +2,13 @@
 
 #include "platform/FittingHeader.h"
 #include "platform/GridModel.h"
+#include "platform/LetterScale.h"
+#include "platform/PlainText.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
+#include <QStyledItemDelegate>
 #include <cmath>
 
 namespace
@@ -14,6 +17,19 @@ namespace
 constexpr double UnitsPerPixel = 15;
 constexpr int IconSize = 16;
 constexpr int RowPadding = 8;
+constexpr int LeastRows = 4;
+
+/// Writes each text in its own direction.
+class CellDelegate final : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QString displayText(const QVariant& value, const QLocale& locale) const override
+    {
+        return inOwnDirection(QStyledItemDelegate::displayText(value, locale));
+    }
+};
 
 } // namespace
 
@@ -23,7 +39,7 @@ GridView::GridView(QWidget* parent) : QTableView(parent)
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
-    setIconSize(QSize(IconSize, IconSize));
+    setItemDelegate(new CellDelegate(this));
     setWordWrap(false);
     setTabKeyNavigation(false);
     setCornerButtonEnabled(false);
@@ -31,12 +47,11 @@ GridView::GridView(QWidget* parent) : QTableView(parent)
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     verticalHeader()->setVisible(false);
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    verticalHeader()->setMinimumSectionSize(IconSize);
-    verticalHeader()->setDefaultSectionSize(qMax(IconSize, fontMetrics().height()) + RowPadding);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     horizontalHeader()->setMinimumSectionSize(IconSize);
+    followLetters();
     connect(horizontalHeader(), &QHeaderView::sectionResized, this, &GridView::takeUserWidth);
     connect(this, &QTableView::doubleClicked, this, &GridView::rowDoubleClicked);
 }
@@ -71,6 +86,29 @@ void GridView::selectOnly(int row)
     }
     setCurrentIndex(model()->index(row, column));
     selectRow(row);
+}
+
+QSize GridView::minimumSizeHint() const
+{
+    const QSize least = QTableView::minimumSizeHint();
+    const int rows = LeastRows * verticalHeader()->defaultSectionSize();
+    return least.expandedTo(QSize(0, horizontalHeader()->sizeHint().height() + rows + 2 * frameWidth()));
+}
+
+void GridView::changeEvent(QEvent* event)
+{
+    QTableView::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        followLetters();
+    }
+}
+
+void GridView::followLetters()
+{
+    const int icon = withLetters(IconSize, font());
+    setIconSize(QSize(icon, icon));
+    verticalHeader()->setMinimumSectionSize(icon);
+    verticalHeader()->setDefaultSectionSize(qMax(icon, fontMetrics().height()) + RowPadding);
 }
 
 void GridView::keyPressEvent(QKeyEvent* event)

@@ -23,6 +23,8 @@ public:
     int selectedRow() const;
     /// Selects a row, makes it the current one and scrolls to it; -1 selects none.
     void selectOnly(int row);
+    /// A few rows below the header.
+    QSize minimumSizeHint() const override;
 
 signals:
     /// A row was double-clicked.
@@ -31,11 +33,14 @@ signals:
     void enterPressed();
 
 protected:
+    void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:
+    /// Pictures and rows take their size from the font.
+    void followLetters();
     void layOutColumns();
     void takeUserWidth(int column, int oldSize, int newSize);
 

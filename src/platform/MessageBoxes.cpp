@@ -1,5 +1,7 @@
 #include "platform/MessageBoxes.h"
 
+#include "platform/PlainText.h"
+
 #include <QAbstractButton>
 #include <QMessageBox>
 
@@ -16,7 +18,7 @@ void name(const QMessageBox& box, QMessageBox::StandardButton which, const QStri
 QMessageBox::StandardButton show(
     QWidget* owner, QMessageBox::Icon icon, const QString& text, QMessageBox::StandardButtons buttons)
 {
-    QMessageBox box(icon, QStringLiteral("Ambertask"), text, buttons, owner);
+    QMessageBox box(icon, QStringLiteral("Ambertask"), breakable(text), buttons, owner);
     box.setTextFormat(Qt::PlainText);
     // The toolkit's own captions follow a catalogue of the system that may be missing.
     name(box, QMessageBox::Ok, MessageBoxes::tr("&OK"));

@@ -1,5 +1,7 @@
 #include "platform/ScreenErrorReport.h"
 
+#include "platform/PlainText.h"
+
 #include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
@@ -17,7 +19,8 @@ void ScreenErrorReport::report(const QString& text)
     }
     const QScopedValueRollback guard(m_open, true);
     QWidget* owner = QApplication::activeWindow();
-    QMessageBox box(QMessageBox::Critical, QStringLiteral("Ambertask"), text, QMessageBox::NoButton, owner);
+    QMessageBox box(
+        QMessageBox::Critical, QStringLiteral("Ambertask"), breakable(text), QMessageBox::NoButton, owner);
     box.setTextFormat(Qt::PlainText);
     box.setWindowFlag(Qt::WindowStaysOnTopHint,
         owner != nullptr && owner->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
@@ -33,7 +36,7 @@ void ScreenErrorReport::report(const QString& text)
 
 void ScreenErrorReport::reportFailedStart(const QString& text)
 {
-    QMessageBox box(QMessageBox::Critical, QStringLiteral("Ambertask"), text, QMessageBox::Ok);
+    QMessageBox box(QMessageBox::Critical, QStringLiteral("Ambertask"), breakable(text), QMessageBox::Ok);
     box.setTextFormat(Qt::PlainText);
     box.button(QMessageBox::Ok)->setText(tr("&OK"));
     box.exec();

@@ -2,11 +2,58 @@
 
 #include "platform/ActiveWindow.h"
 
+#include <QGuiApplication>
+#include <QLayout>
+#include <QScreen>
 #include <QWidget>
 #include <QWindow>
+#include <algorithm>
 
 namespace
 {
+
+/// A frame that no window system has told of yet.
+constexpr QMargins LikelyFrame(4, 30, 4, 4);
+/// The piece of a title bar by which a window can be dragged.
+constexpr int Handle = 80;
+/// Property of a window that has come up once.
+constexpr const char* Placed = "ambertask-placed";
+
+QRect movedInside(QRect frame, const QRect& area)
+{
+    frame.moveRight(std::min(frame.right(), area.right()));
+    frame.moveLeft(std::max(frame.left(), area.left()));
+    frame.moveBottom(std::min(frame.bottom(), area.bottom()));
+    frame.moveTop(std::max(frame.top(), area.top()));
+    return frame;
+}
+
+int distance(const QRect& frame, const QRect& area)
+{
+    const QRect moved = movedInside(frame, area);
+    return (moved.center() - frame.center()).manhattanLength();
+}
+
+QMargins frameOf(const QWidget& window)
+{
+    const QRect inner = window.geometry();
+    const QRect outer = window.frameGeometry();
+    const QMargins known(inner.left() - outer.left(), inner.top() - outer.top(),
+        outer.right() - inner.right(), outer.bottom() - inner.bottom());
+    return known.isNull() ? LikelyFrame : known;
+}
+
+/// The size that a window has been given, else the one that it asks for.
+QSize wantedSize(const QWidget& window)
+{
+    if (window.layout() != nullptr) {
+        window.layout()->activate();
+    }
+    const QSize asked = window.testAttribute(Qt::WA_Resized) ? window.size() : window.sizeHint();
+    return asked.expandedTo(window.minimumSizeHint())
+        .expandedTo(window.minimumSize())
+        .boundedTo(window.maximumSize());
+}
 
 // QWidget::setWindowFlag hides and re-creates a visible window; the flag of the native window can be changed
 // in place.
@@ -30,6 +77,64 @@ QWindow* nativeWindow(QWidget* widget)
 }
 
 } // namespace
+
+QRect firstPlace(QSize size, const QRect& around, const QRect& available)
+{
+    QRect frame(QPoint(), size.boundedTo(available.size()));
+    frame.moveCenter(around.center());
+    return movedInside(frame, available);
+}
+
+QRect nextPlace(const QRect& frame, int titleHeight, const QList<QRect>& areas)
+{
+    const QRect title(frame.topLeft(), QSize(frame.width(), std::max(1, titleHeight)));
+    const int needed = std::min(Handle, frame.width());
+    for (const QRect& area : areas) {
+        const QRect seen = title & area;
+        if (seen.height() == title.height() && seen.width() >= needed) {
+            return frame;
+        }
+    }
+    const QRect nearest =
+        *std::min_element(areas.cbegin(), areas.cend(), [&frame](const QRect& one, const QRect& other) {
+            return distance(frame, one) < distance(frame, other);
+        });
+    return movedInside(QRect(frame.topLeft(), frame.size().boundedTo(nearest.size())), nearest);
+}
+
+QSize roomFor(const QWidget& window)
+{
+    // The same before and after the frame is known, unless that is too large: a window is not to grow in
+    // between.
+    return window.screen()->availableGeometry().marginsRemoved(frameOf(window) | LikelyFrame).size();
+}
+
+void putInPlace(QWidget* window, const QWidget* owner)
+{
+    if (window->isMaximized() || window->isFullScreen()) {
+        return;
+    }
+    const QMargins frame = frameOf(*window);
+    QRect place;
+    if (window->property(Placed).toBool()) {
+        QList<QRect> areas;
+        for (const QScreen* screen : QGuiApplication::screens()) {
+            areas.append(screen->availableGeometry());
+        }
+        place = nextPlace(window->geometry().marginsAdded(frame), frame.top(), areas);
+        // A window that can be seen stays where the user has it.
+        if (window->isVisible() && place == window->geometry().marginsAdded(frame)) {
+            return;
+        }
+    } else {
+        const bool overOwner = owner != nullptr && owner->isVisible() && !owner->isMinimized();
+        const QRect available = (overOwner ? owner : window)->screen()->availableGeometry();
+        place = firstPlace(
+            wantedSize(*window).grownBy(frame), overOwner ? owner->frameGeometry() : available, available);
+        window->setProperty(Placed, true);
+    }
+    window->setGeometry(place.marginsRemoved(frame));
+}
 
 void makeTopmost(QWidget* window)
 {
@@ -85,6 +190,7 @@ void showOwned(QWidget* window, QWidget* owner)
     if (owner != nullptr) {
         setOwner(window, owner);
     }
+    putInPlace(window, owner);
     if (window->isMinimized()) {
         window->showNormal();
     } else {

@@ -1,8 +1,28 @@
 #pragma once
 
+#include <QList>
+#include <QMargins>
+#include <QRect>
+
 class QWidget;
 
-// Where a top-level window stands among the others. None of these shows, hides, moves or resizes a window.
+// Where a top-level window stands on the screens. Rectangles and sizes hold the frame with the title bar.
+
+/// Where a window that wants `size` comes up for the first time: centred on `around`, moved and cut to lie
+/// within `available`.
+QRect firstPlace(QSize size, const QRect& around, const QRect& available);
+/// Where a window that was last at `frame` comes up again on screens with these available areas, of which
+/// there is at least one: there, as long as enough of its title bar can be seen to take hold of it,
+/// `titleHeight` is its height; otherwise whole within the nearest area.
+QRect nextPlace(const QRect& frame, int titleHeight, const QList<QRect>& areas);
+/// The largest size of `window`, without its frame, with which it fits on its screen.
+QSize roomFor(const QWidget& window);
+/// Brings a window that is about to be shown to its place: the first time over `owner` when that is visible,
+/// else in the middle of the screen; later where it was, unless nobody could reach it there.
+void putInPlace(QWidget* window, const QWidget* owner = nullptr);
+
+// Where a top-level window stands among the others. None of these but the last shows, hides, moves or resizes
+// a window.
 
 /// Asks the window system to keep `window` above all others; a hidden window comes up so when it is shown.
 void makeTopmost(QWidget* window);
@@ -16,5 +36,6 @@ void setOwner(QWidget* window, QWidget* owner);
 /// Shows `window`, restores it when it is minimized, and brings it to the front. It becomes the active window
 /// unless one of another program is that now: from another program it takes neither activation nor keys.
 void showUnasked(QWidget* window);
-/// Shows `window` modeless above its owner, in front and active; restores it when it is minimized.
+/// Puts `window` in place and shows it modeless above its owner, in front and active; restores it when it is
+/// minimized.
 void showOwned(QWidget* window, QWidget* owner);

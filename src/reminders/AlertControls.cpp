@@ -1,6 +1,7 @@
 #include "reminders/AlertControls.h"
 
 #include "platform/GridView.h"
+#include "platform/ScrollFrame.h"
 #include "reminders/FlashBand.h"
 #include "reminders/UsualMomentButton.h"
 #include "ui/Pickers.h"
@@ -81,10 +82,13 @@ void AlertControls::layOut(QWidget& form)
     buttons->addWidget(btnHelp);
 
     layOutNewReminder();
-    auto* all = new QVBoxLayout(&form);
-    all->addLayout(list, 1);
-    all->addLayout(buttons);
-    all->addWidget(framNewReminder);
+    auto* content = new QWidget;
+    auto* column = new QVBoxLayout(content);
+    column->setContentsMargins({});
+    column->addLayout(list, 1);
+    column->addLayout(buttons);
+    column->addWidget(framNewReminder);
+    (new QVBoxLayout(&form))->addWidget(new ScrollFrame(content));
 }
 
 void AlertControls::layOutNewReminder()

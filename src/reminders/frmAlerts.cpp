@@ -3,6 +3,7 @@
 #include "platform/Clock.h"
 #include "platform/ErrorReport.h"
 #include "platform/GridView.h"
+#include "platform/LetterScale.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Shell.h"
 #include "platform/WindowPlacement.h"
@@ -49,7 +50,7 @@ frmAlerts::frmAlerts(
 {
     setObjectName(QStringLiteral("frmAlerts"));
     setWindowTitle(titleFor(0));
-    resize(FirstSize);
+    resize(withLetters(FirstSize, font()));
     m_mmc.setObjectName(QStringLiteral("mmc"));
     m_tmrTasksChecker.setObjectName(QStringLiteral("tmrTasksChecker"));
     m_tmrTasksChecker.setInterval(CheckerInterval);
@@ -189,6 +190,7 @@ void frmAlerts::comeUp()
     if (m_services.alwaysOnTop()) {
         makeTopmost(this);
     }
+    putInPlace(this);
     showUnasked(this);
     QApplication::alert(this);
 }

@@ -1,8 +1,8 @@
 #include "report/PreviewWindow.h"
 
+#include "platform/WrappingRow.h"
 #include "platform/printing/PageOutput.h"
 #include "platform/printing/WindowPrinting.h"
-#include "report/FlowLayout.h"
 
 #include <QBoxLayout>
 #include <QCloseEvent>
@@ -12,7 +12,6 @@
 #include <QPainter>
 #include <QPrintPreviewWidget>
 #include <QPushButton>
-#include <QScreen>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QSpinBox>
@@ -21,8 +20,8 @@
 namespace
 {
 
-constexpr QSize FirstSize(820, 860);
-constexpr QSize RoomForFrame(20, 50);
+// In lines of text, so that it follows the letters.
+constexpr QSize FirstSize(58, 58);
 constexpr std::array PaperSizes{
     QPageSize::A3, QPageSize::A4, QPageSize::A5, QPageSize::Letter, QPageSize::Legal};
 // The first two entries of the zoom list fit the page; those after them are percentages.
@@ -42,16 +41,6 @@ QLabel* labelFor(QWidget* buddy, const QString& text)
     label->setTextFormat(Qt::PlainText);
     label->setBuddy(buddy);
     return label;
-}
-
-/// Controls that stay beside each other.
-QBoxLayout* groupOf(std::initializer_list<QWidget*> controls)
-{
-    auto* group = new QHBoxLayout;
-    for (QWidget* control : controls) {
-        group->addWidget(control);
-    }
-    return group;
 }
 
 } // namespace
@@ -82,7 +71,8 @@ PreviewWindow::PreviewWindow(ReportHost& host, std::function<bool()> hasPrinter)
     layout->addWidget(m_preview, 1);
     layout->addLayout(makePageRow());
     makeShortcuts();
-    resize(FirstSize.boundedTo(screen()->availableSize() - RoomForFrame));
+    const QSize first = FirstSize * fontMetrics().height();
+    resize(first.expandedTo(QSize(layout->sizeHint().width(), 0)));
     setContent({});
 
     connect(m_preview, &QPrintPreviewWidget::paintRequested, this, [this](QPrinter* printer) {
@@ -92,7 +82,7 @@ PreviewWindow::PreviewWindow(ReportHost& host, std::function<bool()> hasPrinter)
     connect(m_preview, &QPrintPreviewWidget::previewChanged, this, &PreviewWindow::showZoom);
 }
 
-FlowLayout* PreviewWindow::makeCommandRow()
+QLayout* PreviewWindow::makeCommandRow()
 {
     for (const QPageSize::PageSizeId size : PaperSizes) {
         m_paper->addItem(QPageSize::name(size), size);
@@ -101,11 +91,12 @@ FlowLayout* PreviewWindow::makeCommandRow()
     m_orientation->addItem(tr("Portrait"), QPageLayout::Portrait);
     m_orientation->addItem(tr("Landscape"), QPageLayout::Landscape);
 
-    auto* row = new FlowLayout;
-    row->addGroup(groupOf({m_print, m_export}));
-    row->addStretch();
-    row->addGroup(groupOf({labelFor(m_paper, tr("P&aper")), m_paper}));
-    row->addGroup(groupOf({labelFor(m_orientation, tr("&Orientation")), m_orientation}));
+    auto* row = new WrappingRow;
+    row->addWidget(m_print);
+    row->addWidget(m_export);
+    row->addGap();
+    row->addLabelled(labelFor(m_paper, tr("P&aper")), m_paper);
+    row->addLabelled(labelFor(m_orientation, tr("&Orientation")), m_orientation);
 
     connect(m_print, &QPushButton::clicked, this, &PreviewWindow::btnPrint_Click);
     connect(m_export, &QPushButton::clicked, this, &PreviewWindow::btnExport_Click);
@@ -114,7 +105,7 @@ FlowLayout* PreviewWindow::makeCommandRow()
     return row;
 }
 
-FlowLayout* PreviewWindow::makePageRow()
+QLayout* PreviewWindow::makePageRow()
 {
     m_zoom->addItem(tr("Whole page"));
     m_zoom->addItem(tr("Page width"));
@@ -126,13 +117,16 @@ FlowLayout* PreviewWindow::makePageRow()
     m_pageNumber->setMinimum(1);
     m_pageNumber->setKeyboardTracking(false);
 
-    auto* row = new FlowLayout;
-    row->addGroup(groupOf({labelFor(m_zoom, tr("&Zoom")), m_zoom}));
-    row->addGroup(groupOf({zoomOut, zoomIn}));
-    row->addStretch();
-    row->addGroup(groupOf({m_first, m_previous}));
-    row->addGroup(groupOf({labelFor(m_pageNumber, tr("Pa&ge")), m_pageNumber}));
-    row->addGroup(groupOf({m_next, m_last}));
+    auto* row = new WrappingRow;
+    row->addLabelled(labelFor(m_zoom, tr("&Zoom")), m_zoom);
+    row->addWidget(zoomOut);
+    row->addWidget(zoomIn);
+    row->addGap();
+    row->addWidget(m_first);
+    row->addWidget(m_previous);
+    row->addLabelled(labelFor(m_pageNumber, tr("Pa&ge")), m_pageNumber);
+    row->addWidget(m_next);
+    row->addWidget(m_last);
 
     connect(m_zoom, &QComboBox::activated, this, &PreviewWindow::cmbZoom_Click);
     connect(zoomIn, &QPushButton::clicked, this, [this] { zoomBy(1); });

@@ -9,8 +9,8 @@
 #include <functional>
 #include <optional>
 
-class FlowLayout;
 class QComboBox;
+class QLayout;
 class QPrintPreviewWidget;
 class QPushButton;
 class QSpinBox;
@@ -47,8 +47,8 @@ private:
     void cmbZoom_Click(int index);
     void zoomBy(int step);
     void scrollOrTurn(int direction);
-    FlowLayout* makeCommandRow();
-    FlowLayout* makePageRow();
+    QLayout* makeCommandRow();
+    QLayout* makePageRow();
     void makeShortcuts();
     std::shared_ptr<const ReportLayout> layOut(QSizeF area) const;
     void showPage();

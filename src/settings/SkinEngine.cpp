@@ -4,7 +4,23 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QFontMetrics>
 #include <system_error>
+
+namespace
+{
+
+/// Under a style sheet the style is not asked how large a number, date or time wants to be: as high as the
+/// lists and edits beside it, with room for its text beside arrows that grow with the letters.
+QString fieldSheet()
+{
+    return QStringLiteral("QAbstractSpinBox { min-height: %1px; }\n"
+                          "QDateEdit { min-width: 9em; }\n"
+                          "QTimeEdit { min-width: 4em; }\n")
+        .arg(QFontMetrics(QApplication::font()).height() + SkinStyle::SpinBoxAir);
+}
+
+} // namespace
 
 SkinEngine::SkinEngine()
 {
@@ -37,13 +53,14 @@ const SkinFile& SkinEngine::read(const QString& path)
 
 void SkinEngine::applySkin()
 {
+    const QString sheet = fieldSheet() + m_loaded.styleSheet;
     // Every widget is polished anew by what follows.
-    if (qApp->styleSheet() == m_loaded.styleSheet && m_appliedPalette == m_loaded.palette) {
+    if (qApp->styleSheet() == sheet && m_appliedPalette == m_loaded.palette) {
         return;
     }
     // A palette set under a style sheet does not reach widgets that the sheet has polished.
     qApp->setStyleSheet({});
     QApplication::setPalette(m_loaded.palette);
-    qApp->setStyleSheet(m_loaded.styleSheet);
+    qApp->setStyleSheet(sheet);
     m_appliedPalette = m_loaded.palette;
 }

@@ -1,5 +1,7 @@
 #include "settings/SkinPainting.h"
 
+#include "platform/LetterScale.h"
+
 #include <QGuiApplication>
 #include <QPainter>
 #include <QPainterPath>
@@ -106,14 +108,15 @@ void paintFieldFrame(QPainter& painter, const QRect& rect, const QStyleOption& o
 void paintArrow(QPainter& painter, const QRect& rect, Qt::ArrowType direction, const QColor& ink)
 {
     const Canvas canvas(painter);
-    const qreal half = qBound(2.5, qMin(rect.width(), rect.height()) / 4.0, 4.5);
+    const qreal scale = letterScale(painter.font());
+    const qreal half = qBound(2.5, qMin(rect.width(), rect.height()) / 4.0, 4.5 * scale);
     const qreal depth = half / 2;
     painter.translate(QRectF(rect).center());
     painter.rotate(direction == Qt::UpArrow ? 180
             : direction == Qt::LeftArrow    ? 90
             : direction == Qt::RightArrow   ? -90
                                             : 0);
-    painter.setPen(markPen(ink, 1.7));
+    painter.setPen(markPen(ink, 1.7 * scale));
     painter.setBrush(Qt::NoBrush);
     painter.drawPolyline(
         QPolygonF({QPointF(-half, -depth), QPointF(0, half - depth), QPointF(half, -depth)}));

@@ -1,14 +1,15 @@
 #include "settings/SkinStyle.h"
 
+#include "platform/LetterScale.h"
+#include "platform/PlainText.h"
 #include "settings/JoinedText.h"
 #include "settings/SkinPainting.h"
+#include "settings/SkinPictures.h"
 
 #include <QAbstractScrollArea>
 #include <QCalendarWidget>
 #include <QDateTimeEdit>
 #include <QGuiApplication>
-#include <QIconEngine>
-#include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
 #include <QTextCharFormat>
@@ -20,32 +21,19 @@ namespace
 constexpr int IndicatorSide = 18;
 /// Above and below the text of a one-line field.
 constexpr int FieldPadding = 7;
-constexpr int ButtonsWidth = 22;
-
-/// A chevron in the colour of text on the accent, as the calendar's head is; it follows a change of skin.
-class HeadArrowEngine final : public QIconEngine
-{
-public:
-    explicit HeadArrowEngine(Qt::ArrowType direction) : m_direction(direction) { }
-
-    void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override
-    {
-        const QColor ink = QGuiApplication::palette().color(QPalette::HighlightedText);
-        paintArrow(*painter, rect, m_direction, ink);
-    }
-    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
-    {
-        QPixmap pixmap(size);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        paint(&painter, pixmap.rect(), mode, state);
-        return pixmap;
-    }
-    QIconEngine* clone() const override { return new HeadArrowEngine(*this); }
-
-private:
-    Qt::ArrowType m_direction;
-};
+/// Of the buttons of a time or number.
+constexpr int ButtonsWidth = 18;
+constexpr int LeastButtonsWidth = 14;
+/// Of the arrow of a list or date.
+constexpr int ArrowWidth = 20;
+/// Around what is written in a list, time or number.
+constexpr int FieldFrame = 3;
+/// On either side of the text of a list, together.
+constexpr int LabelMargin = 4;
+constexpr int CursorWidth = 2;
+constexpr int SmallPicture = 16;
+constexpr int LargePicture = 32;
+constexpr int BoxPicture = 48;
 
 QColor ink(const QPalette& palette, bool enabled, QPalette::ColorRole role)
 {
@@ -57,22 +45,24 @@ QColor ink(const QStyleOption& option, QPalette::ColorRole role)
     return ink(option.palette, option.state.testFlag(QStyle::State_Enabled), role);
 }
 
+QFont letters(const QWidget* widget)
+{
+    return widget == nullptr ? QGuiApplication::font() : widget->font();
+}
+
+int buttonsWidth(const QWidget* widget)
+{
+    return qMax(ButtonsWidth, withLetters(LeastButtonsWidth, letters(widget)));
+}
+
 bool isFieldFrame(const QWidget* widget)
 {
     return qobject_cast<const QAbstractScrollArea*>(widget) != nullptr;
 }
 
-/// The width in which a picker of that size has room for a text of `textWidth`. It is drawn as a list, whose
-/// arrow grows with the resolution, and hints at its size as a spin box, whose buttons do not.
-int calendarPickerWidth(int textWidth, QSize size, const QDateTimeEdit& picker)
+bool isMonthButton(const QWidget* widget)
 {
-    constexpr int CursorWidth = 2;
-    QStyleOptionComboBox option;
-    option.initFrom(&picker);
-    option.rect = QRect(QPoint(), size);
-    const QRect written =
-        picker.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &picker);
-    return textWidth + size.width() - written.width() + CursorWidth;
+    return widget != nullptr && widget->objectName() == QLatin1String("qt_calendar_monthbutton");
 }
 
 } // namespace
@@ -132,8 +122,14 @@ void SkinStyle::drawPrimitive(
 void SkinStyle::drawComplexControl(
     ComplexControl control, const QStyleOptionComplex* option, QPainter* painter, const QWidget* widget) const
 {
+    const auto* button = qstyleoption_cast<const QStyleOptionToolButton*>(option);
     if (control == CC_ComboBox) {
         drawComboBox(*option, *painter, widget);
+    } else if (control == CC_ToolButton && button != nullptr && isMonthButton(widget)) {
+        // The mark of its menu would lie upon the name of the month.
+        QStyleOptionToolButton unmarked = *button;
+        unmarked.features.setFlag(QStyleOptionToolButton::HasMenu, false);
+        QProxyStyle::drawComplexControl(control, &unmarked, painter, widget);
     } else if (control == CC_SpinBox) {
         drawSpinBox(*option, *painter, widget);
     } else {
@@ -185,6 +181,49 @@ void SkinStyle::drawItemText(QPainter* painter, const QRect& rect, int flags, co
     painter->restore();
 }
 
+void SkinStyle::drawControl(
+    ControlElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const
+{
+    const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+    if (element == CE_ComboBoxLabel && combo != nullptr) {
+        QStyleOptionComboBox elided = *combo;
+        const int picture = combo->currentIcon.isNull() ? 0 : combo->iconSize.width() + LabelMargin;
+        const int room =
+            proxy()->subControlRect(CC_ComboBox, combo, SC_ComboBoxEditField, widget).width() - LabelMargin;
+        elided.currentText =
+            inOwnDirection(combo->fontMetrics.elidedText(combo->currentText, Qt::ElideRight, room - picture));
+        QProxyStyle::drawControl(element, &elided, painter, widget);
+        return;
+    }
+    QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+QRect SkinStyle::subControlRect(
+    ComplexControl control, const QStyleOptionComplex* option, SubControl part, const QWidget* widget) const
+{
+    const QRect& all = option->rect;
+    if (control == CC_ComboBox && (part == SC_ComboBoxArrow || part == SC_ComboBoxEditField)) {
+        const int arrow = withLetters(ArrowWidth, letters(widget));
+        const QRect place = part == SC_ComboBoxArrow
+            ? QRect(all.right() - arrow + 1, all.top(), arrow, all.height())
+            : all.adjusted(FieldFrame, FieldFrame, -FieldFrame - arrow, -FieldFrame);
+        return visualRect(option->direction, all, place);
+    }
+    const auto* spin = qstyleoption_cast<const QStyleOptionSpinBox*>(option);
+    if (control == CC_SpinBox && spin != nullptr && spin->buttonSymbols != QAbstractSpinBox::NoButtons
+        && part != SC_SpinBoxFrame) {
+        const int width = buttonsWidth(widget);
+        const QRect inner = all.adjusted(FieldFrame, FieldFrame, -FieldFrame, -FieldFrame);
+        const QRect buttons(inner.right() - width + 1, inner.top(), width, inner.height());
+        const int half = buttons.height() / 2;
+        const QRect place = part == SC_SpinBoxUp ? buttons.adjusted(0, 0, 0, half - buttons.height())
+            : part == SC_SpinBoxDown             ? buttons.adjusted(0, half, 0, 0)
+                                                 : inner.adjusted(0, 0, -width, 0);
+        return visualRect(option->direction, all, place);
+    }
+    return QProxyStyle::subControlRect(control, option, part, widget);
+}
+
 int SkinStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
 {
     switch (metric) {
@@ -192,10 +231,22 @@ int SkinStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
     case PM_IndicatorHeight:
     case PM_ExclusiveIndicatorWidth:
     case PM_ExclusiveIndicatorHeight:
-        return IndicatorSide;
+        return withLetters(IndicatorSide, letters(widget));
+    case PM_SpinBoxFrameWidth:
+    case PM_ComboBoxFrameWidth:
+        return FieldFrame;
     case PM_CheckBoxLabelSpacing:
     case PM_RadioButtonLabelSpacing:
         return 8;
+    case PM_SmallIconSize:
+    case PM_ButtonIconSize:
+    case PM_ListViewIconSize:
+        return withLetters(SmallPicture, letters(widget));
+    case PM_LargeIconSize:
+    case PM_IconViewIconSize:
+        return withLetters(LargePicture, letters(widget));
+    case PM_MessageBoxIconSize:
+        return withLetters(BoxPicture, letters(widget));
     case PM_DefaultFrameWidth:
         // Room for the focus ring around lists and edits.
         return isFieldFrame(widget) ? 2 : QProxyStyle::pixelMetric(metric, option, widget);
@@ -210,7 +261,8 @@ int SkinStyle::styleHint(
     if (hint == SH_Table_GridLineColor && option != nullptr) {
         return static_cast<int>(option->palette.color(QPalette::Midlight).rgba());
     }
-    if (hint == SH_EtchDisabledText || hint == SH_DitherDisabledText) {
+    if (hint == SH_EtchDisabledText || hint == SH_DitherDisabledText
+        || hint == SH_DialogButtonBox_ButtonsHaveIcons) {
         return 0;
     }
     return QProxyStyle::styleHint(hint, option, widget, returned);
@@ -223,12 +275,15 @@ QSize SkinStyle::sizeFromContents(
     if (type == CT_LineEdit || type == CT_ComboBox || type == CT_SpinBox) {
         result.setHeight(qMax(result.height(), option->fontMetrics.height() + 2 * FieldPadding));
     }
+    if (type == CT_ComboBox) {
+        const int around = withLetters(ArrowWidth, letters(widget)) + 2 * FieldFrame + 2 * LabelMargin;
+        result.setWidth(qMax(result.width(), size.width() + around));
+    }
     if (type == CT_SpinBox) {
-        result.rwidth() += ButtonsWidth - 16;
-        if (const auto* picker = qobject_cast<const QDateTimeEdit*>(widget);
-            picker != nullptr && picker->calendarPopup()) {
-            result.setWidth(qMax(result.width(), calendarPickerWidth(size.width(), result, *picker)));
-        }
+        const auto* picker = qobject_cast<const QDateTimeEdit*>(widget);
+        const bool isDate = picker != nullptr && picker->calendarPopup();
+        const int beside = isDate ? withLetters(ArrowWidth, letters(widget)) : buttonsWidth(widget);
+        result.setWidth(qMax(result.width(), size.width() + beside + 2 * FieldFrame + CursorWidth));
     }
     return result;
 }
@@ -237,7 +292,10 @@ QIcon SkinStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, c
 {
     if (qobject_cast<const QCalendarWidget*>(widget) != nullptr
         && (icon == SP_ArrowLeft || icon == SP_ArrowRight)) {
-        return QIcon(new HeadArrowEngine(icon == SP_ArrowLeft ? Qt::LeftArrow : Qt::RightArrow));
+        return headArrow(icon == SP_ArrowLeft ? Qt::LeftArrow : Qt::RightArrow);
+    }
+    if (isMessagePicture(icon)) {
+        return messagePicture(icon);
     }
     return QProxyStyle::standardIcon(icon, option, widget);
 }

@@ -12,6 +12,10 @@ class SkinStyle final : public QProxyStyle
     Q_OBJECT
 
 public:
+    /// What a style sheet's height of a number, date or time leaves out above and below the text, for one
+    /// that is as high as a list or an edit.
+    static constexpr int SpinBoxAir = 8;
+
     SkinStyle();
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
@@ -20,6 +24,10 @@ public:
         const QWidget* widget) const override;
     void drawItemText(QPainter* painter, const QRect& rect, int flags, const QPalette& palette, bool enabled,
         const QString& text, QPalette::ColorRole role) const override;
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+        const QWidget* widget) const override;
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+        const QWidget* widget) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
         QStyleHintReturn* returned) const override;

@@ -1,5 +1,6 @@
 #include "tasks/TaskDetailsControls.h"
 
+#include "platform/ScrollFrame.h"
 #include "ui/CheckBox.h"
 #include "ui/Combos.h"
 #include "ui/Pickers.h"
@@ -14,6 +15,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTimeEdit>
+#include <QVBoxLayout>
 #include <limits>
 
 namespace
@@ -134,7 +136,9 @@ void TaskDetailsControls::setAccessibleNames()
 
 void TaskDetailsControls::layOut(QWidget& form)
 {
-    auto* grid = new QGridLayout(&form);
+    auto* content = new QWidget;
+    auto* grid = new QGridLayout(content);
+    grid->setContentsMargins({});
     const auto label = [&](const char* name) {
         return named<QLabel>(name, form);
     };
@@ -162,13 +166,14 @@ void TaskDetailsControls::layOut(QWidget& form)
     buttons->addStretch();
     buttons->addWidget(btnOk);
     buttons->addWidget(btnCancel);
-    grid->addLayout(buttons, 6, 0, 1, 4);
-
     grid->setRowStretch(2, 1);
     grid->setColumnStretch(1, 1);
     grid->setColumnStretch(3, 1);
+    auto* all = new QVBoxLayout(&form);
+    all->addWidget(new ScrollFrame(content, {btnOk}), 1);
+    all->addLayout(buttons);
     // Room for a path, and for a few lines more than the least.
-    const QSize least = grid->minimumSize();
+    const QSize least = all->minimumSize();
     form.resize(least.width() * 5 / 4, least.height() + txtDescription->fontMetrics().lineSpacing() * 3);
 }
 

@@ -16,6 +16,8 @@ void setFormat(QDateTimeEdit& picker, const QString& format)
     picker.setLayoutDirection(Qt::LeftToRight);
     picker.setDisplayFormat(format);
     picker.unsetLayoutDirection();
+    // A date has the direction of its digits; its place is that of the other texts.
+    picker.setAlignment(picker.isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft);
 }
 
 } // namespace

@@ -7,7 +7,7 @@
 #include "support/TestMain.h"
 #include "tasks/frmTaskDetails.h"
 #include "tests/app/Legibility.h"
-#include "tests/app/ProgramFixture.h"
+#include "tests/app/SkinnedProgram.h"
 #include "tests/help/RecordedHelpHost.h"
 
 #include <QCalendarWidget>
@@ -21,46 +21,6 @@
 #include <QTabWidget>
 #include <QTimer>
 #include <QToolTip>
-
-using namespace std::chrono_literals;
-
-namespace
-{
-
-/// The program in a skin, with a few tasks.
-struct SkinnedProgram : ProgramFixture {
-    explicit SkinnedProgram(const QString& skin) : owed(skin == QLatin1String("Contrast") ? 7.0 : 4.5)
-    {
-        const QString file = QStringLiteral("/Skins/%1.skf").arg(skin);
-        QFile::copy(QStringLiteral(AMBERTASK_SHIPPED_SKINS "/%1.skf").arg(skin), database.folder() + file);
-        database.sql(QStringLiteral("update settings set skin='%1'").arg(skin));
-        const Moment now = database.clock().now();
-        aTask(database)
-            .named(QStringLiteral("Call the dentist"))
-            .withPeriority(0)
-            .remindingAt(now - 1min)
-            .add();
-        aTask(database).named(QStringLiteral("Sort the photos")).withStatus(4).withPeriority(2).add();
-        aTask(database).named(QStringLiteral("Read the contract")).dueAt(now - 24h).withStatus(2).add();
-        aTask(database).named(QStringLiteral("Buy milk")).remindingAt(now - 2min).add();
-        start();
-        program.loadDialogs();
-    }
-
-    double owed;
-};
-
-template <typename Window> Window* openWindow()
-{
-    for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (auto* found = dynamic_cast<Window*>(window); found != nullptr && found->isVisible()) {
-            return found;
-        }
-    }
-    return nullptr;
-}
-
-} // namespace
 
 /// Fails when there is less to see than `leastTexts` and `leastMarks`, or anything that cannot be read or
 /// seen.
@@ -110,8 +70,7 @@ private:
 void SkinsOnWindowsTest::skins()
 {
     QTest::addColumn<QString>("skin");
-    for (const QString& file : QDir(QStringLiteral(AMBERTASK_SHIPPED_SKINS)).entryList(QDir::Files)) {
-        const QString skin = QFileInfo(file).completeBaseName();
+    for (const QString& skin : shippedSkins()) {
         QTest::newRow(qPrintable(skin)) << skin;
     }
 }

@@ -98,7 +98,7 @@ void TestSkins::wearingSetsPaletteAndSheetOfTheApplication()
     SkinsUnderTest test;
     QVERIFY(test.skins.wear(QStringLiteral("Good")));
     QCOMPARE(test.color(), QColor(1, 2, 3));
-    QCOMPARE(qApp->styleSheet().trimmed(), QStringLiteral("QPushButton { color: #010203; }"));
+    QVERIFY(qApp->styleSheet().trimmed().endsWith(QStringLiteral("\nQPushButton { color: #010203; }")));
 }
 
 void TestSkins::anUnreadableSkinLeavesTheLook()

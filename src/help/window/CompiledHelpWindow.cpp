@@ -4,6 +4,7 @@
 #include "help/window/HelpPanes.h"
 #include "help/window/TopicPages.h"
 #include "help/window/TopicView.h"
+#include "platform/WrappingRow.h"
 #include "platform/printing/WindowPrinting.h"
 
 #include <QBoxLayout>
@@ -21,8 +22,9 @@ enum Tab { ContentsTab, IndexTab, SearchTab };
 
 constexpr int SmallestText = -3;
 constexpr int LargestText = 12;
-constexpr QSize FirstSize(1000, 680);
-constexpr int PaneWidth = 280;
+// In lines of text, so that they follow the letters.
+constexpr QSize FirstSize(66, 45);
+constexpr int PaneWidth = 19;
 
 /// A title as the name of a file: what is no letter or digit becomes a blank.
 QString fileNameOf(QString title)
@@ -47,11 +49,12 @@ CompiledHelpWindow::CompiledHelpWindow(HelpHost& host, std::function<bool()> has
     splitter->addWidget(m_topic);
     splitter->setStretchFactor(1, 1);
     splitter->setChildrenCollapsible(false);
-    splitter->setSizes({PaneWidth, FirstSize.width() - PaneWidth});
+    const int line = fontMetrics().height();
+    splitter->setSizes({PaneWidth * line, (FirstSize.width() - PaneWidth) * line});
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(makeBar());
     layout->addWidget(splitter, 1);
-    resize(FirstSize);
+    resize(FirstSize * line);
     connectPanes();
     addKeys();
     setTextSize(0);
@@ -62,7 +65,7 @@ CompiledHelpWindow::~CompiledHelpWindow() = default;
 QWidget* CompiledHelpWindow::makeBar()
 {
     auto* bar = new QWidget;
-    auto* layout = new QHBoxLayout(bar);
+    auto* layout = new WrappingRow(bar);
     layout->setContentsMargins(0, 0, 0, 0);
     const auto add = [layout](const char* name, const QString& caption, const QKeySequence& key) {
         auto* button = new QPushButton(caption);
@@ -76,7 +79,7 @@ QWidget* CompiledHelpWindow::makeBar()
     m_forward = add("btnForward", tr("&Forward"), Qt::ALT | Qt::Key_Right);
     m_home = add("btnHome", tr("&Home"), Qt::ALT | Qt::Key_Home);
     m_print = add("btnPrint", tr("&Print..."), QKeySequence::Print);
-    layout->addStretch();
+    layout->addGap();
     m_smaller = add("btnSmaller", tr("&Smaller text"), Qt::CTRL | Qt::Key_Minus);
     m_larger = add("btnLarger", tr("La&rger text"), Qt::CTRL | Qt::Key_Plus);
     m_back->setEnabled(false);

@@ -1,0 +1,49 @@
+#include "platform/PlainText.h"
+
+#include <QGuiApplication>
+
+namespace
+{
+
+constexpr qsizetype LongestRun = 40;
+constexpr qsizetype ToolTipCharacters = 2000;
+const QChar ZeroWidthSpace(0x200B);
+const QChar FirstStrongIsolate(0x2068);
+const QChar PopIsolate(0x2069);
+const QChar Ellipsis(0x2026);
+
+} // namespace
+
+QString breakable(const QString& text)
+{
+    QString broken;
+    broken.reserve(text.size());
+    qsizetype run = 0;
+    for (const QChar c : text) {
+        // Never between the halves of a character, nor before what is drawn upon the one before it.
+        if (run >= LongestRun && !c.isLowSurrogate() && !c.isMark()) {
+            broken += ZeroWidthSpace;
+            run = 0;
+        }
+        broken += c;
+        run = c.isSpace() ? 0 : run + 1;
+    }
+    return broken;
+}
+
+QString inOwnDirection(const QString& text)
+{
+    const bool turned = text.isRightToLeft() != QGuiApplication::isRightToLeft();
+    return turned && !text.isEmpty() ? FirstStrongIsolate + text + PopIsolate : text;
+}
+
+QString plainToolTip(const QString& text)
+{
+    if (text.isEmpty()) {
+        return {};
+    }
+    const QString shown = text.size() <= ToolTipCharacters ? text : text.left(ToolTipCharacters) + Ellipsis;
+    // A tool tip that looks like markup would be shown as such.
+    return QLatin1String("<qt>") + breakable(shown).toHtmlEscaped().replace(u'\n', QLatin1String("<br>"))
+        + QLatin1String("</qt>");
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+
+// What a user or a file wrote, made fit to be shown: it is never taken for markup, and it can be broken into
+// lines.
+
+/// `text` with places to break it wherever it runs on for long without one, as a path or a name without
+/// blanks does. Nothing is seen of them.
+QString breakable(const QString& text);
+/// `text` read in the direction of its own script, where the program runs in the other one: a date or an
+/// English name is not to be turned around between right-to-left captions.
+QString inOwnDirection(const QString& text);
+/// A tool tip that shows `text` letter for letter, in lines; what is longer than anybody reads is cut.
+/// Empty for an empty text.
+QString plainToolTip(const QString& text);

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QLayout>
+#include <memory>
+#include <vector>
+
+/// A row of controls that goes on in a further line where it is too wide. What is added behind the gap stands
+/// at the far end of its line.
+class WrappingRow final : public QLayout
+{
+    Q_OBJECT
+
+public:
+    using QLayout::QLayout;
+    ~WrappingRow() override;
+
+    /// Adds a control, its label before it: the two are never parted.
+    void addLabelled(QWidget* label, QWidget* control);
+    void addGap() { m_gap = m_items.size(); }
+
+    void addItem(QLayoutItem* item) override;
+    int count() const override { return static_cast<int>(m_items.size()); }
+    QLayoutItem* itemAt(int index) const override;
+    QLayoutItem* takeAt(int index) override;
+    Qt::Orientations expandingDirections() const override { return {}; }
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int width) const override;
+    QSize minimumSize() const override;
+    QSize sizeHint() const override;
+    void setGeometry(const QRect& rect) override;
+
+private:
+    struct Line {
+        std::size_t first = 0;
+        std::size_t end = 0;
+        int width = 0;
+        int height = 0;
+    };
+    std::vector<Line> linesFor(int width) const;
+    int space() const;
+
+    std::vector<std::unique_ptr<QLayoutItem>> m_items;
+    /// The first item behind the gap.
+    std::size_t m_gap = 0;
+};
