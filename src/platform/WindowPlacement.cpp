@@ -2,6 +2,7 @@
 
 #include "platform/ActiveWindow.h"
 
+#include <QEvent>
 #include <QGuiApplication>
 #include <QLayout>
 #include <QScreen>
@@ -13,11 +14,26 @@ namespace
 {
 
 /// A frame that no window system has told of yet.
-constexpr QMargins LikelyFrame(4, 30, 4, 4);
+constexpr QMargins LikelyFrame(6, 32, 6, 8);
 /// The piece of a title bar by which a window can be dragged.
 constexpr int Handle = 80;
-/// Property of a window that has come up once.
-constexpr const char* Placed = "ambertask-placed";
+/// Property of a window that has come up once: where it was when it was last seen.
+constexpr const char* LastPlace = "ambertask-place";
+
+/// Notes where a window is hidden. A window manager may move a window that it has let go.
+class PlaceKeeper final : public QObject
+{
+public:
+    explicit PlaceKeeper(QWidget* window) : QObject(window) { window->installEventFilter(this); }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Hide && !event->spontaneous()) {
+            watched->setProperty(LastPlace, static_cast<QWidget*>(watched)->geometry());
+        }
+        return QObject::eventFilter(watched, event);
+    }
+};
 
 QRect movedInside(QRect frame, const QRect& area)
 {
@@ -116,14 +132,16 @@ void putInPlace(QWidget* window, const QWidget* owner)
     }
     const QMargins frame = frameOf(*window);
     QRect place;
-    if (window->property(Placed).toBool()) {
+    const QRect last = window->property(LastPlace).toRect();
+    if (last.isValid()) {
         QList<QRect> areas;
         for (const QScreen* screen : QGuiApplication::screens()) {
             areas.append(screen->availableGeometry());
         }
-        place = nextPlace(window->geometry().marginsAdded(frame), frame.top(), areas);
+        const QRect before = (window->isVisible() ? window->geometry() : last).marginsAdded(frame);
+        place = nextPlace(before, frame.top(), areas);
         // A window that can be seen stays where the user has it.
-        if (window->isVisible() && place == window->geometry().marginsAdded(frame)) {
+        if (window->isVisible() && place == before) {
             return;
         }
     } else {
@@ -131,7 +149,8 @@ void putInPlace(QWidget* window, const QWidget* owner)
         const QRect available = (overOwner ? owner : window)->screen()->availableGeometry();
         place = firstPlace(
             wantedSize(*window).grownBy(frame), overOwner ? owner->frameGeometry() : available, available);
-        window->setProperty(Placed, true);
+        window->setProperty(LastPlace, place.marginsRemoved(frame));
+        new PlaceKeeper(window);
     }
     window->setGeometry(place.marginsRemoved(frame));
 }

@@ -94,6 +94,22 @@ class Window:
         """What a click in a task bar does."""
         self._screen.tell_manager(self.handle, "_NET_ACTIVE_WINDOW", [2, 0, 0, 0, 0])
 
+    def move(self, x, y, width, height):
+        """What a user does who drags the window and its edges; the place is that of the frame."""
+        north_west, with_all, from_user = 1, 0xF << 8, 2 << 12
+        self._screen.tell_manager(self.handle, "_NET_MOVERESIZE_WINDOW",
+                                  [north_west | with_all | from_user, x, y, width, height])
+
+    def frame(self):
+        """Widths of the frame: left, right, top, bottom."""
+        return tuple(self._property("_NET_FRAME_EXTENTS") or (0, 0, 0, 0))
+
+    def outer_place(self):
+        """Position and size with the frame: x, y, width, height."""
+        x, y, width, height = self.place()
+        left, right, top, bottom = self.frame()
+        return x - left, y - top, width + left + right, height + top + bottom
+
     def minimize(self):
         self._screen.tell_manager(self.handle, "WM_CHANGE_STATE", [ICONIC, 0, 0, 0, 0])
 
@@ -199,6 +215,27 @@ class Screen:
             if one.type == X.KeyPress:
                 names.append(KEY_NAMES.get(self.display.keycode_to_keysym(one.detail, 0)))
         return names
+
+    # The screen itself ------------------------------------------------------------------------------------
+
+    def resize(self, width, height):
+        """What unplugging the larger monitor does; never larger than the screen was at first."""
+        resources = self.root.xrandr_get_screen_resources()
+        output, crtc = resources.outputs[0], resources.crtcs[0]
+        name = f"{width}x{height}"
+        mode = self.root.xrandr_create_mode(
+            (0, width, height, 60 * width * height, width, width, width, 0, height, height, height, len(name), 0),
+            name).mode
+        self.display.xrandr_add_output_mode(output, mode)
+        now = resources.config_timestamp
+        self.display.xrandr_set_crtc_config(crtc, now, 0, 0, 0, 1, [])
+        self.root.xrandr_set_screen_size(width, height, width // 4, height // 4)
+        self.display.xrandr_set_crtc_config(crtc, now, 0, 0, mode, 1, [output])
+        self.display.sync()
+
+    def size(self):
+        geometry = self.root.get_geometry()
+        return geometry.width, geometry.height
 
     # The notification area --------------------------------------------------------------------------------
 

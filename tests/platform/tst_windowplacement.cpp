@@ -148,13 +148,26 @@ private slots:
         }
     }
 
+    void aWindowThatIsMovedWhileItIsHiddenComesUpWhereItWasSeen()
+    {
+        QWidget window;
+        window.resize(300, 200);
+        showOwned(&window, nullptr);
+        const QRect seen = window.geometry();
+        window.hide();
+        // As some window managers do.
+        window.move(seen.topLeft() - QPoint(10, 20));
+        showOwned(&window, nullptr);
+        QCOMPARE(window.geometry(), seen);
+    }
+
     void aHiddenWindowThatNoScreenShowsComesBack()
     {
         QWidget window;
         window.resize(300, 200);
         showOwned(&window, nullptr);
-        window.hide();
         window.setGeometry(5000, 60, 350, 250);
+        window.hide();
         showOwned(&window, nullptr);
         QVERIFY(window.screen()->availableGeometry().contains(window.geometry()));
         QCOMPARE(window.size(), QSize(350, 250));
