@@ -7,6 +7,8 @@
 #include <QPainterPath>
 #include <QStyle>
 #include <QStyleOption>
+#include <algorithm>
+#include <cmath>
 
 namespace
 {
@@ -14,6 +16,9 @@ namespace
 constexpr qreal FieldRadius = 5;
 constexpr qreal BoxRadius = 4;
 constexpr qreal RingWidth = 2;
+/// Between the edge of a button and the ring inside it.
+constexpr int ButtonInset = 2;
+constexpr double LeastContrast = 3;
 
 /// Restores the painter at the end of a shape.
 class Canvas
@@ -53,6 +58,22 @@ bool isFocused(const QStyleOption& option)
 QColor ringColor()
 {
     return QGuiApplication::palette().color(QPalette::Highlight);
+}
+
+double luminance(const QColor& color)
+{
+    const auto linear = [](double part) {
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+/// From 1, the same, to 21, black and white.
+double contrast(const QColor& one, const QColor& other)
+{
+    const double first = luminance(one);
+    const double second = luminance(other);
+    return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
 }
 
 QPen outline(const QStyleOption& option)
@@ -166,4 +187,14 @@ void paintFocusRing(QPainter& painter, const QRect& rect)
 {
     const Canvas canvas(painter);
     paintRounded(painter, rect, QPen(ringColor(), 1.5), Qt::NoBrush, BoxRadius);
+}
+
+void paintButtonFocus(QPainter& painter, const QRect& rect, const QPalette& palette)
+{
+    const Canvas canvas(painter);
+    const QColor ground = palette.color(QPalette::Active, QPalette::Button);
+    const bool accentIsSeen = contrast(ringColor(), ground) >= LeastContrast;
+    const QColor ink = accentIsSeen ? ringColor() : palette.color(QPalette::Active, QPalette::ButtonText);
+    paintRounded(painter, rect.adjusted(ButtonInset, ButtonInset, -ButtonInset, -ButtonInset),
+        QPen(ink, RingWidth), Qt::NoBrush, BoxRadius);
 }

@@ -4,6 +4,7 @@
 
 class QColor;
 class QPainter;
+class QPalette;
 class QRect;
 class QStyleOption;
 
@@ -20,3 +21,6 @@ void paintArrow(QPainter& painter, const QRect& rect, Qt::ArrowType direction, c
 void paintCheckBox(QPainter& painter, const QRect& rect, const QStyleOption& option);
 void paintRadioButton(QPainter& painter, const QRect& rect, const QStyleOption& option);
 void paintFocusRing(QPainter& painter, const QRect& rect);
+/// A ring inside the edge of a button, in the colour of the accent or, where that does not stand out from the
+/// button, of its text.
+void paintButtonFocus(QPainter& painter, const QRect& rect, const QPalette& palette);

@@ -10,8 +10,10 @@
 #include <QCalendarWidget>
 #include <QDateTimeEdit>
 #include <QGuiApplication>
+#include <QPushButton>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <QTabBar>
 #include <QTextCharFormat>
 #include <QWidget>
 
@@ -31,6 +33,8 @@ constexpr int FieldFrame = 3;
 /// On either side of the text of a list, together.
 constexpr int LabelMargin = 4;
 constexpr int CursorWidth = 2;
+/// Between the caption of a tab and the ring around it.
+constexpr int TabAir = 12;
 constexpr int SmallPicture = 16;
 constexpr int LargePicture = 32;
 constexpr int BoxPicture = 48;
@@ -95,7 +99,7 @@ void SkinStyle::drawPrimitive(
         paintArrow(*painter, option->rect, Qt::RightArrow, ink(*option, QPalette::ButtonText));
         return;
     case PE_FrameFocusRect:
-        paintFocusRing(*painter, option->rect);
+        drawFocus(*option, *painter, widget);
         return;
     case PE_PanelLineEdit:
         if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
@@ -117,6 +121,18 @@ void SkinStyle::drawPrimitive(
         break;
     }
     QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+void SkinStyle::drawFocus(const QStyleOption& option, QPainter& painter, const QWidget* widget)
+{
+    if (qobject_cast<const QPushButton*>(widget) != nullptr) {
+        paintButtonFocus(painter, widget->rect(), option.palette);
+    } else if (qobject_cast<const QTabBar*>(widget) != nullptr) {
+        // It is asked for close around the caption, through its letters.
+        paintFocusRing(painter, option.rect.adjusted(-TabAir, -TabAir / 2, TabAir, TabAir / 2));
+    } else {
+        paintFocusRing(painter, option.rect);
+    }
 }
 
 void SkinStyle::drawComplexControl(

@@ -38,6 +38,7 @@ public:
     void polish(QWidget* widget) override;
 
 private:
+    static void drawFocus(const QStyleOption& option, QPainter& painter, const QWidget* widget);
     void drawSpinBox(const QStyleOptionComplex& option, QPainter& painter, const QWidget* widget) const;
     void drawComboBox(const QStyleOptionComplex& option, QPainter& painter, const QWidget* widget) const;
 };

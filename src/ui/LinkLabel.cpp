@@ -7,11 +7,20 @@
 #include <QPainter>
 #include <QStyleOptionFocusRect>
 
+namespace
+{
+
+/// Between the letters and the ring of the focus.
+constexpr int RingAir = 3;
+
+} // namespace
+
 LinkLabel::LinkLabel(const QString& text, QWidget* parent) : QLabel(text, parent)
 {
     setTextFormat(Qt::PlainText);
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
+    setContentsMargins(RingAir, 0, RingAir, 0);
     setAccessibleName(text);
     installAccessibleControls();
 }

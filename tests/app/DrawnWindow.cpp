@@ -22,13 +22,6 @@ double luminance(QRgb color)
     return 0.2126 * linear(qRed(color)) + 0.7152 * linear(qGreen(color)) + 0.0722 * linear(qBlue(color));
 }
 
-double contrast(QRgb left, QRgb right)
-{
-    const double a = luminance(left);
-    const double b = luminance(right);
-    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
-}
-
 /// How often each colour occurs.
 QHash<QRgb, int> colorsIn(const QImage& picture, const QRect& area)
 {
@@ -55,6 +48,13 @@ QRect visiblePart(const QWidget& control, const QRect& place)
 
 } // namespace
 
+double contrastOf(QRgb left, QRgb right)
+{
+    const double a = luminance(left);
+    const double b = luminance(right);
+    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+}
+
 DrawnWindow::DrawnWindow(QWidget& window)
     : m_window(window), m_picture(window.size() * Zoom, QImage::Format_RGB32)
 {
@@ -80,7 +80,7 @@ double DrawnWindow::strongestContrast(const QWidget& control, const QRect& place
     }
     std::vector<std::pair<double, int>> contrasts;
     for (auto it = counts.cbegin(); it != counts.cend(); ++it) {
-        contrasts.emplace_back(contrast(it.key(), ground), it.value());
+        contrasts.emplace_back(contrastOf(it.key(), ground), it.value());
     }
     // Smoothed strokes have many colours: they count together.
     std::sort(contrasts.begin(), contrasts.end(), std::greater<>());

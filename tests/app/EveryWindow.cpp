@@ -8,6 +8,7 @@
 #include "reminders/frmAlerts.h"
 #include "report/PreviewWindow.h"
 #include "tasks/frmTaskDetails.h"
+#include "tests/help/RecordedHelpHost.h"
 #include "tests/report/ReportSamples.h"
 
 #include <QCheckBox>
@@ -93,7 +94,8 @@ void visitQuestion(SkinnedProgram& f, const Visit& visit)
 
 void visitModules(const Visit& visit)
 {
-    CompiledHelpWindow help([](const QString&) {});
+    RecordedHelpHost helpHost;
+    CompiledHelpWindow help(helpHost, [] { return true; });
     help.setFile(QStringLiteral(AMBERTASK_HELP_FILE));
     help.showContents();
     showOwned(&help, nullptr);

@@ -6,8 +6,9 @@
 #include "reminders/frmAlerts.h"
 #include "support/TestMain.h"
 #include "tasks/frmTaskDetails.h"
+#include "tests/app/EveryWindow.h"
+#include "tests/app/FocusSight.h"
 #include "tests/app/Legibility.h"
-#include "tests/app/SkinnedProgram.h"
 #include "tests/help/RecordedHelpHost.h"
 
 #include <QCalendarWidget>
@@ -62,6 +63,10 @@ private slots:
     void toolTipsCanBeRead();
     void theHelpCanBeRead_data() { skins(); }
     void theHelpCanBeRead();
+
+    void aHiddenFocusIsFound();
+    void theFocusIsSeen_data() { skins(); }
+    void theFocusIsSeen();
 
 private:
     static void skins();
@@ -237,6 +242,33 @@ void SkinsOnWindowsTest::theHelpCanBeRead()
     EXPECT_LEGIBLE(window, f.owed, 20, 1);
     window.showSearch();
     EXPECT_LEGIBLE(window, f.owed, 10, 0);
+}
+
+void SkinsOnWindowsTest::aHiddenFocusIsFound()
+{
+    QWidget window;
+    QCheckBox box(QStringLiteral("Show grid"), &window);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QCOMPARE(lookForFocus(window).controls, 1);
+    QCOMPARE(lookForFocus(window).faults, QStringList());
+    box.setStyleSheet(QStringLiteral("QCheckBox { background: white; color: black; outline: none; }"));
+    QCOMPARE(lookForFocus(window).faults.size(), 1);
+}
+
+void SkinsOnWindowsTest::theFocusIsSeen()
+{
+    QFETCH(const QString, skin);
+    SkinnedProgram program(skin);
+    int seen = 0;
+    visitEveryWindow(program, [&seen](const QString& name, QWidget& window) {
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        const FocusSight sight = lookForFocus(window);
+        seen += sight.controls;
+        QVERIFY2(sight.faults.isEmpty(), qPrintable(name + u'\n' + sight.faults.join(u'\n')));
+    });
+    QVERIFY2(seen > 100, qPrintable(QString::number(seen)));
 }
 
 AMBERTASK_TEST_MAIN(SkinsOnWindowsTest)
