@@ -10,6 +10,7 @@
 #include <QCalendarWidget>
 #include <QDateTimeEdit>
 #include <QGuiApplication>
+#include <QPainter>
 #include <QPushButton>
 #include <QStyleFactory>
 #include <QStyleOption>
