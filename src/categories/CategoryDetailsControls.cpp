@@ -124,13 +124,16 @@ void CategoryDetailsControls::layOut(QWidget& form)
     grid->addWidget(picIcons, row++, 0, 1, 2);
     grid->addWidget(opnCustomIcon, row++, 0, 1, 2);
     grid->addWidget(picCustomIcon, row, 0, 1, 2);
-    auto* buttons = new QHBoxLayout;
+    // A window of their own until they are added: so they come behind the content in the tab order.
+    auto* bar = new QWidget;
+    auto* buttons = new QHBoxLayout(bar);
+    buttons->setContentsMargins({});
     buttons->addStretch();
     buttons->addWidget(btnOk);
     buttons->addWidget(btnCancel);
     auto* all = new QVBoxLayout(&form);
     all->addWidget(new ScrollFrame(content, {btnOk}), 1);
-    all->addLayout(buttons);
+    all->addWidget(bar);
     form.resize(withLetters(StartWidth, form.font()), all->minimumSize().height());
 }
 

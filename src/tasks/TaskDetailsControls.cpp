@@ -162,7 +162,10 @@ void TaskDetailsControls::layOut(QWidget& form)
     layOutReminder();
     grid->addWidget(framReminderLater, 5, 0, 1, 4);
 
-    auto* buttons = new QHBoxLayout;
+    // A window of their own until they are added: so they come behind the content in the tab order.
+    auto* bar = new QWidget;
+    auto* buttons = new QHBoxLayout(bar);
+    buttons->setContentsMargins({});
     buttons->addStretch();
     buttons->addWidget(btnOk);
     buttons->addWidget(btnCancel);
@@ -171,7 +174,7 @@ void TaskDetailsControls::layOut(QWidget& form)
     grid->setColumnStretch(3, 1);
     auto* all = new QVBoxLayout(&form);
     all->addWidget(new ScrollFrame(content, {btnOk}), 1);
-    all->addLayout(buttons);
+    all->addWidget(bar);
     // Room for a path, and for a few lines more than the least.
     const QSize least = all->minimumSize();
     form.resize(least.width() * 5 / 4, least.height() + txtDescription->fontMetrics().lineSpacing() * 3);

@@ -17,10 +17,19 @@
 #include <QStyleOptionGroupBox>
 #include <QTabBar>
 #include <QTableView>
+#include <QTextDocument>
 #include <QToolButton>
 
 namespace
 {
+
+/// What a tool tip shows: its markup read, and without the places to break it.
+QString shownTip(const QVariant& tip)
+{
+    QTextDocument document;
+    document.setHtml(tip.toString());
+    return document.toPlainText().remove(QChar(0x200B));
+}
 
 QList<QWidget*> visibleWidgets(QWidget& window)
 {
@@ -131,7 +140,7 @@ private:
             const QString caption = header.model()->headerData(i, header.orientation()).toString();
             const bool whole = header.fontMetrics().horizontalAdvance(caption) < header.sectionSize(i);
             const QVariant said = header.model()->headerData(i, header.orientation(), Qt::ToolTipRole);
-            require(header.isSectionHidden(i) || whole || said.toString().contains(caption), header, caption);
+            require(header.isSectionHidden(i) || whole || shownTip(said).contains(caption), header, caption);
         }
     }
 };
@@ -161,7 +170,7 @@ QStringList captionsOf(const QWidget& widget)
         for (int i = 0; i < header->count(); ++i) {
             if (header->orientation() == Qt::Horizontal) {
                 captions += {header->model()->headerData(i, Qt::Horizontal).toString(),
-                    header->model()->headerData(i, Qt::Horizontal, Qt::ToolTipRole).toString()};
+                    shownTip(header->model()->headerData(i, Qt::Horizontal, Qt::ToolTipRole))};
             }
         }
     } else if (const auto* menu = qobject_cast<const QMenu*>(&widget)) {

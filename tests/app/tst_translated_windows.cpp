@@ -5,6 +5,7 @@
 #include "platform/Language.h"
 #include "platform/MessageBoxes.h"
 #include "platform/ScreenErrorReport.h"
+#include "platform/WindowPlacement.h"
 #include "reminders/frmAlerts.h"
 #include "report/PreviewWindow.h"
 #include "support/TestMain.h"
@@ -387,7 +388,7 @@ void TranslatedWindowsTest::theReportIsGood()
         }
     }
     window.setContent(std::move(content));
-    window.show();
+    showOwned(&window, nullptr);
     EXPECT_GOOD(window, language);
 }
 
