@@ -51,7 +51,8 @@ class Node:
 
     @property
     def name(self):
-        return self.get(ACCESSIBLE, "Name")
+        """What the user reads: without the marks where a long word may be broken into lines."""
+        return self.get(ACCESSIBLE, "Name").replace("\u200b", "")
 
     @property
     def description(self):

@@ -30,7 +30,7 @@ PRIORITY_COLUMN = ("check box", "Task priority")
 REMINDER_COLUMN = ("check box", "Task reminder")
 SKIN = ("combo box", "Current skin")
 ADD_SKIN = ("button", "Browse", "Add new skin")
-MORE_SKINS = ("label", "Download More Skins")
+MORE_SKINS = ("link", "Download More Skins")
 
 CATEGORY_LIST = ("list", "Categories")
 ADD_CATEGORY = ("button", "Add a category")

@@ -200,7 +200,7 @@ class NoTrayTest(TrayCase):
         return window
 
     def open_header_menu(self):
-        header = self.user.main().find("label", "Amber", "Organizer")
+        header = self.user.main().find("link", "Amber", "Organizer")
         self.desk.input.click(*header.center(), button=RIGHT)
         return self.user.access.shown("menu")
 
