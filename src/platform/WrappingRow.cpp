@@ -6,7 +6,14 @@
 #include <algorithm>
 #include <numeric>
 
-WrappingRow::~WrappingRow() = default;
+WrappingRow::~WrappingRow()
+{
+    // A layout among them takes itself out of its parent when it ends: it must not be found here any more.
+    while (!m_items.empty()) {
+        const std::unique_ptr<QLayoutItem> last = std::move(m_items.back());
+        m_items.pop_back();
+    }
+}
 
 void WrappingRow::addLabelled(QWidget* label, QWidget* control)
 {

@@ -222,8 +222,8 @@ void checkDeclarations(QStringView declarations, int line)
     }
 }
 
-/// Each control weighs all properties of all selectors: a sheet of hundreds of thousands would keep the program
-/// from its user at every start.
+/// Each control weighs all properties of all selectors: a sheet of hundreds of thousands would keep the
+/// program from its user at every start.
 constexpr qsizetype MostProperties = 5000;
 
 void checkRules(const QString& plain, int line)
