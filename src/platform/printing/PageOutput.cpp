@@ -79,13 +79,15 @@ bool paintPages(
     if (!painter.begin(&device)) {
         return false;
     }
-    for (std::size_t i = 0; i < order.size(); ++i) {
-        if (i > 0 && !device.newPage()) {
+    qint64 done = 0;
+    for (const int page : order) {
+        if (done > 0 && !device.newPage()) {
             return false;
         }
-        paintPage(painter, pages, order[i]);
+        paintPage(painter, pages, page);
+        ++done;
         if (progress != nullptr) {
-            progress->advance(static_cast<qint64>(i + 1), static_cast<qint64>(order.size()));
+            progress->advance(done, static_cast<qint64>(order.size()));
         }
     }
     return painter.end();
