@@ -291,7 +291,7 @@ void Session::requireSound()
     // written.
     bool damaged = false;
     const auto note = [](void* found, int, char** texts, char**) {
-        if (std::string_view(texts[0]).starts_with("*** in database")) {
+        if (std::string_view(texts[0]).starts_with("*** in")) {
             *static_cast<bool*>(found) = true;
         }
         return 0;
