@@ -4,12 +4,15 @@
 #include "help/window/TopicView.h"
 #include "platform/MessageBoxes.h"
 #include "reminders/frmAlerts.h"
+#include "report/PreviewWindow.h"
 #include "support/TestMain.h"
 #include "tasks/frmTaskDetails.h"
 #include "tests/app/EveryWindow.h"
 #include "tests/app/FocusSight.h"
 #include "tests/app/Legibility.h"
 #include "tests/help/RecordedHelpHost.h"
+#include "tests/report/RecordedReportHost.h"
+#include "tests/report/ReportSamples.h"
 
 #include <QCalendarWidget>
 #include <QCheckBox>
@@ -63,6 +66,8 @@ private slots:
     void toolTipsCanBeRead();
     void theHelpCanBeRead_data() { skins(); }
     void theHelpCanBeRead();
+    void theReportCanBeReadAndFitsTheScreens_data() { skins(); }
+    void theReportCanBeReadAndFitsTheScreens();
 
     void aHiddenFocusIsFound();
     void theFocusIsSeen_data() { skins(); }
@@ -269,6 +274,27 @@ void SkinsOnWindowsTest::theFocusIsSeen()
         QVERIFY2(sight.faults.isEmpty(), qPrintable(name + u'\n' + sight.faults.join(u'\n')));
     });
     QVERIFY2(seen > 100, qPrintable(QString::number(seen)));
+}
+
+void SkinsOnWindowsTest::theReportCanBeReadAndFitsTheScreens()
+{
+    QFETCH(const QString, skin);
+    const SkinnedProgram f(skin);
+    RecordedReportHost host;
+    PreviewWindow window(host, [] { return true; });
+    window.setContent(contentOf(recordsOf(60)));
+    window.show();
+    // A small screen, and one of 1280 pixels that is scaled by 1.5, both without frame and panel.
+    for (const QSize screen : {QSize(1004, 590), QSize(833, 480)}) {
+        window.resize(screen);
+        QCoreApplication::processEvents();
+        QCOMPARE(window.size(), screen);
+        window.goToPage(1);
+        EXPECT_LEGIBLE(window, f.owed, 16, 5);
+        window.goToPage(0);
+        QVERIFY(!window.findChild<QPushButton*>(QStringLiteral("btnFirstPage"))->isEnabled());
+        EXPECT_LEGIBLE(window, f.owed, 16, 5);
+    }
 }
 
 AMBERTASK_TEST_MAIN(SkinsOnWindowsTest)
