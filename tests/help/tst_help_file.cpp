@@ -177,6 +177,25 @@ private slots:
         compareObjects(QDir(folder.path()));
     }
 
+    void libchmListsEveryObject()
+    {
+        QProcess process;
+        process.start(QStringLiteral(AMBERTASK_ENUM_CHM), {QStringLiteral(AMBERTASK_HELP_FILE)});
+        QVERIFY(process.waitForFinished());
+        const QString listing = QString::fromUtf8(process.readAllStandardOutput());
+        int listed = 0;
+        for (const QString& name : m_book->file().names()) {
+            const qsizetype size = m_book->file().read(name).value_or(QByteArray()).size();
+            const QRegularExpression line(QStringLiteral("^\\s*\\d+\\s+\\d+\\s+%1\\s.*%2$")
+                                              .arg(size)
+                                              .arg(QRegularExpression::escape(name)),
+                QRegularExpression::MultilineOption);
+            QVERIFY2(line.match(listing).hasMatch(), qPrintable(name + u'\n' + listing));
+            ++listed;
+        }
+        QVERIFY(listed > 30);
+    }
+
     void theSameSourcesMakeTheSameBytes()
     {
         const QTemporaryDir folder;

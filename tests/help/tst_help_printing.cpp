@@ -230,7 +230,7 @@ private slots:
         {
             Help help;
             // A topic of text and links alone.
-            help.topic().openTopic(QStringLiteral("report.html"));
+            help.topic().openTopic(QStringLiteral("data.html"));
             const QSizeF area = printableArea(a4());
             paper = pictureOf(TopicPages(*help.topic().document(), area), 0, area);
         }
