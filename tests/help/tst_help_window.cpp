@@ -1,8 +1,5 @@
-#include "help/window/CompiledHelpWindow.h"
-#include "help/window/HelpPanes.h"
-#include "help/window/TopicView.h"
 #include "support/TestMain.h"
-#include "tests/help/RecordedHelpHost.h"
+#include "tests/help/HelpUnderTest.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -16,46 +13,6 @@
 
 namespace
 {
-
-struct Help {
-    Help()
-        : window(host,
-            [this] {
-                ++askedForPrinter;
-                return hasPrinter;
-            }),
-          topic(*window.findChild<TopicView*>()), tabs(*window.findChild<QTabWidget*>())
-    {
-        window.setFile(QStringLiteral(AMBERTASK_HELP_FILE));
-        window.show();
-        QApplication::setActiveWindow(&window);
-    }
-
-    template <typename Control = QWidget> Control& control(const char* name)
-    {
-        return *window.findChild<Control*>(QLatin1String(name));
-    }
-    void press(const char* name) { QTest::mouseClick(&control<QAbstractButton>(name), Qt::LeftButton); }
-    QString page() { return tabs.tabText(tabs.currentIndex()).remove(u'&'); }
-    QString selectedInContents()
-    {
-        const QTreeWidgetItem* item = control<QTreeWidget>("treContents").currentItem();
-        return item == nullptr ? QString() : item->text(0);
-    }
-    void search(const QString& words)
-    {
-        window.showSearch();
-        QTest::keyClicks(&control("txtSearch"), words);
-        QTest::keyClick(&control("txtSearch"), Qt::Key_Return);
-    }
-
-    RecordedHelpHost host;
-    bool hasPrinter = false;
-    int askedForPrinter = 0;
-    CompiledHelpWindow window;
-    TopicView& topic;
-    QTabWidget& tabs;
-};
 
 /// The link with that text in the topic on show.
 QUrl linkNamed(const TopicView& topic, const QString& text)
@@ -182,39 +139,6 @@ private slots:
         QVERIFY(help.control<QListWidget>("lstIndex").currentItem() == nullptr);
         QTest::keyClick(&help.control("txtIndex"), Qt::Key_Return);
         QCOMPARE(help.topic.topic(), QStringLiteral("/welcome.html"));
-    }
-
-    void theSearchOpensWithAnEmptyQuery()
-    {
-        Help help;
-        help.search(QStringLiteral("backup"));
-        help.window.showSearch();
-        QCOMPARE(help.page(), QStringLiteral("Search"));
-        QVERIFY(help.control("txtSearch").hasFocus());
-        QCOMPARE(help.control<QLineEdit>("txtSearch").text(), QString());
-        QCOMPARE(help.control<QListWidget>("lstHits").count(), 0);
-        QVERIFY(!help.control("btnSearch").isEnabled());
-    }
-
-    void aHitIsShownWithItsWordsMarked()
-    {
-        Help help;
-        help.search(QStringLiteral("slept"));
-        QCOMPARE(help.topic.topic(), QStringLiteral("/reminders.html"));
-        const auto marks = help.topic.extraSelections();
-        QCOMPARE(marks.size(), 1);
-        QCOMPARE(marks.first().cursor.selectedText(), QStringLiteral("slept"));
-        help.window.showContext(0);
-        QCOMPARE(help.topic.extraSelections().size(), 0);
-    }
-
-    void wordsThatNoTopicContainsAreTold()
-    {
-        Help help;
-        help.search(QStringLiteral("qwertz"));
-        QCOMPARE(help.control<QLabel>("lblResult").text(),
-            QStringLiteral("No topic contains all of these words."));
-        QCOMPARE(help.control<QListWidget>("lstHits").count(), 0);
     }
 
     void aLinkLeadsToItsTopicAndBackLeadsBack()

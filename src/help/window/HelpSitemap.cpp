@@ -3,6 +3,7 @@
 #include <QHash>
 #include <QRegularExpression>
 #include <QStringDecoder>
+#include <algorithm>
 
 namespace
 {
@@ -40,7 +41,8 @@ public:
 
     void tag(const QString& tag)
     {
-        const QString name = tag.section(QRegularExpression(QStringLiteral("\\s")), 0, 0).toLower();
+        const auto end = std::find_if(tag.begin(), tag.end(), [](QChar c) { return c.isSpace(); });
+        const QString name = tag.left(end - tag.begin()).toLower();
         if (name == QLatin1String("ul")) {
             deeper();
         } else if (name == QLatin1String("/ul")) {
