@@ -1,0 +1,35 @@
+#include "Require.h"
+#include "platform/database/UnicodeCollation.h"
+
+#include <cstdint>
+
+namespace
+{
+
+int sign(int value)
+{
+    return (value > 0) - (value < 0);
+}
+
+} // namespace
+
+// Any bytes as three texts, parted by zero bytes: the order of texts is one, or the index of the data file
+// would be damaged by its own rows.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    std::string_view rest(reinterpret_cast<const char*>(data), size);
+    const auto next = [&rest] {
+        const std::string_view part = rest.substr(0, rest.find('\0'));
+        rest.remove_prefix(part.size() < rest.size() ? part.size() + 1 : rest.size());
+        return part;
+    };
+    const std::string_view a = next();
+    const std::string_view b = next();
+    const std::string_view c = next();
+    require(compareIgnoringCase(a, a) == 0, "a text equals itself");
+    require(sign(compareIgnoringCase(a, b)) == -sign(compareIgnoringCase(b, a)), "both ways say the same");
+    if (compareIgnoringCase(a, b) <= 0 && compareIgnoringCase(b, c) <= 0) {
+        require(compareIgnoringCase(a, c) <= 0, "what comes before stays before");
+    }
+    return 0;
+}

@@ -1,0 +1,55 @@
+#include "TemporaryFile.h"
+#include "data/ClsCategory.h"
+#include "data/ClsTask.h"
+#include "platform/Clock.h"
+#include "platform/RuntimeError.h"
+#include "platform/database/DatabaseEngine.h"
+#include "settings/DataFileCheck.h"
+
+#include <cstdint>
+
+namespace
+{
+
+class StandingClock final : public Clock
+{
+public:
+    Moment now() const override { return Moment(std::chrono::seconds(1'768'471'200)); }
+};
+
+} // namespace
+
+// Any bytes as a file to be restored: refused with an error, or everything in it reads and new records are
+// taken. The check itself changes nothing.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    static const TemporaryFile file(QStringLiteral("data.dat"));
+    static const StandingClock clock;
+    const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
+    file.write(bytes);
+    QFile::remove(file.path() + QLatin1String("-journal"));
+    QFile::remove(file.path() + QLatin1String("-wal"));
+    QFile::remove(file.path() + QLatin1String("-shm"));
+    const DatabaseEngine engine{file.folder(), &clock};
+    try {
+        requireServiceableDataFile(engine);
+    } catch (const RuntimeError& error) {
+        require(!error.text().isEmpty(), "a refusal says why");
+        return 0;
+    }
+    require(file.read() == bytes, "the check changes nothing");
+    // From here on nothing may be refused: an exception ends the process.
+    ClsTask task(engine);
+    task.setTaskName(QStringLiteral("007"));
+    task.setCategoryId(1);
+    task.setReminderOn(true);
+    task.setDueDateTime(clock.now());
+    task.setReminderDateTime(clock.now());
+    task.Add();
+    task.readAll();
+    ClsCategory category(engine);
+    category.setCatName(QStringLiteral("another one"));
+    category.Add();
+    category.GetAllCategories();
+    return 0;
+}
