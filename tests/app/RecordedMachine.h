@@ -28,7 +28,11 @@ private:
 
 /// A machine that only remembers, with a program folder of its own. It outlives the programs that run on it.
 struct RecordedMachine {
-    RecordedMachine()
+    RecordedMachine() { addSkin(); }
+    /// On a program folder that is there already and stays.
+    explicit RecordedMachine(const QString& programFolder) : database(programFolder) { addSkin(); }
+
+    void addSkin() const
     {
         QDir folder(database.folder());
         folder.mkpath(QStringLiteral("Skins"));

@@ -1,6 +1,7 @@
 #include "RunningProgram.h"
 
 #include "app/frmMain.h"
+#include "categories/frmCategoryDetails.h"
 #include "platform/GridView.h"
 #include "reminders/frmAlerts.h"
 #include "tasks/frmTaskDetails.h"
@@ -14,9 +15,11 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
+#include <QRadioButton>
 #include <QTest>
 #include <QTimeEdit>
 #include <QTimer>
+#include <array>
 
 namespace
 {
@@ -70,6 +73,8 @@ void RunningProgram::start()
     m_program = std::make_unique<Program>(m_machine.machine());
     m_program->start([] { return false; });
     m_program->loadDialogs();
+    // A test ticks; the machine's own time is not to.
+    control<QTimer>(m_program->alerts(), "tmrTasksChecker")->setInterval(std::chrono::hours(24));
 }
 
 void RunningProgram::end()
@@ -204,25 +209,87 @@ void RunningProgram::remindLater(qint32 id, Moment moment)
     press(alerts, "btnRemindMeLater");
 }
 
-void RunningProgram::deleteCategory(qint16 id)
+void RunningProgram::selectCategory(qint16 id)
 {
-    const QString name =
-        database().sql(QStringLiteral("select cat_name from categories where cat_id=%1").arg(id)).toString();
     auto* list = control<QListWidget>(m_program->mainWindow(), "lstViewCategories");
     for (int row = 0; row < list->count(); ++row) {
         if (list->item(row)->data(Qt::UserRole).toInt() == id) {
             list->clearSelection();
             list->item(row)->setSelected(true);
-            m_machine.dialogs.expectAsk(
-                QStringLiteral("Are you sure you want to delete '%1' category, all tasks under this category "
-                               "will be deleted?")
-                    .arg(name),
-                true);
-            press(m_program->mainWindow(), "btnDeleteCat");
             return;
         }
     }
     require(false, "the main window lists the category");
+}
+
+void RunningProgram::addCategory(const QString& name, const QString& description, int icon)
+{
+    press(m_program->mainWindow(), "btnAddCat");
+    control<QLineEdit>(m_program->categoryDetails(), "txtCatName")->setText(name);
+    fillAndConfirm(description, icon);
+}
+
+void RunningProgram::editCategory(qint16 id, const QString& description, int icon)
+{
+    selectCategory(id);
+    press(m_program->mainWindow(), "btnEditCat");
+    fillAndConfirm(description, icon);
+}
+
+void RunningProgram::fillAndConfirm(const QString& description, int icon)
+{
+    frmCategoryDetails& dialog = m_program->categoryDetails();
+    control<QPlainTextEdit>(dialog, "txtCatDesc")->setPlainText(description);
+    dialog.SelectIcon(icon);
+    press(dialog, "btnOk");
+    require(!dialog.isVisible(), "the dialog takes the category");
+}
+
+void RunningProgram::deleteCategory(qint16 id)
+{
+    const QString name =
+        database().sql(QStringLiteral("select cat_name from categories where cat_id=%1").arg(id)).toString();
+    selectCategory(id);
+    m_machine.dialogs.expectAsk(
+        QStringLiteral("Are you sure you want to delete '%1' category, all tasks under this "
+                       "category will be deleted?")
+            .arg(name),
+        true);
+    press(m_program->mainWindow(), "btnDeleteCat");
+}
+
+void RunningProgram::bulkDelete(
+    qint16 category, qint32 status, qint32 taskType, QDate from, QDate to, int expected)
+{
+    frmMain& main = m_program->mainWindow();
+    selectNumber(*control<QComboBox>(main, "cmbCategoriesMaintenance"), category);
+    selectNumber(*control<QComboBox>(main, "cmbStatusMaintenance"), status);
+    constexpr std::array Options{
+        "opnActiveTasksMaintenance", "opnExpiredTasksMaintenance", "opnAllTasksMaintenance"};
+    control<QRadioButton>(main, Options[static_cast<std::size_t>(taskType)])->setChecked(true);
+    control<QDateEdit>(main, "dtpDateFromMaintenance")->setDate(from);
+    control<QDateEdit>(main, "dtpDateToMaintenance")->setDate(to);
+    if (expected == 0) {
+        m_machine.dialogs.expectTell(MessageBoxes::Icon::Exclamation,
+            QStringLiteral("There is no tasks according to the selected criteria!"));
+    } else {
+        m_machine.dialogs.expectAsk(
+            QStringLiteral("Are you sure you want to delete %1 tasks?").arg(expected), true);
+    }
+    press(main, "btnDeleteTasksMaintenance");
+}
+
+void RunningProgram::saveSettings(const QMap<QByteArray, bool>& boxes)
+{
+    for (auto box = boxes.begin(); box != boxes.end(); ++box) {
+        check(m_program->mainWindow(), box.key().constData(), box.value());
+    }
+    press(m_program->mainWindow(), "btnSave");
+}
+
+void RunningProgram::showAllDates()
+{
+    control<QRadioButton>(m_program->mainWindow(), "opnAllDate")->setChecked(true);
 }
 
 void RunningProgram::backUp(const QString& file)

@@ -2,7 +2,8 @@
 
 #include "app/RecordedMachine.h"
 
-#include <QSet>
+#include <QDate>
+#include <QMap>
 #include <QString>
 #include <chrono>
 #include <memory>
@@ -30,6 +31,8 @@ class RunningProgram
 public:
     /// Not started yet.
     RunningProgram() = default;
+    /// On a program folder that is there already and stays.
+    explicit RunningProgram(const QString& programFolder) : m_machine(programFolder) { }
     ~RunningProgram();
     RunningProgram(const RunningProgram&) = delete;
     RunningProgram& operator=(const RunningProgram&) = delete;
@@ -62,7 +65,15 @@ public:
     void dismiss(qint32 id);
     void dismissAll();
     void remindLater(qint32 id, Moment moment);
+    void addCategory(const QString& name, const QString& description, int icon);
+    void editCategory(qint16 id, const QString& description, int icon);
     void deleteCategory(qint16 id);
+    /// Answers yes when `expected` tasks are to be deleted, more than none.
+    void bulkDelete(qint16 category, qint32 status, qint32 taskType, QDate from, QDate to, int expected);
+    /// Checks the boxes of that name, unchecks those that are not, and saves.
+    void saveSettings(const QMap<QByteArray, bool>& boxes);
+    /// The list of tasks shows all of them, whatever day they are due on.
+    void showAllDates();
     void backUp(const QString& file);
     void restore(const QString& file);
 
@@ -74,6 +85,8 @@ public:
 
 private:
     void selectInMainList(qint32 id);
+    void selectCategory(qint16 id);
+    void fillAndConfirm(const QString& description, int icon);
     void fillAndConfirm(const TaskEntry& entry);
 
     RecordedMachine m_machine;

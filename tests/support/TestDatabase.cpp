@@ -54,12 +54,19 @@ QString quoted(Moment moment)
 
 } // namespace
 
-TestDatabase::TestDatabase() : m_clock(Start)
+TestDatabase::TestDatabase() : TestDatabase(QString())
 {
-    require(m_folder.isValid(), m_folder.errorString());
+    m_ownFolder.emplace();
+    require(m_ownFolder->isValid(), m_ownFolder->errorString());
+    m_folder = m_ownFolder->path();
+    m_engine.programFolder = m_folder;
     QFile shipped(QStringLiteral(AMBERTASK_SHIPPED_DATA_FILE));
     require(shipped.copy(dataFile()), shipped.errorString());
-    m_engine.programFolder = folder();
+}
+
+TestDatabase::TestDatabase(const QString& folder) : m_folder(folder), m_clock(Start)
+{
+    m_engine.programFolder = folder;
     m_engine.clock = &m_clock;
     m_engine.listener = &m_statements;
 }

@@ -7,6 +7,7 @@
 
 #include <QTemporaryDir>
 #include <QVariantList>
+#include <optional>
 
 /// A program folder of its own with a fresh copy of the shipped data file, a clock that stands at 15 January
 /// 2026, 10:00:00, and a record of all statements.
@@ -14,9 +15,11 @@ class TestDatabase
 {
 public:
     TestDatabase();
+    /// Over a program folder that is there already and stays.
+    explicit TestDatabase(const QString& folder);
 
-    QString folder() const { return m_folder.path(); }
-    QString dataFile() const { return m_folder.filePath(QStringLiteral("data.dat")); }
+    QString folder() const { return m_folder; }
+    QString dataFile() const { return m_folder + QStringLiteral("/data.dat"); }
     const DatabaseEngine& engine() const { return m_engine; }
     SteppedClock& clock() { return m_clock; }
     RecordedStatements& statements() { return m_statements; }
@@ -32,7 +35,8 @@ public:
     qint16 addCategory(const QString& name, int icon = 0) const;
 
 private:
-    QTemporaryDir m_folder;
+    std::optional<QTemporaryDir> m_ownFolder;
+    QString m_folder;
     SteppedClock m_clock;
     RecordedStatements m_statements;
     DatabaseEngine m_engine;
