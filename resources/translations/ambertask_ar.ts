@@ -821,6 +821,10 @@
         <source>another program is using it (%1)</source>
         <translation>يستخدمه برنامج آخر (%1)</translation>
     </message>
+    <message>
+        <source>a rule in its table &quot;%1&quot; could remove records</source>
+        <translation>قد تحذف قاعدة في جدوله «%1» سجلات</translation>
+    </message>
 </context>
 <context>
     <name>SettingsPage</name>

@@ -801,6 +801,10 @@ ein Fehler auf: %3.</translation>
         <source>another program is using it (%1)</source>
         <translation>ein anderes Programm verwendet sie (%1)</translation>
     </message>
+    <message>
+        <source>a rule in its table &quot;%1&quot; could remove records</source>
+        <translation>eine Regel in ihrer Tabelle „%1“ könnte Einträge entfernen</translation>
+    </message>
 </context>
 <context>
     <name>SettingsPage</name>

@@ -801,6 +801,10 @@
         <source>another program is using it (%1)</source>
         <translation>otro programa lo está usando (%1)</translation>
     </message>
+    <message>
+        <source>a rule in its table &quot;%1&quot; could remove records</source>
+        <translation>una regla de su tabla «%1» podría eliminar registros</translation>
+    </message>
 </context>
 <context>
     <name>SettingsPage</name>

@@ -801,6 +801,10 @@
         <source>another program is using it (%1)</source>
         <translation>un autre programme l’utilise (%1)</translation>
     </message>
+    <message>
+        <source>a rule in its table &quot;%1&quot; could remove records</source>
+        <translation>une règle de sa table «&#xa0;%1&#xa0;» pourrait supprimer des enregistrements</translation>
+    </message>
 </context>
 <context>
     <name>SettingsPage</name>

@@ -796,6 +796,10 @@
         <source>another program is using it (%1)</source>
         <translation>另一个程序正在使用它 (%1)</translation>
     </message>
+    <message>
+        <source>a rule in its table &quot;%1&quot; could remove records</source>
+        <translation>其表“%1”中的一条规则可能会删除记录</translation>
+    </message>
 </context>
 <context>
     <name>SettingsPage</name>

@@ -4,6 +4,7 @@
 #include "platform/Progress.h"
 #include "platform/database/DatabaseError.h"
 #include "platform/database/Dialect.h"
+#include "platform/database/Hardening.h"
 #include "platform/database/UnicodeCollation.h"
 
 #include <QFile>
@@ -18,7 +19,6 @@ namespace
 
 using Kind = DatabaseError::Kind;
 
-constexpr int LargestStatement = 64 * 1024 * 1024;
 /// So many steps of the engine's machine are done in well under a millisecond.
 constexpr int StepsOfProgress = 20000;
 constexpr int BusyMilliseconds = 250;
@@ -158,20 +158,7 @@ void Session::check(int code)
 
 void Session::harden()
 {
-    constexpr std::array<std::pair<int, int>, 8> Settings{{{SQLITE_DBCONFIG_DEFENSIVE, 1},
-        {SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0}, {SQLITE_DBCONFIG_DQS_DML, 0}, {SQLITE_DBCONFIG_DQS_DDL, 0},
-        {SQLITE_DBCONFIG_ENABLE_TRIGGER, 0}, {SQLITE_DBCONFIG_ENABLE_VIEW, 0},
-        {SQLITE_DBCONFIG_ENABLE_FTS3_TOKENIZER, 0}, {SQLITE_DBCONFIG_ENABLE_LOAD_EXTENSION, 0}}};
-    for (const auto& [setting, value] : Settings) {
-        check(sqlite3_db_config(m_database, setting, value, nullptr));
-    }
-    constexpr std::array<std::pair<int, int>, 9> Limits{{{SQLITE_LIMIT_LENGTH, LargestStatement},
-        {SQLITE_LIMIT_SQL_LENGTH, LargestStatement}, {SQLITE_LIMIT_ATTACHED, 0}, {SQLITE_LIMIT_COLUMN, 100},
-        {SQLITE_LIMIT_EXPR_DEPTH, 100}, {SQLITE_LIMIT_COMPOUND_SELECT, 10}, {SQLITE_LIMIT_VDBE_OP, 25000},
-        {SQLITE_LIMIT_LIKE_PATTERN_LENGTH, 1000}, {SQLITE_LIMIT_TRIGGER_DEPTH, 1}}};
-    for (const auto& [limit, value] : Limits) {
-        sqlite3_limit(m_database, limit, value);
-    }
+    check(hardenConnection(m_database));
     check(sqlite3_busy_timeout(m_database, BusyMilliseconds));
     check(installUnicodeNoCase(m_database));
     check(sqlite3_create_function_v2(m_database, "now", 0,
@@ -201,14 +188,17 @@ int Session::tellProgress(void* session)
 int Session::authorize(
     void* session, int action, const char* first, const char* second, const char*, const char*)
 {
-    if (static_cast<const Session*>(session)->m_runsOwnStatement) {
+    auto* self = static_cast<Session*>(session);
+    if (self->m_runsOwnStatement) {
         return SQLITE_OK;
     }
     switch (action) {
-    case SQLITE_SELECT:
-    case SQLITE_READ:
     case SQLITE_INSERT:
     case SQLITE_UPDATE:
+        self->m_written = first;
+        return SQLITE_OK;
+    case SQLITE_SELECT:
+    case SQLITE_READ:
     case SQLITE_DELETE:
     case SQLITE_FUNCTION:
         return SQLITE_OK;
@@ -232,9 +222,13 @@ std::unique_ptr<Cursor> Session::start(const QString& statement)
             tr("The data file \"%1\" failed before; the statement was not run: %2")
                 .arg(m_path, shortened(statement)));
     }
+    m_written.clear();
     auto cursor = std::make_unique<Cursor>(*this, prepare(statement));
     if (sqlite3_stmt_readonly(cursor->statement()) == 0 && sqlite3_get_autocommit(m_database) != 0) {
         begin();
+    }
+    if (!m_written.empty()) {
+        requireEveryRecordStays();
     }
     m_now = storedText(m_clock->now());
     return cursor;
@@ -243,7 +237,7 @@ std::unique_ptr<Cursor> Session::start(const QString& statement)
 sqlite3_stmt* Session::prepare(const QString& statement)
 {
     const std::string sql = translateDialect(statement.toStdString());
-    if (sql.size() >= LargestStatement) {
+    if (sql.size() >= static_cast<std::size_t>(sqlite3_limit(m_database, SQLITE_LIMIT_SQL_LENGTH, -1))) {
         throw DatabaseError(Kind::Statement,
             tr("The statement is too long (%1 bytes): %2").arg(sql.size()).arg(shortened(statement)));
     }
@@ -303,6 +297,21 @@ void Session::requireSound()
         failStorage(
             tr("The data file \"%1\" could not be written; nothing was stored: %2.")
                 .arg(m_path, damaged ? QString::fromUtf8(sqlite3_errstr(SQLITE_CORRUPT)) : reason(code)));
+    }
+}
+
+void Session::requireEveryRecordStays()
+{
+    int failure = SQLITE_OK;
+    m_runsOwnStatement = true;
+    const bool may = mayDropRecords(m_database, m_written, failure);
+    m_runsOwnStatement = false;
+    if (may || failure != SQLITE_OK) {
+        failStorage(tr("The data file \"%1\" could not be written; nothing was stored: %2.")
+                        .arg(m_path,
+                            may ? tr("a rule in its table \"%1\" could remove records")
+                                      .arg(QString::fromStdString(m_written))
+                                : reason(failure)));
     }
 }
 

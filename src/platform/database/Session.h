@@ -75,6 +75,7 @@ private:
     int executeOwn(const char* sql);
     void begin();
     void requireSound();
+    void requireEveryRecordStays();
     void undo();
     [[noreturn]] void failToOpen(const QString& why);
     [[noreturn]] void failStorage(const QString& text);
@@ -89,6 +90,7 @@ private:
     sqlite3* m_database = nullptr;
     std::vector<Cursor*> m_cursors;
     std::string m_now;
+    std::string m_written; ///< the table that the statement inserts into or updates
     bool m_runsOwnStatement = false;
     bool m_undone = false;
 };

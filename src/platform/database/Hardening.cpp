@@ -1,0 +1,51 @@
+#include "platform/database/Hardening.h"
+
+#include <array>
+#include <sqlite3.h>
+#include <utility>
+
+namespace
+{
+
+constexpr int LargestStatement = 64 * 1024 * 1024;
+
+constexpr std::array<std::pair<int, int>, 9> Settings{{{SQLITE_DBCONFIG_DEFENSIVE, 1},
+    {SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0}, {SQLITE_DBCONFIG_DQS_DML, 0}, {SQLITE_DBCONFIG_DQS_DDL, 0},
+    {SQLITE_DBCONFIG_ENABLE_TRIGGER, 0}, {SQLITE_DBCONFIG_ENABLE_VIEW, 0}, {SQLITE_DBCONFIG_ENABLE_FKEY, 0},
+    {SQLITE_DBCONFIG_ENABLE_FTS3_TOKENIZER, 0}, {SQLITE_DBCONFIG_ENABLE_LOAD_EXTENSION, 0}}};
+
+constexpr std::array<std::pair<int, int>, 9> Limits{{{SQLITE_LIMIT_LENGTH, LargestStatement},
+    {SQLITE_LIMIT_SQL_LENGTH, LargestStatement}, {SQLITE_LIMIT_ATTACHED, 0}, {SQLITE_LIMIT_COLUMN, 100},
+    {SQLITE_LIMIT_EXPR_DEPTH, 100}, {SQLITE_LIMIT_COMPOUND_SELECT, 10}, {SQLITE_LIMIT_VDBE_OP, 25000},
+    {SQLITE_LIMIT_LIKE_PATTERN_LENGTH, 1000}, {SQLITE_LIMIT_TRIGGER_DEPTH, 1}}};
+
+} // namespace
+
+int hardenConnection(sqlite3* database)
+{
+    for (const auto& [setting, value] : Settings) {
+        if (const int code = sqlite3_db_config(database, setting, value, nullptr); code != SQLITE_OK) {
+            return code;
+        }
+    }
+    for (const auto& [limit, value] : Limits) {
+        sqlite3_limit(database, limit, value);
+    }
+    return sqlite3_drop_modules(database, nullptr);
+}
+
+bool mayDropRecords(sqlite3* database, const std::string& table, int& failure)
+{
+    // Only a constraint of the table itself says what becomes of records that are alike; an index that was
+    // made apart refuses them.
+    sqlite3_stmt* statement = nullptr;
+    failure = sqlite3_prepare_v2(
+        database, "SELECT 1 FROM pragma_index_list(?1) WHERE origin <> 'c'", -1, &statement, nullptr);
+    if (failure != SQLITE_OK) {
+        return false;
+    }
+    sqlite3_bind_text(statement, 1, table.data(), static_cast<int>(table.size()), SQLITE_STATIC);
+    const int code = sqlite3_step(statement);
+    failure = sqlite3_finalize(statement);
+    return code == SQLITE_ROW;
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+struct sqlite3;
+
+/// Switches off what the program has no need for on this connection: whatever a data file could bring along
+/// to act by itself (triggers, views, foreign keys, tables that code answers for), writing into the engine's
+/// own tables, loading of code, and sizes beyond all use. Answers the engine's result code.
+int hardenConnection(sqlite3* database);
+
+/// Whether the table has a constraint that lets it drop or skip records by itself when two are alike.
+/// `failure` is set to the engine's result code when it cannot be told.
+bool mayDropRecords(sqlite3* database, const std::string& table, int& failure);
