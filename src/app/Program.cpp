@@ -15,6 +15,7 @@
 #include "platform/Registry.h"
 #include "platform/WindowPlacement.h"
 #include "reminders/frmAlerts.h"
+#include "settings/DataFileCopies.h"
 #include "settings/MaintenancePage.h"
 #include "settings/SettingsPage.h"
 #include "settings/SettingsStore.h"
@@ -52,6 +53,7 @@ Program::~Program() = default;
 
 void Program::start(const std::function<bool()>& noteFirstStart)
 {
+    DataFileCopies(m_machine.engine).keepPrivate();
     m_settings = SettingsStore(m_machine.engine).read();
     const bool isSkinLoaded = m_skins.load(m_settings.skin);
     if (noteFirstStart()) {
@@ -91,11 +93,9 @@ void Program::makeMainWindow()
     pages.categories =
         new CategoriesPage(m_services, [this]() -> frmCategoryDetails& { return categoryDetails(); });
     pages.maintenance = new MaintenancePage(m_services);
-    MainWindowHost& host = *this;
-    m_main = std::make_unique<frmMain>(m_services, m_settings, host, pages);
+    m_main = std::make_unique<frmMain>(m_services, m_settings, static_cast<MainWindowHost&>(*this), pages);
 
     m_skins.reportOn(m_main.get());
-
     ErrorReport& errors = m_machine.errors;
     connect(m_main.get(), &frmMain::firstPainted, this, &Program::onFirstPainted, Qt::QueuedConnection);
     connect(m_main.get(), &frmMain::activated, this, &Program::loadDialogs, Qt::QueuedConnection);

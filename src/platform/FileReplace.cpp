@@ -338,6 +338,17 @@ void removeFile(const QString& path)
     flushFolderOf(path);
 }
 
+void makePrivate(const QString& path)
+{
+    constexpr QFileDevice::Permissions Owners = PrivateFile | QFileDevice::ExeOwner;
+    constexpr QFileDevice::Permissions Others = QFileDevice::ReadGroup | QFileDevice::WriteGroup
+        | QFileDevice::ExeGroup | QFileDevice::ReadOther | QFileDevice::WriteOther | QFileDevice::ExeOther;
+    const QFileInfo file(path);
+    if (!file.isSymLink() && file.isFile() && (file.permissions() & Others)) {
+        QFile::setPermissions(path, file.permissions() & Owners);
+    }
+}
+
 void makeFolder(const QString& path)
 {
     if (QFileInfo(path).isDir()) {

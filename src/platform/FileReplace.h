@@ -46,6 +46,9 @@ void keepAlso(const QString& file, const QString& target, QFileDevice::Permissio
     Progress* progress = nullptr);
 /// Removes the file; one that does not exist is none.
 void removeFile(const QString& path);
+/// Takes away what others than its owner may do with a file. Quietly does nothing where there is no regular
+/// file of that name (what a link points to is not meant) or where the system refuses.
+void makePrivate(const QString& path);
 /// Makes the folder, and those above it that are missing.
 void makeFolder(const QString& path);
 

@@ -100,6 +100,7 @@ void DataFileCopies::restoreFrom(const QString& file, Progress* progress) const
     const QString checked = pathIn(folder.path(), ClsDatabase(*m_engine).FileName());
     copyToNewFile(file, checked, PrivateFile, progress);
     requireServiceableDataFile({folder.path(), m_engine->clock, nullptr, progress});
+    makePrivate(file);
     const bool replaces = isPresent(place);
     if (replaces) {
         settleIfSound();
@@ -117,6 +118,16 @@ void DataFileCopies::restoreFrom(const QString& file, Progress* progress) const
         putBackEarlier(place, folder.path());
         throw;
     }
+}
+
+void DataFileCopies::keepPrivate() const
+{
+    const QString place = resolvedPath(m_dataFile);
+    makePrivate(place);
+    for (const char* companion : Companions) {
+        makePrivate(place + QLatin1String(companion));
+    }
+    makePrivate(place + QLatin1String(ReplacedSuffix));
 }
 
 // No bytes are copied: the restored file takes the name, and the old one keeps its second one. The file of an

@@ -21,8 +21,12 @@ public:
     /// the disk.
     void backUpTo(const QString& file, Progress* progress = nullptr) const;
     /// Replaces the data file by `file`, which has to be a sound data file of this program. What was replaced
-    /// stays beside it as data.dat.before-restore.
+    /// stays beside it as data.dat.before-restore; `file` becomes private to its owner, where that can be.
     void restoreFrom(const QString& file, Progress* progress = nullptr) const;
+
+    /// Takes away what others than the owner may do with the data file and with what lies beside it. Where
+    /// that cannot be, all stays as it is and nothing is said.
+    void keepPrivate() const;
 
 private:
     static void keepReplaced(const QString& place, const QString& folder, Progress* progress);

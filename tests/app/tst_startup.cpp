@@ -48,6 +48,17 @@ private slots:
         QVERIFY(f.registry.isEmpty());
     }
 
+    void aDataFileThatOthersCouldReadBecomesPrivate()
+    {
+        ProgramFixture f;
+        QVERIFY(QFile::setPermissions(f.database.dataFile(),
+            QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ReadGroup
+                | QFileDevice::ReadOther));
+        f.start();
+        constexpr auto Others = QFileDevice::ReadGroup | QFileDevice::ReadOther;
+        QCOMPARE(QFile::permissions(f.database.dataFile()) & Others, QFileDevice::Permissions());
+    }
+
     void aMissingDataFileIsReportedAndNothingIsWritten()
     {
         ProgramFixture f;
