@@ -3,14 +3,13 @@
 #include "app/TaskReportQuery.h"
 #include "data/ClsDatabase.h"
 #include "platform/ErrorReport.h"
-#include "platform/Installation.h"
 #include "platform/MessageBoxes.h"
+#include "platform/Modules.h"
 #include "platform/Shell.h"
 #include "platform/WindowPlacement.h"
 #include "ui/PdfFileChoice.h"
 
 #include <QCoreApplication>
-#include <QLibrary>
 #include <array>
 
 namespace
@@ -64,11 +63,10 @@ QString dateText(Moment moment)
 
 } // namespace
 
-std::unique_ptr<ReportWindow> loadReportWindow(ReportHost& host)
+std::unique_ptr<ReportWindow> loadReportWindow(Modules& modules, ReportHost& host)
 {
-    QLibrary module(modulePath(QStringLiteral("ambertask_report")));
     using Make = ReportWindow* (*)(ReportHost&);
-    const auto make = reinterpret_cast<Make>(module.resolve("ambertaskMakeReportWindow"));
+    const auto make = modules.resolve<Make>(QLatin1String(ReportModule), "ambertaskMakeReportWindow");
     return std::unique_ptr<ReportWindow>(make == nullptr ? nullptr : make(host));
 }
 

@@ -10,8 +10,12 @@
 #include <map>
 #include <optional>
 
-/// Loads the report module that lies beside the program; nothing when there is none. The module stays loaded.
-std::unique_ptr<ReportWindow> loadReportWindow(ReportHost& host);
+class Modules;
+
+inline constexpr char ReportModule[] = "ambertask_report";
+
+/// Loads the report module; nothing when there is none.
+std::unique_ptr<ReportWindow> loadReportWindow(Modules& modules, ReportHost& host);
 
 /// The report of tasks. One instance serves all print runs: a further run shows its tasks in the same window.
 class drTasks final : private ReportHost

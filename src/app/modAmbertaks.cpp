@@ -10,6 +10,7 @@
 #include "platform/Language.h"
 #include "platform/MMControl.h"
 #include "platform/MessageBoxes.h"
+#include "platform/Modules.h"
 #include "platform/ProgramFolder.h"
 #include "platform/ProgramFolderTemplate.h"
 #include "platform/Registry.h"
@@ -27,17 +28,24 @@ namespace
 
 /// The real machine around the program.
 struct RealMachine {
-    RealMachine(const QString& programFolder, ErrorReport& errorReport)
-        : engine{programFolder, &clock, nullptr, nullptr, &dataFileIsSound}, errors(errorReport)
+    RealMachine(const QString& moduleFolder, const QString& programFolder, ErrorReport& errorReport)
+        : modules(moduleFolder,
+            {QLatin1String(SoundModule), QLatin1String(HelpModule), QLatin1String(ReportModule)}),
+          engine{programFolder, &clock, nullptr, nullptr, &dataFileIsSound}, errors(errorReport)
     {
     }
 
     Machine machine()
     {
-        return {engine, messages, fileDialogs, errors, shell, *registry, loadWaveBackend,
-            TrayIcon::isAreaAvailable, loadHelpWindow, loadReportWindow};
+        return {engine, messages, fileDialogs, errors, shell, *registry,
+            [this] { return loadWaveBackend(modules); }, TrayIcon::isAreaAvailable,
+            [this](HelpHost& host) { return loadHelpWindow(modules, host); },
+            [this](ReportHost& host) {
+                return loadReportWindow(modules, host);
+            }};
     }
 
+    Modules modules;
     SystemClock clock;
     bool dataFileIsSound = false;
     DatabaseEngine engine;
@@ -59,11 +67,12 @@ QString prepareProgramFolder(const Installation& installation, const QString& pr
     return {};
 }
 
-int runInstance(Application& application, const QString& programFolder, const QString& folderFailure)
+int runInstance(Application& application, const Installation& installation, const QString& programFolder,
+    const QString& folderFailure)
 {
     Program* running = nullptr;
     ScreenErrorReport errors([&running] { running->end(); });
-    RealMachine real(programFolder, errors);
+    RealMachine real(installation.moduleFolder, programFolder, errors);
     Program program(real.machine());
     running = &program;
 
@@ -115,5 +124,5 @@ int runAmbertask(int argc, char** argv)
     QApplication::setQuitOnLastWindowClosed(false);
     Language language;
     language.speakAsTheSystem();
-    return runInstance(application, programFolder, folderFailure);
+    return runInstance(application, installation, programFolder, folderFailure);
 }

@@ -1,20 +1,18 @@
 #include "help/HTMLHelpViewer.h"
 
-#include "platform/Installation.h"
 #include "platform/MessageBoxes.h"
+#include "platform/Modules.h"
 #include "platform/Shell.h"
 #include "platform/WindowPlacement.h"
 #include "ui/FormServices.h"
 #include "ui/PdfFileChoice.h"
 
 #include <QCoreApplication>
-#include <QLibrary>
 
-HelpWindow* loadHelpWindow(HelpHost& host)
+HelpWindow* loadHelpWindow(Modules& modules, HelpHost& host)
 {
-    QLibrary module(modulePath(QStringLiteral("ambertask_help")));
     using Make = HelpWindow* (*)(HelpHost&);
-    const auto make = reinterpret_cast<Make>(module.resolve("ambertaskMakeHelpWindow"));
+    const auto make = modules.resolve<Make>(QLatin1String(HelpModule), "ambertaskMakeHelpWindow");
     return make == nullptr ? nullptr : make(host);
 }
 

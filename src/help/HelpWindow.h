@@ -4,6 +4,8 @@
 #include <QWidget>
 #include <functional>
 
+class Modules;
+
 /// The window that shows a compiled help file: contents, index, search, topics. It lies in a module of its
 /// own that the first request for help loads. A file that cannot be read is no error: the window says so.
 /// Interface thread only.
@@ -46,5 +48,7 @@ public:
 /// Makes the window, hidden and without a parent; null where its module is missing. The host outlives it.
 using HelpWindowFactory = std::function<HelpWindow*(HelpHost&)>;
 
-/// The factory of the installed program: loads the module beside the executable.
-HelpWindow* loadHelpWindow(HelpHost& host);
+inline constexpr char HelpModule[] = "ambertask_help";
+
+/// Loads the module that makes it.
+HelpWindow* loadHelpWindow(Modules& modules, HelpHost& host);

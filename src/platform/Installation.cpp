@@ -52,8 +52,3 @@ Installation runningInstallation()
 {
     return installationOf(runningExecutable());
 }
-
-QString modulePath(const QString& name)
-{
-    return pathIn(runningInstallation().moduleFolder, name);
-}

@@ -19,6 +19,3 @@ Installation installationOf(const QString& executable);
 
 /// That of the running program. Needs no application object.
 Installation runningInstallation();
-
-/// The file of the module `name` of the running program, without the ending that the platform gives it.
-QString modulePath(const QString& name);

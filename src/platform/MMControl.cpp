@@ -1,14 +1,11 @@
 #include "platform/MMControl.h"
 
-#include "platform/Installation.h"
+#include "platform/Modules.h"
 
-#include <QLibrary>
-
-std::unique_ptr<WaveBackend> loadWaveBackend()
+std::unique_ptr<WaveBackend> loadWaveBackend(Modules& modules)
 {
-    QLibrary module(modulePath(QStringLiteral("ambertask_sound")));
     using Make = WaveBackend* (*)();
-    const auto make = reinterpret_cast<Make>(module.resolve("ambertaskMakeWaveBackend"));
+    const auto make = modules.resolve<Make>(QLatin1String(SoundModule), "ambertaskMakeWaveBackend");
     return std::unique_ptr<WaveBackend>(make == nullptr ? nullptr : make());
 }
 

@@ -6,8 +6,12 @@
 #include <QString>
 #include <memory>
 
-/// Loads the sound module that lies beside the program; nothing when there is none. The module stays loaded.
-std::unique_ptr<WaveBackend> loadWaveBackend();
+class Modules;
+
+inline constexpr char SoundModule[] = "ambertask_sound";
+
+/// Loads the sound module; nothing when there is none.
+std::unique_ptr<WaveBackend> loadWaveBackend(Modules& modules);
 
 /// The multimedia control: set the properties, then send the commands "Open" and "Play". Each "Play" starts
 /// at once and may overlap the sound before; "Close" stops all. Interface thread only; nothing here blocks or

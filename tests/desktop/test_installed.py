@@ -212,11 +212,15 @@ class UpgradeTest(InstalledCase):
 class ModulesTest(InstalledCase):
     sound = True
 
-    def test_help_report_and_sound_are_found(self):
+    def setUp(self):
+        super().setUp()
         self.run_once()
         self.store.add_task("Alpha", due=datetime(2030, 1, 1))
-        user = self.start()
-        user.wait_loaded()
+        self.user = self.start()
+        self.user.wait_loaded()
+
+    def use_help_report_and_sound(self):
+        user = self.user
         self.desk.input.key("F1")
         topic = user.access.window(HELP).find("label", "Topic")
         wait_until(lambda: topic.text.startswith("Welcome to Ambertask"), "the help is shown")
@@ -228,9 +232,21 @@ class ModulesTest(InstalledCase):
         self.store.add_task("Beta", reminder=datetime(2020, 1, 1), sound=self.desk.in_folder("sounds", "bell.wav"))
         user.alert(1)
         wait_until(lambda: self.desk.sound.loud_seconds() > 0.5, "the sound is heard")
-        with open(f"/proc/{user.program.pid}/maps", encoding="utf-8") as maps:
-            modules = {os.path.basename(line.strip()) for line in maps if "/lib/ambertask/" in line}
-        self.assertEqual(modules, {"ambertask_help.so", "ambertask_report.so", "ambertask_sound.so"})
+
+    def loaded_modules(self):
+        with open(f"/proc/{self.user.program.pid}/maps", encoding="utf-8") as maps:
+            return {os.path.basename(line.strip()) for line in maps if "/lib/ambertask/" in line}
+
+    def test_help_report_and_sound_are_found(self):
+        self.assertEqual(self.loaded_modules(), set(), "none before its first use")
+        self.use_help_report_and_sound()
+        self.assertEqual(self.loaded_modules(), {"ambertask_help.so", "ambertask_report.so", "ambertask_sound.so"})
+
+    def test_a_copy_that_runs_on_while_its_installation_goes_still_has_them(self):
+        self.desk.uninstall()
+        self.use_help_report_and_sound()
+        self.assertEqual(self.loaded_modules(), {name + ".so (deleted)" for name in (
+            "ambertask_help", "ambertask_report", "ambertask_sound")})
 
 
 class PackagerTest(InstalledCase):
