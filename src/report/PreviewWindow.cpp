@@ -71,8 +71,7 @@ PreviewWindow::PreviewWindow(ReportHost& host, std::function<bool()> hasPrinter)
     layout->addWidget(m_preview, 1);
     layout->addLayout(makePageRow());
     makeShortcuts();
-    const QSize first = FirstSize * fontMetrics().height();
-    resize(first.expandedTo(QSize(layout->sizeHint().width(), 0)));
+    resize(FirstSize * fontMetrics().height());
     setContent({});
 
     connect(m_preview, &QPrintPreviewWidget::paintRequested, this, [this](QPrinter* printer) {
@@ -162,6 +161,16 @@ void PreviewWindow::setContent(ReportContent content)
     m_page = 0;
     m_layout = layOut(printableArea(m_printer.pageLayout()));
     showPage();
+    widenForRows();
+}
+
+void PreviewWindow::widenForRows()
+{
+    if (!isVisible()) {
+        ensurePolished();
+        layout()->activate();
+        resize(size().expandedTo(QSize(layout()->sizeHint().width(), 0)));
+    }
 }
 
 int PreviewWindow::pageCount() const

@@ -52,6 +52,8 @@ private:
     void makeShortcuts();
     std::shared_ptr<const ReportLayout> layOut(QSizeF area) const;
     void showPage();
+    /// A window that has not been shown yet gets the room for its controls in two rows.
+    void widenForRows();
     void showZoom();
     void tell(const QString& text);
 

@@ -305,6 +305,12 @@ QSize SkinStyle::sizeFromContents(
     return result;
 }
 
+QPixmap SkinStyle::generatedIconPixmap(
+    QIcon::Mode mode, const QPixmap& pixmap, const QStyleOption* option) const
+{
+    return mode == QIcon::Selected ? pixmap : QProxyStyle::generatedIconPixmap(mode, pixmap, option);
+}
+
 QIcon SkinStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const
 {
     if (qobject_cast<const QCalendarWidget*>(widget) != nullptr

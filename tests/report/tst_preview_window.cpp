@@ -361,6 +361,22 @@ private slots:
         QVERIFY(f.preview()->height() > 150);
     }
 
+    void aNewWindowHasItsControlsInTwoRows()
+    {
+        qApp->setStyleSheet(QStringLiteral("QPushButton { padding: 4px 20px; }"));
+        {
+            Fixture f(2000);
+            const int commands = f.control<QPushButton>("btnPrint")->geometry().center().y();
+            const int pages = f.control<QPushButton>("btnFirstPage")->geometry().center().y();
+            QVERIFY(f.window.pageCount() > 100);
+            for (const QWidget* control : f.window.findChildren<QPushButton*>()) {
+                const int row = control->geometry().center().y();
+                QVERIFY2(row == commands || row == pages, qPrintable(control->objectName()));
+            }
+        }
+        qApp->setStyleSheet({});
+    }
+
     void everyControlIsReachedByTabAndByAMnemonicOfItsOwn()
     {
         Fixture f(60, true);

@@ -109,6 +109,8 @@ private slots:
     void rulesOfTheSheetKeepTextsReadable();
     void theToolkitTakesTheSheet_data() { skins(); }
     void theToolkitTakesTheSheet();
+    void picturesKeepTheirColoursInSelectedRows_data() { skins(); }
+    void picturesKeepTheirColoursInSelectedRows();
     void checkMarksAreVisible_data() { skins(); }
     void checkMarksAreVisible();
     void radioDotsAreVisible_data() { skins(); }
@@ -249,6 +251,18 @@ void TestShippedSkins::theToolkitTakesTheSheet()
     QVERIFY(contrast(QColor(picture.pixel(picture.width() / 2, 5)),
                 QApplication::palette().color(QPalette::Window))
         > 1.5);
+}
+
+void TestShippedSkins::picturesKeepTheirColoursInSelectedRows()
+{
+    QPixmap picture(16, 16);
+    picture.fill(QColor(0x1f, 0x6f, 0xd6));
+    QFETCH(const QString, skin);
+    wear(skin);
+    const QPixmap selected = QIcon(picture).pixmap(QSize(16, 16), 1, QIcon::Selected);
+    QCOMPARE(selected.toImage().pixelColor(8, 8), QColor(0x1f, 0x6f, 0xd6));
+    const QPixmap disabled = QIcon(picture).pixmap(QSize(16, 16), 1, QIcon::Disabled);
+    QVERIFY(disabled.toImage().pixelColor(8, 8) != QColor(0x1f, 0x6f, 0xd6));
 }
 
 void TestShippedSkins::checkMarksAreVisible()
