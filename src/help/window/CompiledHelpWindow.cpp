@@ -23,7 +23,7 @@ enum Tab { ContentsTab, IndexTab, SearchTab };
 constexpr int SmallestText = -3;
 constexpr int LargestText = 12;
 // In lines of text, so that they follow the letters.
-constexpr QSize FirstSize(66, 45);
+constexpr QSize FirstSize(68, 45);
 constexpr int PaneWidth = 19;
 
 /// A title as the name of a file: what is no letter or digit becomes a blank.
