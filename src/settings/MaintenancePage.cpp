@@ -131,6 +131,7 @@ QGroupBox* MaintenancePage::makeDateRangeFrame()
     layout->addWidget(m_dtpDateFrom, 0, 1);
     layout->addWidget(labelFor(m_dtpDateTo, tr("&To"), QStringLiteral("SCLabel9")), 1, 0);
     layout->addWidget(m_dtpDateTo, 1, 1);
+    layout->setRowStretch(2, 1);
     return frame;
 }
 
