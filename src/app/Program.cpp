@@ -36,6 +36,17 @@ constexpr std::chrono::milliseconds LongestWaitForThePaint = 1s;
 /// The context numbers of the help file's topics.
 enum HelpContext { TasksHelp, CategoriesHelp, SettingsHelp, MaintenanceHelp, AlertHelp };
 
+/// Keeps what failed, to be told later.
+class CollectedErrors final : public ErrorReport
+{
+public:
+    void report(const QString& text) override { m_texts.append(text); }
+    const QStringList& texts() const { return m_texts; }
+
+private:
+    QStringList m_texts;
+};
+
 } // namespace
 
 Program::Program(const Machine& machine)
@@ -137,10 +148,17 @@ void Program::loadDialogs()
     }
     // Now that the main window is on the screen: the pictures of a window's icon are many, and large.
     QApplication::setWindowIcon(programWindowIcon());
-    // The alert window has to be there even when a dialog cannot be loaded: without it nothing reminds.
-    m_machine.errors.guard([this] { taskDetails(); });
-    m_machine.errors.guard([this] { categoryDetails(); });
-    m_machine.errors.guard([this] { alerts(); });
+    // The alert window has to be there even when a dialog cannot be loaded, and before anybody has read why:
+    // without it nothing reminds.
+    CollectedErrors errors;
+    errors.guard([this] { taskDetails(); });
+    errors.guard([this] { categoryDetails(); });
+    errors.guard([this] { alerts(); });
+    for (const QString& text : errors.texts()) {
+        if (!m_ending) {
+            m_machine.errors.report(text);
+        }
+    }
 }
 
 frmTaskDetails& Program::taskDetails()
@@ -301,8 +319,22 @@ void Program::focusCategoryList()
     m_main->focusCategoryList();
 }
 
+void Program::forgetRecords()
+{
+    if (m_taskDetails != nullptr) {
+        m_taskDetails->forgetTask();
+    }
+    if (m_categoryDetails != nullptr) {
+        m_categoryDetails->forgetCategory();
+    }
+    if (m_alerts != nullptr) {
+        m_alerts->forgetReminders();
+    }
+}
+
 void Program::onDataRestored()
 {
+    forgetRecords();
     try {
         m_main->LoadTasks();
         m_main->LoadCategories();
@@ -348,6 +380,14 @@ void Program::placeMainWindow(bool topmost)
 {
     m_main->place(topmost);
     if (topmost) {
+        // A window that is open beside it is not to vanish behind it.
+        for (QWidget* window :
+            std::initializer_list<QWidget*>{m_about.get(), m_report == nullptr ? nullptr : m_report->window(),
+                m_helpViewer.viewerWindow(), m_alerts.get()}) {
+            if (window != nullptr && window->isVisible()) {
+                makeTopmost(window);
+            }
+        }
         return;
     }
     // What came up topmost would stay above the windows of other programs for good. In front of the main

@@ -94,6 +94,8 @@ private:
     void onCategorySaved();
     void onCategoriesChanged();
     void onDataRestored();
+    /// Ids of the replaced data file mean other records in the new one.
+    void forgetRecords();
     void reloadCategoryCombos();
     void focusCategoryList();
 

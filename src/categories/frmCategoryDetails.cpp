@@ -87,6 +87,12 @@ void frmCategoryDetails::SetTag(const QString& tag)
     fillFrom(*category);
 }
 
+void frmCategoryDetails::forgetCategory()
+{
+    clearTag();
+    m_controls.txtCatName->setEnabled(true);
+}
+
 void frmCategoryDetails::fillFrom(const ClsCategory& category)
 {
     m_controls.txtCatName->setText(category.CatName());

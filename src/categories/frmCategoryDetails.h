@@ -30,6 +30,8 @@ public:
     void SetTag(const QString& tag);
     /// The next OK stores a new category.
     void clearTag() { m_tag.clear(); }
+    /// What is entered stays and can be renamed; the next OK stores it as a new category.
+    void forgetCategory();
     /// The decimal id of the category that is edited; empty for a new one.
     QString tag() const { return m_tag; }
     /// Selects that built-in icon; the first one when there is none of that index.

@@ -26,7 +26,9 @@ void ScreenErrorReport::report(const QString& text)
         owner != nullptr && owner->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
     QPushButton* close = box.addButton(tr("Close &program"), QMessageBox::DestructiveRole);
     QPushButton* proceed = box.addButton(tr("&Continue"), QMessageBox::RejectRole);
-    box.setDefaultButton(close);
+    // Not the other one: an Enter that is held or pressed twice would end the program and with it what has
+    // just been typed.
+    box.setDefaultButton(proceed);
     box.setEscapeButton(proceed);
     box.exec();
     if (box.clickedButton() == close) {

@@ -28,9 +28,11 @@ ScreenProgress::~ScreenProgress() = default;
 
 void ScreenProgress::run(const std::function<void(Progress&)>& operation)
 {
-    std::exception_ptr failure;
+    // Stays when the operation never ran: a loop of a program that is about to end is left at once.
+    std::exception_ptr failure = std::make_exception_ptr(Cancelled());
     // Inside of an event loop: the program ends by leaving all of them, and that is how it is noticed here.
     QTimer::singleShot(0, &m_loop, [this, &operation, &failure] {
+        failure = nullptr;
         m_running.start();
         m_sincePaint.start();
         try {

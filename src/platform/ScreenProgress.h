@@ -26,7 +26,8 @@ public:
     ~ScreenProgress() override;
 
     /// Runs the operation to its end. Throws what it throws: Cancelled, when the user has cancelled it or the
-    /// program is to end and the operation has learnt of that by `advance`.
+    /// program is to end and the operation has learnt of that by `advance`; also when the program was about
+    /// to end already, and the operation has not run at all.
     void run(const std::function<void(Progress&)>& operation);
 
     void advance(qint64 done, qint64 total) override;

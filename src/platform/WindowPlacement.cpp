@@ -210,11 +210,9 @@ void showOwned(QWidget* window, QWidget* owner)
         setOwner(window, owner);
     }
     putInPlace(window, owner);
-    if (window->isMinimized()) {
-        window->showNormal();
-    } else {
-        window->show();
-    }
+    // showNormal() would take the maximized state away as well.
+    window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+    window->show();
     window->raise();
     window->activateWindow();
 }

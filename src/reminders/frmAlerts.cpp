@@ -54,8 +54,10 @@ frmAlerts::frmAlerts(
     m_mmc.setObjectName(QStringLiteral("mmc"));
     m_tmrTasksChecker.setObjectName(QStringLiteral("tmrTasksChecker"));
     m_tmrTasksChecker.setInterval(CheckerInterval);
+    m_tmrTasksChecker.setTimerType(Qt::PreciseTimer);
     m_tmrFlasher.setObjectName(QStringLiteral("tmrFlasher"));
     m_tmrFlasher.setInterval(FlasherInterval);
+    m_tmrFlasher.setTimerType(Qt::PreciseTimer);
     m_controls.grdTasks->setGridModel(&m_reminders);
     setPickersToNow();
     connectControls();
@@ -93,6 +95,15 @@ void frmAlerts::setCheckerEnabled(bool enabled)
     } else if (!m_tmrTasksChecker.isActive()) {
         m_tmrTasksChecker.start();
     }
+}
+
+void frmAlerts::forgetReminders()
+{
+    hide();
+    m_reminders.setReminders({});
+    setWindowTitle(titleFor(0));
+    m_owesMark = false;
+    m_fired.clear();
 }
 
 void frmAlerts::focusGrid()
@@ -236,6 +247,7 @@ void frmAlerts::btnRemindMeLater_Click()
     if (composeMoment(date, time) < m_services.clock.now()) {
         m_services.messages.tell(this, MessageBoxes::Icon::Exclamation,
             tr("Reminder date and time should not be earlier than current system date and time"));
+        m_controls.dtpReminderDate->setFocus();
         return;
     }
     Connection connection = openConnection();

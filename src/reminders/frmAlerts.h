@@ -31,6 +31,9 @@ public:
     void tmrTasksChecker_Timer();
     /// Stops the checker's timer, or lets it run; switching on a running timer changes nothing.
     void setCheckerEnabled(bool enabled);
+    /// The data file holds other tasks now: nothing is listed any more and the window is hidden. The next
+    /// check lists what is due.
+    void forgetReminders();
     /// Gives the focus to the list of reminders; activates the window when it is visible, never shows it.
     void focusGrid();
     /// The help button works; disabled at first.

@@ -304,7 +304,9 @@ void PreviewWindow::btnExport_Click()
 
 void PreviewWindow::exportTo(const QString& file)
 {
-    const auto failure = writePdfFrom(*this, {file, windowTitle(), m_printer.pageLayout()}, *m_layout);
+    // Stays while it is written, whatever the window shows by then.
+    const std::shared_ptr<const ReportLayout> pages = m_layout;
+    const auto failure = writePdfFrom(*this, {file, windowTitle(), m_printer.pageLayout()}, *pages);
     if (failure) {
         tell(tr("The report could not be written to \"%1\": %2.").arg(file, *failure));
     }

@@ -61,12 +61,20 @@ std::pair<QStringView, QStringView> firstWord(QStringView text)
     return {text.first(length), text.mid(length).trimmed()};
 }
 
-// The name of a skin is the base name of its file, on every system.
+/// Control characters, marks of direction, line and paragraph separators.
+bool isUnseen(QChar c)
+{
+    const QChar::Category category = c.category();
+    return category == QChar::Other_Control || category == QChar::Other_Format
+        || category == QChar::Separator_Line || category == QChar::Separator_Paragraph;
+}
+
+// The name of a skin is the base name of its file, on every system. It is also written into the settings as
+// it stands, where a quote would end it.
 bool couldBeFileName(const QString& name)
 {
-    const bool isAllowed = std::none_of(name.begin(), name.end(), [](QChar c) {
-        return c < QChar(0x20) || c == QChar(0x7f) || QStringView(u"/\\:*?\"<>|").contains(c);
-    });
+    const bool isAllowed = std::none_of(name.begin(), name.end(),
+        [](QChar c) { return isUnseen(c) || QStringView(u"/\\:*?\"'`<>|").contains(c); });
     return !name.isEmpty() && name.size() <= LongestName && isAllowed && !name.startsWith(u'.')
         && !name.endsWith(u'.');
 }

@@ -307,7 +307,9 @@ bool frmTaskDetails::Form_KeyPress(const QKeyEvent& event)
     }
     const bool isEnter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
     if (isEnter && valueOf(focusWidget()) != valueOf(m_controls.txtDescription)) {
-        m_controls.btnOk->click();
+        if (!event.isAutoRepeat()) {
+            m_controls.btnOk->click();
+        }
         return true;
     }
     return false;

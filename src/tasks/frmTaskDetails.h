@@ -23,6 +23,8 @@ public:
     /// Loads the stored task of that id for editing. Throws RuntimeError when there is no such task and
     /// DatabaseError, and then the form is as it was.
     void SetTag(qint16 Id);
+    /// What is entered stays; the next OK stores it as a new task.
+    void forgetTask() { m_tag.clear(); }
     /// The decimal id of the task that is edited; empty for a new task.
     QString tag() const { return m_tag; }
 

@@ -217,6 +217,21 @@ private slots:
         QVERIFY(f.program.alerts().isVisible());
     }
 
+    void remindersAreCheckedBeforeAnybodyHasReadWhyADialogIsMissing()
+    {
+        ProgramFixture f;
+        f.setting(QStringLiteral("minimize_on_start"), 1);
+        f.start();
+        f.database.sql(QStringLiteral("alter table categories rename to elsewhere"));
+        bool isChecking = false;
+        f.dialogs.expectError(QStringLiteral("categories"), [&f, &isChecking] {
+            isChecking = f.program.alerts().findChild<QTimer*>(QStringLiteral("tmrTasksChecker"))->isActive();
+        });
+        f.program.loadDialogs();
+        QVERIFY(isChecking);
+        f.database.sql(QStringLiteral("alter table elsewhere rename to categories"));
+    }
+
     void theFormsAreUnloadedInTheirOrder()
     {
         ProgramFixture f;

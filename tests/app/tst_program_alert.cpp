@@ -58,6 +58,25 @@ private slots:
         }
     }
 
+    void whatIsOpenWhenAlwaysOnTopIsSwitchedOnStaysAboveTheMainWindow()
+    {
+        ProgramFixture f;
+        aTask(f.database).remindingAt(f.database.clock().now() - 1min).add();
+        f.start();
+        f.program.loadDialogs();
+        f.press(f.main(), "btnTaskPrint");
+        f.press(f.main(), "btnHelpTasks");
+        f.menu("mnuAbout")->trigger();
+        f.control<QCheckBox>(f.main(), "chkOnTop")->setChecked(true);
+        f.press(f.main(), "btnSave");
+        QVERIFY(isTopmost(&f.main()));
+        for (const QWidget* window :
+            {static_cast<QWidget*>(&f.program.alerts()), static_cast<QWidget*>(f.reportWindow.data()),
+                static_cast<QWidget*>(f.helpWindow.data()), aboutBox()}) {
+            QVERIFY2(isTopmost(window), qPrintable(window->windowTitle()));
+        }
+    }
+
     void savedWithAlwaysOnTopTheAlertStaysTopmost()
     {
         ProgramFixture f;

@@ -65,6 +65,11 @@ private slots:
             QStringList{join
                 + QStringLiteral(
                     " where task_due_date >= #1/15/2026# and task_due_date <= #1/31/2026 23:59# ")});
+        f.control<QDateEdit>("dtpDueDateFrom")->setDate(QDate(2025, 12, 3));
+        QCOMPARE(statements.take(),
+            QStringList{join
+                + QStringLiteral(
+                    " where task_due_date >= #12/3/2025# and task_due_date <= #1/31/2026 23:59# ")});
     }
 
     void switchingBackToAllDatesDisablesThePickersAndDropsTheDateFilter()

@@ -38,6 +38,7 @@ private slots:
     void cancelThrowsOutOfTheOperation();
     void closingTheBoxCancels();
     void theEndOfTheProgramCancels();
+    void aProgramThatEndsDoesNotBegin();
     void otherWindowsArePaintedButTakeNoInput();
     void whatTheOperationThrowsComesThrough();
 
@@ -137,6 +138,23 @@ void ScreenProgressTest::theEndOfTheProgramCancels()
     });
     QCOMPARE(QCoreApplication::exec(), 0);
     QVERIFY(cancelled);
+}
+
+void ScreenProgressTest::aProgramThatEndsDoesNotBegin()
+{
+    bool cancelled = false;
+    bool begun = false;
+    QTimer::singleShot(0, qApp, [&cancelled, &begun] {
+        QCoreApplication::exit(0);
+        try {
+            ScreenProgress(nullptr, QStringLiteral("Copying"), 1h).run([&begun](Progress&) { begun = true; });
+        } catch (const Cancelled&) {
+            cancelled = true;
+        }
+    });
+    QCOMPARE(QCoreApplication::exec(), 0);
+    QVERIFY(cancelled);
+    QVERIFY(!begun);
 }
 
 void ScreenProgressTest::otherWindowsArePaintedButTakeNoInput()

@@ -204,7 +204,9 @@ void TestSkinFile::whatLooksAlikeIsAllowed()
 void TestSkinFile::aNameThatCouldBeNoFileNameIsRefused_data()
 {
     QTest::addColumn<QByteArray>("name");
-    for (const char* name : {"a/b", "..", ".hidden", "a\\b", "C:x", "what?", "a\tb", "a\x01", "end."}) {
+    for (const char* name : {"a/b", "..", ".hidden", "a\\b", "C:x", "what?", "a\tb", "a\x01", "a\x7f", "end.",
+             "O'Hara", "a\"b", "a`b", "a*b", "a<b", "a>b", "a|b", "next\u0085line", "a\u2028b", "a\u2029b",
+             "\u202Eback", "a\u200Fb"}) {
         QTest::newRow(name) << QByteArray(name);
     }
     QTest::newRow("101 letters") << QByteArray(101, 'x');

@@ -46,9 +46,13 @@ void ScriptedDialogs::expectSave(
     m_expected.enqueue({Kind::Save, answer, Icon::None, false, std::move(whileOpen)});
 }
 
-void ScriptedDialogs::expectError(const QString& part)
+void ScriptedDialogs::expectError(const QString& part, const std::function<void()>& whileOpen)
 {
-    m_expected.enqueue({Kind::Error, part, Icon::None, false, {}});
+    m_expected.enqueue({Kind::Error, part, Icon::None, false, [whileOpen](const FileDialogRequest&) {
+                            if (whileOpen) {
+                                whileOpen();
+                            }
+                        }});
 }
 
 void ScriptedDialogs::tell(QWidget* /*owner*/, Icon icon, const QString& text)
@@ -92,9 +96,13 @@ QString ScriptedDialogs::save(QWidget* /*owner*/, const FileDialogRequest& reque
 void ScriptedDialogs::report(const QString& text)
 {
     Expectation expected;
-    if (take(Kind::Error, text, expected) && !text.contains(expected.text, Qt::CaseInsensitive)) {
+    if (!take(Kind::Error, text, expected)) {
+        return;
+    }
+    if (!text.contains(expected.text, Qt::CaseInsensitive)) {
         fail(QStringLiteral("the error \"%1\" does not say \"%2\"").arg(text, expected.text));
     }
+    expected.whileOpen({});
 }
 
 bool ScriptedDialogs::take(Kind kind, const QString& shown, Expectation& expected)

@@ -23,8 +23,9 @@ public:
     /// `answer` is the chosen file, empty for cancelled; `whileOpen` runs while the dialog is "open".
     void expectOpen(const QString& answer, std::function<void(const FileDialogRequest&)> whileOpen = {});
     void expectSave(const QString& answer, std::function<void(const FileDialogRequest&)> whileOpen = {});
-    /// An error report whose text contains `part`, in whatever letter case.
-    void expectError(const QString& part);
+    /// An error report whose text contains `part`, in whatever letter case; `whileOpen` runs before it is
+    /// answered.
+    void expectError(const QString& part, const std::function<void()>& whileOpen = {});
     bool allUsed() const { return m_expected.isEmpty(); }
 
     void tell(QWidget* owner, Icon icon, const QString& text) override;

@@ -166,7 +166,10 @@ qint32 RecordSet::int32(int field) const
 bool RecordSet::flag(int field) const
 {
     requireField(field);
-    return integer<qint64>(m_cursor->statement(), field) != 0;
+    sqlite3_stmt* statement = m_cursor->statement();
+    return sqlite3_column_type(statement, field) == SQLITE_FLOAT
+        ? sqlite3_column_double(statement, field) != 0
+        : integer<qint64>(statement, field) != 0;
 }
 
 Moment RecordSet::moment(int field) const

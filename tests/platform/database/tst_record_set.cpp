@@ -190,12 +190,14 @@ void RecordSetTest::anyNumberButZeroIsTrue()
 {
     TestDatabase database;
     Connection connection = opened(database);
-    const RecordSet records =
-        connection.execute(QStringLiteral("select 0 as a, 1 as b, -1 as c, 4294967296 as d"));
+    const RecordSet records = connection.execute(
+        QStringLiteral("select 0 as a, 1 as b, -1 as c, 4294967296 as d, 0.5 as e, 0.0 as f"));
     QVERIFY(!records.flag(0));
     QVERIFY(records.flag(1));
     QVERIFY(records.flag(2));
     QVERIFY(records.flag(3));
+    QVERIFY(records.flag(4));
+    QVERIFY(!records.flag(5));
 }
 
 void RecordSetTest::aTextThatIsNoMomentNamesItsColumn()
