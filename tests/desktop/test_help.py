@@ -1,6 +1,7 @@
 """The help and the about box as their user opens them."""
 import os
 import subprocess
+from datetime import datetime
 
 import names
 from case import DesktopCase, main
@@ -8,9 +9,14 @@ from polling import wait_until
 
 HELP = "Ambertask Help"
 NO_PRINTER = "No printer is set up on this computer. Do you want to write this topic to a PDF file instead?"
+ALERT = names.alert_title(1)
 HELP_BUTTON = ("button", "Help", "Help on categories")
 PAGES = {"Tasks": "The page Tasks", "Categories": "The page Categories", "Settings": "The page Settings",
          "Maintenance": "The page Maintenance"}
+
+
+PAST = datetime(2026, 3, 2, 10, 0, 0)
+NOW = datetime(2026, 3, 2, 10, 20, 30)
 
 
 class HelpCase(DesktopCase):
@@ -27,6 +33,23 @@ class HelpCase(DesktopCase):
     def topic_shows(self, title):
         topic = self.user.access.window(HELP).find("label", "Topic")
         wait_until(lambda: topic.text.startswith(title), f"the topic '{title}' is shown")
+
+    def wait_above(self, upper, lower):
+        wait_until(lambda: self.desk.screen.is_above(self.user.window(upper), self.user.window(lower)),
+                   f"'{upper}' is above '{lower}'")
+
+    def open_from_the_alert(self):
+        """Starts with a reminder that is due and presses Help in the alert."""
+        self.store.category("Work")
+        self.store.add_task("Call the bank", reminder=PAST)
+        self.user = self.start(self.desk.clock(NOW))
+        alert = self.user.alert(1)
+        self.user.wait_rows(["Call the bank"], alert)
+        self.user.window(ALERT).activate()
+        self.user.wait_active(ALERT)
+        self.user.click_control(alert, ("button", "Help"))
+        self.user.wait_active(HELP)
+        self.topic_shows("The alert window")
 
 
 class HelpTest(HelpCase):
@@ -83,6 +106,24 @@ class HelpTest(HelpCase):
         self.user.open_new_task()
 
 
+class AlertTest(HelpCase):
+    def test_the_alert_opens_its_topic_above_it_and_has_its_keyboard_back_afterwards(self):
+        self.open_from_the_alert()
+        self.wait_above(HELP, ALERT)
+        self.desk.input.key("Escape")
+        self.user.wait_hidden(HELP)
+        self.user.wait_active(ALERT)
+        self.assertTrue(self.user.shows(names.MAIN))
+
+    def test_help_that_is_open_already_comes_up_above_the_alert(self):
+        self.open_from_the_alert()
+        self.user.window(ALERT).activate()
+        self.user.wait_active(ALERT)
+        self.wait_above(ALERT, HELP)
+        self.user.alert(1).find("button", "Help").press()
+        self.wait_above(HELP, ALERT)
+
+
 class AboutTest(HelpCase):
     def test_about_belongs_to_the_main_window_and_ok_closes_it(self):
         self.start_shown()
@@ -108,10 +149,15 @@ class AlwaysOnTopTest(HelpCase):
         self.user.choose_tray_entry("About")
         self.opens_above(names.ABOUT)
 
+    def test_help_opens_above_the_topmost_alert(self):
+        self.open_from_the_alert()
+        wait_until(lambda: self.user.window(ALERT).topmost, "the alert is topmost")
+        self.opens_above(HELP)
+        self.wait_above(HELP, ALERT)
+
     def opens_above(self, title):
-        window = self.user.window(title)
-        wait_until(lambda: window.topmost, f"'{title}' is topmost")
-        wait_until(lambda: self.desk.screen.is_above(window, self.user.window(names.MAIN)), f"'{title}' is above")
+        wait_until(lambda: self.user.window(title).topmost, f"'{title}' is topmost")
+        self.wait_above(title, names.MAIN)
 
 
 if __name__ == "__main__":
