@@ -4,12 +4,12 @@
 #include "platform/ErrorReport.h"
 #include "platform/GridView.h"
 #include "platform/MessageBoxes.h"
+#include "ui/ComboBox.h"
 #include "ui/Combos.h"
 #include "ui/Pickers.h"
 #include "ui/clsGuiLoader.h"
 
 #include <QBoxLayout>
-#include <QComboBox>
 #include <QDateEdit>
 #include <QFormLayout>
 #include <QGridLayout>
@@ -42,8 +42,8 @@ template <typename Control> Control* named(Control* control, const char* name)
 TasksPage::TasksPage(const FormServices& services, std::function<TaskColumns()> shownColumns, QWidget* parent)
     : QWidget(parent), m_services(services), m_shownColumns(std::move(shownColumns)),
       m_model(new TaskListModel(this)), m_grid(named(new GridView, "grdTasks")),
-      m_categories(named(new QComboBox, "cmbCategories")), m_status(named(new QComboBox, "cmbStatus")),
-      m_sort(named(new QComboBox, "cmbSort")), m_allDate(named(new QRadioButton(tr("A&ll")), "opnAllDate")),
+      m_categories(named(new ComboBox, "cmbCategories")), m_status(named(new QComboBox, "cmbStatus")),
+      m_sort(named(new ComboBox, "cmbSort")), m_allDate(named(new QRadioButton(tr("A&ll")), "opnAllDate")),
       m_specificDate(named(new QRadioButton(tr("Spec&ific")), "opnSpecificDate")),
       m_dateFrom(named(new QDateEdit, "dtpDueDateFrom")), m_dateTo(named(new QDateEdit, "dtpDueDateTo")),
       m_allTasks(named(new QRadioButton(tr("All tas&ks")), "opnAllTasks")),

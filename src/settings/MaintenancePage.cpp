@@ -9,13 +9,13 @@
 #include "platform/ScreenProgress.h"
 #include "settings/DataFileCopies.h"
 #include "ui/CheckerTimer.h"
+#include "ui/ComboBox.h"
 #include "ui/Combos.h"
 #include "ui/FormServices.h"
 #include "ui/MomentTexts.h"
 #include "ui/Pickers.h"
 
 #include <QBoxLayout>
-#include <QComboBox>
 #include <QDateEdit>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -80,8 +80,8 @@ MaintenancePage::MaintenancePage(const FormServices& services, QWidget* parent)
 
 QGroupBox* MaintenancePage::makeDeleteFrame()
 {
-    m_cmbCategories = named("cmbCategoriesMaintenance", new QComboBox);
-    m_cmbStatus = named("cmbStatusMaintenance", new QComboBox);
+    m_cmbCategories = named("cmbCategoriesMaintenance", new ComboBox);
+    m_cmbStatus = named("cmbStatusMaintenance", new ComboBox);
     // The longest category is not to widen the page; the statuses are to be seen whole.
     m_cmbCategories->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_cmbCategories->setMinimumContentsLength(22);

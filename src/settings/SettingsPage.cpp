@@ -11,11 +11,11 @@
 #include "settings/Skins.h"
 #include "ui/CheckBox.h"
 #include "ui/CheckerTimer.h"
+#include "ui/ComboBox.h"
 #include "ui/FormServices.h"
 #include "ui/LinkLabel.h"
 
 #include <QBoxLayout>
-#include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -92,7 +92,7 @@ QGroupBox* SettingsPage::makeColumnsFrame()
 
 QGroupBox* SettingsPage::makeSkinsFrame()
 {
-    m_cmbSkins = new QComboBox;
+    m_cmbSkins = new ComboBox;
     m_cmbSkins->setObjectName(QStringLiteral("cmbSkins"));
     m_cmbSkins->addItems({QStringLiteral("Aqua"), QStringLiteral("Lemon"), QStringLiteral("Classic")});
     m_cmbSkins->setMinimumContentsLength(20);

@@ -2,10 +2,10 @@
 
 #include "platform/ScrollFrame.h"
 #include "ui/CheckBox.h"
+#include "ui/ComboBox.h"
 #include "ui/Combos.h"
 #include "ui/Pickers.h"
 
-#include <QComboBox>
 #include <QDateEdit>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -41,11 +41,10 @@ QLabel* addLabel(QGridLayout& grid, int row, int column, QLabel* label, const QS
 } // namespace
 
 TaskDetailsControls::TaskDetailsControls(QWidget& form)
-    : txtTask(named<QLineEdit>("txtTask", form)), cmbCategories(named<QComboBox>("cmbCategories", form)),
+    : txtTask(named<QLineEdit>("txtTask", form)), cmbCategories(named<ComboBox>("cmbCategories", form)),
       txtDescription(named<QPlainTextEdit>("txtDescription", form)),
       dtpDueDate(named<QDateEdit>("dtpDueDate", form)), dtpDueTime(named<QTimeEdit>("dtpDueTime", form)),
-      cmbStatus(named<QComboBox>("cmbStatus", form)),
-      cmbPeriorities(named<QComboBox>("cmbPeriorities", form)),
+      cmbStatus(named<ComboBox>("cmbStatus", form)), cmbPeriorities(named<ComboBox>("cmbPeriorities", form)),
       framReminderLater(named<QGroupBox>("framReminderLater", form)),
       chkEnableReminder(named<CheckBox>("chkEnableReminder", *framReminderLater)),
       lblReminderDate(named<QLabel>("lblReminderDate", *framReminderLater)),

@@ -1,8 +1,11 @@
 #include "ui/AccessibleControls.h"
 
+#include "ui/AccessibleEntries.h"
 #include "ui/CheckBox.h"
+#include "ui/ComboBox.h"
 #include "ui/LinkLabel.h"
 
+#include <QAbstractItemView>
 #include <QAccessibleWidget>
 #include <QKeySequence>
 
@@ -107,6 +110,12 @@ private:
     LinkLabel& m_link;
 };
 
+/// The combo box whose list `view` is; its window is the frame that opens below the box.
+ComboBox* comboOf(const QAbstractItemView& view)
+{
+    return qobject_cast<ComboBox*>(view.window()->parentWidget());
+}
+
 QAccessibleInterface* accessibleOf(const QString& /*className*/, QObject* object)
 {
     if (auto* box = qobject_cast<CheckBox*>(object)) {
@@ -114,6 +123,11 @@ QAccessibleInterface* accessibleOf(const QString& /*className*/, QObject* object
     }
     if (auto* link = qobject_cast<LinkLabel*>(object)) {
         return new AccessibleLink(*link);
+    }
+    if (auto* view = qobject_cast<QAbstractItemView*>(object)) {
+        if (ComboBox* combo = comboOf(*view)) {
+            return new AccessibleEntries(*view, *combo);
+        }
     }
     return nullptr;
 }

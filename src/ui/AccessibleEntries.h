@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QAccessibleWidget>
+#include <vector>
+
+class ComboBox;
+class QAbstractItemView;
+
+/// The list of a combo box for assistive technology. Each entry has an action that chooses it, whether the
+/// list is open or not; the toolkit's own entries have none. Owns the entries it has given out.
+class AccessibleEntries final : public QAccessibleWidget
+{
+public:
+    AccessibleEntries(QAbstractItemView& list, ComboBox& combo);
+    AccessibleEntries(const AccessibleEntries&) = delete;
+    AccessibleEntries& operator=(const AccessibleEntries&) = delete;
+    ~AccessibleEntries() override;
+
+    int childCount() const override;
+    /// The entry of a row; nullptr when there is no such row.
+    QAccessibleInterface* child(int index) const override;
+    int indexOfChild(const QAccessibleInterface* child) const override;
+    QAccessibleInterface* childAt(int x, int y) const override;
+    QAccessibleInterface* focusChild() const override;
+
+private:
+    QAbstractItemView& m_list;
+    ComboBox& m_combo;
+    mutable std::vector<QAccessible::Id> m_entries;
+};

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QComboBox>
+#include <optional>
+
+/// A combo box whose entries can be written in whole: a blank in the middle of a name goes on with the
+/// search, where the toolkit's own would open the list over it. Assistive technology can choose from its
+/// list.
+class ComboBox : public QComboBox
+{
+    Q_OBJECT
+
+public:
+    explicit ComboBox(QWidget* parent = nullptr);
+
+    /// Makes `row` the current entry as the user does who picks it from the list, which closes: `activated`
+    /// is sent even when it was the current one. Does nothing while the box is disabled, and without such a
+    /// row.
+    void choose(int row);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    bool goesOnWriting(const QKeyEvent& event) const;
+
+    /// When the last letter of a name was struck, as input events tell it.
+    std::optional<quint64> m_lastLetter;
+};
