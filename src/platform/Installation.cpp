@@ -38,14 +38,16 @@ Installation installationOf(const QString& executable)
 {
     const QDir folder = QFileInfo(executable).absoluteDir();
 #ifdef AMBERTASK_BIN_FOLDER
-    // The folder's name counts as well: an archive may be unpacked anywhere, beside a folder "share" too.
+    // The folder's name counts as well: a program folder may lie anywhere, beside a folder "share" too.
     const QString files = QDir::cleanPath(folder.filePath(QStringLiteral(AMBERTASK_TEMPLATE_FROM_BIN)));
     if (folder.dirName() == QLatin1String(AMBERTASK_BIN_FOLDER) && QFileInfo(files).isDir()) {
-        return {
-            executable, QDir::cleanPath(folder.filePath(QStringLiteral(AMBERTASK_MODULES_FROM_BIN))), files};
+        const QString prefix = QDir::cleanPath(folder.filePath(QStringLiteral(AMBERTASK_PREFIX_FROM_BIN)));
+        const bool holdsData = QFileInfo(pathIn(prefix, QLatin1String(DataFileName))).isFile();
+        return {executable, QDir::cleanPath(folder.filePath(QStringLiteral(AMBERTASK_MODULES_FROM_BIN))),
+            files, holdsData ? prefix : QString()};
     }
 #endif
-    return {executable, folder.path(), QString()};
+    return {executable, folder.path(), QString(), folder.path()};
 }
 
 Installation runningInstallation()

@@ -6,9 +6,11 @@
 struct Installation {
     QString executable; ///< with links resolved
     QString moduleFolder; ///< of the modules that are loaded at their first use
-    /// What a user's program folder is made from. Empty where the executable lies in the program folder
-    /// itself (build tree, unpacked archive).
+    /// What a program folder is made from. Empty where the executable lies in one (build tree).
     QString templateFolder;
+    /// The program folder that the installation itself is: the executable's, or a prefix that holds data.dat.
+    /// Empty where each user has one of their own.
+    QString programFolder;
 
     bool operator==(const Installation&) const = default;
 };

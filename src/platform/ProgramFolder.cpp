@@ -25,8 +25,8 @@ QString userDataFolder()
 
 QString programFolderOf(const Installation& installation, const QString& userData)
 {
-    return installation.templateFolder.isEmpty() ? QFileInfo(installation.executable).absolutePath()
-                                                 : pathIn(userData, QLatin1String(ProductName));
+    return installation.programFolder.isEmpty() ? pathIn(userData, QLatin1String(ProductName))
+                                                : installation.programFolder;
 }
 
 QString pathIn(const QString& folder, const QString& name)

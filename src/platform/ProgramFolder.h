@@ -9,12 +9,14 @@ inline constexpr char ProductName[] = "Ambertask";
 /// The name, without its ending, of the desktop entry of an installed program: by it a desktop finds the icon
 /// of its windows.
 inline constexpr char DesktopEntryName[] = "example.ambertask.ambertask";
+/// All tasks, categories and settings; what makes a folder a program folder.
+inline constexpr char DataFileName[] = "data.dat";
 
 /// The folder of the user's own data (XDG data home), below which an installed program keeps its folder.
 QString userDataFolder();
 
-/// The folder that holds data.dat, Skins, sounds and custom icons: that of the executable, or, for a program
-/// that is installed for everybody, one of the user's own in the folder `userData`.
+/// The folder that holds data.dat, Skins, sounds and custom icons: the installation's, or one of the user's
+/// own in the folder `userData`.
 QString programFolderOf(const Installation& installation, const QString& userData);
 
 /// `folder` and `name` with exactly one separator between them.

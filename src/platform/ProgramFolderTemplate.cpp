@@ -22,7 +22,6 @@ namespace
 {
 
 constexpr QFileDevice::Permissions PrivateFolder = PrivateFile | QFileDevice::ExeOwner;
-constexpr char DataFileName[] = "data.dat";
 constexpr char UnfinishedPrefix[] = ".Ambertask-";
 
 [[noreturn]] void fail(const QString& path, const QString& why)

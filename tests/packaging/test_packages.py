@@ -21,8 +21,14 @@ from polling import wait_until
 import names
 
 SYSTEM = BareSystem()
-SHIPPED = "usr/share/ambertask"
+# Below the prefix.
+SHIPPED = "share/ambertask"
 LIST = SHIPPED + "/shipped.sha256"
+MODULES = "lib/ambertask"
+LATER = b"\n/* of the later version */\n"
+MINE = b"\n/* as I like it */\n"
+# What a first start makes, as it is called in the system.
+OWN_FOLDER = HOME + "/.local/share/" + PROGRAM_NAME
 HELP = "Ambertask Help"
 
 
@@ -38,17 +44,51 @@ def package(pattern):
     return found[0]
 
 
+def read(*parts):
+    with open(os.path.join(*parts), "rb") as file:
+        return file.read()
+
+
+def write(content, *parts):
+    with open(os.path.join(*parts), "wb") as file:
+        file.write(content)
+
+
+def make_later(prefix):
+    """Turns what lies below the prefix into a later version: another Aqua and Lemon, a skin more, and modules in a
+    folder of its own."""
+    skins = os.path.join(prefix, SHIPPED, "Skins")
+    write(read(skins, "Aqua.skf").replace(b"Aqua", b"Copper"), skins, "Copper.skf")
+    for name in ("Aqua.skf", "Lemon.skf"):
+        write(read(skins, name) + LATER, skins, name)
+    lines = read(prefix, LIST).decode().splitlines() + ["  Skins/Copper.skf"]
+    names_shipped = [line.partition("  ")[2] for line in lines]
+    write("".join(f"{hashlib.sha256(read(prefix, SHIPPED, name)).hexdigest()}  {name}\n"
+                  for name in names_shipped).encode(), prefix, LIST)
+    modules = os.path.join(prefix, MODULES)
+    (version,) = os.listdir(modules)
+    later = "9" * len(version)
+    os.rename(os.path.join(modules, version), os.path.join(modules, later))
+    executable = os.path.join(prefix, "bin", PROGRAM_NAME)
+    place, place_later = (f"/ambertask/{name}".encode("utf-16-le") for name in (version, later))
+    program = read(executable)
+    if program.count(place) != 1:
+        raise RuntimeError("the program does not name the folder of its modules")
+    write(program.replace(place, place_later), executable)
+
+
+def later_archive(folder):
+    subprocess.run(["tar", "-C", folder, "-xzf", package("*.tar.gz")], check=True)
+    make_later(os.path.join(folder, PROGRAM_NAME))
+    made = os.path.join(folder, "later.tar.gz")
+    subprocess.run(["tar", "-C", folder, "--owner=0", "--group=0", "-czf", made, PROGRAM_NAME], check=True)
+    return made, read(folder, PROGRAM_NAME, "bin", PROGRAM_NAME)
+
+
 def later_package(folder):
-    """The package of a later version, which ships a skin more."""
     tree = os.path.join(folder, "tree")
     subprocess.run(["dpkg-deb", "--raw-extract", package("*.deb"), tree], check=True)
-    skins = os.path.join(tree, SHIPPED, "Skins")
-    with open(os.path.join(skins, "Aqua.skf"), "rb") as file:
-        copper = file.read().replace(b"Aqua", b"Copper")
-    with open(os.path.join(skins, "Copper.skf"), "wb") as file:
-        file.write(copper)
-    with open(os.path.join(tree, LIST), "a", encoding="ascii") as text:
-        text.write(hashlib.sha256(copper).hexdigest() + "  Skins/Copper.skf\n")
+    make_later(os.path.join(tree, "usr"))
     control = os.path.join(tree, "DEBIAN", "control")
     with open(control, encoding="utf-8") as text:
         lines = text.read().splitlines()
@@ -56,10 +96,14 @@ def later_package(folder):
         text.writelines(("Version: 99.0-1" if line.startswith("Version:") else line) + "\n" for line in lines)
     made = os.path.join(folder, "later.deb")
     subprocess.run(["dpkg-deb", "--root-owner-group", "--build", tree, made], check=True, stdout=subprocess.DEVNULL)
-    return made
+    return made, read(tree, "usr", "bin", PROGRAM_NAME)
 
 
 class PackageCase(unittest.TestCase):
+    def setUp(self):
+        for made in (".config", ".local"):
+            shutil.rmtree(SYSTEM.path(HOME + "/" + made), ignore_errors=True)
+
     def desk_of(self, executable, program):
         self.desk = self.enterContext(BareDesktop(SYSTEM, executable, program))
 
@@ -80,13 +124,27 @@ class PackageCase(unittest.TestCase):
 
     def work(self, program):
         """Help and report open: their modules are found, with all that they link."""
-        self.desk.input.key("F1")
-        self.wait_window(program, HELP).close()
-        main = self.wait_window(program, names.MAIN)
-        main.activate()
-        wait_until(lambda: main.active, "the window is active")
-        self.desk.input.key("p", "Alt_L")
-        self.wait_window(program, names.REPORT).close()
+        for title, keys in ((HELP, ("F1",)), (names.REPORT, ("p", "Alt_L"))):
+            main = self.wait_window(program, names.MAIN)
+            main.activate()
+            wait_until(lambda window=main: window.active, "the window is active")
+            self.desk.input.key(*keys)
+            self.wait_window(program, title).close()
+
+    def loaded_modules(self, program):
+        with open(f"/proc/{program.pid}/maps", encoding="utf-8") as maps:
+            return {os.path.basename(line.strip()) for line in maps if f"/{MODULES}/" in line}
+
+    def change_skin(self, name):
+        write(read(self.desk.program, "Skins", name) + MINE, self.desk.program, "Skins", name)
+
+    def assert_runs_and_has_brought(self, program, executable):
+        """It is the later version, has brought its skins and left the one that was changed, Aqua."""
+        self.assertEqual(read(f"/proc/{program.pid}/exe"), executable)
+        skins = os.path.join(self.desk.program, "Skins")
+        self.assertTrue(read(skins, "Aqua.skf").endswith(MINE))
+        self.assertTrue(read(skins, "Lemon.skf").endswith(LATER))
+        self.assertIn(b"Copper", read(skins, "Copper.skf"))
 
     def end(self, program):
         program.send(signal.SIGTERM)
@@ -102,8 +160,7 @@ class PackageCase(unittest.TestCase):
 class DistributionPackageTest(PackageCase):
     def test_it_is_installed_used_brought_up_to_date_and_removed(self):
         SYSTEM.install(package("*.deb"))
-        folder = os.path.join(HOME, ".local/share", PROGRAM_NAME)
-        self.desk_of("/usr/bin/" + PROGRAM_NAME, folder)
+        self.desk_of("/usr/bin/" + PROGRAM_NAME, OWN_FOLDER)
         program = self.start()
         self.work(program)
         self.end(program)
@@ -111,64 +168,111 @@ class DistributionPackageTest(PackageCase):
         self.assertEqual(((owner.st_uid, owner.st_gid), stat.S_IMODE(owner.st_mode)), (SYSTEM.ids(), 0o700))
         self.assertEqual(stat.S_IMODE(os.stat(self.desk.data_file).st_mode), 0o600)
         with open(SYSTEM.path(HOME + "/.config/autostart/Ambertask.desktop"), encoding="utf-8") as text:
-            self.assertIn(f'Exec="{folder}/{PROGRAM_NAME}"', text.read())
+            self.assertIn(f'Exec="{OWN_FOLDER}/{PROGRAM_NAME}"', text.read())
 
         self.add_due_task("Alpha")
         program = self.start()
         self.wait_window(program, names.alert_title(1))
         self.end(program)
+        self.change_skin("Aqua.skf")
 
-        with tempfile.TemporaryDirectory() as place:
-            SYSTEM.install(later_package(place))
-        self.assertEqual(SYSTEM.version("ambertask"), "installed 99.0-1")
         program = self.start()
         self.wait_window(program, names.alert_title(1))
+        self.assertEqual(self.loaded_modules(program), set())
+        with tempfile.TemporaryDirectory() as place:
+            later, executable = later_package(place)
+            SYSTEM.install(later)
+        self.assertEqual(SYSTEM.version("ambertask"), "installed 99.0-1")
+        # The copy that runs on has all that it had, a sound for the next reminder, too.
+        self.work(program)
+        self.add_due_task("Beta")
+        self.wait_window(program, names.alert_title(2))
+        wait_until(lambda: self.loaded_modules(program) == {name + ".so (deleted)" for name in (
+            "ambertask_help", "ambertask_report", "ambertask_sound")}, "its own modules are used")
         self.end(program)
-        self.assertEqual([task["task_name"] for task in self.desk.store.tasks()], ["Alpha"])
-        self.assertTrue(os.path.exists(os.path.join(self.desk.program, "Skins", "Copper.skf")))
+
+        program = self.start()
+        self.wait_window(program, names.alert_title(2))
+        self.assert_runs_and_has_brought(program, executable)
+        self.work(program)
+        self.end(program)
+        self.assertEqual([task["task_name"] for task in self.desk.store.tasks()], ["Alpha", "Beta"])
 
         # The session starts it by the link in the user's folder.
-        self.desk.executable = folder + "/" + PROGRAM_NAME
+        self.desk.executable = OWN_FOLDER + "/" + PROGRAM_NAME
         self.end(self.start())
 
         SYSTEM.run("apt-get", "purge", "-y", "-qq", "ambertask")
         for gone in ("usr/share/ambertask", "usr/lib/ambertask", "usr/bin/Ambertask"):
             self.assertFalse(os.path.lexists(SYSTEM.path(gone)), gone)
-        self.assertEqual([task["task_name"] for task in self.desk.store.tasks()], ["Alpha"])
+        self.assertEqual([task["task_name"] for task in self.desk.store.tasks()], ["Alpha", "Beta"])
 
 
 class UnpackedArchiveTest(PackageCase):
-    def test_it_is_unpacked_anywhere_and_run(self):
-        place = HOME + "/my programs ü"
+    place = HOME + "/my programs ü"
+    folder = place + "/" + PROGRAM_NAME
+
+    def setUp(self):
+        super().setUp()
+        # What it needs comes with the other package.
         SYSTEM.install(package("*.deb"))
         SYSTEM.run("apt-get", "purge", "-y", "-qq", "ambertask")
-        shutil.copy(package("*.tar.gz"), SYSTEM.path("/tmp/archive.tar.gz"))
-        os.mkdir(SYSTEM.path(place))
-        os.chown(SYSTEM.path(place), *SYSTEM.ids())
-        subprocess.run(SYSTEM.command(USER, "tar", "-C", place, "-xzf", "/tmp/archive.tar.gz"), check=True)
-        folder = place + "/" + PROGRAM_NAME
-        self.desk_of(folder + "/" + PROGRAM_NAME, folder)
-        self.assertEqual(os.listdir(SYSTEM.path(place)), [PROGRAM_NAME])
-        self.assertLessEqual({"README.txt", "LICENSE"}, set(os.listdir(self.desk.program)))
-        self.assertEqual(stat.S_IMODE(os.stat(self.desk.data_file).st_mode), 0o600)
+        os.mkdir(SYSTEM.path(self.place))
+        self.addCleanup(shutil.rmtree, SYSTEM.path(self.place))
+        os.chown(SYSTEM.path(self.place), *SYSTEM.ids())
+
+    def unpack(self, archive, *words):
+        shutil.copy(archive, SYSTEM.path("/tmp/archive.tar.gz"))
+        command = [word.replace("ambertask-NEW.tar.gz", "/tmp/archive.tar.gz") for word in words]
+        subprocess.run(SYSTEM.command(USER, *command, "-C", self.place), check=True)
+        self.assertEqual(os.listdir(SYSTEM.path(self.place)), [PROGRAM_NAME])
+
+    def readme_line(self, beginning):
+        with open(SYSTEM.path(self.folder + "/README.txt"), encoding="utf-8") as text:
+            return next(line for line in text if line.strip().startswith(beginning))
+
+    def unpack_later(self):
+        """As README.txt says it; the bytes of the later program."""
+        with tempfile.TemporaryDirectory() as place:
+            later, executable = later_archive(place)
+            self.unpack(later, *self.readme_line("tar ").split())
+        return executable
+
+    def test_the_next_version_is_unpacked_over_it_and_the_tasks_are_there(self):
+        self.unpack(package("*.tar.gz"), "tar", "-xzf", "/tmp/archive.tar.gz")
+        self.assertLessEqual({PROGRAM_NAME, "README.txt", "LICENSE"}, set(os.listdir(SYSTEM.path(self.folder))))
+        self.desk_of(self.folder + "/" + PROGRAM_NAME, OWN_FOLDER)
         program = self.start()
         self.work(program)
         self.end(program)
+        self.assertEqual(stat.S_IMODE(os.stat(self.desk.data_file).st_mode), 0o600)
         self.add_due_task("Alpha")
+        self.change_skin("Aqua.skf")
+        executable = self.unpack_later()
         program = self.start()
         self.wait_window(program, names.alert_title(1))
-        self.end(program)
-        self.bring_up_to_date(place)
-        program = self.start()
-        self.wait_window(program, names.alert_title(1))
+        self.assert_runs_and_has_brought(program, executable)
+        self.work(program)
         self.end(program)
 
-    def bring_up_to_date(self, place):
-        """As README.txt says it."""
-        with open(os.path.join(self.desk.program, "README.txt"), encoding="utf-8") as text:
-            line = next(line for line in text if line.strip().startswith("tar "))
-        words = [word.replace("ambertask-NEW.tar.gz", "/tmp/archive.tar.gz") for word in line.split()]
-        subprocess.run(SYSTEM.command(USER, *words, "-C", place), check=True)
+    def test_data_in_its_folder_is_used_there_and_survives_the_next_version(self):
+        self.unpack(package("*.tar.gz"), "tar", "-xzf", "/tmp/archive.tar.gz")
+        self.desk_of(self.folder + "/" + PROGRAM_NAME, OWN_FOLDER)
+        self.end(self.start())
+        self.add_due_task("Alpha")
+        os.remove(os.path.join(self.desk.program, PROGRAM_NAME))
+        for name in os.listdir(self.desk.program):
+            shutil.move(os.path.join(self.desk.program, name), SYSTEM.path(self.folder))
+        os.rmdir(self.desk.program)
+        self.desk_of(self.folder + "/" + PROGRAM_NAME, self.folder)
+        self.change_skin("Aqua.skf")
+        executable = self.unpack_later()
+        program = self.start()
+        self.wait_window(program, names.alert_title(1))
+        self.assert_runs_and_has_brought(program, executable)
+        self.work(program)
+        self.end(program)
+        self.assertFalse(os.path.exists(SYSTEM.path(OWN_FOLDER)))
 
     def test_the_libraries_that_its_readme_names_are_enough(self):
         with tempfile.TemporaryDirectory() as place:

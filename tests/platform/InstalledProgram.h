@@ -32,7 +32,8 @@ public:
 
     Installation installation() const
     {
-        return {filePath("usr/bin/Ambertask"), filePath("usr/lib"), filePath("usr/share/ambertask")};
+        return {
+            filePath("usr/bin/Ambertask"), filePath("usr/lib"), filePath("usr/share/ambertask"), QString()};
     }
 
     /// From now on the installed version ships this.

@@ -43,7 +43,26 @@ private slots:
         QCOMPARE(found.templateFolder, path("mein Büro/opt/share/ambertask"));
     }
 
-    void anArchiveUnpackedBesideATemplateStaysInItsFolder()
+    void aPrefixThatHoldsTheDataIsItsProgramFolder()
+    {
+        makeFolder("stick/Ambertask/share/ambertask");
+        makeFile("stick/Ambertask/share/ambertask/data.dat");
+        QCOMPARE(programFolderOf(installationOf(path("stick/Ambertask/bin/Ambertask")), UserData),
+            UserData + QStringLiteral("/Ambertask"));
+        makeFile("stick/Ambertask/data.dat");
+        const Installation found = installationOf(path("stick/Ambertask/bin/Ambertask"));
+        QCOMPARE(found.templateFolder, path("stick/Ambertask/share/ambertask"));
+        QCOMPARE(programFolderOf(found, UserData), path("stick/Ambertask"));
+    }
+
+    void aFolderOfThatNameIsNoData()
+    {
+        makeFolder("odd/share/ambertask");
+        makeFolder("odd/data.dat");
+        QCOMPARE(installationOf(path("odd/bin/Ambertask")).programFolder, QString());
+    }
+
+    void aProgramFolderBesideATemplateStaysWhatItIs()
     {
         makeFolder("usr/share/ambertask");
         const Installation found = installationOf(path("usr/Ambertask/Ambertask"));
@@ -54,8 +73,7 @@ private slots:
     void aFileInThePlaceOfTheTemplateIsNone()
     {
         makeFolder("local/share");
-        QFile file(path("local/share/ambertask"));
-        QVERIFY(file.open(QIODevice::WriteOnly));
+        makeFile("local/share/ambertask");
         QCOMPARE(installationOf(path("local/bin/Ambertask")).templateFolder, QString());
     }
 
@@ -83,6 +101,11 @@ private slots:
 private:
     QString path(const char* name) const { return m_place.filePath(QString::fromUtf8(name)); }
     void makeFolder(const char* name) const { QVERIFY(QDir().mkpath(path(name))); }
+    void makeFile(const char* name) const
+    {
+        QFile file(path(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    }
 
     QTemporaryDir m_place;
 };
