@@ -34,7 +34,8 @@ public:
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
         const QWidget* widget) const override;
     /// A picture in a selected row keeps its colours: they tell a status or a category.
-    QPixmap generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap, const QStyleOption* option) const override;
+    QPixmap generatedIconPixmap(
+        QIcon::Mode mode, const QPixmap& pixmap, const QStyleOption* option) const override;
     QIcon standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const override;
     using QProxyStyle::polish;
     void polish(QWidget* widget) override;
