@@ -199,7 +199,6 @@ private slots:
         QTest::newRow("bytes for a moment") << QStringLiteral("task_due_date=x'00'");
         QTest::newRow("a text for a number") << QStringLiteral("task_periority='urgent'");
         QTest::newRow("a number out of range") << QStringLiteral("task_periority=5000000000");
-        QTest::newRow("a fraction for a flag") << QStringLiteral("played=0.5");
         QTest::newRow("bytes for a text") << QStringLiteral("task_name=x'ff00'");
         QTest::newRow("an id out of range") << QStringLiteral("task_id=5000000000");
         QTest::newRow("a null for a moment") << QStringLiteral("task_due_date=null");
