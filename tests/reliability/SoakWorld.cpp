@@ -318,6 +318,10 @@ SoakWorld::Outcome SoakWorld::apply(const Step& step, bool keepsBetween)
         m_rows.settings = settings;
         // What had sounded is as it was when the backup was made.
         m_soundedSinceStart.clear();
+        // The next check lists what is due in it.
+        m_listed.clear();
+        m_fired.clear();
+        m_alertVisible = false;
         break;
     }
     case Kind::Settings:

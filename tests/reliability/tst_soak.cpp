@@ -200,8 +200,8 @@ QString Soak::stepsToBeKilledIn()
     child.waitForFinished();
     readLines();
     if (child.exitStatus() != QProcess::CrashExit && child.exitCode() != 0) {
-        return QStringLiteral("in the process that was to be killed: ")
-            + QString::fromUtf8(child.readAllStandardError());
+        return QStringLiteral("the process that was to be killed ended with %1: ").arg(child.exitCode())
+            + QString::fromUtf8(child.readAllStandardError()).right(600); // a failure is cut at its end
     }
     if (begun == -2) {
         return QStringLiteral("the process that was to be killed has not started");
