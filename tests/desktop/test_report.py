@@ -51,6 +51,8 @@ class ReportTest(ReportCase):
         window = self.print_list()
         self.assertFalse(window.topmost)
         self.assertFalse(window.modal)
+        # Aside, off the buttons of the list.
+        window.move(500, 20, 760, 600)
         self.user.window(names.MAIN).activate()
         self.user.wait_active(names.MAIN)
         self.user.open_new_task()
