@@ -182,7 +182,7 @@ std::shared_ptr<const ReportLayout> PreviewWindow::layOut(QSizeF area) const
 {
     return m_layout != nullptr && m_layout->page() == area
         ? m_layout
-        : std::make_shared<const ReportLayout>(m_content, area);
+        : std::make_shared<const ReportLayout>(m_content, area, layoutDirection());
 }
 
 void PreviewWindow::goToPage(int page)

@@ -65,9 +65,10 @@ struct ReportLayout::LaidRecord {
     std::vector<Band> bands;
 };
 
-ReportLayout::ReportLayout(std::shared_ptr<const ReportContent> content, QSizeF page)
-    : m_content(std::move(content)), m_page(page), m_label(9, false, Faint), m_text(10, false, Ink),
-      m_name(12, true, Ink), m_title(18, true, Amber), m_subtitle(18, false, Ink)
+ReportLayout::ReportLayout(
+    std::shared_ptr<const ReportContent> content, QSizeF page, Qt::LayoutDirection direction)
+    : m_content(std::move(content)), m_page(page), m_direction(direction), m_label(9, false, Faint),
+      m_text(10, false, Ink), m_name(12, true, Ink), m_title(18, true, Amber), m_subtitle(18, false, Ink)
 {
     for (const ReportSection& section : m_content->sections) {
         std::size_t column = 0;
@@ -124,6 +125,17 @@ void ReportLayout::placeCodes()
     }
 }
 
+qreal ReportLayout::mirrored(qreal left, qreal width) const
+{
+    return m_direction == Qt::RightToLeft ? m_page.width() - left - width : left;
+}
+
+qreal ReportLayout::mirroredText(const QString& text, const TextStyle& style, qreal left, qreal width) const
+{
+    // One that runs from right to left begins at the right edge of its room by itself.
+    return mirrored(left, text.isRightToLeft() ? width : std::min(width, style.widthOf(text)));
+}
+
 bool ReportLayout::hasRoomSideBySide() const
 {
     for (std::size_t i = 0; i < Codes.size(); ++i) {
@@ -171,14 +183,18 @@ std::unique_ptr<ReportLayout::LaidRecord> ReportLayout::layOut(std::size_t recor
     const qreal beside = m_page.width() - m_labelWidth;
     const auto addLabel = [&](const QString& name, std::size_t band, qreal left) {
         // Small letters stand on the line of the big ones beside them.
-        laid->bands[band].pieces.push_back({m_kept.text(captionOf(name), m_label, m_page.width()), 0,
-            QPointF(left, m_text.ascent() - m_label.ascent())});
+        const QString caption = captionOf(name);
+        const qreal width = m_page.width();
+        laid->bands[band].pieces.push_back({m_kept.text(caption, m_label, width), 0,
+            QPointF(mirroredText(caption, m_label, left, width), m_text.ascent() - m_label.ascent())});
     };
     const auto broken = [&](const char* control, const TextStyle& style, qreal width) {
         return std::make_shared<const BrokenText>(value(record, QLatin1String(control)), style, width);
     };
 
-    laid->addLines(m_kept.text(value(record, QStringLiteral("txtCatName")), m_text, beside), m_labelWidth);
+    const QString& category = value(record, QStringLiteral("txtCatName"));
+    laid->addLines(
+        m_kept.text(category, m_text, beside), mirroredText(category, m_text, m_labelWidth, beside));
     addLabel(QStringLiteral("Label6"), 0, 0);
     laid->bands.back().height += RowGap;
     laid->addLines(broken("txtTaskName", m_name, m_page.width()), 0);
@@ -190,19 +206,20 @@ std::unique_ptr<ReportLayout::LaidRecord> ReportLayout::layOut(std::size_t recor
             laid->bands.push_back({RowGap, {}});
         }
         addLabel(QLatin1String(Codes[i].label), laid->bands.size() - 1, place.label);
-        const LaidRecord::Text text =
-            m_kept.text(value(record, QLatin1String(Codes[i].text)), m_text, place.width);
+        const QString& word = value(record, QLatin1String(Codes[i].text));
+        const LaidRecord::Text text = m_kept.text(word, m_text, place.width);
+        const qreal left = mirroredText(word, m_text, place.value, place.width);
         LaidRecord::Band& band = laid->bands.back();
         qreal top = 0;
         for (int line = 0; line < text->lineCount(); ++line) {
-            band.pieces.push_back({text, line, QPointF(place.value, top)});
+            band.pieces.push_back({text, line, QPointF(left, top)});
             top += text->lineHeight(line);
         }
         band.height = std::max(band.height, top + RowGap);
     }
 
     const std::size_t descriptionBand = laid->bands.size();
-    laid->addLines(broken("txtTaskDesc", m_text, beside), m_labelWidth);
+    laid->addLines(broken("txtTaskDesc", m_text, beside), mirrored(m_labelWidth, beside));
     addLabel(QStringLiteral("Label5"), descriptionBand, 0);
     laid->bands.back().height += LineGap + LineThickness;
     return laid;
@@ -259,28 +276,28 @@ void ReportLayout::paintHeader(QPainter& painter) const
         const QSizeF size =
             QSizeF(m_content->image.size()).scaled(m_page.width(), HeaderHeight, Qt::KeepAspectRatio);
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.drawImage(QRectF(QPointF(0, 0), size), m_content->image);
+        painter.drawImage(QRectF(QPointF(mirrored(0, size.width()), 0), size), m_content->image);
         left = size.width() + LogoGap;
     }
     const qreal base = HeaderHeight * TitleBase;
     const auto draw = [&](const QString& text, const TextStyle& style, QPointF position) {
         BrokenText(text, style, m_page.width()).paintLine(painter, 0, position);
     };
+    // The title is a name of two words, which stay in their order.
     const QString amber = captionOf(QStringLiteral("Label7"));
     const QString organizer = captionOf(QStringLiteral("Label8"));
-    const qreal organizerLeft =
-        left + m_title.widthOf(amber) + m_title.widthOf(QStringLiteral(" ")) * TitleWordGap;
-    const qreal titleEnd = organizerLeft + m_subtitle.widthOf(organizer);
-    draw(amber, m_title, QPointF(left, base - m_title.ascent()));
-    draw(organizer, m_subtitle, QPointF(organizerLeft, base - m_subtitle.ascent()));
+    const qreal toOrganizer = m_title.widthOf(amber) + m_title.widthOf(QStringLiteral(" ")) * TitleWordGap;
+    const qreal titleWidth = toOrganizer + m_subtitle.widthOf(organizer);
+    const qreal titleLeft = mirrored(left, titleWidth);
+    draw(amber, m_title, QPointF(titleLeft, base - m_title.ascent()));
+    draw(organizer, m_subtitle, QPointF(titleLeft + toOrganizer, base - m_subtitle.ascent()));
     const QString address = captionOf(QStringLiteral("Label1"));
-    const qreal addressLeft = m_page.width() - m_label.widthOf(address);
-    if (addressLeft > titleEnd + LabelGap) {
-        draw(address, m_label, QPointF(addressLeft, base - m_label.ascent()));
-    } else {
-        // A narrow page has room for it below the title.
-        draw(address, m_label, QPointF(std::max(0.0, addressLeft), HeaderHeight));
-    }
+    const qreal addressWidth = m_label.widthOf(address);
+    // A narrow page has room for it below the title.
+    const bool isBeside = left + titleWidth + LabelGap < m_page.width() - addressWidth;
+    draw(address, m_label,
+        QPointF(mirrored(std::max(0.0, m_page.width() - addressWidth), addressWidth),
+            isBeside ? base - m_label.ascent() : HeaderHeight));
 }
 
 void ReportLayout::paintPage(QPainter& painter, int page) const

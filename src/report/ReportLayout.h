@@ -13,8 +13,10 @@
 class ReportLayout final : public PrintedPages
 {
 public:
-    /// `page` is the printable area, in units.
-    ReportLayout(std::shared_ptr<const ReportContent> content, QSizeF page);
+    /// `page` is the printable area, in units. Read from right to left, labels and logo stand at the right; a
+    /// text itself runs in its own direction either way.
+    ReportLayout(std::shared_ptr<const ReportContent> content, QSizeF page,
+        Qt::LayoutDirection direction = Qt::LeftToRight);
     ~ReportLayout() override;
 
     QSizeF page() const { return m_page; }
@@ -32,8 +34,8 @@ private:
     };
     /// Where one of the short values of a record stands.
     struct CodePlace {
-        qreal label; ///< the left edge of its label
-        qreal value; ///< the left edge of the value
+        qreal label; ///< where its label begins, from the edge at which reading begins
+        qreal value; ///< where the value begins, from that edge
         qreal width; ///< what the value has
     };
     struct LaidRecord;
@@ -42,6 +44,10 @@ private:
     const QString& value(std::size_t record, const QString& control) const;
     CodePlace placeOf(std::size_t code) const;
     void placeCodes();
+    /// The left edge of what has `width` from `left` on, counted from the edge at which reading begins.
+    qreal mirrored(qreal left, qreal width) const;
+    /// The same for a text of the row of short values or a label: it stands next to what precedes it.
+    qreal mirroredText(const QString& text, const TextStyle& style, qreal left, qreal width) const;
     /// Whether the short values all fit beside each other.
     bool hasRoomSideBySide() const;
     /// Heights of the bands of a record, from its top to its line.
@@ -53,6 +59,7 @@ private:
 
     std::shared_ptr<const ReportContent> m_content;
     QSizeF m_page;
+    Qt::LayoutDirection m_direction;
     TextStyle m_label;
     TextStyle m_text;
     TextStyle m_name;

@@ -216,28 +216,6 @@ private slots:
         QVERIFY(QString(page).remove(u' ').contains(QString(hebrew).remove(u' ')));
     }
 
-    void aTextThatRunsFromRightToLeftBeginsAtTheRight()
-    {
-        const ReportContent content = contentOf({recordOf(QStringLiteral("שלום"))});
-        const QSizeF area = printableArea(pageOf());
-        const ReportLayout layout = laidOut(content, pageOf());
-        QImage paper((area * 0.1).toSize(), QImage::Format_Grayscale8);
-        paper.fill(Qt::white);
-        QPainter painter(&paper);
-        painter.scale(0.1, 0.1);
-        layout.paintPage(painter, 0);
-        painter.end();
-        // The rightmost column of a record is the name's alone.
-        const int top = static_cast<int>(millimetres(21) * 0.1);
-        int ink = 0;
-        for (int y = top; y < top + static_cast<int>(millimetres(12) * 0.1); ++y) {
-            for (int x = paper.width() - static_cast<int>(millimetres(8) * 0.1); x < paper.width(); ++x) {
-                ink += qGray(paper.pixel(x, y)) < 128 ? 1 : 0;
-            }
-        }
-        QVERIFY(ink > 20);
-    }
-
     void longTextsAreBrokenBetweenWordsInEveryAlphabet_data()
     {
         QTest::addColumn<QString>("word");

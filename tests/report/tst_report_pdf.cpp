@@ -1,4 +1,5 @@
 #include "report/PreviewWindow.h"
+#include "settings/SkinEngine.h"
 #include "support/PdfFile.h"
 #include "support/TestMain.h"
 #include "tests/report/RecordedReportHost.h"
@@ -38,14 +39,6 @@ double darkPart(const QImage& picture, int lightness)
     return dark * 1000.0 / (picture.width() * picture.height());
 }
 
-QPalette darkPalette()
-{
-    QPalette dark(QColor(0x20, 0x24, 0x2c));
-    dark.setColor(QPalette::Text, Qt::white);
-    dark.setColor(QPalette::WindowText, Qt::white);
-    return dark;
-}
-
 } // namespace
 
 /// The report as a PDF file, seen by a reader that is not ours.
@@ -66,8 +59,6 @@ private:
     }
 
 private slots:
-    void cleanup() { QApplication::setPalette(m_usual); }
-
     void everyPageIsBlackOnWhiteInADarkSkin_data()
     {
         QTest::addColumn<bool>("arabic");
@@ -78,7 +69,10 @@ private slots:
     void everyPageIsBlackOnWhiteInADarkSkin()
     {
         QFETCH(const bool, arabic);
-        QApplication::setPalette(darkPalette());
+        SkinEngine engine;
+        engine.loadSkinFile(QStringLiteral(AMBERTASK_SHIPPED_SKINS "/Midnight.skf"));
+        engine.applySkin();
+        QVERIFY(QApplication::palette().window().color().lightness() < 80);
         const Exported exported(arabic ? arabicRecords(60) : recordsOf(60));
         QVERIFY(exported.pageCount > 4);
         for (const int page : {1, exported.pageCount / 2, exported.pageCount}) {
@@ -117,9 +111,6 @@ private slots:
         QCOMPARE(inkAtTheRight(recordsOf(1)), 0.0);
         QVERIFY(inkAtTheRight(arabicRecords(1)) > 1);
     }
-
-private:
-    QPalette m_usual = QApplication::palette();
 };
 
 AMBERTASK_TEST_MAIN(ReportPdfTest)
