@@ -6,3 +6,5 @@
 
 /// The query of the printed report: the tasks that the filter selects, in its order.
 QString taskReportQuery(const TaskFilter& filter);
+/// Whether that query asks for an order.
+bool isOrdered(const TaskFilter& filter);

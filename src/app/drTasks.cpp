@@ -10,7 +10,9 @@
 #include "ui/PdfFileChoice.h"
 
 #include <QCoreApplication>
+#include <algorithm>
 #include <array>
+#include <numeric>
 
 namespace
 {
@@ -61,6 +63,22 @@ QString dateText(Moment moment)
     return toQDate(moment).toString(format);
 }
 
+/// The engine reads the tasks so, unless another tool left statistics in the file.
+std::vector<std::vector<QString>> inOrderOfMaking(
+    std::vector<std::vector<QString>> rows, const std::vector<qint32>& ids)
+{
+    std::vector<std::size_t> order(rows.size());
+    std::iota(order.begin(), order.end(), std::size_t(0));
+    std::sort(order.begin(), order.end(),
+        [&ids](std::size_t one, std::size_t other) { return ids[one] < ids[other]; });
+    std::vector<std::vector<QString>> ordered;
+    ordered.reserve(rows.size());
+    for (const std::size_t row : order) {
+        ordered.push_back(std::move(rows[row]));
+    }
+    return ordered;
+}
+
 } // namespace
 
 std::unique_ptr<ReportWindow> loadReportWindow(Modules& modules, ReportHost& host)
@@ -92,8 +110,8 @@ void drTasks::printTasks(const TaskFilter& filter, QWidget* owner)
     ReportWindow& window = loadedWindow();
     bindFields();
     // A report may stay open for long: read to its end, the record set holds no lock on the data.
-    ReportContent content{
-        tr("Tasks Report"), QImage(QStringLiteral(":/logo/logo-96.png")), m_sections, readRecords(records)};
+    ReportContent content{tr("Tasks Report"), QImage(QStringLiteral(":/logo/logo-96.png")), m_sections,
+        readRecords(records, isOrdered(filter))};
     forFinalizing(std::move(connection), std::move(records));
     window.setContent(std::move(content));
     if (m_services.alwaysOnTop()) {
@@ -115,7 +133,7 @@ void drTasks::bindFields()
     }
 }
 
-std::vector<std::vector<QString>> drTasks::readRecords(RecordSet& records) const
+std::vector<std::vector<QString>> drTasks::readRecords(RecordSet& records, bool isOrdered) const
 {
     struct Column {
         int field;
@@ -133,8 +151,11 @@ std::vector<std::vector<QString>> drTasks::readRecords(RecordSet& records) const
             }
         }
     }
+    const int id = records.field("task_id");
     std::vector<std::vector<QString>> rows;
+    std::vector<qint32> ids;
     for (; !records.atEnd(); records.moveNext()) {
+        ids.push_back(records.int32(id));
         std::vector<QString>& row = rows.emplace_back();
         row.reserve(columns.size());
         for (const Column& column : columns) {
@@ -144,6 +165,9 @@ std::vector<std::vector<QString>> drTasks::readRecords(RecordSet& records) const
                 (*column.format)(row.back());
             }
         }
+    }
+    if (!isOrdered && !std::is_sorted(ids.cbegin(), ids.cend())) {
+        rows = inOrderOfMaking(std::move(rows), ids);
     }
     return rows;
 }

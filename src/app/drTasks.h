@@ -46,8 +46,8 @@ public:
 
 private:
     void bindFields();
-    /// Reads the record set to its end.
-    std::vector<std::vector<QString>> readRecords(RecordSet& records) const;
+    /// Reads the record set to its end; in the order of making when it has no other.
+    std::vector<std::vector<QString>> readRecords(RecordSet& records, bool isOrdered) const;
     ReportWindow& loadedWindow();
 
     QString choosePdfFile(QWidget* owner) override;

@@ -6,6 +6,8 @@
 #include "platform/RuntimeError.h"
 #include "platform/database/DatabaseError.h"
 
+#include <algorithm>
+
 namespace
 {
 
@@ -72,6 +74,7 @@ public:
         }
     }
     const QString& text() const { return m_text; }
+    bool isOrdered() const { return m_text.contains(QLatin1String(" order by ")); }
 
 private:
     void addCondition(QLatin1String condition)
@@ -226,6 +229,15 @@ std::vector<ClsTask> ClsTask::GetTasks(qint16 cat, qint32 status, qint32 sortBy,
         reader.read(records, tasks.emplace_back(*m_engine));
     }
     connection.close();
+    if (!statement.isOrdered()) {
+        // In the order of making. The engine reads them so, unless another tool left statistics in the file.
+        const auto isEarlier = [](const ClsTask& one, const ClsTask& other) {
+            return one.Id() < other.Id();
+        };
+        if (!std::is_sorted(tasks.cbegin(), tasks.cend(), isEarlier)) {
+            std::sort(tasks.begin(), tasks.end(), isEarlier);
+        }
+    }
     return tasks;
 }
 

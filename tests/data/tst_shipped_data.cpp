@@ -44,6 +44,8 @@ private slots:
     void nullsAreRefused();
     void theReminderCheckDoesNotScan();
     void listsKeepTheOrderOfCreation();
+    void aFilterOnCategoryOrStatusReadsOnlyWhatItKeeps_data();
+    void aFilterOnCategoryOrStatusReadsOnlyWhatItKeeps();
     void numbersOfDeletedRecordsAreNotUsedAgain();
 };
 
@@ -123,6 +125,42 @@ void ShippedDataTest::theReminderCheckDoesNotScan()
             qPrintable(steps));
         QVERIFY2(!steps.contains(QLatin1String("SCAN")), qPrintable(steps));
     }
+}
+
+void ShippedDataTest::aFilterOnCategoryOrStatusReadsOnlyWhatItKeeps_data()
+{
+    QTest::addColumn<QString>("statement");
+    QTest::addColumn<QString>("step");
+    const QString list =
+        QStringLiteral("select * from tasks inner join categories on tasks.cat_id=categories.cat_id where ");
+    const QString category = QStringLiteral("SEARCH tasks USING INDEX tasks_by_category (cat_id=?)");
+    const QString status = QStringLiteral("SEARCH tasks USING INDEX tasks_by_status (task_status=?)");
+    const QString range =
+        QStringLiteral("task_due_date >= #1/1/2007# and task_due_date <= #1/31/2007 23:59# ");
+    QTest::newRow("category") << list + QStringLiteral("categories.cat_id= 3") << category;
+    QTest::newRow("status") << list + QStringLiteral("task_status = 4") << status;
+    QTest::newRow("category and status")
+        << list + QStringLiteral("categories.cat_id= 3 and task_status = 4") << category;
+    QTest::newRow("status and time") << list + QStringLiteral("task_status = 4 and task_due_date  <now()")
+                                     << status;
+    QTest::newRow("category and range")
+        << list + QStringLiteral("categories.cat_id= 3 and ") + range << category;
+    QTest::newRow("delete a category") << QStringLiteral("delete from tasks where cat_id = 3") << category;
+    QTest::newRow("count of a status")
+        << QStringLiteral("select count(*) as tasks_count from tasks  where task_status = 1 and ") + range
+        << status;
+    QTest::newRow("delete of a category, a status, a range")
+        << QStringLiteral("delete from tasks  where cat_id= 3 and task_status = 1 and ") + range << category;
+}
+
+void ShippedDataTest::aFilterOnCategoryOrStatusReadsOnlyWhatItKeeps()
+{
+    QFETCH(const QString, statement);
+    QFETCH(const QString, step);
+    TestDatabase database;
+    const QString steps = plan(database, statement);
+    QVERIFY2(steps.contains(step), qPrintable(steps));
+    QVERIFY2(!steps.contains(QLatin1String("SCAN")), qPrintable(steps));
 }
 
 void ShippedDataTest::listsKeepTheOrderOfCreation()
