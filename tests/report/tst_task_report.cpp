@@ -12,6 +12,7 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
+#include <algorithm>
 
 using namespace std::chrono_literals;
 
@@ -66,6 +67,27 @@ private slots:
         QVERIFY(text.contains(QStringLiteral("Waiting on someone else")));
         QVERIFY(!text.contains(QStringLiteral("done")));
         QVERIFY(text.contains(QStringLiteral("https://www.ambertask.example")));
+    }
+
+    void withoutAnOrderTheTasksStandInTheOrderOfTheirMaking()
+    {
+        // With statistics in the file the engine goes from category to category.
+        Fixture f;
+        QStringList made;
+        for (int i = 0; i < 12; ++i) {
+            made.append(QStringLiteral("task-%1-").arg(i));
+            aTask(f.services.database).named(made.last()).in(static_cast<qint16>(4 - i % 4)).add();
+        }
+        f.services.database.sql(QStringLiteral("analyze"));
+        f.print();
+        const QString text = f.text();
+        std::sort(made.begin(), made.end(), [&text](const QString& one, const QString& other) {
+            return text.indexOf(one) < text.indexOf(other);
+        });
+        for (int i = 0; i < 12; ++i) {
+            QCOMPARE(made.at(i), QStringLiteral("task-%1-").arg(i));
+            QVERIFY(text.contains(made.at(i)));
+        }
     }
 
     void aTaskWithPeriority7PrintsLow()

@@ -1,3 +1,5 @@
+#include "data/ClsTask.h"
+#include "data/TaskCodes.h"
 #include "platform/FileReplace.h"
 #include "settings/DataFileCopies.h"
 #include "settings/DeadOperation.h"
@@ -58,6 +60,7 @@ private slots:
     void theDataFileIsNotItsOwnBackup();
     void theFileOfTheLastRestoreCanBeRestored();
     void aBackupWithoutASettingsRowIsRestored();
+    void aBackupOfAnEarlierVersionWithoutItsIndexesIsRestored();
     void aDamagedDataFileIsReplaced();
     void aMissingDataFileIsReplaced();
     void theJournalOfADeadProcessDoesNotReachTheNewFile();
@@ -265,6 +268,18 @@ void TestRestore::aBackupWithoutASettingsRowIsRestored()
     test.restore(test.backup());
     QCOMPARE(test.restored.size(), 1);
     QCOMPARE(test.tasks(), QStringList(QStringLiteral("before")));
+}
+
+void TestRestore::aBackupOfAnEarlierVersionWithoutItsIndexesIsRestored()
+{
+    RestoreUnderTest test;
+    execute(test.backup(), "drop index tasks_by_status; drop index tasks_by_category");
+    test.restore(test.backup());
+    QCOMPARE(test.restored.size(), 1);
+    QCOMPARE(test.tasks(), QStringList(QStringLiteral("before")));
+    const auto done = ClsTask(test.database.engine())
+                          .GetTasks(1, TaskStatus::NotStarted, TaskSort::None, false, {}, {}, TaskType::All);
+    QCOMPARE(done.size(), std::size_t(1));
 }
 
 void TestRestore::aDamagedDataFileIsReplaced()
