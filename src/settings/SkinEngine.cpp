@@ -11,12 +11,14 @@ namespace
 {
 
 /// Under a style sheet the style is not asked how large a number, date or time wants to be: as high as the
-/// lists and edits beside it, with room for its text beside arrows that grow with the letters.
-QString fieldSheet()
+/// lists and edits beside it, with room for its text beside arrows that grow with the letters. Nor is it
+/// asked where the arrow of a menu goes, which would lie in the lower corner.
+QString controlSheet()
 {
     return QStringLiteral("QAbstractSpinBox { min-height: %1px; }\n"
                           "QDateEdit { min-width: 9em; }\n"
-                          "QTimeEdit { min-width: 4em; }\n")
+                          "QTimeEdit { min-width: 4em; }\n"
+                          "QPushButton::menu-indicator { subcontrol-position: center right; width: 1.6em; }\n")
         .arg(QFontMetrics(QApplication::font()).height() + SkinStyle::SpinBoxAir);
 }
 
@@ -53,7 +55,7 @@ const SkinFile& SkinEngine::read(const QString& path)
 
 void SkinEngine::applySkin()
 {
-    const QString sheet = fieldSheet() + m_loaded.styleSheet;
+    const QString sheet = controlSheet() + m_loaded.styleSheet;
     // Every widget is polished anew by what follows.
     if (qApp->styleSheet() == sheet && m_appliedPalette == m_loaded.palette) {
         return;

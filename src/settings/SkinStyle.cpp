@@ -278,6 +278,11 @@ int SkinStyle::styleHint(
     if (hint == SH_Table_GridLineColor && option != nullptr) {
         return static_cast<int>(option->palette.color(QPalette::Midlight).rgba());
     }
+    if (hint == SH_MenuBar_AltKeyNavigation) {
+        // Alt closes no menu: with assistive technology the toolkit delivers keys late, and the Alt that
+        // opened a menu by a mnemonic would come after it.
+        return 0;
+    }
     if (hint == SH_EtchDisabledText || hint == SH_DitherDisabledText
         || hint == SH_DialogButtonBox_ButtonsHaveIcons) {
         return 0;

@@ -7,6 +7,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
@@ -73,6 +74,22 @@ int differingPixels(const QImage& left, const QImage& right, const QRect& area)
     return differing;
 }
 
+/// Half way between the first and the last row of `area` that differ from its upper left corner.
+double markedMiddle(const QImage& image, const QRect& area)
+{
+    int first = area.bottom();
+    int last = area.top();
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        for (int x = area.left(); x <= area.right(); ++x) {
+            if (image.pixel(x, y) != image.pixel(area.topLeft())) {
+                first = std::min(first, y);
+                last = std::max(last, y);
+            }
+        }
+    }
+    return (first + last) / 2.0;
+}
+
 QImage pictureOf(QWidget& widget)
 {
     widget.resize(widget.sizeHint().expandedTo(QSize(120, 0)));
@@ -117,6 +134,8 @@ private slots:
     void radioDotsAreVisible();
     void arrowsAreVisible_data() { skins(); }
     void arrowsAreVisible();
+    void theArrowOfAMenuLiesHalfWayUpItsButton_data() { skins(); }
+    void theArrowOfAMenuLiesHalfWayUpItsButton();
     void theFocusIsVisible_data() { skins(); }
     void theFocusIsVisible();
 
@@ -325,6 +344,26 @@ void TestShippedSkins::arrowsAreVisible()
         const QRect both = arrowOf(picture);
         QVERIFY(strongestMark(picture, both.adjusted(0, 0, 0, -both.height() / 2)) >= least);
         QVERIFY(strongestMark(picture, both.adjusted(0, both.height() / 2, 0, 0)) >= least);
+    }
+}
+
+void TestShippedSkins::theArrowOfAMenuLiesHalfWayUpItsButton()
+{
+    QFETCH(const QString, skin);
+    wear(skin);
+    for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        QPushButton button(QStringLiteral("Set to"));
+        QMenu menu;
+        button.setMenu(&menu);
+        button.setLayoutDirection(direction);
+        const QImage picture = pictureOf(button);
+        const QRect end = arrowOf(picture);
+        const QRect area = direction == Qt::LeftToRight
+            ? end
+            : end.translated(picture.width() - end.right() - end.left(), 0);
+        QVERIFY(strongestMark(picture, area) >= 4.5);
+        QVERIFY2(std::abs(markedMiddle(picture, area) - (picture.height() - 1) / 2.0) <= 1.5,
+            qPrintable(QString::number(markedMiddle(picture, area))));
     }
 }
 

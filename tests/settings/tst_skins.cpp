@@ -5,6 +5,7 @@
 #include "support/TestMain.h"
 
 #include <QApplication>
+#include <QMenu>
 #include <QTemporaryDir>
 #include <QWidget>
 
@@ -84,6 +85,7 @@ private slots:
     void noNameIsNoFault();
     void addedFilesAreReadableByOthers();
     void addingRefusesAPathThatIsNoFile();
+    void aMenuStaysOpenWhenTheAltOfItsMnemonicComesLate();
 };
 
 void TestSkins::aSkinIsFoundByItsFileName()
@@ -241,6 +243,18 @@ void TestSkins::addingRefusesAPathThatIsNoFile()
     QVERIFY(caught<RuntimeError>([&] { test.skins.add({}); }).has_value());
     QVERIFY(caught<RuntimeError>([&] { test.skins.add(test.folder.path()); }).has_value());
     QVERIFY(caught<RuntimeError>([&] { test.skins.add(QStringLiteral("/nowhere/X.skf")); }).has_value());
+}
+
+void TestSkins::aMenuStaysOpenWhenTheAltOfItsMnemonicComesLate()
+{
+    const SkinsUnderTest test;
+    QMenu menu;
+    menu.addAction(QStringLiteral("Entry"));
+    menu.popup({});
+    QTest::keyClick(&menu, Qt::Key_Alt);
+    QVERIFY(menu.isVisible());
+    QTest::keyClick(&menu, Qt::Key_Escape);
+    QVERIFY(!menu.isVisible());
 }
 
 AMBERTASK_TEST_MAIN(TestSkins)
