@@ -11,6 +11,7 @@
 #include "settings/MaintenancePage.h"
 #include "settings/SettingsPage.h"
 #include "settings/SettingsRecord.h"
+#include "ui/CloseBox.h"
 #include "ui/LinkLabel.h"
 #include "ui/PictureLabel.h"
 #include "ui/clsGuiLoader.h"
@@ -18,7 +19,6 @@
 #include <QAction>
 #include <QBoxLayout>
 #include <QCloseEvent>
-#include <QGuiApplication>
 #include <QMenu>
 #include <QShortcut>
 #include <QTabBar>
@@ -297,7 +297,7 @@ void frmMain::paintEvent(QPaintEvent* event)
 
 void frmMain::closeEvent(QCloseEvent* event)
 {
-    if (m_ending || qGuiApp->isSavingSession()) {
+    if (m_ending || !isCloseByUser(*event)) {
         event->accept();
         return;
     }

@@ -8,6 +8,7 @@
 #include "platform/ImageList.h"
 #include "platform/MessageBoxes.h"
 #include "ui/CheckerTimer.h"
+#include "ui/CloseBox.h"
 #include "ui/ControlValue.h"
 #include "ui/PictureLabel.h"
 
@@ -279,6 +280,8 @@ void frmCategoryDetails::showEvent(QShowEvent* event)
 
 void frmCategoryDetails::closeEvent(QCloseEvent* event)
 {
-    event->ignore();
-    hide();
+    if (isCloseByUser(*event)) {
+        event->ignore();
+        hide();
+    }
 }

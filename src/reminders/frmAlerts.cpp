@@ -10,6 +10,7 @@
 #include "reminders/AlertsHost.h"
 #include "reminders/FlashBand.h"
 #include "reminders/UsualMomentButton.h"
+#include "ui/CloseBox.h"
 #include "ui/DateComposition.h"
 #include "ui/Pickers.h"
 
@@ -364,7 +365,7 @@ void frmAlerts::showEvent(QShowEvent* event)
 void frmAlerts::closeEvent(QCloseEvent* event)
 {
     // Only the close box hides; a log-out and the end of the program unload the window.
-    if (event->spontaneous() && !qGuiApp->isSavingSession()) {
+    if (isCloseByUser(*event)) {
         event->ignore();
         hide();
         closeSound();

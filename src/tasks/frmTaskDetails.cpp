@@ -6,6 +6,7 @@
 #include "platform/MessageBoxes.h"
 #include "tasks/TaskDetailsHost.h"
 #include "ui/CheckerTimer.h"
+#include "ui/CloseBox.h"
 #include "ui/Combos.h"
 #include "ui/ControlValue.h"
 #include "ui/DateComposition.h"
@@ -340,6 +341,8 @@ void frmTaskDetails::showEvent(QShowEvent* event)
 
 void frmTaskDetails::closeEvent(QCloseEvent* event)
 {
-    event->ignore();
-    hide();
+    if (isCloseByUser(*event)) {
+        event->ignore();
+        hide();
+    }
 }

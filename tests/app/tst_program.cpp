@@ -2,6 +2,7 @@
 #include "categories/frmCategoryDetails.h"
 #include "platform/WindowPlacement.h"
 #include "reminders/frmAlerts.h"
+#include "support/ClosedWindow.h"
 #include "support/TestMain.h"
 #include "tasks/frmTaskDetails.h"
 
@@ -121,7 +122,7 @@ private slots:
         f.setting(QStringLiteral("show_ballon_icon"), 0);
         f.start();
         const QSignalSpy ended(&f.program, &Program::endRequested);
-        f.main().close();
+        closeBySystem(f.main());
         QVERIFY(!f.main().isVisible());
         QCOMPARE(f.menu("mnuShow")->text(), QStringLiteral("Show"));
         QCOMPARE(ended.count(), 0);
@@ -130,12 +131,20 @@ private slots:
         QCOMPARE(f.menu("mnuShow")->text(), QStringLiteral("Hide"));
     }
 
+    void closingItFromCodeIsNotTheCloseBox()
+    {
+        ProgramFixture f;
+        f.start();
+        QVERIFY(f.main().close());
+        QVERIFY(!closeBySystem(f.main()));
+    }
+
     void withoutANotificationAreaTheCloseBoxMinimizes()
     {
         ProgramFixture f;
         f.notificationArea = false;
         f.start();
-        f.main().close();
+        closeBySystem(f.main());
         QVERIFY(f.main().isMinimized());
         QCOMPARE(f.menu("mnuShow")->text(), QStringLiteral("Show"));
         f.menu("mnuShow")->trigger();
@@ -149,7 +158,7 @@ private slots:
         f.setting(QStringLiteral("show_ballon_icon"), 0);
         f.start();
         f.program.loadDialogs();
-        f.main().close();
+        closeBySystem(f.main());
         QVERIFY(!f.main().isVisible());
         f.notificationArea = false;
         f.program.alerts().tmrTasksChecker_Timer();

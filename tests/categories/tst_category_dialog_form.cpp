@@ -1,6 +1,7 @@
 #include "categories/DialogUnderTest.h"
 #include "platform/RuntimeError.h"
 #include "support/CaughtError.h"
+#include "support/ClosedWindow.h"
 #include "support/TestMain.h"
 #include "support/TestPictures.h"
 
@@ -269,7 +270,7 @@ void CategoryDialogFormTest::theCloseBoxHides()
     QVERIFY(test.show());
     test.name()->setText(QStringLiteral("kept"));
     const QSignalSpy cancelled(&test.dialog, &frmCategoryDetails::cancelled);
-    test.dialog.close();
+    QVERIFY(!closeBySystem(test.dialog));
     QVERIFY(!test.dialog.isVisible());
     QCOMPARE(cancelled.count(), 0);
     QVERIFY(test.show());

@@ -1,5 +1,6 @@
 #include "AlertsFixture.h"
 #include "reminders/FlashBand.h"
+#include "support/ClosedWindow.h"
 #include "support/TestMain.h"
 
 #include <QDateEdit>
@@ -39,15 +40,6 @@ struct ShownAlerts : AlertsFixture {
 
     bool isActive = false;
 };
-
-/// As the close box of the window's frame does.
-bool closeBySystem(QWidget& window)
-{
-    QCloseEvent event;
-    QSpontaneKeyEvent::setSpontaneous(&event);
-    qApp->notify(&window, &event);
-    return event.isAccepted();
-}
 
 QImage picture(QWidget* widget)
 {

@@ -1,3 +1,4 @@
+#include "support/ClosedWindow.h"
 #include "support/TestMain.h"
 #include "tasks/TaskDialog.h"
 
@@ -32,6 +33,7 @@ private slots:
     void escapeClosesAnOpenListFirst();
     void cancelWritesNothingAndTellsAfterHiding();
     void theCloseBoxHidesAndTellsNothing();
+    void theProgramCanCloseIt();
     void aComposedTextIsLeftToTheEdit();
     void tabLeavesTheDescription();
     void pressedMnemonicsLeadToTheirControls();
@@ -259,12 +261,20 @@ void TestTaskDetailsKeys::theCloseBoxHidesAndTellsNothing()
 {
     TaskDialog dialog;
     dialog.showValid();
-    QVERIFY(!dialog.form->close());
+    QVERIFY(!closeBySystem(*dialog.form));
     QVERIFY(!dialog.form->isVisible());
     QCOMPARE(dialog.facts, QStringList());
     QCOMPARE(dialog.services.database.statements().take(), QStringList());
     dialog.form->show();
     QCOMPARE(dialog.text("txtTask"), QStringLiteral("task"));
+}
+
+void TestTaskDetailsKeys::theProgramCanCloseIt()
+{
+    TaskDialog dialog;
+    dialog.showValid();
+    QVERIFY(dialog.form->close());
+    QVERIFY(!dialog.form->isVisible());
 }
 
 void TestTaskDetailsKeys::aComposedTextIsLeftToTheEdit()

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QTest>
+#include <QWidget>
+
+/// Closes the window as the close box of its frame does; whether it let that happen.
+inline bool closeBySystem(QWidget& window)
+{
+    QCloseEvent event;
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    qApp->notify(&window, &event);
+    return event.isAccepted();
+}
