@@ -10,9 +10,9 @@ from xinput import RIGHT
 class User:
     """Starts the program and works it. Windows and controls are looked up anew for every act."""
 
-    def __init__(self, desk, clock=None, environment=None, arguments=None):
+    def __init__(self, desk, clock=None, environment=None, arguments=None, command=None):
         self.desk = desk
-        self.program = desk.start(clock, environment=environment, arguments=arguments)
+        self.program = desk.start(clock, command, environment, arguments)
         self.access = Access(desk.access_address(), self.program.pid)
 
     def close(self):
