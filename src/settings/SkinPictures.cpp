@@ -14,6 +14,11 @@ namespace
 const QColor Warning(0xE3, 0x9A, 0x1C);
 const QColor WarningInk(0x2B, 0x1A, 0x00);
 const QColor Failure(0xC6, 0x28, 0x28);
+/// About as far from white as from black.
+constexpr int FadedInk = 0x76;
+/// How much of the ground shows through white.
+constexpr double FadedWhite = 0.75;
+constexpr double FullTone = 255;
 
 /// Draws anew for each size.
 class DrawnIconEngine final : public QIconEngine
@@ -117,4 +122,22 @@ QIcon messagePicture(QStyle::StandardPixmap picture)
 {
     return QIcon(new DrawnIconEngine(
         [picture](QPainter& painter, const QRect& rect) { drawMessagePicture(painter, rect, picture); }));
+}
+
+QPixmap fadedPicture(const QPixmap& picture)
+{
+    QImage image = picture.toImage().convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < image.height(); ++y) {
+        auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
+        for (int x = 0; x < image.width(); ++x) {
+            const double light = qGray(line[x]) / FullTone;
+            // Colours of middle tone stay whole; the letters and lines in them go.
+            const double shining = FadedWhite * light * light * light * light;
+            const int alpha = qRound(qAlpha(line[x]) * (1 - shining));
+            line[x] = qRgba(FadedInk, FadedInk, FadedInk, alpha);
+        }
+    }
+    QPixmap faded = QPixmap::fromImage(image);
+    faded.setDevicePixelRatio(picture.devicePixelRatio());
+    return faded;
 }

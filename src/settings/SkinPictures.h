@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QIcon>
+#include <QPixmap>
 #include <QStyle>
 
 // Pictures that a skin draws in its own colours; they follow a change of skin.
@@ -11,3 +12,6 @@ QIcon headArrow(Qt::ArrowType direction);
 bool isMessagePicture(QStyle::StandardPixmap picture);
 /// The picture of a message box: question, notice, warning or failure.
 QIcon messagePicture(QStyle::StandardPixmap picture);
+/// The picture of what cannot be used now: in one grey that stands out from light and from dark grounds, with
+/// the ground showing through where the picture is light.
+QPixmap fadedPicture(const QPixmap& picture);

@@ -201,6 +201,10 @@ void SkinStyle::drawItemText(QPainter* painter, const QRect& rect, int flags, co
 void SkinStyle::drawControl(
     ControlElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const
 {
+    if (element == CE_ProgressBarGroove) {
+        paintField(*painter, option->rect, *option);
+        return;
+    }
     const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
     if (element == CE_ComboBoxLabel && combo != nullptr) {
         QStyleOptionComboBox elided = *combo;
@@ -313,7 +317,14 @@ QSize SkinStyle::sizeFromContents(
 QPixmap SkinStyle::generatedIconPixmap(
     QIcon::Mode mode, const QPixmap& pixmap, const QStyleOption* option) const
 {
-    return mode == QIcon::Selected ? pixmap : QProxyStyle::generatedIconPixmap(mode, pixmap, option);
+    switch (mode) {
+    case QIcon::Selected:
+        return pixmap;
+    case QIcon::Disabled:
+        return fadedPicture(pixmap);
+    default:
+        return QProxyStyle::generatedIconPixmap(mode, pixmap, option);
+    }
 }
 
 QIcon SkinStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const

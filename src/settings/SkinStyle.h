@@ -33,7 +33,8 @@ public:
         QStyleHintReturn* returned) const override;
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
         const QWidget* widget) const override;
-    /// A picture in a selected row keeps its colours: they tell a status or a category.
+    /// A picture in a selected row keeps its colours: they tell a status or a category. A disabled one is
+    /// grey, and can be seen on the ground of every skin.
     QPixmap generatedIconPixmap(
         QIcon::Mode mode, const QPixmap& pixmap, const QStyleOption* option) const override;
     QIcon standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const override;

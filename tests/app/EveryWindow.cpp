@@ -3,40 +3,26 @@
 #include "categories/frmCategoryDetails.h"
 #include "help/frmAbout.h"
 #include "help/window/CompiledHelpWindow.h"
-#include "platform/MessageBoxes.h"
 #include "platform/WindowPlacement.h"
 #include "reminders/frmAlerts.h"
 #include "report/PreviewWindow.h"
 #include "tasks/frmTaskDetails.h"
+#include "tests/app/EveryBox.h"
 #include "tests/help/RecordedHelpHost.h"
+#include "tests/report/RecordedReportHost.h"
 #include "tests/report/ReportSamples.h"
 
 #include <QCheckBox>
+#include <QListView>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QTabWidget>
-#include <QTimer>
+#include <QTest>
+#include <QTextBrowser>
+#include <QTextTable>
 
 namespace
 {
-
-using Visit = std::function<void(const QString& name, QWidget& window)>;
-
-class SilentHost final : public ReportHost
-{
-public:
-    QString choosePdfFile(QWidget*) override { return {}; }
-    void tellFailure(QWidget*, const QString&) override { }
-    void windowClosed() override { }
-};
-
-void settle()
-{
-    // Layouts ask for another round when a scroll bar comes or goes.
-    for (int i = 0; i < 3; ++i) {
-        QCoreApplication::sendPostedEvents();
-        QCoreApplication::processEvents();
-    }
-}
 
 void visitPages(SkinnedProgram& f, const Visit& visit)
 {
@@ -44,11 +30,11 @@ void visitPages(SkinnedProgram& f, const Visit& visit)
     auto* tabs = f.control<QTabWidget>(f.main(), "tabMain");
     for (int page = tabs->count() - 1; page >= 0; --page) {
         tabs->setCurrentIndex(page);
-        settle();
+        settleWindows();
         visit(QStringLiteral("page ") + tabs->tabText(page), f.main());
     }
     f.control<QRadioButton>(f.main(), "opnSpecificDate")->click();
-    settle();
+    settleWindows();
     visit(QStringLiteral("page with dates"), f.main());
 }
 
@@ -56,63 +42,89 @@ void visitDialogs(SkinnedProgram& f, const Visit& visit)
 {
     f.press(f.main(), "btnTaskAdd");
     frmTaskDetails& task = f.program.taskDetails();
-    settle();
+    settleWindows();
     visit(QStringLiteral("new task"), task);
     f.control<QCheckBox>(task, "chkEnableReminder")->click();
     f.control<QCheckBox>(task, "chkReminderSound")->click();
     f.control<QCheckBox>(task, "chkReminderFile")->click();
-    settle();
+    settleWindows();
     visit(QStringLiteral("task with a reminder"), task);
     task.hide();
     f.press(f.main(), "btnAddCat");
     frmCategoryDetails& category = f.program.categoryDetails();
-    settle();
+    settleWindows();
     visit(QStringLiteral("new category"), category);
     f.control<QRadioButton>(category, "opnCustomIcon")->click();
-    settle();
+    settleWindows();
     visit(QStringLiteral("category with a picture"), category);
     category.hide();
+    // Left to itself, this platform activates no other window.
+    f.main().activateWindow();
+    settleWindows();
+    auto* list = f.control<QListView>(f.main(), "lstViewCategories");
+    list->setCurrentIndex(list->model()->index(0, 0));
+    f.press(f.main(), "btnEditCat");
+    settleWindows();
+    QVERIFY(!f.control<QWidget>(category, "txtCatName")->isEnabled());
+    visit(QStringLiteral("category whose name is locked"), category);
+    category.hide();
+}
+
+void visitAlert(SkinnedProgram& f, const Visit& visit)
+{
     visit(QStringLiteral("alert"), f.program.alerts());
+    f.grid(f.program.alerts())->selectOnly(0);
+    visit(QStringLiteral("alert with a selected row"), f.program.alerts());
     f.menu("mnuAbout")->trigger();
-    settle();
+    settleWindows();
     visit(QStringLiteral("about"), *openWindow<frmAbout>());
 }
 
-void visitQuestion(SkinnedProgram& f, const Visit& visit)
+void scrollToTable(QTextBrowser& topic)
 {
-    QTimer::singleShot(0, &f.main(), [&] {
-        QWidget* box = QApplication::activeModalWidget();
-        settle();
-        visit(QStringLiteral("question"), *box);
-        box->close();
-    });
-    ScreenMessageBoxes().ask(&f.main(),
-        QStringLiteral(
-            "Are you sure you want to delete '%1' category, all tasks under this category will be deleted?")
-            .arg(QString(250, u'w')));
+    for (const QTextFrame* frame : topic.document()->rootFrame()->childFrames()) {
+        if (qobject_cast<const QTextTable*>(frame) != nullptr) {
+            topic.setTextCursor(frame->firstCursorPosition());
+            topic.verticalScrollBar()->setValue(
+                topic.verticalScrollBar()->value() + topic.cursorRect().top());
+            return;
+        }
+    }
+    QFAIL("no table");
 }
 
-void visitModules(const Visit& visit)
+void visitHelp(const Visit& visit)
 {
     RecordedHelpHost helpHost;
     CompiledHelpWindow help(helpHost, [] { return true; });
     help.setFile(QStringLiteral(AMBERTASK_HELP_FILE));
     help.showContents();
     showOwned(&help, nullptr);
-    settle();
+    settleWindows();
     visit(QStringLiteral("help contents"), help);
     help.showIndex();
-    settle();
+    settleWindows();
     visit(QStringLiteral("help index"), help);
     help.showSearch();
-    settle();
+    settleWindows();
     visit(QStringLiteral("help search"), help);
-    help.hide();
-    SilentHost host;
+    constexpr int TopicWithTables = 0;
+    help.showContext(TopicWithTables);
+    settleWindows();
+    scrollToTable(*help.findChild<QTextBrowser*>());
+    visit(QStringLiteral("help topic with tables"), help);
+    help.setFile(QStringLiteral("Missing.chm"));
+    settleWindows();
+    visit(QStringLiteral("help without its file"), help);
+}
+
+void visitReport(const Visit& visit)
+{
+    RecordedReportHost host;
     PreviewWindow report(host, [] { return true; });
     report.setContent(contentOf(recordsOf(200)));
     showOwned(&report, nullptr);
-    settle();
+    settleWindows();
     visit(QStringLiteral("report"), report);
 }
 
@@ -120,9 +132,20 @@ void visitModules(const Visit& visit)
 
 void visitEveryWindow(SkinnedProgram& program, const Visit& visit)
 {
-    settle();
+    settleWindows();
     visitPages(program, visit);
     visitDialogs(program, visit);
-    visitQuestion(program, visit);
-    visitModules(visit);
+    visitAlert(program, visit);
+    visitEveryBox(program.main(), visit);
+    visitHelp(visit);
+    visitReport(visit);
+}
+
+void settleWindows()
+{
+    // Layouts ask for another round when a scroll bar comes or goes.
+    for (int i = 0; i < 3; ++i) {
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
+    }
 }

@@ -13,6 +13,7 @@
 #include <QListView>
 #include <QMenu>
 #include <QPlainTextEdit>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
@@ -101,6 +102,8 @@ private:
     void lookAtItems(QAbstractItemView& view);
     void lookAtItem(const QAbstractItemView& view, const QModelIndex& index);
     void lookAtMenu(const QMenu& menu);
+    void lookAtPicture(const QAbstractButton& button);
+    void lookAtProgress(const QProgressBar& bar);
     void lookAtSpinBox(const QAbstractSpinBox& spin);
     void lookAtTabs(const QTabBar& tabs);
     void lookAtToolButton(const QToolButton& button);
@@ -114,9 +117,15 @@ void Look::lookAtWidget(QWidget& widget)
 {
     if (const auto* label = qobject_cast<QLabel*>(&widget)) {
         text(*label, label->contentsRect(), label->text());
+        if (!label->pixmap(Qt::ReturnByValue).isNull()) {
+            mark(*label, label->rect(), QStringLiteral("picture"));
+        }
     } else if (const auto* checkBox = qobject_cast<QCheckBox*>(&widget)) {
         lookAtCheckable(*checkBox, QStyle::SE_CheckBoxIndicator, QStyle::SE_CheckBoxContents);
-    } else if (const auto* option = qobject_cast<QRadioButton*>(&widget)) {
+    } else if (const auto* option = qobject_cast<QRadioButton*>(&widget);
+               option != nullptr && option->text().isEmpty()) {
+        lookAtPicture(*option);
+    } else if (option != nullptr) {
         lookAtCheckable(*option, QStyle::SE_RadioButtonIndicator, QStyle::SE_RadioButtonContents);
     } else if (const auto* push = qobject_cast<QPushButton*>(&widget)) {
         text(*push, inside(push->rect(), 4), push->text());
@@ -142,6 +151,8 @@ void Look::lookAtWidget(QWidget& widget)
         lookAtItems(*view);
     } else if (const auto* menu = qobject_cast<QMenu*>(&widget)) {
         lookAtMenu(*menu);
+    } else if (const auto* progress = qobject_cast<QProgressBar*>(&widget)) {
+        lookAtProgress(*progress);
     } else if (const auto* bar = qobject_cast<QScrollBar*>(&widget); bar && bar->maximum() > bar->minimum()) {
         mark(*bar, bar->rect(), QStringLiteral("handle"));
     }
@@ -164,6 +175,16 @@ void Look::lookAtCheckable(const QAbstractButton& button, QStyle::SubElement box
     }
 }
 
+/// One of several pictures; the chosen one has a border.
+void Look::lookAtPicture(const QAbstractButton& button)
+{
+    constexpr int Border = 3;
+    mark(button, inside(button.rect(), Border), QStringLiteral("picture"));
+    if (button.isChecked()) {
+        mark(button, QRect(0, 0, button.width(), Border), QStringLiteral("border"));
+    }
+}
+
 void Look::lookAtCombo(const QComboBox& combo)
 {
     QStyleOptionComboBox option;
@@ -176,6 +197,15 @@ void Look::lookAtCombo(const QComboBox& combo)
     text(combo, inside(place(QStyle::SC_ComboBoxEditField), 3).adjusted(picture, 0, 0, 0),
         combo.currentText());
     mark(combo, inside(place(QStyle::SC_ComboBoxArrow), 3), QStringLiteral("arrow"));
+}
+
+/// How far it is and how far it has to go.
+void Look::lookAtProgress(const QProgressBar& bar)
+{
+    constexpr int Edge = 3;
+    mark(bar, inside(bar.rect(), Edge), QStringLiteral("bar"));
+    const int half = bar.width() / 2;
+    mark(bar, QRect(half, bar.height() - Edge, half - Edge, Edge), QStringLiteral("what is left"));
 }
 
 void Look::lookAtSpinBox(const QAbstractSpinBox& spin)
@@ -249,7 +279,7 @@ void Look::lookAtItems(QAbstractItemView& view)
                 lookAtItem(view, model->index(row, column, parent));
             }
             const QModelIndex first = model->index(row, 0, parent);
-            if (tree != nullptr && model->hasChildren(first)) {
+            if (tree != nullptr && tree->rootIsDecorated() && model->hasChildren(first)) {
                 QRect branch = view.visualRect(first);
                 branch.setLeft(branch.left() - tree->indentation());
                 branch.setWidth(tree->indentation());
@@ -259,7 +289,7 @@ void Look::lookAtItems(QAbstractItemView& view)
         }
     };
     if (model != nullptr) {
-        lookUnder(lookUnder, {});
+        lookUnder(lookUnder, view.rootIndex());
     }
 }
 
@@ -298,14 +328,17 @@ void Look::lookAtTopic(QTextBrowser& browser)
             if (fragment.charFormat().isImageFormat()) {
                 continue;
             }
-            // Of a part that runs over several lines the first one.
+            // Of a part that runs over several lines the first one that has letters.
             QTextCursor cursor(block);
-            cursor.setPosition(fragment.position());
+            const QString shown = fragment.text();
+            const auto first =
+                std::find_if_not(shown.cbegin(), shown.cend(), [](QChar letter) { return letter.isSpace(); });
+            cursor.setPosition(fragment.position() + static_cast<int>(first - shown.cbegin()));
             const QRect from = browser.cursorRect(cursor);
             cursor.movePosition(QTextCursor::EndOfLine);
             cursor.setPosition(qMin(cursor.position(), fragment.position() + fragment.length()));
             const QRect to = browser.cursorRect(cursor);
-            text(*browser.viewport(), QRect(from.topLeft(), to.bottomLeft()), fragment.text());
+            text(*browser.viewport(), QRect(from.topLeft(), to.bottomLeft()), shown);
         }
     }
 }
