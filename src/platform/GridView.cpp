@@ -19,6 +19,18 @@ constexpr int IconSize = 16;
 constexpr int RowPadding = 8;
 constexpr int LeastRows = 4;
 
+bool isPlain(const QKeyEvent& event)
+{
+    // The key of that name on the keypad is the same key.
+    return (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+}
+
+bool movesUpOrDown(const QKeyEvent& event)
+{
+    return event.key() == Qt::Key_Up || event.key() == Qt::Key_Down || event.key() == Qt::Key_PageUp
+        || event.key() == Qt::Key_PageDown;
+}
+
 /// Writes each text in its own direction.
 class CellDelegate final : public QStyledItemDelegate
 {
@@ -113,11 +125,17 @@ void GridView::followLetters()
 
 void GridView::keyPressEvent(QKeyEvent* event)
 {
-    // The key of that name on the keypad is the same key.
-    if (event->key() == Qt::Key_Delete && (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier) {
+    if (event->key() == Qt::Key_Delete && isPlain(*event)) {
         emit deletePressed();
     } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         emit enterPressed();
+    } else if (m_gridModel != nullptr && isPlain(*event) && event->key() == Qt::Key_Home) {
+        selectOnly(0);
+    } else if (m_gridModel != nullptr && isPlain(*event) && event->key() == Qt::Key_End) {
+        selectOnly(m_gridModel->rowCount() - 1);
+    } else if (m_gridModel != nullptr && movesUpOrDown(*event) && selectedRow() < 0) {
+        // The row that has the focus would be passed over.
+        selectOnly(qMax(0, currentIndex().row()));
     } else {
         QTableView::keyPressEvent(event);
     }

@@ -18,7 +18,8 @@ QString controlSheet()
     return QStringLiteral("QAbstractSpinBox { min-height: %1px; }\n"
                           "QDateEdit { min-width: 9em; }\n"
                           "QTimeEdit { min-width: 4em; }\n"
-                          "QPushButton::menu-indicator { subcontrol-position: center right; width: 1.6em; }\n")
+                          "QPushButton::menu-indicator { subcontrol-position: center right;"
+                          " width: 1.6em; }\n")
         .arg(QFontMetrics(QApplication::font()).height() + SkinStyle::SpinBoxAir);
 }
 

@@ -104,7 +104,7 @@ class KeyboardCase(DesktopCase):
         self.user.wait_hidden(names.CATEGORY_DIALOG)
         self.user.wait_active(names.MAIN)
 
-    def add_task(self, name, due):
+    def add_task(self, name, due, category=CATEGORY):
         """With a reminder at its due moment of this day."""
         self.alt("1")
         self.user.main().find("grid", "Tasks")
@@ -114,7 +114,7 @@ class KeyboardCase(DesktopCase):
         box = self.wait_focus(dialog, names.TASK_NAME)
         self.type(name)
         wait_until(lambda: box.text == name, "the name is written")
-        self.choose("c", dialog, names.TASK_CATEGORY, CATEGORY)
+        self.choose("c", dialog, names.TASK_CATEGORY, category)
         picker = self.go_to("m", dialog, names.DUE_TIME)
         self.type(due.replace(":", ""))
         wait_until(lambda: picker.text == due, "the due time is set")
@@ -223,6 +223,34 @@ class TypicalEventByKeysTest(KeyboardCase):
         self.alt("d")
         self.answer_yes(names.delete_category_question(CATEGORY))
         wait_until(lambda: CATEGORY not in [entry.name for entry in categories.children()], "the category is gone")
+
+
+class AlertByKeysTest(KeyboardCase):
+    def test_a_reminder_opens_its_task_and_escape_leaves_both_as_they_were(self):
+        self.add_task("Water the plants", "10:30", category="Work")
+        self.add_task("Pay the gardener", "10:31", category="Work")
+        # With the main window in sight the focus would go there.
+        self.alt("F4")
+        self.user.wait_hidden(names.MAIN)
+        alert = self.wait_alert(datetime(2026, 3, 2, 10, 42, 10), ["Water the plants", "Pay the gardener"])
+        due = self.store.tasks()
+        self.key("End")
+        self.wait_selected(1, alert)
+        self.alt("o")
+        self.user.wait_active(names.TASK_DIALOG)
+        dialog = self.user.dialog()
+        wait_until(lambda: dialog.find(*names.TASK_NAME).text == "Pay the gardener", "the task is loaded")
+        self.write("t", dialog, names.TASK_NAME, "Never stored")
+        self.key("Escape")
+        self.user.wait_hidden(names.TASK_DIALOG)
+        self.user.wait_active(names.alert_title(2))
+        self.wait_grid_focus(alert)
+        self.wait_selected(1, alert)
+        self.assertEqual(self.store.tasks(), due)
+        self.alt("a")
+        self.user.wait_hidden(names.alert_title(2))
+        self.assertEqual(self.reminders(), {"Water the plants": ("2026-03-02 10:30:00", 0, 1, 1),
+                                            "Pay the gardener": ("2026-03-02 10:31:00", 0, 1, 1)})
 
 
 if __name__ == "__main__":

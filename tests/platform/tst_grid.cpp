@@ -276,6 +276,48 @@ private slots:
         QCOMPARE(shown.grid.selectedRow(), 0);
     }
 
+    void homeAndEndSelectTheFirstAndTheLastRow()
+    {
+        ShownGrid shown;
+        shown.grid.selectOnly(1);
+        QTest::keyClick(&shown.grid, Qt::Key_Home);
+        QCOMPARE(shown.grid.selectedRow(), 0);
+        QTest::keyClick(&shown.grid, Qt::Key_End);
+        QCOMPARE(shown.grid.selectedRow(), 2);
+        QTest::keyClick(&shown.grid, Qt::Key_Home, Qt::KeypadModifier);
+        QCOMPARE(shown.grid.selectedRow(), 0);
+        shown.model.setWords({}, columns());
+        QTest::keyClick(&shown.grid, Qt::Key_Home);
+        QTest::keyClick(&shown.grid, Qt::Key_End);
+        QCOMPARE(shown.grid.selectedRow(), -1);
+    }
+
+    void whereNothingIsSelectedTheFirstKeySelectsTheRowWithTheFocus_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<int>("row");
+        QTest::newRow("down") << int(Qt::Key_Down) << 0;
+        QTest::newRow("up") << int(Qt::Key_Up) << 0;
+        QTest::newRow("page up") << int(Qt::Key_PageUp) << 0;
+        QTest::newRow("home") << int(Qt::Key_Home) << 0;
+        QTest::newRow("end") << int(Qt::Key_End) << 2;
+    }
+
+    void whereNothingIsSelectedTheFirstKeySelectsTheRowWithTheFocus()
+    {
+        QFETCH(int, key);
+        QFETCH(int, row);
+        ShownGrid shown;
+        QVERIFY(shown.isActive);
+        shown.grid.clearFocus();
+        shown.model.setWords(
+            {QStringLiteral("one"), QStringLiteral("two"), QStringLiteral("three")}, columns());
+        shown.grid.setFocus(Qt::TabFocusReason);
+        QCOMPARE(shown.grid.selectedRow(), -1);
+        QTest::keyClick(&shown.grid, Qt::Key(key));
+        QCOMPARE(shown.grid.selectedRow(), row);
+    }
+
     void allRowsHaveOneHeight()
     {
         ShownGrid shown;
