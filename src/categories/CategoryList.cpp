@@ -9,6 +9,7 @@
 #include <QTextLayout>
 #include <QToolTip>
 #include <algorithm>
+#include <array>
 
 namespace
 {
@@ -21,6 +22,13 @@ constexpr qsizetype LaidOutCharacters = 64;
 const QChar Ellipsis(0x2026);
 constexpr int Padding = 16;
 constexpr int MinimumCellWidth = 116;
+
+bool moves(const QKeyEvent& event)
+{
+    constexpr std::array Keys{Qt::Key_Up, Qt::Key_Down, Qt::Key_Left, Qt::Key_Right, Qt::Key_PageUp,
+        Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End};
+    return std::find(Keys.begin(), Keys.end(), event.key()) != Keys.end();
+}
 
 /// `text` in as many lines as a label has, none of them wider than `width`; what is left over is elided.
 QString wrapped(const QString& text, const QFont& font, int width)
@@ -118,6 +126,9 @@ void CategoryList::keyPressEvent(QKeyEvent* event)
         emit deletePressed();
     } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         emit enterPressed();
+    } else if (moves(*event) && selectedItem() == nullptr && count() > 0) {
+        // The item that has the focus would be passed over, and the only one could not be reached.
+        selectOnly(event->key() == Qt::Key_End ? count() - 1 : std::max(0, currentRow()));
     } else {
         QListWidget::keyPressEvent(event);
     }

@@ -32,6 +32,7 @@ private slots:
     void theDescriptionIsShownAsPlainText();
     void aLabelIsNotEditedInPlace();
     void itemsHaveOneSizeWhateverTheirNames();
+    void whereNothingIsSelectedTheFirstKeySelects();
 };
 
 void CategoriesListTest::theListShowsEveryCategoryInTheOrderOfTheStore()
@@ -43,6 +44,23 @@ void CategoriesListTest::theListShowsEveryCategoryInTheOrderOfTheStore()
     test.page->LoadCategories();
     QCOMPARE(test.listed(), QStringLiteral("Work Alpha Middle"));
     QCOMPARE(test.list()->viewMode(), QListView::IconMode);
+}
+
+void CategoriesListTest::whereNothingIsSelectedTheFirstKeySelects()
+{
+    PageUnderTest test;
+    for (const char* name : {"Work", "Alpha"}) {
+        test.database.addCategory(QLatin1String(name));
+    }
+    test.page->LoadCategories();
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Right, Qt::Key_Home, Qt::Key_End}) {
+        test.list()->clearSelection();
+        // Where the focus comes to rest.
+        test.list()->setCurrentRow(0, QItemSelectionModel::NoUpdate);
+        QTest::keyClick(test.list(), key);
+        QCOMPARE(test.listed(),
+            key == Qt::Key_End ? QStringLiteral("Work [Alpha]") : QStringLiteral("[Work] Alpha"));
+    }
 }
 
 void CategoriesListTest::anItemCarriesItsIdDescriptionAndPicture()
