@@ -46,7 +46,7 @@ void Language::speak(const QString& catalogue)
     QCoreApplication::removeTranslator(&m_toolkit);
     QCoreApplication::removeTranslator(&m_own);
     if (catalogue.isEmpty()) {
-        QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+        QGuiApplication::setLayoutDirection(m_usual);
         return;
     }
     // Distributions put them where the toolkit says; an archive that brings the toolkit along, beside the
@@ -59,7 +59,8 @@ void Language::speak(const QString& catalogue)
     if (m_own.load(Folder + u'/' + Prefix + catalogue + Suffix)) {
         QCoreApplication::installTranslator(&m_own);
     }
-    QGuiApplication::setLayoutDirection(QLocale(catalogue).textDirection());
+    const Qt::LayoutDirection direction = QLocale(catalogue).textDirection();
+    QGuiApplication::setLayoutDirection(direction == Qt::RightToLeft ? direction : m_usual);
 }
 
 void Language::speakAsTheSystem()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QGuiApplication>
 #include <QStringList>
 #include <QTranslator>
 
@@ -26,4 +27,6 @@ public:
 private:
     QTranslator m_toolkit;
     QTranslator m_own;
+    /// Of what is not read from right to left by itself: the command line may turn it round (-reverse).
+    Qt::LayoutDirection m_usual = QGuiApplication::layoutDirection();
 };

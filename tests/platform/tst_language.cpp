@@ -36,6 +36,28 @@ private slots:
         QTEST(catalogueFor(uiLanguages, shipped), "catalogue");
     }
 
+    void arabicIsReadFromRightToLeftAndEnglishAsTheCommandLineSays_data()
+    {
+        QTest::addColumn<Qt::LayoutDirection>("usual");
+        QTest::newRow("as usual") << Qt::LeftToRight;
+        QTest::newRow("turned round") << Qt::RightToLeft;
+    }
+
+    void arabicIsReadFromRightToLeftAndEnglishAsTheCommandLineSays()
+    {
+        QFETCH(const Qt::LayoutDirection, usual);
+        const auto restore =
+            qScopeGuard([] { QGuiApplication::setLayoutDirection(Qt::LayoutDirectionAuto); });
+        QGuiApplication::setLayoutDirection(usual);
+        Language language;
+        language.speak(QStringLiteral("ar"));
+        QCOMPARE(QGuiApplication::layoutDirection(), Qt::RightToLeft);
+        language.speak(QStringLiteral("de"));
+        QCOMPARE(QGuiApplication::layoutDirection(), usual);
+        language.speak({});
+        QCOMPARE(QGuiApplication::layoutDirection(), usual);
+    }
+
     void theToolkitsOwnTextsMayLieBesideTheProgram()
     {
         const QDir folder(QCoreApplication::applicationDirPath() + QStringLiteral("/translations"));
