@@ -19,6 +19,7 @@
 #include "platform/SingleInstance.h"
 #include "platform/TerminationSignals.h"
 #include "platform/TrayIcon.h"
+#include "ui/AccessibleControls.h"
 
 #include <QSessionManager>
 #include <QStyleFactory>
@@ -115,6 +116,7 @@ int runAmbertask(int argc, char** argv)
     refreshProgramFolder(installation, programFolder);
     Application application(argc, argv);
     QCoreApplication::setApplicationName(QLatin1String(ProductName));
+    installAccessibleControls();
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QGuiApplication::setDesktopFileName(QLatin1String(DesktopEntryName));
     // Only the entry that the settings page writes starts the program with the session.

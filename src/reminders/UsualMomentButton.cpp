@@ -1,13 +1,15 @@
 #include "reminders/UsualMomentButton.h"
 
 #include "platform/Clock.h"
+#include "ui/AccessibleControls.h"
 
 #include <QAction>
 #include <QMenu>
 
 UsualMomentButton::UsualMomentButton(const QString& caption, const Clock& clock, QWidget* parent)
-    : QPushButton(caption, parent), m_clock(clock)
+    : QPushButton(parent), m_clock(clock)
 {
+    installAccessibleControls();
     auto* menu = new QMenu(this);
     for (const UsualMoment which : AllUsualMoments) {
         QAction* entry = menu->addAction(captionOf(which));
@@ -16,6 +18,8 @@ UsualMomentButton::UsualMomentButton(const QString& caption, const Clock& clock,
     }
     connect(menu, &QMenu::aboutToShow, this, &UsualMomentButton::leaveOutPassed);
     setMenu(menu);
+    // Last: assistive technology, told of the caption, decides what kind of button this is.
+    setText(caption);
 }
 
 void UsualMomentButton::leaveOutPassed()

@@ -8,6 +8,8 @@
 #include <QAbstractItemView>
 #include <QAccessibleWidget>
 #include <QKeySequence>
+#include <QPushButton>
+#include <utility>
 
 namespace
 {
@@ -25,54 +27,119 @@ QString withoutMnemonic(const QString& caption)
     return text;
 }
 
-class AccessibleCheckBox final : public QAccessibleWidget
+/// A button with one action besides that of taking the focus.
+class AccessibleButton : public QAccessibleWidget
 {
 public:
-    explicit AccessibleCheckBox(CheckBox& box)
-        : QAccessibleWidget(&box, QAccessible::CheckBox), m_box(box) { }
+    AccessibleButton(QAbstractButton& button, QAccessible::Role role, QString action)
+        : QAccessibleWidget(&button, role), m_button(button), m_action(std::move(action))
+    {
+    }
 
     QString text(QAccessible::Text kind) const override
     {
-        if (kind == QAccessible::Name && m_box.accessibleName().isEmpty()) {
-            return withoutMnemonic(m_box.text());
+        if (kind == QAccessible::Name && m_button.accessibleName().isEmpty()) {
+            return withoutMnemonic(m_button.text());
         }
         if (kind == QAccessible::Accelerator) {
-            return QKeySequence::mnemonic(m_box.text()).toString(QKeySequence::NativeText);
+            return QKeySequence::mnemonic(m_button.text()).toString(QKeySequence::NativeText);
         }
         return QAccessibleWidget::text(kind);
     }
     QAccessible::State state() const override
     {
         QAccessible::State state = QAccessibleWidget::state();
-        state.checkable = true;
-        state.checked = m_box.isChecked();
-        state.pressed = m_box.isDown();
+        state.pressed = m_button.isDown();
         return state;
     }
     QStringList actionNames() const override
     {
         QStringList names;
-        if (m_box.isEnabled()) {
-            names.append(toggleAction());
+        if (m_button.isEnabled()) {
+            names.append(m_action);
         }
         return names + QAccessibleWidget::actionNames();
     }
     void doAction(const QString& name) override
     {
-        if (name == toggleAction()) {
-            m_box.click();
-        } else {
+        if (name != m_action) {
             QAccessibleWidget::doAction(name);
+        } else if (m_button.isEnabled()) {
+            act();
         }
     }
     QStringList keyBindingsForAction(const QString& name) const override
     {
         const QString key = text(QAccessible::Accelerator);
-        return name == toggleAction() && !key.isEmpty() ? QStringList(key) : QStringList();
+        return name == m_action && !key.isEmpty() ? QStringList(key) : QStringList();
     }
+
+protected:
+    virtual void act() = 0;
+
+private:
+    QAbstractButton& m_button;
+    QString m_action;
+};
+
+class AccessibleCheckBox final : public AccessibleButton
+{
+public:
+    explicit AccessibleCheckBox(CheckBox& box)
+        : AccessibleButton(box, QAccessible::CheckBox, toggleAction()), m_box(box)
+    {
+    }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = AccessibleButton::state();
+        state.checkable = true;
+        state.checked = m_box.isChecked();
+        return state;
+    }
+
+protected:
+    void act() override { m_box.click(); }
 
 private:
     CheckBox& m_box;
+};
+
+class AccessibleMenuButton final : public AccessibleButton
+{
+public:
+    explicit AccessibleMenuButton(QPushButton& button)
+        : AccessibleButton(button, QAccessible::ButtonMenu, showMenuAction()), m_button(button)
+    {
+    }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = AccessibleButton::state();
+        state.hasPopup = true;
+        return state;
+    }
+
+protected:
+    void act() override
+    {
+        // The button's own call returns when the menu is closed: so long the asker would wait for an answer.
+        QMetaObject::invokeMethod(&m_button, &QPushButton::showMenu, Qt::QueuedConnection);
+    }
+
+private:
+    QPushButton& m_button;
+};
+
+/// A window of no class that the toolkit knows, which would pass it off as a mere container.
+class AccessibleWindow final : public QAccessibleWidget
+{
+public:
+    explicit AccessibleWindow(QWidget& window)
+        : QAccessibleWidget(
+            &window, window.windowType() == Qt::Dialog ? QAccessible::Dialog : QAccessible::Window)
+    {
+    }
 };
 
 class AccessibleLink final : public QAccessibleWidget
@@ -116,7 +183,8 @@ ComboBox* comboOf(const QAbstractItemView& view)
     return qobject_cast<ComboBox*>(view.window()->parentWidget());
 }
 
-QAccessibleInterface* accessibleOf(const QString& /*className*/, QObject* object)
+/// Asked for each class of the object, from its own up.
+QAccessibleInterface* accessibleOf(const QString& className, QObject* object)
 {
     if (auto* box = qobject_cast<CheckBox*>(object)) {
         return new AccessibleCheckBox(*box);
@@ -127,6 +195,14 @@ QAccessibleInterface* accessibleOf(const QString& /*className*/, QObject* object
     if (auto* view = qobject_cast<QAbstractItemView*>(object)) {
         if (ComboBox* combo = comboOf(*view)) {
             return new AccessibleEntries(*view, *combo);
+        }
+    }
+    if (auto* button = qobject_cast<QPushButton*>(object); button != nullptr && button->menu() != nullptr) {
+        return new AccessibleMenuButton(*button);
+    }
+    if (className == QLatin1String("QWidget")) {
+        if (auto* widget = qobject_cast<QWidget*>(object); widget != nullptr && widget->isWindow()) {
+            return new AccessibleWindow(*widget);
         }
     }
     return nullptr;

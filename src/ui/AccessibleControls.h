@@ -1,6 +1,7 @@
 #pragma once
 
-/// Lets assistive technology see and work the controls of this folder as what they are: pressing a link and
-/// toggling a check box count as the user's own click. (The tool kit's own check box is toggled behind the
-/// back of its `clicked` handlers.) The constructors of the controls call it; once is enough.
+/// Lets assistive technology see and work windows and controls as what they are: pressing a link, toggling a
+/// check box and choosing an entry of a combo box count as the user's own click, a menu opens without keeping
+/// the asker waiting, and a window says that it is one. The program calls it before its first window; the
+/// controls of this folder that depend on it do so too. Once is enough.
 void installAccessibleControls();

@@ -185,6 +185,7 @@ class Node:
 # One role has several names across tool kit versions.
 ROLES = {
     "button": ("push button", "button"),
+    "menu button": ("button menu", "push button menu"),
     "message box": ("alert message", "alert", "message box"),
     "text box": ("text", "entry"),
     "combo box": ("combo box",),

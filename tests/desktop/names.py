@@ -69,6 +69,7 @@ FILE_PATH = ("text box", "Reminder file", "File", "File to open", "Program or ba
 DISMISS = ("button", "Dismiss")
 DISMISS_ALL = ("button", "Dismiss All")
 REMIND_LATER = ("button", "Remind me later")
+USUAL_MOMENTS = ("menu button", "Set date and time to")
 OPEN_ITEM = ("button", "Open Item")
 LATER_TIME = ("picker", "Time", "Reminder time", "New time", "New reminder time")
 

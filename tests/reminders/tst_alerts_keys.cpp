@@ -3,6 +3,7 @@
 #include "support/TestMain.h"
 #include "ui/DateComposition.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QDateEdit>
 #include <QMenu>
@@ -129,6 +130,25 @@ private slots:
         choose(alerts, Qt::Key_Escape);
         QVERIFY(alerts.window.isVisible());
         QCOMPARE(pickers(alerts), before);
+    }
+
+    void assistiveTechnologyOpensTheMenuWithoutWaitingForTheChoice()
+    {
+        AlertsFixture alerts;
+        alerts.aDueTask(QStringLiteral("call")).add();
+        alerts.tick();
+        alerts.window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&alerts.window));
+        QMenu* menu = button(alerts)->menu();
+        QAccessibleInterface* seen = QAccessible::queryAccessibleInterface(button(alerts));
+        QCOMPARE(seen->role(), QAccessible::ButtonMenu);
+        connect(menu, &QMenu::aboutToShow, menu,
+            [menu] { QTimer::singleShot(0, menu, [menu] { QTest::keyClick(menu, Qt::Key_T); }); });
+        const QString before = pickers(alerts);
+        seen->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
+        QCOMPARE(pickers(alerts), before);
+        QTRY_COMPARE(pickers(alerts), QStringLiteral("2026-01-16 09:00:00"));
+        QVERIFY(!menu->isVisible());
     }
 
 private:

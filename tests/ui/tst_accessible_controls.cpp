@@ -1,12 +1,17 @@
 #include "support/TestMain.h"
+#include "ui/AccessibleControls.h"
 #include "ui/CheckBox.h"
 #include "ui/ComboBox.h"
 #include "ui/LinkLabel.h"
 
 #include <QAbstractItemView>
 #include <QAccessible>
+#include <QMenu>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
+#include <array>
 
 /// Controls as assistive technology works them.
 class AccessibleControlsTest : public TestCase
@@ -14,6 +19,8 @@ class AccessibleControlsTest : public TestCase
     Q_OBJECT
 
 private slots:
+    void initTestCase() { installAccessibleControls(); }
+
     void aToggledCheckBoxIsClicked()
     {
         CheckBox box(QStringLiteral("&Enable"));
@@ -71,6 +78,79 @@ private slots:
         QVERIFY(seen->state().focusable);
         act(link, QAccessibleActionInterface::pressAction());
         QCOMPARE(clicks.count(), 1);
+    }
+
+    void aButtonWithAMenuSaysWhatItIs()
+    {
+        QPushButton button;
+        QMenu menu;
+        button.setMenu(&menu);
+        button.setText(QStringLiteral("&Set to"));
+        QAccessibleInterface* seen = accessible(button);
+        QCOMPARE(seen->role(), QAccessible::ButtonMenu);
+        QCOMPARE(seen->text(QAccessible::Name), QStringLiteral("Set to"));
+        QCOMPARE(seen->text(QAccessible::Accelerator), QStringLiteral("Alt+S"));
+        QVERIFY(seen->state().hasPopup);
+        QVERIFY(!seen->state().pressed);
+        button.setDown(true);
+        QVERIFY(seen->state().pressed);
+    }
+
+    /// Who asks over the bus waits for the answer and cannot choose from the menu meanwhile.
+    void theMenuOfAButtonOpensOnceTheActionHasReturned()
+    {
+        QPushButton button;
+        QMenu menu;
+        menu.addAction(QStringLiteral("In 1 hour"));
+        button.setMenu(&menu);
+        button.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&button));
+        bool isOpen = false;
+        connect(&menu, &QMenu::aboutToShow, &menu, [&] {
+            QTimer::singleShot(0, &menu, [&] {
+                isOpen = menu.isVisible();
+                menu.close();
+            });
+        });
+        act(button, QAccessibleActionInterface::showMenuAction());
+        QVERIFY(!isOpen);
+        QTRY_VERIFY(isOpen);
+    }
+
+    void theMenuOfADisabledButtonStaysClosed()
+    {
+        QPushButton button;
+        QMenu menu;
+        button.setMenu(&menu);
+        button.setEnabled(false);
+        const QSignalSpy shows(&menu, &QMenu::aboutToShow);
+        QVERIFY(accessible(button)->actionInterface()->actionNames().isEmpty());
+        act(button, QAccessibleActionInterface::showMenuAction());
+        QCoreApplication::processEvents();
+        QCOMPARE(shows.count(), 0);
+    }
+
+    void aButtonWithoutAMenuIsPressed()
+    {
+        QPushButton button;
+        const QSignalSpy clicks(&button, &QPushButton::clicked);
+        QCOMPARE(accessible(button)->role(), QAccessible::Button);
+        act(button, QAccessibleActionInterface::pressAction());
+        QTRY_COMPARE(clicks.count(), 1);
+    }
+
+    void aWindowSaysThatItIsOne()
+    {
+        QWidget window;
+        const std::array<std::pair<QWidget*, QAccessible::Role>, 3> seen{
+            std::pair(&window, QAccessible::Window),
+            std::pair(new QWidget(&window, Qt::Dialog), QAccessible::Dialog),
+            std::pair(new QWidget(&window), QAccessible::Client)};
+        for (const auto& [widget, role] : seen) {
+            widget->setWindowTitle(QStringLiteral("Title"));
+            QCOMPARE(accessible(*widget)->role(), role);
+        }
+        QCOMPARE(accessible(window)->text(QAccessible::Name), QStringLiteral("Title"));
     }
 
     void theEntriesOfAComboAreReadWhileItIsClosed()
