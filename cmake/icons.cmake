@@ -11,21 +11,30 @@ function(ambertask_render_png svg height png)
 endfunction()
 
 # ambertask_render_icons(<target> PREFIX <resource prefix> SIZES <n>... SVGS <file>...)
-# Adds <name>-<size>.png for every file and size to <target> as Qt resources below <resource prefix>.
+# Adds the pixels of every file in every size, <name>-<size>.pixels, to <target> as Qt resources below <resource prefix>.
 function(ambertask_render_icons target)
   cmake_parse_arguments(ARG "" "PREFIX" "SIZES;SVGS" ${ARGN})
   string(MAKE_C_IDENTIFIER "${target}${ARG_PREFIX}" resource_name)
   set(folder "${CMAKE_CURRENT_BINARY_DIR}/${resource_name}")
   file(MAKE_DIRECTORY "${folder}")
   set(pngs)
+  set(pixels)
   foreach(svg IN LISTS ARG_SVGS)
     cmake_path(GET svg STEM name)
     foreach(size IN LISTS ARG_SIZES)
       set(png "${folder}/${name}-${size}.png")
       ambertask_render_png("${svg}" ${size} "${png}")
-      set_source_files_properties("${png}" PROPERTIES QT_RESOURCE_ALIAS "${name}-${size}.png")
       list(APPEND pngs "${png}")
+      set(file "${folder}/${name}-${size}.pixels")
+      set_source_files_properties("${file}" PROPERTIES QT_RESOURCE_ALIAS "${name}-${size}.pixels")
+      list(APPEND pixels "${file}")
     endforeach()
   endforeach()
-  qt_add_resources(${target} "${resource_name}" PREFIX "${ARG_PREFIX}" FILES ${pngs})
+  set(writer "${PROJECT_SOURCE_DIR}/cmake/write_pixels.py")
+  add_custom_command(
+    OUTPUT ${pixels}
+    COMMAND "${Python3_EXECUTABLE}" "${writer}" "${folder}" ${pngs}
+    DEPENDS "${writer}" ${pngs}
+    VERBATIM)
+  qt_add_resources(${target} "${resource_name}" PREFIX "${ARG_PREFIX}" FILES ${pixels})
 endfunction()

@@ -148,6 +148,7 @@ void Program::loadDialogs()
     }
     // Now that the main window is on the screen: the pictures of a window's icon are many, and large.
     QApplication::setWindowIcon(programWindowIcon());
+    m_main->wakePages();
     // The alert window has to be there even when a dialog cannot be loaded, and before anybody has read why:
     // without it nothing reminds.
     CollectedErrors errors;

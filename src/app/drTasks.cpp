@@ -1,5 +1,6 @@
 #include "app/drTasks.h"
 
+#include "app/FixedPictures.h"
 #include "app/TaskReportQuery.h"
 #include "data/ClsDatabase.h"
 #include "platform/ErrorReport.h"
@@ -20,6 +21,7 @@ namespace
 using Kind = ReportControl::Kind;
 
 const QLatin1String Detail("cmdTasks_Detail");
+constexpr QSize LogoSize(288, 96);
 // What follows the marker of the language is the format of the date.
 const QLatin1String DueDateFormat("$l$dd/MM/yyyy");
 
@@ -110,7 +112,7 @@ void drTasks::printTasks(const TaskFilter& filter, QWidget* owner)
     ReportWindow& window = loadedWindow();
     bindFields();
     // A report may stay open for long: read to its end, the record set holds no lock on the data.
-    ReportContent content{tr("Tasks Report"), QImage(QStringLiteral(":/logo/logo-96.png")), m_sections,
+    ReportContent content{tr("Tasks Report"), logoIcon().pixmap(LogoSize, 1).toImage(), m_sections,
         readRecords(records, isOrdered(filter))};
     forFinalizing(std::move(connection), std::move(records));
     window.setContent(std::move(content));

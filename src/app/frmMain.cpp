@@ -33,6 +33,15 @@ constexpr int BalloonMilliseconds = 2000;
 constexpr QSize FirstSize(960, 640);
 constexpr QSize LogoSize(32, 32);
 
+/// Until it is shown; else the toolkit styles a widget as soon as events are handled.
+void leaveUnstyled(QWidget* page)
+{
+    QCoreApplication::removePostedEvents(page, QEvent::PolishRequest);
+    for (QWidget* child : page->findChildren<QWidget*>()) {
+        QCoreApplication::removePostedEvents(child, QEvent::PolishRequest);
+    }
+}
+
 } // namespace
 
 frmMain::frmMain(
@@ -44,12 +53,17 @@ frmMain::frmMain(
     m_tabs->setObjectName(QStringLiteral("tabMain"));
     QWidget* header = makeHeader();
     const auto addPage = [&](QWidget* page, const QString& caption) {
-        m_tabs->addTab(new ScrollFrame(page, {header, m_tabs->tabBar()}), caption);
+        auto* frame = new ScrollFrame({header, m_tabs->tabBar()});
+        m_tabs->addTab(frame, caption);
+        leaveUnstyled(page);
+        m_resting.push_back({frame, std::unique_ptr<QWidget>(page)});
     };
     addPage(m_pages.tasks, tr("Tasks"));
     addPage(m_pages.categories, tr("Categories"));
     addPage(m_pages.settings, tr("Settings"));
     addPage(m_pages.maintenance, tr("Maintenance"));
+    // A part of the window already, but it is styled and laid out with the skin.
+    m_pages.tasks->setParent(m_resting.front().frame->viewport());
     addPageKeys();
     m_trayMenu = makeTrayMenu();
     auto* layout = new QVBoxLayout(this);
@@ -134,8 +148,25 @@ QMenu* frmMain::makeTrayMenu()
     return menu;
 }
 
+frmMain::~frmMain() = default;
+
+void frmMain::wakePage(int page)
+{
+    if (RestingPage& resting = m_resting[static_cast<std::size_t>(page)]; resting.page != nullptr) {
+        resting.frame->hold(resting.page.release());
+    }
+}
+
+void frmMain::wakePages()
+{
+    for (int page = 0; page < m_tabs->count(); ++page) {
+        wakePage(page);
+    }
+}
+
 void frmMain::Form_Load()
 {
+    wakePage(TasksIndex);
     LoadCategories();
     m_pages.tasks->fillFilters();
     m_pages.settings->LoadSkinsList();
@@ -311,6 +342,7 @@ void frmMain::closeEvent(QCloseEvent* event)
 
 void frmMain::tabMain_Switch(int page)
 {
+    wakePage(page);
     if (page == CategoriesIndex) {
         m_pages.categories->pageOpened();
     } else if (page == SettingsIndex) {

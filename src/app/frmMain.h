@@ -5,9 +5,12 @@
 #include "ui/FormServices.h"
 
 #include <QWidget>
+#include <memory>
+#include <vector>
 
 class CategoriesPage;
 class MaintenancePage;
+class ScrollFrame;
 class QAction;
 class QMenu;
 class QTabWidget;
@@ -48,6 +51,7 @@ class frmMain : public QWidget
 public:
     frmMain(const FormServices& services, const SettingsRecord& settings, MainWindowHost& host,
         MainWindowPages pages);
+    ~frmMain() override;
 
     /// Fills the pages, applies the settings, puts the tray icon in place and shows the window unless it is
     /// to start hidden. Throws DatabaseError.
@@ -65,6 +69,9 @@ public:
 
     /// Whether the window is on the screen; minimized counts as hidden.
     bool isShown() const;
+    /// Puts the pages that nobody has seen yet into the window. Until the first painting, which does not wait
+    /// for them, they are styled by nothing and laid out nowhere.
+    void wakePages();
     /// Shows the window, or hides it together with the dialogs. Nothing while the task dialog is open over a
     /// hidden window.
     void toggle();
@@ -102,6 +109,7 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    void wakePage(int page);
     void tabMain_Switch(int page);
     void mnuFeedBack_Click();
     void header_Click();
@@ -116,7 +124,14 @@ private:
     const SettingsRecord& m_settings;
     MainWindowHost& m_host;
     MainWindowPages m_pages;
+    struct RestingPage {
+        ScrollFrame* frame;
+        /// None once the frame holds it.
+        std::unique_ptr<QWidget> page;
+    };
+
     QTabWidget* m_tabs = nullptr;
+    std::vector<RestingPage> m_resting;
     QMenu* m_trayMenu = nullptr;
     QAction* m_mnuShow = nullptr;
     TrayIcon m_trayIcon;

@@ -4,12 +4,13 @@
 
 #include <QPainter>
 #include <QStyleOption>
+#include <array>
 
 namespace
 {
 
-constexpr int SmallestStretch = 62; // percent; letters get hard to read below
-constexpr int StretchStep = 4;
+/// Percent; letters get hard to read below the last. Few: each is a font of its own, that has to be found.
+constexpr std::array Stretches{86, 74, 62};
 constexpr int CaptionMargin = 5; // pixels on either side
 
 } // namespace
@@ -30,11 +31,17 @@ QFont FittingHeader::fontFor(int logicalIndex) const
     const QString caption = model()->headerData(logicalIndex, orientation(), Qt::DisplayRole).toString();
     const int available = roomFor(logicalIndex);
     const int needed = QFontMetrics(squeezed).horizontalAdvance(caption);
-    // A font may not be had as narrow as it is asked for.
-    for (int stretch = 100 * available / qMax(1, needed); needed > available; stretch -= StretchStep) {
-        squeezed.setStretch(qMax(SmallestStretch, stretch));
-        if (stretch <= SmallestStretch || QFontMetrics(squeezed).horizontalAdvance(caption) <= available) {
+    const int wanted = 100 * available / qMax(1, needed);
+    for (const int stretch : Stretches) {
+        if (needed <= available) {
             break;
+        }
+        // A font may not be had as narrow as it is asked for.
+        if (stretch <= wanted || stretch == Stretches.back()) {
+            squeezed.setStretch(stretch);
+            if (QFontMetrics(squeezed).horizontalAdvance(caption) <= available) {
+                break;
+            }
         }
     }
     return squeezed;

@@ -18,14 +18,17 @@ constexpr int Lines = 8;
 } // namespace
 
 ScrollFrame::ScrollFrame(QWidget* content, QList<const QWidget*> beside, QWidget* parent)
-    : QScrollArea(parent), m_beside(std::move(beside))
+    : ScrollFrame(std::move(beside))
+{
+    setParent(parent);
+    hold(content);
+}
+
+ScrollFrame::ScrollFrame(QList<const QWidget*> beside) : m_beside(std::move(beside))
 {
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus);
     setWidgetResizable(true);
-    setWidget(content);
-    // The ground is the window's.
-    content->setAutoFillBackground(false);
     viewport()->setAutoFillBackground(false);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget* /*old*/, QWidget* now) {
         if (now != nullptr && isAncestorOf(now)) {
@@ -34,13 +37,24 @@ ScrollFrame::ScrollFrame(QWidget* content, QList<const QWidget*> beside, QWidget
     });
 }
 
+void ScrollFrame::hold(QWidget* content)
+{
+    setWidget(content);
+    // The ground is the window's.
+    content->setAutoFillBackground(false);
+    updateGeometry();
+}
+
 QSize ScrollFrame::sizeHint() const
 {
-    return boundedToScreen(widget()->sizeHint());
+    return widget() == nullptr ? QSize() : boundedToScreen(widget()->sizeHint());
 }
 
 QSize ScrollFrame::minimumSizeHint() const
 {
+    if (widget() == nullptr) {
+        return {};
+    }
     return boundedToScreen(widget()->minimumSizeHint().expandedTo(widget()->minimumSize()));
 }
 

@@ -13,6 +13,11 @@ public:
     /// Takes ownership of `content`. `beside` is what else stands above or below in the same window; not
     /// owned.
     explicit ScrollFrame(QWidget* content, QList<const QWidget*> beside = {}, QWidget* parent = nullptr);
+    /// Without content it takes no room.
+    explicit ScrollFrame(QList<const QWidget*> beside);
+
+    /// Takes ownership of `content`, for a frame that has none.
+    void hold(QWidget* content);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

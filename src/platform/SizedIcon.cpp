@@ -1,5 +1,6 @@
 #include "platform/SizedIcon.h"
 
+#include <QFile>
 #include <QGuiApplication>
 #include <QIconEngine>
 #include <QPainter>
@@ -9,6 +10,23 @@
 
 namespace
 {
+
+QPixmap readPixels(const SizedPicture& picture)
+{
+    constexpr int bytesAPixel = 4;
+    const QSize size = picture.size;
+    QFile file(picture.file);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return {};
+    }
+    const QByteArray bytes = file.readAll();
+    if (bytes.size() != qsizetype(size.width()) * size.height() * bytesAPixel) {
+        return {};
+    }
+    const QImage pixels(reinterpret_cast<const uchar*>(bytes.constData()), size.width(), size.height(),
+        size.width() * bytesAPixel, QImage::Format_RGBA8888_Premultiplied);
+    return QPixmap::fromImage(pixels.convertToFormat(QImage::Format_ARGB32_Premultiplied));
+}
 
 class SizedIconEngine final : public QIconEngine
 {
@@ -61,7 +79,7 @@ private:
         const auto index = std::min(found - m_shared->pictures.cbegin(), m_shared->pictures.size() - 1);
         QIcon& icon = m_shared->read[static_cast<std::size_t>(index)];
         if (icon.isNull()) {
-            icon.addFile(m_shared->pictures[index].file);
+            icon.addPixmap(readPixels(m_shared->pictures[index]));
         }
         return icon;
     }

@@ -3,7 +3,8 @@
 #include <QIcon>
 #include <QList>
 
-/// One picture in a file of its own for each size.
+/// One picture in a file of its own for each size: rows of red, green, blue and alpha, one byte each, the
+/// colours multiplied with the alpha. For a format with a name the toolkit loads all the readers that it has.
 struct SizedPicture {
     QString file;
     QSize size;

@@ -206,7 +206,6 @@ void SettingsPage::updateRunEntry() const
 
 void SettingsPage::applySkin()
 {
-    m_skins.reportOn(window());
     m_skins.wear(m_cmbSkins->currentText());
 }
 

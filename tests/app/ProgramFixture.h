@@ -16,6 +16,8 @@ struct ProgramFixture : RecordedMachine {
     void start(bool firstStart = false)
     {
         program.start([firstStart] { return firstStart; });
+        // The first painting would; a test reaches for controls of all pages.
+        main().wakePages();
     }
     frmMain& main() { return program.mainWindow(); }
     template <typename Control> Control* control(QWidget& window, const char* name)

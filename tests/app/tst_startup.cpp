@@ -1,7 +1,10 @@
 #include "ProgramFixture.h"
+#include "app/FixedPictures.h"
+#include "platform/ImageList.h"
 #include "support/TestMain.h"
 
 #include <QFile>
+#include <QTabWidget>
 
 namespace
 {
@@ -39,6 +42,60 @@ private slots:
         const MemoryRegistry::Value entry = f.registry.runEntry("Ambertask");
         QCOMPARE(entry.type, RegistryValues::Text);
         QCOMPARE(entry.data, (f.database.folder() + QStringLiteral("/Ambertask")).toLocal8Bit());
+    }
+
+    void thePagesBehindTheFirstJoinTheWindowAfterTheFirstPainting()
+    {
+        ProgramFixture f;
+        f.program.start([] { return false; });
+        QVERIFY(f.grid(f.main()) != nullptr);
+        QVERIFY(f.control<QPushButton>(f.main(), "btnSave") == nullptr);
+        QTRY_VERIFY(f.control<QPushButton>(f.main(), "btnSave") != nullptr);
+        for (const char* button : {"btnAddCat", "btnDeleteTasksMaintenance"}) {
+            QVERIFY2(f.control<QPushButton>(f.main(), button) != nullptr, button);
+        }
+        // As large as the largest page needs it.
+        const QSize needed = f.control<QPushButton>(f.main(), "btnSave")->parentWidget()->minimumSizeHint();
+        f.main().resize(1, 1);
+        QTRY_VERIFY(f.main().width() >= needed.width() && f.main().height() >= needed.height());
+    }
+
+    void theyJoinAWindowThatStartsHiddenToo()
+    {
+        ProgramFixture f;
+        f.setting(QStringLiteral("minimize_on_start"), 1);
+        f.program.start([] { return false; });
+        QTRY_VERIFY(f.control<QPushButton>(f.main(), "btnSave") != nullptr);
+        QVERIFY(!f.main().isShown());
+    }
+
+    void aPageThatIsSwitchedToBeforeThatIsThere()
+    {
+        ProgramFixture f;
+        f.program.start([] { return false; });
+        f.control<QTabWidget>(f.main(), "tabMain")->setCurrentIndex(1);
+        QVERIFY(f.control<QPushButton>(f.main(), "btnAddCat")->isVisible());
+    }
+
+    void everyFixedPictureIsThereInEachOfItsSizes()
+    {
+        ImageList images;
+        appendFixedPictures(images);
+        QCOMPARE(images.count(), 21);
+        QList<QIcon> icons{programIcon(), programWindowIcon(), logoIcon()};
+        for (int i = 0; i < images.count(); ++i) {
+            icons.append(images.icon(i));
+        }
+        for (const QIcon& icon : icons) {
+            QVERIFY(icon.availableSizes().size() >= 4);
+            for (const QSize& size : icon.availableSizes()) {
+                const QImage picture = icon.pixmap(size, 1).toImage();
+                QCOMPARE(picture.size(), size);
+                QImage blank(size, QImage::Format_ARGB32_Premultiplied);
+                blank.fill(Qt::transparent);
+                QVERIFY(picture.convertToFormat(blank.format()) != blank);
+            }
+        }
     }
 
     void aLaterStartLeavesTheRegistrationAlone()

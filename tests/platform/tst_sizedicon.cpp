@@ -21,14 +21,19 @@ private slots:
     void theSizesAreKnownWithoutReading();
     void aDisabledPictureIsGrey();
     void aWidePictureKeepsItsShape();
+    void aFileOfAnotherLengthIsNoPicture();
+    void whatShinesThroughKeepsItsColour();
 
 private:
     QString fileOf(int size) const { return m_folder->filePath(QString::number(size)); }
     void write(int size, Qt::GlobalColor color) const
     {
-        QImage image(size, size, QImage::Format_ARGB32);
+        QImage image(size, size, QImage::Format_RGBA8888_Premultiplied);
         image.fill(color);
-        QVERIFY(image.save(fileOf(size), "png"));
+        QFile file(fileOf(size));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(reinterpret_cast<const char*>(image.constBits()), image.sizeInBytes()),
+            image.sizeInBytes());
     }
     QIcon icon() const { return sizedIcon({{fileOf(16), {16, 16}}, {fileOf(32), {32, 32}}}); }
     static QColor colorAt(const QIcon& icon, int size)
@@ -103,6 +108,24 @@ void SizedIconTest::aWidePictureKeepsItsShape()
 {
     const QIcon wide = sizedIcon({{fileOf(16), {48, 16}}, {fileOf(32), {96, 32}}});
     QCOMPARE(wide.actualSize(QSize(30, 30)), QSize(30, 10));
+}
+
+void SizedIconTest::aFileOfAnotherLengthIsNoPicture()
+{
+    const QIcon longer = sizedIcon({{fileOf(32), {16, 16}}});
+    QVERIFY(longer.pixmap(QSize(16, 16)).isNull());
+    const QIcon shorter = sizedIcon({{fileOf(16), {32, 32}}});
+    QVERIFY(shorter.pixmap(QSize(32, 32)).isNull());
+}
+
+void SizedIconTest::whatShinesThroughKeepsItsColour()
+{
+    QFile file(fileOf(16));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    // Half of red.
+    file.write(QByteArray("\x80\x00\x00\x80", 4).repeated(16 * 16));
+    file.close();
+    QCOMPARE(colorAt(icon(), 16), QColor(255, 0, 0, 128));
 }
 
 AMBERTASK_TEST_MAIN(SizedIconTest)
