@@ -49,8 +49,7 @@ void Language::speak(const QString& catalogue)
         QGuiApplication::setLayoutDirection(m_usual);
         return;
     }
-    // Distributions put them where the toolkit says; an archive that brings the toolkit along, beside the
-    // program.
+    // Distributions put them where the toolkit says; whoever brings the toolkit along, beside the program.
     const QString toolkit = QLatin1String("qtbase_") + catalogue;
     if (m_toolkit.load(toolkit, QLibraryInfo::path(QLibraryInfo::TranslationsPath))
         || m_toolkit.load(toolkit, QCoreApplication::applicationDirPath() + QLatin1String("/translations"))) {
