@@ -1,10 +1,10 @@
 #include "platform/FileDialogs.h"
 
-#include <QApplication>
+#include "platform/PlainDialogTexts.h"
+
 #include <QFileDialog>
 #include <QFileIconProvider>
 #include <QFileInfo>
-#include <QMessageBox>
 
 namespace
 {
@@ -22,27 +22,9 @@ public:
     }
 };
 
-/// While it lives, message boxes that others open show their text as it is: the dialog puts names of files
-/// into its questions and leaves it to them to guess whether that is markup.
-class PlainBoxes final : public QObject
-{
-public:
-    PlainBoxes() { qApp->installEventFilter(this); }
-
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        if (event->type() == QEvent::Polish) {
-            if (auto* box = qobject_cast<QMessageBox*>(watched)) {
-                box->setTextFormat(Qt::PlainText);
-            }
-        }
-        return QObject::eventFilter(watched, event);
-    }
-};
-
 QString show(QWidget* owner, const FileDialogRequest& request, QFileDialog::AcceptMode mode)
 {
-    const PlainBoxes plainBoxes;
+    const PlainDialogTexts plainTexts;
     PlainIcons icons;
     QFileDialog dialog(owner);
     dialog.setIconProvider(&icons);

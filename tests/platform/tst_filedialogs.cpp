@@ -4,10 +4,13 @@
 #include <QApplication>
 #include <QFile>
 #include <QFileDialog>
+#include <QHelpEvent>
+#include <QListView>
 #include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QToolTip>
 
 class FileDialogsTest : public TestCase
 {
@@ -72,6 +75,30 @@ private slots:
         QCOMPARE(ScreenFileDialogs().save(nullptr, request), QString());
         QVERIFY2(question.contains(name), qPrintable(question));
         QCOMPARE(format, Qt::PlainText);
+    }
+
+    void aFolderInAToolTipOfTheDialogIsPlainText()
+    {
+        const QTemporaryDir place;
+        QVERIFY(QDir(place.path()).mkdir(QStringLiteral("<b>x<b>")));
+        const QString folder = place.filePath(QStringLiteral("<b>x<b>"));
+        FileDialogRequest request;
+        request.filter = QStringLiteral("All (*)|*");
+
+        QString tip;
+        QTimer::singleShot(0, this, [&] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            QVERIFY(dialog != nullptr);
+            dialog->setSidebarUrls({QUrl::fromLocalFile(folder)});
+            auto* places = dialog->findChild<QListView*>(QStringLiteral("sidebar"));
+            const QPoint first = places->visualRect(places->model()->index(0, 0)).center();
+            QHelpEvent hovering(QEvent::ToolTip, first, places->viewport()->mapToGlobal(first));
+            QApplication::sendEvent(places->viewport(), &hovering);
+            tip = QToolTip::text();
+            dialog->reject();
+        });
+        QCOMPARE(ScreenFileDialogs().open(nullptr, request), QString());
+        QVERIFY2(tip.contains(QStringLiteral("/&lt;b&gt;x&lt;b&gt;")), qPrintable(tip));
     }
 };
 

@@ -1,5 +1,6 @@
 #include "platform/printing/WindowPrinting.h"
 
+#include "platform/PlainDialogTexts.h"
 #include "platform/ScreenProgress.h"
 #include "platform/printing/WithheldPrinting.h"
 
@@ -76,6 +77,7 @@ bool printThroughDialog(QWidget& window, const PrintRequest& request)
     QPrinter printer(QPrinter::HighResolution);
     printer.setPageLayout(request.page);
     printer.setDocName(request.title);
+    const PlainDialogTexts plainTexts;
     QPrintDialog dialog(&printer, &window);
     dialog.setWindowFlag(Qt::WindowStaysOnTopHint, window.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
     dialog.setOption(QAbstractPrintDialog::PrintCurrentPage);
