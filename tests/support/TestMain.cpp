@@ -2,8 +2,10 @@
 
 #include <QApplication>
 #include <QLocale>
+#include <QSettings>
 #include <QStandardPaths>
 #include <QStyleFactory>
+#include <QTemporaryDir>
 #include <QTest>
 
 void TestCase::init()
@@ -17,6 +19,9 @@ void TestCase::init()
 int runTest(QObject& test, int argc, char** argv)
 {
     QStandardPaths::setTestModeEnabled(true);
+    // What a file dialog remembers would be met by the dialogs of the next test.
+    const QTemporaryDir settings;
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
     QApplication application(argc, argv);
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
