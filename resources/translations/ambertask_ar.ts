@@ -711,8 +711,8 @@
 <context>
     <name>ScreenProgress</name>
     <message>
-        <source>Cancel</source>
-        <translation>إلغاء</translation>
+        <source>&amp;Cancel</source>
+        <translation>إل&amp;غاء</translation>
     </message>
 </context>
 <context>

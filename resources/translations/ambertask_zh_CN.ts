@@ -691,8 +691,8 @@
 <context>
     <name>ScreenProgress</name>
     <message>
-        <source>Cancel</source>
-        <translation>取消</translation>
+        <source>&amp;Cancel</source>
+        <translation>取消(&amp;C)</translation>
     </message>
 </context>
 <context>

@@ -85,7 +85,7 @@ void ScreenProgress::showBox()
     m_bar = new QProgressBar(m_box.get());
     m_bar->setAccessibleName(m_text);
     m_bar->setTextVisible(false);
-    auto* cancel = new QPushButton(tr("Cancel"), m_box.get());
+    auto* cancel = new QPushButton(tr("&Cancel"), m_box.get());
     cancel->setObjectName(QStringLiteral("btnCancel"));
     auto* layout = new QVBoxLayout(m_box.get());
     layout->addWidget(label);

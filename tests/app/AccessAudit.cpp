@@ -119,10 +119,26 @@ bool hasLeadingLabel(const QWidget* control, QWidget& window)
     });
 }
 
+/// Of options that exclude each other the Tab key visits one; the arrow keys go to the others.
+bool areOptionsOfOneGroup(const QWidget* one, const QWidget* other)
+{
+    return isOneOf<QRadioButton>(one) && isOneOf<QRadioButton>(other)
+        && one->parentWidget() == other->parentWidget();
+}
+
+bool takesTab(const QWidget* control)
+{
+    return (control->focusPolicy() & Qt::TabFocus) != 0;
+}
+
 void checkReach(const Controls& controls, QStringList& faults)
 {
     for (const QWidget* control : controls) {
-        if ((control->focusPolicy() & Qt::TabFocus) == 0) {
+        const bool isReached = takesTab(control)
+            || std::any_of(controls.begin(), controls.end(), [control](const QWidget* other) {
+                   return takesTab(other) && areOptionsOfOneGroup(control, other);
+               });
+        if (!isReached) {
             faults.append(nameOf(control) + QLatin1String(" does not take the focus from the Tab key"));
         }
     }
@@ -202,10 +218,20 @@ bool goesBackwards(const QRect& from, const QRect& to)
     return (sameRow && to.right() <= from.left()) || (sameColumn && to.bottom() <= from.top());
 }
 
-QRect placeOf(const QWidget* control, const QWidget& window)
+/// The direction in which two controls are read: that of what holds both.
+Qt::LayoutDirection directionOf(const QWidget* one, const QWidget* other)
+{
+    const QWidget* both = one->parentWidget();
+    while (!both->isAncestorOf(other)) {
+        both = both->parentWidget();
+    }
+    return both->layoutDirection();
+}
+
+QRect placeOf(const QWidget* control, const QWidget& window, Qt::LayoutDirection direction)
 {
     QRect place(control->mapTo(&window, QPoint()), control->size());
-    if (window.layoutDirection() == Qt::RightToLeft) {
+    if (direction == Qt::RightToLeft) {
         place.moveLeft(window.width() - place.right() - 1);
     }
     return place;
@@ -221,7 +247,9 @@ void checkOrder(const Controls& controls, QWidget& window, QStringList& faults)
     }
     for (qsizetype i = 0; i < inTabOrder.size(); ++i) {
         for (qsizetype j = i + 1; j < inTabOrder.size(); ++j) {
-            if (goesBackwards(placeOf(inTabOrder[i], window), placeOf(inTabOrder[j], window))) {
+            const Qt::LayoutDirection direction = directionOf(inTabOrder[i], inTabOrder[j]);
+            if (goesBackwards(
+                    placeOf(inTabOrder[i], window, direction), placeOf(inTabOrder[j], window, direction))) {
                 faults.append(QStringLiteral("the Tab key goes backwards from %1 to %2")
                                   .arg(nameOf(inTabOrder[i]), nameOf(inTabOrder[j])));
             }
@@ -240,14 +268,10 @@ QWidget* focusedControl(const Controls& controls)
     return nullptr;
 }
 
-/// Of option buttons that exclude each other the Tab key visits one; the arrow keys go to the others.
 bool isVisitedByArrows(const QWidget* control, const QSet<QWidget*>& visited)
 {
-    const auto isMate = [control](QWidget* other) {
-        return qobject_cast<QRadioButton*>(other) != nullptr
-            && other->parentWidget() == control->parentWidget();
-    };
-    return isOneOf<QRadioButton>(control) && std::any_of(visited.begin(), visited.end(), isMate);
+    return std::any_of(visited.begin(), visited.end(),
+        [control](const QWidget* other) { return areOptionsOfOneGroup(control, other); });
 }
 
 void walk(const Controls& controls, QStringList& faults)

@@ -1,54 +1,14 @@
-#include "categories/frmCategoryDetails.h"
-#include "help/frmAbout.h"
-#include "help/window/CompiledHelpWindow.h"
-#include "platform/MessageBoxes.h"
-#include "platform/ScreenErrorReport.h"
-#include "reminders/frmAlerts.h"
-#include "report/PreviewWindow.h"
+#include "platform/Language.h"
 #include "support/TestMain.h"
-#include "tasks/frmTaskDetails.h"
 #include "tests/app/AccessAudit.h"
-#include "tests/app/ProgramFixture.h"
-#include "tests/help/RecordedHelpHost.h"
-#include "tests/report/RecordedReportHost.h"
+#include "tests/app/EveryWindow.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
+#include <QPushButton>
 #include <QRadioButton>
-#include <QTabWidget>
-#include <QTimer>
+#include <QTest>
 #include <QVBoxLayout>
-
-using namespace std::chrono_literals;
-
-/// Fails when fewer controls than expected are seen, or one of them lacks something.
-#define EXPECT_ACCESSIBLE(window, leastControls)                                                             \
-    do {                                                                                                     \
-        QVERIFY(QTest::qWaitForWindowActive(&(window)));                                                     \
-        int seen = 0;                                                                                        \
-        const QStringList faults = accessFaults(window, &seen);                                              \
-        QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));                                          \
-        QVERIFY2(seen >= (leastControls), qPrintable(QString::number(seen)));                                \
-    } while (false)
-
-namespace
-{
-
-template <typename Window> Window* openWindow()
-{
-    for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (auto* found = dynamic_cast<Window*>(window); found != nullptr && found->isVisible()) {
-            return found;
-        }
-    }
-    return nullptr;
-}
-
-} // namespace
 
 /// Every window, without a mouse and through assistive technology.
 class AccessTest : public TestCase
@@ -56,6 +16,8 @@ class AccessTest : public TestCase
     Q_OBJECT
 
 private slots:
+    void cleanup() { m_language.speak({}); }
+
     void whatIsMissingIsFound()
     {
         QWidget window;
@@ -86,130 +48,109 @@ private slots:
         QCOMPARE(faults, expected);
     }
 
-    void thePagesOfTheMainWindow_data()
+    void twoControlsOfOneNameAreFound()
     {
-        QTest::addColumn<int>("page");
-        QTest::addColumn<int>("leastControls");
-        QTest::newRow("tasks") << 0 << 16;
-        QTest::newRow("categories") << 1 << 8;
-        QTest::newRow("settings") << 2 << 17;
-        QTest::newRow("maintenance") << 3 << 14;
-    }
-    void thePagesOfTheMainWindow()
-    {
-        QFETCH(int, page);
-        QFETCH(int, leastControls);
-        ProgramFixture f;
-        aTask(f.database).add();
-        f.start();
-        f.control<QTabWidget>(f.main(), "tabMain")->setCurrentIndex(page);
-        if (page == 0) {
-            f.control<QRadioButton>(f.main(), "opnSpecificDate")->click();
-        }
-        EXPECT_ACCESSIBLE(f.main(), leastControls);
-    }
-
-    void theTaskDialog()
-    {
-        ProgramFixture f;
-        f.start();
-        f.press(f.main(), "btnTaskAdd");
-        frmTaskDetails& dialog = f.program.taskDetails();
-        for (const char* box : {"chkEnableReminder", "chkReminderSound", "chkReminderFile"}) {
-            f.control<QCheckBox>(dialog, box)->click();
-        }
-        EXPECT_ACCESSIBLE(dialog, 18);
-    }
-
-    void theCategoryDialog_data()
-    {
-        QTest::addColumn<QString>("kind");
-        QTest::newRow("default icon") << QStringLiteral("opnDefaultIcon");
-        QTest::newRow("custom icon") << QStringLiteral("opnCustomIcon");
-    }
-    void theCategoryDialog()
-    {
-        QFETCH(QString, kind);
-        ProgramFixture f;
-        f.start();
-        f.press(f.main(), "btnAddCat");
-        frmCategoryDetails& dialog = f.program.categoryDetails();
-        dialog.findChild<QRadioButton*>(kind)->click();
-        EXPECT_ACCESSIBLE(dialog, 19);
-    }
-
-    void theAlert()
-    {
-        ProgramFixture f;
-        aTask(f.database).remindingAt(f.database.clock().now() - 1min).add();
-        f.start();
-        f.program.loadDialogs();
-        f.program.alerts().activateWindow();
-        EXPECT_ACCESSIBLE(f.program.alerts(), 8);
-    }
-
-    void theAboutBox()
-    {
-        ProgramFixture f;
-        f.start();
-        f.menu("mnuAbout")->trigger();
-        auto* box = openWindow<frmAbout>();
-        QVERIFY(box != nullptr);
-        EXPECT_ACCESSIBLE(*box, 1);
-    }
-
-    void theReport()
-    {
-        RecordedReportHost host;
-        PreviewWindow window(host, [] { return true; });
+        QWidget window;
+        auto* layout = new QVBoxLayout(&window);
+        auto* first = new QPushButton(QStringLiteral("&Browse"));
+        auto* second = new QPushButton(QStringLiteral("B&rowse"));
+        first->setObjectName(QStringLiteral("first"));
+        second->setObjectName(QStringLiteral("second"));
+        layout->addWidget(first);
+        layout->addWidget(second);
         window.show();
-        EXPECT_ACCESSIBLE(window, 12);
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QCOMPARE(accessFaults(window), QStringList{"first and second are both named \"Browse\""});
     }
 
-    void theHelp_data()
+    void aGroupOfOptionsIsReachedAsOne()
     {
-        QTest::addColumn<int>("tab");
-        QTest::newRow("contents") << 0;
-        QTest::newRow("index") << 1;
-        QTest::newRow("search") << 2;
-    }
-    void theHelp()
-    {
-        QFETCH(int, tab);
-        RecordedHelpHost host;
-        CompiledHelpWindow window(host, [] { return true; });
-        window.setFile(QStringLiteral(AMBERTASK_HELP_FILE));
-        window.showDefaultTopic();
-        window.findChild<QTabWidget*>()->setCurrentIndex(tab);
-        window.show();
-        EXPECT_ACCESSIBLE(window, 8);
-    }
-
-    void questionsAndErrors()
-    {
-        QStringList faults;
-        const auto lookWhileOpen = [&faults] {
-            QTimer::singleShot(0, qApp, [&faults] {
-                auto* box = openWindow<QMessageBox>();
-                QVERIFY(QTest::qWaitForWindowActive(box));
-                faults += accessFaults(*box);
-                box->reject();
-            });
+        QWidget window;
+        auto* layout = new QVBoxLayout(&window);
+        const auto addOptions = [layout](const QStringList& captions) {
+            auto* group = new QWidget;
+            auto* inGroup = new QVBoxLayout(group);
+            for (const QString& caption : captions) {
+                inGroup->addWidget(new QRadioButton(caption));
+                inGroup->itemAt(inGroup->count() - 1)->widget()->setObjectName(caption);
+            }
+            layout->addWidget(group);
+            return group;
         };
-        ScreenMessageBoxes boxes;
-        lookWhileOpen();
-        QVERIFY(!boxes.ask(nullptr, QStringLiteral("Really?")));
-        QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
-        lookWhileOpen();
-        boxes.tell(nullptr, MessageBoxes::Icon::Information, QStringLiteral("Done."));
-        QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
-        bool closed = false;
-        ScreenErrorReport errors([&closed] { closed = true; });
-        lookWhileOpen();
-        errors.report(QStringLiteral("Broken"));
-        QVERIFY(!closed);
-        QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
+        addOptions({"&one", "&two"});
+        QWidget* left = addOptions({"t&hree", "&four"});
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QCOMPARE(accessFaults(window), QStringList());
+        // By now the first group has given the Tab key to one of its options alone.
+        QCOMPARE(accessFaults(window), QStringList());
+        for (auto* option : left->findChildren<QRadioButton*>()) {
+            option->setFocusPolicy(Qt::ClickFocus);
+        }
+        window.findChild<QRadioButton*>(QStringLiteral("&one"))->setFocus();
+        QCOMPARE(accessFaults(window),
+            QStringList({"t&hree does not take the focus from the Tab key",
+                "&four does not take the focus from the Tab key", "the Tab key never comes to t&hree",
+                "the Tab key never comes to &four"}));
     }
+
+    void whatReadsFromLeftToRightIsReachedSoInAProgramThatReadsTheOtherWay()
+    {
+        QWidget window;
+        window.setLayoutDirection(Qt::RightToLeft);
+        auto* layout = new QVBoxLayout(&window);
+        auto* name = new QWidget;
+        auto* words = new QHBoxLayout(name);
+        for (const char* word : {"&First", "&Second"}) {
+            auto* button = new QPushButton(QLatin1String(word));
+            button->setObjectName(QLatin1String(word));
+            words->addWidget(button);
+        }
+        layout->addWidget(name);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QCOMPARE(accessFaults(window), QStringList());
+        name->setLayoutDirection(Qt::LeftToRight);
+        QCoreApplication::sendPostedEvents();
+        QCOMPARE(accessFaults(window), QStringList());
+        words->setDirection(QBoxLayout::RightToLeft);
+        QCoreApplication::sendPostedEvents();
+        QCOMPARE(accessFaults(window), QStringList{"the Tab key goes backwards from &First to &Second"});
+    }
+
+    void everyWindowInEveryLanguage_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::newRow("en") << QString();
+        for (const QString& name : Language::shipped()) {
+            QTest::newRow(qPrintable(name)) << name;
+        }
+    }
+    void everyWindowInEveryLanguage()
+    {
+        QFETCH(const QString, language);
+        m_language.speak(language);
+        SkinnedProgram program(QStringLiteral("Aqua"));
+        int windows = 0;
+        int controls = 0;
+        QStringList faults;
+        visitEveryWindow(program, [&](const QString& name, QWidget& window) {
+            window.activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(&window));
+            int seen = 0;
+            for (const QString& fault : accessFaults(window, &seen)) {
+                faults.append(name + QLatin1String(": ") + fault);
+            }
+            ++windows;
+            controls += seen;
+        });
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
+        QCOMPARE(windows, 26);
+        QVERIFY2(controls >= 260, qPrintable(QString::number(controls)));
+    }
+
+private:
+    Language m_language;
 };
 
 AMBERTASK_TEST_MAIN(AccessTest)
