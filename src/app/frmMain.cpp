@@ -1,6 +1,7 @@
 #include "app/frmMain.h"
 
 #include "app/FixedPictures.h"
+#include "app/HeaderFrame.h"
 #include "app/TasksPage.h"
 #include "categories/CategoriesPage.h"
 #include "platform/ErrorReport.h"
@@ -88,7 +89,7 @@ void frmMain::addPageKeys()
 
 QWidget* frmMain::makeHeader()
 {
-    auto* header = new QWidget;
+    auto* header = new HeaderFrame;
     header->setObjectName(QStringLiteral("framHeader"));
     auto* layout = new QHBoxLayout(header);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -118,13 +119,7 @@ QWidget* frmMain::makeHeader()
     version->setTextFormat(Qt::PlainText);
     version->setObjectName(QStringLiteral("lblVersionHeader"));
     layout->addWidget(version, 0, Qt::AlignBottom);
-    // The way to the tray menu on a desktop that has no notification area.
-    header->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(header, &QWidget::customContextMenuRequested, this, [this, header](const QPoint& position) {
-        if (!m_host.hasNotificationArea()) {
-            m_trayMenu->popup(header->mapToGlobal(position));
-        }
-    });
+    connect(header, &HeaderFrame::menuRequested, this, &frmMain::header_Menu);
     return header;
 }
 
@@ -359,6 +354,15 @@ void frmMain::tabMain_Switch(int page)
 void frmMain::mnuFeedBack_Click()
 {
     m_services.shell.openVendorPage(QStringLiteral("/support.htm?referer=p"));
+}
+
+void frmMain::header_Menu(const QPoint& place, bool byKeys)
+{
+    // An icon in the notification area may take no key, so for keys the menu is always here.
+    if (byKeys || !m_host.hasNotificationArea()) {
+        m_trayMenu->popup(place);
+        m_trayMenu->setActiveAction(byKeys ? m_mnuShow : nullptr);
+    }
 }
 
 void frmMain::header_Click()

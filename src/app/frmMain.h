@@ -113,6 +113,7 @@ private:
     void tabMain_Switch(int page);
     void mnuFeedBack_Click();
     void header_Click();
+    void header_Menu(const QPoint& place, bool byKeys);
     void hideWindow();
     void showWindow();
     void syncTrayCaption();

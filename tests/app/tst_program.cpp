@@ -7,6 +7,7 @@
 #include "tasks/frmTaskDetails.h"
 
 #include <QCheckBox>
+#include <QContextMenuEvent>
 #include <QDateEdit>
 #include <QLabel>
 #include <QListWidget>
@@ -323,6 +324,49 @@ private slots:
         QCOMPARE(f.shell.pages,
             QStringList({QStringLiteral("/support.htm?referer=p"), QStringLiteral("/index.htm?referer=p"),
                 QStringLiteral("/index.htm?referer=p")}));
+    }
+
+    void theMenuKeyOnALinkOfTheHeaderOpensTheTrayMenu()
+    {
+        ProgramFixture f;
+        f.start();
+        auto* menu = f.control<QMenu>(f.main(), "mnuTray");
+        for (const char* link : {"lblAmberHeader", "lblOrganizerHeader"}) {
+            askForMenu(f, link, QContextMenuEvent::Keyboard);
+            QVERIFY2(menu->isVisible(), link);
+            QCOMPARE(menu->activeAction(), f.menu("mnuShow"));
+            menu->close();
+        }
+        QTest::keyClick(f.control<QWidget>(f.main(), "lblAmberHeader"), Qt::Key_F10, Qt::ShiftModifier);
+        QVERIFY(menu->isVisible());
+        menu->close();
+        f.notificationArea = false;
+        askForMenu(f, "lblAmberHeader", QContextMenuEvent::Keyboard);
+        QVERIFY(menu->isVisible());
+        menu->close();
+    }
+
+    void aRightClickOnTheHeaderOpensItOnlyWithoutANotificationArea()
+    {
+        ProgramFixture f;
+        f.start();
+        auto* menu = f.control<QMenu>(f.main(), "mnuTray");
+        askForMenu(f, "lblAmberHeader", QContextMenuEvent::Mouse);
+        QVERIFY(!menu->isVisible());
+        f.notificationArea = false;
+        askForMenu(f, "lblAmberHeader", QContextMenuEvent::Mouse);
+        QVERIFY(menu->isVisible());
+        QCOMPARE(menu->activeAction(), nullptr);
+        menu->close();
+    }
+
+private:
+    static void askForMenu(ProgramFixture& f, const char* control, QContextMenuEvent::Reason reason)
+    {
+        auto* widget = f.control<QWidget>(f.main(), control);
+        const QPoint place = widget->rect().center();
+        QContextMenuEvent event(reason, place, widget->mapToGlobal(place));
+        QCoreApplication::sendEvent(widget, &event);
     }
 };
 

@@ -79,6 +79,12 @@ class KeyboardCase(DesktopCase):
                                               for column in range(grid.columns()))
         wait_until(look, "the grid has the focus")
 
+    def wait_list_focus(self):
+        categories = self.user.main().find(*names.CATEGORY_LIST)
+        wait_until(lambda: categories.has("focused")
+                   or any(entry.has("focused") for entry in categories.children()), "the list has the focus")
+        return categories
+
     # The steps --------------------------------------------------------------------------------------------
 
     def category(self):
@@ -214,9 +220,7 @@ class TypicalEventByKeysTest(KeyboardCase):
 
     def delete_category(self):
         self.alt("2")
-        categories = self.user.main().find(*names.CATEGORY_LIST)
-        wait_until(lambda: categories.has("focused")
-                   or any(entry.has("focused") for entry in categories.children()), "the list has the focus")
+        categories = self.wait_list_focus()
         self.type(CATEGORY)
         wait_until(lambda: [entry.name for entry in categories.children() if entry.has("selected")] == [CATEGORY],
                    "the category is selected")
@@ -251,6 +255,46 @@ class AlertByKeysTest(KeyboardCase):
         self.user.wait_hidden(names.alert_title(2))
         self.assertEqual(self.reminders(), {"Water the plants": ("2026-03-02 10:30:00", 0, 1, 1),
                                             "Pay the gardener": ("2026-03-02 10:31:00", 0, 1, 1)})
+
+
+class HeaderMenuByKeysTest(KeyboardCase):
+    """An icon in the notification area takes no key; its menu opens from the header of the window, too."""
+
+    def setUp(self):
+        super().setUp()
+        self.alt("2")
+        self.wait_list_focus()
+        for _ in ("to the row of pages", "to the header"):
+            self.desk.input.key("Tab", "Shift_L")
+
+    def open_menu(self, *keys):
+        self.wait_focus(self.user.main(), ("link", "Organizer"))
+        self.desk.input.key(*keys)
+        menu = self.user.access.shown("menu")
+        wait_until(lambda: menu.children()[0].has("focused"), "the first entry is selected")
+        return menu
+
+    def choose_entry(self, entry, *keys):
+        menu = self.open_menu(*keys)
+        entries = [node.name for node in menu.children()]
+        self.assertEqual(entries, ["Hide"] + names.TRAY_MENU[1:])
+        for place in range(1, entries.index(entry) + 1):
+            self.key("Down")
+            wait_until(lambda node=menu.children()[place]: node.has("focused"), f"entry {place} is selected")
+        self.key("Return")
+
+    def test_the_menu_key_leads_to_the_about_box_and_ends_the_program(self):
+        self.choose_entry("About", "Menu")
+        self.user.wait_active(names.ABOUT)
+        self.alt("o")
+        self.user.wait_hidden(names.ABOUT)
+        self.user.wait_active(names.MAIN)
+        self.choose_entry("Exit", "Menu")
+        self.assertEqual(self.user.program.wait_end(), 0)
+
+    def test_shift_and_f10_do_as_the_menu_key_does(self):
+        self.choose_entry("Exit", "F10", "Shift_L")
+        self.assertEqual(self.user.program.wait_end(), 0)
 
 
 if __name__ == "__main__":

@@ -1,0 +1,20 @@
+#include "app/HeaderFrame.h"
+
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+
+void HeaderFrame::contextMenuEvent(QContextMenuEvent* event)
+{
+    emit menuRequested(event->globalPos(), event->reason() == QContextMenuEvent::Keyboard);
+}
+
+void HeaderFrame::keyPressEvent(QKeyEvent* event)
+{
+    // The toolkit asks for a menu by the menu key; by Shift+F10 not on every platform.
+    if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
+        const QWidget* link = focusWidget() == nullptr ? this : focusWidget();
+        emit menuRequested(link->mapToGlobal(link->rect().center()), true);
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
