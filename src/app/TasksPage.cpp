@@ -42,7 +42,7 @@ template <typename Control> Control* named(Control* control, const char* name)
 TasksPage::TasksPage(const FormServices& services, std::function<TaskColumns()> shownColumns, QWidget* parent)
     : QWidget(parent), m_services(services), m_shownColumns(std::move(shownColumns)),
       m_model(new TaskListModel(this)), m_grid(named(new GridView, "grdTasks")),
-      m_categories(named(new ComboBox, "cmbCategories")), m_status(named(new QComboBox, "cmbStatus")),
+      m_categories(named(new ComboBox, "cmbCategories")), m_status(named(new ComboBox, "cmbStatus")),
       m_sort(named(new ComboBox, "cmbSort")), m_allDate(named(new QRadioButton(tr("A&ll")), "opnAllDate")),
       m_specificDate(named(new QRadioButton(tr("Spec&ific")), "opnSpecificDate")),
       m_dateFrom(named(new QDateEdit, "dtpDueDateFrom")), m_dateTo(named(new QDateEdit, "dtpDueDateTo")),

@@ -92,6 +92,7 @@ void CategoriesPage::LoadCategories()
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
         item->setData(Qt::UserRole, category.Id());
         item->setToolTip(category.Description());
+        item->setData(Qt::AccessibleDescriptionRole, category.Description());
         m_list->addItem(item);
     }
     if (const int row = rowOf(selectedId); row >= 0) {

@@ -1,6 +1,6 @@
 #include "platform/MessageBoxes.h"
 
-#include "platform/PlainText.h"
+#include "platform/BoxText.h"
 
 #include <QAbstractButton>
 #include <QMessageBox>
@@ -18,8 +18,8 @@ void name(const QMessageBox& box, QMessageBox::StandardButton which, const QStri
 QMessageBox::StandardButton show(
     QWidget* owner, QMessageBox::Icon icon, const QString& text, QMessageBox::StandardButtons buttons)
 {
-    QMessageBox box(icon, QStringLiteral("Ambertask"), breakable(text), buttons, owner);
-    box.setTextFormat(Qt::PlainText);
+    QMessageBox box(icon, QStringLiteral("Ambertask"), {}, buttons, owner);
+    setBoxText(box, text);
     // The toolkit's own captions follow a catalogue of the system that may be missing.
     name(box, QMessageBox::Ok, MessageBoxes::tr("&OK"));
     name(box, QMessageBox::Yes, MessageBoxes::tr("&Yes"));

@@ -1,6 +1,6 @@
 #include "platform/ScreenErrorReport.h"
 
-#include "platform/PlainText.h"
+#include "platform/BoxText.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -19,9 +19,8 @@ void ScreenErrorReport::report(const QString& text)
     }
     const QScopedValueRollback guard(m_open, true);
     QWidget* owner = QApplication::activeWindow();
-    QMessageBox box(
-        QMessageBox::Critical, QStringLiteral("Ambertask"), breakable(text), QMessageBox::NoButton, owner);
-    box.setTextFormat(Qt::PlainText);
+    QMessageBox box(QMessageBox::Critical, QStringLiteral("Ambertask"), {}, QMessageBox::NoButton, owner);
+    setBoxText(box, text);
     box.setWindowFlag(Qt::WindowStaysOnTopHint,
         owner != nullptr && owner->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
     QPushButton* close = box.addButton(tr("Close &program"), QMessageBox::DestructiveRole);
@@ -38,8 +37,8 @@ void ScreenErrorReport::report(const QString& text)
 
 void ScreenErrorReport::reportFailedStart(const QString& text)
 {
-    QMessageBox box(QMessageBox::Critical, QStringLiteral("Ambertask"), breakable(text), QMessageBox::Ok);
-    box.setTextFormat(Qt::PlainText);
+    QMessageBox box(QMessageBox::Critical, QStringLiteral("Ambertask"), {}, QMessageBox::Ok);
+    setBoxText(box, text);
     box.button(QMessageBox::Ok)->setText(tr("&OK"));
     box.exec();
 }

@@ -95,6 +95,8 @@ QGroupBox* SettingsPage::makeSkinsFrame()
     m_cmbSkins = new ComboBox;
     m_cmbSkins->setObjectName(QStringLiteral("cmbSkins"));
     m_cmbSkins->addItems({QStringLiteral("Aqua"), QStringLiteral("Lemon"), QStringLiteral("Classic")});
+    // The longest name is not to widen the page.
+    m_cmbSkins->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_cmbSkins->setMinimumContentsLength(20);
     auto* currentSkin = new QLabel(tr("Current s&kin"));
     currentSkin->setTextFormat(Qt::PlainText);

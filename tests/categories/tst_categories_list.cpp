@@ -73,6 +73,7 @@ void CategoriesListTest::anItemCarriesItsIdDescriptionAndPicture()
     const QListWidgetItem* item = test.list()->item(0);
     QCOMPARE(item->data(Qt::UserRole).toInt(), int(id));
     QCOMPARE(item->toolTip(), QStringLiteral("At the office"));
+    QCOMPARE(item->data(Qt::AccessibleDescriptionRole).toString(), QStringLiteral("At the office"));
     QCOMPARE(item->icon().cacheKey(), test.images.picture(8).cacheKey());
 }
 
