@@ -205,7 +205,7 @@ void drTasks::DataReport_QueryClose()
 
 QString drTasks::choosePdfFile(QWidget* owner)
 {
-    return ::choosePdfFile(m_services, owner, QStringLiteral("Tasks Report.pdf"));
+    return ::choosePdfFile(m_services, owner, tr("Tasks Report") + QStringLiteral(".pdf"));
 }
 
 void drTasks::tellFailure(QWidget* owner, const QString& text)

@@ -1,4 +1,5 @@
 #include "app/drTasks.h"
+#include "platform/Language.h"
 #include "platform/WindowPlacement.h"
 #include "report/PreviewWindow.h"
 #include "support/CaughtError.h"
@@ -287,6 +288,19 @@ private slots:
         QTest::mouseClick(f.window->findChild<QPushButton*>(QStringLiteral("btnExport")), Qt::LeftButton);
         QVERIFY(f.services.checkerTimer.enabled);
         QVERIFY(pagesOfPdf(file).value(0).contains(QStringLiteral("exported")));
+    }
+
+    void theProposedFileNameIsInTheLanguageOfTheProgram()
+    {
+        Language language;
+        language.speak(QStringLiteral("de"));
+        Fixture f;
+        f.print();
+        QString name;
+        f.services.dialogs.expectSave({}, [&](const FileDialogRequest& request) { name = request.fileName; });
+        QTest::mouseClick(f.window->findChild<QPushButton*>(QStringLiteral("btnExport")), Qt::LeftButton);
+        language.speak({});
+        QCOMPARE(name, QStringLiteral("Aufgabenbericht.pdf"));
     }
 
     void aNameWithoutAnEndingGetsItAndIsAskedAbout()

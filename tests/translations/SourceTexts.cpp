@@ -22,6 +22,18 @@ QString plainCode(const QString& code)
     return plain.append(QStringView(code).mid(copied)).remove(seam);
 }
 
+/// A statement or a piece of one that begins where a value has been put in, or a style rule. Told by the
+/// beginning: what a user reads may hold any of these words.
+bool isStatement(const QString& text)
+{
+    static const QRegularExpression statement(QStringLiteral(
+        "^[#',]?\\s*(select (\\*|count\\(|\\w+(,| from))|insert into |delete from \\w+( where|\\s*$)"
+        "|[Uu]pdate +\\w+ set |pragma \\w+$|PRAGMA |SELECT |BEGIN IMMEDIATE$"
+        "|(where|and) [\\w.]+ ?<?= ?|order by ?\\w*$)|^,\\w+='"));
+    static const QRegularExpression styleRule(QStringLiteral("^Q[A-Z]\\w+(::[\\w-]+)? \\{"));
+    return text.contains(statement) || text.contains(styleRule);
+}
+
 } // namespace
 
 QStringList untranslatedSentences(QString code)
@@ -30,16 +42,21 @@ QStringList untranslatedSentences(QString code)
     static const QRegularExpression literal(QStringLiteral("\"((?:[^\"\\\\\\n]|\\\\.)*)\""));
     static const QRegularExpression call(
         QStringLiteral("(\\btr|translate|QT_TRANSLATE_NOOP)\\(\\s*(\"[^\"]*\",\\s*)?$"));
-    static const QRegularExpression sentence(QStringLiteral("[A-Za-z]{2,} [a-z]{2,}"));
-    static const QRegularExpression statement(QStringLiteral("[{_]|\\b(select|update|delete|pragma|where) "),
-        QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression words(QStringLiteral("[A-Za-z]{2,}( [A-Za-z])? [A-Za-z]{2,}"));
+    static const QRegularExpression word(QStringLiteral("[A-Za-z]{2,}"));
+    static const QRegularExpression caption(QStringLiteral(
+        "(set(Text|Title|WindowTitle|ToolTip|StatusTip|WhatsThis|PlaceholderText|AccessibleName"
+        "|AccessibleDescription)|add(Action|Button|Item|Tab)|Q(Label|GroupBox|PushButton|CheckBox|"
+        "RadioButton))"
+        "\\(\\s*((QStringLiteral|QLatin1String)\\(\\s*)?$"));
     QStringList found;
     for (auto matches = literal.globalMatch(code); matches.hasNext();) {
         const QRegularExpressionMatch match = matches.next();
         const QString text = match.captured(1);
         const qsizetype lookBehind = qMin<qsizetype>(match.capturedStart(), 200);
         const QString before = code.mid(match.capturedStart() - lookBehind, lookBehind);
-        if (text.contains(sentence) && !text.contains(statement) && !before.contains(call)) {
+        const bool isShown = text.contains(words) || (text.contains(word) && before.contains(caption));
+        if (isShown && !isStatement(text) && !before.contains(call)) {
             found.append(text);
         }
     }

@@ -2,6 +2,7 @@
 
 #include <QStringList>
 
-/// The string literals of a C++ file that read like a sentence and do not stand in a call of translation.
-/// Statements and style rules are none.
+/// The string literals of a C++ file that a user reads and that do not stand in a call of translation:
+/// whatever has two words in a row, and the caption that a control is given in one. Statements and style
+/// rules are none.
 QStringList untranslatedSentences(QString code);

@@ -197,7 +197,23 @@ void CataloguesTest::aSentenceOutsideOfTranslationIsFound_data()
     row("of another context", "translate(\"frmMain\", \"The file is gone.\")");
     row("marked", "QT_TRANSLATE_NOOP(\"frmMain\", \"The file is gone.\")");
     row("in a comment", "// The \"file is gone\".\n/* \"It is gone\" */");
-    row("statement", "execute(\"delete from tasks\");");
+    row("with words of a statement", "ask(\"Are you sure you want to delete this task?\");",
+        {QStringLiteral("Are you sure you want to delete this task?")});
+    row("like a statement",
+        "tell(\"Select a category.\") + \"Update the list now\" + \"select a file from the list\"",
+        {QStringLiteral("Select a category."), QStringLiteral("Update the list now"),
+            QStringLiteral("select a file from the list")});
+    row("with a brace or a low line", "tell(\"The file {1} is gone\", \"my_file is gone\")",
+        {QStringLiteral("The file {1} is gone"), QStringLiteral("my_file is gone")});
+    row("in capitals", "setWindowTitle(QStringLiteral(\"Tasks Report\"));", {QStringLiteral("Tasks Report")});
+    row("caption of one word", "close->setText(QStringLiteral(\"Close\")); new QLabel(\"Name\", this)",
+        {QStringLiteral("Close"), QStringLiteral("Name")});
+    row("name of a control", "close->setObjectName(QStringLiteral(\"btnClose\"));");
+    row("statement", "execute(\"delete from tasks\"); execute(\"select * from tasks where task_id = \")");
+    row("statement of the system",
+        "execute(\"Update categories set cat_name = '\" + name + \"'  where cat_id =  \")");
+    row("end of a statement", "text += \"# and task_due_date <= #\"; text += \" order by task_name\";");
+    row("style rule", "setStyleSheet(\"QLabel { border: 1px solid black; }\")");
 }
 
 void CataloguesTest::aSentenceOutsideOfTranslationIsFound()
@@ -208,9 +224,15 @@ void CataloguesTest::aSentenceOutsideOfTranslationIsFound()
 
 void CataloguesTest::noSentenceOfTheProgramStandsOutsideOfTranslation()
 {
-    // Key of a column, folder, mark of a file format.
-    const QStringList names{
-        QStringLiteral("due date"), QStringLiteral("/custom icons"), QStringLiteral("SQLite format 3\\0")};
+    // The program's name, key of a column, folder, mark of a file format, connection, session entry, keys of
+    // the registry.
+    const QStringList names{QStringLiteral("Ambertask"), QStringLiteral("due date"),
+        QStringLiteral("/custom icons"), QStringLiteral("SQLite format 3\\0"),
+        QStringLiteral("Provider=Microsoft.Jet.OLEDB.4.0;Data Source= "),
+        QStringLiteral("[Desktop Entry]\\nType=Application\\nVersion=1.0\\nName=%1\\nExec=%2\\nTryExec=%3\\n"
+                       "Terminal=false\\n"),
+        QStringLiteral("SOFTWARE\\\\Microsoft\\\\Shared Tools\\\\MSINFO"),
+        QStringLiteral("SOFTWARE\\\\Microsoft\\\\Shared Tools Location")};
     QStringList faults;
     int files = 0;
     QDirIterator sources(QStringLiteral(AMBERTASK_SOURCES), {QStringLiteral("*.cpp"), QStringLiteral("*.h")},
