@@ -93,10 +93,9 @@ QWidget* TasksPage::makeFilterFrame()
     form->addRow(labelFor(m_status, tr("Stat&us"), QStringLiteral("SCLabel2")), m_status);
     form->addRow(labelFor(m_sort, tr("S&ort by"), QStringLiteral("SCLabel3")), m_sort);
     // The longest category is not to widen the page; the words of the program are to be seen whole.
-    m_categories->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    m_categories->setMinimumContentsLength(18);
-    keepEntriesWhole(*m_status);
-    keepEntriesWhole(*m_sort);
+    m_categories->keepNarrow(18);
+    m_status->keepEntriesWhole();
+    m_sort->keepEntriesWhole();
     return frame;
 }
 

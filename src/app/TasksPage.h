@@ -7,9 +7,9 @@
 #include <QWidget>
 #include <functional>
 
+class ComboBox;
 class GridView;
 class QBoxLayout;
-class QComboBox;
 class QDateEdit;
 class QLabel;
 class QPushButton;
@@ -72,9 +72,9 @@ private:
     std::function<TaskColumns()> m_shownColumns;
     TaskListModel* m_model;
     GridView* m_grid;
-    QComboBox* m_categories;
-    QComboBox* m_status;
-    QComboBox* m_sort;
+    ComboBox* m_categories;
+    ComboBox* m_status;
+    ComboBox* m_sort;
     QRadioButton* m_allDate;
     QRadioButton* m_specificDate;
     QLabel* m_dateFromLabel;

@@ -83,9 +83,8 @@ QGroupBox* MaintenancePage::makeDeleteFrame()
     m_cmbCategories = named("cmbCategoriesMaintenance", new ComboBox);
     m_cmbStatus = named("cmbStatusMaintenance", new ComboBox);
     // The longest category is not to widen the page; the statuses are to be seen whole.
-    m_cmbCategories->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    m_cmbCategories->setMinimumContentsLength(22);
-    keepEntriesWhole(*m_cmbStatus);
+    m_cmbCategories->keepNarrow(22);
+    m_cmbStatus->keepEntriesWhole();
     m_btnDeleteTasks = named("btnDeleteTasksMaintenance", new QPushButton(tr("&Delete")));
 
     auto* frame = new QGroupBox(tr("Delete Tasks"));
@@ -145,6 +144,11 @@ QGroupBox* MaintenancePage::makeCopyFrame()
     layout->addWidget(m_btnRestore);
     layout->addStretch();
     return frame;
+}
+
+QComboBox& MaintenancePage::cmbCategoriesMaintenance() const
+{
+    return *m_cmbCategories;
 }
 
 void MaintenancePage::prepareFilters()

@@ -4,6 +4,7 @@
 
 #include <QWidget>
 
+class ComboBox;
 class QBoxLayout;
 class QComboBox;
 class QDateEdit;
@@ -24,7 +25,7 @@ public:
     /// Fills both lists, sets both dates to today and selects all tasks. Throws DatabaseError.
     void prepareFilters();
     /// The category list, for reloads after a change of categories.
-    QComboBox& cmbCategoriesMaintenance() const { return *m_cmbCategories; }
+    QComboBox& cmbCategoriesMaintenance() const;
 
     /// The help button is disabled until there is a help to open.
     void setHelpEnabled(bool enabled);
@@ -52,8 +53,8 @@ private:
 
     const FormServices& m_services;
     clsGuiLoader m_loader;
-    QComboBox* m_cmbCategories = nullptr;
-    QComboBox* m_cmbStatus = nullptr;
+    ComboBox* m_cmbCategories = nullptr;
+    ComboBox* m_cmbStatus = nullptr;
     QDateEdit* m_dtpDateFrom = nullptr;
     QDateEdit* m_dtpDateTo = nullptr;
     QRadioButton* m_opnAllTasks = nullptr;

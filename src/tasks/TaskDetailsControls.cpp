@@ -86,10 +86,9 @@ void TaskDetailsControls::setUp()
     txtDescription->setTabChangesFocus(true);
     txtDescription->setMinimumHeight(txtDescription->fontMetrics().lineSpacing() * 5);
     // The longest category is not to widen the dialog.
-    cmbCategories->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    cmbCategories->setMinimumContentsLength(20);
-    keepEntriesWhole(*cmbStatus);
-    keepEntriesWhole(*cmbPeriorities);
+    cmbCategories->keepNarrow(20);
+    cmbStatus->keepEntriesWhole();
+    cmbPeriorities->keepEntriesWhole();
     for (QDateEdit* picker : {dtpDueDate, dtpReminderDate}) {
         setUpDatePicker(*picker);
     }

@@ -3,8 +3,8 @@
 #include <QCoreApplication>
 #include <QList>
 
+class ComboBox;
 class QCheckBox;
-class QComboBox;
 class QDateEdit;
 class QGridLayout;
 class QGroupBox;
@@ -24,12 +24,12 @@ public:
     explicit TaskDetailsControls(QWidget& form);
 
     QLineEdit* txtTask;
-    QComboBox* cmbCategories;
+    ComboBox* cmbCategories;
     QPlainTextEdit* txtDescription;
     QDateEdit* dtpDueDate;
     QTimeEdit* dtpDueTime;
-    QComboBox* cmbStatus;
-    QComboBox* cmbPeriorities;
+    ComboBox* cmbStatus;
+    ComboBox* cmbPeriorities;
     QGroupBox* framReminderLater;
     QCheckBox* chkEnableReminder;
     QLabel* lblReminderDate;

@@ -7,6 +7,7 @@
 #include "tasks/TaskDetailsHost.h"
 #include "ui/CheckerTimer.h"
 #include "ui/CloseBox.h"
+#include "ui/ComboBox.h"
 #include "ui/Combos.h"
 #include "ui/ControlValue.h"
 #include "ui/DateComposition.h"
@@ -15,7 +16,6 @@
 
 #include <QCheckBox>
 #include <QCloseEvent>
-#include <QComboBox>
 #include <QDateEdit>
 #include <QKeyEvent>
 #include <QLabel>

@@ -2,9 +2,14 @@
 
 #include "ui/AccessibleControls.h"
 
+#include <QAbstractItemModel>
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QStyle>
 #include <QStyleHints>
+#include <QStyleOption>
+#include <utility>
 
 namespace
 {
@@ -20,6 +25,81 @@ bool writesLetter(const QKeyEvent& event)
 ComboBox::ComboBox(QWidget* parent) : QComboBox(parent)
 {
     installAccessibleControls();
+}
+
+void ComboBox::keepEntriesWhole()
+{
+    m_width = Width::OfEntries;
+    // The toolkit's policy of that name makes the list that opens, nine widgets, before anybody opens it.
+    setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
+    const QAbstractItemModel* entries = model();
+    connect(entries, &QAbstractItemModel::rowsInserted, this, &QWidget::updateGeometry);
+    connect(entries, &QAbstractItemModel::rowsRemoved, this, &QWidget::updateGeometry);
+    connect(entries, &QAbstractItemModel::dataChanged, this, &QWidget::updateGeometry);
+    connect(entries, &QAbstractItemModel::modelReset, this, &QWidget::updateGeometry);
+    updateGeometry();
+}
+
+void ComboBox::keepNarrow(int letters)
+{
+    m_width = Width::OfLetters;
+    m_letters = letters;
+    updateGeometry();
+}
+
+QSize ComboBox::sizeHint() const
+{
+    return m_width == Width::ToolkitsOwn ? QComboBox::sizeHint() : ownSize();
+}
+
+QSize ComboBox::minimumSizeHint() const
+{
+    return m_width == Width::ToolkitsOwn ? QComboBox::minimumSizeHint() : ownSize();
+}
+
+QSize ComboBox::ownSize() const
+{
+    constexpr int air = 2; // pixels above and below, as the toolkit reckons
+    constexpr int besidePicture = 4;
+    const QFontMetrics metrics = fontMetrics();
+    QSize size(0, metrics.height() + air);
+    if (m_width == Width::OfLetters) {
+        const QSize picture = iconSize();
+        size = QSize(m_letters * metrics.horizontalAdvance(u'X') + picture.width() + besidePicture,
+            qMax(size.height(), picture.height() + air));
+    } else {
+        for (int i = 0; i < count(); ++i) {
+            size.setWidth(qMax(size.width(), metrics.horizontalAdvance(itemText(i))));
+        }
+    }
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    return style()->sizeFromContents(QStyle::CT_ComboBox, &option, size, this);
+}
+
+void ComboBox::changeEvent(QEvent* event)
+{
+    // The toolkit would make the list that opens, to style it. Nobody can open it before it has been painted.
+    if (event->type() == QEvent::StyleChange && !m_painted) {
+        m_owesStyle = true;
+        QWidget::changeEvent(event);
+        return;
+    }
+    QComboBox::changeEvent(event);
+}
+
+void ComboBox::paintEvent(QPaintEvent* event)
+{
+    QComboBox::paintEvent(event);
+    if (!std::exchange(m_painted, true) && m_owesStyle) {
+        QMetaObject::invokeMethod(this, &ComboBox::takeStyle, Qt::QueuedConnection);
+    }
+}
+
+void ComboBox::takeStyle()
+{
+    QEvent change(QEvent::StyleChange);
+    QCoreApplication::sendEvent(this, &change);
 }
 
 void ComboBox::choose(int row)

@@ -18,11 +18,30 @@ public:
     /// row.
     void choose(int row);
 
+    /// As wide as its widest entry: for words of the program, not of the user.
+    void keepEntriesWhole();
+    /// As wide as `letters` letters and a picture, however long the entries are.
+    void keepNarrow(int letters);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
 protected:
+    void changeEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    enum class Width { ToolkitsOwn, OfEntries, OfLetters };
+
     bool goesOnWriting(const QKeyEvent& event) const;
+    QSize ownSize() const;
+    void takeStyle();
+
+    Width m_width = Width::ToolkitsOwn;
+    int m_letters = 0;
+    bool m_painted = false;
+    bool m_owesStyle = false;
 
     /// When the last letter of a name was struck, as input events tell it.
     std::optional<quint64> m_lastLetter;

@@ -8,7 +8,5 @@ class QComboBox;
 
 /// The number of the selected entry; `none` when nothing is selected.
 qint32 selectedNumber(const QComboBox& combo, qint32 none);
-/// Keeps the combo as wide as its widest entry: for words of the program, not of the user.
-void keepEntriesWhole(QComboBox& combo);
 /// Selects the last entry that carries `number`; selects none when there is no such entry.
 void selectNumber(QComboBox& combo, qint32 number);

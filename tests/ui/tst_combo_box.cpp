@@ -12,6 +12,57 @@ class ComboBoxTest : public TestCase
     Q_OBJECT
 
 private slots:
+    void theListThatOpensIsNotMadeBeforeTheFirstPainting()
+    {
+        ComboBox combo;
+        fill(combo);
+        combo.keepEntriesWhole();
+        QEvent restyled(QEvent::StyleChange);
+        QCoreApplication::sendEvent(&combo, &restyled);
+        QVERIFY(combo.sizeHint().isValid());
+        QVERIFY(combo.findChild<QAbstractItemView*>() == nullptr);
+        show(combo);
+        QTRY_VERIFY(combo.findChild<QAbstractItemView*>() != nullptr);
+    }
+
+    void aNewStyleIsTakenBeforeThePaintingAndAfter()
+    {
+        ComboBox combo;
+        fill(combo);
+        const int plain = combo.sizeHint().height();
+        combo.setStyleSheet(QStringLiteral("QComboBox { padding: 20px; }"));
+        show(combo);
+        QTRY_VERIFY(combo.sizeHint().height() > plain && combo.minimumSizeHint().height() > plain);
+        combo.setStyleSheet({});
+        QCOMPARE(combo.sizeHint().height(), plain);
+    }
+
+    void wholeEntriesWidenTheBox()
+    {
+        ComboBox combo;
+        combo.keepEntriesWhole();
+        fill(combo);
+        const int before = combo.minimumSizeHint().width();
+        const QString longer(60, u'm');
+        combo.addItem(longer);
+        QCOMPARE(combo.sizeHint(), combo.minimumSizeHint());
+        QVERIFY(combo.sizeHint().width() > before);
+        QVERIFY(combo.sizeHint().width() >= combo.fontMetrics().horizontalAdvance(longer));
+        combo.removeItem(combo.count() - 1);
+        QCOMPARE(combo.sizeHint().width(), before);
+    }
+
+    void aNarrowBoxStaysSo()
+    {
+        ComboBox combo;
+        combo.keepNarrow(10);
+        const QSize empty = combo.sizeHint();
+        QVERIFY(empty.width() >= combo.fontMetrics().horizontalAdvance(QString(10, u'X')));
+        combo.addItem(QString(60, u'm'));
+        QCOMPARE(combo.sizeHint(), empty);
+        QCOMPARE(combo.minimumSizeHint(), empty);
+    }
+
     void aNameWithBlanksIsWrittenWithoutOpeningTheList()
     {
         ComboBox combo;
