@@ -4,6 +4,7 @@
 #include "platform/FileReplace.h"
 #include "platform/ProgramFolder.h"
 #include "platform/database/DatabaseError.h"
+#include "platform/database/RollbackJournal.h"
 #include "settings/DataFileCheck.h"
 
 #include <QDir>
@@ -64,6 +65,46 @@ bool isUnfinished(const QString& journal)
     return !file.open(QIODevice::ReadOnly) || file.read(&first, 1) < 0 || first != '\0';
 }
 
+/// Whether the engine would take `file` for a database at all.
+bool hasHead(const QString& file)
+{
+    constexpr QByteArrayView Head("SQLite format 3\0", 16);
+    QFile source(file);
+    return QFileInfo(file).isFile() && source.open(QIODevice::ReadOnly) && source.read(Head.size()) == Head;
+}
+
+bool holdTheSame(const QString& left, const QString& right)
+{
+    constexpr qint64 Chunk = 65536;
+    QFile one(left);
+    QFile other(right);
+    bool same =
+        one.open(QIODevice::ReadOnly) && other.open(QIODevice::ReadOnly) && one.size() == other.size();
+    while (same && !one.atEnd()) {
+        const QByteArray bytes = one.read(Chunk);
+        same = !bytes.isEmpty() && bytes == other.read(Chunk);
+    }
+    return same;
+}
+
+/// Whether a restore that died or failed has come so far: then the journal beside `replaced` is the one of
+/// `place`.
+bool isKeptAlready(const QString& place, const QString& replaced)
+{
+    return isSameFile(place, replaced) || (!hasHead(place) && holdTheSame(place, replaced));
+}
+
+/// Gives what the engine would take back from beside `file` the names with which it does so from beside
+/// `target`.
+void moveUnfinished(const QString& file, const QString& target)
+{
+    for (const char* companion : Companions) {
+        if (isUnfinished(file + QLatin1String(companion))) {
+            moveOver(file + QLatin1String(companion), target + QLatin1String(companion));
+        }
+    }
+}
+
 } // namespace
 
 DataFileCopies::DataFileCopies(const DatabaseEngine& engine)
@@ -99,20 +140,25 @@ void DataFileCopies::restoreFrom(const QString& file, Progress* progress) const
     const CheckingFolder folder(place);
     const QString checked = pathIn(folder.path(), ClsDatabase(*m_engine).FileName());
     copyToNewFile(file, checked, PrivateFile, progress);
+    useRollbackJournal(checked);
     requireServiceableDataFile({folder.path(), m_engine->clock, nullptr, progress});
     makePrivate(file);
-    const bool replaces = isPresent(place);
-    if (replaces) {
-        settleIfSound();
-    }
-    // It would be rolled back into the new file.
-    refuseOpenOperation(m_dataFile);
-    if (!replaces) {
+    if (!isPresent(place)) {
+        // It would be rolled back into the new file.
+        refuseOpenOperation(m_dataFile);
         moveOver(checked, place);
         return;
     }
+    // What lies beside a file that is no database any more belongs to no operation that somebody could
+    // finish, and the engine would throw it away.
+    if (hasHead(place)) {
+        settleIfSound();
+        refuseOpenOperation(m_dataFile);
+    }
     keepReplaced(place, folder.path(), progress);
     try {
+        // Before the new file: beside that it would be rolled back into it.
+        moveUnfinished(place, place + QLatin1String(ReplacedSuffix));
         moveOver(checked, place);
     } catch (const FileError&) {
         putBackEarlier(place, folder.path());
@@ -127,7 +173,11 @@ void DataFileCopies::keepPrivate() const
     for (const char* companion : Companions) {
         makePrivate(place + QLatin1String(companion));
     }
-    makePrivate(place + QLatin1String(ReplacedSuffix));
+    const QString replaced = place + QLatin1String(ReplacedSuffix);
+    makePrivate(replaced);
+    for (const char* companion : Companions) {
+        makePrivate(replaced + QLatin1String(companion));
+    }
 }
 
 // No bytes are copied: the restored file takes the name, and the old one keeps its second one. The file of an
@@ -135,10 +185,25 @@ void DataFileCopies::keepPrivate() const
 void DataFileCopies::keepReplaced(const QString& place, const QString& folder, Progress* progress)
 {
     const QString replaced = place + QLatin1String(ReplacedSuffix);
-    if (isPresent(replaced)) {
-        keepAlso(replaced, pathIn(folder, QLatin1String(EarlierName)), PrivateFile, progress);
+    const QString earlier = pathIn(folder, QLatin1String(EarlierName));
+    if (isKeptAlready(place, replaced)) {
+        return;
     }
-    keepAlso(place, replaced, PrivateFile, progress);
+    try {
+        // Before the file that it belongs to, and never beside another of that name.
+        moveUnfinished(replaced, earlier);
+        if (isPresent(replaced)) {
+            keepAlso(replaced, earlier, PrivateFile, progress);
+        }
+        keepAlso(place, replaced, PrivateFile, progress);
+    } catch (...) {
+        try {
+            moveUnfinished(earlier, replaced);
+        } catch (const FileError&) {
+            // The first failure is what is told.
+        }
+        throw;
+    }
 }
 
 void DataFileCopies::putBackEarlier(const QString& place, const QString& folder)
@@ -146,14 +211,16 @@ void DataFileCopies::putBackEarlier(const QString& place, const QString& folder)
     const QString replaced = place + QLatin1String(ReplacedSuffix);
     const QString earlier = pathIn(folder, QLatin1String(EarlierName));
     try {
+        moveUnfinished(replaced, place);
         if (isPresent(earlier)) {
             moveOver(earlier, replaced);
+            moveUnfinished(earlier, replaced);
         } else {
             // The data file is not to be known by two names.
             removeFile(replaced);
         }
     } catch (const FileError&) {
-        // Then it is; nothing is lost by that.
+        // Then it is, and its journal with it; nothing is lost by that.
     }
 }
 
@@ -187,9 +254,7 @@ void DataFileCopies::refuseOpenOperation(const QString& file) const
 // Before anything is copied: the chosen file may be of any size.
 void DataFileCopies::refuseForeignFile(const QString& file) const
 {
-    constexpr QByteArrayView Head("SQLite format 3\0", 16);
-    QFile source(file);
-    if (!QFileInfo(file).isFile() || !source.open(QIODevice::ReadOnly) || source.read(Head.size()) != Head) {
+    if (!hasHead(file)) {
         throw FileError(tr("\"%1\" is no data file.").arg(file));
     }
 }

@@ -21,7 +21,9 @@ public:
     /// the disk.
     void backUpTo(const QString& file, Progress* progress = nullptr) const;
     /// Replaces the data file by `file`, which has to be a sound data file of this program. What was replaced
-    /// stays beside it as data.dat.before-restore; `file` becomes private to its owner, where that can be.
+    /// stays beside it as data.dat.before-restore, with the journal of an operation that died in it, if any;
+    /// `file` becomes private to its owner, where that can be. A copy in write-ahead mode is turned to
+    /// rollback-journal mode, in which the data file is kept; any other is restored byte for byte.
     void restoreFrom(const QString& file, Progress* progress = nullptr) const;
 
     /// Takes away what others than the owner may do with the data file and with what lies beside it. Where

@@ -162,6 +162,27 @@ private slots:
             f.grid(f.program.alerts())->model()->index(0, 1).data().toString(), QStringLiteral("due then"));
     }
 
+    void afterABackupInWriteAheadModeAnOpenReportHindersNothing()
+    {
+        RestoringProgram f;
+        constexpr int Formats = 18;
+        QByteArray bytes = contentOf(f.backup());
+        writeText(f.elsewhere.filePath(QStringLiteral("ahead.abk")),
+            bytes.replace(Formats, 2, QByteArray(2, '\x02')));
+        f.start();
+        f.program.loadDialogs();
+        f.restore(f.elsewhere.filePath(QStringLiteral("ahead.abk")));
+        f.press(f.main(), "btnTaskPrint");
+        QVERIFY(f.reportWindow != nullptr);
+        aTask(f.database).named(QStringLiteral("added under the report")).add();
+        const QString later = f.elsewhere.filePath(QStringLiteral("later.abk"));
+        f.dialogs.expectSave(later);
+        f.press(f.main(), "btnBackup");
+        QVERIFY(contentOf(later) == contentOf(f.database.dataFile()));
+        f.restore(f.backup());
+        QCOMPARE(f.names(), QStringList(QStringLiteral("of the backup")));
+    }
+
     void anEndOfTheProgramUnderTheFileDialogSavesNothing()
     {
         RestoringProgram f;

@@ -4,6 +4,7 @@
 #include "platform/Clock.h"
 #include "platform/RuntimeError.h"
 #include "platform/database/DatabaseEngine.h"
+#include "platform/database/RollbackJournal.h"
 #include "settings/DataFileCheck.h"
 
 #include <cstdint>
@@ -31,13 +32,19 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     QFile::remove(file.path() + QLatin1String("-wal"));
     QFile::remove(file.path() + QLatin1String("-shm"));
     const DatabaseEngine engine{file.folder(), &clock};
+    QByteArray turned;
     try {
+        useRollbackJournal(file.path());
+        turned = file.read();
         requireServiceableDataFile(engine);
     } catch (const RuntimeError& error) {
         require(!error.text().isEmpty(), "a refusal says why");
         return 0;
     }
-    require(file.read() == bytes, "the check changes nothing");
+    require(file.read() == turned, "the check changes nothing");
+    constexpr qsizetype Formats = 18;
+    require(turned.mid(Formats, 2) == QByteArray(2, '\x01'), "it is in rollback-journal mode");
+    require(bytes.mid(Formats, 2) != turned.mid(Formats, 2) || bytes == turned, "only others are turned");
     // From here on nothing may be refused: an exception ends the process.
     ClsTask task(engine);
     task.setTaskName(QStringLiteral("007"));

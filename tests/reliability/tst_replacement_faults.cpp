@@ -97,6 +97,8 @@ private slots:
     void aRestoreReplacesTheDataFileWholeOrNotAtAll();
     void aRestoreOverADeadOperationIsWholeOrNotAtAll();
     void aSecondRestoreKeepsWhatItReplaces();
+    void aRestoreFromWriteAheadModeIsWholeOrNotAtAll();
+    void aRestoreOverAnEmptyFileKeepsItsJournal();
     void aSkinIsAddedWholeOrNotAtAll();
     void aCustomIconIsStoredWholeOrNotAtAll();
     void theSessionEntryIsWrittenWholeOrNotAtAll();
@@ -204,6 +206,49 @@ void TestReplacementFaults::aSecondRestoreKeepsWhatItReplaces()
     place.database.sql(QStringLiteral("update tasks set task_name='long ago'"));
     place.copyDataFile(QStringLiteral("program/data.dat.before-restore"));
     trySweep(place, place.restore());
+}
+
+void TestReplacementFaults::aRestoreFromWriteAheadModeIsWholeOrNotAtAll()
+{
+    const Place place;
+    constexpr int Formats = 18;
+    const QString backup = place.path(QStringLiteral("elsewhere/b.abk"));
+    QByteArray bytes = bytesOf(backup);
+    writeFile(place.path(QStringLiteral("elsewhere")), QStringLiteral("b.abk"),
+        bytes.replace(Formats, 2, QByteArray(2, '\x02')));
+    Operation restore = place.restore();
+    restore.stateOf = [state = restore.stateOf](const std::string& folder) {
+        const std::string mode = contentIn(folder, "program/data.dat").substr(Formats, 2);
+        return mode == "\x01\x01" ? state(folder) : throw std::runtime_error("not in rollback mode");
+    };
+    trySweep(place, restore);
+}
+
+void TestReplacementFaults::aRestoreOverAnEmptyFileKeepsItsJournal()
+{
+    const Place place;
+    const QString program = place.path(QStringLiteral("program"));
+    writeFile(program, QStringLiteral("data.dat"), "");
+    writeFile(program, QStringLiteral("data.dat-journal"), "dead");
+    trySweep(place,
+        {[&] {
+             return told([&] {
+                 DataFileCopies(place.engine).restoreFrom(place.path(QStringLiteral("elsewhere/b.abk")));
+             });
+         },
+            [](const std::string& folder) {
+                const std::string beside = contentIn(folder, "program/data.dat-journal");
+                const std::string kept =
+                    contentIn(folder, std::string("program/") + BeforeRestore + "-journal");
+                if ((beside == "dead") == (kept == "dead")) {
+                    throw std::runtime_error("the journal is lost or there twice");
+                }
+                const bool isEmpty = contentIn(folder, "program/data.dat").empty();
+                if (!isEmpty && beside != "none") {
+                    throw std::runtime_error("the journal lies beside the new file");
+                }
+                return isEmpty ? std::string("empty") : dataFileState(folder + "/program");
+            }});
 }
 
 void TestReplacementFaults::aSkinIsAddedWholeOrNotAtAll()
