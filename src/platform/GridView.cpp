@@ -96,8 +96,10 @@ void GridView::selectOnly(int row)
     while (column + 1 < model()->columnCount() && isColumnHidden(column)) {
         ++column;
     }
-    setCurrentIndex(model()->index(row, column));
-    selectRow(row);
+    // The toolkit's selectRow() finds no column at the edge where it looks from right to left, and clears.
+    const QModelIndex cell = model()->index(row, column);
+    selectionModel()->setCurrentIndex(cell, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    scrollTo(cell);
 }
 
 QSize GridView::minimumSizeHint() const

@@ -187,6 +187,20 @@ private slots:
         QCOMPARE(shown.grid.selectedRow(), -1);
     }
 
+    void aRowIsSelectedFromRightToLeftToo()
+    {
+        ShownGrid shown;
+        shown.grid.setLayoutDirection(Qt::RightToLeft);
+        QCoreApplication::processEvents();
+        shown.grid.selectOnly(1);
+        QCOMPARE(shown.grid.selectedRow(), 1);
+        QCOMPARE(shown.grid.currentIndex().row(), 1);
+        shown.grid.selectOnly(1);
+        QCOMPARE(shown.grid.selectedRow(), 1);
+        QTest::keyClick(&shown.grid, Qt::Key_Home);
+        QCOMPARE(shown.grid.selectedRow(), 0);
+    }
+
     void aGridWithoutAModelHasNoSelectedRow()
     {
         const GridView grid;
