@@ -14,6 +14,8 @@ namespace
 
 /// Lines and frames around what stands in a window.
 constexpr int Lines = 8;
+/// What is seen around a control that is scrolled into view.
+constexpr int Margin = 50;
 
 } // namespace
 
@@ -32,7 +34,7 @@ ScrollFrame::ScrollFrame(QList<const QWidget*> beside) : m_beside(std::move(besi
     viewport()->setAutoFillBackground(false);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget* /*old*/, QWidget* now) {
         if (now != nullptr && isAncestorOf(now)) {
-            ensureWidgetVisible(now);
+            reveal(*now);
         }
     });
 }
@@ -78,6 +80,27 @@ QSize ScrollFrame::boundedToScreen(QSize size) const
         size.rheight() += horizontalScrollBar()->sizeHint().height();
     }
     return size.boundedTo(room);
+}
+
+void ScrollFrame::reveal(const QWidget& shown)
+{
+    // Of a list or a text what the user is at, of any other control the whole.
+    const QVariant place = shown.inputMethodQuery(Qt::ImCursorRectangle);
+    const bool hasPlace = place.toRect() != shown.QWidget::inputMethodQuery(Qt::ImCursorRectangle).toRect();
+    QRect wanted = hasPlace ? place.toRect() : shown.rect();
+    wanted.translate(shown.mapTo(widget(), QPoint()));
+    // The bar counts from the side on which reading begins, which the toolkit forgets.
+    wanted = QStyle::visualRect(layoutDirection(), widget()->rect(), wanted);
+    const auto bring = [](QScrollBar* bar, int begin, int end, int room) {
+        if (begin < bar->value() || end - begin > room) {
+            bar->setValue(begin);
+        } else if (end > bar->value() + room) {
+            bar->setValue(end - room);
+        }
+    };
+    wanted.adjust(-Margin, -Margin, Margin, Margin);
+    bring(horizontalScrollBar(), wanted.left(), wanted.right(), viewport()->width());
+    bring(verticalScrollBar(), wanted.top(), wanted.bottom(), viewport()->height());
 }
 
 bool ScrollFrame::event(QEvent* event)

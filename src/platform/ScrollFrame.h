@@ -27,6 +27,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    /// Scrolls what has the focus into view, as little as needed.
+    void reveal(const QWidget& shown);
     /// `size`, and where it exceeds the screen, what there is room for.
     QSize boundedToScreen(QSize size) const;
 

@@ -3,6 +3,7 @@
 #include "platform/WrappingRow.h"
 #include "platform/printing/PageOutput.h"
 #include "platform/printing/WindowPrinting.h"
+#include "ui/ComboBox.h"
 
 #include <QBoxLayout>
 #include <QCloseEvent>
@@ -52,8 +53,8 @@ PreviewWindow::PreviewWindow(ReportHost& host, std::function<bool()> hasPrinter)
       m_host(host), m_hasPrinter(std::move(hasPrinter)),
       m_print(named(new QPushButton(tr("&Print...")), "btnPrint")),
       m_export(named(new QPushButton(tr("&Export PDF...")), "btnExport")),
-      m_paper(named(new QComboBox, "cmbPaper")), m_orientation(named(new QComboBox, "cmbOrientation")),
-      m_zoom(named(new QComboBox, "cmbZoom")), m_pageNumber(named(new QSpinBox, "spnPage")),
+      m_paper(named(new ComboBox, "cmbPaper")), m_orientation(named(new ComboBox, "cmbOrientation")),
+      m_zoom(named(new ComboBox, "cmbZoom")), m_pageNumber(named(new QSpinBox, "spnPage")),
       m_first(named(new QPushButton(tr("&First")), "btnFirstPage")),
       m_previous(named(new QPushButton(tr("Pre&vious")), "btnPreviousPage")),
       m_next(named(new QPushButton(tr("&Next")), "btnNextPage")),

@@ -2,9 +2,11 @@
 #include "platform/WindowPlacement.h"
 #include "support/TestMain.h"
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QScrollBar>
 #include <QTest>
@@ -35,6 +37,37 @@ struct LongForm {
     QPushButton button{QStringLiteral("OK")};
     ScrollFrame* frame = nullptr;
     QLineEdit* last = nullptr;
+    bool isActive = false;
+};
+
+/// A window with a row of buttons and a button as wide as the row, too wide for the screen.
+struct WideForm {
+    WideForm()
+    {
+        auto* content = new QWidget;
+        auto* row = new QHBoxLayout;
+        for (int i = 0; i < 20; ++i) {
+            auto* button = new QPushButton(QStringLiteral("a button"));
+            row->addWidget(button);
+            first = first == nullptr ? button : first;
+            last = button;
+        }
+        auto* column = new QVBoxLayout(content);
+        column->addLayout(row);
+        column->addWidget(wide);
+        auto* layout = new QVBoxLayout(&window);
+        frame = new ScrollFrame(content);
+        layout->addWidget(frame);
+        showOwned(&window, nullptr);
+        isActive = QTest::qWaitForWindowActive(&window);
+        first->setFocus();
+    }
+
+    QWidget window;
+    ScrollFrame* frame = nullptr;
+    QPushButton* first = nullptr;
+    QPushButton* last = nullptr;
+    QPushButton* wide = new QPushButton(QStringLiteral("a wide button"));
     bool isActive = false;
 };
 
@@ -78,6 +111,51 @@ private slots:
         QVERIFY(form.last->visibleRegion().isEmpty());
         form.last->setFocus();
         QVERIFY(!form.last->visibleRegion().isEmpty());
+    }
+
+    void whatGetsTheFocusScrollsIntoViewFromTheSideOnWhichReadingBegins_data()
+    {
+        QTest::addColumn<Qt::LayoutDirection>("direction");
+        QTest::newRow("left to right") << Qt::LeftToRight;
+        QTest::newRow("right to left") << Qt::RightToLeft;
+    }
+
+    void whatGetsTheFocusScrollsIntoViewFromTheSideOnWhichReadingBegins()
+    {
+        QFETCH(const Qt::LayoutDirection, direction);
+        const auto restore = qScopeGuard([] { QApplication::setLayoutDirection(Qt::LeftToRight); });
+        QApplication::setLayoutDirection(direction);
+        const WideForm form;
+        QVERIFY(form.isActive);
+        QScrollBar* bar = form.frame->horizontalScrollBar();
+        QVERIFY(bar->isVisible());
+        QVERIFY(form.first->hasFocus());
+        QCOMPARE(bar->value(), 0);
+        QVERIFY(form.last->visibleRegion().isEmpty());
+        form.last->setFocus();
+        QCOMPARE(form.last->visibleRegion().boundingRect(), form.last->rect());
+        QVERIFY(form.first->visibleRegion().isEmpty());
+        form.first->setFocus();
+        QCOMPARE(form.first->visibleRegion().boundingRect(), form.first->rect());
+        QCOMPARE(bar->value(), 0);
+    }
+
+    void aControlThatIsWiderThanTheWindowIsSeenFromItsBegin_data()
+    {
+        whatGetsTheFocusScrollsIntoViewFromTheSideOnWhichReadingBegins_data();
+    }
+
+    void aControlThatIsWiderThanTheWindowIsSeenFromItsBegin()
+    {
+        QFETCH(const Qt::LayoutDirection, direction);
+        const auto restore = qScopeGuard([] { QApplication::setLayoutDirection(Qt::LeftToRight); });
+        QApplication::setLayoutDirection(direction);
+        const WideForm form;
+        QVERIFY(form.isActive);
+        form.last->setFocus();
+        form.wide->setFocus();
+        QVERIFY(form.wide->visibleRegion().boundingRect().contains(
+            direction == Qt::LeftToRight ? form.wide->rect().topLeft() : form.wide->rect().topRight()));
     }
 
     void theTabKeyPassesTheFrame()
