@@ -4,6 +4,7 @@
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
 #include <QAccessible>
+#include <QAccessibleActionInterface>
 #include <QApplication>
 #include <QCalendarWidget>
 #include <QComboBox>
@@ -177,6 +178,24 @@ void checkLabels(const Controls& controls, QWidget& window, QStringList& faults)
     }
 }
 
+/// Assistive technology chooses from a list by the action of an entry.
+void checkEntries(const Controls& controls, QStringList& faults)
+{
+    for (QWidget* control : controls) {
+        const auto* combo = qobject_cast<const QComboBox*>(control);
+        if (combo == nullptr || !combo->isEnabled() || combo->count() == 0) {
+            continue;
+        }
+        QAccessibleInterface* list = QAccessible::queryAccessibleInterface(combo->view());
+        QAccessibleInterface* last = list == nullptr ? nullptr : list->child(combo->count() - 1);
+        QAccessibleActionInterface* actions = last == nullptr ? nullptr : last->actionInterface();
+        if (actions == nullptr
+            || !actions->actionNames().contains(QAccessibleActionInterface::pressAction())) {
+            faults.append(nameOf(control) + QLatin1String(" has entries that cannot be chosen"));
+        }
+    }
+}
+
 void checkMnemonics(const Controls& controls, QWidget& window, QStringList& faults)
 {
     QMap<QString, QString> holders;
@@ -306,6 +325,7 @@ QStringList accessFaults(QWidget& window, int* count)
     checkReach(controls, faults);
     checkNames(controls, window, faults);
     checkLabels(controls, window, faults);
+    checkEntries(controls, faults);
     checkMnemonics(controls, window, faults);
     checkOrder(controls, window, faults);
     walk(controls, faults);

@@ -2,7 +2,10 @@
 #include "support/TestMain.h"
 #include "tests/app/AccessAudit.h"
 #include "tests/app/EveryWindow.h"
+#include "ui/ComboBox.h"
 
+#include <QComboBox>
+#include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -61,6 +64,21 @@ private slots:
         window.show();
         QVERIFY(QTest::qWaitForWindowActive(&window));
         QCOMPARE(accessFaults(window), QStringList{"first and second are both named \"Browse\""});
+    }
+
+    void aListThatAssistiveTechnologyCannotChooseFromIsFound()
+    {
+        QWidget window;
+        auto* layout = new QFormLayout(&window);
+        for (auto* combo : {new QComboBox, static_cast<QComboBox*>(new ComboBox)}) {
+            const QString name = QString::number(layout->rowCount());
+            combo->setObjectName(name);
+            combo->addItems({QStringLiteral("one"), QStringLiteral("two")});
+            layout->addRow(u'&' + name, combo);
+        }
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QCOMPARE(accessFaults(window), QStringList{"0 has entries that cannot be chosen"});
     }
 
     void aGroupOfOptionsIsReachedAsOne()
