@@ -1,5 +1,6 @@
 #include "platform/PictureFile.h"
 
+#include "platform/JpegWalk.h"
 #include "platform/RuntimeError.h"
 
 #include <QBuffer>
@@ -15,10 +16,7 @@ constexpr qint64 MaximumBytes = 64LL * 1024 * 1024;
 constexpr int MaximumEdge = 4096;
 /// Each scan of a progressive JPEG passes over the whole picture, however few bytes it has: a file of many
 /// thousands would keep the program busy for hours. Encoders write about ten.
-constexpr qsizetype MaximumJpegScans = 64;
-
-const QByteArrayView JpegScan("\xFF\xDA");
-const QByteArrayView JpegEnd("\xFF\xD9");
+constexpr int MaximumJpegScans = 64;
 
 QByteArray formatOf(QByteArrayView bytes)
 {
@@ -111,15 +109,16 @@ QSize gifScreen(const QByteArray& bytes)
         qFromLittleEndian<quint16>(bytes.constData() + height)};
 }
 
-/// The decoders make a picture, partly grey, of what is cut off.
+/// The decoders make a picture, partly grey, of what is cut off, and one passes over it as often as it is
+/// told.
 bool isComplete(const QByteArray& bytes, const QByteArray& format)
 {
     if (format == "gif") {
         return GifWalk(bytes).firstPictureIsComplete();
     }
     if (format == "jpeg") {
-        const qsizetype scan = bytes.lastIndexOf(JpegScan);
-        return scan >= 0 && bytes.indexOf(JpegEnd, scan) >= 0;
+        const JpegWalk walk(bytes);
+        return walk.isComplete() && walk.scans() <= MaximumJpegScans;
     }
     return bytes.contains("IEND");
 }
@@ -137,7 +136,7 @@ QImage PictureFile::load(int edge) const
     if (format.isEmpty()) {
         refuse(tr("it is neither a GIF nor a JPEG nor a PNG picture."));
     }
-    if (!isComplete(bytes, format) || (format == "jpeg" && bytes.count(JpegScan) > MaximumJpegScans)) {
+    if (!isComplete(bytes, format)) {
         refuse(tr("it is damaged or incomplete."));
     }
 

@@ -27,6 +27,9 @@ private slots:
     void aFolderIsRefused();
     void aMissingFileIsRefused();
     void aFileOfMoreThan64MebibytesIsRefused();
+    void aPhotographWithAFilmBehindItIsRead_data();
+    void aPhotographWithAFilmBehindItIsRead();
+    void aThumbnailInAPhotographIsNotItsEnd();
     void aJpegOfThousandsOfScansIsRefusedAtOnce();
 
 private:
@@ -153,6 +156,35 @@ void PictureFileTest::aFileOfMoreThan64MebibytesIsRefused()
     const QString path = file(QStringLiteral("long.png"), pngOf(QSize(1, 1)));
     QVERIFY(QFile::resize(path, 64LL * 1024 * 1024 + 1));
     QVERIFY(refusal(path).contains(QLatin1String("64 MiB")));
+}
+
+void PictureFileTest::aPhotographWithAFilmBehindItIsRead_data()
+{
+    QTest::addColumn<QByteArray>("film");
+    QTest::newRow("scans without an end") << QByteArray("\xFF\xDA\x00\x0C").repeated(1'000'000);
+    QTest::newRow("ends") << QByteArray("\xFF\xD9").repeated(1000);
+    QTest::newRow("another picture, cut") << jpegOf(QSize(40, 40)).chopped(20);
+}
+
+void PictureFileTest::aPhotographWithAFilmBehindItIsRead()
+{
+    QFETCH(const QByteArray, film);
+    const QString path = file(QStringLiteral("photograph.jpg"), jpegOf(QSize(400, 300)) + film);
+    QCOMPARE(PictureFile(path).load(96).size(), QSize(96, 72));
+}
+
+void PictureFileTest::aThumbnailInAPhotographIsNotItsEnd()
+{
+    // An application's segment holds a whole picture of its own.
+    const QByteArray thumbnail = jpegOf(QSize(16, 16));
+    const QByteArray photograph = jpegOf(QSize(400, 300));
+    const auto length = static_cast<quint16>(thumbnail.size() + 2);
+    QByteArray bytes = photograph.left(2) + QByteArray("\xFF\xE1");
+    bytes += static_cast<char>(length / 256);
+    bytes += static_cast<char>(length % 256);
+    bytes += thumbnail + photograph.mid(2);
+    QCOMPARE(PictureFile(file(QStringLiteral("whole.jpg"), bytes)).load(96).size(), QSize(96, 72));
+    QVERIFY(!refusal(file(QStringLiteral("cut.jpg"), bytes.chopped(200))).isEmpty());
 }
 
 void PictureFileTest::aJpegOfThousandsOfScansIsRefusedAtOnce()

@@ -1,0 +1,66 @@
+#include "platform/JpegWalk.h"
+
+namespace
+{
+
+constexpr int MarkerBegin = 0xFF;
+constexpr int StartOfScan = 0xDA;
+constexpr int EndOfPicture = 0xD9;
+constexpr int FirstRestart = 0xD0;
+constexpr int StartOfPicture = 0xD8;
+constexpr int PastEnd = -1;
+
+/// Markers without a length and a content.
+bool standsAlone(int marker)
+{
+    constexpr int temporary = 0x01;
+    return marker == temporary || (marker >= FirstRestart && marker <= StartOfPicture);
+}
+
+} // namespace
+
+JpegWalk::JpegWalk(QByteArrayView bytes) : m_bytes(bytes)
+{
+    while (at(m_position) == MarkerBegin) {
+        const int marker = at(++m_position);
+        if (marker == MarkerBegin) {
+            continue; // any number of them may stand before a marker
+        }
+        ++m_position;
+        if (marker == EndOfPicture) {
+            m_hasEnd = true;
+            return;
+        }
+        if (standsAlone(marker)) {
+            continue;
+        }
+        const int high = at(m_position);
+        const int low = at(m_position + 1);
+        constexpr int ownLength = 2;
+        if (low == PastEnd || high * 256 + low < ownLength) {
+            return;
+        }
+        m_position += high * 256 + low;
+        if (marker == StartOfScan) {
+            ++m_scans;
+            skipScan();
+        }
+    }
+}
+
+int JpegWalk::at(qsizetype position) const
+{
+    return position < m_bytes.size() ? static_cast<unsigned char>(m_bytes[position]) : PastEnd;
+}
+
+void JpegWalk::skipScan()
+{
+    // A byte that looks like the begin of a marker is followed by 0; marks for starting anew belong to the
+    // scan.
+    for (; m_position < m_bytes.size(); ++m_position) {
+        const int next = at(m_position) == MarkerBegin ? at(m_position + 1) : 0;
+        if (next != 0 && (next < FirstRestart || next >= StartOfPicture)) {
+            return;
+        }
+    }
+}
