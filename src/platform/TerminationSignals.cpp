@@ -4,6 +4,7 @@
 
 #include <QSocketNotifier>
 #include <array>
+#include <cerrno>
 #include <csignal>
 #include <fcntl.h>
 #include <unistd.h>
@@ -15,12 +16,16 @@ namespace
 std::array<int, 2> signalPipe{-1, -1};
 
 constexpr std::array endingSignals{SIGTERM, SIGINT, SIGHUP};
+std::array<struct sigaction, endingSignals.size()> previousActions{};
 
 void passOn(int)
 {
+    // What this interrupts may be about to ask why a call has failed.
+    const int error = errno;
     const char byte = 1;
     // The pipe does not block; when it is full, a request is already under way.
     [[maybe_unused]] const ssize_t written = ::write(signalPipe[1], &byte, 1);
+    errno = error;
 }
 
 } // namespace
@@ -44,8 +49,12 @@ TerminationSignals::TerminationSignals(QObject* parent) : QObject(parent)
     action.sa_handler = passOn;
     action.sa_flags = SA_RESTART;
     sigemptyset(&action.sa_mask);
-    for (const int signal : endingSignals) {
-        sigaction(signal, &action, nullptr);
+    for (std::size_t i = 0; i < endingSignals.size(); ++i) {
+        sigaction(endingSignals[i], nullptr, &previousActions[i]);
+        // Such a program was started to outlive its terminal (nohup).
+        if (endingSignals[i] != SIGHUP || previousActions[i].sa_handler != SIG_IGN) {
+            sigaction(endingSignals[i], &action, nullptr);
+        }
     }
 }
 
@@ -54,8 +63,8 @@ TerminationSignals::~TerminationSignals()
     if (signalPipe[0] < 0) {
         return;
     }
-    for (const int signal : endingSignals) {
-        std::signal(signal, SIG_DFL);
+    for (std::size_t i = 0; i < endingSignals.size(); ++i) {
+        sigaction(endingSignals[i], &previousActions[i], nullptr);
     }
     ::close(signalPipe[0]);
     ::close(signalPipe[1]);

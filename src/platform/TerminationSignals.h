@@ -3,7 +3,8 @@
 #include <QObject>
 
 /// Turns the system's requests to end the process (SIGTERM, SIGINT, SIGHUP) into a signal of the event loop.
-/// One instance in a process, while it lives.
+/// SIGHUP stays ignored where it was. One instance in a process; when it goes, the requests do what they did
+/// before.
 class TerminationSignals : public QObject
 {
     Q_OBJECT

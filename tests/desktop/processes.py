@@ -19,8 +19,11 @@ def adopt_orphans():
         raise OSError(ctypes.get_errno(), "prctl")
 
 
-def _die_with_parent():
+def _begin():
+    """In the new process: it dies with its parent, and hears signals, whatever the tests were started under."""
     _libc.prctl(PR_SET_PDEATHSIG, signal.SIGKILL, 0, 0, 0)
+    for number in (signal.SIGHUP, signal.SIGINT):
+        signal.signal(number, signal.SIG_DFL)
 
 
 def listens(path):
@@ -97,7 +100,7 @@ class Children:
                 open(os.path.join(self._log_folder, name + ".err"), "ab") as err:
             options.setdefault("stdout", out)
             child = subprocess.Popen(arguments, env=environment, stdin=subprocess.DEVNULL, stderr=err,
-                                     preexec_fn=_die_with_parent, **options)
+                                     preexec_fn=_begin, **options)
         self._started.append(child)
         return child
 

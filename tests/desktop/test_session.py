@@ -1,5 +1,7 @@
 """The program and the user's session: it is started by it, joins it, and leaves it without a trace."""
+import contextlib
 import os
+import shutil
 import signal
 
 import names
@@ -8,10 +10,16 @@ from desktop import PROGRAM_NAME, Desktop
 from gi.repository import Gio
 from polling import wait_until
 from sessions import RESTART_NEVER, SessionManager
-from test_start_and_stop import snapshot
 
 # All that a desktop entry escapes, and what a shell would take for its own.
 HARD_NAME = "a b\"c`d$HOME\\e%f'g;h&i ü"
+
+# No disk copies that many bytes before the box of the copy is seen; a hole takes no room.
+LARGE = 8 << 30
+
+
+def names_below(folder):
+    return sorted(os.path.join(place, name) for place, folders, files in os.walk(folder) for name in folders + files)
 
 
 class SessionCase(DesktopCase):
@@ -25,12 +33,12 @@ class SessionCase(DesktopCase):
         self.assertEqual(program.wait_end(), 0)
         wait_until(lambda: self.desk.screen.tray_icons() == [], "the tray icon is gone")
         self.assertEqual((program.output(), program.errors()), ("", ""))
-        self.assertEqual(sorted(snapshot(self.desk.program)), self.files)
+        self.assertEqual(names_below(self.desk.program), self.files)
         self.assertEqual(self.store.execute("pragma integrity_check"), [{"integrity_check": "ok"}])
         self.assertEqual([task["task_name"] for task in self.store.tasks()], ["Alpha"])
 
     def start_shown(self, manager=None):
-        self.files = sorted(snapshot(self.desk.program))
+        self.files = names_below(self.desk.program)
         user = self.start(environment={"SESSION_MANAGER": manager.address} if manager else None)
         if manager:
             # The program joins the session before it does anything else.
@@ -114,13 +122,76 @@ class SignalTest(SessionCase):
         self.wait_gone(user.program)
 
 
+class LongCopyTest(SessionCase):
+    """An end that comes while a copy shows how far it is: no part of it stays."""
+
+    def setUp(self):
+        super().setUp()
+        self.user = self.start_shown()
+        self.backup = self.desk.path("backups", "kept.abk")
+        os.mkdir(os.path.dirname(self.backup))
+
+    @contextlib.contextmanager
+    def enlarged(self, file):
+        """What lies behind the last page is none of the engine's, but it is copied."""
+        size = os.stat(file).st_size
+        os.truncate(file, LARGE)
+        try:
+            yield
+        finally:
+            os.truncate(file, size)
+
+    def choose(self, button, title):
+        self.user.click_control(self.user.open_page("Maintenance"), button)
+        self.user.type_into(self.user.file_dialog(title), names.FILE_NAME, self.backup)
+        self.desk.input.key("Return")
+
+    def end_during_copy(self):
+        """The end comes as soon as the box shows how far the copy is. The X server is asked: a program that copies
+        answers nobody else in time."""
+        program = self.user.program
+        wait_until(lambda: sum(window.pid == program.pid and window.title == names.MAIN and window.mapped
+                               for window in self.desk.screen.clients()) == 2, "the box is shown")
+        program.send(signal.SIGTERM)
+        self.wait_gone(program)
+
+    def read(self, path):
+        with open(path, "rb") as file:
+            return file.read()
+
+    def test_the_end_during_a_backup_leaves_no_part_of_it(self):
+        before = self.read(self.desk.data_file)
+        with self.enlarged(self.desk.data_file):
+            self.choose(names.BACKUP, names.SAVE_FILE)
+            self.end_during_copy()
+        self.assertEqual(os.listdir(os.path.dirname(self.backup)), [])
+        self.assertEqual(self.read(self.desk.data_file), before)
+
+    def test_the_end_during_a_backup_leaves_the_earlier_one(self):
+        self.desk.write(os.path.join("backups", "kept.abk"), "of yesterday")
+        with self.enlarged(self.desk.data_file):
+            self.choose(names.BACKUP, names.SAVE_FILE)
+            self.user.answer("already exists", names.YES, names.SAVE_FILE)
+            self.end_during_copy()
+        self.assertEqual(self.read(self.backup), b"of yesterday")
+
+    def test_the_end_during_a_restore_leaves_the_data_as_they_were(self):
+        before = self.read(self.desk.data_file)
+        shutil.copy(self.desk.data_file, self.backup)
+        with self.enlarged(self.backup):
+            self.choose(names.RESTORE, names.OPEN_FILE)
+            self.end_during_copy()
+        self.assertEqual(self.read(self.desk.data_file), before)
+        self.assertFalse(os.path.exists(self.desk.data_file + ".before-restore"))
+
+
 class LostDisplayTest(SessionCase):
     def test_a_display_that_goes_leaves_no_damage(self):
         user = self.start_shown()
         user.window(names.MAIN).handle.kill_client()
         self.desk.screen.display.sync()
         self.assertIn(user.program.wait_end(), (0, 1), "it ends by itself and not by a crash")
-        self.assertEqual(sorted(snapshot(self.desk.program)), self.files)
+        self.assertEqual(names_below(self.desk.program), self.files)
         user = self.start_shown()
         self.assertEqual(user.exit(), 0)
 
