@@ -7,6 +7,8 @@ namespace
 {
 
 constexpr qsizetype LongestName = 100;
+// In bytes; no usual file system takes more, the ending included.
+constexpr qsizetype LongestFileName = 255 - 4;
 
 struct NamedRole {
     QStringView name;
@@ -75,8 +77,8 @@ bool couldBeFileName(const QString& name)
 {
     const bool isAllowed = std::none_of(name.begin(), name.end(),
         [](QChar c) { return isUnseen(c) || QStringView(u"/\\:*?\"'`<>|").contains(c); });
-    return !name.isEmpty() && name.size() <= LongestName && isAllowed && !name.startsWith(u'.')
-        && !name.endsWith(u'.');
+    return !name.isEmpty() && name.size() <= LongestName && name.toUtf8().size() <= LongestFileName
+        && isAllowed && !name.startsWith(u'.') && !name.endsWith(u'.');
 }
 
 } // namespace

@@ -12,6 +12,13 @@
 #include <QWidget>
 #include <QWindow>
 
+namespace
+{
+
+constexpr QLatin1String Ending(".skf");
+
+} // namespace
+
 Skins::Skins(const QString& programFolder, MessageBoxes& messages, QObject* parent)
     : QObject(parent), m_folder(pathIn(programFolder, QStringLiteral("Skins"))), m_messages(messages)
 {
@@ -21,7 +28,7 @@ Skins::~Skins() = default;
 
 QString Skins::fileOf(const QString& name) const
 {
-    return m_folder + u'/' + name + QStringLiteral(".skf");
+    return m_folder + u'/' + name + Ending;
 }
 
 QStringList Skins::names()
@@ -83,7 +90,13 @@ bool Skins::wear(const QString& name)
 void Skins::add(const QString& file) const
 {
     SkinFile::read(file);
-    replaceByCopy(file, pathIn(m_folder, file.section(u'/', -1)), PublicFile);
+    QString name = file.section(u'/', -1);
+    // The folder is searched for this ending, on a file system that minds small letters, too.
+    if (name.endsWith(Ending, Qt::CaseInsensitive)) {
+        name.chop(Ending.size());
+        name += Ending;
+    }
+    replaceByCopy(file, pathIn(m_folder, name), PublicFile);
 }
 
 void Skins::noteUnreadable(const QString& fileName, const QString& why)

@@ -46,6 +46,7 @@ private slots:
     void aMissingSkinLeavesTheLookAndTheRestOfTheSaveGoesOn();
 
     void addingCopiesTheFileAndSelectsTheFirstEntry();
+    void anEndingInCapitalLettersIsAddedInSmallOnes();
     void theCheckerRestsWhileTheFileDialogIsOpen();
     void addingAnswersOverAFileOfThatName();
     void aCancelledDialogAddsNothing();
@@ -196,6 +197,19 @@ void TestSettingsSkins::addingCopiesTheFileAndSelectsTheFirstEntry()
     QCOMPARE(contentOf(test.folderOfSkins() + QStringLiteral("/Zebra.skf")), contentOf(file));
     QVERIFY(test.cmbSkins()->findText(QStringLiteral("Zebra")) >= 0);
     QCOMPARE(test.cmbSkins()->currentIndex(), 0);
+}
+
+void TestSettingsSkins::anEndingInCapitalLettersIsAddedInSmallOnes()
+{
+    SettingsPageUnderTest test;
+    const QTemporaryDir elsewhere;
+    const QString file = elsewhere.filePath(QStringLiteral("ZEBRA.SKF"));
+    writeText(file, plainSkin("ZEBRA"));
+    test.dialogs.expectOpen(file);
+    test.dialogs.expectTell(MessageBoxes::Icon::Information, Added);
+    test.press("btnBrowseNewSkin");
+    QVERIFY(QFile::exists(test.folderOfSkins() + QStringLiteral("/ZEBRA.skf")));
+    QVERIFY(test.cmbSkins()->findText(QStringLiteral("ZEBRA")) >= 0);
 }
 
 void TestSettingsSkins::theCheckerRestsWhileTheFileDialogIsOpen()

@@ -210,6 +210,7 @@ void TestSkinFile::aNameThatCouldBeNoFileNameIsRefused_data()
         QTest::newRow(name) << QByteArray(name);
     }
     QTest::newRow("101 letters") << QByteArray(101, 'x');
+    QTest::newRow("84 letters of 3 bytes") << QByteArray("\u6c34").repeated(84);
 }
 
 void TestSkinFile::aNameThatCouldBeNoFileNameIsRefused()
