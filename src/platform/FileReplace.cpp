@@ -1,19 +1,18 @@
 #include "platform/FileReplace.h"
 
-#include "platform/Progress.h"
+#include "platform/NewFile.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QUuid>
+#include <cerrno>
 #include <filesystem>
+#include <optional>
 #include <system_error>
-#include <utility>
 
-#ifdef Q_OS_WIN
-#include <io.h>
-#else
+#ifndef Q_OS_WIN
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
@@ -22,36 +21,14 @@
 namespace
 {
 
-constexpr qint64 ChunkSize = qint64{1024} * 1024;
-
 [[noreturn]] void fail(const QString& path, const QString& why)
 {
-    throw FileError(QStringLiteral("\"%1\": %2.").arg(path, why));
-}
-
-bool flushToDisk(const QFile& file)
-{
-#ifdef Q_OS_WIN
-    return _commit(file.handle()) == 0;
-#else
-    return fsync(file.handle()) == 0;
-#endif
+    throw FileError(path, why);
 }
 
 void flushFolderOf(const QString& path)
 {
     flushFolder(QFileInfo(path).absolutePath());
-}
-
-// Two processes may write into one folder: a file is abandoned when nobody holds its lock any more. The
-// system drops the lock of a process that dies.
-void lock(const QFile& file)
-{
-#ifdef Q_OS_WIN
-    Q_UNUSED(file); // an open file cannot be removed there
-#else
-    flock(file.handle(), LOCK_EX | LOCK_NB);
-#endif
 }
 
 bool isAbandoned(const QString& path)
@@ -83,123 +60,59 @@ void removeAbandoned(const QString& folder)
     }
 }
 
-// What is copied goes to the disk on the way: at the end one flush of it all would hold up everything for
-// seconds.
-class Writeback
-{
-public:
-    explicit Writeback(const QFile& file) : m_file(file) { }
-
-    /// `written` bytes have been written so far.
-    void follow(qint64 written)
-    {
-#ifdef Q_OS_LINUX
-        if (written - m_started < Window) {
-            return;
-        }
-        if (m_started > 0) {
-            sync_file_range(m_file.handle(), m_started - Window, Window,
-                SYNC_FILE_RANGE_WAIT_BEFORE | SYNC_FILE_RANGE_WRITE | SYNC_FILE_RANGE_WAIT_AFTER);
-        }
-        sync_file_range(m_file.handle(), m_started, Window, SYNC_FILE_RANGE_WRITE);
-        m_started += Window;
-#else
-        Q_UNUSED(written);
-#endif
-    }
-
-private:
-    static constexpr qint64 Window = 8 * ChunkSize;
-
-    const QFile& m_file;
-    qint64 m_started = 0;
-};
-
 QString unusedNameIn(const QString& folder)
 {
     return folder + QStringLiteral("/.ambertask-") + QUuid::createUuid().toString(QUuid::Id128);
 }
 
-/// A new file that is gone again unless it was finished.
-class NewFile
+/// Gathers what is written to it in small pieces. No error passes through the code of whoever writes: it is
+/// kept until the end.
+class GatheringDevice final : public QIODevice
 {
 public:
-    NewFile(const QString& path, QFileDevice::Permissions permissions) : m_file(path)
+    explicit GatheringDevice(NewFile& file) : m_file(file)
     {
-        if (!m_file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered, permissions)) {
-            fail(path, m_file.errorString());
-        }
-        m_exists = true;
-        lock(m_file);
-        // The mask must not take away what the owner needs.
-        if (permissions == PrivateFile && !m_file.setPermissions(permissions)) {
-            const QString why = m_file.errorString();
-            discard();
-            fail(path, why);
-        }
+        QIODevice::open(QIODevice::WriteOnly | QIODevice::Unbuffered);
     }
-    ~NewFile() { discard(); }
-    NewFile(const NewFile&) = delete;
-    NewFile& operator=(const NewFile&) = delete;
 
-    QString path() const { return m_file.fileName(); }
-
-    void write(const char* bytes, qint64 size)
-    {
-        for (qint64 written = 0; written < size;) {
-            const qint64 step = m_file.write(bytes + written, size - written);
-            if (step <= 0) {
-                fail(path(), m_file.errorString());
-            }
-            written += step;
-        }
-    }
-    void copy(QFile& from, Progress* progress)
-    {
-        QByteArray chunk(ChunkSize, Qt::Uninitialized);
-        const qint64 total = from.size();
-        Writeback writeback(m_file);
-        for (qint64 copied = 0;;) {
-            const qint64 size = from.read(chunk.data(), ChunkSize);
-            if (size < 0) {
-                fail(from.fileName(), from.errorString());
-            }
-            if (size == 0) {
-                return;
-            }
-            write(chunk.constData(), size);
-            copied += size;
-            writeback.follow(copied);
-            if (progress != nullptr) {
-                progress->advance(copied, qMax(copied, total));
-            }
-        }
-    }
-    /// All of it is on the disk at the return, its name excepted.
+    bool isSequential() const override { return true; }
+    /// Throws FileError when any of it could not be written.
     void finish()
     {
-        if (!flushToDisk(m_file)) {
-            fail(path(), qt_error_string());
-        }
-        m_file.close();
-        if (m_file.error() != QFileDevice::NoError) {
-            fail(path(), m_file.errorString());
+        pass();
+        if (m_failure) {
+            throw FileError(*m_failure);
         }
     }
-    /// The file stays.
-    void keep() { m_exists = false; }
+
+protected:
+    qint64 readData(char* /*bytes*/, qint64 /*size*/) override { return -1; }
+    qint64 writeData(const char* bytes, qint64 size) override
+    {
+        if (!m_failure) {
+            m_gathered.append(bytes, size);
+            if (m_gathered.size() >= NewFile::ChunkSize) {
+                pass();
+            }
+        }
+        return m_failure ? -1 : size;
+    }
 
 private:
-    void discard()
+    void pass()
     {
-        m_file.close();
-        if (std::exchange(m_exists, false)) {
-            QFile::remove(path());
+        try {
+            m_file.write(m_gathered.constData(), m_gathered.size());
+        } catch (const FileError& error) {
+            m_failure = error;
+            setErrorString(error.why());
         }
+        m_gathered.clear();
     }
 
-    QFile m_file;
-    bool m_exists = false;
+    NewFile& m_file;
+    QByteArray m_gathered;
+    std::optional<FileError> m_failure;
 };
 
 void openSource(QFile& source)
@@ -253,16 +166,19 @@ bool isSameFile(const QString& left, const QString& right)
         && !error;
 }
 
-void flushFolder(const QString& folder)
+bool flushFolder(const QString& folder)
 {
 #ifdef Q_OS_WIN
     Q_UNUSED(folder);
+    return true;
 #else
     const int handle = open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (handle >= 0) {
-        fsync(handle);
-        close(handle);
+    if (handle < 0) {
+        return false;
     }
+    const bool isDone = fsync(handle) == 0 || errno == EINVAL || errno == ENOTSUP;
+    close(handle);
+    return isDone;
 #endif
 }
 
@@ -303,6 +219,16 @@ void replaceByCopy(
 void replaceByBytes(const QByteArray& bytes, const QString& target, QFileDevice::Permissions permissions)
 {
     replace(target, permissions, [&](NewFile& to) { to.write(bytes.constData(), bytes.size()); });
+}
+
+void replaceByWriting(
+    const QString& target, QFileDevice::Permissions permissions, const std::function<void(QIODevice&)>& write)
+{
+    replace(target, permissions, [&](NewFile& to) {
+        GatheringDevice device(to);
+        write(device);
+        device.finish();
+    });
 }
 
 void keepAlso(
@@ -355,7 +281,8 @@ void makeFolder(const QString& path)
         return;
     }
     makeFolder(QFileInfo(path).absolutePath());
-    if (!QDir().mkdir(path)) {
+    // Another process may be making it, too.
+    if (!QDir().mkdir(path) && !QFileInfo(path).isDir()) {
         fail(path, qt_error_string());
     }
     flushFolderOf(path);

@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QFileDevice>
+#include <functional>
 
 class Progress;
 
@@ -14,6 +15,16 @@ class FileError : public RuntimeError
 
 public:
     using RuntimeError::RuntimeError;
+    FileError(const QString& path, const QString& why)
+        : RuntimeError(QStringLiteral("\"%1\": %2.").arg(path, why)), m_why(why)
+    {
+    }
+
+    /// What the system said, without the name of the file.
+    const QString& why() const { return m_why; }
+
+private:
+    QString m_why;
 };
 
 /// Read and written by its owner alone.
@@ -39,6 +50,10 @@ void replaceByCopy(const QString& source, const QString& target, QFileDevice::Pe
     Progress* progress = nullptr);
 /// Writes `bytes` over `target`, in the same way.
 void replaceByBytes(const QByteArray& bytes, const QString& target, QFileDevice::Permissions permissions);
+/// Writes what `write` writes to a sequential device over `target`, in the same way. `target` keeps its
+/// content when `write` throws.
+void replaceByWriting(const QString& target, QFileDevice::Permissions permissions,
+    const std::function<void(QIODevice&)>& write);
 /// Gives `file` the second name `target`, in the same file system, over a regular file; where the
 /// file system knows no second names, copies it. Both names keep the content when one of them is then
 /// replaced.
@@ -52,9 +67,9 @@ void makePrivate(const QString& path);
 /// Makes the folder, and those above it that are missing.
 void makeFolder(const QString& path);
 
-/// Brings the names that `folder` holds to the disk. Some file systems cannot be asked for that; then nothing
-/// happens.
-void flushFolder(const QString& folder);
+/// Brings the names that `folder` holds to the disk. False when the disk failed to; some file systems cannot
+/// be asked for that, and then nothing happens.
+bool flushFolder(const QString& folder);
 
 /// Whether there is anything of that name. Throws when the disk cannot tell: that is no "no".
 bool isPresent(const QString& path);

@@ -26,7 +26,7 @@ constexpr char UnfinishedPrefix[] = ".Ambertask-";
 
 [[noreturn]] void fail(const QString& path, const QString& why)
 {
-    throw FileError(QStringLiteral("\"%1\": %2.").arg(path, why));
+    throw FileError(path, why);
 }
 
 std::filesystem::path native(const QString& path)
@@ -34,10 +34,21 @@ std::filesystem::path native(const QString& path)
     return QFileInfo(path).filesystemFilePath();
 }
 
+/// A disk that cannot tell has not said that there is nothing.
+std::filesystem::file_type kindOf(const QString& path, bool followsLinks)
+{
+    std::error_code error;
+    const auto status = followsLinks ? std::filesystem::status(native(path), error)
+                                     : std::filesystem::symlink_status(native(path), error);
+    if (status.type() == std::filesystem::file_type::none) {
+        fail(path, QString::fromStdString(error.message()));
+    }
+    return status.type();
+}
+
 bool isAnything(const QString& path)
 {
-    const QFileInfo file(path);
-    return file.exists() || file.isSymLink();
+    return kindOf(path, false) != std::filesystem::file_type::not_found;
 }
 
 /// Keeps copies of the program that start at once from filling a folder each. The lock is on the folder that
@@ -85,8 +96,14 @@ void makePrivateFolder(const QString& folder)
 /// The user's data folder, which another copy of the program may be making, too.
 void ensureUserData(const QString& userData)
 {
-    QDir().mkpath(QFileInfo(userData).absolutePath());
-    if (!QDir().mkdir(userData, PrivateFolder) && !QFileInfo(userData).isDir()) {
+    try {
+        makeFolder(QFileInfo(userData).absolutePath());
+    } catch (const FileError& error) {
+        fail(userData, error.why());
+    }
+    if (QDir().mkdir(userData, PrivateFolder)) {
+        flushFolder(QFileInfo(userData).absolutePath());
+    } else if (!QFileInfo(userData).isDir()) {
         fail(userData, qt_error_string());
     }
 }
@@ -111,42 +128,25 @@ void removeUnfinished(const QString& userData)
 void refreshLink(const Installation& installation, const QString& folder)
 {
     const QString link = pathIn(folder, QLatin1String(ProductName));
-    const QFileInfo present(link);
-    if ((present.exists() && !present.isSymLink()) || present.symLinkTarget() == installation.executable) {
+    std::error_code error;
+    const auto present = std::filesystem::symlink_status(native(link), error).type();
+    if ((present != std::filesystem::file_type::not_found && present != std::filesystem::file_type::symlink)
+        || QFile::symLinkTarget(link) == installation.executable) {
         return;
+    }
+    // A start that was ended here has left its link.
+    for (const QFileInfo& left : QDir(folder).entryInfoList(
+             {QLatin1String(UnfinishedPrefix) + u'*'}, QDir::Files | QDir::System | QDir::Hidden)) {
+        if (left.isSymLink()) {
+            QFile::remove(left.filePath());
+        }
     }
     const QString beside = unfinishedIn(folder);
     if (QFile::link(installation.executable, beside)) {
-        std::error_code error;
         std::filesystem::rename(native(beside), native(link), error);
-    }
-}
-
-void copyTemplate(const Installation& installation, const QString& folder)
-{
-    const QDir files(installation.templateFolder);
-    QStringList folders{folder};
-    QDirIterator entries(
-        files.path(), QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
-    while (entries.hasNext()) {
-        const QString source = entries.next();
-        const QString name = files.relativeFilePath(source);
-        const QString target = pathIn(folder, name);
-        if (QFileInfo(source).isDir()) {
-            makePrivateFolder(target);
-            folders.append(target);
-        } else {
-            copyToNewFile(source, target, name == QLatin1String(DataFileName) ? PrivateFile : PublicFile);
+        if (error) {
+            QFile::remove(beside);
         }
-    }
-    for (const char* name : {DataFileName, ShippedListName}) {
-        if (!QFileInfo(pathIn(folder, QLatin1String(name))).isFile()) {
-            fail(files.filePath(QLatin1String(name)), FileError::tr("it is missing from this installation"));
-        }
-    }
-    refreshLink(installation, folder);
-    for (const QString& one : folders) {
-        flushFolder(one);
     }
 }
 
@@ -168,6 +168,55 @@ QList<ShippedFile> readList(const QByteArray& text)
     return files;
 }
 
+/// What the file holds; nothing when there is no such file.
+QByteArray contentOf(const QString& path)
+{
+    if (kindOf(path, true) != std::filesystem::file_type::regular) {
+        return {};
+    }
+    QFile file(path);
+    QByteArray content = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    if (file.error() != QFileDevice::NoError) {
+        fail(path, file.errorString());
+    }
+    return content;
+}
+
+void copyTemplate(const Installation& installation, const QString& folder)
+{
+    const QDir files(installation.templateFolder);
+    QStringList folders{folder};
+    QDirIterator entries(
+        files.path(), QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
+    while (entries.hasNext()) {
+        const QString source = entries.next();
+        const QString name = files.relativeFilePath(source);
+        const QString target = pathIn(folder, name);
+        if (QFileInfo(source).isDir()) {
+            makePrivateFolder(target);
+            folders.append(target);
+        } else {
+            copyToNewFile(source, target, name == QLatin1String(DataFileName) ? PrivateFile : PublicFile);
+        }
+    }
+    // A folder that could not be listed looks like an empty one.
+    QStringList needed{QLatin1String(DataFileName), QLatin1String(ShippedListName)};
+    for (const ShippedFile& file : readList(contentOf(pathIn(folder, QLatin1String(ShippedListName))))) {
+        needed.append(file.path);
+    }
+    for (const QString& name : needed) {
+        if (kindOf(pathIn(folder, name), true) != std::filesystem::file_type::regular) {
+            fail(files.filePath(name), FileError::tr("it is missing from this installation"));
+        }
+    }
+    refreshLink(installation, folder);
+    for (const QString& one : folders) {
+        if (!flushFolder(one)) {
+            fail(one, qt_error_string());
+        }
+    }
+}
+
 QByteArray writtenList(const QList<ShippedFile>& files)
 {
     QByteArray text;
@@ -175,12 +224,6 @@ QByteArray writtenList(const QList<ShippedFile>& files)
         text += file.sum + "  " + file.path.toUtf8() + '\n';
     }
     return text;
-}
-
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 QByteArray sumOf(const QString& path)
@@ -196,11 +239,19 @@ bool isUsersOwn(const QString& programFolder, const QString& path, const QByteAr
     return path.contains(u'/') && isAnything(file) && sumOf(file) != sumWhenBrought;
 }
 
-bool bringFile(const QString& source, const QString& target)
+/// False when it has to be tried again.
+bool bringFile(const QString& templateFolder, const QString& programFolder, const QString& path,
+    const QByteArray& sumWhenBrought)
 {
     try {
-        QDir().mkpath(QFileInfo(target).absolutePath());
-        replaceByCopy(source, target, PublicFile);
+        if (!isUsersOwn(programFolder, path, sumWhenBrought)) {
+            const QString target = pathIn(programFolder, path);
+            const QString folder = QFileInfo(target).absolutePath();
+            makeFolder(folder);
+            replaceByCopy(pathIn(templateFolder, path), target, PublicFile);
+            // The list must not come to the disk without the file: that would look like the user's own.
+            return flushFolder(folder);
+        }
         return true;
     } catch (const FileError&) {
         // The program runs with what is there.
@@ -223,20 +274,14 @@ void bringShippedFiles(const QString& templateFolder, const QString& programFold
     QList<ShippedFile> now = readList(shipped);
     for (ShippedFile& file : now) {
         const QByteArray sumBefore = sumsBefore.value(file.path);
-        if (!isUsersOwn(programFolder, file.path, sumBefore)
-            && !bringFile(pathIn(templateFolder, file.path), pathIn(programFolder, file.path))) {
+        if (!bringFile(templateFolder, programFolder, file.path, sumBefore)) {
             // The stamp then differs from the list, and the next start tries again.
             file.sum = sumBefore;
         }
     }
     const QByteArray after = writtenList(now);
-    if (after == before) {
-        return;
-    }
-    try {
+    if (after != before) {
         replaceByBytes(after, stamp, PublicFile);
-    } catch (const FileError&) {
-        // The next start tries again.
     }
 }
 
@@ -282,5 +327,9 @@ void refreshProgramFolder(const Installation& installation, const QString& progr
         return;
     }
     refreshLink(installation, programFolder);
-    bringShippedFiles(installation.templateFolder, programFolder);
+    try {
+        bringShippedFiles(installation.templateFolder, programFolder);
+    } catch (const FileError&) {
+        // The next start tries again.
+    }
 }

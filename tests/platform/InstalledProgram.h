@@ -25,6 +25,7 @@ public:
         ship("help.chm", "help 1");
     }
 
+    QString root() const { return m_place.path(); }
     QString filePath(const char* name) const { return m_place.filePath(QString::fromUtf8(name)); }
     QString userData() const { return filePath("home/.local/share"); }
     QString folder() const { return userData() + QStringLiteral("/Ambertask"); }

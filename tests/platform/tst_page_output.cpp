@@ -110,6 +110,18 @@ private slots:
         QCOMPARE(old.readAll(), QByteArray("old"));
     }
 
+    void anOlderFileKeepsWhoMayReadIt()
+    {
+        constexpr QFileDevice::Permissions Mode =
+            QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ReadUser | QFileDevice::WriteUser;
+        const Fixture f;
+        QVERIFY(!writePdf(f.target(), f.pages, {1}));
+        QVERIFY(QFile::permissions(f.file).testFlag(QFileDevice::ReadOther));
+        QVERIFY(QFile::setPermissions(f.file, Mode));
+        QVERIFY(!writePdf(f.target(), f.pages, {2}));
+        QCOMPARE(QFile::permissions(f.file), Mode);
+    }
+
     void aFullDiskIsAFailureAndLeavesNoHalfFile()
     {
         const Fixture f;

@@ -9,12 +9,22 @@
 
 namespace files = std::filesystem;
 
+namespace
+{
+
+// What the image of a disk has for a symbolic link in the place of a content.
+const std::string LinkMark("\1link to ");
+
+} // namespace
+
 DiskImage imageOf(const std::string& folder)
 {
     DiskImage image;
     for (const auto& entry : files::recursive_directory_iterator(folder)) {
         const std::string name = entry.path().lexically_relative(folder).string();
-        if (entry.is_directory()) {
+        if (entry.is_symlink()) {
+            image.emplace(name, LinkMark + files::read_symlink(entry.path()).string());
+        } else if (entry.is_directory()) {
             image.emplace(name, std::nullopt);
         } else {
             std::ifstream file(entry.path(), std::ios::binary);
@@ -33,6 +43,10 @@ void writeImage(const DiskImage& image, const std::string& folder)
         const files::path path = files::path(folder) / name;
         if (!content) {
             files::create_directory(path);
+            continue;
+        }
+        if (content->compare(0, LinkMark.size(), LinkMark) == 0) {
+            files::create_symlink(content->substr(LinkMark.size()), path);
             continue;
         }
         std::ofstream file(path, std::ios::binary);
@@ -169,6 +183,22 @@ void FaultyDisk::renamed(const std::string& from, const std::string& to)
     m_history.events.back().newPath = relative(to);
     m_nodes.erase(relative(from));
     m_nodes[relative(to)] = node;
+    // What a renamed folder holds has new names with it.
+    const std::string below = relative(from) + '/';
+    for (auto name = m_nodes.lower_bound(below);
+         name != m_nodes.end() && name->first.compare(0, below.size(), below) == 0;
+         name = m_nodes.erase(name)) {
+        m_nodes[relative(to) + '/' + name->first.substr(below.size())] = name->second;
+    }
+}
+
+void FaultyDisk::symbolicLinkMade(const std::string& path, const std::string& target)
+{
+    // Where it leads to is as safe as its name.
+    const std::string content = LinkMark + target;
+    created(path);
+    written(path, 0, content.data(), content.size());
+    synced(path);
 }
 
 void FaultyDisk::linked(const std::string& file, const std::string& name)

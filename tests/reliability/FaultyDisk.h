@@ -76,6 +76,7 @@ public:
     void removed(const std::string& path) override;
     void renamed(const std::string& from, const std::string& to) override;
     void linked(const std::string& file, const std::string& name) override;
+    void symbolicLinkMade(const std::string& path, const std::string& target) override;
     void folderMade(const std::string& path) override;
 
 private:

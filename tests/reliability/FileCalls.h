@@ -18,6 +18,7 @@ enum class FileCall {
     RemoveFolder,
     Lock,
     Unlock,
+    List,
     Status,
     ChangeMode,
     Close
@@ -51,6 +52,8 @@ public:
     virtual void renamed(const std::string& from, const std::string& to) = 0;
     /// A second name for a file.
     virtual void linked(const std::string& file, const std::string& name) = 0;
+    /// A link to a path.
+    virtual void symbolicLinkMade(const std::string& path, const std::string& target) = 0;
     virtual void folderMade(const std::string& path) = 0;
 };
 

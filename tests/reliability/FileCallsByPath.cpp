@@ -1,6 +1,7 @@
 #include "reliability/WatchedCall.h"
 
 #include <cstdio>
+#include <dirent.h>
 #include <filesystem>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -59,6 +60,27 @@ int link(const char* file, const char* name) noexcept
     return result;
 }
 
+int symlink(const char* target, const char* name) noexcept
+{
+    static const auto symlink = libraryFunction<int(const char*, const char*)>("symlink");
+    const WatchedCall call(name);
+    if (call.refused(FileCall::Link)) {
+        return -1;
+    }
+    const int result = symlink(target, name);
+    if (call && result == 0) {
+        call->symbolicLinkMade(call.path(), target);
+    }
+    return result;
+}
+
+DIR* opendir(const char* path)
+{
+    static const auto opendir = libraryFunction<DIR*(const char*)>("opendir");
+    const WatchedCall call(path);
+    return call.refused(FileCall::List) ? nullptr : opendir(path);
+}
+
 int mkdir(const char* path, mode_t mode) noexcept
 {
     static const auto mkdir = libraryFunction<int(const char*, mode_t)>("mkdir");
@@ -94,6 +116,12 @@ int stat(const char* path, struct stat* status) noexcept
 int lstat64(const char* path, struct stat64* status) noexcept
 {
     static const auto stat = libraryFunction<int(const char*, struct stat64*)>("lstat64");
+    return passWatched(path, FileCall::Status, [&] { return stat(path, status); });
+}
+
+int lstat(const char* path, struct stat* status) noexcept
+{
+    static const auto stat = libraryFunction<int(const char*, struct stat*)>("lstat");
     return passWatched(path, FileCall::Status, [&] { return stat(path, status); });
 }
 

@@ -44,17 +44,17 @@ void PowerCut::apply(const DiskEvent& event)
     case Kind::Create:
     case Kind::MakeFolder:
         m_nodes[event.node].isFolder = event.kind == Kind::MakeFolder;
-        m_unsafeSteps.push_back({{folderOf(event.path)}, {{event.path, event.node}}});
+        m_unsafeSteps.push_back({{folderOf(event.path)}, {{event.path, event.node}}, {}, {}});
         break;
     case Kind::Remove:
-        m_unsafeSteps.push_back({{folderOf(event.path)}, {{event.path, 0}}});
+        m_unsafeSteps.push_back({{folderOf(event.path)}, {{event.path, 0}}, {}, {}});
         break;
     case Kind::Rename:
         m_unsafeSteps.push_back({{folderOf(event.path), folderOf(event.newPath)},
-            {{event.path, 0}, {event.newPath, event.node}}});
+            {{event.path, 0}, {event.newPath, event.node}}, event.path + '/', event.newPath + '/'});
         break;
     case Kind::Link:
-        m_unsafeSteps.push_back({{folderOf(event.newPath)}, {{event.newPath, event.node}}});
+        m_unsafeSteps.push_back({{folderOf(event.newPath)}, {{event.newPath, event.node}}, {}, {}});
         break;
     case Kind::Write:
         m_nodes[event.node].unsafe.push_back({event.position, event.bytes});
@@ -96,6 +96,14 @@ void PowerCut::carryOut(const Step& step, std::map<std::string, int>& names)
         } else {
             names[name] = node;
         }
+    }
+    if (step.below.empty()) {
+        return;
+    }
+    for (auto name = names.lower_bound(step.below);
+         name != names.end() && name->first.compare(0, step.below.size(), step.below) == 0;
+         name = names.erase(name)) {
+        names[step.belowNow + name->first.substr(step.below.size())] = name->second;
     }
 }
 

@@ -37,6 +37,8 @@ private:
     struct Step {
         std::set<std::string> folders; ///< flushing one of them makes the step safe
         std::vector<std::pair<std::string, int>> names; ///< with the node behind it, 0 for none
+        std::string below; ///< of a Rename: how the names of what lies in a renamed folder began
+        std::string belowNow; ///< and begin afterwards
     };
 
     static void carryOut(const Step& step, std::map<std::string, int>& names);

@@ -16,7 +16,7 @@ constexpr std::size_t ShownComplaints = 12;
 const char* nameOf(FileCall call)
 {
     constexpr std::array Names{"open", "read", "write", "sync", "truncate", "remove", "rename", "link",
-        "make folder", "remove folder", "lock", "unlock", "status", "change mode", "close"};
+        "make folder", "remove folder", "lock", "unlock", "list", "status", "change mode", "close"};
     return Names.at(static_cast<std::size_t>(call));
 }
 

@@ -1,13 +1,14 @@
 #include "platform/printing/PageOutput.h"
 
+#include "platform/FileReplace.h"
 #include "platform/Progress.h"
 
+#include <QFileInfo>
 #include <QLocale>
 #include <QPageRanges>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPrinter>
-#include <QSaveFile>
 #include <algorithm>
 #include <numeric>
 
@@ -96,25 +97,21 @@ bool paintPages(
 std::optional<QString> writePdf(
     const PdfTarget& target, const PrintedPages& pages, const std::vector<int>& order, Progress* progress)
 {
-    // Writes beside the target; commit flushes to the disk and renames, and anything else leaves no trace.
-    QSaveFile file(target.file);
-    if (!file.open(QIODevice::WriteOnly)) {
-        return file.errorString();
-    }
-    bool painted = false;
-    {
-        QPdfWriter writer(&file);
-        writer.setResolution(UnitsPerInch);
-        writer.setPageLayout(target.page);
-        writer.setTitle(target.title);
-        writer.setCreator(QStringLiteral("Ambertask"));
-        painted = paintPages(writer, pages, order, progress);
-    }
-    if (!painted) {
-        file.cancelWriting();
-    }
-    if (!file.commit()) {
-        return file.errorString();
+    const QFileInfo present(target.file);
+    const auto permissions = present.isFile() ? present.permissions() : PublicFile;
+    try {
+        replaceByWriting(target.file, permissions, [&](QIODevice& file) {
+            QPdfWriter writer(&file);
+            writer.setResolution(UnitsPerInch);
+            writer.setPageLayout(target.page);
+            writer.setTitle(target.title);
+            writer.setCreator(QStringLiteral("Ambertask"));
+            if (!paintPages(writer, pages, order, progress)) {
+                throw FileError(target.file, file.errorString());
+            }
+        });
+    } catch (const FileError& error) {
+        return error.why();
     }
     return std::nullopt;
 }
