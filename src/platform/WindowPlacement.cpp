@@ -5,6 +5,7 @@
 #include <QEvent>
 #include <QGuiApplication>
 #include <QLayout>
+#include <QResizeEvent>
 #include <QScreen>
 #include <QWidget>
 #include <QWindow>
@@ -19,21 +20,6 @@ constexpr QMargins LikelyFrame(6, 32, 6, 8);
 constexpr int Handle = 80;
 /// Property of a window that has come up once: where it was when it was last seen.
 constexpr const char* LastPlace = "ambertask-place";
-
-/// Notes where a window is hidden. A window manager may move a window that it has let go.
-class PlaceKeeper final : public QObject
-{
-public:
-    explicit PlaceKeeper(QWidget* window) : QObject(window) { window->installEventFilter(this); }
-
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        if (event->type() == QEvent::Hide && !event->spontaneous()) {
-            watched->setProperty(LastPlace, static_cast<QWidget*>(watched)->geometry());
-        }
-        return QObject::eventFilter(watched, event);
-    }
-};
 
 QRect movedInside(QRect frame, const QRect& area)
 {
@@ -58,6 +44,42 @@ QMargins frameOf(const QWidget& window)
         outer.right() - inner.right(), outer.bottom() - inner.bottom());
     return known.isNull() ? LikelyFrame : known;
 }
+
+/// Notes where a window is hidden: a window manager may move a window that it has let go. Keeps a window on
+/// its screen that grows because what it holds needs more room.
+class PlaceKeeper final : public QObject
+{
+public:
+    explicit PlaceKeeper(QWidget* window) : QObject(window), m_window(*window)
+    {
+        window->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Hide && !event->spontaneous()) {
+            m_window.setProperty(LastPlace, m_window.geometry());
+        } else if (event->type() == QEvent::Resize && !event->spontaneous() && m_window.isVisible()) {
+            keepOnScreen(static_cast<QResizeEvent*>(event)->oldSize());
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    void keepOnScreen(QSize before)
+    {
+        const QRect area = m_window.screen()->availableGeometry();
+        const QMargins frame = frameOf(m_window);
+        const QRect grown = m_window.geometry().marginsAdded(frame);
+        const bool wasInside = area.contains(QRect(grown.topLeft(), before.grownBy(frame)));
+        // A window that reached beyond the screen before stays where the user has it.
+        if (wasInside && !area.contains(grown)) {
+            m_window.setGeometry(movedInside(grown, area).marginsRemoved(frame));
+        }
+    }
+
+    QWidget& m_window;
+};
 
 /// The size that a window has been given, else the one that it asks for.
 QSize wantedSize(const QWidget& window)

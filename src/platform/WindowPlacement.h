@@ -18,7 +18,8 @@ QRect nextPlace(const QRect& frame, int titleHeight, const QList<QRect>& areas);
 /// The largest size of `window`, without its frame, with which it fits on its screen.
 QSize roomFor(const QWidget& window);
 /// Brings a window that is about to be shown to its place: the first time over `owner` when that is visible,
-/// else in the middle of the screen; later where it was, unless nobody could reach it there.
+/// else in the middle of the screen; later where it was, unless nobody could reach it there. When what it
+/// holds makes it grow afterwards, it is moved so that it stays on its screen.
 void putInPlace(QWidget* window, const QWidget* owner = nullptr);
 
 // Where a top-level window stands among the others. None of these but the last shows, hides, moves or resizes

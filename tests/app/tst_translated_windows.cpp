@@ -2,16 +2,17 @@
 #include "categories/frmCategoryDetails.h"
 #include "help/frmAbout.h"
 #include "help/window/CompiledHelpWindow.h"
-#include "platform/Language.h"
 #include "platform/MessageBoxes.h"
 #include "platform/ScreenErrorReport.h"
+#include "platform/ScreenProgress.h"
 #include "platform/WindowPlacement.h"
 #include "reminders/frmAlerts.h"
 #include "report/PreviewWindow.h"
 #include "support/TestMain.h"
 #include "tasks/frmTaskDetails.h"
-#include "tests/app/ProgramFixture.h"
-#include "tests/app/PseudoTranslator.h"
+#include "tests/app/EveryWindow.h"
+#include "tests/app/Fit.h"
+#include "tests/app/Speaking.h"
 #include "tests/app/WindowTexts.h"
 #include "tests/help/RecordedHelpHost.h"
 
@@ -20,6 +21,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QRadioButton>
+#include <QScreen>
 #include <QTabWidget>
 #include <QTimer>
 
@@ -27,33 +29,6 @@ using namespace std::chrono_literals;
 
 namespace
 {
-
-const QString Pseudo = QStringLiteral("twice as long");
-
-/// The language of the application while it lives.
-class Speaking
-{
-public:
-    explicit Speaking(const QString& language)
-    {
-        if (language == Pseudo) {
-            QCoreApplication::installTranslator(&m_pseudo);
-        } else {
-            m_language.speak(language);
-        }
-    }
-    ~Speaking()
-    {
-        QCoreApplication::removeTranslator(&m_pseudo);
-        m_language.speak({});
-    }
-    Speaking(const Speaking&) = delete;
-    Speaking& operator=(const Speaking&) = delete;
-
-private:
-    Language m_language;
-    PseudoTranslator m_pseudo;
-};
 
 /// The program in a language, with a few tasks.
 struct TranslatedProgram {
@@ -70,16 +45,6 @@ struct TranslatedProgram {
     Speaking speaking;
     ProgramFixture f;
 };
-
-template <typename Window> Window* openWindow()
-{
-    for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (auto* found = dynamic_cast<Window*>(window); found != nullptr && found->isVisible()) {
-            return found;
-        }
-    }
-    return nullptr;
-}
 
 /// The texts that stand as they are in every language: names of the program, of categories and of skins.
 QStringList names()
@@ -118,9 +83,8 @@ QStringList doubled(QStringList texts)
 
 QStringList faultsOf(QWidget& window, const QString& language)
 {
-    // A layout that has grown makes its window grow with the next turn of the event loop.
-    QCoreApplication::sendPostedEvents();
-    QStringList faults = cutOffTexts(window);
+    settleWindows();
+    QStringList faults = misfits(window) + cutOffTexts(window);
     if (language == Pseudo) {
         for (const QString& text : untranslated(window)) {
             faults.append(QStringLiteral("not translated: \"%1\"").arg(text));
@@ -129,10 +93,6 @@ QStringList faultsOf(QWidget& window, const QString& language)
     }
     for (const QString& letter : doubled(mnemonicsOf(window))) {
         faults.append(QStringLiteral("two mnemonics \"%1\"").arg(letter));
-    }
-    constexpr QSize SmallScreen(1024, 768);
-    if (window.width() > SmallScreen.width() || window.height() > SmallScreen.height()) {
-        faults.append(QStringLiteral("%1 x %2 is too large").arg(window.width()).arg(window.height()));
     }
     return faults;
 }
@@ -171,12 +131,16 @@ class TranslatedWindowsTest : public TestCase
     Q_OBJECT
 
 private slots:
+    void initTestCase();
+
     void theMadeUpLanguageIsTwiceAsLongAndKeepsWhatTheProgramNeeds();
     void aTextThatIsCutOffIsFound();
     void aTextThatIsNotTranslatedIsFound();
     void aMnemonicThatServesTwoControlsIsFound();
     void theDirectionOfReadingFollowsTheLanguage();
 
+    void everyWindowFitsASmallScreen_data() { languages(); }
+    void everyWindowFitsASmallScreen();
     void thePagesAreGood_data() { languages(); }
     void thePagesAreGood();
     void theTaskDialogIsGood_data() { languages(); }
@@ -208,6 +172,12 @@ void TranslatedWindowsTest::languages()
         QTest::newRow(qPrintable(name)) << name;
     }
     QTest::newRow(qPrintable(Pseudo)) << Pseudo;
+}
+
+void TranslatedWindowsTest::initTestCase()
+{
+    // The smallest screen on which the program has to be usable.
+    QCOMPARE(QGuiApplication::primaryScreen()->size(), QSize(1024, 640));
 }
 
 void TranslatedWindowsTest::theMadeUpLanguageIsTwiceAsLongAndKeepsWhatTheProgramNeeds()
@@ -268,6 +238,23 @@ void TranslatedWindowsTest::theDirectionOfReadingFollowsTheLanguage()
     }
     const Speaking german(QStringLiteral("de"));
     QCOMPARE(QGuiApplication::layoutDirection(), Qt::LeftToRight);
+}
+
+void TranslatedWindowsTest::everyWindowFitsASmallScreen()
+{
+    QFETCH(const QString, language);
+    const Speaking speaking(language);
+    SkinnedProgram program(QStringLiteral("Aqua"));
+    int seen = 0;
+    QStringList faults;
+    visitEveryWindow(program, [&](const QString& name, QWidget& window) {
+        ++seen;
+        for (const QString& fault : misfits(window) + cutOffTexts(window)) {
+            faults.append(name + QLatin1String(": ") + fault);
+        }
+    });
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
+    QCOMPARE(seen, 26);
 }
 
 void TranslatedWindowsTest::thePagesAreGood()
@@ -344,6 +331,11 @@ void TranslatedWindowsTest::boxesAreGood()
         QStringList());
     QCOMPARE(faultsOfBox(language, [&] { errors.report(text); }), QStringList());
     QCOMPARE(faultsOfBox(language, [&] { ScreenErrorReport::reportFailedStart(text); }), QStringList());
+    ScreenProgress progress(nullptr, text, std::chrono::milliseconds(0));
+    QVERIFY_THROWS_EXCEPTION(Cancelled, progress.run([&](Progress& work) {
+        QCOMPARE(faultsOfBox(language, [&] { work.advance(1, 2); }), QStringList());
+        work.advance(2, 2);
+    }));
 }
 
 void TranslatedWindowsTest::theHelpIsGood()
@@ -354,7 +346,7 @@ void TranslatedWindowsTest::theHelpIsGood()
     CompiledHelpWindow window(host, [] { return false; });
     window.setFile(QStringLiteral(AMBERTASK_HELP_FILE));
     window.setWindowTitle({}); // the manual's own
-    window.show();
+    showOwned(&window, nullptr);
     window.showContents();
     EXPECT_GOOD(window, language);
     window.showIndex();

@@ -181,6 +181,32 @@ private slots:
         QVERIFY(window.screen()->availableGeometry().contains(window.geometry()));
     }
 
+    void aWindowThatGrowsByItselfStaysOnItsScreen()
+    {
+        QWidget window;
+        window.resize(200, 100);
+        showOwned(&window, nullptr);
+        const QRect area = window.screen()->availableGeometry();
+        const QPoint corner = area.bottomRight() - QPoint(300, 200);
+        window.move(corner);
+        window.setMinimumSize(280, 100);
+        QCOMPARE(window.pos(), corner);
+        window.setMinimumSize(500, 400);
+        QCOMPARE(window.size(), QSize(500, 400));
+        QCOMPARE(window.frameGeometry().bottomRight(), area.bottomRight());
+    }
+
+    void aWindowThatTheUserHasHalfOffTheScreenStaysThereWhenItGrows()
+    {
+        QWidget window;
+        window.resize(200, 100);
+        showOwned(&window, nullptr);
+        const QPoint edge(window.screen()->availableGeometry().right() - 100, 50);
+        window.move(edge);
+        window.setMinimumSize(500, 400);
+        QCOMPARE(window.pos(), edge);
+    }
+
     void aVisibleWindowBecomesTopmostWithoutBeingShownAgainOrMoved()
     {
         Watched window;
