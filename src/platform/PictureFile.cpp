@@ -14,6 +14,9 @@ namespace
 
 constexpr qint64 MaximumBytes = 64LL * 1024 * 1024;
 constexpr int MaximumEdge = 4096;
+/// Of a JPEG that is made smaller while it is read: whole photographs of cameras, of which only an eighth of
+/// each edge is ever in memory.
+constexpr int MaximumPhotographEdge = 12000;
 /// Each scan of a progressive JPEG passes over the whole picture, however few bytes it has: a file of many
 /// thousands would keep the program busy for hours. Encoders write about ten.
 constexpr int MaximumJpegScans = 64;
@@ -99,6 +102,43 @@ private:
     qsizetype m_position = 0;
 };
 
+/// Whether a JPEG holds one scan, from top to bottom, of all its colours. Of any other the decoder keeps the
+/// whole in memory until the last scan.
+bool isReadLineByLine(QByteArrayView bytes)
+{
+    constexpr int Fill = 0xFF;
+    constexpr int Baseline = 0xC0;
+    constexpr int Sequential = 0xC1;
+    constexpr int Scan = 0xDA;
+    constexpr qsizetype PrecisionAndSize = 5;
+    const auto at = [bytes](qsizetype position) {
+        return position < bytes.size() ? static_cast<unsigned char>(bytes[position]) : 0;
+    };
+    int colours = -1;
+    qsizetype position = 2;
+    while (at(position) == Fill) {
+        const int marker = at(position + 1);
+        if (marker == Fill) {
+            ++position;
+            continue;
+        }
+        const qsizetype length = position + 2;
+        const qsizetype content = length + 2;
+        if (marker == Baseline || marker == Sequential) {
+            colours = at(content + PrecisionAndSize);
+        } else if (marker == Scan) {
+            return at(content) == colours;
+        }
+        position = length + (at(length) << 8) + at(length + 1);
+    }
+    return false;
+}
+
+int maximumEdge(const QByteArray& bytes, const QByteArray& format)
+{
+    return format == "jpeg" && isReadLineByLine(bytes) ? MaximumPhotographEdge : MaximumEdge;
+}
+
 /// The size that a GIF announces for the whole of its pictures. The decoder answers none for one that it
 /// finds too large.
 QSize gifScreen(const QByteArray& bytes)
@@ -149,11 +189,12 @@ QImage PictureFile::load(int edge) const
     if (format == "gif") {
         size = size.expandedTo(gifScreen(bytes));
     }
-    if (size.width() > MaximumEdge || size.height() > MaximumEdge) {
+    const int most = maximumEdge(bytes, format);
+    if (size.width() > most || size.height() > most) {
         refuse(tr("it is %1 x %2 pixels large, more than %3 x %3 are not accepted.")
                    .arg(size.width())
                    .arg(size.height())
-                   .arg(MaximumEdge));
+                   .arg(most));
     }
     if (size.width() > edge || size.height() > edge) {
         reader.setScaledSize(size.scaled(edge, edge, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));

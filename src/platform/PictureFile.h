@@ -5,8 +5,8 @@
 #include <QString>
 
 /// A picture file from outside: whatever its name says, it may hold anything. GIF, JPEG and PNG are told by
-/// their content; everything else is refused, as is what is incomplete or larger than 4096 x 4096 pixels or
-/// 64 MiB.
+/// their content; everything else is refused, as is what is incomplete or larger than 4096 x 4096 pixels (a
+/// JPEG that can be read line by line, as cameras write it: 12000 x 12000) or 64 MiB.
 class PictureFile
 {
     Q_DECLARE_TR_FUNCTIONS(PictureFile)

@@ -3,11 +3,48 @@
 #include "support/TestMain.h"
 #include "support/TestPictures.h"
 
+#include <QBuffer>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
+#include <algorithm>
 #include <sys/stat.h>
+
+namespace
+{
+
+/// A dark left half and a light right one.
+QByteArray photograph(QSize size, QImage::Format format)
+{
+    QImage image(size, format);
+    image.fill(QColor(40, 40, 40));
+    for (int y = 0; y < size.height(); ++y) {
+        const qsizetype line = image.bytesPerLine();
+        std::fill_n(image.scanLine(y) + line / 2, line / 2, 0xF0);
+    }
+    QBuffer buffer;
+    image.save(&buffer, "jpg", 50);
+    return buffer.data();
+}
+
+/// A JPEG of three colours whose first scan holds one of them.
+QByteArray withOneColourFirst(QByteArray bytes)
+{
+    constexpr qsizetype header = 14;
+    return bytes.replace(bytes.indexOf("\xFF\xDA"), header, QByteArray::fromHex("ffda0008010100003f00"));
+}
+
+/// A line of what the system says of the memory of this process, in kB.
+qint64 memory(const char* line)
+{
+    const QList<QByteArray> lines = bytesOf(QStringLiteral("/proc/self/status")).split('\n');
+    const auto found = std::find_if(
+        lines.cbegin(), lines.cend(), [line](const QByteArray& text) { return text.startsWith(line); });
+    return found == lines.cend() ? -1 : found->split(':').last().trimmed().split(' ').first().toLongLong();
+}
+
+} // namespace
 
 class PictureFileTest : public TestCase
 {
@@ -16,6 +53,9 @@ class PictureFileTest : public TestCase
 private slots:
     void aSmallPictureKeepsItsSize();
     void aLargePictureIsMadeToFit();
+    void aPhotographIsMadeToFit_data();
+    void aPhotographIsMadeToFit();
+    void aPhotographTakesLittleMemory();
     void aNarrowPictureKeepsAtLeastOnePixel();
     void theContentDecidesNotTheName();
     void theFirstPictureOfAGifIsRead();
@@ -68,6 +108,41 @@ void PictureFileTest::aLargePictureIsMadeToFit()
         PictureFile(file(QStringLiteral("b.png"), pngOf(QSize(300, 4096)))).load(96).size(), QSize(7, 96));
 }
 
+void PictureFileTest::aPhotographIsMadeToFit_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QImage::Format>("format");
+    QTest::addColumn<QSize>("icon");
+    QTest::newRow("of a phone") << QSize(4000, 6000) << QImage::Format_RGB32 << QSize(64, 96);
+    QTest::newRow("of a camera") << QSize(6000, 4000) << QImage::Format_RGB32 << QSize(96, 64);
+    QTest::newRow("of 108 million pixels")
+        << QSize(12000, 9000) << QImage::Format_Grayscale8 << QSize(96, 72);
+}
+
+void PictureFileTest::aPhotographIsMadeToFit()
+{
+    QFETCH(const QSize, size);
+    QFETCH(const QImage::Format, format);
+    QFETCH(const QSize, icon);
+    const QImage image = PictureFile(file(QStringLiteral("photo.jpg"), photograph(size, format))).load(96);
+    QCOMPARE(image.size(), icon);
+    QVERIFY(qGray(image.pixel(icon.width() / 4, 10)) < 80);
+    QVERIFY(qGray(image.pixel(icon.width() * 3 / 4, 10)) > 170);
+}
+
+void PictureFileTest::aPhotographTakesLittleMemory()
+{
+    const QString path =
+        file(QStringLiteral("photo.jpg"), photograph(QSize(6000, 4000), QImage::Format_RGB32));
+    const qint64 before = memory("VmRSS:");
+    // Forgets the peak of before.
+    writeFile(QStringLiteral("/proc/self"), QStringLiteral("clear_refs"), "5");
+    QVERIFY(!PictureFile(path).load(96).isNull());
+    const qint64 grown = memory("VmHWM:") - before;
+    // Of 24 million pixels, each of at least three bytes.
+    QVERIFY2(grown < 24'000, qPrintable(QStringLiteral("%1 kB").arg(grown)));
+}
+
 void PictureFileTest::aNarrowPictureKeepsAtLeastOnePixel()
 {
     QCOMPARE(PictureFile(file(QStringLiteral("a.png"), pngOf(QSize(4096, 1)))).load(96).size(), QSize(96, 1));
@@ -100,6 +175,13 @@ void PictureFileTest::whatIsNoPictureIsRefusedByName_data()
     QTest::newRow("huge PNG") << pngHeaderClaiming(QSize(30000, 30000)) << QStringLiteral("30000 x 30000");
     QTest::newRow("huge GIF") << gifOf(QSize(30000, 30000)) << QStringLiteral("30000 x 30000");
     QTest::newRow("wide GIF") << gifOf(QSize(4097, 20)) << QStringLiteral("4097 x 20");
+    QTest::newRow("huge JPEG") << jpegClaiming(QSize(30000, 30000))
+                               << QStringLiteral("30000 x 30000 pixels large, more than 12000 x 12000");
+    QTest::newRow("wide JPEG") << jpegClaiming(QSize(12001, 20)) << QStringLiteral("12001 x 20");
+    QTest::newRow("large JPEG of several scans") << progressiveJpegOf(
+        QSize(4097, 16)) << QStringLiteral("4097 x 16 pixels large, more than 4096 x 4096");
+    QTest::newRow("large JPEG of a scan for each colour") << withOneColourFirst(
+        jpegClaiming(QSize(5000, 16))) << QStringLiteral("5000 x 16 pixels large, more than 4096 x 4096");
     QTest::newRow("wide PNG") << pngHeaderClaiming(QSize(4097, 1)) << QStringLiteral("4097 x 1");
 }
 

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QImage>
+#include <QImageWriter>
 #include <QtEndian>
 #include <stdexcept>
 
@@ -27,6 +28,30 @@ QByteArray encoded(QSize size, QColor colour, const char* format)
 QByteArray jpegOf(QSize size, QColor colour)
 {
     return encoded(size, colour, "jpg");
+}
+
+QByteArray progressiveJpegOf(QSize size)
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QBuffer buffer;
+    QImageWriter writer(&buffer, "jpg");
+    writer.setProgressiveScanWrite(true);
+    if (!writer.write(image)) {
+        throw std::runtime_error("no such picture can be written");
+    }
+    return buffer.data();
+}
+
+QByteArray jpegClaiming(QSize size)
+{
+    QByteArray bytes = jpegOf(QSize(16, 16));
+    constexpr int height = 5;
+    constexpr int width = 7;
+    const qsizetype frame = bytes.indexOf("\xFF\xC0");
+    qToBigEndian(static_cast<quint16>(size.height()), bytes.data() + frame + height);
+    qToBigEndian(static_cast<quint16>(size.width()), bytes.data() + frame + width);
+    return bytes;
 }
 
 QByteArray pngOf(QSize size, QColor colour)

@@ -9,6 +9,10 @@
 
 /// The bytes of a JPEG of one colour.
 QByteArray jpegOf(QSize size, QColor colour = Qt::red);
+/// A JPEG of one colour in several scans, each of the whole picture.
+QByteArray progressiveJpegOf(QSize size);
+/// A JPEG that claims that size; the pixels of a smaller one follow.
+QByteArray jpegClaiming(QSize size);
 /// The bytes of a PNG of one colour.
 QByteArray pngOf(QSize size, QColor colour = Qt::red);
 /// The bytes of a GIF of one red pixel, on a screen of the given size.
