@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <cstddef>
 #include <cstdlib>
 #include <cstring>
 #include <mspack.h>
@@ -9,8 +10,8 @@
 namespace
 {
 
-// What the library asks for at once: chunks of the directory, windows of the decompression.
-constexpr std::size_t LargestAllocation = std::size_t{64} * 1024 * 1024;
+// What the library holds at any time: the directory, a chunk of it, the window of the decompression.
+constexpr std::size_t MostMemory = std::size_t{8} * 1024 * 1024;
 // A compressed object is reached by decompressing all that lies before it.
 constexpr qint64 FarthestObject = qint64{64} * 1024 * 1024;
 
@@ -66,9 +67,34 @@ void ignoreMessage(mspack_file* /*file*/, const char* /*format*/, ...)
 {
 }
 
-void* allocate(mspack_system* /*system*/, std::size_t bytes)
+/// Lies before what the library was given.
+struct alignas(std::max_align_t) Allocation {
+    std::size_t* taken;
+    std::size_t bytes;
+};
+
+void* allocate(std::size_t& taken, std::size_t bytes)
 {
-    return bytes > LargestAllocation ? nullptr : std::malloc(bytes);
+    if (bytes > MostMemory || bytes + sizeof(Allocation) > MostMemory - taken) {
+        return nullptr;
+    }
+    const std::size_t all = bytes + sizeof(Allocation);
+    auto* allocation = static_cast<Allocation*>(std::malloc(all));
+    if (allocation == nullptr) {
+        return nullptr;
+    }
+    *allocation = {&taken, all};
+    taken += all;
+    return allocation + 1;
+}
+
+void release(void* memory)
+{
+    if (memory != nullptr) {
+        Allocation* allocation = static_cast<Allocation*>(memory) - 1;
+        *allocation->taken -= allocation->bytes;
+        std::free(allocation);
+    }
 }
 
 void copyBytes(void* source, void* destination, std::size_t bytes)
@@ -88,8 +114,10 @@ struct CompiledHelpFile::System : mspack_system {
         seek = seekStream;
         tell = positionOfStream;
         message = ignoreMessage;
-        alloc = allocate;
-        free = std::free;
+        alloc = [](mspack_system* system, std::size_t bytes) {
+            return allocate(static_cast<System*>(system)->taken, bytes);
+        };
+        free = release;
         copy = copyBytes;
         null_ptr = nullptr;
     }
@@ -112,6 +140,7 @@ struct CompiledHelpFile::System : mspack_system {
 
     QString path;
     QByteArray output;
+    std::size_t taken = 0;
 };
 
 std::unique_ptr<CompiledHelpFile> CompiledHelpFile::open(const QString& path)
@@ -151,6 +180,9 @@ bool CompiledHelpFile::load()
         return false;
     }
     for (mschmd_file* file = m_header->files; file != nullptr; file = file->next) {
+        if (m_names.size() == MostObjects || std::strlen(file->filename) > LongestName) {
+            return false;
+        }
         const QString name = QString::fromUtf8(file->filename);
         m_objects.insert(name.toCaseFolded(), file);
         m_names.append(name);
@@ -163,11 +195,25 @@ bool CompiledHelpFile::contains(const QString& name) const
     return m_objects.contains(name.toCaseFolded());
 }
 
-std::optional<QByteArray> CompiledHelpFile::read(const QString& name) const
+mschmd_file* CompiledHelpFile::readable(const QString& name, qint64 largest) const
 {
     mschmd_file* file = m_objects.value(name.toCaseFolded());
-    if (file == nullptr || file->length < 0 || file->length > LargestObject || file->offset < 0
-        || (file->section->id != 0 && file->offset > FarthestObject)) {
+    const bool isReadable = file != nullptr && file->length >= 0 && file->length <= largest
+        && file->length <= LargestObject && file->offset >= 0
+        && (file->section->id == 0 || file->offset <= FarthestObject);
+    return isReadable ? file : nullptr;
+}
+
+qint64 CompiledHelpFile::effortOf(const QString& name) const
+{
+    const mschmd_file* file = readable(name, LargestObject);
+    return file == nullptr ? 0 : file->length + (file->section->id == 0 ? 0 : file->offset);
+}
+
+std::optional<QByteArray> CompiledHelpFile::read(const QString& name, qint64 largest) const
+{
+    mschmd_file* file = readable(name, largest);
+    if (file == nullptr) {
         return std::nullopt;
     }
     m_system->output.clear();

@@ -1,9 +1,8 @@
 #include "help/window/HelpBook.h"
 
+#include "help/window/TopicHtml.h"
+
 #include <QRegularExpression>
-#include <QTextDocument>
-#include <QUrl>
-#include <QVariant>
 #include <QtEndian>
 #include <algorithm>
 
@@ -14,16 +13,25 @@ namespace
 enum SystemEntry : quint16 { ContentsFile = 0, IndexFile = 1, DefaultTopic = 2, Title = 3 };
 
 constexpr qsizetype ContextSize = 8;
-constexpr qsizetype LongestText = qsizetype{64} * 1024 * 1024;
+constexpr int MostContexts = 4096;
+constexpr qsizetype LongestString = 512;
+constexpr qint64 LargestTable = qint64{1024} * 1024;
+// Of all topics together, for a search.
+constexpr qint64 MostText = qint64{2} * 1024 * 1024;
+constexpr qint64 MostTagsOfAll = 10000;
+constexpr qint64 MostEffort = qint64{64} * 1024 * 1024;
 
-/// The text of `bytes` from `begin` to the next zero; empty beyond the end.
+/// The text of `bytes` from `begin` to the next zero; empty beyond the end and when it is too long.
 QString stringAt(const QByteArray& bytes, qsizetype begin)
 {
     if (begin < 0 || begin >= bytes.size()) {
         return {};
     }
-    const qsizetype end = bytes.indexOf('\0', begin);
-    return QString::fromUtf8(bytes.mid(begin, end < 0 ? -1 : end - begin));
+    const QByteArray string = bytes.mid(begin, LongestString + 1);
+    const qsizetype end = string.indexOf('\0');
+    return QString::fromUtf8(end >= 0       ? string.left(end)
+            : string.size() > LongestString ? QByteArray()
+                                            : string);
 }
 
 bool isTopicName(const QString& name)
@@ -32,16 +40,9 @@ bool isTopicName(const QString& name)
         || name.endsWith(QLatin1String(".htm"), Qt::CaseInsensitive);
 }
 
-/// A document that reads nothing from anywhere.
-class ClosedDocument final : public QTextDocument
-{
-protected:
-    QVariant loadResource(int /*type*/, const QUrl& /*name*/) override { return {}; }
-};
-
 std::vector<HelpEntry> readSitemap(const CompiledHelpFile& file, const QString& name)
 {
-    const auto bytes = file.read(objectPath(name));
+    const auto bytes = file.read(objectPath(name), LargestTable);
     return bytes ? parseSitemap(htmlText(*bytes)) : std::vector<HelpEntry>();
 }
 
@@ -80,7 +81,7 @@ HelpBook::HelpBook(std::unique_ptr<CompiledHelpFile> file) : m_file(std::move(fi
 
 void HelpBook::readSystem()
 {
-    const QByteArray bytes = m_file->read(QStringLiteral("/#SYSTEM")).value_or(QByteArray());
+    const QByteArray bytes = m_file->read(QStringLiteral("/#SYSTEM"), LargestTable).value_or(QByteArray());
     constexpr qsizetype VersionSize = 4;
     constexpr qsizetype EntryHeaderSize = 4;
     qsizetype position = VersionSize;
@@ -110,14 +111,14 @@ void HelpBook::readSystem()
 
 void HelpBook::readContexts()
 {
-    const QByteArray map = m_file->read(QStringLiteral("/#IVB")).value_or(QByteArray());
-    const QByteArray strings = m_file->read(QStringLiteral("/#STRINGS")).value_or(QByteArray());
+    const QByteArray map = m_file->read(QStringLiteral("/#IVB"), LargestTable).value_or(QByteArray());
+    const QByteArray strings = m_file->read(QStringLiteral("/#STRINGS"), LargestTable).value_or(QByteArray());
     constexpr qsizetype LengthSize = 4;
     for (qsizetype entry = LengthSize; entry + ContextSize <= map.size(); entry += ContextSize) {
         const auto context = qFromLittleEndian<qint32>(map.constData() + entry);
         const auto offset = qFromLittleEndian<quint32>(map.constData() + entry + LengthSize);
         const QString topic = stringAt(strings, static_cast<qsizetype>(offset));
-        if (!topic.isEmpty()) {
+        if (!topic.isEmpty() && m_contexts.size() < MostContexts) {
             m_contexts.insert(context, objectPath(topic));
         }
     }
@@ -140,21 +141,25 @@ const std::vector<HelpBook::TopicText>& HelpBook::texts() const
 {
     if (!m_texts) {
         m_texts.emplace();
-        qsizetype length = 0;
+        qint64 effort = 0;
+        qint64 length = 0;
+        qint64 tags = 0;
         for (const QString& topic : topics()) {
-            const auto bytes = m_file->read(topic);
-            if (!bytes) {
-                continue;
-            }
-            ClosedDocument document;
-            document.setHtml(htmlText(*bytes));
-            const QString text = document.toPlainText();
-            length += text.size();
-            if (length > LongestText) {
+            effort += m_file->effortOf(topic);
+            if (effort > MostEffort) {
                 break;
             }
-            const QString title = document.metaInformation(QTextDocument::DocumentTitle);
-            m_texts->push_back({topic, title.isEmpty() ? topic : title, text});
+            const QString html = htmlText(m_file->read(topic, LargestTopic).value_or(QByteArray()));
+            length += html.size();
+            tags += tagsOf(html) > MostTags ? 0 : tagsOf(html);
+            if (length > MostText || tags > MostTagsOfAll) {
+                break;
+            }
+            const auto document = readTopic(html);
+            if (document != nullptr) {
+                const QString title = document->metaInformation(QTextDocument::DocumentTitle);
+                m_texts->push_back({topic, title.isEmpty() ? topic : title, document->toPlainText()});
+            }
         }
     }
     return *m_texts;

@@ -11,7 +11,10 @@ struct HelpHit {
     QString title;
 };
 
-/// What a help file says of itself: contents, index, context numbers, and its topics as plain texts.
+/// What a help file says of itself: contents, index, context numbers, and its topics as plain texts. Tables
+/// of more than 1 MiB are taken for empty ones, contexts beyond the 4,096th and those with names of more than
+/// 512 bytes are passed over; a search reads 2 MiB of topics with 10,000 tags in them and leaves out what
+/// comes after.
 class HelpBook
 {
 public:

@@ -10,6 +10,7 @@ namespace
 
 constexpr std::size_t DeepestLevel = 16;
 constexpr int MostEntries = 10000;
+constexpr qsizetype LongestTag = 4096;
 
 QString withoutEntities(QString text)
 {
@@ -108,7 +109,9 @@ std::vector<HelpEntry> parseSitemap(const QString& html)
         if (end < 0) {
             break;
         }
-        reader.tag(html.mid(begin + 1, end - begin - 1));
+        if (end - begin - 1 <= LongestTag) {
+            reader.tag(html.mid(begin + 1, end - begin - 1));
+        }
         begin = html.indexOf(u'<', end);
     }
     return reader.take();

@@ -11,8 +11,8 @@ struct HelpEntry {
     std::vector<HelpEntry> children;
 };
 
-/// Reads a sitemap (.hhc, .hhk). What is no entry is passed over; depth and number of the entries are
-/// bounded.
+/// Reads a sitemap (.hhc, .hhk). What is no entry is passed over, and so is a tag of more than 4,096 letters;
+/// depth and number of the entries are bounded.
 std::vector<HelpEntry> parseSitemap(const QString& html);
 
 /// The text of an HTML object in the encoding that it names, else UTF-8.

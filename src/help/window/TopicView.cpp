@@ -1,6 +1,7 @@
 #include "help/window/TopicView.h"
 
 #include "help/window/HelpBook.h"
+#include "help/window/TopicHtml.h"
 
 #include <QBuffer>
 #include <QEvent>
@@ -19,7 +20,9 @@ namespace
 {
 
 constexpr char Scheme[] = "help";
-constexpr int LargestPictureSide = 4096;
+// Of one topic. A pixel takes four bytes.
+constexpr qint64 MostPixels = qint64{8} * 1024 * 1024;
+constexpr qint64 LongestStyle = qint64{64} * 1000;
 constexpr int MostMarks = 1000;
 constexpr qreal PageMargin = 14;
 
@@ -33,19 +36,6 @@ QUrl urlOf(const QString& topic)
         url.setFragment(topic.mid(place + 1));
     }
     return url;
-}
-
-QImage picture(const QByteArray& bytes)
-{
-    QBuffer buffer;
-    buffer.setData(bytes);
-    QImageReader reader(&buffer);
-    const QSize size = reader.size();
-    if (!size.isValid() || size.width() > LargestPictureSide || size.height() > LargestPictureSide) {
-        return noPicture();
-    }
-    const QImage read = reader.read();
-    return read.isNull() ? noPicture() : read;
 }
 
 QString messagePage(const QString& title, const QString& text)
@@ -118,25 +108,57 @@ QVariant TopicView::loadResource(int type, const QUrl& name)
 {
     // Never the base class: it would read any file of the disk.
     const QUrl url = m_page.resolved(name);
-    if (type == QTextDocument::HtmlResource) {
-        m_page = url.adjusted(QUrl::RemoveFragment);
-    }
-    std::optional<QByteArray> bytes;
-    if (m_book != nullptr && url.scheme() == QLatin1String(Scheme)) {
-        bytes = m_book->file().read(objectPath(url.path()));
-    }
     switch (type) {
     case QTextDocument::HtmlResource:
-        return bytes ? htmlText(*bytes)
-                     : messagePage(tr("This page cannot be shown"),
-                         tr("The help file has no readable page \"%1\".").arg(url.path()));
+        m_page = url.adjusted(QUrl::RemoveFragment);
+        m_pixelsLeft = MostPixels;
+        m_styleLeft = LongestStyle;
+        return page(url);
     case QTextDocument::ImageResource:
-        return bytes ? picture(*bytes) : noPicture();
+        return picture(url);
     case QTextDocument::StyleSheetResource:
-        return bytes ? htmlText(*bytes) : QString();
+        return styleSheet(url);
     default:
         return {};
     }
+}
+
+std::optional<QByteArray> TopicView::object(const QUrl& url, qint64 largest) const
+{
+    const bool isOurs = m_book != nullptr && url.scheme() == QLatin1String(Scheme);
+    return isOurs ? m_book->file().read(objectPath(url.path()), largest) : std::nullopt;
+}
+
+QString TopicView::page(const QUrl& url) const
+{
+    const auto bytes = object(url, LargestTopic);
+    const QString html = bytes ? htmlText(*bytes) : QString();
+    return bytes && readTopic(html) != nullptr
+        ? html
+        : messagePage(tr("This page cannot be shown"),
+            tr("The help file has no readable page \"%1\".").arg(url.path()));
+}
+
+QImage TopicView::picture(const QUrl& url)
+{
+    QBuffer buffer;
+    buffer.setData(object(url, CompiledHelpFile::LargestObject).value_or(QByteArray()));
+    QImageReader reader(&buffer);
+    const QSize size = reader.size();
+    const qint64 pixels = qint64{size.width()} * size.height();
+    if (!size.isValid() || pixels > m_pixelsLeft) {
+        return noPicture();
+    }
+    const QImage read = reader.read();
+    m_pixelsLeft -= pixels;
+    return read.isNull() ? noPicture() : read;
+}
+
+QString TopicView::styleSheet(const QUrl& url)
+{
+    const QString sheet = htmlText(object(url, m_styleLeft).value_or(QByteArray()));
+    m_styleLeft -= sheet.size();
+    return sheet;
 }
 
 void TopicView::setTextSize(int steps)

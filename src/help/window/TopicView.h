@@ -3,6 +3,7 @@
 #include <QImage>
 #include <QStringList>
 #include <QTextBrowser>
+#include <optional>
 
 class HelpBook;
 
@@ -11,7 +12,8 @@ class HelpBook;
 QImage noPicture();
 
 /// Shows topics of a help file. Pictures and style sheets come from the file alone, never from the disk or
-/// the net.
+/// the net. The pictures of one topic take 32 MiB together, its style sheets 64 kB; what comes after is left
+/// out.
 class TopicView : public QTextBrowser
 {
     Q_OBJECT
@@ -42,12 +44,20 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    QString page(const QUrl& url) const;
+    QImage picture(const QUrl& url);
+    QString styleSheet(const QUrl& url);
+    /// Nothing when the file has no such object or one of more bytes.
+    std::optional<QByteArray> object(const QUrl& url, qint64 largest) const;
     void openLink(const QUrl& link);
     void markWords();
 
     const HelpBook* m_book = nullptr;
     /// The page that is being read or shown; what it refers to is relative to it.
     QUrl m_page;
+    /// What the page may still load.
+    qint64 m_pixelsLeft = 0;
+    qint64 m_styleLeft = 0;
     QStringList m_markedWords;
     /// What is on show is not the topic that the history has last.
     bool m_stale = true;

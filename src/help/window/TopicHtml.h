@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QTextDocument>
+#include <memory>
+
+/// Objects with a topic that are larger are not read. In bytes.
+inline constexpr qint64 LargestTopic = qint64{256} * 1024;
+
+/// How many tags that text has at most. A topic with more than `MostTags` is not read.
+qsizetype tagsOf(const QString& html);
+inline constexpr qsizetype MostTags = 2000;
+
+/// A topic as a document that has no look yet and reads nothing from anywhere. Null for what the toolkit
+/// would take very long for: too many tags (tags that are not closed cost it the square of their number),
+/// tables too deep in tables (each level doubles the time of laying them out).
+std::unique_ptr<QTextDocument> readTopic(const QString& html);
