@@ -60,6 +60,14 @@ int buttonsWidth(const QWidget* widget)
     return qMax(ButtonsWidth, withLetters(LeastButtonsWidth, letters(widget)));
 }
 
+/// Where a field has its arrows. A picker reads from left to right whatever its form does.
+Qt::LayoutDirection sideOfArrows(const QStyleOption& option, const QWidget* widget)
+{
+    const auto* picker = qobject_cast<const QDateTimeEdit*>(widget);
+    return picker != nullptr && picker->parentWidget() != nullptr ? picker->parentWidget()->layoutDirection()
+                                                                  : option.direction;
+}
+
 bool isFieldFrame(const QWidget* widget)
 {
     return qobject_cast<const QAbstractScrollArea*>(widget) != nullptr;
@@ -228,7 +236,7 @@ QRect SkinStyle::subControlRect(
         const QRect place = part == SC_ComboBoxArrow
             ? QRect(all.right() - arrow + 1, all.top(), arrow, all.height())
             : all.adjusted(FieldFrame, FieldFrame, -FieldFrame - arrow, -FieldFrame);
-        return visualRect(option->direction, all, place);
+        return visualRect(sideOfArrows(*option, widget), all, place);
     }
     const auto* spin = qstyleoption_cast<const QStyleOptionSpinBox*>(option);
     if (control == CC_SpinBox && spin != nullptr && spin->buttonSymbols != QAbstractSpinBox::NoButtons
@@ -240,7 +248,7 @@ QRect SkinStyle::subControlRect(
         const QRect place = part == SC_SpinBoxUp ? buttons.adjusted(0, 0, 0, half - buttons.height())
             : part == SC_SpinBoxDown             ? buttons.adjusted(0, half, 0, 0)
                                                  : inner.adjusted(0, 0, -width, 0);
-        return visualRect(option->direction, all, place);
+        return visualRect(sideOfArrows(*option, widget), all, place);
     }
     return QProxyStyle::subControlRect(control, option, part, widget);
 }
@@ -346,5 +354,7 @@ void SkinStyle::polish(QWidget* widget)
         // The calendar's own red is not readable on every ground.
         calendar->setWeekdayTextFormat(Qt::Saturday, {});
         calendar->setWeekdayTextFormat(Qt::Sunday, {});
+        // It would take the direction of its picker.
+        calendar->setLayoutDirection(QGuiApplication::layoutDirection());
     }
 }

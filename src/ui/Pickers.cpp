@@ -3,21 +3,21 @@
 #include "ui/MomentTexts.h"
 
 #include <QDateEdit>
+#include <QGuiApplication>
 #include <QSignalBlocker>
 #include <QTimeEdit>
 
 namespace
 {
 
-/// In a right-to-left program a picker turns its format's parts around, minutes before hours: it is given the
-/// format while it reads from left to right. The text is laid out by its own script either way.
+/// A date or time is read and typed from left to right, like its digits: in a right-to-left picker the
+/// toolkit turns the parts around, and who types 1047 gets ten minutes. Its place is that of the other texts.
 void setFormat(QDateTimeEdit& picker, const QString& format)
 {
     picker.setLayoutDirection(Qt::LeftToRight);
     picker.setDisplayFormat(format);
-    picker.unsetLayoutDirection();
-    // A date has the direction of its digits; its place is that of the other texts.
-    picker.setAlignment(picker.isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft);
+    picker.setAlignment(
+        QGuiApplication::layoutDirection() == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft);
 }
 
 } // namespace

@@ -19,6 +19,8 @@ private slots:
     void pickersShowShortDateAndShortTime();
     void aTypedDayIsTakenInEveryLocale_data();
     void aTypedDayIsTakenInEveryLocale();
+    void aTimeIsTypedFromItsHoursOn_data();
+    void aTimeIsTypedFromItsHoursOn();
     void settingAPairRunsNoHandler();
     void aDateIsPickedFromACalendar();
 
@@ -63,7 +65,7 @@ void TestPickers::pickersShowShortDateAndShortTime()
     QCOMPARE(date.date(), QDate(2026, 1, 31));
     QCOMPARE(time.time().hour(), 13);
     QCOMPARE(time.time().minute(), 5);
-    QCOMPARE(date.isRightToLeft(), rightToLeft);
+    QCOMPARE(date.alignment(), rightToLeft ? Qt::AlignRight : Qt::AlignLeft);
 }
 
 void TestPickers::aTypedDayIsTakenInEveryLocale_data()
@@ -90,6 +92,32 @@ void TestPickers::aTypedDayIsTakenInEveryLocale()
     QTest::keyClicks(&time, QStringLiteral("47"));
     time.interpretText();
     QCOMPARE(time.time(), QTime(13, 47));
+}
+
+void TestPickers::aTimeIsTypedFromItsHoursOn_data()
+{
+    addLocales();
+}
+
+void TestPickers::aTimeIsTypedFromItsHoursOn()
+{
+    QFETCH(QString, locale);
+    QFETCH(bool, rightToLeft);
+    QLocale::setDefault(QLocale(locale));
+    QApplication::setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+    QWidget form;
+    QTimeEdit time(&form);
+    setUpTimePicker(time);
+    time.setTime(QTime(13, 5));
+    form.show();
+    QVERIFY(QTest::qWaitForWindowActive(&form));
+    time.setFocus(Qt::TabFocusReason);
+    QTest::keyClicks(&time, QStringLiteral("1047"));
+    QCOMPARE(time.time(), QTime(10, 47));
+    time.setFocus(Qt::OtherFocusReason);
+    QTest::keyClick(&time, Qt::Key_Home);
+    QTest::keyClick(&time, Qt::Key_Up);
+    QCOMPARE(time.time(), QTime(11, 47));
 }
 
 void TestPickers::settingAPairRunsNoHandler()
