@@ -16,6 +16,7 @@ METAINFO = "share/metainfo/example.ambertask.ambertask.metainfo.xml"
 MAN_PAGE = "share/man/man1/Ambertask.1.gz"
 CHANGELOG = "share/doc/ambertask/changelog.gz"
 DRAWING = "share/icons/hicolor/scalable/apps/ambertask.svg"
+LANG = "{http://www.w3.org/XML/1998/namespace}lang"
 LANGUAGES = ["ar", "de", "es", "fr", "zh_CN"]
 ICON_SIZES = [16, 22, 24, 32, 48, 64, 128, 256]
 SKINS = ["Aqua", "Classic", "Contrast", "Lemon", "Midnight"]
@@ -77,6 +78,8 @@ class Installation:
                 yield f"{key} of the entry starts nothing: {entry[key]}"
         if not self._found(f"share/icons/hicolor/scalable/apps/{entry['Icon']}.svg"):
             yield f"there is no icon {entry['Icon']}"
+        if entry.get("StartupNotify") != "false":
+            yield "the desktop would wait for the window of a hidden start"
         for key in ("GenericName", "Comment", "Keywords"):
             for language in LANGUAGES:
                 if not entry.get(f"{key}[{language}]"):
@@ -90,6 +93,12 @@ class Installation:
             yield "the metainfo names another program"
         if sorted(lang.text for lang in component.iterfind("languages/lang")) != sorted(["en", *LANGUAGES]):
             yield "the metainfo has other languages"
+        for text in ("summary", "description/p", "description/ul/li", "releases/release/description/p"):
+            english = sum(LANG not in element.attrib for element in component.iterfind(text))
+            for language in LANGUAGES:
+                tag = language.replace("_", "-")
+                if sum(element.get(LANG) == tag for element in component.iterfind(text)) != english or not english:
+                    yield f"{text} of the metainfo is not in {language}"
         release = component.find("releases/release")
         heading = f"## {release.get('version')} ({release.get('date')})"
         headings = [line for line in gzip.decompress(self._read(CHANGELOG)).decode().splitlines()
