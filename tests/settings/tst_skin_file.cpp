@@ -3,6 +3,7 @@
 #include "support/CaughtError.h"
 #include "support/TestMain.h"
 
+#include <QSet>
 #include <QTemporaryDir>
 
 namespace
@@ -11,6 +12,12 @@ namespace
 SkinFile parsed(const QByteArray& content)
 {
     return SkinFile::parse(content, QStringLiteral("X.skf"));
+}
+
+/// What is written about skin files for those who make them.
+QString description()
+{
+    return QString::fromUtf8(contentOf(QStringLiteral(AMBERTASK_SKIN_DESCRIPTION)));
 }
 
 QByteArray skinWith(const QByteArray& headerLines, const QByteArray& sheet = "QLabel { color: $ink; }")
@@ -26,6 +33,9 @@ class TestSkinFile : public TestCase
 
 private slots:
     void aSkinSaysItsNameVersionAuthorAndDescription();
+    void theExampleOfTheDescriptionIsASkin();
+    void theDescriptionNamesEveryRole();
+    void thePartsThatTheDescriptionRefusesAreRefused();
     void otherLinesOfTheCommentAreFree();
     void tokensBecomeColours();
     void rolesTakeTheirColoursInAllGroups();
@@ -52,6 +62,40 @@ void TestSkinFile::aSkinSaysItsNameVersionAuthorAndDescription()
     QCOMPARE(info.version, QStringLiteral("2.0"));
     QCOMPARE(info.author, QString::fromUtf8("Å. Vik"));
     QCOMPARE(info.description, QStringLiteral("Blue, and calm"));
+}
+
+void TestSkinFile::theExampleOfTheDescriptionIsASkin()
+{
+    const QString example = description().section(QStringLiteral("```\n"), 1, 1);
+    const SkinFile skin = parsed(example.toUtf8());
+    QCOMPARE(skin.info.name, QStringLiteral("Harbour"));
+    QCOMPARE(skin.palette.color(QPalette::Highlight), QColor(0xb3, 0x26, 0x1e));
+    QVERIFY(skin.styleSheet.contains(QStringLiteral("background-color: #ffffff")));
+}
+
+void TestSkinFile::theDescriptionNamesEveryRole()
+{
+    const QString paragraph = description().section(QStringLiteral("The roles:"), 1).section(u'.', 0, 0);
+    const QStringList roles = paragraph.split(u'`');
+    QSet<QString> known;
+    for (qsizetype i = 1; i < roles.size(); i += 2) {
+        parsed(QStringLiteral("/*\n@name X\n@color c #000000\n@palette %1 $c\n*/").arg(roles[i]).toUtf8());
+        known.insert(roles[i]);
+    }
+    QCOMPARE(known.size(), 20);
+}
+
+void TestSkinFile::thePartsThatTheDescriptionRefusesAreRefused()
+{
+    const QString bullet = description().section(QStringLiteral("- Check marks"), 1).section(u'.', 0, 0);
+    const QStringList parts = bullet.split(u'`');
+    QVERIFY(parts.size() > 20);
+    for (qsizetype i = 1; i < parts.size(); i += 2) {
+        QVERIFY2(caught<SkinError>([&] {
+            parsed(QStringLiteral("/*\n@name X\n*/ QCheckBox%1 { color: red; }").arg(parts[i]).toUtf8());
+        }),
+            qPrintable(parts[i]));
+    }
 }
 
 void TestSkinFile::otherLinesOfTheCommentAreFree()
