@@ -166,10 +166,12 @@ public:
                                             "TryExec=%3\n"
                                             "Terminal=false\n")
                                  .arg(program, execValue(path), stringValue(path));
+        // Where the icon is installed, settings of the session show it.
+        const QString icon = QStringLiteral("Icon=%1\n").arg(program.toLower());
         try {
             const QString file = entryFile(name);
             makeFolder(QFileInfo(file).path());
-            replaceByBytes(text.toUtf8(), file, PublicFile);
+            replaceByBytes((text + icon).toUtf8(), file, PublicFile);
         } catch (const FileError&) {
             // Without the right to write there is no entry, and nobody is told.
         }

@@ -94,7 +94,8 @@ void TestRegistry::theRunEntryIsADesktopEntry()
     writeRunEntry(*m_registry, QStringLiteral("/opt/ambertask"));
     QCOMPARE(entry(),
         QByteArray("[Desktop Entry]\nType=Application\nVersion=1.0\nName=Ambertask\n"
-                   "Exec=\"/opt/ambertask/Ambertask\"\nTryExec=/opt/ambertask/Ambertask\nTerminal=false\n"));
+                   "Exec=\"/opt/ambertask/Ambertask\"\nTryExec=/opt/ambertask/Ambertask\nTerminal=false\n"
+                   "Icon=ambertask\n"));
 }
 
 void TestRegistry::specialCharactersOfThePathAreEscaped_data()
