@@ -194,10 +194,8 @@ bool frmAbout::GetKeyValue(
         KeyVal = QString::fromLocal8Bit(kept);
     } else if (value->type == RegistryValues::DoubleWord) {
         const QString number = decimalText(kept);
-        if (number.isEmpty()) {
-            return false;
-        }
-        KeyVal = number;
+        // Bytes that are no number were read all the same.
+        KeyVal = number.isEmpty() ? KeyVal : number;
     }
     return true;
 }

@@ -166,6 +166,23 @@ private slots:
         QCOMPARE(about.registry.openKeys, 0);
     }
 
+    void aDoubleWordThatIsNoNumberIsReadAndLeavesTheText_data()
+    {
+        QTest::addColumn<QByteArray>("data");
+        QTest::newRow("no bytes") << QByteArray();
+        QTest::newRow("nine bytes") << QByteArray(9, '\x11');
+        QTest::newRow("the whole buffer") << QByteArray(1024, '\xff');
+    }
+
+    void aDoubleWordThatIsNoNumberIsReadAndLeavesTheText()
+    {
+        QFETCH(const QByteArray, data);
+        About about;
+        QCOMPARE(about.read(RegistryValues::DoubleWord, data), QStringLiteral("before"));
+        QVERIFY(about.wasRead);
+        QCOMPARE(about.registry.openKeys, 0);
+    }
+
     void otherTypesLeaveTheTextAsItWas()
     {
         About about;
