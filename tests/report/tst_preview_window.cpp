@@ -1,63 +1,14 @@
-#include "report/PreviewWindow.h"
-#include "support/PdfFile.h"
 #include "support/TestMain.h"
-#include "tests/report/RecordedReportHost.h"
-#include "tests/report/ReportSamples.h"
+#include "tests/report/PreviewUnderTest.h"
 
 #include <QApplication>
 #include <QComboBox>
-#include <QDialog>
-#include <QDir>
 #include <QLabel>
-#include <QLineEdit>
-#include <QPrintDialog>
 #include <QPrintPreviewWidget>
 #include <QPushButton>
-#include <QRadioButton>
-#include <QRegularExpression>
 #include <QSet>
 #include <QSpinBox>
-#include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
-
-namespace
-{
-
-struct Fixture {
-    explicit Fixture(int records, bool hasPrinter = false) : window(host, [hasPrinter] { return hasPrinter; })
-    {
-        window.setContent(contentOf(recordsOf(records)));
-        window.show();
-        if (!QTest::qWaitForWindowExposed(&window)) {
-            QTest::qFail("the window did not appear", __FILE__, __LINE__);
-        }
-    }
-    template <typename Control> Control* control(const char* name)
-    {
-        return window.findChild<Control*>(QLatin1String(name));
-    }
-    void press(const char* name) { QTest::mouseClick(control<QPushButton>(name), Qt::LeftButton); }
-    void choose(const char* name, int index)
-    {
-        auto* combo = control<QComboBox>(name);
-        combo->setCurrentIndex(index);
-        emit combo->activated(index);
-    }
-    QString pageText() { return control<QSpinBox>("spnPage")->text(); }
-    QPrintPreviewWidget* preview() { return control<QPrintPreviewWidget>("prvReport"); }
-    /// A picture of what the preview shows.
-    QImage picture()
-    {
-        QCoreApplication::processEvents();
-        return preview()->grab().toImage().convertToFormat(QImage::Format_RGB32);
-    }
-
-    RecordedReportHost host;
-    PreviewWindow window;
-};
-
-} // namespace
 
 class PreviewWindowTest : public TestCase
 {
@@ -66,7 +17,7 @@ class PreviewWindowTest : public TestCase
 private slots:
     void theWindowIsAResizableOneNamedAfterTheReport()
     {
-        Fixture f(1);
+        PreviewUnderTest f(1);
         QCOMPARE(f.window.objectName(), QStringLiteral("drTasks"));
         QCOMPARE(f.window.windowTitle(), QStringLiteral("Tasks Report"));
         QVERIFY(f.window.isWindow());
@@ -76,7 +27,7 @@ private slots:
 
     void pagesAreTurnedAndTheBarSaysWhichIsInView()
     {
-        Fixture f(60);
+        PreviewUnderTest f(60);
         const int count = f.window.pageCount();
         QVERIFY(count > 3);
         QCOMPARE(f.pageText(), QStringLiteral("1 of %1").arg(count));
@@ -97,7 +48,7 @@ private slots:
 
     void aPageIsReachedByItsNumber()
     {
-        Fixture f(60);
+        PreviewUnderTest f(60);
         auto* number = f.control<QSpinBox>("spnPage");
         number->setFocus();
         number->selectAll();
@@ -109,7 +60,7 @@ private slots:
 
     void theKeyboardTurnsPages()
     {
-        Fixture f(60);
+        PreviewUnderTest f(60);
         f.window.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&f.window));
         f.preview()->setFocus();
@@ -127,7 +78,7 @@ private slots:
 
     void aZoomedPageIsScrolledBeforeItIsTurned()
     {
-        Fixture f(60);
+        PreviewUnderTest f(60);
         f.window.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&f.window));
         f.choose("cmbZoom", f.control<QComboBox>("cmbZoom")->findText(QStringLiteral("300 %")));
@@ -141,7 +92,7 @@ private slots:
 
     void zoomingShowsItsPercentage()
     {
-        Fixture f(1);
+        PreviewUnderTest f(1);
         auto* zoom = f.control<QComboBox>("cmbZoom");
         QCOMPARE(zoom->currentText(), QStringLiteral("Whole page"));
         f.choose("cmbZoom", zoom->findText(QStringLiteral("100 %")));
@@ -161,7 +112,7 @@ private slots:
 
     void paperAndOrientationLayThePagesOutAnew()
     {
-        Fixture f(60);
+        PreviewUnderTest f(60);
         f.choose("cmbPaper", f.control<QComboBox>("cmbPaper")->findData(QPageSize::A4));
         const int count = f.window.pageCount();
         f.choose("cmbPaper", f.control<QComboBox>("cmbPaper")->findData(QPageSize::A5));
@@ -176,7 +127,7 @@ private slots:
 
     void whatIsInViewStaysInViewOnAnotherPaper()
     {
-        Fixture f(200);
+        PreviewUnderTest f(200);
         f.window.goToPage(f.window.pageCount() - 1);
         f.choose("cmbPaper", f.control<QComboBox>("cmbPaper")->findData(QPageSize::A5));
         QVERIFY(f.window.page() > f.window.pageCount() * 3 / 4);
@@ -184,7 +135,7 @@ private slots:
 
     void withoutAPrinterPrintingIsOffAndSaysWhy()
     {
-        Fixture f(1, false);
+        PreviewUnderTest f(1, false);
         QVERIFY(!f.control<QPushButton>("btnPrint")->isEnabled());
         QCOMPARE(f.control<QPushButton>("btnPrint")->toolTip(),
             QStringLiteral("No printer is set up on this computer."));
@@ -193,103 +144,14 @@ private slots:
 
     void withAPrinterPrintingIsOn()
     {
-        Fixture f(1, true);
+        PreviewUnderTest f(1, true);
         QVERIFY(f.control<QPushButton>("btnPrint")->isEnabled());
         QVERIFY(f.control<QPushButton>("btnPrint")->toolTip().isEmpty());
     }
 
-    // The dialog of the toolkit, driven as a user would; without a printer it knows files alone.
-    void theChosenPagesArePrinted()
-    {
-        Fixture f(60, true);
-        const QTemporaryDir folder;
-        const QString file = folder.filePath(QStringLiteral("printed.pdf"));
-        bool seen = false;
-        QTimer::singleShot(0, this, [&] {
-            auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
-            QVERIFY(dialog != nullptr);
-            seen = true;
-            dialog->findChild<QLineEdit*>(QStringLiteral("filename"))->setText(file);
-            dialog->findChild<QRadioButton*>(QStringLiteral("printRange"))->setChecked(true);
-            dialog->findChild<QSpinBox*>(QStringLiteral("from"))->setValue(2);
-            dialog->findChild<QSpinBox*>(QStringLiteral("to"))->setValue(3);
-            dialog->accept();
-        });
-        f.press("btnPrint");
-        QVERIFY(seen);
-        QCOMPARE(f.host.failures, QStringList());
-        const QStringList pages = pagesOfPdf(file);
-        QCOMPARE(pages.size(), 2);
-        QVERIFY(!pages[0].contains(QStringLiteral("record 1.")));
-        QVERIFY(pages[0].contains(QStringLiteral("record ")));
-    }
-
-    void thePdfHoldsAllPages()
-    {
-        Fixture f(60);
-        const QTemporaryDir folder;
-        f.host.file = folder.filePath(QStringLiteral("out.pdf"));
-        f.press("btnExport");
-        QCOMPARE(f.host.failures, QStringList());
-        const QStringList pages = pagesOfPdf(f.host.file);
-        QCOMPARE(pages.size(), f.window.pageCount());
-        QVERIFY(pages.last().contains(QStringLiteral("record 60.")));
-    }
-
-    void aCancelledExportWritesNothing()
-    {
-        Fixture f(1);
-        f.press("btnExport");
-        QCOMPARE(f.host.failures, QStringList());
-    }
-
-    // Long enough for the box, which the real time brings.
-    void aLongExportIsCancelledByItsBoxAndLeavesNoFile()
-    {
-        Fixture f(1);
-        f.window.setContent(contentOf(recordsOf(60000)));
-        const QTemporaryDir folder;
-        f.host.file = folder.filePath(QStringLiteral("out.pdf"));
-        QTimer looking;
-        QString text;
-        connect(&looking, &QTimer::timeout, this, [&] {
-            if (auto* box = f.control<QDialog>("progress")) {
-                text = box->findChild<QLabel*>()->text();
-                box->findChild<QPushButton*>(QStringLiteral("btnCancel"))->click();
-            }
-        });
-        looking.start(10);
-        f.press("btnExport");
-        QCOMPARE(text, QStringLiteral("Writing the PDF file..."));
-        QCOMPARE(f.host.failures, QStringList());
-        QVERIFY(QDir(folder.path()).isEmpty());
-    }
-
-    void anUnwritablePathIsReportedAndLeavesNoHalfFile()
-    {
-        Fixture f(1);
-        const QTemporaryDir folder;
-        f.host.file = folder.filePath(QStringLiteral("missing/out.pdf"));
-        f.press("btnExport");
-        QCOMPARE(f.host.failures.size(), 1);
-        QVERIFY(f.host.failures[0].startsWith(
-            QStringLiteral("The report could not be written to \"%1\": ").arg(f.host.file)));
-        QVERIFY(QDir(folder.path()).isEmpty());
-    }
-
-    void aFolderInPlaceOfTheFileIsReported()
-    {
-        Fixture f(1);
-        const QTemporaryDir folder;
-        f.host.file = folder.path();
-        f.press("btnExport");
-        QCOMPARE(f.host.failures.size(), 1);
-        QVERIFY(QDir(folder.path()).isEmpty());
-    }
-
     void aFurtherContentReplacesTheFirstAndTurnsToItsFirstPage()
     {
-        Fixture f(60);
+        PreviewUnderTest f(60);
         f.window.goToPage(2);
         const QImage before = f.picture();
         f.window.setContent(contentOf(recordsOf(2)));
@@ -303,7 +165,7 @@ private slots:
         QPalette dark(QColor(0x20, 0x24, 0x2c));
         QApplication::setPalette(dark);
         {
-            Fixture f(1);
+            PreviewUnderTest f(1);
             const QImage picture = f.picture();
             QCOMPARE(picture.pixelColor(picture.rect().center()), QColor(Qt::white));
         }
@@ -312,7 +174,7 @@ private slots:
 
     void closingTellsTheHost()
     {
-        Fixture f(1);
+        PreviewUnderTest f(1);
         f.window.close();
         QCOMPARE(f.host.closed, 1);
         QVERIFY(!f.window.isVisible());
@@ -333,7 +195,7 @@ private slots:
     {
         QFETCH(const QSize, size);
         QFETCH(const Qt::LayoutDirection, direction);
-        Fixture f(60, true);
+        PreviewUnderTest f(60, true);
         f.window.setLayoutDirection(direction);
         f.window.resize(size);
         QCoreApplication::processEvents();
@@ -365,7 +227,7 @@ private slots:
     {
         qApp->setStyleSheet(QStringLiteral("QPushButton { padding: 4px 20px; }"));
         {
-            Fixture f(2000);
+            PreviewUnderTest f(2000);
             const int commands = f.control<QPushButton>("btnPrint")->geometry().center().y();
             const int pages = f.control<QPushButton>("btnFirstPage")->geometry().center().y();
             QVERIFY(f.window.pageCount() > 100);
@@ -379,7 +241,7 @@ private slots:
 
     void everyControlIsReachedByTabAndByAMnemonicOfItsOwn()
     {
-        Fixture f(60, true);
+        PreviewUnderTest f(60, true);
         QSet<QChar> mnemonics;
         QStringList captions;
         for (const auto* button : f.window.findChildren<QPushButton*>()) {
