@@ -103,6 +103,7 @@ private:
     void lookAtItem(const QAbstractItemView& view, const QModelIndex& index);
     void lookAtMenu(const QMenu& menu);
     void lookAtPicture(const QAbstractButton& button);
+    void lookAtPushButton(const QPushButton& button);
     void lookAtProgress(const QProgressBar& bar);
     void lookAtSpinBox(const QAbstractSpinBox& spin);
     void lookAtTabs(const QTabBar& tabs);
@@ -128,7 +129,7 @@ void Look::lookAtWidget(QWidget& widget)
     } else if (option != nullptr) {
         lookAtCheckable(*option, QStyle::SE_RadioButtonIndicator, QStyle::SE_RadioButtonContents);
     } else if (const auto* push = qobject_cast<QPushButton*>(&widget)) {
-        text(*push, inside(push->rect(), 4), push->text());
+        lookAtPushButton(*push);
     } else if (const auto* tool = qobject_cast<QToolButton*>(&widget)) {
         lookAtToolButton(*tool);
     } else if (const auto* box = qobject_cast<QGroupBox*>(&widget)) {
@@ -197,6 +198,17 @@ void Look::lookAtCombo(const QComboBox& combo)
     text(combo, inside(place(QStyle::SC_ComboBoxEditField), 3).adjusted(picture, 0, 0, 0),
         combo.currentText());
     mark(combo, inside(place(QStyle::SC_ComboBoxArrow), 3), QStringLiteral("arrow"));
+}
+
+void Look::lookAtPushButton(const QPushButton& button)
+{
+    constexpr int Border = 4;
+    const QRect place = inside(button.rect(), Border);
+    text(button, place, button.text());
+    if (button.menu() != nullptr) {
+        const int arrow = button.fontMetrics().height();
+        mark(button, place.adjusted(place.width() - arrow, 0, 0, 0), QStringLiteral("arrow"));
+    }
 }
 
 /// How far it is and how far it has to go.
