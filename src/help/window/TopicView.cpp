@@ -74,9 +74,20 @@ void TopicView::openTopic(const QString& topic, const QStringList& markedWords)
     }
     const QUrl url = urlOf(topic);
     if (url == source()) {
+        scrollTo(url.fragment());
         markWords();
     } else {
         setSource(url, QTextDocument::HtmlResource);
+    }
+}
+
+void TopicView::scrollTo(const QString& place)
+{
+    if (place.isEmpty()) {
+        moveCursor(QTextCursor::Start);
+        verticalScrollBar()->setValue(0);
+    } else {
+        scrollToAnchor(place);
     }
 }
 

@@ -24,8 +24,8 @@ public:
     /// The file that topics come from, null for none; it outlives the view or the next call. Forgets the
     /// history.
     void setBook(const HelpBook* book);
-    /// `topic` is the name of an object, perhaps with "#" and a place in it. The words are shown marked, the
-    /// first place is scrolled to.
+    /// `topic` is the name of an object, perhaps with "#" and a place in it. The words are shown marked; the
+    /// first of them, else the place, else the top is scrolled to, in the topic on show, too.
     void openTopic(const QString& topic, const QStringList& markedWords = {});
     /// Shows a message of the program's own, as plain text, until a topic is opened.
     void showMessage(const QString& title, const QString& text);
@@ -50,6 +50,8 @@ private:
     /// Nothing when the file has no such object or one of more bytes.
     std::optional<QByteArray> object(const QUrl& url, qint64 largest) const;
     void openLink(const QUrl& link);
+    /// The top when `place` is empty.
+    void scrollTo(const QString& place);
     void markWords();
 
     const HelpBook* m_book = nullptr;
