@@ -290,8 +290,11 @@ void PreviewWindow::btnPrint_Click()
         windowTitle(), m_printer.pageLayout(), pageCount(), m_page, [this](QSizeF area) {
             return layOut(area);
         }};
-    if (!printThroughDialog(*this, request)) {
+    const auto failure = printThroughDialog(*this, request);
+    if (failure && failure->file.isEmpty()) {
         tell(tr("The report could not be printed."));
+    } else if (failure) {
+        tellUnwritten(failure->file, failure->reason);
     }
 }
 
@@ -309,8 +312,13 @@ void PreviewWindow::exportTo(const QString& file)
     const std::shared_ptr<const ReportLayout> pages = m_layout;
     const auto failure = writePdfFrom(*this, {file, windowTitle(), m_printer.pageLayout()}, *pages);
     if (failure) {
-        tell(tr("The report could not be written to \"%1\": %2.").arg(file, *failure));
+        tellUnwritten(file, *failure);
     }
+}
+
+void PreviewWindow::tellUnwritten(const QString& file, const QString& reason)
+{
+    tell(tr("The report could not be written to \"%1\": %2.").arg(file, reason));
 }
 
 void PreviewWindow::tell(const QString& text)

@@ -56,6 +56,7 @@ private:
     void widenForRows();
     void showZoom();
     void tell(const QString& text);
+    void tellUnwritten(const QString& file, const QString& reason);
 
     ReportHost& m_host;
     std::function<bool()> m_hasPrinter;

@@ -1,13 +1,16 @@
 #include "help/window/CompiledHelpWindow.h"
+#include "help/window/HelpBook.h"
 #include "help/window/TopicPages.h"
 #include "help/window/TopicView.h"
 #include "platform/printing/PageOutput.h"
+#include "support/FullDisk.h"
 #include "support/PdfFile.h"
 #include "support/TestMain.h"
 #include "tests/help/RecordedHelpHost.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
@@ -160,6 +163,29 @@ private slots:
         QVERIFY(help.printed().contains(QStringLiteral("The alert window")));
     }
 
+    void aPrintIntoAFileOnAFullDiskIsToldWithPathAndReason()
+    {
+        Help help(true);
+        help.window.showContext(4);
+        std::optional<FullDisk> disk;
+        QTimer::singleShot(0, this, [&] {
+            auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+            QVERIFY(dialog != nullptr);
+            dialog->findChild<QLineEdit*>(QStringLiteral("filename"))->setText(help.host.pdfFile);
+            dialog->accept();
+            disk.emplace(4096);
+        });
+        help.print().click();
+        QVERIFY(disk);
+        disk.reset();
+        const QString told =
+            QStringLiteral("The topic could not be written to \"%1\": ").arg(help.host.pdfFile);
+        QCOMPARE(help.host.failures.size(), 1);
+        QVERIFY2(help.host.failures[0].startsWith(told), qPrintable(help.host.failures[0]));
+        QVERIFY2(help.host.failures[0].size() > told.size() + 5, qPrintable(help.host.failures[0]));
+        QVERIFY(!QFileInfo::exists(help.host.pdfFile));
+    }
+
     void withoutAHelpFileThereIsNothingToPrint()
     {
         RecordedHelpHost host;
@@ -172,11 +198,13 @@ private slots:
     {
         Help help;
         const QSizeF area = printableArea(a4());
+        const auto book = HelpBook::open(QStringLiteral(AMBERTASK_HELP_FILE));
+        QVERIFY(book != nullptr);
         int topics = 0;
-        for (int context = 0; context <= 4; ++context) {
-            help.window.showContext(context);
+        for (const QString& topic : book->topics()) {
+            help.topic().openTopic(topic);
             const TopicPages pages(*help.topic().document(), area);
-            const QString file = help.folder.filePath(QStringLiteral("%1.pdf").arg(context));
+            const QString file = help.folder.filePath(QStringLiteral("%1.pdf").arg(topics));
             QVERIFY(!writePdf({file, QStringLiteral("topic"), a4()}, pages, allPages(pages)));
             const QStringList printed = pagesOfPdf(file);
             QCOMPARE(printed.size(), pages.pageCount());
@@ -188,7 +216,8 @@ private slots:
             }
             ++topics;
         }
-        QCOMPARE(topics, 5);
+        QCOMPARE(topics,
+            QDir(QStringLiteral(AMBERTASK_HELP_SOURCES)).entryList({QStringLiteral("*.html")}).size());
     }
 
     void picturesArePrintedWithinTheMargins()

@@ -1,3 +1,4 @@
+#include "support/FullDisk.h"
 #include "support/PdfFile.h"
 #include "support/TestMain.h"
 #include "tests/report/PreviewUnderTest.h"
@@ -46,6 +47,29 @@ private slots:
         QCOMPARE(pages.size(), 2);
         QVERIFY(!pages[0].contains(QStringLiteral("record 1.")));
         QVERIFY(pages[0].contains(QStringLiteral("record ")));
+    }
+
+    void aPrintIntoAFileOnAFullDiskIsToldWithPathAndReason()
+    {
+        PreviewUnderTest f(60, true);
+        const QTemporaryDir folder;
+        const QString file = folder.filePath(QStringLiteral("printed.pdf"));
+        std::optional<FullDisk> disk;
+        QTimer::singleShot(0, this, [&] {
+            auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+            QVERIFY(dialog != nullptr);
+            dialog->findChild<QLineEdit*>(QStringLiteral("filename"))->setText(file);
+            dialog->accept();
+            disk.emplace(4096);
+        });
+        f.press("btnPrint");
+        QVERIFY(disk);
+        disk.reset();
+        const QString told = QStringLiteral("The report could not be written to \"%1\": ").arg(file);
+        QCOMPARE(f.host.failures.size(), 1);
+        QVERIFY2(f.host.failures[0].startsWith(told), qPrintable(f.host.failures[0]));
+        QVERIFY2(f.host.failures[0].size() > told.size() + 5, qPrintable(f.host.failures[0]));
+        QVERIFY(QDir(folder.path()).isEmpty());
     }
 
     void thePdfHoldsAllPages()

@@ -263,8 +263,11 @@ void CompiledHelpWindow::btnPrint_Click()
         TopicPages(*m_topic->document(), printableArea(page)).pageCount(), 0, [this](QSizeF area) {
             return std::make_shared<TopicPages>(*m_topic->document(), area);
         }};
-    if (!printThroughDialog(*this, request)) {
+    const auto failure = printThroughDialog(*this, request);
+    if (failure && failure->file.isEmpty()) {
         m_host.tellFailure(this, tr("The topic could not be printed."));
+    } else if (failure) {
+        tellUnwritten(failure->file, failure->reason);
     }
 }
 
@@ -279,6 +282,11 @@ void CompiledHelpWindow::writeTopicPdf()
     const TopicPages pages(*m_topic->document(), printableArea(page));
     const auto failure = writePdfFrom(*this, {file, title, page}, pages);
     if (failure) {
-        m_host.tellFailure(this, tr("The topic could not be written to \"%1\": %2.").arg(file, *failure));
+        tellUnwritten(file, *failure);
     }
+}
+
+void CompiledHelpWindow::tellUnwritten(const QString& file, const QString& reason)
+{
+    m_host.tellFailure(this, tr("The topic could not be written to \"%1\": %2.").arg(file, reason));
 }

@@ -43,6 +43,7 @@ private:
     void setTextSize(int steps);
     void btnPrint_Click();
     void writeTopicPdf();
+    void tellUnwritten(const QString& file, const QString& reason);
 
     HelpHost& m_host;
     std::function<bool()> m_hasPrinter;

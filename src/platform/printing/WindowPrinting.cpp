@@ -72,7 +72,7 @@ bool hasPrinter()
     return !QPrinterInfo::availablePrinterNames().isEmpty();
 }
 
-bool printThroughDialog(QWidget& window, const PrintRequest& request)
+std::optional<PrintFailure> printThroughDialog(QWidget& window, const PrintRequest& request)
 {
     QPrinter printer(QPrinter::HighResolution);
     printer.setPageLayout(request.page);
@@ -83,19 +83,20 @@ bool printThroughDialog(QWidget& window, const PrintRequest& request)
     dialog.setOption(QAbstractPrintDialog::PrintCurrentPage);
     dialog.setMinMax(1, request.pageCount);
     if (dialog.exec() != QDialog::Accepted) {
-        return true;
+        return std::nullopt;
     }
     // The dialog may have chosen another paper.
     const auto pages = request.layOut(printableArea(printer.pageLayout()));
     const std::vector<int> order = chosenPages(printer, pages->pageCount(), request.currentPage);
     if (order.empty()) {
-        return true;
+        return std::nullopt;
     }
     if (printer.outputFormat() == QPrinter::PdfFormat) {
-        return !writePages(
-            window, {printer.outputFileName(), request.title, printer.pageLayout()}, *pages, order);
+        const QString file = printer.outputFileName();
+        const auto reason = writePages(window, {file, request.title, printer.pageLayout()}, *pages, order);
+        return reason ? std::optional(PrintFailure{file, *reason}) : std::nullopt;
     }
-    return print(window, printer, *pages, order);
+    return print(window, printer, *pages, order) ? std::nullopt : std::optional(PrintFailure());
 }
 
 std::optional<QString> writePdfFrom(QWidget& window, const PdfTarget& target, const PrintedPages& pages)

@@ -22,9 +22,15 @@ struct PrintRequest {
 /// Whether there is a printer to print on. The first question loads what the system has for printing.
 bool hasPrinter();
 
-/// Lets the user choose printer and pages, and prints them. False when that failed; who cancels dialog or
-/// printing has nothing printed, and that is no failure.
-bool printThroughDialog(QWidget& window, const PrintRequest& request);
+/// What kept a request from being printed.
+struct PrintFailure {
+    QString file; ///< that was chosen in place of a printer; else empty, and so is the reason
+    QString reason;
+};
+
+/// Lets the user choose printer and pages, and prints them. Who cancels dialog or printing has nothing
+/// printed, and that is no failure.
+std::optional<PrintFailure> printThroughDialog(QWidget& window, const PrintRequest& request);
 
 /// Writes all pages to a PDF file, which appears complete or not at all. The text of the failure, if any; to
 /// be cancelled is none.
