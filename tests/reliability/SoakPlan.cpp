@@ -2,6 +2,7 @@
 
 #include "data/TaskCodes.h"
 
+#include <algorithm>
 #include <array>
 #include <iterator>
 
@@ -11,6 +12,8 @@ namespace
 {
 
 using Kind = Step::Kind;
+
+constexpr int MostTicks = 60;
 
 int below(std::mt19937& chance, int limit)
 {
@@ -117,13 +120,39 @@ Step SoakWorld::planWithoutRestart(std::mt19937& chance) const
     }
 }
 
+bool SoakWorld::isDueThisSecond(Moment moment) const
+{
+    const QString now = QString::fromStdString(storedText(moment));
+    return std::any_of(m_rows.tasks.begin(), m_rows.tasks.end(), [&now](const auto& task) {
+        return task.second.reminderOn && !task.second.dismissed && task.second.reminder == now;
+    });
+}
+
+int SoakWorld::anyWait(std::mt19937& chance) const
+{
+    const int any = 1 + below(chance, MostTicks);
+    if (below(chance, 3) != 0) {
+        return any;
+    }
+    // Chance alone seldom meets the very second of a reminder.
+    for (int ticks = 1; ticks <= MostTicks; ++ticks) {
+        if (isDueThisSecond(m_now + ticks * 10s)) {
+            return ticks;
+        }
+    }
+    return any;
+}
+
 Step SoakWorld::plan(std::mt19937& chance) const
 {
     Step step;
     step.kind = anyKind(chance);
+    if (step.kind == Kind::Pass && isDueThisSecond(m_now) && below(chance, 4) == 0) {
+        step.kind = Kind::DismissAll;
+    }
     const auto passInstead = [&] {
         step.kind = Kind::Pass;
-        step.count = 1 + below(chance, 60);
+        step.count = anyWait(chance);
         return step;
     };
     const bool hasTasks = !m_rows.tasks.empty();

@@ -138,6 +138,8 @@ private:
     void commit(Outcome& outcome, bool keepsBetween) const;
     void tick(Outcome& outcome, bool keepsBetween);
     std::set<qint32> due() const;
+    bool isDueThisSecond(Moment moment) const;
+    int anyWait(std::mt19937& chance) const; ///< in ticks
     bool bulkMatches(const TaskRow& row, const Step& step) const;
     TaskEntry anyEntry(std::mt19937& chance, qint16 category) const;
     qint32 anyTask(std::mt19937& chance) const;
