@@ -1,5 +1,6 @@
 #include "help/window/CompiledHelpWindow.h"
 #include "help/window/HelpBook.h"
+#include "help/window/TopicView.h"
 #include "support/TestMain.h"
 #include "tests/help/RecordedHelpHost.h"
 
@@ -18,6 +19,7 @@ private:
     QTemporaryDir m_folder;
     QByteArray m_good;
     int m_opened = 0;
+    int m_shown = 0;
 
     QString file(const QByteArray& bytes)
     {
@@ -41,7 +43,27 @@ private:
         // Every topic becomes a document then, which takes longest.
         if (m_opened % 100 == 0) {
             book->find(QStringLiteral("reminder"));
+            showAll();
         }
+    }
+
+    /// Shows contents, index and every topic of the file that was read last.
+    void showAll()
+    {
+        RecordedHelpHost host;
+        CompiledHelpWindow window(host, [] { return false; });
+        window.setFile(m_folder.filePath(QStringLiteral("damaged.chm")));
+        window.show();
+        window.showContents();
+        window.showIndex();
+        auto& topic = *window.findChild<TopicView*>();
+        const auto book = HelpBook::open(m_folder.filePath(QStringLiteral("damaged.chm")));
+        QVERIFY(book != nullptr);
+        for (const QString& name : book->topics()) {
+            topic.openTopic(name);
+            topic.grab();
+        }
+        ++m_shown;
     }
 
     static QString shownText(const CompiledHelpWindow& window)
@@ -102,6 +124,7 @@ private slots:
 
     void flippedBytesOfTheTablesDoNoHarm()
     {
+        m_shown = 0;
         // Title, contexts, contents and index: what the window shows before any topic.
         const qsizetype content = 0x78 + 0x54 + 0x1000;
         for (qsizetype offset = content; offset < content + 1400; ++offset) {
@@ -114,6 +137,7 @@ private slots:
             bytes[offset] = static_cast<char>(bytes[offset] ^ 0xff);
             readAll(bytes);
         }
+        QVERIFY2(m_shown >= 10, qPrintable(QString::number(m_shown)));
     }
 
     void numbersOfTheHeaderThatAreTooLargeDoNoHarm()

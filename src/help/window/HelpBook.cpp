@@ -149,7 +149,7 @@ const std::vector<HelpBook::TopicText>& HelpBook::texts() const
             if (effort > MostEffort) {
                 break;
             }
-            const QString html = htmlText(m_file->read(topic, LargestTopic).value_or(QByteArray()));
+            const QString html = topicText(m_file->read(topic, LargestTopic).value_or(QByteArray()));
             length += html.size();
             tags += tagsOf(html) > MostTags ? 0 : tagsOf(html);
             if (length > MostText || tags > MostTagsOfAll) {
@@ -169,7 +169,7 @@ QStringList HelpBook::wordsOf(const QString& query)
 {
     static const QRegularExpression blanks(
         QStringLiteral("\\s+"), QRegularExpression::UseUnicodePropertiesOption);
-    return query.split(blanks, Qt::SkipEmptyParts);
+    return query.normalized(QString::NormalizationForm_C).split(blanks, Qt::SkipEmptyParts);
 }
 
 std::vector<HelpHit> HelpBook::find(const QString& query) const

@@ -35,7 +35,7 @@ public:
     const CompiledHelpFile& file() const { return *m_file; }
 
     /// The topics that contain every word of `query` in whatever letter case, those with a word in their
-    /// title first. None for an empty query.
+    /// title first, however letters with marks are typed. None for an empty query.
     std::vector<HelpHit> find(const QString& query) const;
     static QStringList wordsOf(const QString& query);
 

@@ -1,5 +1,7 @@
 #include "help/window/TopicHtml.h"
 
+#include "help/window/HelpSitemap.h"
+
 #include <QTextFrame>
 #include <QUrl>
 #include <QVariant>
@@ -31,6 +33,11 @@ bool isDeeper(const QTextFrame& frame, int levels)
 qsizetype tagsOf(const QString& html)
 {
     return html.count(u'<');
+}
+
+QString topicText(const QByteArray& bytes)
+{
+    return htmlText(bytes).normalized(QString::NormalizationForm_C);
 }
 
 std::unique_ptr<QTextDocument> readTopic(const QString& html)

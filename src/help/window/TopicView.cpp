@@ -143,7 +143,7 @@ std::optional<QByteArray> TopicView::object(const QUrl& url, qint64 largest) con
 QString TopicView::page(const QUrl& url) const
 {
     const auto bytes = object(url, LargestTopic);
-    const QString html = bytes ? htmlText(*bytes) : QString();
+    const QString html = bytes ? topicText(*bytes) : QString();
     return bytes && readTopic(html) != nullptr
         ? html
         : messagePage(tr("This page cannot be shown"),
