@@ -2,8 +2,10 @@
 #include "help/window/HelpBook.h"
 #include "help/window/TopicView.h"
 #include "support/TestMain.h"
+#include "tests/help/HelpFileOf.h"
 #include "tests/help/RecordedHelpHost.h"
 
+#include <QLabel>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QTest>
@@ -21,9 +23,9 @@ private:
     int m_opened = 0;
     int m_shown = 0;
 
-    QString file(const QByteArray& bytes)
+    QString file(const QByteArray& bytes, const QString& name = QStringLiteral("damaged.chm"))
     {
-        QFile written(m_folder.filePath(QStringLiteral("damaged.chm")));
+        QFile written(m_folder.filePath(name));
         return written.open(QIODevice::WriteOnly) && written.write(bytes) == bytes.size() ? written.fileName()
                                                                                           : QString();
     }
@@ -254,6 +256,40 @@ private slots:
         window.setFile(path);
         window.showContext(2);
         QVERIFY(shownText(window).contains(QLatin1String("The page Settings")));
+    }
+
+    void contentsThatCannotBeReadAreToldAndTheTopicsStayReadable_data()
+    {
+        QTest::addColumn<QByteArray>("object");
+        for (const char* object : {"/toc.hhc", "/#IVB", "/#STRINGS", "/#SYSTEM"}) {
+            QTest::newRow(object) << QByteArray(object);
+        }
+    }
+
+    void contentsThatCannotBeReadAreToldAndTheTopicsStayReadable()
+    {
+        QFETCH(const QByteArray, object);
+        RecordedHelpHost host;
+        CompiledHelpWindow window(host, [] { return false; });
+        window.show();
+        const auto* told = window.findChild<QLabel*>(QStringLiteral("lblDamaged"));
+        // Behind the first object every offset in the directory takes three bytes.
+        QByteArray bytes =
+            helpFileOf({{"/filling", QByteArray(20000, ' ')}, {"/#IVB", helpContexts({{1, 1}})},
+                {"/#STRINGS", QByteArray("\0a.html\0", 8)}, {"/toc.hhc", "<UL></UL>"},
+                {"/#SYSTEM", helpSystem("a.html", "toc.hhc")}, {"/a.html", helpTopic("whole")}});
+        window.setFile(file(bytes));
+        window.showContents();
+        QVERIFY(!told->isVisible());
+        // A name, section 0, then the offset: it comes to lie far behind the end.
+        const qsizetype offset = bytes.indexOf(object + '\0') + object.size() + 1;
+        QVERIFY(offset > object.size() && bytes[offset] == '\x81');
+        bytes[offset] = '\xff';
+        window.setFile(file(bytes, QStringLiteral("other.chm")));
+        window.showDefaultTopic();
+        QVERIFY(told->isVisible());
+        QVERIFY(told->text().contains(QLatin1String("\"other.chm\" is damaged")));
+        QCOMPARE(shownText(window), QStringLiteral("whole"));
     }
 
     void aTopicThatIsDamagedIsToldAndTheRestStaysReadable()

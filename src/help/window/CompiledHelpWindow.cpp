@@ -9,6 +9,7 @@
 
 #include <QBoxLayout>
 #include <QFileInfo>
+#include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
 #include <QSplitter>
@@ -37,8 +38,8 @@ QString fileNameOf(QString title)
 } // namespace
 
 CompiledHelpWindow::CompiledHelpWindow(HelpHost& host, std::function<bool()> hasPrinter)
-    : m_host(host), m_hasPrinter(std::move(hasPrinter)), m_tabs(new QTabWidget), m_contents(new ContentsPane),
-      m_index(new IndexPane), m_search(new SearchPane), m_topic(new TopicView)
+    : m_host(host), m_hasPrinter(std::move(hasPrinter)), m_damaged(new QLabel), m_tabs(new QTabWidget),
+      m_contents(new ContentsPane), m_index(new IndexPane), m_search(new SearchPane), m_topic(new TopicView)
 {
     setObjectName(QStringLiteral("HelpWindow"));
     setWindowTitle(tr("Ambertask Help"));
@@ -103,7 +104,16 @@ QWidget* CompiledHelpWindow::makeTabs()
     m_tabs->addTab(m_contents, tr("&Contents"));
     m_tabs->addTab(m_index, tr("&Index"));
     m_tabs->addTab(m_search, tr("S&earch"));
-    return m_tabs;
+    m_damaged->setObjectName(QStringLiteral("lblDamaged"));
+    m_damaged->setTextFormat(Qt::PlainText);
+    m_damaged->setWordWrap(true);
+    m_damaged->hide();
+    auto* pane = new QWidget;
+    auto* layout = new QVBoxLayout(pane);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_damaged);
+    layout->addWidget(m_tabs, 1);
+    return pane;
 }
 
 void CompiledHelpWindow::connectPanes()
@@ -168,7 +178,9 @@ void CompiledHelpWindow::load()
     m_index->fill(m_book.get());
     m_search->fill(m_book.get());
     const bool readable = m_book != nullptr;
-    m_tabs->setVisible(readable);
+    m_tabs->parentWidget()->setVisible(readable);
+    m_damaged->setText(damagedText());
+    m_damaged->setVisible(readable && !m_book->isWhole());
     m_home->setEnabled(readable);
     m_print->setEnabled(readable);
     setWindowTitle(readable && !m_book->title().isEmpty() ? m_book->title() : tr("Ambertask Help"));
@@ -182,14 +194,19 @@ void CompiledHelpWindow::load()
 
 void CompiledHelpWindow::sayMissing()
 {
-    const QString name = QFileInfo(m_file).fileName();
     m_topic->showMessage(tr("The help cannot be shown"),
-        QFileInfo::exists(m_file) ? tr("The help file \"%1\" is damaged or cannot be read. Installing the "
-                                       "program again brings it back; your tasks are kept.")
-                                        .arg(name)
+        QFileInfo::exists(m_file) ? damagedText()
                                   : tr("The help file \"%1\" is not in the program's folder. Installing the "
                                        "program again brings it back; your tasks are kept.")
-                                        .arg(name));
+                                        .arg(QFileInfo(m_file).fileName()));
+}
+
+QString CompiledHelpWindow::damagedText() const
+{
+    return tr(
+        "The help file \"%1\" is damaged or cannot be read. Installing the program again brings it back; "
+        "your tasks are kept.")
+        .arg(QFileInfo(m_file).fileName());
 }
 
 void CompiledHelpWindow::openHome()

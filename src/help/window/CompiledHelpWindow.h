@@ -8,6 +8,7 @@
 class ContentsPane;
 class HelpBook;
 class IndexPane;
+class QLabel;
 class QPushButton;
 class QTabWidget;
 class SearchPane;
@@ -40,6 +41,7 @@ private:
     void openHome();
     void openFirstIfNone();
     void sayMissing();
+    QString damagedText() const;
     void setTextSize(int steps);
     void btnPrint_Click();
     void writeTopicPdf();
@@ -50,6 +52,7 @@ private:
     QString m_file;
     QDateTime m_written;
     std::unique_ptr<HelpBook> m_book;
+    QLabel* m_damaged;
     QTabWidget* m_tabs;
     ContentsPane* m_contents;
     IndexPane* m_index;

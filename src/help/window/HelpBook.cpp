@@ -40,12 +40,6 @@ bool isTopicName(const QString& name)
         || name.endsWith(QLatin1String(".htm"), Qt::CaseInsensitive);
 }
 
-std::vector<HelpEntry> readSitemap(const CompiledHelpFile& file, const QString& name)
-{
-    const auto bytes = file.read(objectPath(name), LargestTable);
-    return bytes ? parseSitemap(htmlText(*bytes)) : std::vector<HelpEntry>();
-}
-
 } // namespace
 
 QString objectPath(const QString& name)
@@ -68,8 +62,8 @@ HelpBook::HelpBook(std::unique_ptr<CompiledHelpFile> file) : m_file(std::move(fi
 {
     readSystem();
     readContexts();
-    m_contents = readSitemap(*m_file, m_contentsName);
-    m_index = readSitemap(*m_file, m_indexName);
+    m_contents = sitemap(m_contentsName);
+    m_index = sitemap(m_indexName);
     std::sort(m_index.begin(), m_index.end(), [](const HelpEntry& left, const HelpEntry& right) {
         return QString::localeAwareCompare(left.name, right.name) < 0;
     });
@@ -79,9 +73,24 @@ HelpBook::HelpBook(std::unique_ptr<CompiledHelpFile> file) : m_file(std::move(fi
     }
 }
 
+QByteArray HelpBook::table(const QString& name)
+{
+    const auto bytes = m_file->read(name, LargestTable);
+    m_isWhole = m_isWhole && (bytes || !m_file->contains(name));
+    return bytes.value_or(QByteArray());
+}
+
+std::vector<HelpEntry> HelpBook::sitemap(const QString& name)
+{
+    const QString object = objectPath(name);
+    // The file names it, so it has to be there.
+    m_isWhole = m_isWhole && (name.isEmpty() || m_file->contains(object));
+    return parseSitemap(htmlText(table(object)));
+}
+
 void HelpBook::readSystem()
 {
-    const QByteArray bytes = m_file->read(QStringLiteral("/#SYSTEM"), LargestTable).value_or(QByteArray());
+    const QByteArray bytes = table(QStringLiteral("/#SYSTEM"));
     constexpr qsizetype VersionSize = 4;
     constexpr qsizetype EntryHeaderSize = 4;
     qsizetype position = VersionSize;
@@ -111,8 +120,8 @@ void HelpBook::readSystem()
 
 void HelpBook::readContexts()
 {
-    const QByteArray map = m_file->read(QStringLiteral("/#IVB"), LargestTable).value_or(QByteArray());
-    const QByteArray strings = m_file->read(QStringLiteral("/#STRINGS"), LargestTable).value_or(QByteArray());
+    const QByteArray map = table(QStringLiteral("/#IVB"));
+    const QByteArray strings = table(QStringLiteral("/#STRINGS"));
     constexpr qsizetype LengthSize = 4;
     for (qsizetype entry = LengthSize; entry + ContextSize <= map.size(); entry += ContextSize) {
         const auto context = qFromLittleEndian<qint32>(map.constData() + entry);

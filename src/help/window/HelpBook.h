@@ -30,6 +30,8 @@ public:
     /// The topic of a context number; nothing when the file does not know the number.
     std::optional<QString> topicOf(qint32 context) const;
     const QMap<qint32, QString>& contexts() const { return m_contexts; }
+    /// Whether contents, index and context numbers could be read, as far as the file says that it has them.
+    bool isWhole() const { return m_isWhole; }
     /// The names of all topics.
     QStringList topics() const;
     const CompiledHelpFile& file() const { return *m_file; }
@@ -49,6 +51,9 @@ private:
     explicit HelpBook(std::unique_ptr<CompiledHelpFile> file);
     void readSystem();
     void readContexts();
+    /// Empty, and the book not whole, when it cannot be read.
+    QByteArray table(const QString& name);
+    std::vector<HelpEntry> sitemap(const QString& name);
     const std::vector<TopicText>& texts() const;
 
     std::unique_ptr<CompiledHelpFile> m_file;
@@ -59,6 +64,7 @@ private:
     std::vector<HelpEntry> m_contents;
     std::vector<HelpEntry> m_index;
     QMap<qint32, QString> m_contexts;
+    bool m_isWhole = true;
     /// Made by the first search.
     mutable std::optional<std::vector<TopicText>> m_texts;
 };
