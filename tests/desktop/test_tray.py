@@ -105,10 +105,11 @@ class TrayIconTest(TrayCase):
         self.assertEqual([start[1:] for start in self.desk.starts_recorded(self.desk.opened)],
                          [[names.VENDOR + "/support.htm?referer=p"]])
 
-    def test_help_opens_a_window(self):
-        before = set(self.desk.screen.clients())
+    def test_help_opens_at_its_first_topic(self):
         self.user.choose_tray_entry("Help")
-        wait_until(lambda: set(self.desk.screen.clients()) - before, "the help window is shown")
+        self.user.window("Ambertask Help")
+        topic = self.user.access.window("Ambertask Help").find("label", "Topic")
+        wait_until(lambda: topic.text.startswith("Welcome to Ambertask"), "the first topic is shown")
 
     def test_exit_ends_with_status_0_and_takes_the_icon_away(self):
         self.assertEqual(self.user.exit(), 0)
