@@ -115,6 +115,25 @@ private slots:
                 QStringLiteral("insert settings"), QStringLiteral("select tasks")}));
     }
 
+    void aReloadThatFailsEndsTheRestoreWithoutAWord()
+    {
+        RestoringProgram f;
+        f.start();
+        f.program.loadDialogs();
+        f.database.statements().take();
+        f.database.statements().failAt(QStringLiteral("from categories"));
+        f.restore(f.backup());
+        f.database.statements().failAt({});
+        const QStringList statements = f.database.statements().take();
+        QVERIFY(!statements.isEmpty() && statements.last().contains(QLatin1String("from categories")));
+        QVERIFY(f.program.alerts().findChild<QTimer*>(QStringLiteral("tmrTasksChecker"))->isActive());
+        QCOMPARE(f.names(), QStringList(QStringLiteral("of the backup")));
+        // The next one finds everything as usual.
+        f.restore(f.backup());
+        QVERIFY(
+            f.entriesOf(*f.control<QComboBox>(f.main(), "cmbCategories")).contains(QStringLiteral("Garden")));
+    }
+
     void theTaskOfAnOpenDialogIsStoredAsANewOne()
     {
         RestoringProgram f;

@@ -1,5 +1,7 @@
 #include "support/RecordedStatements.h"
 
+#include "platform/RuntimeError.h"
+
 #include <utility>
 
 void RecordedStatements::connectionOpened(const QString& connectionString)
@@ -11,6 +13,9 @@ void RecordedStatements::connectionOpened(const QString& connectionString)
 void RecordedStatements::statementExecuted(QStringView statement)
 {
     m_statements.append(statement.toString());
+    if (!m_failing.isEmpty() && statement.contains(m_failing)) {
+        throw RuntimeError(QStringLiteral("a statement about %1 fails").arg(m_failing));
+    }
 }
 
 void RecordedStatements::connectionClosed()

@@ -14,6 +14,8 @@ public:
 
     /// The statements since the last call, in the program's own words.
     QStringList take();
+    /// Statements that contain `part` fail with a RuntimeError from now on; none when it is empty.
+    void failAt(const QString& part) { m_failing = part; }
     int opened() const { return m_opened; }
     int closed() const { return m_closed; }
     QString lastConnectionString() const { return m_connectionString; }
@@ -21,6 +23,7 @@ public:
 private:
     QStringList m_statements;
     QString m_connectionString;
+    QString m_failing;
     int m_opened = 0;
     int m_closed = 0;
 };
