@@ -167,7 +167,7 @@ QImage TopicView::picture(const QUrl& url)
 
 QString TopicView::styleSheet(const QUrl& url)
 {
-    const QString sheet = htmlText(object(url, m_styleLeft).value_or(QByteArray()));
+    QString sheet = htmlText(object(url, m_styleLeft).value_or(QByteArray()));
     m_styleLeft -= sheet.size();
     return sheet;
 }
