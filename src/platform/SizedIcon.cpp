@@ -13,18 +13,18 @@ namespace
 
 QPixmap readPixels(const SizedPicture& picture)
 {
-    constexpr int bytesAPixel = 4;
+    constexpr qsizetype bytesAPixel = 4;
     const QSize size = picture.size;
     QFile file(picture.file);
     if (!file.open(QIODevice::ReadOnly)) {
         return {};
     }
     const QByteArray bytes = file.readAll();
-    if (bytes.size() != qsizetype(size.width()) * size.height() * bytesAPixel) {
+    if (bytes.size() != bytesAPixel * size.width() * size.height()) {
         return {};
     }
     const QImage pixels(reinterpret_cast<const uchar*>(bytes.constData()), size.width(), size.height(),
-        size.width() * bytesAPixel, QImage::Format_RGBA8888_Premultiplied);
+        bytesAPixel * size.width(), QImage::Format_RGBA8888_Premultiplied);
     return QPixmap::fromImage(pixels.convertToFormat(QImage::Format_ARGB32_Premultiplied));
 }
 
