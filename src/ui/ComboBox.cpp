@@ -82,7 +82,8 @@ void ComboBox::changeEvent(QEvent* event)
     // The toolkit would make the list that opens, to style it. Nobody can open it before it has been painted.
     if (event->type() == QEvent::StyleChange && !m_painted) {
         m_owesStyle = true;
-        QWidget::changeEvent(event);
+        update();
+        updateGeometry();
         return;
     }
     QComboBox::changeEvent(event);
