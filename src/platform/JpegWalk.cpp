@@ -4,6 +4,8 @@ namespace
 {
 
 constexpr int MarkerBegin = 0xFF;
+constexpr int Baseline = 0xC0;
+constexpr int Sequential = 0xC1;
 constexpr int StartOfScan = 0xDA;
 constexpr int EndOfPicture = 0xD9;
 constexpr int FirstRestart = 0xD0;
@@ -21,6 +23,7 @@ bool standsAlone(int marker)
 
 JpegWalk::JpegWalk(QByteArrayView bytes) : m_bytes(bytes)
 {
+    int colours = PastEnd; ///< of a frame whose scans go from top to bottom
     while (at(m_position) == MarkerBegin) {
         const int marker = at(++m_position);
         if (marker == MarkerBegin) {
@@ -37,11 +40,17 @@ JpegWalk::JpegWalk(QByteArrayView bytes) : m_bytes(bytes)
         const int high = at(m_position);
         const int low = at(m_position + 1);
         constexpr int ownLength = 2;
+        const qsizetype content = m_position + ownLength;
+        if (marker == Baseline || marker == Sequential) {
+            constexpr qsizetype precisionAndSize = 5;
+            colours = at(content + precisionAndSize);
+        }
         if (low == PastEnd || high * 256 + low < ownLength) {
             return;
         }
         m_position += high * 256 + low;
         if (marker == StartOfScan) {
+            m_isReadLineByLine = m_isReadLineByLine || (m_scans == 0 && at(content) == colours);
             ++m_scans;
             skipScan();
         }

@@ -14,6 +14,9 @@ public:
     bool isComplete() const { return m_hasEnd && m_scans > 0; }
     /// Scans up to the end of the picture, or of the file.
     int scans() const { return m_scans; }
+    /// Whether the first scan holds all colours, from top to bottom. Of any other picture the decoder keeps
+    /// the whole in memory until the last scan.
+    bool isReadLineByLine() const { return m_isReadLineByLine; }
 
 private:
     int at(qsizetype position) const;
@@ -24,4 +27,5 @@ private:
     qsizetype m_position = 0;
     int m_scans = 0;
     bool m_hasEnd = false;
+    bool m_isReadLineByLine = false;
 };

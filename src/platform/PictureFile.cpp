@@ -102,41 +102,9 @@ private:
     qsizetype m_position = 0;
 };
 
-/// Whether a JPEG holds one scan, from top to bottom, of all its colours. Of any other the decoder keeps the
-/// whole in memory until the last scan.
-bool isReadLineByLine(QByteArrayView bytes)
-{
-    constexpr int Fill = 0xFF;
-    constexpr int Baseline = 0xC0;
-    constexpr int Sequential = 0xC1;
-    constexpr int Scan = 0xDA;
-    constexpr qsizetype PrecisionAndSize = 5;
-    const auto at = [bytes](qsizetype position) {
-        return position < bytes.size() ? static_cast<unsigned char>(bytes[position]) : 0;
-    };
-    int colours = -1;
-    qsizetype position = 2;
-    while (at(position) == Fill) {
-        const int marker = at(position + 1);
-        if (marker == Fill) {
-            ++position;
-            continue;
-        }
-        const qsizetype length = position + 2;
-        const qsizetype content = length + 2;
-        if (marker == Baseline || marker == Sequential) {
-            colours = at(content + PrecisionAndSize);
-        } else if (marker == Scan) {
-            return at(content) == colours;
-        }
-        position = length + (at(length) << 8) + at(length + 1);
-    }
-    return false;
-}
-
 int maximumEdge(const QByteArray& bytes, const QByteArray& format)
 {
-    return format == "jpeg" && isReadLineByLine(bytes) ? MaximumPhotographEdge : MaximumEdge;
+    return format == "jpeg" && JpegWalk(bytes).isReadLineByLine() ? MaximumPhotographEdge : MaximumEdge;
 }
 
 /// The size that a GIF announces for the whole of its pictures. The decoder answers none for one that it
