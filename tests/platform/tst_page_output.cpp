@@ -1,6 +1,7 @@
 #include "platform/Progress.h"
 #include "platform/printing/PageOutput.h"
 #include "support/FullDisk.h"
+#include "support/OrdinaryUser.h"
 #include "support/PdfFile.h"
 #include "support/TestMain.h"
 
@@ -120,6 +121,26 @@ private slots:
         QVERIFY(QFile::setPermissions(f.file, Mode));
         QVERIFY(!writePdf(f.target(), f.pages, {2}));
         QCOMPARE(QFile::permissions(f.file), Mode);
+    }
+
+    void aWriteProtectedFileStaysAsItIs()
+    {
+        const Fixture f;
+        const QString folder = QFileInfo(f.file).absolutePath();
+        QVERIFY(QFile::setPermissions(folder, QFileDevice::Permissions(0x7777)));
+        QFile old(f.file);
+        QVERIFY(old.open(QIODevice::WriteOnly) && old.write("old") == 3);
+        old.close();
+        const auto isRefused = [&f] {
+            return writePdf(f.target(), f.pages, {1}).has_value();
+        };
+        QVERIFY(old.setPermissions(QFileDevice::Permissions(0x4444)));
+        QCOMPARE(asAnOrdinaryUser(isRefused), 0);
+        QVERIFY(old.open(QIODevice::ReadOnly));
+        QCOMPARE(old.readAll(), QByteArray("old"));
+        // In the same folder, for the same user.
+        QVERIFY(old.setPermissions(QFileDevice::Permissions(0x6666)));
+        QCOMPARE(asAnOrdinaryUser(isRefused), 1);
     }
 
     void aFullDiskIsAFailureAndLeavesNoHalfFile()

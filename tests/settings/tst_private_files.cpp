@@ -1,17 +1,14 @@
 #include "data/ClsDatabase.h"
 #include "settings/DataFileCopies.h"
 #include "settings/MaintenancePageUnderTest.h"
+#include "support/OrdinaryUser.h"
 #include "support/TestMain.h"
 
-#include <grp.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace
 {
-
-constexpr uid_t Nobody = 65534;
 
 int modeOf(const QString& path)
 {
@@ -23,20 +20,6 @@ int modeOf(const QString& path)
 void setMode(const QString& path, int mode)
 {
     QCOMPARE(chmod(QFile::encodeName(path).constData(), static_cast<mode_t>(mode)), 0);
-}
-
-/// The exit status of `action` in a process whose user is not the owner of all files; a superuser becomes
-/// somebody else for it.
-int asAnOrdinaryUser(const std::function<bool()>& action)
-{
-    const pid_t process = fork();
-    if (process == 0) {
-        const bool isOrdinary =
-            geteuid() != 0 || (setgroups(0, nullptr) == 0 && setgid(Nobody) == 0 && setuid(Nobody) == 0);
-        _exit(!isOrdinary ? 2 : action() ? 0 : 1);
-    }
-    int status = -1;
-    return waitpid(process, &status, 0) == process && WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
 } // namespace

@@ -10,6 +10,7 @@
 #include <QPdfWriter>
 #include <QPrinter>
 #include <algorithm>
+#include <cerrno>
 #include <numeric>
 
 namespace
@@ -98,6 +99,10 @@ std::optional<QString> writePdf(
     const PdfTarget& target, const PrintedPages& pages, const std::vector<int>& order, Progress* progress)
 {
     const QFileInfo present(target.file);
+    if (present.isFile() && !present.isWritable()) {
+        // It could be replaced all the same, but whoever protected it did not mean that.
+        return qt_error_string(EACCES);
+    }
     const auto permissions = present.isFile() ? present.permissions() : PublicFile;
     try {
         replaceByWriting(target.file, permissions, [&](QIODevice& file) {
