@@ -28,6 +28,25 @@ QPixmap readPixels(const SizedPicture& picture)
     return QPixmap::fromImage(pixels.convertToFormat(QImage::Format_ARGB32_Premultiplied));
 }
 
+/// What was read, and the last that was scaled down from it. The toolkit would keep both in its cache, whose
+/// clean-up wakes the program half a minute later.
+struct Picture {
+    QPixmap pixels;
+    QPixmap scaled;
+
+    QPixmap inSize(const QSize& size)
+    {
+        if (pixels.width() <= size.width() && pixels.height() <= size.height()) {
+            return pixels;
+        }
+        const QSize fitting = pixels.size().scaled(size, Qt::KeepAspectRatio);
+        if (scaled.size() != fitting) {
+            scaled = pixels.scaled(fitting, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        }
+        return scaled;
+    }
+};
+
 class SizedIconEngine final : public QIconEngine
 {
 public:
@@ -45,7 +64,9 @@ public:
     }
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
     {
-        return fitting(size).pixmap(size, 1, mode, state);
+        Picture& picture = fitting(size);
+        return mode == QIcon::Normal ? picture.inSize(size)
+                                     : QIcon(picture.pixels).pixmap(size, 1, mode, state);
     }
     QSize actualSize(const QSize& size, QIcon::Mode /*mode*/, QIcon::State /*state*/) override
     {
@@ -66,22 +87,22 @@ public:
 private:
     struct Shared {
         QList<SizedPicture> pictures;
-        std::vector<QIcon> read;
+        std::vector<Picture> read;
     };
 
     /// The smallest picture that need not be enlarged, else the largest one.
-    const QIcon& fitting(const QSize& size) const
+    Picture& fitting(const QSize& size) const
     {
         const auto found = std::find_if(
             m_shared->pictures.cbegin(), m_shared->pictures.cend(), [&size](const SizedPicture& picture) {
                 return picture.size.width() >= size.width() || picture.size.height() >= size.height();
             });
         const auto index = std::min(found - m_shared->pictures.cbegin(), m_shared->pictures.size() - 1);
-        QIcon& icon = m_shared->read[static_cast<std::size_t>(index)];
-        if (icon.isNull()) {
-            icon.addPixmap(readPixels(m_shared->pictures[index]));
+        Picture& picture = m_shared->read[static_cast<std::size_t>(index)];
+        if (picture.pixels.isNull()) {
+            picture.pixels = readPixels(m_shared->pictures[index]);
         }
-        return icon;
+        return picture;
     }
 
     // Copies of an icon share what has been read.

@@ -1,6 +1,7 @@
 #include "ProgramFixture.h"
 #include "app/FixedPictures.h"
 #include "platform/ImageList.h"
+#include "support/FullPixmapCache.h"
 #include "support/TestMain.h"
 
 #include <QFile>
@@ -67,6 +68,16 @@ private slots:
         f.program.start([] { return false; });
         QTRY_VERIFY(f.control<QPushButton>(f.main(), "btnSave") != nullptr);
         QVERIFY(!f.main().isShown());
+    }
+
+    void aHiddenStartLeavesNothingThatTheToolkitWouldCleanUpLater()
+    {
+        FullPixmapCache cache;
+        ProgramFixture f;
+        f.setting(QStringLiteral("minimize_on_start"), 1);
+        f.program.start([] { return false; });
+        QTRY_VERIFY(f.control<QPushButton>(f.main(), "btnSave") != nullptr);
+        QVERIFY(cache.isUntouched());
     }
 
     void aPageThatIsSwitchedToBeforeThatIsThere()

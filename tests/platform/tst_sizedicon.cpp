@@ -1,4 +1,5 @@
 #include "platform/SizedIcon.h"
+#include "support/FullPixmapCache.h"
 #include "support/TestMain.h"
 
 #include <QFile>
@@ -19,6 +20,7 @@ private slots:
     void noFileIsReadBeforeItsSizeIsPainted();
     void aFileThatWasReadOnceIsNotReadAgain();
     void theSizesAreKnownWithoutReading();
+    void whatIsPaintedLeavesTheCacheOfTheToolkitAlone();
     void aDisabledPictureIsGrey();
     void aWidePictureKeepsItsShape();
     void aFileOfAnotherLengthIsNoPicture();
@@ -96,6 +98,18 @@ void SizedIconTest::theSizesAreKnownWithoutReading()
     m_folder.reset();
     QCOMPARE(icon.availableSizes(), QList<QSize>({QSize(16, 16), QSize(32, 32)}));
     QVERIFY(!icon.isNull());
+}
+
+// The toolkit sets a timer to clean its cache up, which wakes a program that is at rest.
+void SizedIconTest::whatIsPaintedLeavesTheCacheOfTheToolkitAlone()
+{
+    FullPixmapCache cache;
+    const QIcon icon = this->icon();
+    QCOMPARE(icon.pixmap(QSize(16, 16)).size(), QSize(16, 16));
+    QCOMPARE(icon.pixmap(QSize(20, 20)).size(), QSize(20, 20));
+    QVERIFY(cache.isUntouched());
+    icon.pixmap(QSize(20, 20), QIcon::Disabled);
+    QVERIFY(!cache.isUntouched());
 }
 
 void SizedIconTest::aDisabledPictureIsGrey()
