@@ -1,5 +1,6 @@
 #include "platform/GridView.h"
 
+#include "platform/AccessibleGrid.h"
 #include "platform/FittingHeader.h"
 #include "platform/GridModel.h"
 #include "platform/LetterScale.h"
@@ -31,6 +32,11 @@ bool movesUpOrDown(const QKeyEvent& event)
         || event.key() == Qt::Key_PageDown;
 }
 
+QModelIndex firstOf(const QItemSelection& selection)
+{
+    return selection.isEmpty() ? QModelIndex() : QModelIndex(selection.first().topLeft());
+}
+
 /// Writes each text in its own direction.
 class CellDelegate final : public QStyledItemDelegate
 {
@@ -47,6 +53,7 @@ public:
 
 GridView::GridView(QWidget* parent) : QTableView(parent)
 {
+    AccessibleGrid::install();
     setHorizontalHeader(new FittingHeader(this));
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setSelectionMode(QAbstractItemView::SingleSelection);
@@ -124,6 +131,24 @@ void GridView::followLetters()
     verticalHeader()->setMinimumSectionSize(icon);
     verticalHeader()->setDefaultSectionSize(qMax(icon, fontMetrics().height()) + RowPadding);
 }
+
+// Both pass over QTableView, which tells of cells by numbers that count the hidden columns.
+// NOLINTBEGIN(bugprone-parent-virtual-call)
+void GridView::currentChanged(const QModelIndex& current, const QModelIndex& previous)
+{
+    if (hasFocus()) {
+        AccessibleGrid::announce(*this, QAccessible::Focus, current);
+    }
+    QAbstractItemView::currentChanged(current, previous);
+}
+
+void GridView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)
+{
+    AccessibleGrid::announce(*this, QAccessible::SelectionAdd, firstOf(selected));
+    AccessibleGrid::announce(*this, QAccessible::SelectionRemove, firstOf(deselected));
+    QAbstractItemView::selectionChanged(selected, deselected);
+}
+// NOLINTEND(bugprone-parent-virtual-call)
 
 void GridView::keyPressEvent(QKeyEvent* event)
 {

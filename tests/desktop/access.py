@@ -158,6 +158,11 @@ class Node:
         owner, path = self.call(TABLE, "GetAccessibleAt", GLib.Variant("(ii)", (row, column)))[0]
         return Node(self._bus, owner, path)
 
+    def place_in_table(self, cell):
+        """Row and column of a cell, by the number that it has among all that the table holds."""
+        number = GLib.Variant("(i)", (cell.call(ACCESSIBLE, "GetIndexInParent")[0],))
+        return self.call(TABLE, "GetRowAtIndex", number)[0], self.call(TABLE, "GetColumnAtIndex", number)[0]
+
     def row_texts(self, row):
         return [self.cell(row, column).name for column in range(self.columns())]
 
@@ -227,10 +232,12 @@ class Access:
         self.pid = pid
         self._connection = connect_bus(address)
         self._shown = []
+        self._told = []
         self._connection.signal_subscribe(None, "org.a11y.atspi.Event.Object", "StateChanged", None, None,
                                           Gio.DBusSignalFlags.NONE, self._state_changed)
         # The tool kit sends no event that nobody has asked the registry for.
-        wait_until(self._ask_for_events, "the accessibility registry answers")
+        for kind in ("showing", "focused", "selected"):
+            wait_until(lambda kind=kind: self._ask_for_events(kind), "the accessibility registry answers")
 
     def close(self):
         self._connection.close_sync(None)
@@ -239,10 +246,10 @@ class Access:
         return self._connection.call_sync(owner, path, interface, method, arguments, None, Gio.DBusCallFlags.NONE,
                                           10000, None).unpack()
 
-    def _ask_for_events(self):
+    def _ask_for_events(self, kind):
         try:
             self.call(REGISTRY[0], "/org/a11y/atspi/registry", "org.a11y.atspi.Registry", "RegisterEvent",
-                      GLib.Variant("(sass)", ("object:state-changed:showing", [], "")))
+                      GLib.Variant("(sass)", (f"object:state-changed:{kind}", [], "")))
             return True
         except GLib.Error:
             return False
@@ -251,6 +258,12 @@ class Access:
         kind, shown = arguments.unpack()[:2]
         if kind == "showing" and shown:
             self._shown.append(Node(self, sender, path))
+        self._told.append((kind, bool(shown), Node(self, sender, path)))
+
+    def told(self, kind, on=True):
+        """The objects of which the program has told that their state of that kind is on or off now, in turn."""
+        pump()
+        return [node for told_kind, told_on, node in self._told if (told_kind, told_on) == (kind, on)]
 
     def _pid_of(self, owner):
         return self.call("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",

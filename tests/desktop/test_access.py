@@ -17,9 +17,13 @@ class AccessCase(DesktopCase):
         self.store.set(always_on_top=0, minimize_on_start=0, show_today_tasks=0)
         for act in ("move", "press", "release", "click", "hover", "double_click", "key", "type"):
             setattr(self.desk.input, act, self.refuse_hands)
+        self.fill()
         self.clock = self.desk.clock(NOW)
         self.user = self.start(self.clock)
         self.user.wait_loaded()
+
+    def fill(self):
+        """Puts into the data file what a test starts with."""
 
     @staticmethod
     def refuse_hands(*_, **__):
@@ -176,6 +180,31 @@ class ScreenReaderTest(AccessCase):
         self.assertEqual(self.user.main().role, "frame")
         self.user.main().find(*names.ADD).press()
         self.assertEqual(self.user.access.window(names.TASK_DIALOG).role, "dialog")
+
+
+class GridTest(AccessCase):
+    def fill(self):
+        for name in ("Water the plants", "Pay the gardener"):
+            self.store.add_task(name, due=datetime(2026, 4, 1, 9, 0))
+
+    def test_the_grid_tells_of_what_it_shows_and_of_nothing_else(self):
+        grid = self.user.grid()
+        self.user.wait_rows(["Water the plants", "Pay the gardener"])
+        self.assertEqual(grid.headers(), ["Name", "Status", "Due Date", "periority", "reminder"])
+        first, second = grid.row_texts(0), grid.row_texts(1)
+        self.assertEqual(first[:2], ["Water the plants", "Not Started"])
+        self.assertEqual([node.name for node in grid.children()], grid.headers() + first + second)
+        self.assertEqual([grid.place_in_table(node) for node in grid.children()[5:]],
+                         [(row, column) for row in range(2) for column in range(5)])
+
+        self.assertTrue(grid.grab_focus())
+        wait_until(lambda: grid.has("focused"), "the grid has the focus")
+        cell = self.select("Pay the gardener")
+        wait_until(lambda: self.user.access.told("focused")[-1:] == [cell], "the focus is told to be in the cell")
+        self.assertEqual(self.user.access.told("selected")[-1], cell)
+        other = self.select("Water the plants")
+        wait_until(lambda: self.user.access.told("selected")[-1:] == [other], "the other is told to be selected")
+        wait_until(lambda: self.user.access.told("selected", on=False)[-1:] == [cell], "and the first no longer")
 
 
 if __name__ == "__main__":

@@ -54,7 +54,7 @@ class LanguagesTest(DesktopCase):
         self.assertEqual([entry.name for entry in menu.children()],
                          [self.words("frmMain", entry) for entry in ["Hide", "About", "Help", "Send feedback", "Exit"]])
         self.desk.input.key("Escape")
-        self.user.desk.input.click(*self.user.place_of(self.user.grid().cell(0, 1)))
+        self.user.desk.input.click(*self.user.place_of(self.user.grid().cell(0, 0)))
         self.press("TasksPage", "&Delete")
         box = self.user.access.message_box(self.words("TasksPage", "Are you sure you want to delete this task?"),
                                            names.MAIN)

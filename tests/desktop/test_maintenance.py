@@ -210,7 +210,7 @@ class RestoreTest(MaintenanceCase):
         wait_until(lambda: self.store.settings() == expected, "the page is written into the restored file")
         self.assertEqual(len(self.store.execute("select * from settings")), 1)
         self.wait_list(ALL)
-        self.assertEqual(self.user.grid().headers(), ["id", "Name", "Due Date", "periority"])
+        self.assertEqual(self.user.grid().headers(), ["Name", "Due Date", "periority"])
         self.user.open_page("Settings")
         self.assertEqual(main_window.find(*names.SKIN).name, "Lemon")
         self.assertFalse(main_window.find(*names.STATUS_COLUMN).checked)

@@ -9,7 +9,7 @@ from case import DesktopCase, main
 from desktop import PROGRAM_NAME
 from polling import wait_rest, wait_until
 
-COLUMNS = ["id", "Name", "Status", "Due Date", "periority", "reminder"]
+COLUMNS = ["Name", "Status", "Due Date", "periority", "reminder"]
 TASKS = ["Alpha", "Beta", "Gamma"]
 AQUA = (0xEA, 0xF3, 0xF5)
 MIDNIGHT = (0x17, 0x1B, 0x24)
@@ -76,11 +76,11 @@ class SavingTest(SettingsCase):
         self.user.check(main_window, names.REMINDER_COLUMN, False)
         self.assertEqual(self.headers(), COLUMNS, "nothing happens before Save")
         self.save()
-        wait_until(lambda: self.headers() == ["id", "Name", "Due Date", "periority"], "two columns are gone")
+        wait_until(lambda: self.headers() == ["Name", "Due Date", "periority"], "two columns are gone")
         self.user.check(main_window, names.PRIORITY_COLUMN, False)
         self.user.check(main_window, names.DUE_DATE_COLUMN, False)
         self.save()
-        wait_until(lambda: self.headers() == ["id", "Name"], "the name is left")
+        wait_until(lambda: self.headers() == ["Name"], "the name is left")
         self.user.open_page("Tasks")
         self.user.wait_rows(TASKS)
         self.open_settings()
@@ -103,7 +103,7 @@ class SavingTest(SettingsCase):
         self.user.wait_rows(TASKS)
         grid = self.user.grid()
         # The first row may wear the frame of the focus.
-        upper, lower = grid.cell(1, 1).place(), grid.cell(2, 1).place()
+        upper, lower = grid.cell(1, 0).place(), grid.cell(2, 0).place()
         # Right of the text: one column of points from one row into the next.
         right = upper[0] + upper[2] - 12
 

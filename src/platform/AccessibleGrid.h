@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QAccessibleWidget>
+#include <QHash>
+#include <QPersistentModelIndex>
+#include <vector>
+
+class GridView;
+
+/// A grid for assistive technology: its visible columns, each with its caption, and its rows. The toolkit's
+/// own tables count hidden columns and headers too. Children are the captions, then the cells row by row;
+/// columns are counted from 0 among the visible ones. Owns the cells and captions it has given out.
+class AccessibleGrid final : public QAccessibleWidget, public QAccessibleTableInterface
+{
+public:
+    /// From then on grids are seen so. More calls do nothing.
+    static void install();
+    /// Tells of an event at the cell of `index`, a hidden one for the first that is shown; nothing when
+    /// nobody listens or `index` is invalid.
+    static void announce(GridView& grid, QAccessible::Event event, const QModelIndex& index);
+
+    explicit AccessibleGrid(GridView& grid);
+    AccessibleGrid(const AccessibleGrid&) = delete;
+    AccessibleGrid& operator=(const AccessibleGrid&) = delete;
+    ~AccessibleGrid() override;
+
+    void* interface_cast(QAccessible::InterfaceType type) override;
+    int childCount() const override;
+    /// nullptr when there is no such child.
+    QAccessibleInterface* child(int index) const override;
+    int indexOfChild(const QAccessibleInterface* child) const override;
+    QAccessibleInterface* childAt(int x, int y) const override;
+    QAccessibleInterface* focusChild() const override;
+
+    QAccessibleInterface* caption() const override { return nullptr; }
+    QAccessibleInterface* summary() const override { return nullptr; }
+    /// nullptr when there is no such cell.
+    QAccessibleInterface* cellAt(int row, int column) const override;
+    int selectedCellCount() const override;
+    QList<QAccessibleInterface*> selectedCells() const override;
+    QString columnDescription(int column) const override;
+    QString rowDescription(int /*row*/) const override { return {}; }
+    int selectedColumnCount() const override { return 0; }
+    int selectedRowCount() const override;
+    int columnCount() const override;
+    int rowCount() const override;
+    QList<int> selectedColumns() const override { return {}; }
+    QList<int> selectedRows() const override;
+    bool isColumnSelected(int /*column*/) const override { return false; }
+    bool isRowSelected(int row) const override;
+    bool selectRow(int row) override;
+    bool selectColumn(int /*column*/) override { return false; }
+    /// A selected row stays so until another one is: as with the mouse.
+    bool unselectRow(int /*row*/) override { return false; }
+    bool unselectColumn(int /*column*/) override { return false; }
+    void modelChange(QAccessibleTableModelChangeEvent* event) override;
+
+    /// The place of a section among the visible ones, -1 for a hidden one.
+    int columnOf(int section) const;
+    /// The cell of `index`, a hidden one for the first that is shown; nullptr for an invalid index.
+    QAccessibleInterface* cellOf(const QModelIndex& index) const;
+    QAccessibleInterface* captionOf(int section) const;
+
+private:
+    /// The sections of the header that are shown.
+    std::vector<int> sections() const;
+
+    GridView& m_grid;
+    mutable QHash<QPersistentModelIndex, QAccessible::Id> m_cells;
+    mutable QHash<int, QAccessible::Id> m_captions; ///< by section
+};
