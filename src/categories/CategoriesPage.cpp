@@ -1,7 +1,6 @@
 #include "categories/CategoriesPage.h"
 
 #include "categories/CategoryList.h"
-#include "categories/CustomIcons.h"
 #include "categories/StandInPicture.h"
 #include "categories/frmCategoryDetails.h"
 #include "data/ClsCategory.h"
@@ -37,8 +36,9 @@ int idOf(const QListWidgetItem& item)
 CategoriesPage::CategoriesPage(
     const FormServices& services, std::function<frmCategoryDetails&()> categoryDetails, QWidget* parent)
     : QWidget(parent), m_services(services), m_categoryDetails(std::move(categoryDetails)),
-      m_list(new CategoryList), m_add(makeButton("btnAddCat", tr("&Add"))),
-      m_edit(makeButton("btnEditCat", tr("&Edit"))), m_delete(makeButton("btnDeleteCat", tr("&Delete"))),
+      m_customIcons(services.engine.programFolder), m_list(new CategoryList),
+      m_add(makeButton("btnAddCat", tr("&Add"))), m_edit(makeButton("btnEditCat", tr("&Edit"))),
+      m_delete(makeButton("btnDeleteCat", tr("&Delete"))),
       m_help(makeButton("btnHelpCategories", tr("&Help")))
 {
     m_list->setObjectName(QStringLiteral("lstViewCategories"));
@@ -108,7 +108,7 @@ void CategoriesPage::LoadCategories()
 QIcon CategoriesPage::customPicture(const ClsCategory& category)
 {
     try {
-        return CustomIcons(m_services.engine.programFolder).load(category.CustomIconName());
+        return m_customIcons.load(category.CustomIconName());
     } catch (const RuntimeError& error) {
         note(category.CustomIconName(), error.text());
         return standInPicture();

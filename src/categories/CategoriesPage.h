@@ -1,5 +1,6 @@
 #pragma once
 
+#include "categories/CustomIcons.h"
 #include "ui/FormServices.h"
 
 #include <QSet>
@@ -65,6 +66,7 @@ private:
 
     const FormServices& m_services;
     std::function<frmCategoryDetails&()> m_categoryDetails;
+    CustomIcons m_customIcons;
     CategoryList* m_list;
     QPushButton* m_add;
     QPushButton* m_edit;

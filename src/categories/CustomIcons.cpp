@@ -4,6 +4,7 @@
 #include "platform/PictureFile.h"
 #include "platform/RuntimeError.h"
 
+#include <QFileInfo>
 #include <QPixmap>
 #include <algorithm>
 
@@ -12,6 +13,9 @@ namespace
 
 /// Enough for the list's pictures on a screen with three device pixels to each of ours.
 constexpr int PictureEdge = 96;
+constexpr qsizetype BytesAPixel = 4;
+/// Some hundred pictures.
+constexpr qsizetype MostBytes = qsizetype{16} * 1024 * 1024;
 
 bool isPlainFileName(const QString& name)
 {
@@ -23,14 +27,32 @@ bool isPlainFileName(const QString& name)
 
 } // namespace
 
+CustomIcons::Stamp::Stamp(const QString& path)
+{
+    const QFileInfo file(path);
+    size = file.size();
+    modified = file.lastModified();
+    changed = file.metadataChangeTime();
+}
+
 CustomIcons::CustomIcons(const QString& programFolder)
-    : m_folder(programFolder + QLatin1String("/custom icons"))
+    : m_folder(programFolder + QLatin1String("/custom icons")), m_decoded(MostBytes)
 {
 }
 
 QIcon CustomIcons::load(const QString& name) const
 {
-    return loadFile(pathOf(name));
+    const QString path = pathOf(name);
+    // Before it is read: a change in between is found at the next call.
+    const Stamp stamp(path);
+    if (const Decoded* decoded = m_decoded.object(path); decoded != nullptr && decoded->stamp == stamp) {
+        return decoded->icon;
+    }
+    m_decoded.remove(path);
+    QIcon icon = loadFile(path);
+    const QSize size = icon.availableSizes().constFirst();
+    m_decoded.insert(path, new Decoded{stamp, icon}, BytesAPixel * size.width() * size.height());
+    return icon;
 }
 
 QIcon CustomIcons::loadFile(const QString& path)
@@ -43,6 +65,8 @@ void CustomIcons::store(const QString& source, const QString& name) const
     const QString destination = pathOf(name);
     makeFolder(m_folder);
     replaceByCopy(source, destination, PublicFile);
+    // The disk's clock is too coarse to tell what follows at once.
+    m_decoded.remove(destination);
 }
 
 QString CustomIcons::pathOf(const QString& name) const

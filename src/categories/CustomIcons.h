@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QCache>
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QIcon>
 #include <QString>
 
@@ -13,8 +15,8 @@ class CustomIcons
 public:
     explicit CustomIcons(const QString& programFolder);
 
-    /// The picture of that name, never null. Throws RuntimeError that names it when it is missing or
-    /// unreadable, or when the name is no plain file name.
+    /// The picture of that name, never null; decoded at the first call and when its file has changed. Throws
+    /// RuntimeError that names it when it is missing or unreadable, or when the name is no plain file name.
     QIcon load(const QString& name) const;
     /// The picture in any file, never null. Throws RuntimeError that names the file.
     static QIcon loadFile(const QString& path);
@@ -23,7 +25,24 @@ public:
     void store(const QString& source, const QString& name) const;
 
 private:
+    /// What tells a file from what it was: a file that is copied or unpacked over it can bring its own age,
+    /// but not the moment at which that was done.
+    struct Stamp {
+        explicit Stamp(const QString& path);
+        bool operator==(const Stamp& other) const = default;
+
+        qint64 size = 0;
+        QDateTime modified;
+        QDateTime changed;
+    };
+    struct Decoded {
+        Stamp stamp;
+        QIcon icon;
+    };
+
     QString pathOf(const QString& name) const;
 
     QString m_folder;
+    /// By path; the cost is the bytes of the pixels.
+    mutable QCache<QString, Decoded> m_decoded;
 };

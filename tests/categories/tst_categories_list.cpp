@@ -19,6 +19,7 @@ private slots:
     void loadingReadsOnceAndWritesNothingForBuiltInIcons();
     void aCustomPictureIsAppendedAndItsNumberWrittenBack();
     void reloadingTwiceAppendsTwoPicturesAndStoresTheLatest();
+    void aReloadDecodesNoPictureAnew();
     void aReloadKeepsTheSelectedCategory();
     void aReloadSelectsNothingWhenTheCategoryIsGone();
     void aMissingPictureKeepsItsPlaceAndIsReportedOnce();
@@ -116,6 +117,20 @@ void CategoriesListTest::reloadingTwiceAppendsTwoPicturesAndStoresTheLatest()
     QCOMPARE(test.images.count(), 23);
     QCOMPARE(test.database.sql(QStringLiteral("select cat_icon from categories")).toInt(), 23 - 1);
     QVERIFY(test.page->takeUnreadablePictures().isEmpty());
+}
+
+void CategoriesListTest::aReloadDecodesNoPictureAnew()
+{
+    PageUnderTest test;
+    writeFile(test.customIcons(), QStringLiteral("icon5.gif"), jpegOf(QSize(4000, 3000)));
+    test.addCustom(QStringLiteral("Own"), QStringLiteral("icon5.gif"));
+    test.page->LoadCategories();
+    test.page->LoadCategories();
+    QCOMPARE(test.images.picture(23).cacheKey(), test.images.picture(22).cacheKey());
+    writeFile(test.customIcons(), QStringLiteral("icon5.gif"), gifOf());
+    test.page->LoadCategories();
+    QCOMPARE(test.images.picture(24).availableSizes(), QList<QSize>{QSize(1, 1)});
+    QCOMPARE(test.list()->item(0)->icon().cacheKey(), test.images.picture(24).cacheKey());
 }
 
 void CategoriesListTest::aReloadKeepsTheSelectedCategory()
