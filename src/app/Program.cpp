@@ -64,7 +64,9 @@ Program::~Program() = default;
 
 void Program::start(const std::function<bool()>& noteFirstStart)
 {
-    DataFileCopies(m_machine.engine).keepPrivate();
+    const DataFileCopies dataFile(m_machine.engine);
+    dataFile.keepPrivate();
+    dataFile.leaveWriteAheadMode();
     m_settings = SettingsStore(m_machine.engine).read();
     const bool isSkinLoaded = m_skins.load(m_settings.skin);
     if (noteFirstStart()) {

@@ -123,7 +123,11 @@ void DataFileCopies::backUpTo(const QString& file, Progress* progress) const
     if (isSameFile(file, m_dataFile)) {
         throw FileError(tr("\"%1\" is the data file itself.").arg(file));
     }
+    leaveWriteAheadMode();
     settle();
+    if (isInWriteAheadMode(m_dataFile)) {
+        takeInWriteAheadLog(m_dataFile);
+    }
     refuseOpenOperation(m_dataFile);
     replaceByCopy(m_dataFile, file, PrivateFile, progress);
 }
@@ -163,6 +167,19 @@ void DataFileCopies::restoreFrom(const QString& file, Progress* progress) const
     } catch (const FileError&) {
         putBackEarlier(place, folder.path());
         throw;
+    }
+}
+
+void DataFileCopies::leaveWriteAheadMode() const
+{
+    const QString place = resolvedPath(m_dataFile);
+    if (!isInWriteAheadMode(place)) {
+        return;
+    }
+    try {
+        useRollbackJournal(place);
+    } catch (const DatabaseError&) {
+        // It serves as it is.
     }
 }
 

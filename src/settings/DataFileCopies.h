@@ -18,7 +18,8 @@ public:
     explicit DataFileCopies(const DatabaseEngine& engine);
 
     /// Copies the data file, byte for byte, to `file`, over a file of that name. At the return the copy is on
-    /// the disk.
+    /// the disk. A data file in write-ahead mode is turned back first, or, where somebody has it open, gets
+    /// all that lies beside it.
     void backUpTo(const QString& file, Progress* progress = nullptr) const;
     /// Replaces the data file by `file`, which has to be a sound data file of this program. What was replaced
     /// stays beside it as data.dat.before-restore, with the journal of an operation that died in it, if any;
@@ -26,6 +27,11 @@ public:
     /// rollback-journal mode, in which the data file is kept; any other is restored byte for byte.
     void restoreFrom(const QString& file, Progress* progress = nullptr) const;
 
+    /// Turns a data file that another program has left in write-ahead mode back to rollback-journal mode: in
+    /// the other, changes lie in a second file, which a copy of the data file alone would miss. Where that
+    /// cannot be, because somebody has it open or it may not be written, it stays as it is and nothing is
+    /// said.
+    void leaveWriteAheadMode() const;
     /// Takes away what others than the owner may do with the data file and with what lies beside it. Where
     /// that cannot be, all stays as it is and nothing is said.
     void keepPrivate() const;

@@ -53,6 +53,14 @@ private slots:
         }
     }
 
+    void aDataFileThatAnotherProgramLeftInWriteAheadModeIsTurnedBack()
+    {
+        ProgramFixture f;
+        f.database.sql(QStringLiteral("pragma journal_mode=wal"));
+        f.start();
+        QCOMPARE(f.database.sql(QStringLiteral("pragma journal_mode")).toString(), QStringLiteral("delete"));
+    }
+
     void theTabsAndTheTrayMenuReadAsTheyShould()
     {
         ProgramFixture f;

@@ -1,4 +1,5 @@
 #include "categories/CustomIcons.h"
+#include "data/ClsDatabase.h"
 #include "data/ClsTask.h"
 #include "platform/Registry.h"
 #include "platform/RuntimeError.h"
@@ -98,6 +99,7 @@ private slots:
     void aRestoreOverADeadOperationIsWholeOrNotAtAll();
     void aSecondRestoreKeepsWhatItReplaces();
     void aRestoreFromWriteAheadModeIsWholeOrNotAtAll();
+    void aDataFileThatLeavesWriteAheadModeKeepsItsRecords();
     void aRestoreOverAnEmptyFileKeepsItsJournal();
     void aSkinIsAddedWholeOrNotAtAll();
     void aCustomIconIsStoredWholeOrNotAtAll();
@@ -222,6 +224,42 @@ void TestReplacementFaults::aRestoreFromWriteAheadModeIsWholeOrNotAtAll()
         return mode == "\x01\x01" ? state(folder) : throw std::runtime_error("not in rollback mode");
     };
     trySweep(place, restore);
+}
+
+void TestReplacementFaults::aDataFileThatLeavesWriteAheadModeKeepsItsRecords()
+{
+    const Place place;
+    // What another program leaves that died with its last change beside the file.
+    const QString file = place.database.dataFile();
+    place.database.sql(QStringLiteral("pragma journal_mode=wal"));
+    sqlite3* opened = nullptr;
+    QCOMPARE(sqlite3_open(QFile::encodeName(file).constData(), &opened), SQLITE_OK);
+    const std::unique_ptr<sqlite3, int (*)(sqlite3*)> other(opened, sqlite3_close);
+    QCOMPARE(sqlite3_exec(opened, "pragma wal_autocheckpoint=0; update tasks set task_name='changed'",
+                 nullptr, nullptr, nullptr),
+        SQLITE_OK);
+    QVERIFY(QFile::remove(place.path(QStringLiteral("program/data.dat"))));
+    place.copyDataFile(QStringLiteral("program/data.dat"));
+    QVERIFY(QFile::copy(file + QStringLiteral("-wal"), place.path(QStringLiteral("program/data.dat-wal"))));
+    const auto recordsOf = [](const std::string& folder) {
+        const std::string state = dataFileState(folder + "/program");
+        return state.find("text changed|") != std::string::npos
+            ? state
+            : throw std::runtime_error("the last change is lost");
+    };
+    // A journal that nothing is taken back from can stay until something is stored.
+    trySweep(place,
+        {[&place] {
+             DataFileCopies(place.engine).leaveWriteAheadMode();
+             return told([&] {
+                 Connection connection = ClsDatabase(place.engine).Connect();
+                 connection.open();
+                 connection.execute(QStringLiteral("update settings set skin=skin||'x'"));
+                 connection.execute(QStringLiteral("update settings set skin=substr(skin,1,length(skin)-1)"));
+                 connection.close();
+             });
+         },
+            recordsOf});
 }
 
 void TestReplacementFaults::aRestoreOverAnEmptyFileKeepsItsJournal()

@@ -5,10 +5,16 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
+#include <functional>
 #include <memory>
 #include <sqlite3.h>
 
-void useRollbackJournal(const QString& file)
+namespace
+{
+
+/// Runs statements of the engine on a file, by a connection of its own, and `done` before that is closed.
+void run(const QString& file, const char* statements, const std::function<void()>& done = {})
 {
     sqlite3* opened = nullptr;
     int code = sqlite3_open_v2(
@@ -18,14 +24,45 @@ void useRollbackJournal(const QString& file)
         code = hardenConnection(opened);
     }
     if (code == SQLITE_OK) {
-        // Alone with the file, the engine shares no memory beside it.
-        code = sqlite3_exec(opened,
-            "PRAGMA locking_mode=EXCLUSIVE; PRAGMA synchronous=EXTRA; PRAGMA journal_mode=DELETE", nullptr,
-            nullptr, nullptr);
+        code = sqlite3_exec(opened, statements, nullptr, nullptr, nullptr);
     }
     if (code != SQLITE_OK) {
         throw DatabaseError(DatabaseError::Kind::Storage,
             QCoreApplication::translate("Session", "The data file \"%1\" could not be opened: %2.")
                 .arg(file, opened == nullptr ? QString() : QString::fromUtf8(sqlite3_errmsg(opened))));
     }
+    if (done) {
+        done();
+    }
+}
+
+} // namespace
+
+bool isInWriteAheadMode(const QString& file)
+{
+    constexpr QByteArrayView Head("SQLite format 3\0", 16);
+    // The format for readers decides.
+    constexpr qsizetype ReadFormat = 19;
+    constexpr char WriteAhead = 2;
+    QFile source(file);
+    // A pipe would keep the program waiting.
+    if (!QFileInfo(file).isFile() || !source.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+        return false;
+    }
+    const QByteArray head = source.read(ReadFormat + 1);
+    return head.startsWith(Head) && head.size() > ReadFormat && head[ReadFormat] == WriteAhead;
+}
+
+void useRollbackJournal(const QString& file)
+{
+    // Alone with the file, the engine shares no memory beside it.
+    run(file, "PRAGMA locking_mode=EXCLUSIVE; PRAGMA synchronous=EXTRA; PRAGMA journal_mode=DELETE", [&file] {
+        // Nor does it remove what others have left of that. Still locked: nobody can be using it.
+        QFile::remove(file + QLatin1String("-shm"));
+    });
+}
+
+void takeInWriteAheadLog(const QString& file)
+{
+    run(file, "PRAGMA busy_timeout=250; PRAGMA synchronous=EXTRA; PRAGMA wal_checkpoint(TRUNCATE)");
 }
