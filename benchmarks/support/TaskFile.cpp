@@ -1,5 +1,7 @@
 #include "support/TaskFile.h"
 
+#include "platform/database/Hardening.h"
+
 #include <QFile>
 #include <sqlite3.h>
 #include <stdexcept>
@@ -38,7 +40,7 @@ void TaskFile::run(const QString& sql) const
 {
     sqlite3* database = nullptr;
     char* error = nullptr;
-    sqlite3_open(QFile::encodeName(path()).constData(), &database);
+    openDatabase(path(), database);
     sqlite3_exec(database, "pragma synchronous=off", nullptr, nullptr, nullptr);
     const int code = sqlite3_exec(database, sql.toUtf8().constData(), nullptr, nullptr, &error);
     const std::string why = error == nullptr ? "" : error;

@@ -1,5 +1,6 @@
 #include "platform/database/Hardening.h"
 
+#include <QFile>
 #include <array>
 #include <sqlite3.h>
 #include <utility>
@@ -20,6 +21,13 @@ constexpr std::array<std::pair<int, int>, 9> Limits{{{SQLITE_LIMIT_LENGTH, Large
     {SQLITE_LIMIT_LIKE_PATTERN_LENGTH, 1000}, {SQLITE_LIMIT_TRIGGER_DEPTH, 1}}};
 
 } // namespace
+
+int openDatabase(const QString& file, sqlite3*& database)
+{
+    [[maybe_unused]] static const int uncounted = sqlite3_config(SQLITE_CONFIG_MEMSTATUS, 0);
+    return sqlite3_open_v2(
+        QFile::encodeName(file).constData(), &database, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
+}
 
 int hardenConnection(sqlite3* database)
 {

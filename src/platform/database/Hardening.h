@@ -2,7 +2,13 @@
 
 #include <string>
 
+class QString;
 struct sqlite3;
+
+/// Opens an existing file for reading and writing, as sqlite3_open_v2 does, and answers its result code: also
+/// after a failure there can be a handle that wants to be closed. The engine keeps no count of its memory,
+/// which costs a lock for each piece; whoever uses the engine before and without this leaves it counting.
+int openDatabase(const QString& file, sqlite3*& database);
 
 /// Switches off what the program has no need for on this connection: whatever a data file could bring along
 /// to act by itself (triggers, views, foreign keys, tables that code answers for), writing into the engine's

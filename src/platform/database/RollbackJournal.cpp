@@ -17,8 +17,7 @@ namespace
 void run(const QString& file, const char* statements, const std::function<void()>& done = {})
 {
     sqlite3* opened = nullptr;
-    int code = sqlite3_open_v2(
-        QFile::encodeName(file).constData(), &opened, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
+    int code = openDatabase(file, opened);
     const std::unique_ptr<sqlite3, int (*)(sqlite3*)> database(opened, sqlite3_close_v2);
     if (code == SQLITE_OK) {
         code = hardenConnection(opened);

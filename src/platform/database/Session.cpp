@@ -7,7 +7,6 @@
 #include "platform/database/Hardening.h"
 #include "platform/database/UnicodeCollation.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <algorithm>
 #include <array>
@@ -141,8 +140,7 @@ void Session::openFile()
     if (file.size() == 0) {
         failToOpen(tr("it is empty"));
     }
-    const int code = sqlite3_open_v2(QFile::encodeName(m_path).constData(), &m_database,
-        SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
+    const int code = openDatabase(m_path, m_database);
     if (m_database == nullptr) {
         failToOpen(tr("out of memory"));
     }
@@ -167,9 +165,10 @@ void Session::harden()
     if (m_progress != nullptr) {
         sqlite3_progress_handler(m_database, StepsOfProgress, tellProgress, this);
     }
-    // Large sorts hold the user's texts: they stay in memory and out of the folder for temporary files.
-    check(executeOwn(
-        "PRAGMA synchronous=EXTRA; PRAGMA temp_store=MEMORY; SELECT 1 FROM sqlite_schema LIMIT 1"));
+    // Large sorts hold the user's texts: they stay in memory and out of the folder for temporary files. The
+    // other pragma makes the engine read the schema, so what is no database, and what died inside an
+    // operation, shows here.
+    check(executeOwn("PRAGMA temp_store=MEMORY; PRAGMA synchronous=EXTRA"));
 }
 
 // Exceptions do not pass through the engine: the statement is interrupted, and `fail` throws what was thrown.
