@@ -7,6 +7,7 @@
 #include "platform/database/DatabaseError.h"
 
 #include <algorithm>
+#include <array>
 
 namespace
 {
@@ -108,37 +109,35 @@ void runAlone(const DatabaseEngine& engine, const QString& statement)
 
 } // namespace
 
-/// Reads tasks off a record set whose fields it has looked up once.
-class ClsTask::Reader
+/// The columns of the table, in a record set in which they were looked up once.
+class ClsTask::Columns
 {
 public:
-    explicit Reader(const RecordSet& records)
-        : m_category(records.field("categories.cat_id")), m_name(records.field("task_name")),
-          m_status(records.field("task_status")), m_description(records.field("task_desc")),
-          m_due(records.field("task_due_date")), m_id(records.field("task_id")),
-          m_periority(records.field("task_periority")), m_reminder(records.field("reminder_date_time")),
-          m_file(records.field("reminder_file")), m_reminderOn(records.field("reminder_on")),
-          m_sound(records.field("reminder_sound")), m_icon(records.field("cat_icon"))
+    explicit Columns(const RecordSet& records)
+        : m_name(records.field("task_name")), m_status(records.field("task_status")),
+          m_description(records.field("task_desc")), m_due(records.field("task_due_date")),
+          m_id(records.field("task_id")), m_periority(records.field("task_periority")),
+          m_reminder(records.field("reminder_date_time")), m_file(records.field("reminder_file")),
+          m_reminderOn(records.field("reminder_on")), m_sound(records.field("reminder_sound"))
     {
     }
 
-    void read(const RecordSet& records, ClsTask& task) const
+    std::array<std::string_view, TextCount> texts(const RecordSet& records) const
     {
-        task.m_categoryId =
-            narrowId(records.int32(m_category), QT_TRANSLATE_NOOP("OverflowError", "category id"));
-        task.m_texts.assign(
-            {records.utf8(m_name), records.utf8(m_description), records.utf8(m_sound), records.utf8(m_file)});
+        return {
+            records.utf8(m_name), records.utf8(m_description), records.utf8(m_sound), records.utf8(m_file)};
+    }
+    void readAllButTexts(const RecordSet& records, ClsTask& task) const
+    {
         task.m_status = records.int32(m_status);
         task.m_dueDateTime = records.moment(m_due);
         task.m_id = records.int32(m_id);
         task.m_periority = records.int32(m_periority);
         task.m_reminderDateTime = records.moment(m_reminder);
         task.m_reminderOn = records.flag(m_reminderOn);
-        task.m_iconId = records.int16(m_icon);
     }
 
 private:
-    int m_category;
     int m_name;
     int m_status;
     int m_description;
@@ -149,6 +148,30 @@ private:
     int m_file;
     int m_reminderOn;
     int m_sound;
+};
+
+/// Reads tasks and what belongs to them of their categories.
+class ClsTask::Reader
+{
+public:
+    explicit Reader(const RecordSet& records)
+        : m_columns(records), m_category(records.field("categories.cat_id")),
+          m_icon(records.field("cat_icon"))
+    {
+    }
+
+    void read(const RecordSet& records, ClsTask& task) const
+    {
+        task.m_categoryId =
+            narrowId(records.int32(m_category), QT_TRANSLATE_NOOP("OverflowError", "category id"));
+        task.m_texts.assign(m_columns.texts(records));
+        m_columns.readAllButTexts(records, task);
+        task.m_iconId = records.int16(m_icon);
+    }
+
+private:
+    Columns m_columns;
+    int m_category;
     int m_icon;
 };
 
@@ -241,14 +264,28 @@ std::vector<ClsTask> ClsTask::GetTasks(qint16 cat, qint32 status, qint32 sortBy,
     return tasks;
 }
 
-void ClsTask::readAll() const
+// The join is asked for its columns alone: it would read the category with every task.
+void ClsTask::readAll(const std::function<void(const RecordSet&)>& alsoSee) const
 {
     Connection connection = ClsDatabase(*m_engine).Connect();
     connection.open();
-    RecordSet records = connection.execute(SelectJoin);
-    const Reader reader(records);
+    const Reader everyColumnIsThere(connection.execute(SelectJoin + QLatin1String(" limit 0")));
+    RecordSet records = connection.execute(
+        QStringLiteral("select ifnull(cat_id in (select cat_id from categories), 0), * from tasks"));
+    constexpr int IsShown = 0;
+    const Columns columns(records);
+    const int played = records.field("played");
+    const int dismissed = records.field("dismissed");
     for (ClsTask task(*m_engine); !records.atEnd(); records.moveNext()) {
-        reader.read(records, task);
+        if (records.flag(IsShown)) {
+            columns.texts(records);
+            columns.readAllButTexts(records, task);
+            records.flag(played);
+            records.flag(dismissed);
+        }
+        if (alsoSee) {
+            alsoSee(records);
+        }
     }
     connection.close();
 }

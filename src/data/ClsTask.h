@@ -5,8 +5,11 @@
 #include "platform/database/DatabaseEngine.h"
 
 #include <QCoreApplication>
+#include <functional>
 #include <optional>
 #include <vector>
+
+class RecordSet;
 
 /// The record of one task, and the store of the table `tasks`. Copyable. Every operation opens a connection
 /// of its own and closes it; all throw DatabaseError. The codes stand in TaskCodes.h.
@@ -58,8 +61,9 @@ public:
     /// `fromDate` and `toDate` count as whole days and only when `isDateRange` is set.
     std::vector<ClsTask> GetTasks(qint16 cat, qint32 status, qint32 sortBy, bool isDateRange, Moment fromDate,
         Moment toDate, qint32 taskType) const;
-    /// Reads every task that the list shows, and keeps none: throws what `GetTasks` would throw.
-    void readAll() const;
+    /// Reads every task that the list or the reminders show, and keeps none: throws what they would throw.
+    /// `alsoSee` sees each row of the table with all its columns, those of tasks without a category too.
+    void readAll(const std::function<void(const RecordSet&)>& alsoSee = {}) const;
     /// Deletes the tasks due from `fromDate` to the end of `toDate` that match.
     void DeleteTasks(qint16 cat, qint32 status, Moment fromDate, Moment toDate, qint32 taskType) const;
     /// How many tasks `DeleteTasks` would delete.
@@ -68,6 +72,7 @@ public:
 
 private:
     enum Text : std::size_t { NameText, DescriptionText, SoundText, FileText, TextCount };
+    class Columns;
     class Reader;
     QString filled(const QString& pattern) const;
     void setText(Text which, const QString& value) { m_texts.set(which, value.toStdString()); }

@@ -21,8 +21,6 @@ private slots:
     void theCheckerRestsUntilEverythingIsReloaded();
     void theDialogAsksForABackup();
     void aCancelledDialogChangesNothing();
-    void aFileThatIsNoBackupChangesNothing_data();
-    void aFileThatIsNoBackupChangesNothing();
     void aBackupOfAnUnfinishedOperationIsRefused();
     void theDataFileIsNotItsOwnBackup();
     void theFileOfTheLastRestoreCanBeRestored();
@@ -122,83 +120,6 @@ void TestRestore::aCancelledDialogChangesNothing()
     QVERIFY(contentOf(test.database.dataFile()) == before);
     QVERIFY(test.checkerTimer.enabled);
     QCOMPARE(test.restored.size(), 0);
-}
-
-void TestRestore::aFileThatIsNoBackupChangesNothing_data()
-{
-    QTest::addColumn<QByteArray>("sql");
-    QTest::addColumn<QByteArray>("content");
-    QTest::newRow("missing") << QByteArray() << QByteArray();
-    QTest::newRow("empty") << QByteArray() << QByteArray("");
-    QTest::newRow("a text") << QByteArray() << QByteArray("Dear diary");
-    QTest::newRow("only a header") << QByteArray() << QByteArray("SQLite format 3\0", 16);
-    QTest::newRow("cut short") << QByteArray() << QByteArray("cut");
-    QTest::newRow("damaged inside") << QByteArray() << QByteArray("damage");
-    QTest::newRow("no tasks") << QByteArray("drop table tasks") << QByteArray();
-    QTest::newRow("no categories") << QByteArray("drop table categories") << QByteArray();
-    QTest::newRow("no settings") << QByteArray("drop table settings") << QByteArray();
-    QTest::newRow("a column less") << QByteArray("alter table tasks drop column played") << QByteArray();
-    QTest::newRow("another database") << QByteArray(
-        "drop table tasks; drop table settings; drop table categories;"
-        "create table songs(title)") << QByteArray();
-    QTest::newRow("a view instead of a table")
-        << QByteArray("alter table tasks rename to t; create view tasks as select * from t") << QByteArray();
-    QTest::newRow("a moment that is none")
-        << QByteArray("update tasks set task_due_date='soon'") << QByteArray();
-    QTest::newRow("a reminder whose mark is no flag")
-        << QByteArray("update tasks set played='no'") << QByteArray();
-    QTest::newRow("settings that are no flags")
-        << QByteArray("update settings set show_grid='yes'") << QByteArray();
-    QTest::newRow("new tasks would count as played")
-        << QByteArray("pragma writable_schema=1; update sqlite_schema set sql="
-                      "replace(sql,'played INTEGER NOT NULL DEFAULT 0','played INTEGER NOT NULL DEFAULT 1')")
-        << QByteArray();
-    QTest::newRow("names would lose their leading zeros") << QByteArray(
-        "pragma writable_schema=1; update sqlite_schema set sql="
-        "replace(sql,'task_name TEXT','task_name REAL')") << QByteArray();
-    QTest::newRow("an order of names that nobody knows")
-        << QByteArray("pragma writable_schema=1; update sqlite_schema set sql=replace(sql,"
-                      "'cat_name TEXT NOT NULL DEFAULT '''' COLLATE NOCASE',"
-                      "'cat_name TEXT NOT NULL DEFAULT '''' COLLATE OTHER')")
-        << QByteArray();
-    QTest::newRow("no task ids are left")
-        << QByteArray("update sqlite_sequence set seq=2147483647 where name='tasks'") << QByteArray();
-    QTest::newRow("no category ids are left")
-        << QByteArray("update sqlite_sequence set seq=32767 where name='categories'") << QByteArray();
-    QTest::newRow("of a format that can only be read") << QByteArray() << QByteArray("format");
-    QTest::newRow("a category id of 17 bits")
-        << QByteArray("update categories set cat_id=70000 where cat_id=4") << QByteArray();
-}
-
-void TestRestore::aFileThatIsNoBackupChangesNothing()
-{
-    QFETCH(const QByteArray, sql);
-    QFETCH(const QByteArray, content);
-    RestoreUnderTest test;
-    QString file = test.backup();
-    if (!sql.isEmpty()) {
-        execute(file, sql.constData());
-    } else if (content == "cut") {
-        writeText(file, contentOf(file).chopped(4096));
-    } else if (content == "damage") {
-        QByteArray bytes = contentOf(file);
-        writeText(file, bytes.replace(4096, 8192, QByteArray(8192, '\x55')));
-    } else if (content == "format") {
-        constexpr int WriteFormat = 18;
-        QByteArray bytes = contentOf(file);
-        bytes[WriteFormat] = 9;
-        writeText(file, bytes);
-    } else if (content.isNull()) {
-        file += QStringLiteral(".missing");
-    } else {
-        writeText(file, content);
-    }
-    const QByteArray before = contentOf(test.database.dataFile());
-    test.restore(file);
-    QVERIFY(contentOf(test.database.dataFile()) == before);
-    QCOMPARE(test.files(), QStringList(QStringLiteral("data.dat")));
-    QCOMPARE(test.restored.size(), 0);
-    QVERIFY(test.checkerTimer.enabled);
 }
 
 void TestRestore::aBackupOfAnUnfinishedOperationIsRefused()

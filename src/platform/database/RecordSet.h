@@ -7,6 +7,7 @@
 #include <string_view>
 
 class Cursor;
+struct sqlite3_value;
 
 /// The rows of a query, read once from the first to the last. Movable. At its end, and from the close of its
 /// connection on, it holds no lock on the data file; what it had not read by the close is gone.
@@ -44,9 +45,11 @@ public:
 
 private:
     friend class Connection;
+    friend class IndexProof;
     /// Stands on the first row, if there is one.
     explicit RecordSet(std::unique_ptr<Cursor> cursor);
-    void requireField(int field) const;
+    sqlite3_value* value(int field) const;
+    qint64 integer(int field, qint64 min, qint64 max) const;
 
     std::unique_ptr<Cursor> m_cursor;
     int m_fieldCount = 0;
