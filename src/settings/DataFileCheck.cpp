@@ -75,9 +75,9 @@ void requireSoundAndReadable(const DatabaseEngine& engine)
     trial.execute("select task_id from tasks order by task_name limit 0");
     ClsCategory(engine).GetAllCategories();
     ClsTask(engine).readAll([&proof](const RecordSet& row) { proof.add(row); });
-    if (!proof.succeeds()) {
-        requireOk(trial.execute("pragma integrity_check"));
-    }
+    proof.succeeds();
+    // The proof overlooks entries whose parts overlap.
+    requireOk(trial.execute("pragma integrity_check"));
 }
 
 void requireRoomForCategories(Trial& trial)
