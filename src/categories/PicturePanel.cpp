@@ -2,6 +2,7 @@
 
 #include "ui/Outline.h"
 
+#include <QEvent>
 #include <QPainter>
 
 namespace
@@ -25,12 +26,27 @@ void PicturePanel::setUsable(bool usable)
 {
     setEnabled(usable);
     m_background = usable ? Usable : Unusable;
+    takeColours();
+    update();
+}
+
+void PicturePanel::takeColours()
+{
     QPalette colours = palette();
     colours.setColor(QPalette::Window, m_background);
     colours.setColor(QPalette::WindowText, Ink);
     colours.setColor(QPalette::Disabled, QPalette::WindowText, FaintInk);
     setPalette(colours);
-    update();
+}
+
+void PicturePanel::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::StyleChange) {
+        // Another skin has put on the colours of its style sheet, or those that were there before the last
+        // one.
+        takeColours();
+    }
 }
 
 void PicturePanel::paintEvent(QPaintEvent* /*event*/)

@@ -16,8 +16,11 @@ public:
     QColor background() const { return m_background; }
 
 protected:
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void takeColours();
+
     QColor m_background;
 };

@@ -61,9 +61,12 @@ void SkinEngine::applySkin()
     if (qApp->styleSheet() == sheet && m_appliedPalette == m_loaded.palette) {
         return;
     }
-    // A palette set under a style sheet does not reach widgets that the sheet has polished.
-    qApp->setStyleSheet({});
-    QApplication::setPalette(m_loaded.palette);
-    qApp->setStyleSheet(sheet);
+    if (qApp->styleSheet().isEmpty()) {
+        QApplication::setPalette(m_loaded.palette);
+        qApp->setStyleSheet(sheet);
+    } else {
+        // A palette set under a sheet does not reach widgets that the sheet has polished.
+        QApplication::setStyle(new SkinStyle({m_loaded.palette, sheet}));
+    }
     m_appliedPalette = m_loaded.palette;
 }

@@ -7,9 +7,11 @@
 #include "settings/SkinPictures.h"
 
 #include <QAbstractScrollArea>
+#include <QApplication>
 #include <QCalendarWidget>
+#include <QComboBox>
 #include <QDateTimeEdit>
-#include <QGuiApplication>
+#include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
 #include <QStyleFactory>
@@ -17,6 +19,7 @@
 #include <QTabBar>
 #include <QTextCharFormat>
 #include <QWidget>
+#include <utility>
 
 namespace
 {
@@ -73,6 +76,17 @@ bool isFieldFrame(const QWidget* widget)
     return qobject_cast<const QAbstractScrollArea*>(widget) != nullptr;
 }
 
+/// Whether a control writes and draws into that widget.
+bool isInside(const QWidget* widget)
+{
+    const QWidget* control = widget->parentWidget();
+    const auto* area = qobject_cast<const QAbstractScrollArea*>(control);
+    return area != nullptr ? area->viewport() == widget
+                           : qobject_cast<const QLineEdit*>(widget) != nullptr
+            && (qobject_cast<const QAbstractSpinBox*>(control) != nullptr
+                || qobject_cast<const QComboBox*>(control) != nullptr);
+}
+
 bool isMonthButton(const QWidget* widget)
 {
     return widget != nullptr && widget->objectName() == QLatin1String("qt_calendar_monthbutton");
@@ -82,6 +96,11 @@ bool isMonthButton(const QWidget* widget)
 
 SkinStyle::SkinStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion")))
 {
+}
+
+SkinStyle::SkinStyle(Look look) : SkinStyle()
+{
+    m_look = std::move(look);
 }
 
 void SkinStyle::drawPrimitive(
@@ -357,4 +376,24 @@ void SkinStyle::polish(QWidget* widget)
         // It would take the direction of its picker.
         calendar->setLayoutDirection(QGuiApplication::layoutDirection());
     }
+}
+
+void SkinStyle::polish(QApplication* application)
+{
+    QProxyStyle::polish(application);
+    if (const std::optional<Look> look = std::exchange(m_look, std::nullopt)) {
+        // The sheet first: a widget that asks for its style when the palette changes is to find the new one.
+        application->setStyleSheet(look->sheet);
+        QApplication::setPalette(look->palette);
+    }
+}
+
+void SkinStyle::unpolish(QWidget* widget)
+{
+    if (isInside(widget)) {
+        // A sheet sets the font of a control on what the control is made of, too, and takes it off the
+        // control alone.
+        widget->setFont({});
+    }
+    QProxyStyle::unpolish(widget);
 }

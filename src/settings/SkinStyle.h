@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QPalette>
 #include <QProxyStyle>
+#include <optional>
 
 /// Fusion, with fields, indicators and arrows drawn in the colours of the palette, so that no style sheet can
 /// lose them.
@@ -16,7 +18,18 @@ public:
     /// that is as high as a list or an edit.
     static constexpr int SpinBoxAir = 8;
 
+    /// What the application takes over together with a style.
+    struct Look {
+        QPalette palette;
+        /// Not empty.
+        QString sheet;
+    };
+
     SkinStyle();
+    /// A style that brings `look` along when it takes the place of another one under a sheet: the application
+    /// asks it in between, when no widget wears a style. So the palette reaches them all, and each is styled
+    /// once.
+    explicit SkinStyle(Look look);
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
         const QWidget* widget) const override;
@@ -40,9 +53,15 @@ public:
     QIcon standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const override;
     using QProxyStyle::polish;
     void polish(QWidget* widget) override;
+    void polish(QApplication* application) override;
+    using QProxyStyle::unpolish;
+    void unpolish(QWidget* widget) override;
 
 private:
     static void drawFocus(const QStyleOption& option, QPainter& painter, const QWidget* widget);
     void drawSpinBox(const QStyleOptionComplex& option, QPainter& painter, const QWidget* widget) const;
     void drawComboBox(const QStyleOptionComplex& option, QPainter& painter, const QWidget* widget) const;
+
+    /// Until it is put on.
+    std::optional<Look> m_look;
 };

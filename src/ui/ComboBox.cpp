@@ -79,6 +79,14 @@ QSize ComboBox::ownSize() const
 
 void ComboBox::changeEvent(QEvent* event)
 {
+    if (event->type() == QEvent::StyleChange || event->type() == QEvent::PaletteChange) {
+        m_owesListColours = true;
+    }
+    if (event->type() == QEvent::PaletteChange) {
+        // The toolkit would make a menu and style it, to colour the list as one.
+        update();
+        return;
+    }
     // The toolkit would make the list that opens, to style it. Nobody can open it before it has been painted.
     if (event->type() == QEvent::StyleChange && !m_painted) {
         m_owesStyle = true;
@@ -87,6 +95,15 @@ void ComboBox::changeEvent(QEvent* event)
         return;
     }
     QComboBox::changeEvent(event);
+}
+
+void ComboBox::showPopup()
+{
+    if (std::exchange(m_owesListColours, false)) {
+        QEvent change(QEvent::PaletteChange);
+        QComboBox::changeEvent(&change);
+    }
+    QComboBox::showPopup();
 }
 
 void ComboBox::paintEvent(QPaintEvent* event)

@@ -25,6 +25,7 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+    void showPopup() override;
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -42,6 +43,7 @@ private:
     int m_letters = 0;
     bool m_painted = false;
     bool m_owesStyle = false;
+    bool m_owesListColours = false;
 
     /// When the last letter of a name was struck, as input events tell it.
     std::optional<quint64> m_lastLetter;

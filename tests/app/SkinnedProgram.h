@@ -15,12 +15,14 @@ inline QStringList shippedSkins()
     return skins;
 }
 
-/// The program in a skin, with a few tasks.
+/// The program in a skin from the folder `skins`, with a few tasks.
 struct SkinnedProgram : ProgramFixture {
-    explicit SkinnedProgram(const QString& skin) : owed(skin == QLatin1String("Contrast") ? 7.0 : 4.5)
+    explicit SkinnedProgram(
+        const QString& skin, const QString& skins = QStringLiteral(AMBERTASK_SHIPPED_SKINS))
+        : owed(skin == QLatin1String("Contrast") ? 7.0 : 4.5)
     {
-        const QString file = QStringLiteral("/Skins/%1.skf").arg(skin);
-        QFile::copy(QStringLiteral(AMBERTASK_SHIPPED_SKINS "/%1.skf").arg(skin), database.folder() + file);
+        const QString file = QStringLiteral("/%1.skf").arg(skin);
+        QFile::copy(skins + file, database.folder() + QStringLiteral("/Skins") + file);
         database.sql(QStringLiteral("update settings set skin='%1'").arg(skin));
         const Moment now = database.clock().now();
         aTask(database)

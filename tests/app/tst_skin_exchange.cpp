@@ -1,0 +1,262 @@
+#include "settings/SkinEngine.h"
+#include "support/TestMain.h"
+#include "tasks/frmTaskDetails.h"
+#include "tests/app/EveryBox.h"
+#include "tests/app/WindowLook.h"
+
+#include <QComboBox>
+#include <QStyleFactory>
+#include <QTemporaryDir>
+
+/// Fails when `window` does not look as it does after a start with the skin.
+#define EXPECT_SAME(afterStart, window, name, skin)                                                          \
+    do {                                                                                                     \
+        const QStringList different = (afterStart).differences(lookOf(window));                              \
+        QVERIFY2(different.isEmpty(),                                                                        \
+            qPrintable((name) + QStringLiteral(" in ") + (skin) + u'\n' + different.join(u'\n')));           \
+    } while (false)
+
+namespace
+{
+
+/// The looks of windows in the order in which they are visited.
+using Looks = QList<WindowLook>;
+using Walk = std::function<void(SkinnedProgram&, const Visit&)>;
+
+WindowLook lookOf(QWidget& window)
+{
+    if (auto* skins = window.findChild<QComboBox*>(QStringLiteral("cmbSkins"))) {
+        // It names the skin that the program began with.
+        skins->setCurrentIndex(-1);
+    }
+    settleWindows();
+    return WindowLook(window);
+}
+
+/// The user's size stays at an exchange, and the skin before may have asked for more.
+void resizeTo(const QSize& size, QWidget& window)
+{
+    if (window.size() != size) {
+        settleWindows();
+        window.resize(size);
+    }
+}
+
+/// As at the start of a process.
+void forgetSkin()
+{
+    qApp->setStyleSheet({});
+    QApplication::setPalette(QPalette());
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+}
+
+/// Counts how often each widget is told that its style has changed.
+class StyleChanges final : public QObject
+{
+public:
+    StyleChanges() { qApp->installEventFilter(this); }
+    int of(const QWidget* widget) const { return m_changes.value(widget); }
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        m_changes[watched] += event->type() == QEvent::StyleChange ? 1 : 0;
+        return false;
+    }
+
+private:
+    QHash<const QObject*, int> m_changes;
+};
+
+QByteArray contentOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void write(const QString& path, const QByteArray& content)
+{
+    QFile file(path);
+    QVERIFY2(file.open(QIODevice::WriteOnly) && !content.isEmpty() && file.write(content) == content.size(),
+        qPrintable(path));
+}
+
+} // namespace
+
+class SkinExchangeTest : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+
+    void everyWindowIsStyledOnce();
+    void openWindowsLookAsAfterAStart();
+    void whatOpensThenLooksAsAfterAStart();
+    void nothingStaysOfOtherLetters();
+
+private:
+    void addSkin(const QString& name, const QByteArray& content);
+    QHash<QString, Looks> looksAfterAStart(const Walk& walk, const QStringList& names);
+    /// Exchanges each skin for each other one; `look` is called with the name of the new one.
+    void exchangeAll(const std::function<void(const QString& skin)>& look);
+    void wear(const QString& skin);
+
+    QTemporaryDir m_skins;
+    QStringList m_names;
+    std::unique_ptr<SkinEngine> m_engine;
+};
+
+void SkinExchangeTest::initTestCase()
+{
+    QApplication::setCursorFlashTime(0);
+    const QString shipped = QStringLiteral(AMBERTASK_SHIPPED_SKINS "/%1.skf");
+    for (const QString& name : shippedSkins()) {
+        addSkin(name, contentOf(shipped.arg(name)));
+    }
+    // The palette alone, and the palette alone changed.
+    QByteArray bare =
+        contentOf(shipped.arg(QStringLiteral("Midnight"))).replace("@name Midnight", "@name Bare");
+    bare.truncate(bare.indexOf("*/") + 2);
+    addSkin(QStringLiteral("Bare"), bare);
+    QByteArray recast = contentOf(shipped.arg(QStringLiteral("Aqua"))).replace("@name Aqua", "@name Recast");
+    for (const char* role : {"Base", "Mid", "Dark", "WindowText", "Highlight"}) {
+        recast.replace(QByteArray("\n@palette ") + role + " $",
+            QByteArray("\n@palette ") + role + " $link\n@palette Shadow $");
+    }
+    addSkin(QStringLiteral("Recast"), recast);
+    m_engine = std::make_unique<SkinEngine>();
+}
+
+void SkinExchangeTest::addSkin(const QString& name, const QByteArray& content)
+{
+    write(m_skins.filePath(name + QStringLiteral(".skf")), content);
+    m_names.append(name);
+}
+
+void SkinExchangeTest::wear(const QString& skin)
+{
+    m_engine->loadSkinFile(m_skins.filePath(skin + QStringLiteral(".skf")));
+    m_engine->applySkin();
+}
+
+QHash<QString, Looks> SkinExchangeTest::looksAfterAStart(const Walk& walk, const QStringList& names)
+{
+    QHash<QString, Looks> looks;
+    for (const QString& skin : names) {
+        forgetSkin();
+        SkinnedProgram program(skin, m_skins.path());
+        walk(program, [&](const QString&, QWidget& window) { looks[skin].append(lookOf(window)); });
+    }
+    return looks;
+}
+
+void SkinExchangeTest::exchangeAll(const std::function<void(const QString& skin)>& look)
+{
+    for (qsizetype one = 0; one < m_names.size(); ++one) {
+        wear(m_names[one]);
+        for (qsizetype other = one + 1; other < m_names.size(); ++other) {
+            for (const QString& skin : {m_names[other], m_names[one]}) {
+                wear(skin);
+                look(skin);
+            }
+        }
+    }
+}
+
+void SkinExchangeTest::everyWindowIsStyledOnce()
+{
+    SkinnedProgram program(QStringLiteral("Aqua"));
+    visitEveryWindow(program, [](const QString&, QWidget&) {});
+    wear(QStringLiteral("Lemon"));
+    const StyleChanges changes;
+    wear(QStringLiteral("Midnight"));
+    int windows = 0;
+    for (const QWidget* widget : QApplication::allWidgets()) {
+        if (widget->isWindow()) {
+            QVERIFY2(changes.of(widget) == 1, widget->metaObject()->className());
+            ++windows;
+        }
+    }
+    QVERIFY2(windows >= 5, qPrintable(QString::number(windows)));
+}
+
+void SkinExchangeTest::openWindowsLookAsAfterAStart()
+{
+    const auto expected = looksAfterAStart(visitEveryWindow, m_names);
+    forgetSkin();
+    SkinnedProgram program(m_names.first());
+    qsizetype visited = 0;
+    int compared = 0;
+    visitEveryWindow(program, [&](const QString& name, QWidget& window) {
+        const qsizetype place = visited++;
+        if (window.isModal()) {
+            // Nobody gets past it to the list of skins.
+            return;
+        }
+        exchangeAll([&](const QString& skin) {
+            const WindowLook& afterStart = expected[skin].at(place);
+            resizeTo(afterStart.size(), window);
+            EXPECT_SAME(afterStart, window, name, skin);
+            ++compared;
+        });
+        wear(m_names.first());
+    });
+    QVERIFY2(compared >= 19 * 42, qPrintable(QString::number(compared)));
+}
+
+void SkinExchangeTest::whatOpensThenLooksAsAfterAStart()
+{
+    const auto walk = [](SkinnedProgram& program, const Visit& visit) {
+        visitEveryBox(program.main(), visit);
+        // Its lists are as wide as there is room, and the user's size stays.
+        program.program.taskDetails().resize(700, 550);
+        visitPopUps(program, visit);
+    };
+    const auto expected = looksAfterAStart(walk, m_names);
+    forgetSkin();
+    SkinnedProgram program(m_names.first());
+    int compared = 0;
+    exchangeAll([&](const QString& skin) {
+        qsizetype visited = 0;
+        walk(program, [&](const QString& name, QWidget& window) {
+            const WindowLook& afterStart = expected[skin].at(visited++);
+            if (name.endsWith(QStringLiteral("cmbSkins"))) {
+                // It marks the skin that the program began with.
+                return;
+            }
+            EXPECT_SAME(afterStart, window, name, skin);
+            ++compared;
+        });
+    });
+    QVERIFY2(compared >= 22 * 42, qPrintable(QString::number(compared)));
+}
+
+void SkinExchangeTest::nothingStaysOfOtherLetters()
+{
+    const QString skin = m_names.first();
+    const auto expected = looksAfterAStart(visitEveryWindow, {skin});
+    QByteArray letters =
+        contentOf(m_skins.filePath(QStringLiteral("Bare.skf"))).replace("@name Bare", "@name Letters");
+    letters +=
+        "\nQWidget { font-family: Monospace; }\nQAbstractSpinBox, QTableView, QLabel { font-size: 14pt; }\n"
+        "QHeaderView, QTextBrowser { font-style: italic; }\n";
+    const QString changed = m_skins.filePath(QStringLiteral("Letters.skf"));
+    write(changed, letters);
+    forgetSkin();
+    SkinnedProgram program(skin, m_skins.path());
+    qsizetype visited = 0;
+    visitEveryWindow(program, [&](const QString& name, QWidget& window) {
+        const WindowLook& afterStart = expected[skin].at(visited++);
+        if (window.isModal()) {
+            return;
+        }
+        wear(QStringLiteral("Letters"));
+        QVERIFY(!afterStart.differences(lookOf(window)).isEmpty());
+        wear(skin);
+        resizeTo(afterStart.size(), window);
+        EXPECT_SAME(afterStart, window, name, skin);
+    });
+    QVERIFY(visited > 0);
+}
+
+AMBERTASK_TEST_MAIN(SkinExchangeTest)
+#include "tst_skin_exchange.moc"
