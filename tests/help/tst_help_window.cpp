@@ -1,3 +1,4 @@
+#include "help/window/MissingPictures.h"
 #include "support/TestMain.h"
 #include "tests/help/HelpUnderTest.h"
 

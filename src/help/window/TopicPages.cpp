@@ -1,6 +1,6 @@
 #include "help/window/TopicPages.h"
 
-#include "help/window/TopicView.h"
+#include "help/window/MissingPictures.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QGuiApplication>
@@ -48,8 +48,8 @@ std::vector<PartPlace> partsOf(const QTextDocument& document)
     return parts;
 }
 
-/// The picture of that name; a transparent point when there is none: a null picture would be looked for on
-/// the disk.
+/// The picture of that name; a small frame when there is none: a null picture would be looked for on the
+/// disk.
 QImage pictureOf(const QTextDocument& document, const QString& name)
 {
     const auto picture = document.resource(QTextDocument::ImageResource, QUrl(name)).value<QImage>();

@@ -1,6 +1,7 @@
 #include "help/window/TopicView.h"
 
 #include "help/window/HelpBook.h"
+#include "help/window/MissingPictures.h"
 #include "help/window/TopicHtml.h"
 
 #include <QBuffer>
@@ -8,13 +9,7 @@
 #include <QImageReader>
 #include <QScrollBar>
 #include <QTextBlock>
-
-QImage noPicture()
-{
-    QImage point(1, 1, QImage::Format_ARGB32_Premultiplied);
-    point.fill(Qt::transparent);
-    return point;
-}
+#include <utility>
 
 namespace
 {
@@ -51,8 +46,9 @@ TopicView::TopicView(QWidget* parent) : QTextBrowser(parent)
     setOpenLinks(false);
     document()->setDocumentMargin(PageMargin);
     connect(this, &QTextBrowser::anchorClicked, this, &TopicView::openLink);
-    connect(this, &QTextBrowser::sourceChanged, this, [this] {
+    connect(this, &QTextBrowser::sourceChanged, this, [this](const QUrl& url) {
         m_stale = false;
+        complete(url.fragment());
         markWords();
     });
 }
@@ -124,6 +120,7 @@ QVariant TopicView::loadResource(int type, const QUrl& name)
         m_page = url.adjusted(QUrl::RemoveFragment);
         m_pixelsLeft = MostPixels;
         m_styleLeft = LongestStyle;
+        m_justRead = true;
         return page(url);
     case QTextDocument::ImageResource:
         return picture(url);
@@ -188,6 +185,14 @@ void TopicView::changeEvent(QEvent* event)
         reload();
         verticalScrollBar()->setValue(scrolled);
         m_reloading = false;
+    }
+}
+
+void TopicView::complete(const QString& place)
+{
+    if (std::exchange(m_justRead, false) && tellMissingPictures(*document()) && !place.isEmpty()) {
+        // The toolkit has scrolled there already, and then it moved.
+        scrollToAnchor(place);
     }
 }
 

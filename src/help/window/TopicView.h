@@ -7,13 +7,9 @@
 
 class HelpBook;
 
-/// What stands for a picture that the help file does not hold: a transparent point. For a null picture the
-/// toolkit would read the file of that name on the disk.
-QImage noPicture();
-
 /// Shows topics of a help file. Pictures and style sheets come from the file alone, never from the disk or
 /// the net. The pictures of one topic take 32 MiB together, its style sheets 64 kB; what comes after is left
-/// out.
+/// out. Where a picture is missing stand a small frame and its alternative text.
 class TopicView : public QTextBrowser
 {
     Q_OBJECT
@@ -53,6 +49,8 @@ private:
     /// The top when `place` is empty.
     void scrollTo(const QString& place);
     void markWords();
+    /// Completes a page that has been read; `place` is empty for its top.
+    void complete(const QString& place);
 
     const HelpBook* m_book = nullptr;
     /// The page that is being read or shown; what it refers to is relative to it.
@@ -61,6 +59,8 @@ private:
     qint64 m_pixelsLeft = 0;
     qint64 m_styleLeft = 0;
     QStringList m_markedWords;
+    /// The page has been read and what it refers to has not.
+    bool m_justRead = false;
     /// What is on show is not the topic that the history has last.
     bool m_stale = true;
     int m_textSize = 0;
