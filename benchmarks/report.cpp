@@ -28,7 +28,7 @@ std::shared_ptr<const ReportContent> contentOf(int tasks)
     TestServices world;
     FormServices services{file.engine(), *file.engine().clock, world.services.messages,
         world.services.fileDialogs, world.services.errors, world.services.shell, world.services.checkerTimer,
-        world.images, [] {
+        world.images, world.services.longWork, [] {
             return false;
         }};
     RecordedReportWindow* window = nullptr;

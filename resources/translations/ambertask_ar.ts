@@ -73,6 +73,10 @@
         <source>Are you sure you want to delete &apos;%1&apos; category, all tasks under this category will be deleted?</source>
         <translation>هل تريد بالتأكيد حذف الفئة «%1»؟ ستُحذف معها كل المهام التابعة لها.</translation>
     </message>
+    <message>
+        <source>Deleting the category...</source>
+        <translation>جارٍ حذف الفئة…</translation>
+    </message>
 </context>
 <context>
     <name>CategoryPictures</name>
@@ -471,6 +475,14 @@
         <source>Restoring the data...</source>
         <translation>جارٍ استعادة البيانات…</translation>
     </message>
+    <message>
+        <source>Counting the tasks...</source>
+        <translation>جارٍ عدّ المهام…</translation>
+    </message>
+    <message>
+        <source>Deleting the tasks...</source>
+        <translation>جارٍ حذف المهام…</translation>
+    </message>
 </context>
 <context>
     <name>MessageBoxes</name>
@@ -651,6 +663,20 @@
     </message>
 </context>
 <context>
+    <name>Program</name>
+    <message>
+        <source>Loading the tasks...</source>
+        <translation>جارٍ تحميل المهام…</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressBox</name>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>إل&amp;غاء</translation>
+    </message>
+</context>
+<context>
     <name>RecordSet</name>
     <message>
         <source>The value of column &quot;%1&quot; is no whole number.</source>
@@ -706,13 +732,6 @@
     <message>
         <source>&amp;OK</source>
         <translation>م&amp;وافق</translation>
-    </message>
-</context>
-<context>
-    <name>ScreenProgress</name>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>إل&amp;غاء</translation>
     </message>
 </context>
 <context>
@@ -923,6 +942,10 @@
     <message>
         <source>The new skin is now available in the skins list.</source>
         <translation>أصبح المظهر الجديد متاحًا الآن في قائمة المظاهر.</translation>
+    </message>
+    <message>
+        <source>Saving the settings...</source>
+        <translation>جارٍ حفظ الإعدادات…</translation>
     </message>
 </context>
 <context>
@@ -1218,6 +1241,14 @@
         <source>Are you sure you want to delete this task?</source>
         <translation>هل تريد بالتأكيد حذف هذه المهمة؟</translation>
     </message>
+    <message>
+        <source>Loading the tasks...</source>
+        <translation>جارٍ تحميل المهام…</translation>
+    </message>
+    <message>
+        <source>Deleting the task...</source>
+        <translation>جارٍ حذف المهمة…</translation>
+    </message>
 </context>
 <context>
     <name>TopicView</name>
@@ -1352,6 +1383,10 @@
         <source>The report cannot be shown: the module &quot;ambertask_report&quot; is missing from the program&apos;s folder or damaged.</source>
         <translation>تعذّر عرض التقرير: الوحدة «ambertask_report» مفقودة من مجلد البرنامج أو تالفة.</translation>
     </message>
+    <message>
+        <source>Preparing the report...</source>
+        <translation>جارٍ تحضير التقرير…</translation>
+    </message>
 </context>
 <context>
     <name>frmAbout</name>
@@ -1477,6 +1512,10 @@
         <source>Fills in a usual moment; &quot;Remind me later&quot; then puts the reminder off</source>
         <translation>يملأ وقتًا معتادًا؛ ثم يؤجل «ذكّرني لاحقًا» التذكير</translation>
     </message>
+    <message>
+        <source>Saving the reminders...</source>
+        <translation>جارٍ حفظ التذكيرات…</translation>
+    </message>
 </context>
 <context>
     <name>frmCategoryDetails</name>
@@ -1564,6 +1603,10 @@
         <source>Please browse for a custom icon</source>
         <translation>يُرجى اختيار أيقونة مخصصة</translation>
     </message>
+    <message>
+        <source>Saving the category...</source>
+        <translation>جارٍ حفظ الفئة…</translation>
+    </message>
 </context>
 <context>
     <name>frmMain</name>
@@ -1622,6 +1665,10 @@
     <message>
         <source>Ambertaks is still running..</source>
         <translation>لا يزال Ambertask قيد التشغيل.</translation>
+    </message>
+    <message>
+        <source>Loading the tasks...</source>
+        <translation>جارٍ تحميل المهام…</translation>
     </message>
 </context>
 <context>
@@ -1789,6 +1836,10 @@
     <message>
         <source>Pro&amp;gram:</source>
         <translation>ال&amp;برنامج:</translation>
+    </message>
+    <message>
+        <source>Saving the task...</source>
+        <translation>جارٍ حفظ المهمة…</translation>
     </message>
 </context>
 <context>

@@ -73,6 +73,10 @@
         <source>Are you sure you want to delete &apos;%1&apos; category, all tasks under this category will be deleted?</source>
         <translation>Möchten Sie die Kategorie „%1“ wirklich löschen? Alle Aufgaben dieser Kategorie werden mitgelöscht.</translation>
     </message>
+    <message>
+        <source>Deleting the category...</source>
+        <translation>Die Kategorie wird gelöscht…</translation>
+    </message>
 </context>
 <context>
     <name>CategoryPictures</name>
@@ -455,6 +459,14 @@
         <source>Restoring the data...</source>
         <translation>Die Daten werden wiederhergestellt…</translation>
     </message>
+    <message>
+        <source>Counting the tasks...</source>
+        <translation>Die Aufgaben werden gezählt…</translation>
+    </message>
+    <message>
+        <source>Deleting the tasks...</source>
+        <translation>Die Aufgaben werden gelöscht…</translation>
+    </message>
 </context>
 <context>
     <name>MessageBoxes</name>
@@ -635,6 +647,20 @@
     </message>
 </context>
 <context>
+    <name>Program</name>
+    <message>
+        <source>Loading the tasks...</source>
+        <translation>Die Aufgaben werden geladen…</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressBox</name>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+</context>
+<context>
     <name>RecordSet</name>
     <message>
         <source>The value of column &quot;%1&quot; is no whole number.</source>
@@ -690,13 +716,6 @@
     <message>
         <source>&amp;OK</source>
         <translation>&amp;OK</translation>
-    </message>
-</context>
-<context>
-    <name>ScreenProgress</name>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>&amp;Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -903,6 +922,10 @@ ein Fehler auf: %3.</translation>
     <message>
         <source>The new skin is now available in the skins list.</source>
         <translation>Der neue Skin steht jetzt in der Liste der Skins zur Verfügung.</translation>
+    </message>
+    <message>
+        <source>Saving the settings...</source>
+        <translation>Die Einstellungen werden gespeichert…</translation>
     </message>
 </context>
 <context>
@@ -1198,6 +1221,14 @@ ein Fehler auf: %3.</translation>
         <source>Are you sure you want to delete this task?</source>
         <translation>Möchten Sie diese Aufgabe wirklich löschen?</translation>
     </message>
+    <message>
+        <source>Loading the tasks...</source>
+        <translation>Die Aufgaben werden geladen…</translation>
+    </message>
+    <message>
+        <source>Deleting the task...</source>
+        <translation>Die Aufgabe wird gelöscht…</translation>
+    </message>
 </context>
 <context>
     <name>TopicView</name>
@@ -1332,6 +1363,10 @@ ein Fehler auf: %3.</translation>
         <source>The report cannot be shown: the module &quot;ambertask_report&quot; is missing from the program&apos;s folder or damaged.</source>
         <translation>Der Bericht kann nicht angezeigt werden: Das Modul „ambertask_report“ fehlt im Programmordner oder ist beschädigt.</translation>
     </message>
+    <message>
+        <source>Preparing the report...</source>
+        <translation>Der Bericht wird vorbereitet…</translation>
+    </message>
 </context>
 <context>
     <name>frmAbout</name>
@@ -1453,6 +1488,10 @@ ein Fehler auf: %3.</translation>
         <source>Fills in a usual moment; &quot;Remind me later&quot; then puts the reminder off</source>
         <translation>Trägt einen üblichen Zeitpunkt ein; „Später erinnern“ verschiebt dann die Erinnerung</translation>
     </message>
+    <message>
+        <source>Saving the reminders...</source>
+        <translation>Die Erinnerungen werden gespeichert…</translation>
+    </message>
 </context>
 <context>
     <name>frmCategoryDetails</name>
@@ -1540,6 +1579,10 @@ ein Fehler auf: %3.</translation>
         <source>Please browse for a custom icon</source>
         <translation>Bitte wählen Sie ein eigenes Symbol aus</translation>
     </message>
+    <message>
+        <source>Saving the category...</source>
+        <translation>Die Kategorie wird gespeichert…</translation>
+    </message>
 </context>
 <context>
     <name>frmMain</name>
@@ -1598,6 +1641,10 @@ ein Fehler auf: %3.</translation>
     <message>
         <source>Ambertaks is still running..</source>
         <translation>Ambertask läuft weiter.</translation>
+    </message>
+    <message>
+        <source>Loading the tasks...</source>
+        <translation>Die Aufgaben werden geladen…</translation>
     </message>
 </context>
 <context>
@@ -1765,6 +1812,10 @@ ein Fehler auf: %3.</translation>
     <message>
         <source>Pro&amp;gram:</source>
         <translation>P&amp;rogramm:</translation>
+    </message>
+    <message>
+        <source>Saving the task...</source>
+        <translation>Die Aufgabe wird gespeichert…</translation>
     </message>
 </context>
 <context>

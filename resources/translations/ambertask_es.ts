@@ -73,6 +73,10 @@
         <source>Are you sure you want to delete &apos;%1&apos; category, all tasks under this category will be deleted?</source>
         <translation>¿Seguro que desea eliminar la categoría «%1»? También se eliminarán todas sus tareas.</translation>
     </message>
+    <message>
+        <source>Deleting the category...</source>
+        <translation>Eliminando la categoría…</translation>
+    </message>
 </context>
 <context>
     <name>CategoryPictures</name>
@@ -455,6 +459,14 @@
         <source>Restoring the data...</source>
         <translation>Restaurando los datos…</translation>
     </message>
+    <message>
+        <source>Counting the tasks...</source>
+        <translation>Contando las tareas…</translation>
+    </message>
+    <message>
+        <source>Deleting the tasks...</source>
+        <translation>Eliminando las tareas…</translation>
+    </message>
 </context>
 <context>
     <name>MessageBoxes</name>
@@ -635,6 +647,20 @@
     </message>
 </context>
 <context>
+    <name>Program</name>
+    <message>
+        <source>Loading the tasks...</source>
+        <translation>Cargando las tareas…</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressBox</name>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+</context>
+<context>
     <name>RecordSet</name>
     <message>
         <source>The value of column &quot;%1&quot; is no whole number.</source>
@@ -690,13 +716,6 @@
     <message>
         <source>&amp;OK</source>
         <translation>&amp;Aceptar</translation>
-    </message>
-</context>
-<context>
-    <name>ScreenProgress</name>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>&amp;Cancelar</translation>
     </message>
 </context>
 <context>
@@ -903,6 +922,10 @@
     <message>
         <source>The new skin is now available in the skins list.</source>
         <translation>El tema nuevo ya está disponible en la lista de temas.</translation>
+    </message>
+    <message>
+        <source>Saving the settings...</source>
+        <translation>Guardando la configuración…</translation>
     </message>
 </context>
 <context>
@@ -1198,6 +1221,14 @@
         <source>Are you sure you want to delete this task?</source>
         <translation>¿Seguro que desea eliminar esta tarea?</translation>
     </message>
+    <message>
+        <source>Loading the tasks...</source>
+        <translation>Cargando las tareas…</translation>
+    </message>
+    <message>
+        <source>Deleting the task...</source>
+        <translation>Eliminando la tarea…</translation>
+    </message>
 </context>
 <context>
     <name>TopicView</name>
@@ -1332,6 +1363,10 @@
         <source>The report cannot be shown: the module &quot;ambertask_report&quot; is missing from the program&apos;s folder or damaged.</source>
         <translation>No se puede mostrar el informe: el módulo «ambertask_report» falta en la carpeta del programa o está dañado.</translation>
     </message>
+    <message>
+        <source>Preparing the report...</source>
+        <translation>Preparando el informe…</translation>
+    </message>
 </context>
 <context>
     <name>frmAbout</name>
@@ -1453,6 +1488,10 @@
         <source>Fills in a usual moment; &quot;Remind me later&quot; then puts the reminder off</source>
         <translation>Rellena un momento habitual; «Recordar más tarde» aplaza después el recordatorio</translation>
     </message>
+    <message>
+        <source>Saving the reminders...</source>
+        <translation>Guardando los recordatorios…</translation>
+    </message>
 </context>
 <context>
     <name>frmCategoryDetails</name>
@@ -1540,6 +1579,10 @@
         <source>Please browse for a custom icon</source>
         <translation>Seleccione un icono personalizado</translation>
     </message>
+    <message>
+        <source>Saving the category...</source>
+        <translation>Guardando la categoría…</translation>
+    </message>
 </context>
 <context>
     <name>frmMain</name>
@@ -1598,6 +1641,10 @@
     <message>
         <source>Ambertaks is still running..</source>
         <translation>Ambertask sigue en ejecución.</translation>
+    </message>
+    <message>
+        <source>Loading the tasks...</source>
+        <translation>Cargando las tareas…</translation>
     </message>
 </context>
 <context>
@@ -1765,6 +1812,10 @@
     <message>
         <source>Pro&amp;gram:</source>
         <translation>Pro&amp;grama:</translation>
+    </message>
+    <message>
+        <source>Saving the task...</source>
+        <translation>Guardando la tarea…</translation>
     </message>
 </context>
 <context>

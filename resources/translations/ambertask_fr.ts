@@ -73,6 +73,10 @@
         <source>Are you sure you want to delete &apos;%1&apos; category, all tasks under this category will be deleted?</source>
         <translation>Voulez-vous vraiment supprimer la catégorie «&#xa0;%1&#xa0;»&#x202f;? Toutes ses tâches seront également supprimées.</translation>
     </message>
+    <message>
+        <source>Deleting the category...</source>
+        <translation>Suppression de la catégorie en cours…</translation>
+    </message>
 </context>
 <context>
     <name>CategoryPictures</name>
@@ -455,6 +459,14 @@
         <source>Restoring the data...</source>
         <translation>Restauration des données en cours…</translation>
     </message>
+    <message>
+        <source>Counting the tasks...</source>
+        <translation>Comptage des tâches en cours…</translation>
+    </message>
+    <message>
+        <source>Deleting the tasks...</source>
+        <translation>Suppression des tâches en cours…</translation>
+    </message>
 </context>
 <context>
     <name>MessageBoxes</name>
@@ -635,6 +647,20 @@
     </message>
 </context>
 <context>
+    <name>Program</name>
+    <message>
+        <source>Loading the tasks...</source>
+        <translation>Chargement des tâches en cours…</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressBox</name>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+</context>
+<context>
     <name>RecordSet</name>
     <message>
         <source>The value of column &quot;%1&quot; is no whole number.</source>
@@ -690,13 +716,6 @@
     <message>
         <source>&amp;OK</source>
         <translation>&amp;OK</translation>
-    </message>
-</context>
-<context>
-    <name>ScreenProgress</name>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>&amp;Annuler</translation>
     </message>
 </context>
 <context>
@@ -903,6 +922,10 @@
     <message>
         <source>The new skin is now available in the skins list.</source>
         <translation>Le nouveau thème est maintenant disponible dans la liste des thèmes.</translation>
+    </message>
+    <message>
+        <source>Saving the settings...</source>
+        <translation>Enregistrement des paramètres en cours…</translation>
     </message>
 </context>
 <context>
@@ -1198,6 +1221,14 @@
         <source>Are you sure you want to delete this task?</source>
         <translation>Voulez-vous vraiment supprimer cette tâche&#x202f;?</translation>
     </message>
+    <message>
+        <source>Loading the tasks...</source>
+        <translation>Chargement des tâches en cours…</translation>
+    </message>
+    <message>
+        <source>Deleting the task...</source>
+        <translation>Suppression de la tâche en cours…</translation>
+    </message>
 </context>
 <context>
     <name>TopicView</name>
@@ -1332,6 +1363,10 @@
         <source>The report cannot be shown: the module &quot;ambertask_report&quot; is missing from the program&apos;s folder or damaged.</source>
         <translation>Le rapport ne peut pas être affiché&#xa0;: le module «&#xa0;ambertask_report&#xa0;» est absent du dossier du programme ou endommagé.</translation>
     </message>
+    <message>
+        <source>Preparing the report...</source>
+        <translation>Préparation du rapport en cours…</translation>
+    </message>
 </context>
 <context>
     <name>frmAbout</name>
@@ -1453,6 +1488,10 @@
         <source>Fills in a usual moment; &quot;Remind me later&quot; then puts the reminder off</source>
         <translation>Remplit un moment habituel&#x202f;; «&#xa0;Me le rappeler plus tard&#xa0;» reporte ensuite le rappel</translation>
     </message>
+    <message>
+        <source>Saving the reminders...</source>
+        <translation>Enregistrement des rappels en cours…</translation>
+    </message>
 </context>
 <context>
     <name>frmCategoryDetails</name>
@@ -1540,6 +1579,10 @@
         <source>Please browse for a custom icon</source>
         <translation>Veuillez choisir une icône personnalisée</translation>
     </message>
+    <message>
+        <source>Saving the category...</source>
+        <translation>Enregistrement de la catégorie en cours…</translation>
+    </message>
 </context>
 <context>
     <name>frmMain</name>
@@ -1598,6 +1641,10 @@
     <message>
         <source>Ambertaks is still running..</source>
         <translation>Ambertask est toujours en cours d’exécution.</translation>
+    </message>
+    <message>
+        <source>Loading the tasks...</source>
+        <translation>Chargement des tâches en cours…</translation>
     </message>
 </context>
 <context>
@@ -1765,6 +1812,10 @@
     <message>
         <source>Pro&amp;gram:</source>
         <translation>Pro&amp;gramme&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Saving the task...</source>
+        <translation>Enregistrement de la tâche en cours…</translation>
     </message>
 </context>
 <context>

@@ -73,6 +73,10 @@
         <source>Are you sure you want to delete &apos;%1&apos; category, all tasks under this category will be deleted?</source>
         <translation>确定要删除类别“%1”吗？该类别下的所有任务也将被删除。</translation>
     </message>
+    <message>
+        <source>Deleting the category...</source>
+        <translation>正在删除类别…</translation>
+    </message>
 </context>
 <context>
     <name>CategoryPictures</name>
@@ -451,6 +455,14 @@
         <source>Restoring the data...</source>
         <translation>正在还原数据…</translation>
     </message>
+    <message>
+        <source>Counting the tasks...</source>
+        <translation>正在统计任务…</translation>
+    </message>
+    <message>
+        <source>Deleting the tasks...</source>
+        <translation>正在删除任务…</translation>
+    </message>
 </context>
 <context>
     <name>MessageBoxes</name>
@@ -631,6 +643,20 @@
     </message>
 </context>
 <context>
+    <name>Program</name>
+    <message>
+        <source>Loading the tasks...</source>
+        <translation>正在加载任务…</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressBox</name>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>取消(&amp;C)</translation>
+    </message>
+</context>
+<context>
     <name>RecordSet</name>
     <message>
         <source>The value of column &quot;%1&quot; is no whole number.</source>
@@ -686,13 +712,6 @@
     <message>
         <source>&amp;OK</source>
         <translation>确定(&amp;O)</translation>
-    </message>
-</context>
-<context>
-    <name>ScreenProgress</name>
-    <message>
-        <source>&amp;Cancel</source>
-        <translation>取消(&amp;C)</translation>
     </message>
 </context>
 <context>
@@ -898,6 +917,10 @@
     <message>
         <source>The new skin is now available in the skins list.</source>
         <translation>新皮肤现在可以在皮肤列表中选用。</translation>
+    </message>
+    <message>
+        <source>Saving the settings...</source>
+        <translation>正在保存设置…</translation>
     </message>
 </context>
 <context>
@@ -1193,6 +1216,14 @@
         <source>Are you sure you want to delete this task?</source>
         <translation>确定要删除此任务吗？</translation>
     </message>
+    <message>
+        <source>Loading the tasks...</source>
+        <translation>正在加载任务…</translation>
+    </message>
+    <message>
+        <source>Deleting the task...</source>
+        <translation>正在删除任务…</translation>
+    </message>
 </context>
 <context>
     <name>TopicView</name>
@@ -1327,6 +1358,10 @@
         <source>The report cannot be shown: the module &quot;ambertask_report&quot; is missing from the program&apos;s folder or damaged.</source>
         <translation>无法显示报表：程序文件夹中缺少模块“ambertask_report”，或该模块已损坏。</translation>
     </message>
+    <message>
+        <source>Preparing the report...</source>
+        <translation>正在准备报表…</translation>
+    </message>
 </context>
 <context>
     <name>frmAbout</name>
@@ -1447,6 +1482,10 @@
         <source>Fills in a usual moment; &quot;Remind me later&quot; then puts the reminder off</source>
         <translation>填入一个常用时间；再按“稍后提醒”即可推迟提醒</translation>
     </message>
+    <message>
+        <source>Saving the reminders...</source>
+        <translation>正在保存提醒…</translation>
+    </message>
 </context>
 <context>
     <name>frmCategoryDetails</name>
@@ -1534,6 +1573,10 @@
         <source>Please browse for a custom icon</source>
         <translation>请选择一个自定义图标</translation>
     </message>
+    <message>
+        <source>Saving the category...</source>
+        <translation>正在保存类别…</translation>
+    </message>
 </context>
 <context>
     <name>frmMain</name>
@@ -1592,6 +1635,10 @@
     <message>
         <source>Ambertaks is still running..</source>
         <translation>Ambertask 仍在运行。</translation>
+    </message>
+    <message>
+        <source>Loading the tasks...</source>
+        <translation>正在加载任务…</translation>
     </message>
 </context>
 <context>
@@ -1759,6 +1806,10 @@
     <message>
         <source>Pro&amp;gram:</source>
         <translation>程序(&amp;G)：</translation>
+    </message>
+    <message>
+        <source>Saving the task...</source>
+        <translation>正在保存任务…</translation>
     </message>
 </context>
 <context>

@@ -4,6 +4,7 @@
 #include "help/HTMLHelpViewer.h"
 #include "platform/ElidedTextTips.h"
 #include "platform/ImageList.h"
+#include "platform/LongWork.h"
 #include "platform/WaveBackend.h"
 #include "reminders/AlertsHost.h"
 #include "report/ReportWindow.h"
@@ -38,6 +39,7 @@ struct Machine {
     std::function<bool()> hasNotificationArea;
     HelpWindowFactory helpWindow;
     ReportWindowFactory reportWindow;
+    LongWorkTime longWorkTime = LongWorkTime::real();
 };
 
 /// The program: its one instance of each form and of what they share, and how they are wired. Interface
@@ -47,7 +49,8 @@ class Program final : public QObject,
                       private TaskDetailsHost,
                       private AlertsHost,
                       private SettingsPageHost,
-                      private CheckerTimer
+                      private CheckerTimer,
+                      private LongWorkHost
 {
     Q_OBJECT
 
@@ -56,12 +59,13 @@ public:
     ~Program() override;
 
     /// Reads the settings, applies the skin and loads the main window; registers the program with the session
-    /// when `noteFirstStart`, asked once the settings are read, answers true. Throws RuntimeError.
+    /// when `noteFirstStart`, asked once the settings are read, answers true. Throws RuntimeError; Cancelled
+    /// when the program ends meanwhile.
     void start(const std::function<bool()>& noteFirstStart);
     /// Removes the tray icon and asks to leave the event loop; open message boxes are cancelled by that.
     void end();
     /// `end()` has been called.
-    bool isEnding() const { return m_ending; }
+    bool isEnding() const override { return m_ending; }
     /// Unloads the forms in their order. After `end()` and outside of every handler.
     void unload();
 
@@ -114,8 +118,17 @@ private:
     void LoadTasks() override;
     // CheckerTimer
     void setCheckerEnabled(bool enabled) override;
+    // LongWorkHost
+    bool isWaitedFor() const override;
+    QWidget* waitingWindow() const override;
+    void setBackgroundHeld(bool held) override;
+    using Duty = void (Program::*)();
+    /// Whether events are handled in the midst of work: then `duty` is done after it.
+    bool owes(Duty duty);
 
     Machine m_machine;
+    LongWork m_longWork;
+    DatabaseEngine m_engine; ///< of the machine; its statements tell the long work how they go
     ImageList m_images;
     SettingsRecord m_settings;
     FormServices m_services;
@@ -128,6 +141,9 @@ private:
     std::unique_ptr<frmAlerts> m_alerts;
     std::unique_ptr<frmAbout> m_about;
     std::unique_ptr<drTasks> m_report;
+    bool m_isStarting = false;
     bool m_dialogsLoaded = false;
+    bool m_holdsBackground = false;
+    std::vector<Duty> m_owed;
     bool m_ending = false;
 };

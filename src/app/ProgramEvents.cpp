@@ -8,6 +8,10 @@
 #include "settings/SettingsPage.h"
 #include "tasks/frmTaskDetails.h"
 
+#include <QApplication>
+#include <QTimer>
+#include <utility>
+
 // What one part of the program has to hear of another.
 
 void Program::onTaskStored()
@@ -80,12 +84,57 @@ void Program::onDataRestored()
 {
     forgetRecords();
     try {
-        m_main->LoadTasks();
-        m_main->LoadCategories();
-        reloadCategoryCombos();
-        m_main->saveSettings();
+        // The list is built anew more than once: one box for all of it.
+        m_longWork.run(tr("Loading the tasks..."), LongWork::Kind::Reading, [this] {
+            m_main->LoadTasks();
+            m_main->LoadCategories();
+            reloadCategoryCombos();
+            m_main->saveSettings();
+        });
     } catch (const RuntimeError&) {
         // What fails after the file has been replaced ends the operation without a word.
         return;
     }
+}
+
+// What long work asks.
+
+bool Program::isWaitedFor() const
+{
+    return m_isStarting ? !m_settings.minimize_on_start : waitingWindow() != nullptr;
+}
+
+QWidget* Program::waitingWindow() const
+{
+    if (m_isStarting) {
+        return nullptr;
+    }
+    if (QWidget* active = QApplication::activeWindow(); active != nullptr) {
+        return active;
+    }
+    if (m_main->isShown()) {
+        return m_main.get();
+    }
+    return m_alerts != nullptr && m_alerts->isVisible() ? m_alerts.get() : nullptr;
+}
+
+void Program::setBackgroundHeld(bool held)
+{
+    m_holdsBackground = held;
+    if (m_alerts != nullptr) {
+        m_alerts->holdChecks(held);
+    }
+    if (!held) {
+        for (const Duty duty : std::exchange(m_owed, {})) {
+            QTimer::singleShot(0, this, duty);
+        }
+    }
+}
+
+bool Program::owes(Duty duty)
+{
+    if (m_holdsBackground) {
+        m_owed.push_back(duty);
+    }
+    return m_holdsBackground;
 }

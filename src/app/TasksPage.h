@@ -32,7 +32,8 @@ public:
     void reloadCategories();
     /// Sets both due-date pickers to today, selects the specific dates or all dates and rebuilds the list.
     void startWith(bool todayOnly);
-    /// Rebuilds the list from the filters. Throws DatabaseError, and then the list is as it was.
+    /// Rebuilds the list from the filters. Throws DatabaseError, and then the list is as it was; Cancelled
+    /// when the program ends meanwhile.
     void LoadTasks();
 
     void setGridLines(bool shown);
@@ -62,6 +63,7 @@ private:
     void opnTaskType_Click(bool selected);
     void filterList_Click();
 
+    void readTasks();
     QWidget* makeFilterFrame();
     QWidget* makeDueDateFrame();
     QWidget* makeTaskTypeFrame();
@@ -70,6 +72,9 @@ private:
 
     const FormServices& m_services;
     std::function<TaskColumns()> m_shownColumns;
+    bool m_isLoading = false;
+    /// Asked for while the list is read: the filters may have changed since.
+    bool m_loadsAgain = false;
     TaskListModel* m_model;
     GridView* m_grid;
     ComboBox* m_categories;

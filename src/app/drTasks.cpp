@@ -4,6 +4,7 @@
 #include "app/TaskReportQuery.h"
 #include "data/ClsDatabase.h"
 #include "platform/ErrorReport.h"
+#include "platform/LongWork.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Modules.h"
 #include "platform/Shell.h"
@@ -106,6 +107,15 @@ void drTasks::DataReport_Initialize()
 
 void drTasks::printTasks(const TaskFilter& filter, QWidget* owner)
 {
+    work([&](Progress&) { readReport(filter); });
+    if (m_services.alwaysOnTop()) {
+        makeTopmost(m_window->widget());
+    }
+    showOwned(m_window->widget(), owner);
+}
+
+void drTasks::readReport(const TaskFilter& filter)
+{
     Connection connection = ClsDatabase(m_services.engine).Connect();
     connection.open();
     RecordSet records = connection.execute(taskReportQuery(filter));
@@ -114,12 +124,8 @@ void drTasks::printTasks(const TaskFilter& filter, QWidget* owner)
     // A report may stay open for long: read to its end, the record set holds no lock on the data.
     ReportContent content{tr("Tasks Report"), logoIcon().pixmap(LogoSize, 1).toImage(), m_sections,
         readRecords(records, isOrdered(filter))};
-    forFinalizing(std::move(connection), std::move(records));
     window.setContent(std::move(content));
-    if (m_services.alwaysOnTop()) {
-        makeTopmost(window.widget());
-    }
-    showOwned(window.widget(), owner);
+    forFinalizing(std::move(connection), std::move(records));
 }
 
 void drTasks::bindFields()
@@ -211,6 +217,11 @@ QString drTasks::choosePdfFile(QWidget* owner)
 void drTasks::tellFailure(QWidget* owner, const QString& text)
 {
     m_services.messages.tell(owner, MessageBoxes::Icon::Exclamation, text);
+}
+
+void drTasks::work(const std::function<void(Progress&)>& work)
+{
+    m_services.longWork.run(tr("Preparing the report..."), LongWork::Kind::Cancellable, work);
 }
 
 void drTasks::windowClosed()

@@ -27,7 +27,8 @@ public:
     ~drTasks() override;
 
     /// Runs the filter's query on a connection of its own, binds the fields to its columns and shows the
-    /// report above `owner`. Throws RuntimeError, and then the report shows what it showed before.
+    /// report above `owner`. Throws RuntimeError, Cancelled with it, and then the report shows what it showed
+    /// before.
     void printTasks(const TaskFilter& filter, QWidget* owner);
 
     /// Creates the two format objects and attaches them to their controls.
@@ -45,6 +46,7 @@ public:
     QWidget* window() const { return m_window == nullptr ? nullptr : m_window->widget(); }
 
 private:
+    void readReport(const TaskFilter& filter);
     void bindFields();
     /// Reads the record set to its end; in the order of making when it has no other.
     std::vector<std::vector<QString>> readRecords(RecordSet& records, bool isOrdered) const;
@@ -52,6 +54,7 @@ private:
 
     QString choosePdfFile(QWidget* owner) override;
     void tellFailure(QWidget* owner, const QString& text) override;
+    void work(const std::function<void(Progress&)>& work) override;
     void windowClosed() override;
 
     const FormServices& m_services;

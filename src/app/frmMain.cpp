@@ -6,6 +6,7 @@
 #include "categories/CategoriesPage.h"
 #include "platform/ErrorReport.h"
 #include "platform/LetterScale.h"
+#include "platform/LongWork.h"
 #include "platform/ScrollFrame.h"
 #include "platform/Shell.h"
 #include "platform/WindowPlacement.h"
@@ -162,13 +163,7 @@ void frmMain::wakePages()
 void frmMain::Form_Load()
 {
     wakePage(TasksIndex);
-    LoadCategories();
-    m_pages.tasks->fillFilters();
-    m_pages.settings->LoadSkinsList();
-    m_pages.settings->LoadSettingsPage();
-    // Selecting the date option builds the list; nothing runs in between that could change it before the next
-    // step, which would build it again.
-    ApplyChanges();
+    m_services.longWork.run(tr("Loading the tasks..."), LongWork::Kind::Reading, [this] { fillPages(); });
     m_pages.maintenance->prepareFilters();
     m_tabs->setCurrentIndex(TasksIndex);
     m_loaded = true;
@@ -187,6 +182,17 @@ void frmMain::Form_Load()
     } else {
         stayReachable();
     }
+}
+
+void frmMain::fillPages()
+{
+    LoadCategories();
+    m_pages.tasks->fillFilters();
+    m_pages.settings->LoadSkinsList();
+    m_pages.settings->LoadSettingsPage();
+    // Selecting the date option builds the list; nothing runs in between that could change it before the next
+    // step of a load, which would build it again.
+    ApplyChanges();
 }
 
 void frmMain::ApplyChanges()

@@ -54,7 +54,7 @@ public:
     ~frmMain() override;
 
     /// Fills the pages, applies the settings, puts the tray icon in place and shows the window unless it is
-    /// to start hidden. Throws DatabaseError.
+    /// to start hidden. Throws DatabaseError; Cancelled when the program ends meanwhile.
     void Form_Load();
     /// The settings take effect on the window.
     void ApplyChanges();
@@ -109,6 +109,7 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    void fillPages();
     void wakePage(int page);
     void tabMain_Switch(int page);
     void mnuFeedBack_Click();

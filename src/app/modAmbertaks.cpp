@@ -91,6 +91,8 @@ int runInstance(Application& application, const Installation& installation, cons
                     .arg(folderFailure));
         }
         program.start(noteFirstStart);
+    } catch (const Cancelled&) {
+        // The program has been asked to end while it read a long list.
     } catch (const RuntimeError& error) {
         ScreenErrorReport::reportFailedStart(error.text());
         return 1;

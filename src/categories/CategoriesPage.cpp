@@ -6,6 +6,7 @@
 #include "data/ClsCategory.h"
 #include "platform/ErrorReport.h"
 #include "platform/ImageList.h"
+#include "platform/LongWork.h"
 #include "platform/MessageBoxes.h"
 #include "platform/WindowPlacement.h"
 
@@ -214,8 +215,10 @@ void CategoriesPage::btnDeleteCat_Click()
     if (!m_services.messages.ask(window(), question)) {
         return;
     }
-    ClsCategory(m_services.engine)
-        .DeleteById(narrowId(id, QT_TRANSLATE_NOOP("OverflowError", "category id")));
+    m_services.longWork.run(tr("Deleting the category..."), LongWork::Kind::Cancellable, [&] {
+        ClsCategory(m_services.engine)
+            .DeleteById(narrowId(id, QT_TRANSLATE_NOOP("OverflowError", "category id")));
+    });
 
     // The list may have been rebuilt while the question was open.
     if (const int row = rowOf(id); row >= 0) {

@@ -6,6 +6,7 @@
 #include "platform/ErrorReport.h"
 #include "platform/FileDialogs.h"
 #include "platform/ImageList.h"
+#include "platform/LongWork.h"
 #include "platform/MessageBoxes.h"
 #include "ui/CheckerTimer.h"
 #include "ui/CloseBox.h"
@@ -177,23 +178,31 @@ void frmCategoryDetails::btnOk_Click()
     if (refuses()) {
         return;
     }
-    if (m_tag.isEmpty()) {
-        if (enteredCategory().Add()) {
-            m_services.messages.tell(
-                this, MessageBoxes::Icon::Exclamation, tr("A category with the same name already exists"));
-            m_controls.txtCatName->selectAll();
-            m_controls.txtCatName->setFocus();
-            return;
-        }
-    } else {
-        requireEditedCategory();
-        ClsCategory category = enteredCategory();
-        category.setId(narrowId(m_tag.toLongLong(), QT_TRANSLATE_NOOP("OverflowError", "category id")));
-        category.Update();
+    bool isStored = false;
+    m_services.longWork.run(
+        tr("Saving the category..."), LongWork::Kind::Storing, [&] { isStored = store(); });
+    if (!isStored) {
+        m_services.messages.tell(
+            this, MessageBoxes::Icon::Exclamation, tr("A category with the same name already exists"));
+        m_controls.txtCatName->selectAll();
+        m_controls.txtCatName->setFocus();
+        return;
     }
     emit categoryStored();
     hide();
     emit categorySaved();
+}
+
+bool frmCategoryDetails::store() const
+{
+    if (m_tag.isEmpty()) {
+        return !enteredCategory().Add();
+    }
+    requireEditedCategory();
+    ClsCategory category = enteredCategory();
+    category.setId(narrowId(m_tag.toLongLong(), QT_TRANSLATE_NOOP("OverflowError", "category id")));
+    category.Update();
+    return true;
 }
 
 bool frmCategoryDetails::refuses()

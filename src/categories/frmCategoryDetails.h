@@ -68,6 +68,8 @@ private:
     void showCustomPicture(const QIcon& picture);
     /// Tells what is missing and leads there; true when something is.
     bool refuses();
+    /// False when the name of a new category is taken.
+    bool store() const;
     ClsCategory enteredCategory() const;
     /// The name of the custom picture; a newly chosen one has been copied when this returns.
     QString storeCustomPicture() const;

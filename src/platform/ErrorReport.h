@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/RuntimeError.h"
+#include "platform/Progress.h"
 
 #include <QObject>
 #include <functional>
@@ -19,12 +19,14 @@ public:
     /// Tells the user what failed and why; returns when the user has answered.
     virtual void report(const QString& text) = 0;
 
-    /// Runs `action`; a failure is reported. True when it ran to its end.
+    /// Runs `action`; a failure is reported, what was cancelled is none. True when it ran to its end.
     template <typename Action> bool guard(Action&& action)
     {
         try {
             std::forward<Action>(action)();
             return true;
+        } catch (const Cancelled&) {
+            return false;
         } catch (const RuntimeError& error) {
             report(error.text());
         } catch (const std::exception& error) {

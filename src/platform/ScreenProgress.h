@@ -2,23 +2,20 @@
 
 #include "platform/Progress.h"
 
-#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QPointer>
+#include <QWidget>
 #include <chrono>
 #include <functional>
 #include <memory>
 
-class QDialog;
-class QProgressBar;
+class ProgressBox;
 
 /// Keeps the windows painted during a long operation on the interface thread and takes no input meanwhile.
 /// Once the operation has taken longer than a second, a box shows how far it is and offers to cancel it.
 class ScreenProgress final : public Progress
 {
-    Q_DECLARE_TR_FUNCTIONS(ScreenProgress)
-
 public:
     /// The box belongs to the window of `owner` and says `text`. It comes up after `patience`.
     ScreenProgress(
@@ -33,15 +30,11 @@ public:
     void advance(qint64 done, qint64 total) override;
 
 private:
-    void showBox();
-
     QPointer<QWidget> m_owner;
     QString m_text;
     std::chrono::milliseconds m_patience;
     QEventLoop m_loop;
     QElapsedTimer m_running;
     QElapsedTimer m_sincePaint;
-    std::unique_ptr<QDialog> m_box;
-    QProgressBar* m_bar = nullptr;
-    bool m_cancelled = false;
+    std::unique_ptr<ProgressBox> m_box;
 };

@@ -120,8 +120,20 @@ void frmAlerts::setHelpEnabled(bool enabled)
     m_controls.btnHelp->setEnabled(enabled);
 }
 
+void frmAlerts::holdChecks(bool held)
+{
+    m_holdsChecks = held;
+    if (!held && std::exchange(m_owesCheck, false)) {
+        QTimer::singleShot(0, this, &frmAlerts::tmrTasksChecker_Timer);
+    }
+}
+
 void frmAlerts::tmrTasksChecker_Timer()
 {
+    if (m_holdsChecks) {
+        m_owesCheck = true;
+        return;
+    }
     try {
         check();
     } catch (const std::exception&) {
@@ -212,7 +224,7 @@ void frmAlerts::btnDismiss_Click()
     const int row = m_controls.grdTasks->selectedRow();
     if (row >= 0) {
         Connection connection = openConnection();
-        store(connection,
+        store(connection, LongWork::Kind::Storing,
             QStringLiteral("update tasks set dismissed=1,reminder_on=0 where task_id = ")
                 + m_reminders.idText(row));
         removeReminder(row);
@@ -225,7 +237,7 @@ void frmAlerts::btnDismiss_Click()
 void frmAlerts::btnDismissAll_Click()
 {
     Connection connection = openConnection();
-    store(connection,
+    store(connection, LongWork::Kind::Cancellable,
         QStringLiteral("update  tasks set dismissed=1,reminder_on=0 where reminder_date_time <= now() and "
                        "dismissed =0 and reminder_on=true"));
     hide();
@@ -252,7 +264,7 @@ void frmAlerts::btnRemindMeLater_Click()
         return;
     }
     Connection connection = openConnection();
-    store(connection,
+    store(connection, LongWork::Kind::Storing,
         QStringLiteral("update tasks set played=0 ,reminder_date_time =#") + monthFirstText(date, time)
             + QStringLiteral("# where task_id = ") + m_reminders.idText(row));
     m_fired.remove(m_reminders.idText(row).toInt());
@@ -277,10 +289,12 @@ Connection frmAlerts::openConnection() const
     return connection;
 }
 
-void frmAlerts::store(Connection& connection, const QString& statement)
+void frmAlerts::store(Connection& connection, LongWork::Kind kind, const QString& statement)
 {
-    connection.execute(statement);
-    connection.commit();
+    m_services.longWork.run(tr("Saving the reminders..."), kind, [&] {
+        connection.execute(statement);
+        connection.commit();
+    });
 }
 
 void frmAlerts::removeReminder(int row)

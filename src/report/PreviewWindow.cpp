@@ -1,5 +1,6 @@
 #include "report/PreviewWindow.h"
 
+#include "platform/Progress.h"
 #include "platform/WrappingRow.h"
 #include "platform/printing/PageOutput.h"
 #include "platform/printing/WindowPrinting.h"
@@ -87,9 +88,9 @@ QLayout* PreviewWindow::makeCommandRow()
     for (const QPageSize::PageSizeId size : PaperSizes) {
         m_paper->addItem(QPageSize::name(size), size);
     }
-    m_paper->setCurrentIndex(m_paper->findData(m_printer.pageLayout().pageSize().id()));
     m_orientation->addItem(tr("Portrait"), QPageLayout::Portrait);
     m_orientation->addItem(tr("Landscape"), QPageLayout::Landscape);
+    showPageFormat();
 
     auto* row = new WrappingRow;
     row->addWidget(m_print);
@@ -156,11 +157,11 @@ void PreviewWindow::makeShortcuts()
 
 void PreviewWindow::setContent(ReportContent content)
 {
-    m_layout.reset();
-    m_content = std::make_shared<const ReportContent>(std::move(content));
+    auto next = std::make_shared<const ReportContent>(std::move(content));
+    m_layout = layOut(next, printableArea(m_printer.pageLayout()));
+    m_content = std::move(next);
     setWindowTitle(m_content->caption);
     m_page = 0;
-    m_layout = layOut(printableArea(m_printer.pageLayout()));
     showPage();
     widenForRows();
 }
@@ -181,9 +182,17 @@ int PreviewWindow::pageCount() const
 
 std::shared_ptr<const ReportLayout> PreviewWindow::layOut(QSizeF area) const
 {
-    return m_layout != nullptr && m_layout->page() == area
-        ? m_layout
-        : std::make_shared<const ReportLayout>(m_content, area, layoutDirection());
+    return m_layout->page() == area ? m_layout : layOut(m_content, area);
+}
+
+std::shared_ptr<const ReportLayout> PreviewWindow::layOut(
+    const std::shared_ptr<const ReportContent>& content, QSizeF area) const
+{
+    std::shared_ptr<const ReportLayout> laid;
+    m_host.work([&](Progress& progress) {
+        laid = std::make_shared<const ReportLayout>(content, area, layoutDirection(), &progress);
+    });
+    return laid;
 }
 
 void PreviewWindow::goToPage(int page)
@@ -236,12 +245,24 @@ void PreviewWindow::pageFormat_Click()
     QPageLayout page = m_printer.pageLayout();
     page.setPageSize(QPageSize(static_cast<QPageSize::PageSizeId>(m_paper->currentData().toInt())));
     page.setOrientation(static_cast<QPageLayout::Orientation>(m_orientation->currentData().toInt()));
-    m_printer.setPageLayout(page);
     // What stood at the top of the page in view stays in view.
     const std::size_t record = m_layout->firstRecord(m_page);
-    m_layout = layOut(printableArea(page));
+    try {
+        m_layout = layOut(printableArea(page));
+        m_printer.setPageLayout(page);
+    } catch (const Cancelled&) {
+        showPageFormat();
+        return;
+    }
     m_page = m_layout->pageOf(record);
     showPage();
+}
+
+void PreviewWindow::showPageFormat()
+{
+    const QPageLayout page = m_printer.pageLayout();
+    m_paper->setCurrentIndex(m_paper->findData(page.pageSize().id()));
+    m_orientation->setCurrentIndex(m_orientation->findData(page.orientation()));
 }
 
 void PreviewWindow::cmbZoom_Click(int index)
@@ -290,7 +311,13 @@ void PreviewWindow::btnPrint_Click()
         windowTitle(), m_printer.pageLayout(), pageCount(), m_page, [this](QSizeF area) {
             return layOut(area);
         }};
-    const auto failure = printThroughDialog(*this, request);
+    std::optional<PrintFailure> failure;
+    try {
+        failure = printThroughDialog(*this, request);
+    } catch (const Cancelled&) {
+        // While the pages were laid out for another paper.
+        return;
+    }
     if (failure && failure->file.isEmpty()) {
         tell(tr("The report could not be printed."));
     } else if (failure) {

@@ -51,7 +51,10 @@ private:
     QLayout* makePageRow();
     void makeShortcuts();
     std::shared_ptr<const ReportLayout> layOut(QSizeF area) const;
+    std::shared_ptr<const ReportLayout> layOut(
+        const std::shared_ptr<const ReportContent>& content, QSizeF area) const;
     void showPage();
+    void showPageFormat();
     /// A window that has not been shown yet gets the room for its controls in two rows.
     void widenForRows();
     void showZoom();

@@ -1,5 +1,7 @@
 #include "report/ReportLayout.h"
 
+#include "platform/Progress.h"
+
 #include <QPainter>
 #include <algorithm>
 #include <numeric>
@@ -15,6 +17,8 @@ constexpr qreal LineThickness = millimetres(0.25);
 constexpr qreal LabelGap = millimetres(3);
 constexpr qreal LogoGap = millimetres(4);
 constexpr qreal TitleWordGap = 0.5; ///< of a blank
+/// So many are measured in about a millisecond.
+constexpr std::size_t RecordsOfProgress = 512;
 constexpr qreal TitleBase = 0.7; ///< of the header's height
 
 const QColor Ink(0x1c, 0x1c, 0x1c);
@@ -65,8 +69,8 @@ struct ReportLayout::LaidRecord {
     std::vector<Band> bands;
 };
 
-ReportLayout::ReportLayout(
-    std::shared_ptr<const ReportContent> content, QSizeF page, Qt::LayoutDirection direction)
+ReportLayout::ReportLayout(std::shared_ptr<const ReportContent> content, QSizeF page,
+    Qt::LayoutDirection direction, Progress* progress)
     : m_content(std::move(content)), m_page(page), m_direction(direction), m_label(9, false, Faint),
       m_text(10, false, Ink), m_name(12, true, Ink), m_title(18, true, Amber), m_subtitle(18, false, Ink)
 {
@@ -89,7 +93,7 @@ ReportLayout::ReportLayout(
         m_stacked = true;
         placeCodes();
     }
-    findPageStarts();
+    findPageStarts(progress);
 }
 
 ReportLayout::~ReportLayout() = default;
@@ -233,13 +237,16 @@ const ReportLayout::LaidRecord& ReportLayout::laidRecord(std::size_t record) con
     return *m_laid;
 }
 
-void ReportLayout::findPageStarts()
+void ReportLayout::findPageStarts(Progress* progress)
 {
     const qreal room = m_page.height() - HeaderHeight - HeaderGap;
     m_pages.push_back({0, 0});
     qreal y = 0;
     std::vector<qreal> bands;
     for (std::size_t record = 0; record < m_content->records.size(); ++record) {
+        if (progress != nullptr && record % RecordsOfProgress == 0) {
+            progress->advance(static_cast<qint64>(record), static_cast<qint64>(m_content->records.size()));
+        }
         measure(record, bands);
         const qreal height = sum(bands);
         if (y > 0 && y + height > room) {

@@ -15,8 +15,9 @@ class ReportLayout final : public PrintedPages
 public:
     /// `page` is the printable area, in units. Read from right to left, labels and logo stand at the right; a
     /// text itself runs in its own direction either way.
+    /// `progress`, which may be null, is told of the records as they are measured. Throws Cancelled.
     ReportLayout(std::shared_ptr<const ReportContent> content, QSizeF page,
-        Qt::LayoutDirection direction = Qt::LeftToRight);
+        Qt::LayoutDirection direction = Qt::LeftToRight, Progress* progress = nullptr);
     ~ReportLayout() override;
 
     QSizeF page() const { return m_page; }
@@ -52,7 +53,7 @@ private:
     bool hasRoomSideBySide() const;
     /// Heights of the bands of a record, from its top to its line.
     void measure(std::size_t record, std::vector<qreal>& bands) const;
-    void findPageStarts();
+    void findPageStarts(Progress* progress);
     const LaidRecord& laidRecord(std::size_t record) const;
     std::unique_ptr<LaidRecord> layOut(std::size_t record) const;
     void paintHeader(QPainter& painter) const;

@@ -6,6 +6,7 @@
 #include <memory>
 #include <vector>
 
+class Progress;
 class QWidget;
 
 /// A control of a report section.
@@ -45,6 +46,9 @@ public:
     virtual QString choosePdfFile(QWidget* owner) = 0;
     /// Tells the user what failed and why.
     virtual void tellFailure(QWidget* owner, const QString& text) = 0;
+    /// Runs work that may take long and tells how far it is; "Cancel" and the end of the program throw
+    /// Cancelled out of it.
+    virtual void work(const std::function<void(Progress&)>& work) = 0;
     /// The user has closed the window.
     virtual void windowClosed() = 0;
 };
@@ -61,7 +65,8 @@ public:
 
     /// The top-level window, named "drTasks"; it lives as long as this object, which owns it.
     virtual QWidget* widget() = 0;
-    /// Replaces what the window shows and turns to the first page.
+    /// Replaces what the window shows and turns to the first page. Throws Cancelled, and then the window
+    /// shows what it showed before.
     virtual void setContent(ReportContent content) = 0;
 };
 

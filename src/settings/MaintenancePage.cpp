@@ -5,6 +5,7 @@
 #include "platform/Clock.h"
 #include "platform/ErrorReport.h"
 #include "platform/FileDialogs.h"
+#include "platform/LongWork.h"
 #include "platform/MessageBoxes.h"
 #include "platform/ScreenProgress.h"
 #include "settings/DataFileCopies.h"
@@ -179,8 +180,11 @@ void MaintenancePage::btnDeleteTasksMaintenance_Click()
 {
     const ClsTask store(m_services.engine);
     const Criteria counted = shownCriteria();
-    const qint32 count =
-        store.GetTasksCount(counted.category, counted.status, counted.from, counted.to, counted.taskType);
+    qint32 count = 0;
+    m_services.longWork.run(tr("Counting the tasks..."), LongWork::Kind::Cancellable, [&] {
+        count =
+            store.GetTasksCount(counted.category, counted.status, counted.from, counted.to, counted.taskType);
+    });
     if (count == 0) {
         m_services.messages.tell(window(), MessageBoxes::Icon::Exclamation,
             tr("There is no tasks according to the selected criteria!"));
@@ -191,7 +195,10 @@ void MaintenancePage::btnDeleteTasksMaintenance_Click()
     }
     // The category lists may have been reloaded while the question was open.
     const Criteria confirmed = shownCriteria();
-    store.DeleteTasks(confirmed.category, confirmed.status, confirmed.from, confirmed.to, confirmed.taskType);
+    m_services.longWork.run(tr("Deleting the tasks..."), LongWork::Kind::Cancellable, [&] {
+        store.DeleteTasks(
+            confirmed.category, confirmed.status, confirmed.from, confirmed.to, confirmed.taskType);
+    });
     emit tasksDeleted();
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/ErrorReport.h"
 #include "platform/FileDialogs.h"
+#include "platform/LongWork.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Registry.h"
 #include "platform/Shell.h"
@@ -186,7 +187,8 @@ SettingsRecord SettingsPage::shownSettings() const
 
 void SettingsPage::btnSave_Click()
 {
-    SettingsStore(m_services.engine).save(shownSettings(), m_record);
+    m_services.longWork.run(tr("Saving the settings..."), LongWork::Kind::Storing,
+        [this] { SettingsStore(m_services.engine).save(shownSettings(), m_record); });
     updateRunEntry();
     if (m_skinChanged) {
         applySkin();

@@ -3,6 +3,7 @@
 #include "platform/Clock.h"
 #include "platform/ErrorReport.h"
 #include "platform/FileDialogs.h"
+#include "platform/LongWork.h"
 #include "platform/MessageBoxes.h"
 #include "tasks/TaskDetailsHost.h"
 #include "ui/CheckerTimer.h"
@@ -221,7 +222,8 @@ void frmTaskDetails::btnOk_Click()
         controlOf(refusal->field)->setFocus();
         return;
     }
-    store(entered.toTask(m_services.engine, edited()));
+    m_services.longWork.run(tr("Saving the task..."), LongWork::Kind::Storing,
+        [&] { store(entered.toTask(m_services.engine, edited())); });
     emit taskStored();
     hide();
     emit taskSaved();

@@ -7,6 +7,7 @@ class Clock;
 class ErrorReport;
 class FileDialogs;
 class ImageList;
+class LongWork;
 class MessageBoxes;
 class Shell;
 struct DatabaseEngine;
@@ -22,6 +23,8 @@ struct FormServices {
     CheckerTimer& checkerTimer;
     /// The pictures of categories, statuses, priorities and reminders; `LoadCategories` appends custom ones.
     ImageList& imgLstCategories;
+    /// Told by every statement of the engine how it goes; for what takes long with very many tasks.
+    LongWork& longWork;
     /// The setting `always_on_top`.
     std::function<bool()> alwaysOnTop;
 };

@@ -53,7 +53,10 @@ struct RecordedMachine {
                 auto window = std::make_unique<RecordedReportWindow>();
                 reportWindow = window.get();
                 return window;
-            }};
+            },
+            {[this] { return workTime += workStep; },
+                [](std::chrono::milliseconds) {
+                }}};
     }
     void setting(const QString& column, int value) const
     {
@@ -70,4 +73,7 @@ struct RecordedMachine {
     QStringList helpLog;
     QPointer<RecordedHelpWindow> helpWindow;
     QPointer<RecordedReportWindow> reportWindow;
+    /// The time of long work stands still, unless a test makes every look at it take so long.
+    std::chrono::milliseconds workStep{};
+    std::chrono::milliseconds workTime{};
 };

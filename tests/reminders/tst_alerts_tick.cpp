@@ -29,6 +29,30 @@ private slots:
         QCOMPARE(alerts.database().statements().take(), QStringList({DueQuery, MarkPlayed}));
     }
 
+    void aCheckThatIsHeldRunsOnceAsSoonAsItMay()
+    {
+        AlertsFixture alerts;
+        alerts.aDueTask(QStringLiteral("First")).add();
+        alerts.window.holdChecks(true);
+        alerts.tick();
+        alerts.tick();
+        QCOMPARE(alerts.database().statements().take(), QStringList());
+        alerts.window.holdChecks(false);
+        QVERIFY2(!alerts.window.isVisible(), "not within what held it");
+        QCoreApplication::processEvents();
+        QVERIFY(alerts.window.isVisible());
+        QCOMPARE(alerts.database().statements().take(), QStringList({DueQuery, MarkPlayed}));
+    }
+
+    void withoutATickMeanwhileNoneRunsAfterHolding()
+    {
+        AlertsFixture alerts;
+        alerts.window.holdChecks(true);
+        alerts.window.holdChecks(false);
+        QCoreApplication::processEvents();
+        QCOMPARE(alerts.database().statements().take(), QStringList());
+    }
+
     void theNextTickWithTheSameTwoDoesNothing()
     {
         AlertsFixture alerts;

@@ -3,16 +3,31 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDialog>
 #include <QLabel>
 #include <QPrintPreviewWidget>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QSet>
 #include <QSpinBox>
 #include <QTest>
+#include <QTimer>
 
 class PreviewWindowTest : public TestCase
 {
     Q_OBJECT
+
+private:
+    /// What is laid out next takes long, and its box is cancelled.
+    void cancelNextBox(PreviewUnderTest& f)
+    {
+        f.host.workTakes = LongWork::Patience;
+        QTimer::singleShot(0, this, [] {
+            if (auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+                box->findChild<QPushButton*>(QStringLiteral("btnCancel"))->click();
+            }
+        });
+    }
 
 private slots:
     void theWindowIsAResizableOneNamedAfterTheReport()
@@ -157,6 +172,50 @@ private slots:
         f.window.setContent(contentOf(recordsOf(2)));
         QCOMPARE(f.pageText(), QStringLiteral("1 of 1"));
         QVERIFY(f.picture() != before);
+    }
+
+    void aCancelledContentLeavesTheReportInView()
+    {
+        PreviewUnderTest f(60);
+        f.window.goToPage(2);
+        const QString before = f.pageText();
+        cancelNextBox(f);
+        QVERIFY_THROWS_EXCEPTION(Cancelled, f.window.setContent(contentOf(recordsOf(2))));
+        QCOMPARE(f.pageText(), before);
+        QCOMPARE(f.window.page(), 2);
+    }
+
+    void aCancelledPaperIsTakenBack()
+    {
+        PreviewUnderTest f(60);
+        f.window.goToPage(2);
+        const QString before = f.pageText();
+        const QPageLayout layout = f.window.pageLayout();
+        const auto* papers = f.control<QComboBox>("cmbPaper");
+        const int paper = papers->currentIndex();
+        cancelNextBox(f);
+        f.choose("cmbPaper", papers->findText(QStringLiteral("A5")));
+        QCOMPARE(papers->currentIndex(), paper);
+        QCOMPARE(f.window.pageLayout(), layout);
+        QCOMPARE(f.pageText(), before);
+        f.host.workTakes = {};
+        f.choose("cmbPaper", papers->findText(QStringLiteral("A5")));
+        QVERIFY(f.pageText() != before);
+    }
+
+    void aLongLayoutTellsHowFarItIs()
+    {
+        PreviewUnderTest f(1);
+        f.host.workTakes = LongWork::Patience;
+        int seen = -1;
+        QTimer::singleShot(0, this, [&seen] {
+            if (const auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+                seen = box->findChild<QProgressBar*>()->maximum();
+            }
+        });
+        f.window.setContent(contentOf(recordsOf(2000)));
+        QVERIFY(seen > 0);
+        QVERIFY(f.window.pageCount() > 100);
     }
 
     void thePaperIsWhiteInADarkSkin()

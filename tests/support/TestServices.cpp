@@ -10,8 +10,8 @@ constexpr int FixedPictures = 21;
 }
 
 TestServices::TestServices()
-    : services{
-        database.engine(), database.clock(), dialogs, dialogs, dialogs, shell, checkerTimer, images, [this] {
+    : services{database.engine(), database.clock(), dialogs, dialogs, dialogs, shell, checkerTimer, images,
+        longWork.work, [this] {
             return alwaysOnTop;
         }}
 {

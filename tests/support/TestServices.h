@@ -2,6 +2,7 @@
 
 #include "platform/ImageList.h"
 #include "platform/Shell.h"
+#include "support/RecordedLongWork.h"
 #include "support/ScriptedDialogs.h"
 #include "support/TestDatabase.h"
 #include "ui/CheckerTimer.h"
@@ -50,6 +51,7 @@ struct TestServices {
     TestServices();
 
     TestDatabase database;
+    RecordedLongWork longWork;
     ScriptedDialogs dialogs;
     RecordedShell shell;
     RecordedCheckerTimer checkerTimer;

@@ -5,7 +5,6 @@
 #include "platform/database/DatabaseError.h"
 #include "platform/database/Dialect.h"
 #include "platform/database/Hardening.h"
-#include "platform/database/UnicodeCollation.h"
 
 #include <QFileInfo>
 #include <algorithm>
@@ -160,7 +159,7 @@ void Session::harden()
 {
     check(hardenConnection(m_database));
     check(sqlite3_busy_timeout(m_database, BusyMilliseconds));
-    check(installUnicodeNoCase(m_database));
+    check(installUnicodeNoCase(m_database, m_comparing));
     check(sqlite3_create_function_v2(m_database, "now", 0,
         SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_DIRECTONLY, this, answerNow, nullptr, nullptr, nullptr));
     check(sqlite3_set_authorizer(m_database, authorize, this));
@@ -183,6 +182,14 @@ int Session::tellProgress(void* session)
     } catch (...) {
         self->m_thrownByProgress = std::current_exception();
         return 1;
+    }
+}
+
+void Session::tellComparing(void* session)
+{
+    auto* self = static_cast<Session*>(session);
+    if (self->m_progress != nullptr && tellProgress(session) != 0) {
+        sqlite3_interrupt(self->m_database);
     }
 }
 
@@ -355,16 +362,15 @@ void Session::failToOpen(const QString& why)
 void Session::failStorage(const QString& text)
 {
     undo();
+    if (m_thrownByProgress) {
+        std::rethrow_exception(std::exchange(m_thrownByProgress, nullptr));
+    }
     throw DatabaseError(Kind::Storage, text);
 }
 
 void Session::fail(int code, const QString& statement)
 {
-    if (m_thrownByProgress) {
-        undo();
-        std::rethrow_exception(std::exchange(m_thrownByProgress, nullptr));
-    }
-    if (isStatementError(code)) {
+    if (isStatementError(code) && !m_thrownByProgress) {
         throw DatabaseError(
             Kind::Statement, tr("The statement failed: %1.\n%2").arg(reason(code), shortened(statement)));
     }

@@ -57,8 +57,15 @@ char32_t nextFolded(std::string_view text, std::size_t& position)
     return codePoint < FirstOfMalformed ? QChar::toCaseFolded(codePoint) : codePoint;
 }
 
-int compareColumn(void*, int leftSize, const void* left, int rightSize, const void* right)
+/// So many comparisons are done in about a millisecond.
+constexpr unsigned ComparisonsOfProgress = 16384;
+
+int compareColumn(void* watch, int leftSize, const void* left, int rightSize, const void* right)
 {
+    if (auto& watched = *static_cast<ComparisonWatch*>(watch);
+        ++watched.compared % ComparisonsOfProgress == 0) {
+        watched.tell(watched.whom);
+    }
     return compareIgnoringCase({static_cast<const char*>(left), static_cast<std::size_t>(leftSize)},
         {static_cast<const char*>(right), static_cast<std::size_t>(rightSize)});
 }
@@ -86,7 +93,7 @@ int compareIgnoringCase(std::string_view left, std::string_view right)
     return static_cast<int>(l < left.size()) - static_cast<int>(r < right.size());
 }
 
-int installUnicodeNoCase(sqlite3* database)
+int installUnicodeNoCase(sqlite3* database, ComparisonWatch& watch)
 {
-    return sqlite3_create_collation_v2(database, "NOCASE", SQLITE_UTF8, nullptr, compareColumn, nullptr);
+    return sqlite3_create_collation_v2(database, "NOCASE", SQLITE_UTF8, &watch, compareColumn, nullptr);
 }

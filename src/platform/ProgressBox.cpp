@@ -1,0 +1,59 @@
+#include "platform/ProgressBox.h"
+
+#include <QBoxLayout>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+
+namespace
+{
+
+/// The bar counts in these: a number of bytes may be too large for it.
+constexpr int Steps = 1000;
+constexpr int BoxWidth = 360;
+
+} // namespace
+
+ProgressBox::ProgressBox(QWidget* owner, const QString& text, Offers offers)
+    : QDialog(owner), m_offers(offers), m_bar(new QProgressBar)
+{
+    setObjectName(QStringLiteral("progress"));
+    setWindowTitle(QStringLiteral("Ambertask"));
+    setWindowModality(Qt::ApplicationModal);
+    if (offers == Offers::Nothing) {
+        // A close box would promise what it does not do.
+        setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
+    }
+    if (owner != nullptr && owner->window()->windowFlags().testFlag(Qt::WindowStaysOnTopHint)) {
+        setWindowFlag(Qt::WindowStaysOnTopHint);
+    }
+    auto* label = new QLabel(text);
+    label->setTextFormat(Qt::PlainText);
+    m_bar->setAccessibleName(text);
+    m_bar->setTextVisible(false);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(label);
+    layout->addWidget(m_bar);
+    if (offers == Offers::Cancel) {
+        auto* cancel = new QPushButton(tr("&Cancel"));
+        cancel->setObjectName(QStringLiteral("btnCancel"));
+        layout->addWidget(cancel, 0, Qt::AlignRight);
+        connect(cancel, &QPushButton::clicked, this, &ProgressBox::reject);
+    }
+    setMinimumWidth(BoxWidth);
+}
+
+void ProgressBox::setProgress(qint64 done, qint64 total)
+{
+    m_bar->setRange(0, total == 0 ? 0 : Steps);
+    m_bar->setValue(total == 0 ? 0 : static_cast<int>(done * Steps / total));
+}
+
+// The close box and Escape reject a dialog, too.
+void ProgressBox::reject()
+{
+    if (m_offers == Offers::Cancel) {
+        m_cancelled = true;
+        QDialog::reject();
+    }
+}
