@@ -1,9 +1,9 @@
 #include "platform/database/IndexProof.h"
 
 #include "platform/database/Connection.h"
+#include "platform/database/IndexPages.h"
 
 #include <QRandomGenerator>
-#include <QStringList>
 #include <algorithm>
 #include <cstring>
 #include <sqlite3.h>
@@ -28,68 +28,63 @@ struct Part {
     qint64 number = 0;
     std::string text;
 
-    /// As the engine orders them: positive when what comes next is greater.
-    int compareWith(bool nextIsText, qint64 next, std::string_view nextText) const
+    void keep(const StoredValue& value)
     {
-        if (isText != nextIsText) {
-            return nextIsText ? 1 : -1;
+        isText = value.isText;
+        number = value.number;
+        text = value.text;
+    }
+    /// As the engine orders them: positive when `next` is greater.
+    int compareWith(const StoredValue& next) const
+    {
+        if (isText != next.isText) {
+            return next.isText ? 1 : -1;
         }
-        return isText ? nextText.compare(text)
-                      : static_cast<int>(next > number) - static_cast<int>(next < number);
+        return isText ? next.text.compare(text)
+                      : static_cast<int>(next.number > number) - static_cast<int>(next.number < number);
     }
 };
-
-/// Whether a name of the file can stand between brackets in a statement.
-bool isPlainName(const QString& name)
-{
-    return !name.isEmpty() && !name.contains(QLatin1Char(']'));
-}
 
 } // namespace
 
 IndexProof::IndexProof(Connection& connection, const QString& table, const QString& id)
-    : m_connection(&connection), m_table(table), m_id(id), m_seed(QRandomGenerator::system()->generate64())
+    : m_table(table), m_id(id), m_seed(QRandomGenerator::system()->generate64())
 {
-    m_isPossible = lookUp();
+    m_isPossible = lookUp(connection);
 }
 
 // Asked of the engine, not taken from the texts in the file: the engine alone knows how it understands them.
-bool IndexProof::lookUp()
+bool IndexProof::lookUp(Connection& connection)
 {
-    if (!m_connection
-             ->execute(QStringLiteral("select 1 from pragma_table_list where schema = 'main' and "
-                                      "(wr <> 0 or type not in ('table', 'view'))"))
+    if (!connection
+             .execute(QStringLiteral("select 1 from pragma_table_list where schema = 'main' and "
+                                     "(wr <> 0 or type not in ('table', 'view'))"))
              .atEnd()) {
         return false;
     }
-    RecordSet columns = m_connection->execute(QStringLiteral(
+    RecordSet columns = connection.execute(QStringLiteral(
         "select i.name, t.name = '%1' and not i.[unique] and not i.partial and "
         "(x.key and x.cid >= 0 and not x.[desc] and x.coll = 'BINARY' or not x.key and x.cid = -1), "
-        "x.key, x.name from pragma_table_list as t, pragma_index_list(t.name) as i, "
+        "ifnull((select rootpage from sqlite_schema where type = 'index' and name = i.name), 0), x.key, "
+        "x.name from pragma_table_list as t, pragma_index_list(t.name) as i, "
         "pragma_index_xinfo(i.name) as x where t.schema = 'main' order by i.name, x.seqno")
-                                                  .arg(m_table));
-    constexpr int Name = 0;
-    constexpr int IsPlain = 1;
-    constexpr int IsOfKey = 2;
-    constexpr int Column = 3;
+                                               .arg(m_table));
+    enum Field { Name, IsPlain, Root, IsOfKey, Column };
     for (; !columns.atEnd(); columns.moveNext()) {
+        if (!columns.flag(IsPlain)) {
+            return false;
+        }
         const QString name = columns.text(Name);
-        if (!columns.flag(IsPlain) || !isPlainName(name)) {
-            return false;
-        }
         if (m_indexes.empty() || m_indexes.back().name != name) {
-            m_indexes.push_back({name, {}, {}, 0});
+            m_indexes.push_back({name, columns.int32(Root), {}, {}, 0});
         }
-        const QString column = columns.flag(IsOfKey) ? columns.text(Column) : m_id;
-        if (!isPlainName(column)) {
-            return false;
-        }
-        m_indexes.back().columns.push_back(column.toStdString());
+        m_indexes.back().columns.push_back(
+            (columns.flag(IsOfKey) ? columns.text(Column) : m_id).toStdString());
     }
     return true;
 }
 
-bool IndexProof::read(const RecordSet& row, int field, Value& value)
+bool IndexProof::read(const RecordSet& row, int field, StoredValue& value)
 {
     sqlite3_value* stored = row.value(field);
     const int type = sqlite3_value_type(stored);
@@ -101,7 +96,7 @@ bool IndexProof::read(const RecordSet& row, int field, Value& value)
     return type == SQLITE_INTEGER || type == SQLITE_TEXT;
 }
 
-quint64 IndexProof::mixed(quint64 sum, const Value& value)
+quint64 IndexProof::mixed(quint64 sum, const StoredValue& value)
 {
     if (!value.isText) {
         return scattered(sum ^ static_cast<quint64>(value.number));
@@ -118,7 +113,7 @@ quint64 IndexProof::mixed(quint64 sum, const Value& value)
 void IndexProof::add(const RecordSet& row)
 {
     ++m_rows;
-    Value value;
+    StoredValue value;
     for (Index& index : m_indexes) {
         if (index.fields.empty()) {
             for (const std::string& column : index.columns) {
@@ -134,56 +129,29 @@ void IndexProof::add(const RecordSet& row)
     }
 }
 
-bool IndexProof::succeeds() const
+bool IndexProof::succeeds(IndexPages& pages) const
 {
-    bool proven = m_isPossible;
-    for (auto index = m_indexes.begin(); proven && index != m_indexes.end(); ++index) {
-        proven = holds(*index);
-    }
-    return proven;
+    return m_isPossible && std::all_of(m_indexes.begin(), m_indexes.end(), [&](const Index& index) {
+        return holds(index, pages);
+    });
 }
 
-// Otherwise the table would be compared with itself.
-bool IndexProof::readsTheIndexAlone(const QString& statement, const Index& index) const
+bool IndexProof::holds(const Index& index, IndexPages& pages) const
 {
-    const RecordSet plan = m_connection->execute(QLatin1String("explain query plan ") + statement);
-    return !plan.atEnd()
-        && plan.text(plan.field("detail")).endsWith(QLatin1String(" USING COVERING INDEX ") + index.name);
-}
-
-bool IndexProof::holds(const Index& index) const
-{
-    QStringList columns;
-    for (const std::string& column : index.columns) {
-        columns.append(QLatin1Char('[') + QString::fromStdString(column) + QLatin1Char(']'));
-    }
-    const QString statement = QStringLiteral("select %1 from [%2] indexed by [%3]")
-                                  .arg(columns.join(QLatin1String(", ")), m_table, index.name);
-    if (!readsTheIndexAlone(statement, index)) {
-        return false;
-    }
     quint64 rows = 0;
     quint64 sum = 0;
-    Value value;
-    std::vector<Part> parts(index.columns.size());
-    for (RecordSet entries = m_connection->execute(statement); !entries.atEnd(); entries.moveNext()) {
+    std::vector<Part> before(index.columns.size());
+    const auto isNext = [&](const std::vector<StoredValue>& entry) {
         quint64 mix = m_seed;
         int order = 0;
-        for (std::size_t i = 0; i < parts.size(); ++i) {
-            if (!read(entries, static_cast<int>(i), value)) {
-                return false;
-            }
-            mix = mixed(mix, value);
-            order = order == 0 ? parts[i].compareWith(value.isText, value.number, value.text) : order;
-            parts[i].isText = value.isText;
-            parts[i].number = value.number;
-            parts[i].text = value.text;
-        }
-        if (order <= 0 && rows > 0) {
-            return false;
+        for (std::size_t i = 0; i < entry.size(); ++i) {
+            mix = mixed(mix, entry[i]);
+            order = order == 0 ? before[i].compareWith(entry[i]) : order;
+            before[i].keep(entry[i]);
         }
         ++rows;
         sum += mix;
-    }
-    return rows == m_rows && sum == index.sum;
+        return rows == 1 || (order > 0 && rows <= m_rows);
+    };
+    return pages.read(index.root, index.columns.size(), isNext) && rows == m_rows && sum == index.sum;
 }
