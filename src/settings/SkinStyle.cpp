@@ -3,15 +3,14 @@
 #include "platform/LetterScale.h"
 #include "platform/PlainText.h"
 #include "settings/JoinedText.h"
+#include "settings/SheetTraces.h"
 #include "settings/SkinPainting.h"
 #include "settings/SkinPictures.h"
 
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QCalendarWidget>
-#include <QComboBox>
 #include <QDateTimeEdit>
-#include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
 #include <QStyleFactory>
@@ -74,17 +73,6 @@ Qt::LayoutDirection sideOfArrows(const QStyleOption& option, const QWidget* widg
 bool isFieldFrame(const QWidget* widget)
 {
     return qobject_cast<const QAbstractScrollArea*>(widget) != nullptr;
-}
-
-/// Whether a control writes and draws into that widget.
-bool isInside(const QWidget* widget)
-{
-    const QWidget* control = widget->parentWidget();
-    const auto* area = qobject_cast<const QAbstractScrollArea*>(control);
-    return area != nullptr ? area->viewport() == widget
-                           : qobject_cast<const QLineEdit*>(widget) != nullptr
-            && (qobject_cast<const QAbstractSpinBox*>(control) != nullptr
-                || qobject_cast<const QComboBox*>(control) != nullptr);
 }
 
 bool isMonthButton(const QWidget* widget)
@@ -369,6 +357,7 @@ QIcon SkinStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, c
 void SkinStyle::polish(QWidget* widget)
 {
     QProxyStyle::polish(widget);
+    noteOwnSizes(*widget);
     if (auto* calendar = qobject_cast<QCalendarWidget*>(widget)) {
         // The calendar's own red is not readable on every ground.
         calendar->setWeekdayTextFormat(Qt::Saturday, {});
@@ -390,10 +379,6 @@ void SkinStyle::polish(QApplication* application)
 
 void SkinStyle::unpolish(QWidget* widget)
 {
-    if (isInside(widget)) {
-        // A sheet sets the font of a control on what the control is made of, too, and takes it off the
-        // control alone.
-        widget->setFont({});
-    }
     QProxyStyle::unpolish(widget);
+    removeSheetTraces(*widget);
 }

@@ -91,7 +91,7 @@ private slots:
     void everyWindowIsStyledOnce();
     void openWindowsLookAsAfterAStart();
     void whatOpensThenLooksAsAfterAStart();
-    void nothingStaysOfOtherLetters();
+    void nothingStaysOfOtherLettersAndSizes();
 
 private:
     void addSkin(const QString& name, const QByteArray& content);
@@ -230,7 +230,7 @@ void SkinExchangeTest::whatOpensThenLooksAsAfterAStart()
     QVERIFY2(compared >= 22 * 42, qPrintable(QString::number(compared)));
 }
 
-void SkinExchangeTest::nothingStaysOfOtherLetters()
+void SkinExchangeTest::nothingStaysOfOtherLettersAndSizes()
 {
     const QString skin = m_names.first();
     const auto expected = looksAfterAStart(visitEveryWindow, {skin});
@@ -238,7 +238,8 @@ void SkinExchangeTest::nothingStaysOfOtherLetters()
         contentOf(m_skins.filePath(QStringLiteral("Bare.skf"))).replace("@name Bare", "@name Letters");
     letters +=
         "\nQWidget { font-family: Monospace; }\nQAbstractSpinBox, QTableView, QLabel { font-size: 14pt; }\n"
-        "QHeaderView, QTextBrowser { font-style: italic; }\n";
+        "QHeaderView, QTextBrowser { font-style: italic; }\n"
+        "QPlainTextEdit { min-height: 120px; }\nQLabel { min-height: 40px; max-width: 300px; }\n";
     const QString changed = m_skins.filePath(QStringLiteral("Letters.skf"));
     write(changed, letters);
     forgetSkin();

@@ -1,0 +1,71 @@
+#include "settings/SheetTraces.h"
+
+#include <QAbstractScrollArea>
+#include <QAbstractSpinBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QVariant>
+
+namespace
+{
+
+/// A limit of size, what the toolkit marks a widget with while a sheet sets it, and where its own one is
+/// noted.
+struct Limit {
+    const char* markOfToolkit;
+    const char* note;
+    int (QWidget::*get)() const;
+    void (QWidget::*set)(int);
+    int none;
+};
+
+constexpr Limit Limits[] = {
+    {"_q_stylesheet_minw", "ownMinimumWidth", &QWidget::minimumWidth, &QWidget::setMinimumWidth, 0},
+    {"_q_stylesheet_minh", "ownMinimumHeight", &QWidget::minimumHeight, &QWidget::setMinimumHeight, 0},
+    {"_q_stylesheet_maxw", "ownMaximumWidth", &QWidget::maximumWidth, &QWidget::setMaximumWidth,
+        QWIDGETSIZE_MAX},
+    {"_q_stylesheet_maxh", "ownMaximumHeight", &QWidget::maximumHeight, &QWidget::setMaximumHeight,
+        QWIDGETSIZE_MAX},
+};
+
+/// Whether a control writes and draws into that widget.
+bool isInside(const QWidget& widget)
+{
+    const QWidget* control = widget.parentWidget();
+    if (const auto* area = qobject_cast<const QAbstractScrollArea*>(control)) {
+        return area->viewport() == &widget;
+    }
+    return qobject_cast<const QLineEdit*>(&widget) != nullptr
+        && (qobject_cast<const QAbstractSpinBox*>(control) != nullptr
+            || qobject_cast<const QComboBox*>(control) != nullptr);
+}
+
+} // namespace
+
+void noteOwnSizes(QWidget& widget)
+{
+    for (const Limit& limit : Limits) {
+        const int own = (widget.*limit.get)();
+        if (own != limit.none && !widget.property(limit.markOfToolkit).toBool()) {
+            widget.setProperty(limit.note, own);
+        }
+    }
+}
+
+void removeSheetTraces(QWidget& widget)
+{
+    for (const Limit& limit : Limits) {
+        const QVariant own = widget.property(limit.note);
+        if (!own.isValid()) {
+            continue;
+        }
+        if (widget.property(limit.markOfToolkit).toBool()) {
+            (widget.*limit.set)(own.toInt());
+            widget.setProperty(limit.markOfToolkit, {});
+        }
+        widget.setProperty(limit.note, {});
+    }
+    if (isInside(widget)) {
+        widget.setFont({});
+    }
+}
