@@ -54,13 +54,13 @@ void noteOwnSizes(QWidget& widget)
 
 void removeSheetTraces(QWidget& widget)
 {
+    const QList<QByteArray> notes = widget.dynamicPropertyNames();
     for (const Limit& limit : Limits) {
-        const QVariant own = widget.property(limit.note);
-        if (!own.isValid()) {
+        if (!notes.contains(limit.note)) {
             continue;
         }
         if (widget.property(limit.markOfToolkit).toBool()) {
-            (widget.*limit.set)(own.toInt());
+            (widget.*limit.set)(widget.property(limit.note).toInt());
             widget.setProperty(limit.markOfToolkit, {});
         }
         widget.setProperty(limit.note, {});
