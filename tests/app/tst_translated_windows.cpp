@@ -3,6 +3,7 @@
 #include "help/frmAbout.h"
 #include "help/window/CompiledHelpWindow.h"
 #include "platform/MessageBoxes.h"
+#include "platform/ProgressBox.h"
 #include "platform/ScreenErrorReport.h"
 #include "platform/ScreenProgress.h"
 #include "platform/WindowPlacement.h"
@@ -15,6 +16,7 @@
 #include "tests/app/Speaking.h"
 #include "tests/app/WindowTexts.h"
 #include "tests/help/RecordedHelpHost.h"
+#include "tests/report/RecordedReportHost.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -110,13 +112,6 @@ QStringList faultsOfBox(const QString& language, const std::function<void()>& op
     open();
     return faults;
 }
-
-/// A report window around which there is nothing.
-struct NoHost final : ReportHost {
-    QString choosePdfFile(QWidget*) override { return {}; }
-    void tellFailure(QWidget*, const QString&) override { }
-    void windowClosed() override { }
-};
 
 } // namespace
 
@@ -336,6 +331,13 @@ void TranslatedWindowsTest::boxesAreGood()
         QCOMPARE(faultsOfBox(language, [&] { work.advance(1, 2); }), QStringList());
         work.advance(2, 2);
     }));
+    QCOMPARE(faultsOfBox(language,
+                 [&] {
+                     ProgressBox box(nullptr, text, ProgressBox::Offers::Nothing);
+                     box.show();
+                     QCoreApplication::processEvents();
+                 }),
+        QStringList());
 }
 
 void TranslatedWindowsTest::theHelpIsGood()
@@ -359,7 +361,7 @@ void TranslatedWindowsTest::theReportIsGood()
 {
     QFETCH(const QString, language);
     TranslatedProgram t(language);
-    NoHost host;
+    RecordedReportHost host;
     PreviewWindow window(host, [] { return false; });
     t.f.press(t.f.main(), "btnTaskPrint");
     QVERIFY(t.f.reportWindow != nullptr);
