@@ -82,12 +82,12 @@ void benchMemory(Bench& bench, TaskFile& file, int tasks)
         BenchProgram shown(empty);
         showWhole(shown);
         returnFreedMemory();
-        before = proportionalBytes();
+        before = anonymousBytes();
         file.run(QStringLiteral("vacuum into '%1'").arg(empty.path() + QStringLiteral(".full")));
         QFile::remove(empty.path());
         QFile::rename(empty.path() + QStringLiteral(".full"), empty.path());
         showWhole(shown);
-        after = proportionalBytes();
+        after = anonymousBytes();
     }
     bench.value(QStringLiteral("Memory of %1 listed tasks").arg(count(tasks)), (after - before) / 1e6, 45,
         QStringLiteral("MB"));

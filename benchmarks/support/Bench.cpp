@@ -41,13 +41,13 @@ double cpuSeconds()
     return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
 }
 
-double proportionalBytes()
+double anonymousBytes()
 {
     QFile file(QStringLiteral("/proc/self/smaps_rollup"));
     if (file.open(QIODevice::ReadOnly)) {
         for (const QByteArray& line : file.readAll().split('\n')) {
-            if (line.startsWith("Pss:")) {
-                return line.mid(4).replace("kB", "").trimmed().toDouble() * 1024;
+            if (line.startsWith("Anonymous:")) {
+                return line.mid(10).replace("kB", "").trimmed().toDouble() * 1024;
             }
         }
     }
@@ -68,13 +68,21 @@ Bench::Bench(int argc, char** argv)
 
 Bench::Medians Bench::alternate(int repetitions, const Action& ours, const Action& reference) const
 {
+    return alternateValues(
+        repetitions, [&ours] { return milliseconds(ours); },
+        [&reference] { return milliseconds(reference); });
+}
+
+Bench::Medians Bench::alternateValues(
+    int repetitions, const Measurement& ours, const Measurement& reference) const
+{
     std::vector<double> oursTaken;
     std::vector<double> referenceTaken;
     reference();
     ours();
     for (int i = 0; i < size(repetitions, 1); ++i) {
-        referenceTaken.push_back(milliseconds(reference));
-        oursTaken.push_back(milliseconds(ours));
+        referenceTaken.push_back(reference());
+        oursTaken.push_back(ours());
     }
     return {medianOf(oursTaken), medianOf(referenceTaken)};
 }

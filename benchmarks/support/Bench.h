@@ -7,8 +7,9 @@
 
 /// User and system CPU time that this process has taken so far, in all threads; seconds.
 double cpuSeconds();
-/// The memory of this process, pages that it shares counted in proportion; bytes.
-double proportionalBytes();
+/// The memory of this process that stands for no file, so that what other processes share or give up does not
+/// count; bytes.
+double anonymousBytes();
 /// Gives freed memory back to the system, so that what is measured next is what is in use.
 void returnFreedMemory();
 
@@ -27,13 +28,16 @@ public:
     /// `full`, or `tiny` for a smoke test.
     int size(int full, int tiny) const { return m_smoke ? tiny : full; }
 
-    /// Medians of CPU time in milliseconds, measured alternately.
+    /// Of CPU time in milliseconds, where nothing else is said.
     struct Medians {
         double ours = 0;
         double reference = 0;
     };
     /// Runs both actions alternately, `repetitions` times each, after a first run that is not counted.
     Medians alternate(int repetitions, const Action& ours, const Action& reference) const;
+    using Measurement = std::function<double()>;
+    /// Medians of what two measurements answer, made alternately, after a first of each that is not counted.
+    Medians alternateValues(int repetitions, const Measurement& ours, const Measurement& reference) const;
     /// The median of CPU time of an action, in milliseconds.
     double median(int repetitions, const Action& action) const;
 

@@ -73,6 +73,7 @@ public:
     explicit GatheringDevice(NewFile& file) : m_file(file)
     {
         QIODevice::open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+        m_gathered.reserve(MostGathered);
     }
 
     bool isSequential() const override { return true; }
@@ -91,7 +92,7 @@ protected:
     {
         if (!m_failure) {
             m_gathered.append(bytes, size);
-            if (m_gathered.size() >= NewFile::ChunkSize) {
+            if (m_gathered.size() >= MostGathered) {
                 pass();
             }
         }
@@ -107,8 +108,10 @@ private:
             m_failure = error;
             setErrorString(error.why());
         }
-        m_gathered.clear();
+        m_gathered.resize(0);
     }
+
+    static constexpr qsizetype MostGathered = qsizetype{64} * 1024;
 
     NewFile& m_file;
     QByteArray m_gathered;

@@ -136,6 +136,9 @@ qreal ReportLayout::mirrored(qreal left, qreal width) const
 
 qreal ReportLayout::mirroredText(const QString& text, const TextStyle& style, qreal left, qreal width) const
 {
+    if (m_direction == Qt::LeftToRight) {
+        return left;
+    }
     // One that runs from right to left begins at the right edge of its room by itself.
     return mirrored(left, text.isRightToLeft() ? width : std::min(width, style.widthOf(text)));
 }
