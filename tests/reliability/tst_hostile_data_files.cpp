@@ -237,6 +237,23 @@ void HostileDataFilesTest::whatCannotBeServedIsRefusedClearlyAndChangesNothing_d
     QTest::newRow("equal names replace each other in a table of another kind")
         << tasksWith({}, {}, QStringLiteral(",unique(task_name,cat_id) on conflict replace")) << writing
         << QStringLiteral("tasks");
+    QTest::newRow("equal names replace each other, said to be a rule of another table")
+        << tasksWith(QStringLiteral(" unique on conflict replace"), {}, {})
+            + QStringLiteral(
+                "pragma writable_schema=1; update sqlite_schema set tbl_name='settings' where sql is null;")
+        << writing << QStringLiteral("tasks");
+    const QString inTheOrderOfNames = QStringLiteral(
+        "create table t as select * from tasks; drop table tasks; create table tasks(task_id integer not "
+        "null default 9,"
+        "task_name text primary key on conflict "
+        "replace,task_desc,task_status,cat_id,task_due_date,task_periority,"
+        "reminder_on,reminder_date_time,reminder_sound,reminder_file,played default 0,dismissed default 0) "
+        "WITHOUT /* any */ RowID; insert into tasks select * from t; drop table t;");
+    QTest::newRow("equal names replace each other in a table in their order")
+        << inTheOrderOfNames << writing << QStringLiteral("tasks");
+    QTest::newRow("the same, defined by what is no text") << inTheOrderOfNames
+            + QStringLiteral("pragma writable_schema=1; update sqlite_schema set sql=cast(sql as blob) where "
+                             "name='tasks';") << writing << QStringLiteral("tasks");
     QTest::newRow("a rule that no new record keeps")
         << tasksWith({}, {}, QStringLiteral(",check(task_id<4)")) << QStringList(QStringLiteral("add task"))
         << QStringLiteral("CHECK");
