@@ -6,6 +6,7 @@
 #include "settings/SheetTraces.h"
 #include "settings/SkinPainting.h"
 #include "settings/SkinPictures.h"
+#include "settings/SkinProgress.h"
 
 #include <QAbstractScrollArea>
 #include <QApplication>
@@ -213,11 +214,26 @@ void SkinStyle::drawItemText(QPainter* painter, const QRect& rect, int flags, co
     painter->restore();
 }
 
+void SkinStyle::drawBusyBar(const QStyleOptionProgressBar& bar, QPainter& to, const QWidget* widget) const
+{
+    // Painted nowhere: it keeps the bar painted again and again, but its stripes can hardly be seen.
+    QPixmap nowhere(1, 1);
+    QPainter unseen(&nowhere);
+    QProxyStyle::drawControl(CE_ProgressBarContents, &bar, &unseen, widget);
+    const auto part = busyPartOf(bar);
+    QProxyStyle::drawControl(CE_ProgressBarContents, &part, &to, widget);
+}
+
 void SkinStyle::drawControl(
     ControlElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const
 {
     if (element == CE_ProgressBarGroove) {
         paintField(*painter, option->rect, *option);
+        return;
+    }
+    const auto* bar = qstyleoption_cast<const QStyleOptionProgressBar*>(option);
+    if (element == CE_ProgressBarContents && bar != nullptr && bar->minimum == bar->maximum) {
+        drawBusyBar(*bar, *painter, widget);
         return;
     }
     const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);

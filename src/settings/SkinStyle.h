@@ -4,6 +4,8 @@
 #include <QProxyStyle>
 #include <optional>
 
+class QStyleOptionProgressBar;
+
 /// Fusion, with fields, indicators and arrows drawn in the colours of the palette, so that no style sheet can
 /// lose them.
 ///
@@ -58,6 +60,7 @@ public:
     void unpolish(QWidget* widget) override;
 
 private:
+    void drawBusyBar(const QStyleOptionProgressBar& bar, QPainter& to, const QWidget* widget) const;
     static void drawFocus(const QStyleOption& option, QPainter& painter, const QWidget* widget);
     void drawSpinBox(const QStyleOptionComplex& option, QPainter& painter, const QWidget* widget) const;
     void drawComboBox(const QStyleOptionComplex& option, QPainter& painter, const QWidget* widget) const;

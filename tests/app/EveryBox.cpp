@@ -5,6 +5,7 @@
 #include "help/window/TopicView.h"
 #include "platform/FileDialogs.h"
 #include "platform/MessageBoxes.h"
+#include "platform/ProgressBox.h"
 #include "platform/ScreenErrorReport.h"
 #include "platform/ScreenProgress.h"
 #include "platform/printing/WindowPrinting.h"
@@ -151,6 +152,12 @@ void visitEveryBox(QWidget& owner, const Visit& visit)
         cancelled = true;
     }
     QVERIFY(cancelled);
+    visitOpened(QStringLiteral("progress without Cancel"), visit, [&] {
+        ProgressBox box(&owner, QStringLiteral("Loading the tasks..."), ProgressBox::Offers::Nothing);
+        box.setProgress(0, 0);
+        box.show();
+        QCoreApplication::processEvents();
+    });
 }
 
 void visitToolkitBoxes(QWidget& owner, const Visit& visit)
