@@ -27,7 +27,7 @@ int main(int argc, char** argv)
         copies.backUpTo(backup);
     };
     bench.ratio(QStringLiteral("Backup of %1 MB; plain copy with a flush").arg(size, 0, 'f', 0),
-        bench.alternate(3, backUp, copy), 1.1);
+        bench.alternate(9, backUp, copy), 1.1);
     bench.ratio(QStringLiteral("Restore of %1 MB; plain copy with a flush").arg(size, 0, 'f', 0),
         bench.alternate(
             3, [&] { copies.restoreFrom(backup); }, copy),
