@@ -1,8 +1,10 @@
 #include "TemporaryFile.h"
 #include "data/ClsCategory.h"
+#include "data/ClsDatabase.h"
 #include "data/ClsTask.h"
 #include "platform/Clock.h"
 #include "platform/RuntimeError.h"
+#include "platform/database/Connection.h"
 #include "platform/database/DatabaseEngine.h"
 #include "platform/database/RollbackJournal.h"
 #include "settings/DataFileCheck.h"
@@ -45,6 +47,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     constexpr qsizetype Formats = 18;
     require(turned.mid(Formats, 2) == QByteArray(2, '\x01'), "it is in rollback-journal mode");
     require(bytes.mid(Formats, 2) != turned.mid(Formats, 2) || bytes == turned, "only others are turned");
+    {
+        Connection connection = ClsDatabase(engine).Connect();
+        connection.open();
+        const RecordSet verdict = connection.execute(QStringLiteral("pragma integrity_check"));
+        require(verdict.text(0) == QLatin1String("ok"), "what is accepted is sound for the engine");
+    }
     // From here on nothing may be refused: an exception ends the process.
     ClsTask task(engine);
     task.setTaskName(QStringLiteral("007"));

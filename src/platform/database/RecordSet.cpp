@@ -112,12 +112,17 @@ sqlite3_value* RecordSet::value(int field) const
     return sqlite3_column_value(statement, field);
 }
 
+void RecordSet::refuseNoNumber(int field) const
+{
+    refuse(
+        tr("The value of column \"%1\" is no whole number.").arg(columnName(m_cursor->statement(), field)));
+}
+
 qint64 RecordSet::integer(int field, qint64 min, qint64 max) const
 {
     sqlite3_value* stored = value(field);
     if (sqlite3_value_type(stored) != SQLITE_INTEGER) [[unlikely]] {
-        refuse(tr("The value of column \"%1\" is no whole number.")
-                   .arg(columnName(m_cursor->statement(), field)));
+        refuseNoNumber(field);
     }
     const qint64 number = sqlite3_value_int64(stored);
     if (number < min || number > max) [[unlikely]] {
@@ -164,11 +169,14 @@ qint32 RecordSet::int32(int field) const
 bool RecordSet::flag(int field) const
 {
     sqlite3_value* stored = value(field);
-    if (sqlite3_value_type(stored) == SQLITE_FLOAT) [[unlikely]] {
-        return sqlite3_value_double(stored) != 0;
+    const int type = sqlite3_value_type(stored);
+    if (type == SQLITE_INTEGER) [[likely]] {
+        return sqlite3_value_int64(stored) != 0;
     }
-    using Range = std::numeric_limits<qint64>;
-    return integer(field, Range::min(), Range::max()) != 0;
+    if (type != SQLITE_FLOAT) {
+        refuseNoNumber(field);
+    }
+    return sqlite3_value_double(stored) != 0;
 }
 
 Moment RecordSet::moment(int field) const

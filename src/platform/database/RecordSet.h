@@ -50,6 +50,7 @@ private:
     explicit RecordSet(std::unique_ptr<Cursor> cursor);
     sqlite3_value* value(int field) const;
     qint64 integer(int field, qint64 min, qint64 max) const;
+    [[noreturn]] void refuseNoNumber(int field) const;
 
     std::unique_ptr<Cursor> m_cursor;
     int m_fieldCount = 0;

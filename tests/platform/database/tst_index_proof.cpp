@@ -1,6 +1,8 @@
 #include "platform/database/Connection.h"
 #include "platform/database/IndexPages.h"
 #include "platform/database/IndexProof.h"
+#include "support/CancellingProgress.h"
+#include "support/CaughtError.h"
 #include "support/TestDatabase.h"
 #include "support/TestMain.h"
 #include "support/TestPictures.h"
@@ -19,7 +21,8 @@ struct IndexedFile {
     {
         database.sql(QStringLiteral(
             "insert into tasks(task_name,task_status,cat_id,task_due_date,reminder_on,reminder_date_time) "
-            "with recursive n(i) as (select 1 union all select i+1 from n where i<%1) select 'task '||i, "
+            "with recursive n(i) as (select 1 where %1 > 0 union all select i+1 from n where i<%1) select "
+            "'task '||i, "
             "i%4, "
             "1+i%3, '2026-01-15 11:00:00', i%2, '2026-01-'||(10+i%20)||' 11:00:00' from n")
                          .arg(tasks));
@@ -89,6 +92,8 @@ private slots:
     void whatCannotBeProvenIsLeftToTheEngine();
     void aFractionIsLeftToTheEngine();
     void anIdThatIsAColumnLikeAnyOtherIsLeftToTheEngine();
+    void itCanBeCancelled();
+    void aMissingFileIsLeftToTheEngine();
 };
 
 void IndexProofTest::whatTheProgramMakesIsProven_data()
@@ -245,6 +250,24 @@ void IndexProofTest::anIdThatIsAColumnLikeAnyOtherIsLeftToTheEngine()
                                      "update tasks set task_id=task_id+1"));
     QVERIFY(file.isSoundForTheEngine());
     QVERIFY(!file.isProven());
+}
+
+void IndexProofTest::itCanBeCancelled()
+{
+    IndexedFile file(10);
+    const IndexProof proof(file.connection(), Table, Id);
+    CancellingProgress progress(CancellingProgress::At::UnknownLength);
+    IndexPages pages(file.database.dataFile(), &progress);
+    QVERIFY(caught<Cancelled>([&] { proof.succeeds(pages); }));
+}
+
+void IndexProofTest::aMissingFileIsLeftToTheEngine()
+{
+    IndexedFile file(0);
+    const IndexProof proof(file.connection(), Table, Id);
+    QVERIFY(file.succeeds(proof));
+    IndexPages pages(file.database.dataFile() + QStringLiteral(".missing"), nullptr);
+    QVERIFY(!proof.succeeds(pages));
 }
 
 AMBERTASK_TEST_MAIN(IndexProofTest)
