@@ -50,8 +50,8 @@ private:
 struct AgreeableServices : TestServices {
     QuietPlatform quiet;
     AgreeableUser user;
-    FormServices faced{
-        database.engine(), database.clock(), user, user, user, shell, checkerTimer, images, [] {
+    FormServices faced{database.engine(), database.clock(), user, user, user, shell, checkerTimer, images,
+        longWork.work, [] {
             return false;
         }};
 };
