@@ -4,13 +4,12 @@
 
 #include <QPainter>
 #include <QStyleOption>
-#include <array>
 
 namespace
 {
 
-/// Percent; letters get hard to read below the last. Few: each is a font of its own, that has to be found.
-constexpr std::array Stretches{86, 74, 62};
+/// Letters get hard to read below it.
+constexpr qreal LeastSqueeze = 0.62;
 constexpr int CaptionMargin = 5; // pixels on either side
 
 } // namespace
@@ -25,39 +24,52 @@ int FittingHeader::roomFor(int logicalIndex) const
     return qMax(1, sectionSize(logicalIndex) - 2 * CaptionMargin);
 }
 
-QFont FittingHeader::fontFor(int logicalIndex) const
+qreal FittingHeader::squeezeOf(int logicalIndex) const
 {
-    QFont squeezed = font();
     const QString caption = model()->headerData(logicalIndex, orientation(), Qt::DisplayRole).toString();
+    // The advance is rounded, and may be rounded off.
+    const int needed = fontMetrics().horizontalAdvance(caption) + 1;
     const int available = roomFor(logicalIndex);
-    const int needed = QFontMetrics(squeezed).horizontalAdvance(caption);
-    const int wanted = 100 * available / qMax(1, needed);
-    for (const int stretch : Stretches) {
-        if (needed <= available) {
-            break;
-        }
-        // A font may not be had as narrow as it is asked for.
-        if (stretch <= wanted || stretch == Stretches.back()) {
-            squeezed.setStretch(stretch);
-            if (QFontMetrics(squeezed).horizontalAdvance(caption) <= available) {
-                break;
-            }
-        }
-    }
-    return squeezed;
+    return needed <= available ? 1 : qMax(LeastSqueeze, qreal(available) / needed);
+}
+
+// The header itself reckons with bold letters: one more font to be found, for a caption that is never bold.
+QSize FittingHeader::sectionSizeFromContents(int logicalIndex) const
+{
+    QStyleOptionHeaderV2 option;
+    initStyleOption(&option);
+    option.section = logicalIndex;
+    option.text = model()->headerData(logicalIndex, orientation(), Qt::DisplayRole).toString();
+    return style()->sizeFromContents(QStyle::CT_HeaderSection, &option, QSize(), this);
 }
 
 void FittingHeader::paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const
 {
-    painter->setFont(fontFor(logicalIndex));
-    QHeaderView::paintSection(painter, rect, logicalIndex);
+    const qreal squeeze = squeezeOf(logicalIndex);
+    if (squeeze >= 1) {
+        QHeaderView::paintSection(painter, rect, logicalIndex);
+        return;
+    }
+    QStyleOptionHeaderV2 option;
+    initStyleOption(&option);
+    initStyleOptionForIndex(&option, logicalIndex);
+    option.rect = rect;
+    painter->save();
+    painter->setClipRect(rect);
+    style()->drawControl(QStyle::CE_HeaderSection, &option, painter, this);
+    // Drawn narrower, not written in a narrower font: each width of a font has to be found by itself.
+    const QRect label = style()->subElementRect(QStyle::SE_HeaderLabel, &option, this);
+    painter->translate(label.left(), 0);
+    painter->scale(squeeze, 1);
+    option.rect = QRect(0, label.top(), qRound(label.width() / squeeze), label.height());
+    style()->drawControl(QStyle::CE_HeaderLabel, &option, painter, this);
+    painter->restore();
 }
 
 void FittingHeader::initStyleOptionForIndex(QStyleOptionHeader* option, int logicalIndex) const
 {
     QHeaderView::initStyleOptionForIndex(option, logicalIndex);
-    option->fontMetrics = QFontMetrics(fontFor(logicalIndex));
     // The header itself would reckon with the letters as they are before they are squeezed.
-    option->text =
-        inOwnDirection(option->fontMetrics.elidedText(option->text, Qt::ElideRight, roomFor(logicalIndex)));
+    const int room = qRound(roomFor(logicalIndex) / squeezeOf(logicalIndex));
+    option->text = inOwnDirection(option->fontMetrics.elidedText(option->text, Qt::ElideRight, room));
 }

@@ -12,11 +12,13 @@ public:
     explicit FittingHeader(QWidget* parent = nullptr);
 
 protected:
+    QSize sectionSizeFromContents(int logicalIndex) const override;
     void paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const override;
     void initStyleOptionForIndex(QStyleOptionHeader* option, int logicalIndex) const override;
 
 private:
     /// Pixels for the caption.
     int roomFor(int logicalIndex) const;
-    QFont fontFor(int logicalIndex) const;
+    /// How wide the letters are drawn, at most 1.
+    qreal squeezeOf(int logicalIndex) const;
 };
