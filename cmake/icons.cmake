@@ -36,5 +36,6 @@ function(ambertask_render_icons target)
     COMMAND "${Python3_EXECUTABLE}" "${writer}" "${folder}" ${pngs}
     DEPENDS "${writer}" ${pngs}
     VERBATIM)
-  qt_add_resources(${target} "${resource_name}" PREFIX "${ARG_PREFIX}" FILES ${pixels})
+  # A start would spend more on unpacking than on reading.
+  qt_add_resources(${target} "${resource_name}" PREFIX "${ARG_PREFIX}" OPTIONS --no-compress FILES ${pixels})
 endfunction()
