@@ -159,6 +159,7 @@ void Program::loadDialogs()
     if (std::exchange(m_dialogsLoaded, true)) {
         return;
     }
+    m_main->addTrayIcon();
     // Now that the main window is on the screen: the pictures of a window's icon are many, and large.
     QApplication::setWindowIcon(programWindowIcon());
     m_main->wakePages();

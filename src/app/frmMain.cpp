@@ -171,7 +171,6 @@ void frmMain::Form_Load()
     if (m_ending) {
         return;
     }
-    m_trayIcon.add(programIcon(), tr("Ambertaks"), m_trayMenu);
     if (!m_settings.minimize_on_start) {
         if (m_settings.always_on_top) {
             makeTopmost(this);
@@ -193,6 +192,13 @@ void frmMain::fillPages()
     // Selecting the date option builds the list; nothing runs in between that could change it before the next
     // step of a load, which would build it again.
     ApplyChanges();
+}
+
+void frmMain::addTrayIcon()
+{
+    if (!m_ending) {
+        m_trayIcon.add(programIcon(), tr("Ambertaks"), m_trayMenu);
+    }
 }
 
 void frmMain::ApplyChanges()

@@ -273,8 +273,9 @@ class NotifierAreaTest(TrayCase):
         self.area = NotifierArea(self.desk.environment["DBUS_SESSION_BUS_ADDRESS"])
         self.addCleanup(self.area.close)
         self.user = self.start()
-        self.user.wait_loaded()
+        # First: the program waits for the area's answers, and the area answers only here.
         self.area.wait_item()
+        self.user.wait_loaded()
 
     def test_the_icon_registers_with_its_tool_tip_and_menu(self):
         self.assertEqual(self.area.tip(), names.TRAY_TIP)
