@@ -11,7 +11,9 @@ function(ambertask_render_png svg height png)
 endfunction()
 
 # ambertask_render_icons(<target> PREFIX <resource prefix> SIZES <n>... SVGS <file>...)
-# Adds the pixels of every file in every size, <name>-<size>.pixels, to <target> as Qt resources below <resource prefix>.
+# Adds the pixels of every file in every size, <size>/<name>.pixels, to <target> as Qt resources below <resource prefix>.
+# A folder for each size, for what is in one folder lies together: a start reads the small ones, and what lies around
+# them comes into memory with them.
 function(ambertask_render_icons target)
   cmake_parse_arguments(ARG "" "PREFIX" "SIZES;SVGS" ${ARGN})
   string(MAKE_C_IDENTIFIER "${target}${ARG_PREFIX}" resource_name)
@@ -19,6 +21,8 @@ function(ambertask_render_icons target)
   file(MAKE_DIRECTORY "${folder}")
   set(pngs)
   set(pixels)
+  set(small_pixels)
+  set(large_pixels)
   foreach(svg IN LISTS ARG_SVGS)
     cmake_path(GET svg STEM name)
     foreach(size IN LISTS ARG_SIZES)
@@ -26,8 +30,13 @@ function(ambertask_render_icons target)
       ambertask_render_png("${svg}" ${size} "${png}")
       list(APPEND pngs "${png}")
       set(file "${folder}/${name}-${size}.pixels")
-      set_source_files_properties("${file}" PROPERTIES QT_RESOURCE_ALIAS "${name}-${size}.pixels")
+      set_source_files_properties("${file}" PROPERTIES QT_RESOURCE_ALIAS "${size}/${name}.pixels")
       list(APPEND pixels "${file}")
+      if(size LESS_EQUAL 32)
+        list(APPEND small_pixels "${file}")
+      else()
+        list(APPEND large_pixels "${file}")
+      endif()
     endforeach()
   endforeach()
   set(writer "${PROJECT_SOURCE_DIR}/cmake/write_pixels.py")
@@ -36,6 +45,8 @@ function(ambertask_render_icons target)
     COMMAND "${Python3_EXECUTABLE}" "${writer}" "${folder}" ${pngs}
     DEPENDS "${writer}" ${pngs}
     VERBATIM)
-  # A start would spend more on unpacking than on reading.
-  qt_add_resources(${target} "${resource_name}" PREFIX "${ARG_PREFIX}" OPTIONS --no-compress FILES ${pixels})
+  # A start reads some of the small ones, and would spend more on unpacking than on reading.
+  qt_add_resources(${target} "${resource_name}_small" PREFIX "${ARG_PREFIX}" OPTIONS --no-compress
+    FILES ${small_pixels})
+  qt_add_resources(${target} "${resource_name}_large" PREFIX "${ARG_PREFIX}" FILES ${large_pixels})
 endfunction()

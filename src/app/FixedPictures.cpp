@@ -22,7 +22,7 @@ QIcon iconOf(const QString& folder, const char* name, const std::array<int, Coun
 {
     QList<SizedPicture> pictures;
     for (const int size : sizes) {
-        pictures.append({QStringLiteral(":/%1/%2-%3.pixels").arg(folder, QLatin1String(name)).arg(size),
+        pictures.append({QStringLiteral(":/%1/%2/%3.pixels").arg(folder).arg(size).arg(QLatin1String(name)),
             QSize(size * proportion, size)});
     }
     return sizedIcon(pictures);

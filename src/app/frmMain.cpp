@@ -35,13 +35,27 @@ constexpr int BalloonMilliseconds = 2000;
 constexpr QSize FirstSize(960, 640);
 constexpr QSize LogoSize(32, 32);
 
-/// Until it is shown; else the toolkit styles a widget as soon as events are handled.
-void leaveUnstyled(QWidget* page)
+template <typename Work> void forPageAndControls(QWidget& page, Work work)
 {
-    QCoreApplication::removePostedEvents(page, QEvent::PolishRequest);
-    for (QWidget* child : page->findChildren<QWidget*>()) {
-        QCoreApplication::removePostedEvents(child, QEvent::PolishRequest);
+    work(page);
+    for (QWidget* control : page.findChildren<QWidget*>()) {
+        work(*control);
     }
+}
+
+/// Else the toolkit styles a widget as soon as events are handled, and at each change of the style.
+void leaveUnstyled(QWidget& page)
+{
+    forPageAndControls(page, [](QWidget& widget) {
+        QCoreApplication::removePostedEvents(&widget, QEvent::PolishRequest);
+        widget.setAttribute(Qt::WA_SetStyle);
+    });
+}
+
+/// With its next parent.
+void letBeStyled(QWidget& page)
+{
+    forPageAndControls(page, [](QWidget& widget) { widget.setAttribute(Qt::WA_SetStyle, false); });
 }
 
 } // namespace
@@ -57,7 +71,7 @@ frmMain::frmMain(
     const auto addPage = [&](QWidget* page, const QString& caption) {
         auto* frame = new ScrollFrame({header, m_tabs->tabBar()});
         m_tabs->addTab(frame, caption);
-        leaveUnstyled(page);
+        leaveUnstyled(*page);
         m_resting.push_back({frame, std::unique_ptr<QWidget>(page)});
     };
     addPage(m_pages.tasks, tr("Tasks"));
@@ -149,6 +163,7 @@ frmMain::~frmMain() = default;
 void frmMain::wakePage(int page)
 {
     if (RestingPage& resting = m_resting[static_cast<std::size_t>(page)]; resting.page != nullptr) {
+        letBeStyled(*resting.page);
         resting.frame->hold(resting.page.release());
     }
 }
