@@ -67,23 +67,24 @@ frmMain::frmMain(
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QStringLiteral("Ambertask"));
     m_tabs->setObjectName(QStringLiteral("tabMain"));
-    QWidget* header = makeHeader();
+    m_header = makeHeader();
     const auto addPage = [&](QWidget* page, const QString& caption) {
-        auto* frame = new ScrollFrame({header, m_tabs->tabBar()});
-        m_tabs->addTab(frame, caption);
+        auto* place = new QWidget;
+        (new QVBoxLayout(place))->setContentsMargins({});
+        m_tabs->addTab(place, caption);
         leaveUnstyled(*page);
-        m_resting.push_back({frame, std::unique_ptr<QWidget>(page)});
+        m_resting.push_back({place, nullptr, std::unique_ptr<QWidget>(page)});
     };
     addPage(m_pages.tasks, tr("Tasks"));
     addPage(m_pages.categories, tr("Categories"));
     addPage(m_pages.settings, tr("Settings"));
     addPage(m_pages.maintenance, tr("Maintenance"));
     // A part of the window already, but it is styled and laid out with the skin.
-    m_pages.tasks->setParent(m_resting.front().frame->viewport());
+    m_pages.tasks->setParent(frameOf(m_resting.front())->viewport());
     addPageKeys();
     m_trayMenu = makeTrayMenu();
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(header);
+    layout->addWidget(m_header);
     layout->addWidget(m_tabs, 1);
     resize(withLetters(FirstSize, font()));
     connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, &frmMain::helpRequested);
@@ -160,11 +161,22 @@ QMenu* frmMain::makeTrayMenu()
 
 frmMain::~frmMain() = default;
 
+ScrollFrame* frmMain::frameOf(RestingPage& resting) const
+{
+    if (resting.frame == nullptr) {
+        resting.frame = new ScrollFrame({m_header, m_tabs->tabBar()});
+        resting.place->layout()->addWidget(resting.frame);
+        // A layout would show it with the next events only.
+        resting.frame->show();
+    }
+    return resting.frame;
+}
+
 void frmMain::wakePage(int page)
 {
     if (RestingPage& resting = m_resting[static_cast<std::size_t>(page)]; resting.page != nullptr) {
         letBeStyled(*resting.page);
-        resting.frame->hold(resting.page.release());
+        frameOf(resting)->hold(resting.page.release());
     }
 }
 

@@ -10,10 +10,10 @@
 
 class CategoriesPage;
 class MaintenancePage;
-class ScrollFrame;
 class QAction;
 class QMenu;
 class QTabWidget;
+class ScrollFrame;
 class SettingsPage;
 class TasksPage;
 struct SettingsRecord;
@@ -112,6 +112,15 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    struct RestingPage {
+        QWidget* place;
+        /// None before the page is to be seen, but for the first page.
+        ScrollFrame* frame;
+        /// None once the frame holds it.
+        std::unique_ptr<QWidget> page;
+    };
+
+    ScrollFrame* frameOf(RestingPage& resting) const;
     void fillPages();
     void wakePage(int page);
     void tabMain_Switch(int page);
@@ -129,12 +138,7 @@ private:
     const SettingsRecord& m_settings;
     MainWindowHost& m_host;
     MainWindowPages m_pages;
-    struct RestingPage {
-        ScrollFrame* frame;
-        /// None once the frame holds it.
-        std::unique_ptr<QWidget> page;
-    };
-
+    QWidget* m_header = nullptr;
     QTabWidget* m_tabs = nullptr;
     std::vector<RestingPage> m_resting;
     QMenu* m_trayMenu = nullptr;

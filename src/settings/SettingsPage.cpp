@@ -93,12 +93,12 @@ QGroupBox* SettingsPage::makeColumnsFrame()
 
 QGroupBox* SettingsPage::makeSkinsFrame()
 {
-    m_cmbSkins = new ComboBox;
+    auto* skins = new ComboBox;
+    m_cmbSkins = skins;
     m_cmbSkins->setObjectName(QStringLiteral("cmbSkins"));
     m_cmbSkins->addItems({QStringLiteral("Aqua"), QStringLiteral("Lemon"), QStringLiteral("Classic")});
     // The longest name is not to widen the page.
-    m_cmbSkins->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    m_cmbSkins->setMinimumContentsLength(20);
+    skins->keepNarrow(20);
     auto* currentSkin = new QLabel(tr("Current s&kin"));
     currentSkin->setTextFormat(Qt::PlainText);
     currentSkin->setObjectName(QStringLiteral("SCLabel4"));

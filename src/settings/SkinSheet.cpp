@@ -101,17 +101,15 @@ QString withoutCommentsAndStrings(QStringView sheet, int firstLine)
 
 /// What a style sheet may not do, wherever it does it.
 struct Refusal {
-    /// Stands in every match of the pattern; looked for first, because patterns are slow, and letter cases
-    /// are slower to look for than signs.
-    QLatin1String sign;
+    /// Cheap, for patterns are slow: true for every text that the pattern matches somewhere.
+    bool (*isSuspect)(QStringView text);
     QRegularExpression pattern;
     const char* why;
 };
 
 void refuse(const QString& text, int line, const Refusal& refusal)
 {
-    const bool hasLetters = QChar(refusal.sign.front()).isLetter();
-    if (!text.contains(refusal.sign, hasLetters ? Qt::CaseInsensitive : Qt::CaseSensitive)) {
+    if (!refusal.isSuspect(text)) {
         return;
     }
     const QRegularExpressionMatch match = refusal.pattern.match(text);
@@ -125,6 +123,37 @@ void refuse(const QString& text, int line, const Refusal& refusal)
 QRegularExpression pattern(const char* text)
 {
     return QRegularExpression(QLatin1String(text), QRegularExpression::CaseInsensitiveOption);
+}
+
+bool hasDrawnPart(QStringView selectors)
+{
+    constexpr std::array<QStringView, 8> Beginnings{
+        u"indicator", u"menu-", u"up-", u"down-", u"left-", u"right-", u"drop-", u"branch"};
+    for (qsizetype part = selectors.indexOf(u"::"); part >= 0; part = selectors.indexOf(u"::", part + 1)) {
+        const QStringView name = selectors.mid(part + 2);
+        const bool drawn = std::any_of(Beginnings.begin(), Beginnings.end(),
+            [name](QStringView beginning) { return name.startsWith(beginning, Qt::CaseInsensitive); });
+        if (drawn) {
+            return true;
+        }
+    }
+    return false;
+}
+
+template <char16_t Sign> bool has(QStringView text)
+{
+    return text.contains(Sign);
+}
+
+/// The first letter of "qproperty-", which is rare.
+bool hasQ(QStringView declarations)
+{
+    return declarations.contains(u'q') || declarations.contains(u'Q');
+}
+
+bool isAnything(QStringView /*text*/)
+{
+    return true;
 }
 
 /// What a selector says of the controls that it reaches: their type and their name, as far as it names them.
@@ -179,23 +208,21 @@ bool reachesArrows(QStringView selector)
 
 void checkRule(const QString& selectors, int selectorLine, const QString& declarations, int line)
 {
-    static const Refusal drawnParts{QLatin1String("::"),
+    static const Refusal drawnParts{&hasDrawnPart,
         pattern(
             "::(indicator|menu-indicator|menu-button|menu-arrow|up-arrow|down-arrow|left-arrow|right-arrow"
             "|drop-down|up-button|down-button|branch)\\b"),
         QT_TRANSLATE_NOOP("SkinSheet", "\"%1\" is drawn by the program")};
     static const Refusal atRule{
-        QLatin1String("@"), pattern("@[\\w-]+"), QT_TRANSLATE_NOOP("SkinSheet", "\"%1\" is not allowed")};
-    static const Refusal otherFiles{QLatin1String("("), pattern("\\burl\\s*\\("),
+        &has<u'@'>, pattern("@[\\w-]+"), QT_TRANSLATE_NOOP("SkinSheet", "\"%1\" is not allowed")};
+    static const Refusal otherFiles{&has<u'('>, pattern("\\burl\\s*\\("),
         QT_TRANSLATE_NOOP("SkinSheet", "\"%1\": a skin is one file and holds no pictures")};
-    static const Refusal properties{QLatin1String("qproperty-"), pattern("\\bqproperty-[\\w-]+"),
-        QT_TRANSLATE_NOOP("SkinSheet", "\"%1\" is not allowed")};
+    static const Refusal properties{
+        &hasQ, pattern("\\bqproperty-[\\w-]+"), QT_TRANSLATE_NOOP("SkinSheet", "\"%1\" is not allowed")};
     constexpr const char* takesArrow =
         QT_TRANSLATE_NOOP("SkinSheet", "\"%1\" would take the arrow of a list or picker away");
-    static const Refusal borders{
-        QLatin1String("border"), pattern("(^|[;\\s])border[\\w-]*\\s*:"), takesArrow};
-    static const Refusal grounds{
-        QLatin1String("background"), pattern("(^|[;\\s])background[\\w-]*\\s*:"), takesArrow};
+    static const Refusal borders{&isAnything, pattern("(^|[;\\s])border[\\w-]*\\s*:"), takesArrow};
+    static const Refusal grounds{&isAnything, pattern("(^|[;\\s])background[\\w-]*\\s*:"), takesArrow};
     refuse(selectors, selectorLine, drawnParts);
     refuse(selectors, selectorLine, atRule);
     refuse(declarations, line, otherFiles);
