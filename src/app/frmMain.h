@@ -72,8 +72,8 @@ public:
     /// Puts the pages that nobody has seen yet into the window. Until the first painting, which does not wait
     /// for them, they are styled by nothing and laid out nowhere.
     void wakePages();
-    /// Puts the icon into the notification area, which takes a dozen answers of the screen's server: not before
-    /// the first painting. Nothing once the program ends.
+    /// Puts the icon into the notification area, which takes a dozen answers of the screen's server: not
+    /// before the first painting. Nothing once the program ends.
     void addTrayIcon();
     /// Shows the window, or hides it together with the dialogs. Nothing while the task dialog is open over a
     /// hidden window.

@@ -36,6 +36,10 @@ qreal FittingHeader::squeezeOf(int logicalIndex) const
 // The header itself reckons with bold letters: one more font to be found, for a caption that is never bold.
 QSize FittingHeader::sectionSizeFromContents(int logicalIndex) const
 {
+    // A window that closes asks for its size when its lists are gone.
+    if (model() == nullptr) {
+        return QHeaderView::sectionSizeFromContents(logicalIndex);
+    }
     QStyleOptionHeaderV2 option;
     initStyleOption(&option);
     option.section = logicalIndex;

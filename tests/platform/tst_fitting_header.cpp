@@ -4,6 +4,7 @@
 #include <QImage>
 #include <QPainter>
 #include <QStandardItemModel>
+#include <QTableView>
 #include <QTest>
 
 namespace
@@ -99,6 +100,19 @@ private slots:
         QVERIFY(header.shownCaption() != Caption);
         QVERIFY(header.shownCaption().contains(QChar(0x2026)));
         QVERIFY(header.inkWidth() <= header.sectionSize(0) - 8);
+    }
+
+    void aHeaderOutlivesItsModel()
+    {
+        QTableView list;
+        auto* header = new FittingHeader(&list);
+        list.setHorizontalHeader(header);
+        {
+            QStandardItemModel model(1, 2);
+            list.setModel(&model);
+        }
+        QCOMPARE(header->model(), nullptr);
+        QVERIFY(header->sizeHint().width() >= 0);
     }
 
     void theHeightDoesNotDependOnTheCaption()
