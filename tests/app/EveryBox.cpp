@@ -154,7 +154,7 @@ void visitEveryBox(QWidget& owner, const Visit& visit)
     QVERIFY(cancelled);
     visitOpened(QStringLiteral("progress without Cancel"), visit, [&] {
         ProgressBox box(&owner, QStringLiteral("Loading the tasks..."), ProgressBox::Offers::Nothing);
-        box.setProgress(0, 0);
+        box.setProgress(3, 10);
         box.show();
         QCoreApplication::processEvents();
     });
