@@ -27,7 +27,7 @@ QString plainCode(const QString& code)
 bool isStatement(const QString& text)
 {
     static const QRegularExpression statement(QStringLiteral(
-        "^[#',]?\\s*(select (\\*|count\\(|\\w+(,| from))|insert into |delete from \\w+( where|\\s*$)"
+        "^[#',]?\\s*(select (\\*|(count|ifnull)\\(|[\\w.]+(,| from))|insert into |delete from \\w+( where|\\s*$)"
         "|[Uu]pdate +\\w+ set |pragma \\w+$|PRAGMA |SELECT |BEGIN IMMEDIATE$"
         "|(where|and) [\\w.]+ ?<?= ?|order by ?\\w*$)|^,\\w+='"));
     static const QRegularExpression styleRule(QStringLiteral("^Q[A-Z]\\w+(::[\\w-]+)? \\{"));
