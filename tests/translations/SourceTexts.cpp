@@ -26,10 +26,11 @@ QString plainCode(const QString& code)
 /// beginning: what a user reads may hold any of these words.
 bool isStatement(const QString& text)
 {
-    static const QRegularExpression statement(QStringLiteral(
-        "^[#',]?\\s*(select (\\*|(count|ifnull)\\(|[\\w.]+(,| from))|insert into |delete from \\w+( where|\\s*$)"
-        "|[Uu]pdate +\\w+ set |pragma \\w+$|PRAGMA |SELECT |BEGIN IMMEDIATE$"
-        "|(where|and) [\\w.]+ ?<?= ?|order by ?\\w*$)|^,\\w+='"));
+    static const QRegularExpression statement(
+        QStringLiteral("^[#',]?\\s*(select (\\*|(count|ifnull)\\(|[\\w.]+(,| from))|insert into |delete from "
+                       "\\w+( where|\\s*$)"
+                       "|[Uu]pdate +\\w+ set |pragma \\w+$|PRAGMA |SELECT |BEGIN IMMEDIATE$"
+                       "|(where|and) [\\w.]+ ?<?= ?|order by ?\\w*$)|^,\\w+='"));
     static const QRegularExpression styleRule(QStringLiteral("^Q[A-Z]\\w+(::[\\w-]+)? \\{"));
     return text.contains(statement) || text.contains(styleRule);
 }
