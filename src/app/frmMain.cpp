@@ -7,7 +7,6 @@
 #include "platform/ErrorReport.h"
 #include "platform/LetterScale.h"
 #include "platform/LongWork.h"
-#include "platform/ScrollFrame.h"
 #include "platform/Shell.h"
 #include "platform/WindowPlacement.h"
 #include "settings/MaintenancePage.h"
@@ -35,29 +34,6 @@ constexpr int BalloonMilliseconds = 2000;
 constexpr QSize FirstSize(960, 640);
 constexpr QSize LogoSize(32, 32);
 
-template <typename Work> void forPageAndControls(QWidget& page, Work work)
-{
-    work(page);
-    for (QWidget* control : page.findChildren<QWidget*>()) {
-        work(*control);
-    }
-}
-
-/// Else the toolkit styles a widget as soon as events are handled, and at each change of the style.
-void leaveUnstyled(QWidget& page)
-{
-    forPageAndControls(page, [](QWidget& widget) {
-        QCoreApplication::removePostedEvents(&widget, QEvent::PolishRequest);
-        widget.setAttribute(Qt::WA_SetStyle);
-    });
-}
-
-/// With its next parent.
-void letBeStyled(QWidget& page)
-{
-    forPageAndControls(page, [](QWidget& widget) { widget.setAttribute(Qt::WA_SetStyle, false); });
-}
-
 } // namespace
 
 frmMain::frmMain(
@@ -67,24 +43,21 @@ frmMain::frmMain(
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QStringLiteral("Ambertask"));
     m_tabs->setObjectName(QStringLiteral("tabMain"));
-    m_header = makeHeader();
+    QWidget* header = makeHeader();
     const auto addPage = [&](QWidget* page, const QString& caption) {
-        auto* place = new QWidget;
-        (new QVBoxLayout(place))->setContentsMargins({});
-        m_tabs->addTab(place, caption);
-        leaveUnstyled(*page);
-        m_resting.push_back({place, nullptr, std::unique_ptr<QWidget>(page)});
+        m_resting.emplace_back(page, QList<const QWidget*>{header, m_tabs->tabBar()});
+        m_tabs->addTab(m_resting.back().place(), caption);
     };
     addPage(m_pages.tasks, tr("Tasks"));
     addPage(m_pages.categories, tr("Categories"));
     addPage(m_pages.settings, tr("Settings"));
     addPage(m_pages.maintenance, tr("Maintenance"));
-    // A part of the window already, but it is styled and laid out with the skin.
-    m_pages.tasks->setParent(frameOf(m_resting.front())->viewport());
+    // It is the first to be seen.
+    m_resting[TasksIndex].join();
     addPageKeys();
     m_trayMenu = makeTrayMenu();
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(m_header);
+    layout->addWidget(header);
     layout->addWidget(m_tabs, 1);
     resize(withLetters(FirstSize, font()));
     connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, &frmMain::helpRequested);
@@ -161,29 +134,15 @@ QMenu* frmMain::makeTrayMenu()
 
 frmMain::~frmMain() = default;
 
-ScrollFrame* frmMain::frameOf(RestingPage& resting) const
-{
-    if (resting.frame == nullptr) {
-        resting.frame = new ScrollFrame({m_header, m_tabs->tabBar()});
-        resting.place->layout()->addWidget(resting.frame);
-        // A layout would show it with the next events only.
-        resting.frame->show();
-    }
-    return resting.frame;
-}
-
 void frmMain::wakePage(int page)
 {
-    if (RestingPage& resting = m_resting[static_cast<std::size_t>(page)]; resting.page != nullptr) {
-        letBeStyled(*resting.page);
-        frameOf(resting)->hold(resting.page.release());
-    }
+    m_resting[static_cast<std::size_t>(page)].wake();
 }
 
 void frmMain::wakePages()
 {
-    for (int page = 0; page < m_tabs->count(); ++page) {
-        wakePage(page);
+    for (RestingPage& page : m_resting) {
+        page.wake();
     }
 }
 

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "app/RestingPage.h"
 #include "app/TaskListModel.h"
 #include "platform/TrayIcon.h"
 #include "ui/FormServices.h"
 
 #include <QWidget>
-#include <memory>
 #include <vector>
 
 class CategoriesPage;
@@ -13,7 +13,6 @@ class MaintenancePage;
 class QAction;
 class QMenu;
 class QTabWidget;
-class ScrollFrame;
 class SettingsPage;
 class TasksPage;
 struct SettingsRecord;
@@ -53,8 +52,8 @@ public:
         MainWindowPages pages);
     ~frmMain() override;
 
-    /// Fills the pages, applies the settings, puts the tray icon in place and shows the window unless it is
-    /// to start hidden. Throws DatabaseError; Cancelled when the program ends meanwhile.
+    /// Fills the pages, applies the settings and shows the window unless it is to start hidden. Throws
+    /// DatabaseError; Cancelled when the program ends meanwhile.
     void Form_Load();
     /// The settings take effect on the window.
     void ApplyChanges();
@@ -112,15 +111,6 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    struct RestingPage {
-        QWidget* place;
-        /// None before the page is to be seen, but for the first page.
-        ScrollFrame* frame;
-        /// None once the frame holds it.
-        std::unique_ptr<QWidget> page;
-    };
-
-    ScrollFrame* frameOf(RestingPage& resting) const;
     void fillPages();
     void wakePage(int page);
     void tabMain_Switch(int page);
@@ -138,7 +128,6 @@ private:
     const SettingsRecord& m_settings;
     MainWindowHost& m_host;
     MainWindowPages m_pages;
-    QWidget* m_header = nullptr;
     QTabWidget* m_tabs = nullptr;
     std::vector<RestingPage> m_resting;
     QMenu* m_trayMenu = nullptr;
