@@ -102,7 +102,8 @@ private slots:
         SlowProgram f;
         f.startQuickly();
         bool isEventHandled = false;
-        QTimer::singleShot(0, this, [&] { isEventHandled = true; });
+        const QObject handler;
+        QTimer::singleShot(0, &handler, [&] { isEventHandled = true; });
         f.choose(TaskStatus::InProgress);
         QVERIFY(!isEventHandled);
         QCOMPARE(f.rows(), InProgress);
