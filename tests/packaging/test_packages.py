@@ -17,7 +17,7 @@ from datetime import datetime
 
 from bare import HOME, USER, BareDesktop, BareSystem
 from desktop import PROGRAM_NAME
-from polling import wait_until
+from polling import wait_rest, wait_until
 import names
 
 SYSTEM = BareSystem()
@@ -125,11 +125,18 @@ class PackageCase(unittest.TestCase):
     def work(self, program):
         """Help and report open: their modules are found, with all that they link."""
         for title, keys in ((HELP, ("F1",)), (names.REPORT, ("p", "Alt_L"))):
-            main = self.wait_window(program, names.MAIN)
-            main.activate()
-            wait_until(lambda window=main: window.active, "the window is active")
+            self.give_keys(self.wait_window(program, names.MAIN))
             self.desk.input.key(*keys)
             self.wait_window(program, title).close()
+            wait_until(lambda closed=title: self.desk.screen.client(closed, program.pid) is None, f"'{title}' is gone")
+
+    @staticmethod
+    def give_keys(window):
+        """The window has the keys and keeps them: an alert that has just come up takes them a moment later."""
+        def keeps():
+            window.activate()
+            return wait_rest(lambda: window.active, "who has the keys")
+        wait_until(keeps, "the window keeps the keys")
 
     def loaded_modules(self, program):
         with open(f"/proc/{program.pid}/maps", encoding="utf-8") as maps:
