@@ -5,6 +5,7 @@
 #include <QBoxLayout>
 #include <QCoreApplication>
 #include <QEvent>
+#include <utility>
 
 namespace
 {

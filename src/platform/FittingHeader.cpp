@@ -24,11 +24,15 @@ int FittingHeader::roomFor(int logicalIndex) const
     return qMax(1, sectionSize(logicalIndex) - 2 * CaptionMargin);
 }
 
+QString FittingHeader::captionOf(int logicalIndex) const
+{
+    return model()->headerData(logicalIndex, orientation(), Qt::DisplayRole).toString();
+}
+
 qreal FittingHeader::squeezeOf(int logicalIndex) const
 {
-    const QString caption = model()->headerData(logicalIndex, orientation(), Qt::DisplayRole).toString();
     // The advance is rounded, and may be rounded off.
-    const int needed = fontMetrics().horizontalAdvance(caption) + 1;
+    const int needed = fontMetrics().horizontalAdvance(captionOf(logicalIndex)) + 1;
     const int available = roomFor(logicalIndex);
     return needed <= available ? 1 : qMax(LeastSqueeze, qreal(available) / needed);
 }
@@ -43,7 +47,7 @@ QSize FittingHeader::sectionSizeFromContents(int logicalIndex) const
     QStyleOptionHeaderV2 option;
     initStyleOption(&option);
     option.section = logicalIndex;
-    option.text = model()->headerData(logicalIndex, orientation(), Qt::DisplayRole).toString();
+    option.text = captionOf(logicalIndex);
     return style()->sizeFromContents(QStyle::CT_HeaderSection, &option, QSize(), this);
 }
 

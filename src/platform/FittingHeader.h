@@ -17,6 +17,7 @@ protected:
     void initStyleOptionForIndex(QStyleOptionHeader* option, int logicalIndex) const override;
 
 private:
+    QString captionOf(int logicalIndex) const;
     /// Pixels for the caption.
     int roomFor(int logicalIndex) const;
     /// How wide the letters are drawn, at most 1.

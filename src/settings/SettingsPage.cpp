@@ -93,12 +93,11 @@ QGroupBox* SettingsPage::makeColumnsFrame()
 
 QGroupBox* SettingsPage::makeSkinsFrame()
 {
-    auto* skins = new ComboBox;
-    m_cmbSkins = skins;
+    m_cmbSkins = new ComboBox;
     m_cmbSkins->setObjectName(QStringLiteral("cmbSkins"));
     m_cmbSkins->addItems({QStringLiteral("Aqua"), QStringLiteral("Lemon"), QStringLiteral("Classic")});
     // The longest name is not to widen the page.
-    skins->keepNarrow(20);
+    m_cmbSkins->keepNarrow(20);
     auto* currentSkin = new QLabel(tr("Current s&kin"));
     currentSkin->setTextFormat(Qt::PlainText);
     currentSkin->setObjectName(QStringLiteral("SCLabel4"));

@@ -4,8 +4,8 @@
 
 #include <QWidget>
 
+class ComboBox;
 class QCheckBox;
-class QComboBox;
 class QGroupBox;
 class QPushButton;
 class LinkLabel;
@@ -81,7 +81,7 @@ private:
     QCheckBox* m_chkShowDueDate = nullptr;
     QCheckBox* m_chkShowReminder = nullptr;
     QCheckBox* m_chkShowStatus = nullptr;
-    QComboBox* m_cmbSkins = nullptr;
+    ComboBox* m_cmbSkins = nullptr;
     QPushButton* m_btnBrowseNewSkin = nullptr;
     LinkLabel* m_lblDownloadSkins = nullptr;
     QPushButton* m_btnSave = nullptr;

@@ -4,8 +4,12 @@
 #include "support/FullPixmapCache.h"
 #include "support/TestMain.h"
 
+#include <QApplication>
+#include <QEvent>
 #include <QFile>
+#include <QPushButton>
 #include <QTabWidget>
+#include <algorithm>
 
 namespace
 {
@@ -19,6 +23,22 @@ QString failureOf(ProgramFixture& f)
     }
     return {};
 }
+
+/// Counts how often a control is told of another style.
+class StyleChanges final : public QObject
+{
+public:
+    explicit StyleChanges(QWidget& control) { control.installEventFilter(this); }
+
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject* /*control*/, QEvent* event) override
+    {
+        count += event->type() == QEvent::StyleChange ? 1 : 0;
+        return false;
+    }
+};
 
 } // namespace
 
@@ -59,6 +79,25 @@ private slots:
         const QSize needed = f.control<QPushButton>(f.main(), "btnSave")->parentWidget()->minimumSizeHint();
         f.main().resize(1, 1);
         QTRY_VERIFY(f.main().width() >= needed.width() && f.main().height() >= needed.height());
+    }
+
+    void noStyleReachesThemBeforeThat()
+    {
+        ProgramFixture f;
+        f.program.start([] { return false; });
+        qApp->setStyleSheet({});
+        const auto controls = QApplication::allWidgets();
+        const auto save = std::find_if(controls.begin(), controls.end(),
+            [](const QWidget* control) { return control->objectName() == QLatin1String("btnSave"); });
+        QVERIFY(save != controls.end());
+        StyleChanges unseen(**save);
+        StyleChanges seen(*f.control<QPushButton>(f.main(), "btnTaskAdd"));
+        qApp->setStyleSheet(QStringLiteral("QPushButton { padding: 3px; }"));
+        QVERIFY(seen.count > 0);
+        QCOMPARE(unseen.count, 0);
+        f.main().wakePages();
+        QVERIFY(unseen.count > 0);
+        qApp->setStyleSheet({});
     }
 
     void theyJoinAWindowThatStartsHiddenToo()
