@@ -30,8 +30,8 @@ namespace
 /// The real machine around the program.
 struct RealMachine {
     RealMachine(const QString& moduleFolder, const QString& programFolder, ErrorReport& errorReport)
-        : modules(moduleFolder,
-            {QLatin1String(SoundModule), QLatin1String(HelpModule), QLatin1String(ReportModule)}),
+        : modules(moduleFolder, {QLatin1String(HelpModule), QLatin1String(ReportModule)},
+            {QLatin1String(SoundProgram)}),
           engine{programFolder, &clock, nullptr, nullptr, &dataFileIsSound}, errors(errorReport)
     {
     }
@@ -39,7 +39,7 @@ struct RealMachine {
     Machine machine()
     {
         return {engine, messages, fileDialogs, errors, shell, *registry,
-            [this] { return loadWaveBackend(modules); }, TrayIcon::isAreaAvailable,
+            [this] { return makeWaveBackend(modules); }, TrayIcon::isAreaAvailable,
             [this](HelpHost& host) { return loadHelpWindow(modules, host); },
             [this](ReportHost& host) {
                 return loadReportWindow(modules, host);

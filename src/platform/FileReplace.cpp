@@ -285,7 +285,7 @@ void makeFolder(const QString& path)
     }
     makeFolder(QFileInfo(path).absolutePath());
     // Another process may be making it, too.
-    if (!QDir().mkdir(path) && !QFileInfo(path).isDir()) {
+    if (!QDir().mkdir(path, PrivateFolder) && !QFileInfo(path).isDir()) {
         fail(path, qt_error_string());
     }
     flushFolderOf(path);

@@ -29,6 +29,8 @@ private:
 
 /// Read and written by its owner alone.
 inline constexpr QFileDevice::Permissions PrivateFile = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
+/// The same for a folder.
+inline constexpr QFileDevice::Permissions PrivateFolder = PrivateFile | QFileDevice::ExeOwner;
 /// Read by everyone as far as the user's mask allows it.
 inline constexpr QFileDevice::Permissions PublicFile =
     PrivateFile | QFileDevice::ReadGroup | QFileDevice::ReadOther;
@@ -64,7 +66,7 @@ void removeFile(const QString& path);
 /// Takes away what others than its owner may do with a file. Quietly does nothing where there is no regular
 /// file of that name (what a link points to is not meant) or where the system refuses.
 void makePrivate(const QString& path);
-/// Makes the folder, and those above it that are missing.
+/// Makes the folder, and those above it that are missing, for its owner alone.
 void makeFolder(const QString& path);
 
 /// Brings the names that `folder` holds to the disk. False when the disk failed to; some file systems cannot

@@ -1,12 +1,11 @@
 #include "platform/MMControl.h"
 
 #include "platform/Modules.h"
+#include "platform/sound/SoundProcess.h"
 
-std::unique_ptr<WaveBackend> loadWaveBackend(Modules& modules)
+std::unique_ptr<WaveBackend> makeWaveBackend(const Modules& modules)
 {
-    using Make = WaveBackend* (*)();
-    const auto make = modules.resolve<Make>(QLatin1String(SoundModule), "ambertaskMakeWaveBackend");
-    return std::unique_ptr<WaveBackend>(make == nullptr ? nullptr : make());
+    return std::make_unique<SoundProcess>(modules.program(QLatin1String(SoundProgram)));
 }
 
 MMControl::MMControl(WaveBackendFactory factory, QObject* parent)

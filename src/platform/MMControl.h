@@ -8,10 +8,10 @@
 
 class Modules;
 
-inline constexpr char SoundModule[] = "ambertask_sound";
+inline constexpr char SoundProgram[] = "ambertask_sound";
 
-/// Loads the sound module; nothing when there is none.
-std::unique_ptr<WaveBackend> loadWaveBackend(Modules& modules);
+/// What plays waves on this machine; silent where its program is missing.
+std::unique_ptr<WaveBackend> makeWaveBackend(const Modules& modules);
 
 /// The multimedia control: set the properties, then send the commands "Open" and "Play". Each "Play" starts
 /// at once and may overlap the sound before; "Close" stops all. Interface thread only; nothing here blocks or

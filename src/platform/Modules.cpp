@@ -7,21 +7,32 @@
 
 #ifdef Q_OS_LINUX
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #endif
 
-Modules::Modules(const QString& folder, const QStringList& names) : m_folder(folder)
+Modules::Modules(const QString& folder, const QStringList& names, const QStringList& programs)
+    : m_folder(folder)
+{
+    for (const QString& name : names) {
+        hold(name, name + QStringLiteral(".so"));
+    }
+    for (const QString& name : programs) {
+        hold(name, name);
+    }
+}
+
+void Modules::hold(const QString& name, const QString& file)
 {
 #ifdef Q_OS_LINUX
-    for (const QString& name : names) {
-        const QByteArray path = QFile::encodeName(pathIn(folder, name) + QStringLiteral(".so"));
-        const int handle = ::open(path.constData(), O_RDONLY | O_CLOEXEC);
-        if (handle >= 0) {
-            m_held.insert(name, {handle});
-        }
+    const QByteArray path = QFile::encodeName(pathIn(m_folder, file));
+    const int handle = ::open(path.constData(), O_RDONLY | O_CLOEXEC);
+    if (handle >= 0) {
+        m_held.insert(name, {handle});
     }
 #else
-    Q_UNUSED(names);
+    Q_UNUSED(name);
+    Q_UNUSED(file);
 #endif
 }
 
@@ -47,4 +58,20 @@ QFunctionPointer Modules::resolveAny(const QString& name, const char* symbol)
     QLibrary module(QStringLiteral("/proc/self/fd/%1").arg(held->handle));
     held->loaded = module.load() || held->loaded;
     return module.resolve(symbol);
+}
+
+QString Modules::program(const QString& name) const
+{
+    const QString path = pathIn(m_folder, name);
+#ifdef Q_OS_LINUX
+    const auto held = m_held.find(name);
+    struct stat now = {};
+    struct stat then = {};
+    if (held != m_held.end() && ::fstat(held->handle, &then) == 0
+        && (::stat(QFile::encodeName(path).constData(), &now) != 0 || now.st_ino != then.st_ino
+            || now.st_dev != then.st_dev)) {
+        return QStringLiteral("/proc/self/fd/%1").arg(held->handle);
+    }
+#endif
+    return path;
 }

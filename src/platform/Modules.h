@@ -4,15 +4,16 @@
 #include <QString>
 #include <QStringList>
 
-/// The modules of the program, loaded at their first use. Their files are held open from the start on: a copy
-/// that runs on while another version takes their place loads its own all the same, and never that other
-/// version's. Interface thread only.
+/// The modules of the program, loaded at their first use, and the programs beside them that it starts. Their
+/// files are held open from the start on: a copy that runs on while another version takes their place uses
+/// its own all the same, and never that other version's. Interface thread only.
 class Modules
 {
 public:
-    /// Opens, where the platform can, the files of the modules `names` in `folder`, which costs a few
-    /// microseconds; nothing is read yet. Names are without the ending that the platform gives to files.
-    Modules(const QString& folder, const QStringList& names);
+    /// Opens, where the platform can, the files of the modules `names` and of the `programs` in `folder`,
+    /// which costs a few microseconds; nothing is read yet. Names are without the ending that the platform
+    /// gives to files.
+    Modules(const QString& folder, const QStringList& names, const QStringList& programs = {});
     ~Modules();
     Modules(const Modules&) = delete;
     Modules& operator=(const Modules&) = delete;
@@ -24,7 +25,11 @@ public:
         return reinterpret_cast<Function>(resolveAny(name, symbol));
     }
 
+    /// The path by which the program of that name is started, while this object lives.
+    QString program(const QString& name) const;
+
 private:
+    void hold(const QString& name, const QString& file);
     QFunctionPointer resolveAny(const QString& name, const char* symbol);
 
     struct Held {

@@ -1,5 +1,6 @@
 #include "platform/ProgramFolder.h"
 
+#include "platform/FileReplace.h"
 #include "platform/Installation.h"
 
 #include <QDir>
@@ -41,5 +42,10 @@ bool noteFirstStart()
     QFile marker(folder + QStringLiteral("/started"));
     // Noted before anything is registered: a machine that cannot keep the note is not registered at every
     // start.
-    return QDir().mkpath(folder) && marker.open(QIODevice::WriteOnly | QIODevice::NewOnly);
+    try {
+        makeFolder(folder);
+    } catch (const FileError&) {
+        return false;
+    }
+    return marker.open(QIODevice::WriteOnly | QIODevice::NewOnly, PrivateFile);
 }

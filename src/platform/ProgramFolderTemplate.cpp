@@ -21,7 +21,6 @@
 namespace
 {
 
-constexpr QFileDevice::Permissions PrivateFolder = PrivateFile | QFileDevice::ExeOwner;
 constexpr char UnfinishedPrefix[] = ".Ambertask-";
 
 [[noreturn]] void fail(const QString& path, const QString& why)
@@ -97,14 +96,9 @@ void makePrivateFolder(const QString& folder)
 void ensureUserData(const QString& userData)
 {
     try {
-        makeFolder(QFileInfo(userData).absolutePath());
+        makeFolder(userData);
     } catch (const FileError& error) {
         fail(userData, error.why());
-    }
-    if (QDir().mkdir(userData, PrivateFolder)) {
-        flushFolder(QFileInfo(userData).absolutePath());
-    } else if (!QFileInfo(userData).isDir()) {
-        fail(userData, qt_error_string());
     }
 }
 

@@ -4,7 +4,7 @@
 #include <functional>
 #include <memory>
 
-/// Plays wave files; a module of its own, loaded when the first sound is played. Interface thread only.
+/// Plays wave files. Interface thread only.
 class WaveBackend
 {
 public:

@@ -28,9 +28,8 @@ public:
         : m_path(QFileInfo(dataFile).absolutePath() + QStringLiteral("/.restore"))
     {
         remove();
-        constexpr QFileDevice::Permissions Private = PrivateFile | QFileDevice::ExeOwner;
         // The user's mask must not take away what the owner needs.
-        if (!QDir().mkdir(m_path, Private) || !QFile::setPermissions(m_path, Private)) {
+        if (!QDir().mkdir(m_path, PrivateFolder) || !QFile::setPermissions(m_path, PrivateFolder)) {
             throw FileError(QStringLiteral("\"%1\": %2.").arg(m_path, qt_error_string()));
         }
     }

@@ -18,7 +18,7 @@ class SoundServer:
     def __init__(self, children, environment, root):
         self._recording = os.path.join(root, "recording.raw")
         address = environment["PULSE_SERVER"].removeprefix("unix:")
-        children.start(
+        self.process = children.start(
             ["pulseaudio", "-n", "--daemonize=no", "--exit-idle-time=-1", "--disallow-exit", "--use-pid-file=no",
              "-L", f"module-native-protocol-unix auth-anonymous=1 socket={address}",
              "-L", f"module-null-sink sink_name=desk rate={RATE} channels=1"], environment, "pulseaudio")

@@ -115,7 +115,7 @@ class UseTest(DamageCase):
 
     def setUp(self):
         super().setUp()
-        for module in ("ambertask_help.so", "ambertask_report.so", "ambertask_sound.so"):
+        for module in ("ambertask_help.so", "ambertask_report.so", "ambertask_sound"):
             self.damage(module, rubbish)
 
     def test_a_damaged_help_module_is_told(self):
@@ -134,7 +134,7 @@ class UseTest(DamageCase):
         user.wait_active(names.MAIN)
         user.open_page("Settings")
 
-    def test_a_damaged_sound_module_makes_a_silent_alert(self):
+    def test_a_damaged_player_makes_a_silent_alert(self):
         self.store.add_task("Due", reminder=datetime(2020, 1, 1),
                             sound=os.path.join(self.desk.program, "sounds", "bell.wav"))
         user = self.start()

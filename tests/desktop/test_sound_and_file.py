@@ -1,5 +1,6 @@
 """Sounds that cannot be played and files with names that a shell would trip over."""
 import os
+import signal
 from datetime import datetime
 
 import names
@@ -164,6 +165,58 @@ class SoundTest(ReminderCase):
             self.clock.set(moment)
             self.user.alert(number)
             wait_until(lambda start=heard: self.desk.sound.loud_seconds(start) > 0.2, f"{shipped[number - 1]} plays")
+
+
+class BrokenSoundTest(ReminderCase):
+    """A sound server that does not do its work, or dies of it, stops the sound and nothing else."""
+
+    sound = True
+
+    def setUp(self):
+        super().setUp()
+        self.tone = self.desk.path("tone.wav")
+        write_tone(self.tone, 550, 5.0)
+        self.store.add_task("Due", reminder=PAST, sound=self.tone)
+
+    def assert_works(self):
+        """Controls answer, a later reminder comes up with its sound, and the program ends."""
+        self.user.click_control(self.user.main(), ("option", "Active tasks only"))
+        self.user.click_control(self.user.main(), ("option", "All tasks"))
+        self.store.add_task("Afterwards", reminder=DUE_NEXT, sound=self.tone)
+        self.clock.set(DUE_NEXT)
+        self.user.wait_rows(["Due", "Afterwards"], self.user.alert(2))
+        self.assertEqual(self.user.exit(), 0)
+
+    def test_a_server_that_takes_calls_and_never_answers(self):
+        self.desk.sound.process.send_signal(signal.SIGSTOP)
+        self.run_first_tick(1)
+        self.assert_works()
+
+    def test_a_server_that_stops_in_the_middle_of_a_sound(self):
+        self.run_first_tick(1)
+        wait_until(lambda: self.desk.sound.loud_seconds() > 0.3, "the sound plays")
+        self.desk.sound.process.send_signal(signal.SIGSTOP)
+        self.assert_works()
+
+    def test_a_server_that_dies_in_the_middle_of_a_sound(self):
+        self.run_first_tick(1)
+        wait_until(lambda: self.desk.sound.loud_seconds() > 0.3, "the sound plays")
+        self.desk.sound.process.kill()
+        self.assert_works()
+
+    def test_a_sound_library_that_aborts(self):
+        record = self.desk.path("aborted")
+        with open(os.path.join(self.desk.program, "ambertask_sound"), "w", encoding="ascii") as player:
+            player.write(f"#!/bin/sh\necho started >> '{record}'\nkill -ABRT $$\n")
+        self.run_first_tick(1)
+        wait_until(lambda: os.path.exists(record), "the player has aborted")
+        self.assert_works()
+
+    def test_the_program_can_be_ended_while_it_sounds(self):
+        self.run_first_tick(1)
+        wait_until(lambda: self.desk.sound.loud_seconds() > 0.3, "the sound plays")
+        self.assertEqual(self.user.exit(), 0)
+        self.assertEqual(self.user.program.errors(), "")
 
 
 if __name__ == "__main__":

@@ -148,6 +148,17 @@ class FirstStartTest(StartCase):
         self.assertFalse(os.path.exists(self.entry))
         self.assertEqual(self.marks(), marks)
 
+    def test_nothing_is_made_that_others_may_write_even_where_the_mask_allows_it(self):
+        self.addCleanup(os.umask, os.umask(0))
+        user = self.start()
+        user.wait_loaded()
+        wait_until(lambda: os.path.exists(self.entry), "the autostart entry is written")
+        self.assertEqual(user.exit(), 0)
+        made = [*self.marks(), self.entry, self.desk.data_file]
+        folders = [os.path.dirname(path) for path in made[:-1]]
+        self.assertEqual({path: oct(os.stat(path).st_mode & 0o022) for path in made + folders},
+                         {path: "0o0" for path in made + folders})
+
 
 class BrokenDataTest(StartCase):
     """Start-up with a data file that cannot serve: a report, a failure status, and nothing touched."""

@@ -102,5 +102,5 @@ class BareDesktop(Desktop):
 
 
 def without_program(folder):
-    """The names in a program folder beside the executable and its modules."""
-    return sorted(name for name in os.listdir(folder) if name != PROGRAM_NAME and not name.endswith(".so"))
+    """The names in a program folder beside the executable and what belongs to it."""
+    return sorted(name for name in os.listdir(folder) if name != PROGRAM_NAME and not name.startswith("ambertask_"))

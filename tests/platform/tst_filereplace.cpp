@@ -50,6 +50,7 @@ private slots:
     void otherHiddenFilesStay();
     void aMissingFileIsAsGoodAsRemoved();
     void foldersAreMadeWithThoseAboveThem();
+    void foldersArePrivateWhateverTheMaskIs();
     void whatTheDiskCannotTellIsNoNo();
 
 private:
@@ -278,6 +279,18 @@ void TestFileReplace::aMissingFileIsAsGoodAsRemoved()
     removeFile(file);
     QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("folder")));
     QVERIFY(caught<FileError>([&] { removeFile(path(QStringLiteral("folder"))); }).has_value());
+}
+
+void TestFileReplace::foldersArePrivateWhateverTheMaskIs()
+{
+    const mode_t before = umask(0);
+    makeFolder(path(QStringLiteral("a/b")));
+    umask(before);
+    for (const char* folder : {"a", "a/b"}) {
+        QCOMPARE(QFileInfo(path(QLatin1String(folder))).permissions()
+                & ~(QFileDevice::ReadUser | QFileDevice::WriteUser | QFileDevice::ExeUser),
+            PrivateFolder);
+    }
 }
 
 void TestFileReplace::foldersAreMadeWithThoseAboveThem()

@@ -1,10 +1,8 @@
 #include "platform/MMControl.h"
-#include "platform/Modules.h"
 #include "platform/sound/WaveFile.h"
 #include "support/TestMain.h"
 
 #include <QFile>
-#include <QLibrary>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -54,15 +52,6 @@ QByteArray riff(const QByteArray& chunks)
 QByteArray silence(int samples)
 {
     return QByteArray(samples, '\x80');
-}
-
-/// The sound module of this build.
-std::unique_ptr<WaveBackend> moduleOfThisBuild()
-{
-    QLibrary module(QStringLiteral(AMBERTASK_SOUND_MODULE));
-    using Make = WaveBackend* (*)();
-    const auto make = reinterpret_cast<Make>(module.resolve("ambertaskMakeWaveBackend"));
-    return std::unique_ptr<WaveBackend>(make == nullptr ? nullptr : make());
 }
 
 } // namespace
@@ -222,26 +211,6 @@ private slots:
         QVERIFY(waveLength(huge).has_value());
         QVERIFY(QFile::resize(huge, qint64{64} * 1024 * 1024 + 1));
         QVERIFY(!waveLength(huge).has_value());
-    }
-
-    void theSoundModulePassesOverWhatIsNoWaveWithoutAWord()
-    {
-        const std::unique_ptr<WaveBackend> backend = moduleOfThisBuild();
-        QVERIFY(backend != nullptr);
-        bool done = false;
-        backend->onDone = [&done] {
-            done = true;
-        };
-        backend->play(file("no sound"));
-        backend->play(m_folder.filePath(QStringLiteral("missing.wav")));
-        backend->stopAll();
-        QVERIFY(!done);
-    }
-
-    void aProgramWithoutItsSoundModuleIsSilent()
-    {
-        Modules modules(m_folder.path(), {QLatin1String(SoundModule)});
-        QVERIFY(loadWaveBackend(modules) == nullptr);
     }
 };
 

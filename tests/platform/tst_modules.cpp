@@ -114,6 +114,28 @@ private slots:
         QCOMPARE(answerOf(modules), 0);
     }
 
+    void aProgramWhoseFileIsGoneSinceTheStartIsStillReached()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(Name);
+        const auto write = [&path](const char* text) {
+            QFile::remove(path);
+            QFile file(path);
+            return file.open(QIODevice::WriteOnly) && file.write(text) > 0;
+        };
+        const auto read = [](const QString& name) {
+            QFile file(name);
+            return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        };
+        QVERIFY(write("earlier"));
+        const Modules modules(folder.path(), {}, {Name});
+        QCOMPARE(modules.program(Name), path);
+        QVERIFY(write("later"));
+        QCOMPARE(read(modules.program(Name)), QByteArray("earlier"));
+        QVERIFY(QFile::remove(path));
+        QCOMPARE(read(modules.program(Name)), QByteArray("earlier"));
+    }
+
     void theHeldFilesAreNotPassedToStartedProgramsAndClosedAtTheEnd()
     {
         const ModuleFolder folder;

@@ -1,7 +1,7 @@
 #include "Damage.h"
 #include "platform/PictureFile.h"
 #include "platform/RuntimeError.h"
-#include "platform/WaveBackend.h"
+#include "platform/sound/SoundProcess.h"
 #include "platform/sound/WaveFile.h"
 #include "support/TestMain.h"
 #include "support/TestPictures.h"
@@ -10,7 +10,6 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QImageWriter>
-#include <QLibrary>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QtEndian>
@@ -75,7 +74,7 @@ private slots:
     void aPictureThatClaimsToBeHugeIsRefusedAtOnce_data();
     void aPictureThatClaimsToBeHugeIsRefusedAtOnce();
     void aDamagedWaveHasNoLengthOrOneOfItsSize();
-    void theSoundModulePlaysDamagedWavesOrNothing();
+    void thePlayerPlaysDamagedWavesOrNothing();
 
 private:
     /// Whether the picture was accepted; fails the test when it took too long or has no sensible size.
@@ -188,27 +187,21 @@ void DamagedPicturesAndSoundsTest::aDamagedWaveHasNoLengthOrOneOfItsSize()
     qInfo("%d damaged waves, %d of them refused", tried, refused);
 }
 
-void DamagedPicturesAndSoundsTest::theSoundModulePlaysDamagedWavesOrNothing()
+void DamagedPicturesAndSoundsTest::thePlayerPlaysDamagedWavesOrNothing()
 {
-    QLibrary module(QStringLiteral(AMBERTASK_SOUND_MODULE));
-    using Make = WaveBackend* (*)();
-    const auto make = reinterpret_cast<Make>(module.resolve("ambertaskMakeWaveBackend"));
-    QVERIFY(make != nullptr);
-    const std::unique_ptr<WaveBackend> backend(make());
+    SoundProcess backend(QStringLiteral(AMBERTASK_SOUND_PROGRAM));
     const QByteArray bytes = bytesOf(QStringLiteral(AMBERTASK_SHIPPED_SOUNDS "/bell.wav"));
     int played = 0;
     for (const Damage& damage : damagedAnywhere(bytes.left(4000), 100, 20, m_chance)) {
         const QString file = writeFile(m_folder.path(), QStringLiteral("%1.wav").arg(++played), damage.bytes);
-        backend->play(file);
+        backend.play(file);
         QCoreApplication::processEvents();
         if (played % 7 == 0) {
-            backend->stopAll();
+            backend.stopAll();
         }
     }
-    backend->stopAll();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QCoreApplication::processEvents();
-    qInfo("%d damaged waves given to the sound module", played);
+    backend.stopAll();
+    qInfo("%d damaged waves given to the player", played);
 }
 
 AMBERTASK_TEST_MAIN(DamagedPicturesAndSoundsTest)

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "platform/HelperProcess.h"
+#include "platform/WaveBackend.h"
+
+#include <QTimer>
+
+/// Plays waves in a process of its own, which runs only while something sounds: a sound library that aborts
+/// or hangs, as they do without their server, ends a sound and nothing else. A file that is no wave never
+/// gets there.
+class SoundProcess final : public WaveBackend
+{
+public:
+    /// `program` is the path of the player's executable.
+    explicit SoundProcess(const QString& program);
+
+    void play(const QString& file) override;
+    void stopAll() override;
+
+private:
+    void finish();
+
+    HelperProcess m_player;
+    qsizetype m_sounding = 0;
+    /// Without a sound server a sound never ends: runs out when the last one should have ended long ago.
+    QTimer m_overdue;
+};
