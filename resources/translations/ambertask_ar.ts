@@ -291,6 +291,13 @@
     </message>
 </context>
 <context>
+    <name>DisplayGate</name>
+    <message>
+        <source>Ambertask needs a graphical desktop, and none could be reached from here.</source>
+        <translation>يحتاج Ambertask إلى سطح مكتب رسومي، ولم يمكن الوصول إلى أي سطح مكتب من هنا.</translation>
+    </message>
+</context>
+<context>
     <name>FileDialogs</name>
     <message>
         <source>Folder</source>
@@ -1848,6 +1855,12 @@
         <source>The program folder could not be made.
 %1</source>
         <translation>تعذّر إنشاء مجلد البرنامج.
+%1</translation>
+    </message>
+    <message>
+        <source>The program folder could not be kept from a second copy of the program.
+%1</source>
+        <translation>تعذّرت حماية مجلد البرنامج من نسخة ثانية من البرنامج.
 %1</translation>
     </message>
 </context>

@@ -291,6 +291,13 @@
     </message>
 </context>
 <context>
+    <name>DisplayGate</name>
+    <message>
+        <source>Ambertask needs a graphical desktop, and none could be reached from here.</source>
+        <translation>Ambertask braucht eine grafische Arbeitsumgebung, und von hier aus war keine zu erreichen.</translation>
+    </message>
+</context>
+<context>
     <name>FileDialogs</name>
     <message>
         <source>Folder</source>
@@ -1824,6 +1831,12 @@ ein Fehler auf: %3.</translation>
         <source>The program folder could not be made.
 %1</source>
         <translation>Der Programmordner konnte nicht angelegt werden.
+%1</translation>
+    </message>
+    <message>
+        <source>The program folder could not be kept from a second copy of the program.
+%1</source>
+        <translation>Der Programmordner konnte nicht gegen eine zweite Kopie des Programms gesichert werden.
 %1</translation>
     </message>
 </context>

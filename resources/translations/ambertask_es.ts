@@ -291,6 +291,13 @@
     </message>
 </context>
 <context>
+    <name>DisplayGate</name>
+    <message>
+        <source>Ambertask needs a graphical desktop, and none could be reached from here.</source>
+        <translation>Ambertask necesita un escritorio gráfico y desde aquí no se ha podido acceder a ninguno.</translation>
+    </message>
+</context>
+<context>
     <name>FileDialogs</name>
     <message>
         <source>Folder</source>
@@ -1824,6 +1831,12 @@
         <source>The program folder could not be made.
 %1</source>
         <translation>No se pudo crear la carpeta del programa.
+%1</translation>
+    </message>
+    <message>
+        <source>The program folder could not be kept from a second copy of the program.
+%1</source>
+        <translation>No se ha podido proteger la carpeta del programa de una segunda copia del programa.
 %1</translation>
     </message>
 </context>

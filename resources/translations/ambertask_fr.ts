@@ -291,6 +291,13 @@
     </message>
 </context>
 <context>
+    <name>DisplayGate</name>
+    <message>
+        <source>Ambertask needs a graphical desktop, and none could be reached from here.</source>
+        <translation>Ambertask a besoin d’un bureau graphique, et aucun n’a pu être atteint d’ici.</translation>
+    </message>
+</context>
+<context>
     <name>FileDialogs</name>
     <message>
         <source>Folder</source>
@@ -1824,6 +1831,12 @@
         <source>The program folder could not be made.
 %1</source>
         <translation>Le dossier du programme n’a pas pu être créé.
+%1</translation>
+    </message>
+    <message>
+        <source>The program folder could not be kept from a second copy of the program.
+%1</source>
+        <translation>Le dossier du programme n’a pas pu être protégé d’une seconde copie du programme.
 %1</translation>
     </message>
 </context>

@@ -291,6 +291,13 @@
     </message>
 </context>
 <context>
+    <name>DisplayGate</name>
+    <message>
+        <source>Ambertask needs a graphical desktop, and none could be reached from here.</source>
+        <translation>Ambertask 需要图形桌面环境，但在此处无法连接到任何桌面。</translation>
+    </message>
+</context>
+<context>
     <name>FileDialogs</name>
     <message>
         <source>Folder</source>
@@ -1818,6 +1825,12 @@
         <source>The program folder could not be made.
 %1</source>
         <translation>无法创建程序文件夹。
+%1</translation>
+    </message>
+    <message>
+        <source>The program folder could not be kept from a second copy of the program.
+%1</source>
+        <translation>无法防止程序的第二个副本使用程序文件夹。
 %1</translation>
     </message>
 </context>

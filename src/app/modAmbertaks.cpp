@@ -1,6 +1,7 @@
 #include "app/modAmbertaks.h"
 
 #include "app/Application.h"
+#include "app/DisplayGate.h"
 #include "app/Program.h"
 #include "app/drTasks.h"
 #include "platform/Clock.h"
@@ -23,6 +24,7 @@
 
 #include <QSessionManager>
 #include <QStyleFactory>
+#include <optional>
 
 namespace
 {
@@ -68,8 +70,9 @@ QString prepareProgramFolder(const Installation& installation, const QString& pr
     return {};
 }
 
+/// `hindrance` is why there can be no start; empty when nothing hinders it.
 int runInstance(Application& application, const Installation& installation, const QString& programFolder,
-    const QString& folderFailure)
+    const QString& hindrance)
 {
     Program* running = nullptr;
     ScreenErrorReport errors([&running] { running->end(); });
@@ -85,10 +88,8 @@ int runInstance(Application& application, const Installation& installation, cons
     QObject::connect(&program, &Program::endRequested, &application, [] { QCoreApplication::exit(0); });
 
     try {
-        if (!folderFailure.isEmpty()) {
-            throw RuntimeError(
-                QCoreApplication::translate("modAmbertaks", "The program folder could not be made.\n%1")
-                    .arg(folderFailure));
+        if (!hindrance.isEmpty()) {
+            throw RuntimeError(hindrance);
         }
         program.start(noteFirstStart);
     } catch (const Cancelled&) {
@@ -103,6 +104,21 @@ int runInstance(Application& application, const Installation& installation, cons
     return status;
 }
 
+/// Why there can be no start, in the user's language; empty when nothing hinders it.
+QString hindranceOf(const QString& folderFailure, const SingleInstance& guard)
+{
+    if (!folderFailure.isEmpty()) {
+        return QCoreApplication::translate("modAmbertaks", "The program folder could not be made.\n%1")
+            .arg(folderFailure);
+    }
+    const QString failure = guard.failure();
+    return failure.isEmpty()
+        ? QString()
+        : QCoreApplication::translate(
+            "modAmbertaks", "The program folder could not be kept from a second copy of the program.\n%1")
+              .arg(failure);
+}
+
 } // namespace
 
 int runAmbertask(int argc, char** argv)
@@ -111,12 +127,16 @@ int runAmbertask(int argc, char** argv)
     const QString programFolder = programFolderOf(installation, userDataFolder());
     const QString folderFailure = prepareProgramFolder(installation, programFolder);
     // Before anything else exists: a second copy is to leave without a sign.
-    const SingleInstance guard(programFolder);
+    SingleInstance guard(programFolder);
     if (guard.otherCopyRuns()) {
         return 0;
     }
-    refreshProgramFolder(installation, programFolder);
+    if (guard.failure().isEmpty()) {
+        refreshProgramFolder(installation, programFolder);
+    }
+    std::optional<DisplayGate> gate(std::in_place, [&guard] { guard.release(); });
     Application application(argc, argv);
+    gate.reset();
     QCoreApplication::setApplicationName(QLatin1String(ProductName));
     installAccessibleControls();
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
@@ -128,5 +148,5 @@ int runAmbertask(int argc, char** argv)
     QApplication::setQuitOnLastWindowClosed(false);
     Language language;
     language.speakAsTheSystem();
-    return runInstance(application, installation, programFolder, folderFailure);
+    return runInstance(application, installation, programFolder, hindranceOf(folderFailure, guard));
 }

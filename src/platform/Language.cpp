@@ -41,6 +41,11 @@ QStringList Language::shipped()
     return names;
 }
 
+QString Language::fileOf(const QString& catalogue)
+{
+    return Folder + u'/' + Prefix + catalogue + Suffix;
+}
+
 void Language::speak(const QString& catalogue)
 {
     QCoreApplication::removeTranslator(&m_toolkit);
@@ -55,7 +60,7 @@ void Language::speak(const QString& catalogue)
         || m_toolkit.load(toolkit, QCoreApplication::applicationDirPath() + QLatin1String("/translations"))) {
         QCoreApplication::installTranslator(&m_toolkit);
     }
-    if (m_own.load(Folder + u'/' + Prefix + catalogue + Suffix)) {
+    if (m_own.load(fileOf(catalogue))) {
         QCoreApplication::installTranslator(&m_own);
     }
     const Qt::LayoutDirection direction = QLocale(catalogue).textDirection();

@@ -17,6 +17,8 @@ class Language
 public:
     /// The names of the catalogues that ship.
     static QStringList shipped();
+    /// The file of a shipped catalogue.
+    static QString fileOf(const QString& catalogue);
 
     /// Makes the application speak the language of a shipped catalogue, English for an empty name: texts, the
     /// toolkit's own texts where the system has them, and the direction of reading.

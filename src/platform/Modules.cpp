@@ -26,7 +26,7 @@ void Modules::hold(const QString& name, const QString& file)
 {
 #ifdef Q_OS_LINUX
     const QByteArray path = QFile::encodeName(pathIn(m_folder, file));
-    const int handle = ::open(path.constData(), O_RDONLY | O_CLOEXEC);
+    const int handle = ::open(path.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     if (handle >= 0) {
         m_held.insert(name, {handle});
     }

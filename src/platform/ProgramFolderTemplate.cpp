@@ -2,6 +2,7 @@
 
 #include "platform/FileReplace.h"
 #include "platform/Installation.h"
+#include "platform/LockFile.h"
 #include "platform/ProgramFolder.h"
 
 #include <QCryptographicHash>
@@ -11,12 +12,6 @@
 #include <QUuid>
 #include <filesystem>
 #include <system_error>
-
-#ifdef Q_OS_UNIX
-#include <fcntl.h>
-#include <sys/file.h>
-#include <unistd.h>
-#endif
 
 namespace
 {
@@ -49,41 +44,6 @@ bool isAnything(const QString& path)
 {
     return kindOf(path, false) != std::filesystem::file_type::not_found;
 }
-
-/// Keeps copies of the program that start at once from filling a folder each. The lock is on the folder that
-/// holds them; where the file system knows no locks there is none.
-class FolderLock
-{
-public:
-    explicit FolderLock(const QString& folder)
-    {
-#ifdef Q_OS_UNIX
-        m_handle = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-        m_held = m_handle >= 0 && ::flock(m_handle, LOCK_EX) == 0;
-#else
-        Q_UNUSED(folder);
-#endif
-    }
-    ~FolderLock()
-    {
-#ifdef Q_OS_UNIX
-        if (m_handle >= 0) {
-            ::close(m_handle);
-        }
-#endif
-    }
-    FolderLock(const FolderLock&) = delete;
-    FolderLock& operator=(const FolderLock&) = delete;
-
-    bool isHeld() const
-    {
-        return m_held;
-    }
-
-private:
-    int m_handle = -1;
-    bool m_held = false;
-};
 
 void makePrivateFolder(const QString& folder)
 {
@@ -288,7 +248,8 @@ void makeProgramFolder(const Installation& installation, const QString& programF
     }
     const QString userData = QFileInfo(programFolder).absolutePath();
     ensureUserData(userData);
-    const FolderLock lock(userData);
+    // Copies of the program that start at once are not to fill a folder each.
+    const LockFile lock(pathIn(userData, QStringLiteral(".Ambertask-lock")), LockFile::IfHeld::Wait);
     if (isAnything(programFolder)) {
         return;
     }

@@ -1,5 +1,7 @@
 #include "platform/SingleInstance.h"
 
+#include "platform/LockFile.h"
+
 #ifdef Q_OS_WIN
 
 #include <QCryptographicHash>
@@ -16,36 +18,73 @@ SingleInstance::SingleInstance(const QString& programFolder)
     m_handle = reinterpret_cast<qintptr>(mutex);
 }
 
-SingleInstance::~SingleInstance()
+void SingleInstance::release()
 {
     CloseHandle(reinterpret_cast<HANDLE>(m_handle));
+    m_handle = 0;
+}
+
+QString SingleInstance::failure() const
+{
+    return {};
 }
 
 #else
 
+#include "platform/ProgramFolder.h"
+
 #include <QFile>
+#include <QFileInfo>
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
+#include <utility>
+
+namespace
+{
+
+bool isReadOnly(int error)
+{
+    return error == EACCES || error == EROFS || error == EPERM;
+}
+
+} // namespace
 
 SingleInstance::SingleInstance(const QString& programFolder)
 {
-    // The lock is on the folder itself: no file to leave behind, and the system drops it when the process
-    // dies. It must not pass on to the programs that reminders start.
-    const int folder =
-        ::open(QFile::encodeName(programFolder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (folder >= 0 && ::flock(folder, LOCK_EX | LOCK_NB) != 0) {
-        m_otherCopyRuns = errno == EWOULDBLOCK;
+    const QString data = pathIn(programFolder, QLatin1String(DataFileName));
+    const QString lock = data + QStringLiteral("-lock");
+    m_lock = std::make_unique<LockFile>(lock, LockFile::IfHeld::GiveUp);
+    m_otherCopyRuns = m_lock->isHeldElsewhere();
+    const int error = m_lock->error();
+    if (error == ENOENT || error == ENOTDIR) {
+        // The start finds no folder either, and tells it.
+        m_lock.reset();
+    } else if (isReadOnly(error) && !QFileInfo(lock).isSymLink() && !QFileInfo::exists(lock)) {
+        m_lock.reset();
+        m_handle = ::open(QFile::encodeName(data).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+        m_otherCopyRuns = m_handle >= 0 && ::flock(static_cast<int>(m_handle), LOCK_EX | LOCK_NB) != 0
+            && errno == EWOULDBLOCK;
     }
-    m_handle = folder;
 }
 
-SingleInstance::~SingleInstance()
+QString SingleInstance::failure() const
 {
-    if (m_handle >= 0) {
-        ::close(static_cast<int>(m_handle));
+    return m_lock == nullptr ? QString() : m_lock->failure();
+}
+
+void SingleInstance::release()
+{
+    m_lock.reset();
+    if (const auto handle = static_cast<int>(std::exchange(m_handle, -1)); handle >= 0) {
+        ::close(handle);
     }
 }
 
 #endif
+
+SingleInstance::~SingleInstance()
+{
+    release();
+}

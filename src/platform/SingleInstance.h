@@ -1,9 +1,14 @@
 #pragma once
 
 #include <QString>
+#include <memory>
 
-/// The guard against two copies of the program on one program folder. Held until destroyed or until the
-/// process ends, however it ends; leaves nothing on the disk.
+class LockFile;
+
+/// The guard against two copies of the program on one program folder. Held until released or until the
+/// process ends, however it ends. It is a lock that only the owner of the folder can take: on a private file
+/// beside data.dat, which goes with the guard; in a folder that cannot be written, where nothing ever takes
+/// data.dat's place, on data.dat itself.
 class SingleInstance
 {
 public:
@@ -14,8 +19,14 @@ public:
 
     /// True when another copy holds the guard.
     bool otherCopyRuns() const { return m_otherCopyRuns; }
+    /// Why the guard cannot be had although no other copy runs, for the user; empty when it is held, and
+    /// where there is no program folder.
+    QString failure() const;
+    /// Gives the guard up.
+    void release();
 
 private:
+    std::unique_ptr<LockFile> m_lock;
     qintptr m_handle = -1;
     bool m_otherCopyRuns = false;
 };

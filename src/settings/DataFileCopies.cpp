@@ -61,7 +61,9 @@ bool isUnfinished(const QString& journal)
         return false;
     }
     char first = '\0';
-    return !file.open(QIODevice::ReadOnly) || file.read(&first, 1) < 0 || first != '\0';
+    // A pipe of that name would keep the program waiting.
+    return !QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly) || file.read(&first, 1) < 0
+        || first != '\0';
 }
 
 /// Whether the engine would take `file` for a database at all.
@@ -77,8 +79,8 @@ bool holdTheSame(const QString& left, const QString& right)
     constexpr qint64 Chunk = 65536;
     QFile one(left);
     QFile other(right);
-    bool same =
-        one.open(QIODevice::ReadOnly) && other.open(QIODevice::ReadOnly) && one.size() == other.size();
+    bool same = QFileInfo(one).isFile() && QFileInfo(other).isFile() && one.open(QIODevice::ReadOnly)
+        && other.open(QIODevice::ReadOnly) && one.size() == other.size();
     while (same && !one.atEnd()) {
         const QByteArray bytes = one.read(Chunk);
         same = !bytes.isEmpty() && bytes == other.read(Chunk);

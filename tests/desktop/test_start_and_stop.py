@@ -119,6 +119,49 @@ class SingleCopyTest(StartCase):
             self.assertTrue(os.path.exists("/proc/" + number.read().strip()), "the started file still runs")
 
 
+    def test_who_may_only_read_the_folder_cannot_keep_the_program_from_starting(self):
+        folder = os.open(self.desk.program, os.O_RDONLY | os.O_DIRECTORY)
+        self.addCleanup(os.close, folder)
+        fcntl.flock(folder, fcntl.LOCK_EX)
+        user = self.start()
+        user.wait_loaded()
+        self.assertEqual(user.exit(), 0)
+
+    def test_a_copy_that_ends_leaves_nothing_of_its_guard(self):
+        before = sorted(os.listdir(self.desk.program))
+        user = self.start()
+        user.wait_loaded()
+        self.assertEqual(user.exit(), 0)
+        self.assertEqual(sorted(os.listdir(self.desk.program)), before)
+
+
+class NoDisplayTest(StartCase):
+    """Without a desktop to run on: one sentence, a failure status, and nothing touched."""
+
+    def refuse(self, **display):
+        before = snapshot(self.desk.program)
+        program = self.desk.start(environment={"DISPLAY": "", "WAYLAND_DISPLAY": "", **display})
+        self.assertEqual(program.wait_end(), 1)
+        self.assertEqual(program.output(), "")
+        self.assertEqual(program.errors().count("\n"), 1, program.errors())
+        self.assertEqual(snapshot(self.desk.program), before)
+        self.assertEqual(self.marks(), [])
+        return program.errors()
+
+    def test_without_a_display(self):
+        self.assertIn("Ambertask needs a graphical desktop", self.refuse())
+
+    def test_with_a_display_that_is_none(self):
+        self.refuse(DISPLAY=":9999")
+        self.refuse(DISPLAY="nonsense")
+
+    def test_with_a_wayland_display_that_is_none(self):
+        self.refuse(WAYLAND_DISPLAY="wayland-9999", QT_QPA_PLATFORM="wayland;xcb")
+
+    def test_the_sentence_is_in_the_language_of_the_user(self):
+        self.assertIn("Arbeitsumgebung", self.refuse(LANG="C.UTF-8", LANGUAGE="de"))
+
+
 class FirstStartTest(StartCase):
     def test_the_first_start_registers_with_the_session_whatever_the_setting_says(self):
         self.store.set(start_with_windows=0)
@@ -209,6 +252,29 @@ class BrokenDataTest(StartCase):
             start = file.read(3000)
         self.replace(start)
         self.refuse("data.dat", "malformed")
+
+    def test_with_a_pipe_in_its_place(self):
+        os.remove(self.desk.data_file)
+        os.mkfifo(self.desk.data_file)
+        self.refuse_without_looking("data.dat", "it is not a file")
+
+    def test_with_a_pipe_in_the_place_of_its_journal(self):
+        os.mkfifo(self.desk.data_file + "-journal")
+        self.refuse_without_looking("data.dat-journal", "it is not a file")
+
+    def test_with_a_folder_in_the_place_of_its_lock(self):
+        os.mkdir(self.desk.data_file + "-lock")
+        self.refuse("data.dat-lock")
+
+    def refuse_without_looking(self, *words):
+        """To read what lies there would wait for its writer."""
+        program = self.desk.start()
+        wait_until(lambda: self.desk.screen.client(names.MAIN), "a message box is shown")
+        text = self.box_text(program.pid)
+        for word in words:
+            self.assertIn(word, text)
+        program.send(signal.SIGTERM)
+        program.wait_end()
 
     def test_without_a_settings_row(self):
         self.store.execute("delete from settings")

@@ -3,7 +3,10 @@
 #include "support/TestMain.h"
 
 #include <atomic>
+#include <fcntl.h>
+#include <sys/file.h>
 #include <thread>
+#include <unistd.h>
 #include <vector>
 
 namespace
@@ -156,6 +159,18 @@ private slots:
         QCOMPARE(failures.load(), 0);
         QCOMPARE(program.namesIn(program.userData()), QStringList{QStringLiteral("Ambertask")});
         QCOMPARE(program.read("data.dat"), QByteArray("the data as shipped"));
+    }
+
+    void whoeverMayOnlyReadTheDataFolderHoldsUpNoStart()
+    {
+        const InstalledProgram program;
+        QVERIFY(QDir().mkpath(program.userData()));
+        const int handle =
+            ::open(QFile::encodeName(program.userData()).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+        QCOMPARE(::flock(handle, LOCK_EX | LOCK_NB), 0);
+        program.start();
+        QCOMPARE(program.read("data.dat"), QByteArray("the data as shipped"));
+        ::close(handle);
     }
 
     void withoutATemplateNothingIsMade()

@@ -3,6 +3,8 @@
 #include "settings/RestoreUnderTest.h"
 #include "support/TestMain.h"
 
+#include <sys/stat.h>
+
 namespace
 {
 
@@ -35,6 +37,8 @@ private slots:
     void aDamagedBackupInWriteAheadModeChangesNothing_data();
     void aDamagedBackupInWriteAheadModeChangesNothing();
     void afterwardsAnOpenConnectionHindersNoBackup();
+    void aPipeBesideTheChosenFileIsNeverWaitedFor();
+    void aPipeInThePlaceOfTheReplacedFileIsNeverWaitedFor();
     void theJournalOfAFileThatIsNoneIsKeptBeside_data();
     void theJournalOfAFileThatIsNoneIsKeptBeside();
     void theKeptJournalGoesWithItsFile();
@@ -103,6 +107,27 @@ void TestRestoreJournals::afterwardsAnOpenConnectionHindersNoBackup()
     QVERIFY(contentOf(later) == contentOf(test.database.dataFile()));
     test.restore(later);
     QCOMPARE(test.restored.size(), 2);
+}
+
+void TestRestoreJournals::aPipeBesideTheChosenFileIsNeverWaitedFor()
+{
+    RestoreUnderTest test;
+    const QString pipe = test.backup() + QStringLiteral("-journal");
+    QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    test.restore(test.backup());
+    QCOMPARE(test.restored.size(), 0);
+    QCOMPARE(test.tasks(), QStringList(QStringLiteral("after")));
+}
+
+void TestRestoreJournals::aPipeInThePlaceOfTheReplacedFileIsNeverWaitedFor()
+{
+    RestoreUnderTest test;
+    const QString pipe = test.database.dataFile() + QStringLiteral(".before-restore");
+    QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    // Only then the two are compared: the restore of before may have died in between.
+    writeText(test.database.dataFile(), "no database");
+    test.restore(test.backup());
+    QCOMPARE(test.restored.size(), 0);
 }
 
 void TestRestoreJournals::theJournalOfAFileThatIsNoneIsKeptBeside_data()

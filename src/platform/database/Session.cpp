@@ -1,6 +1,7 @@
 #include "platform/database/Session.h"
 
 #include "platform/Clock.h"
+#include "platform/FileReplace.h"
 #include "platform/Progress.h"
 #include "platform/database/DatabaseError.h"
 #include "platform/database/Dialect.h"
@@ -138,6 +139,11 @@ void Session::openFile()
     if (file.isDir()) {
         failToOpen(tr("it is a folder"));
     }
+    // The engine would wait for the writer of a pipe, and no signal would end that.
+    if (!file.isFile()) {
+        failToOpen(FileError::tr("it is not a file"));
+    }
+    requireOrdinaryCompanions();
     if (file.size() == 0) {
         failToOpen(tr("it is empty"));
     }
@@ -146,6 +152,18 @@ void Session::openFile()
         failToOpen(tr("out of memory"));
     }
     check(code);
+}
+
+void Session::requireOrdinaryCompanions()
+{
+    const QString place = resolvedPath(m_path);
+    for (const char* companion : {"-journal", "-wal", "-shm"}) {
+        const QFileInfo file(place + QLatin1String(companion));
+        if (file.exists() && !file.isFile()) {
+            throw DatabaseError(
+                Kind::Storage, FileError(file.filePath(), FileError::tr("it is not a file")).text());
+        }
+    }
 }
 
 void Session::check(int code)

@@ -72,6 +72,7 @@ private:
     static void answerNow(sqlite3_context* context, int, sqlite3_value**);
 
     void openFile();
+    void requireOrdinaryCompanions();
     void harden();
     void check(int code);
     sqlite3_stmt* prepare(const QString& statement);

@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFile>
 #include <QTest>
+#include <sys/stat.h>
 
 namespace
 {
@@ -51,6 +52,8 @@ private slots:
     void aFileThatIsNoDataFileIsRefusedByNameAndReason_data();
     void aFileThatIsNoDataFileIsRefusedByNameAndReason();
     void aMissingFileIsNotCreated();
+    void whatIsNoFileIsRefusedAndNeverWaitedFor_data();
+    void whatIsNoFileIsRefusedAndNeverWaitedFor();
     void usersAndPasswordsAreRefused();
     void openingTwiceIsRefused();
     void executingOnAClosedConnectionIsRefused();
@@ -172,6 +175,28 @@ void ConnectionTest::aFileThatIsNoDataFileIsRefusedByNameAndReason()
     QVERIFY2(error->text().contains(path), qPrintable(error->text()));
     QVERIFY2(error->text().contains(reason), qPrintable(error->text()));
     QCOMPARE(database.statements().opened(), 0);
+}
+
+void ConnectionTest::whatIsNoFileIsRefusedAndNeverWaitedFor_data()
+{
+    QTest::addColumn<QString>("suffix");
+    for (const char* suffix : {"", "-journal", "-wal", "-shm"}) {
+        QTest::newRow(suffix) << QString::fromLatin1(suffix);
+    }
+}
+
+void ConnectionTest::whatIsNoFileIsRefusedAndNeverWaitedFor()
+{
+    QFETCH(const QString, suffix);
+    const TestDatabase database;
+    const QString path = database.dataFile() + suffix;
+    QFile::remove(path);
+    QCOMPARE(mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+    const std::optional<DatabaseError> error = openError(database, database.dataFile());
+    QVERIFY(error.has_value());
+    QVERIFY2(error->text().contains(path) && error->text().contains(QLatin1String("it is not a file")),
+        qPrintable(error->text()));
+    QVERIFY(QFile::remove(path));
 }
 
 void ConnectionTest::aMissingFileIsNotCreated()
