@@ -725,6 +725,10 @@
         <source>The value of column &quot;%1&quot; is no date and time: %2.</source>
         <translation>قيمة العمود «%1» ليست تاريخًا ووقتًا: %2.</translation>
     </message>
+    <message>
+        <source>The value of column &quot;%1&quot; is empty.</source>
+        <translation>قيمة العمود «%1» خالية.</translation>
+    </message>
 </context>
 <context>
     <name>ScreenErrorReport</name>
@@ -1266,6 +1270,56 @@
     <message>
         <source>The help file has no readable page &quot;%1&quot;.</source>
         <translation>لا يحتوي ملف المساعدة على صفحة مقروءة باسم «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>UnreadableRecords</name>
+    <message>
+        <source>Category %1: %2</source>
+        <translation>الفئة %1: %2</translation>
+    </message>
+    <message>
+        <source>Category %1, &quot;%2&quot;: %3</source>
+        <translation>الفئة %1، «%2»: %3</translation>
+    </message>
+    <message>
+        <source>Task %1: %2</source>
+        <translation>المهمة %1: %2</translation>
+    </message>
+    <message>
+        <source>Task %1, &quot;%2&quot;: %3</source>
+        <translation>المهمة %1، «%2»: %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>ولا شيء آخر</numerusform>
+            <numerusform>وواحد آخر</numerusform>
+            <numerusform>واثنان آخران</numerusform>
+            <numerusform>و%n أخرى</numerusform>
+            <numerusform>و%n أخرى</numerusform>
+            <numerusform>و%n أخرى</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Some values in the data file cannot be read. For this reason these are not shown:</source>
+        <translation>تتعذر قراءة بعض القيم في ملف البيانات. لهذا السبب لا يُعرض ما يلي:</translation>
+    </message>
+    <message>
+        <source>The tasks of a category that is not shown are not shown either.</source>
+        <translation>لا تُعرض أيضًا مهام الفئة التي لا تُعرض.</translation>
+    </message>
+    <message>
+        <source>Everything stays in the data file as it is. To have it back, restore a backup that was made before (page Maintenance), or correct the values with another program.</source>
+        <translation>يبقى كل شيء في ملف البيانات كما هو. لاسترجاعه، استعد نسخة احتياطية سابقة (صفحة الصيانة) أو صحّح القيم ببرنامج آخر.</translation>
+    </message>
+    <message>
+        <source>Some settings cannot be read. They are for now what they are in a new data file:</source>
+        <translation>تتعذر قراءة بعض الإعدادات. وهي الآن كما في ملف بيانات جديد:</translation>
+    </message>
+    <message>
+        <source>To store them anew, press &quot;Save Settings&quot; on the page Settings.</source>
+        <translation>لتخزينها من جديد، اضغط «حفظ الإعدادات» في صفحة الإعدادات.</translation>
     </message>
 </context>
 <context>

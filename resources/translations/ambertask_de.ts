@@ -709,6 +709,10 @@
         <source>The value of column &quot;%1&quot; is no date and time: %2.</source>
         <translation>Der Wert der Spalte „%1“ ist kein Zeitpunkt: %2.</translation>
     </message>
+    <message>
+        <source>The value of column &quot;%1&quot; is empty.</source>
+        <translation>Der Wert der Spalte „%1“ ist leer.</translation>
+    </message>
 </context>
 <context>
     <name>ScreenErrorReport</name>
@@ -1246,6 +1250,52 @@ ein Fehler auf: %3.</translation>
     <message>
         <source>The help file has no readable page &quot;%1&quot;.</source>
         <translation>Die Hilfedatei enthält keine lesbare Seite „%1“.</translation>
+    </message>
+</context>
+<context>
+    <name>UnreadableRecords</name>
+    <message>
+        <source>Category %1: %2</source>
+        <translation>Kategorie %1: %2</translation>
+    </message>
+    <message>
+        <source>Category %1, &quot;%2&quot;: %3</source>
+        <translation>Kategorie %1, „%2“: %3</translation>
+    </message>
+    <message>
+        <source>Task %1: %2</source>
+        <translation>Aufgabe %1: %2</translation>
+    </message>
+    <message>
+        <source>Task %1, &quot;%2&quot;: %3</source>
+        <translation>Aufgabe %1, „%2“: %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>und %n weitere</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Some values in the data file cannot be read. For this reason these are not shown:</source>
+        <translation>Einige Werte in der Datendatei können nicht gelesen werden. Deshalb wird Folgendes nicht angezeigt:</translation>
+    </message>
+    <message>
+        <source>The tasks of a category that is not shown are not shown either.</source>
+        <translation>Die Aufgaben einer Kategorie, die nicht angezeigt wird, werden ebenfalls nicht angezeigt.</translation>
+    </message>
+    <message>
+        <source>Everything stays in the data file as it is. To have it back, restore a backup that was made before (page Maintenance), or correct the values with another program.</source>
+        <translation>In der Datendatei bleibt alles, wie es ist. Um es zurückzubekommen, stellen Sie eine frühere Sicherung wieder her (Seite Wartung) oder berichtigen Sie die Werte mit einem anderen Programm.</translation>
+    </message>
+    <message>
+        <source>Some settings cannot be read. They are for now what they are in a new data file:</source>
+        <translation>Einige Einstellungen können nicht gelesen werden. Sie gelten vorerst so wie in einer neuen Datendatei:</translation>
+    </message>
+    <message>
+        <source>To store them anew, press &quot;Save Settings&quot; on the page Settings.</source>
+        <translation>Um sie neu zu speichern, drücken Sie auf der Seite Einstellungen „Einstellungen speichern“.</translation>
     </message>
 </context>
 <context>

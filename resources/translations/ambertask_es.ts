@@ -709,6 +709,10 @@
         <source>The value of column &quot;%1&quot; is no date and time: %2.</source>
         <translation>El valor de la columna «%1» no es una fecha con hora: %2.</translation>
     </message>
+    <message>
+        <source>The value of column &quot;%1&quot; is empty.</source>
+        <translation>El valor de la columna «%1» está vacío.</translation>
+    </message>
 </context>
 <context>
     <name>ScreenErrorReport</name>
@@ -1246,6 +1250,52 @@
     <message>
         <source>The help file has no readable page &quot;%1&quot;.</source>
         <translation>El archivo de ayuda no contiene la página «%1» o no se puede leer.</translation>
+    </message>
+</context>
+<context>
+    <name>UnreadableRecords</name>
+    <message>
+        <source>Category %1: %2</source>
+        <translation>Categoría %1: %2</translation>
+    </message>
+    <message>
+        <source>Category %1, &quot;%2&quot;: %3</source>
+        <translation>Categoría %1, «%2»: %3</translation>
+    </message>
+    <message>
+        <source>Task %1: %2</source>
+        <translation>Tarea %1: %2</translation>
+    </message>
+    <message>
+        <source>Task %1, &quot;%2&quot;: %3</source>
+        <translation>Tarea %1, «%2»: %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>y %n más</numerusform>
+            <numerusform>y %n más</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Some values in the data file cannot be read. For this reason these are not shown:</source>
+        <translation>Algunos valores del archivo de datos no se pueden leer. Por eso no se muestra lo siguiente:</translation>
+    </message>
+    <message>
+        <source>The tasks of a category that is not shown are not shown either.</source>
+        <translation>Las tareas de una categoría que no se muestra tampoco se muestran.</translation>
+    </message>
+    <message>
+        <source>Everything stays in the data file as it is. To have it back, restore a backup that was made before (page Maintenance), or correct the values with another program.</source>
+        <translation>Todo permanece en el archivo de datos tal como está. Para recuperarlo, restaure una copia de seguridad anterior (página Mantenimiento) o corrija los valores con otro programa.</translation>
+    </message>
+    <message>
+        <source>Some settings cannot be read. They are for now what they are in a new data file:</source>
+        <translation>Algunos ajustes de la configuración no se pueden leer. Por ahora son los de un archivo de datos nuevo:</translation>
+    </message>
+    <message>
+        <source>To store them anew, press &quot;Save Settings&quot; on the page Settings.</source>
+        <translation>Para guardarlos de nuevo, pulse «Guardar configuración» en la página Configuración.</translation>
     </message>
 </context>
 <context>

@@ -709,6 +709,10 @@
         <source>The value of column &quot;%1&quot; is no date and time: %2.</source>
         <translation>La valeur de la colonne «&#xa0;%1&#xa0;» n’est pas une date avec heure&#xa0;: %2.</translation>
     </message>
+    <message>
+        <source>The value of column &quot;%1&quot; is empty.</source>
+        <translation>La valeur de la colonne «&#xa0;%1&#xa0;» est vide.</translation>
+    </message>
 </context>
 <context>
     <name>ScreenErrorReport</name>
@@ -1246,6 +1250,52 @@
     <message>
         <source>The help file has no readable page &quot;%1&quot;.</source>
         <translation>Le fichier d’aide ne contient pas de page lisible «&#xa0;%1&#xa0;».</translation>
+    </message>
+</context>
+<context>
+    <name>UnreadableRecords</name>
+    <message>
+        <source>Category %1: %2</source>
+        <translation>Catégorie %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Category %1, &quot;%2&quot;: %3</source>
+        <translation>Catégorie %1, «&#xa0;%2&#xa0;»&#xa0;: %3</translation>
+    </message>
+    <message>
+        <source>Task %1: %2</source>
+        <translation>Tâche %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Task %1, &quot;%2&quot;: %3</source>
+        <translation>Tâche %1, «&#xa0;%2&#xa0;»&#xa0;: %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>et %n autre</numerusform>
+            <numerusform>et %n autres</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Some values in the data file cannot be read. For this reason these are not shown:</source>
+        <translation>Certaines valeurs du fichier de données ne peuvent pas être lues. C’est pourquoi ceci n’est pas affiché&#xa0;:</translation>
+    </message>
+    <message>
+        <source>The tasks of a category that is not shown are not shown either.</source>
+        <translation>Les tâches d’une catégorie qui n’est pas affichée ne le sont pas non plus.</translation>
+    </message>
+    <message>
+        <source>Everything stays in the data file as it is. To have it back, restore a backup that was made before (page Maintenance), or correct the values with another program.</source>
+        <translation>Tout reste tel quel dans le fichier de données. Pour le retrouver, restaurez une sauvegarde antérieure (page Maintenance) ou corrigez les valeurs avec un autre programme.</translation>
+    </message>
+    <message>
+        <source>Some settings cannot be read. They are for now what they are in a new data file:</source>
+        <translation>Certains paramètres ne peuvent pas être lus. Ils sont pour l’instant ceux d’un nouveau fichier de données&#xa0;:</translation>
+    </message>
+    <message>
+        <source>To store them anew, press &quot;Save Settings&quot; on the page Settings.</source>
+        <translation>Pour les enregistrer à nouveau, cliquez sur «&#xa0;Enregistrer les paramètres&#xa0;» à la page Paramètres.</translation>
     </message>
 </context>
 <context>

@@ -705,6 +705,10 @@
         <source>The value of column &quot;%1&quot; is no date and time: %2.</source>
         <translation>列“%1”的值不是日期和时间：%2。</translation>
     </message>
+    <message>
+        <source>The value of column &quot;%1&quot; is empty.</source>
+        <translation>列“%1”的值为空文本。</translation>
+    </message>
 </context>
 <context>
     <name>ScreenErrorReport</name>
@@ -1241,6 +1245,51 @@
     <message>
         <source>The help file has no readable page &quot;%1&quot;.</source>
         <translation>帮助文件中没有可读取的页面“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>UnreadableRecords</name>
+    <message>
+        <source>Category %1: %2</source>
+        <translation>类别 %1：%2</translation>
+    </message>
+    <message>
+        <source>Category %1, &quot;%2&quot;: %3</source>
+        <translation>类别 %1“%2”：%3</translation>
+    </message>
+    <message>
+        <source>Task %1: %2</source>
+        <translation>任务 %1：%2</translation>
+    </message>
+    <message>
+        <source>Task %1, &quot;%2&quot;: %3</source>
+        <translation>任务 %1“%2”：%3</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>另有 %n 项</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Some values in the data file cannot be read. For this reason these are not shown:</source>
+        <translation>数据文件中有些值无法读取，因此以下内容未显示：</translation>
+    </message>
+    <message>
+        <source>The tasks of a category that is not shown are not shown either.</source>
+        <translation>未显示的类别中的任务也不会显示。</translation>
+    </message>
+    <message>
+        <source>Everything stays in the data file as it is. To have it back, restore a backup that was made before (page Maintenance), or correct the values with another program.</source>
+        <translation>数据文件中的一切保持原样。要恢复这些内容，请还原以前的备份（“维护”页），或者用其他程序更正这些值。</translation>
+    </message>
+    <message>
+        <source>Some settings cannot be read. They are for now what they are in a new data file:</source>
+        <translation>有些设置无法读取，暂时采用新数据文件中的值：</translation>
+    </message>
+    <message>
+        <source>To store them anew, press &quot;Save Settings&quot; on the page Settings.</source>
+        <translation>要重新保存这些设置，请在“设置”页上按“保存设置”。</translation>
     </message>
 </context>
 <context>

@@ -60,6 +60,7 @@ Program::Program(const Machine& machine)
       m_skins(machine.engine.programFolder, machine.messages), m_helpViewer(machine.helpWindow, m_services)
 {
     m_engine.progress = &m_longWork;
+    m_engine.unreadable = &m_unreadable;
     appendFixedPictures(m_images);
 }
 
@@ -70,7 +71,7 @@ void Program::start(const std::function<bool()>& noteFirstStart)
     const DataFileCopies dataFile(m_machine.engine);
     dataFile.keepPrivate();
     dataFile.leaveWriteAheadMode();
-    m_settings = SettingsStore(m_machine.engine).read();
+    m_settings = SettingsStore(m_engine).read();
     const bool isSkinLoaded = m_skins.load(m_settings.skin);
     if (noteFirstStart()) {
         writeRunEntry(m_machine.registry, m_machine.engine.programFolder);
@@ -96,6 +97,8 @@ void Program::onFirstPainted()
     }
     loadDialogs();
     // Behind the loading of the dialogs: an open box is not to hold back the checker.
+    m_hasBeenSeen = true;
+    tellUnreadableRecords();
     const QStringList unreadable = m_main->categoriesPage()->takeUnreadablePictures();
     if (!unreadable.isEmpty()) {
         m_machine.messages.tell(m_main.get(), MessageBoxes::Icon::Exclamation, unreadable.join(u'\n'));
@@ -128,6 +131,9 @@ void Program::makeMainWindow()
     connectGuarded(pages.maintenance, &MaintenancePage::tasksDeleted, this, &Program::LoadTasks, errors);
     connectGuarded(pages.tasks, &TasksPage::addRequested, this, &Program::addTask, errors);
     connectGuarded(pages.tasks, &TasksPage::editRequested, this, &Program::editTask, errors);
+    // Behind all that follows a load: the other lists are not to wait for the user's answer.
+    connect(
+        pages.tasks, &TasksPage::tasksLoaded, this, &Program::tellUnreadableRecords, Qt::QueuedConnection);
     connectGuarded(pages.tasks, &TasksPage::printRequested, this, &Program::printTasks, errors);
 
     connectHelp(pages);
@@ -271,6 +277,7 @@ drTasks& Program::report()
 void Program::printTasks(const TaskFilter& filter)
 {
     report().printTasks(filter, m_main.get());
+    tellUnreadableRecords();
 }
 
 void Program::openTask(qint16 id)

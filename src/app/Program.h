@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/frmMain.h"
+#include "data/UnreadableRecords.h"
 #include "help/HTMLHelpViewer.h"
 #include "platform/ElidedTextTips.h"
 #include "platform/ImageList.h"
@@ -100,6 +101,8 @@ private:
     void onDataRestored();
     /// Ids of the replaced data file mean other records in the new one.
     void forgetRecords();
+    /// Once somebody has seen the main window: names what has been left out of its lists since the last time.
+    void tellUnreadableRecords();
     void reloadCategoryCombos();
     void focusCategoryList();
 
@@ -128,7 +131,8 @@ private:
 
     Machine m_machine;
     LongWork m_longWork;
-    DatabaseEngine m_engine; ///< of the machine; its statements tell the long work how they go
+    UnreadableRecords m_unreadable;
+    DatabaseEngine m_engine; ///< of the machine; it tells the long work and the unreadable records
     ImageList m_images;
     SettingsRecord m_settings;
     FormServices m_services;
@@ -142,6 +146,7 @@ private:
     std::unique_ptr<frmAbout> m_about;
     std::unique_ptr<drTasks> m_report;
     bool m_isStarting = false;
+    bool m_hasBeenSeen = false;
     bool m_dialogsLoaded = false;
     bool m_holdsBackground = false;
     std::vector<Duty> m_owed;

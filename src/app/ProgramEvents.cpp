@@ -3,6 +3,7 @@
 #include "app/TasksPage.h"
 #include "categories/frmCategoryDetails.h"
 #include "platform/GridView.h"
+#include "platform/MessageBoxes.h"
 #include "platform/WindowPlacement.h"
 #include "reminders/frmAlerts.h"
 #include "settings/SettingsPage.h"
@@ -67,8 +68,19 @@ void Program::focusCategoryList()
     m_main->focusCategoryList();
 }
 
+void Program::tellUnreadableRecords()
+{
+    if (!m_hasBeenSeen || m_ending || owes(&Program::tellUnreadableRecords)) {
+        return;
+    }
+    if (const QString text = m_unreadable.takeText(); !text.isEmpty()) {
+        m_machine.messages.tell(waitingWindow(), MessageBoxes::Icon::Exclamation, text);
+    }
+}
+
 void Program::forgetRecords()
 {
+    m_unreadable.forget();
     if (m_taskDetails != nullptr) {
         m_taskDetails->forgetTask();
     }

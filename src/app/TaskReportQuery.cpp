@@ -54,8 +54,3 @@ QString taskReportQuery(const TaskFilter& filter)
     }
     return query + orderOf(filter.sortBy);
 }
-
-bool isOrdered(const TaskFilter& filter)
-{
-    return !orderOf(filter.sortBy).isEmpty();
-}

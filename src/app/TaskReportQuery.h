@@ -6,5 +6,3 @@
 
 /// The query of the printed report: the tasks that the filter selects, in its order.
 QString taskReportQuery(const TaskFilter& filter);
-/// Whether that query asks for an order.
-bool isOrdered(const TaskFilter& filter);

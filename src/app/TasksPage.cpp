@@ -219,6 +219,7 @@ void TasksPage::LoadTasks()
         // Not to be cancelled: the list would show other tasks than its filters say.
         m_services.longWork.run(tr("Loading the tasks..."), LongWork::Kind::Reading, [this] { readTasks(); });
     } while (m_loadsAgain);
+    emit tasksLoaded();
 }
 
 void TasksPage::readTasks()

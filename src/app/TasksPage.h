@@ -49,6 +49,8 @@ signals:
     /// All.
     void addRequested(qint16 category);
     void editRequested(qint16 id);
+    /// The list has been rebuilt.
+    void tasksLoaded();
     void helpRequested();
     /// "Print" was pressed; the report is to show what the filters select.
     void printRequested(const TaskFilter& filter);

@@ -3,6 +3,8 @@
 #include "app/FixedPictures.h"
 #include "app/TaskReportQuery.h"
 #include "data/ClsDatabase.h"
+#include "data/TaskOrder.h"
+#include "data/TaskRows.h"
 #include "platform/ErrorReport.h"
 #include "platform/LongWork.h"
 #include "platform/MessageBoxes.h"
@@ -12,9 +14,7 @@
 #include "ui/PdfFileChoice.h"
 
 #include <QCoreApplication>
-#include <algorithm>
 #include <array>
-#include <numeric>
 
 namespace
 {
@@ -66,22 +66,6 @@ QString dateText(Moment moment)
     return toQDate(moment).toString(format);
 }
 
-/// The engine reads the tasks so, unless another tool left statistics in the file.
-std::vector<std::vector<QString>> inOrderOfMaking(
-    std::vector<std::vector<QString>> rows, const std::vector<qint32>& ids)
-{
-    std::vector<std::size_t> order(rows.size());
-    std::iota(order.begin(), order.end(), std::size_t(0));
-    std::sort(order.begin(), order.end(),
-        [&ids](std::size_t one, std::size_t other) { return ids[one] < ids[other]; });
-    std::vector<std::vector<QString>> ordered;
-    ordered.reserve(rows.size());
-    for (const std::size_t row : order) {
-        ordered.push_back(std::move(rows[row]));
-    }
-    return ordered;
-}
-
 } // namespace
 
 std::unique_ptr<ReportWindow> loadReportWindow(Modules& modules, ReportHost& host)
@@ -123,7 +107,7 @@ void drTasks::readReport(const TaskFilter& filter)
     bindFields();
     // A report may stay open for long: read to its end, the record set holds no lock on the data.
     ReportContent content{tr("Tasks Report"), logoIcon().pixmap(LogoSize, 1).toImage(), m_sections,
-        readRecords(records, isOrdered(filter))};
+        readRecords(records, filter)};
     window.setContent(std::move(content));
     forFinalizing(std::move(connection), std::move(records));
 }
@@ -141,7 +125,7 @@ void drTasks::bindFields()
     }
 }
 
-std::vector<std::vector<QString>> drTasks::readRecords(RecordSet& records, bool isOrdered) const
+std::vector<std::vector<QString>> drTasks::readRecords(RecordSet& records, const TaskFilter& filter) const
 {
     struct Column {
         int field;
@@ -159,23 +143,34 @@ std::vector<std::vector<QString>> drTasks::readRecords(RecordSet& records, bool 
             }
         }
     }
-    const int id = records.field("task_id");
-    std::vector<std::vector<QString>> rows;
-    std::vector<qint32> ids;
+    struct ReportedTask {
+        ClsTask task;
+        std::vector<QString> texts;
+    };
+    TaskRows shown(m_services.engine, records);
+    std::vector<ReportedTask> tasks;
     for (; !records.atEnd(); records.moveNext()) {
-        ids.push_back(records.int32(id));
-        std::vector<QString>& row = rows.emplace_back();
-        row.reserve(columns.size());
+        ReportedTask& read = tasks.emplace_back(ReportedTask{ClsTask(m_services.engine), {}});
+        if (!readOrLeaveOut(m_services.engine, [&] { shown.read(records, read.task); })) {
+            tasks.pop_back();
+            continue;
+        }
+        read.texts.reserve(columns.size());
         for (const Column& column : columns) {
-            row.push_back(
+            read.texts.push_back(
                 column.isDate ? dateText(records.moment(column.field)) : records.text(column.field));
             if (column.format != nullptr) {
-                (*column.format)(row.back());
+                (*column.format)(read.texts.back());
             }
         }
     }
-    if (!isOrdered && !std::is_sorted(ids.cbegin(), ids.cend())) {
-        rows = inOrderOfMaking(std::move(rows), ids);
+    putInOrder(
+        tasks, filter.sortBy, [](const ReportedTask& read) -> const ClsTask& { return read.task; },
+        m_services.engine.progress);
+    std::vector<std::vector<QString>> rows;
+    rows.reserve(tasks.size());
+    for (ReportedTask& task : tasks) {
+        rows.push_back(std::move(task.texts));
     }
     return rows;
 }

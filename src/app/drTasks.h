@@ -48,8 +48,8 @@ public:
 private:
     void readReport(const TaskFilter& filter);
     void bindFields();
-    /// Reads the record set to its end; in the order of making when it has no other.
-    std::vector<std::vector<QString>> readRecords(RecordSet& records, bool isOrdered) const;
+    /// Reads of the record set what the list shows, to its end, in the order of the list.
+    std::vector<std::vector<QString>> readRecords(RecordSet& records, const TaskFilter& filter) const;
     ReportWindow& loadedWindow();
 
     QString choosePdfFile(QWidget* owner) override;

@@ -1,44 +1,14 @@
 #include "data/ClsCategory.h"
 
+#include "data/CategoryRows.h"
 #include "data/ClsDatabase.h"
 #include "data/SqlText.h"
-#include "platform/RuntimeError.h"
 
 namespace
 {
 
 const QLatin1String SelectAll(
     "select cat_id,cat_name,cat_desc,cat_icon,custom_icon,cat_icon_name from categories");
-
-/// Reads categories off a record set whose fields it has looked up once.
-class CategoryReader
-{
-public:
-    explicit CategoryReader(const RecordSet& records)
-        : m_name(records.field("cat_name")), m_id(records.field("cat_id")), m_icon(records.field("cat_icon")),
-          m_description(records.field("cat_desc")), m_isCustomIcon(records.field("custom_icon")),
-          m_customIconName(records.field("cat_icon_name"))
-    {
-    }
-
-    void read(const RecordSet& records, ClsCategory& category) const
-    {
-        category.setCatName(records.text(m_name));
-        category.setId(narrowId(records.int32(m_id), QT_TRANSLATE_NOOP("OverflowError", "category id")));
-        category.setIconId(records.int16(m_icon));
-        category.setDescription(records.text(m_description));
-        category.setIsCustomIcon(records.flag(m_isCustomIcon));
-        category.setCustomIconName(records.text(m_customIconName));
-    }
-
-private:
-    int m_name;
-    int m_id;
-    int m_icon;
-    int m_description;
-    int m_isCustomIcon;
-    int m_customIconName;
-};
 
 } // namespace
 
@@ -55,7 +25,7 @@ std::optional<ClsCategory> ClsCategory::GetCatById(qint16 Id) const
         connection.execute(SelectAll + QLatin1String(" where cat_id = ") + QString::number(Id));
     if (!records.atEnd()) {
         category.emplace(*m_engine);
-        CategoryReader(records).read(records, *category);
+        CategoryRows(records).read(records, *category);
     }
     connection.close();
     return category;
@@ -67,9 +37,12 @@ std::vector<ClsCategory> ClsCategory::GetAllCategories() const
     connection.open();
     std::vector<ClsCategory> categories;
     RecordSet records = connection.execute(SelectAll);
-    const CategoryReader reader(records);
+    const CategoryRows rows(records);
     for (; !records.atEnd(); records.moveNext()) {
-        reader.read(records, categories.emplace_back(*m_engine));
+        ClsCategory& category = categories.emplace_back(*m_engine);
+        if (!readOrLeaveOut(*m_engine, [&] { rows.read(records, category); })) {
+            categories.pop_back();
+        }
     }
     connection.close();
     return categories;

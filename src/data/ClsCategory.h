@@ -30,9 +30,11 @@ public:
     QString CustomIconName() const { return m_customIconName; }
     void setCustomIconName(const QString& name) { m_customIconName = name; }
 
-    /// The stored category of that id; none when there is no such row.
+    /// The stored category of that id; none when there is no such row. One that does not convert is an
+    /// UnreadableRecordError.
     std::optional<ClsCategory> GetCatById(qint16 Id) const;
-    /// All categories in the order of their creation.
+    /// All categories in the order of their creation; one that does not convert is left out
+    /// (DatabaseEngine::unreadable).
     std::vector<ClsCategory> GetAllCategories() const;
     /// Stores this category as a new one. False (0) when it was inserted, true (-1) when a category of that
     /// name, in whatever letter case, exists already; then nothing is inserted. The new id is not read back.

@@ -3,11 +3,10 @@
 #include "data/ClsDatabase.h"
 #include "data/SqlText.h"
 #include "data/TaskCodes.h"
+#include "data/TaskOrder.h"
+#include "data/TaskRows.h"
 #include "platform/RuntimeError.h"
 #include "platform/database/DatabaseError.h"
-
-#include <algorithm>
-#include <array>
 
 namespace
 {
@@ -75,7 +74,6 @@ public:
         }
     }
     const QString& text() const { return m_text; }
-    bool isOrdered() const { return m_text.contains(QLatin1String(" order by ")); }
 
 private:
     void addCondition(QLatin1String condition)
@@ -108,72 +106,6 @@ void runAlone(const DatabaseEngine& engine, const QString& statement)
 }
 
 } // namespace
-
-/// The columns of the table, in a record set in which they were looked up once.
-class ClsTask::Columns
-{
-public:
-    explicit Columns(const RecordSet& records)
-        : m_name(records.field("task_name")), m_status(records.field("task_status")),
-          m_description(records.field("task_desc")), m_due(records.field("task_due_date")),
-          m_id(records.field("task_id")), m_periority(records.field("task_periority")),
-          m_reminder(records.field("reminder_date_time")), m_file(records.field("reminder_file")),
-          m_reminderOn(records.field("reminder_on")), m_sound(records.field("reminder_sound"))
-    {
-    }
-
-    std::array<std::string_view, TextCount> texts(const RecordSet& records) const
-    {
-        return {
-            records.utf8(m_name), records.utf8(m_description), records.utf8(m_sound), records.utf8(m_file)};
-    }
-    void readAllButTexts(const RecordSet& records, ClsTask& task) const
-    {
-        task.m_status = records.int32(m_status);
-        task.m_dueDateTime = records.moment(m_due);
-        task.m_id = records.int32(m_id);
-        task.m_periority = records.int32(m_periority);
-        task.m_reminderDateTime = records.moment(m_reminder);
-        task.m_reminderOn = records.flag(m_reminderOn);
-    }
-
-private:
-    int m_name;
-    int m_status;
-    int m_description;
-    int m_due;
-    int m_id;
-    int m_periority;
-    int m_reminder;
-    int m_file;
-    int m_reminderOn;
-    int m_sound;
-};
-
-/// Reads tasks and what belongs to them of their categories.
-class ClsTask::Reader
-{
-public:
-    explicit Reader(const RecordSet& records)
-        : m_columns(records), m_category(records.field("categories.cat_id")),
-          m_icon(records.field("cat_icon"))
-    {
-    }
-
-    void read(const RecordSet& records, ClsTask& task) const
-    {
-        task.m_categoryId =
-            narrowId(records.int32(m_category), QT_TRANSLATE_NOOP("OverflowError", "category id"));
-        task.m_texts.assign(m_columns.texts(records));
-        m_columns.readAllButTexts(records, task);
-        task.m_iconId = records.int16(m_icon);
-    }
-
-private:
-    Columns m_columns;
-    int m_category;
-    int m_icon;
-};
 
 ClsTask::ClsTask(const DatabaseEngine& engine) : m_engine(&engine)
 {
@@ -225,7 +157,7 @@ std::optional<ClsTask> ClsTask::GetTaskById(qint16 Id) const
         connection.execute(SelectJoin + QLatin1String(" where task_id = ") + QString::number(Id));
     if (!records.atEnd()) {
         task.emplace(*m_engine);
-        Reader(records).read(records, *task);
+        TaskRows(*m_engine, records).read(records, *task);
     }
     connection.close();
     return task;
@@ -247,20 +179,16 @@ std::vector<ClsTask> ClsTask::GetTasks(qint16 cat, qint32 status, qint32 sortBy,
     connection.open();
     std::vector<ClsTask> tasks;
     RecordSet records = connection.execute(statement.text());
-    const Reader reader(records);
+    TaskRows rows(*m_engine, records);
     for (; !records.atEnd(); records.moveNext()) {
-        reader.read(records, tasks.emplace_back(*m_engine));
-    }
-    connection.close();
-    if (!statement.isOrdered()) {
-        // In the order of making. The engine reads them so, unless another tool left statistics in the file.
-        const auto isEarlier = [](const ClsTask& one, const ClsTask& other) {
-            return one.Id() < other.Id();
-        };
-        if (!std::is_sorted(tasks.cbegin(), tasks.cend(), isEarlier)) {
-            std::sort(tasks.begin(), tasks.end(), isEarlier);
+        ClsTask& task = tasks.emplace_back(*m_engine);
+        if (!readOrLeaveOut(*m_engine, [&] { rows.read(records, task); })) {
+            tasks.pop_back();
         }
     }
+    connection.close();
+    putInOrder(
+        tasks, sortBy, [](const ClsTask& task) -> const ClsTask& { return task; }, m_engine->progress);
     return tasks;
 }
 
@@ -269,19 +197,14 @@ void ClsTask::readAll(const std::function<void(const RecordSet&)>& alsoSee) cons
 {
     Connection connection = ClsDatabase(*m_engine).Connect();
     connection.open();
-    const Reader everyColumnIsThere(connection.execute(SelectJoin + QLatin1String(" limit 0")));
+    const TaskRows everyColumnIsThere(*m_engine, connection.execute(SelectJoin + QLatin1String(" limit 0")));
     RecordSet records = connection.execute(
         QStringLiteral("select ifnull(cat_id in (select cat_id from categories), 0), * from tasks"));
     constexpr int IsShown = 0;
-    const Columns columns(records);
-    const int played = records.field("played");
-    const int dismissed = records.field("dismissed");
+    const TaskColumns columns(records);
     for (ClsTask task(*m_engine); !records.atEnd(); records.moveNext()) {
         if (records.flag(IsShown)) {
-            columns.texts(records);
-            columns.readAllButTexts(records, task);
-            records.flag(played);
-            records.flag(dismissed);
+            columns.check(records, task);
         }
         if (alsoSee) {
             alsoSee(records);

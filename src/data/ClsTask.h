@@ -27,6 +27,8 @@ public:
     qint16 CategoryId() const { return m_categoryId; }
     void setCategoryId(qint16 id) { m_categoryId = id; }
     QString TaskName() const { return m_texts.text(NameText); }
+    /// In UTF-8; valid until the task changes.
+    std::string_view taskNameUtf8() const { return m_texts.utf8(NameText); }
     void setTaskName(const QString& name) { setText(NameText, name); }
     QString Description() const { return m_texts.text(DescriptionText); }
     void setDescription(const QString& description) { setText(DescriptionText, description); }
@@ -55,13 +57,17 @@ public:
     void Add() const;
     /// Writes this task over the row of its id.
     void Update() const;
-    /// The stored task of that id; none when there is no such row or its category is gone.
+    /// The stored task of that id; none when there is no such row or its category is gone. A row that does
+    /// not convert is an UnreadableRecordError.
     std::optional<ClsTask> GetTaskById(qint16 Id) const;
-    /// The tasks that match, in the order of `sortBy`; an unknown `taskType` is an error, here and below.
-    /// `fromDate` and `toDate` count as whole days and only when `isDateRange` is set.
+    /// The tasks that match, in the order of `sortBy`, names as readers of the system's language look them up
+    /// (NameOrder); an unknown `taskType` is an error, here and below.
+    /// `fromDate` and `toDate` count as whole days and only when `isDateRange` is set. A task whose row, or
+    /// that of its category, does not convert is left out (DatabaseEngine::unreadable).
     std::vector<ClsTask> GetTasks(qint16 cat, qint32 status, qint32 sortBy, bool isDateRange, Moment fromDate,
         Moment toDate, qint32 taskType) const;
-    /// Reads every task that the list or the reminders show, and keeps none: throws what they would throw.
+    /// Reads every task that has a category, and keeps none; one that does not convert is an
+    /// UnreadableRecordError.
     /// `alsoSee` sees each row of the table with all its columns, those of tasks without a category too.
     void readAll(const std::function<void(const RecordSet&)>& alsoSee = {}) const;
     /// Deletes the tasks due from `fromDate` to the end of `toDate` that match.
@@ -71,9 +77,8 @@ public:
     void DeleteById(qint16 Id) const;
 
 private:
+    friend class TaskColumns;
     enum Text : std::size_t { NameText, DescriptionText, SoundText, FileText, TextCount };
-    class Columns;
-    class Reader;
     QString filled(const QString& pattern) const;
     void setText(Text which, const QString& value) { m_texts.set(which, value.toStdString()); }
 

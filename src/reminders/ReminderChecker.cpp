@@ -1,7 +1,7 @@
 #include "reminders/ReminderChecker.h"
 
 #include "data/ClsDatabase.h"
-#include "platform/database/DatabaseError.h"
+#include "data/RecordReading.h"
 
 namespace
 {
@@ -12,11 +12,16 @@ const QLatin1String DueQuery("select * from tasks,categories  where tasks.cat_id
 const QLatin1String MarkPlayed(
     "update  tasks set played=1 where reminder_date_time <= now() and dismissed =0 and reminder_on=true");
 
+DatabaseEngine withClock(DatabaseEngine engine, const Clock& clock)
+{
+    engine.clock = &clock;
+    return engine;
+}
+
 } // namespace
 
 ReminderChecker::ReminderChecker(const DatabaseEngine& engine)
-    : m_clock(engine.clock->now()), m_engine{engine.programFolder, &m_clock, engine.listener, engine.progress,
-                                        engine.knownSound},
+    : m_clock(engine.clock->now()), m_engine(withClock(engine, m_clock)),
       m_connection(ClsDatabase(m_engine).Connect())
 {
     m_connection.open();
@@ -38,16 +43,17 @@ void ReminderChecker::readDue()
     const int played = records.field("played");
     const int reminderOn = records.field("reminder_on");
     for (; !records.atEnd(); records.moveNext()) {
+        // Nobody can be told of it every ten seconds, and it must not keep the other reminders from the user.
         try {
-            m_due.push_back(
-                {records.int32(id), records.text(name), records.int32(icon), records.text(category),
-                    records.int32(periority), records.moment(dueDate), records.text(reminder),
-                    records.text(sound), records.text(file), records.flag(played), records.flag(reminderOn)});
-        } catch (const DatabaseError& error) {
-            // Another tool has written it. Nobody can be told of it every ten seconds, and it must not keep
-            // the other reminders from the user.
-            if (error.kind() != DatabaseError::Kind::Conversion) {
-                throw;
+            readRecord(records, {QLatin1String("tasks"), id, name}, [&] {
+                m_due.push_back({records.int32(id), records.text(name), records.int32(icon),
+                    records.text(category), records.int32(periority), records.moment(dueDate),
+                    records.text(reminder), records.text(sound), records.text(file), records.flag(played),
+                    records.flag(reminderOn)});
+            });
+        } catch (const UnreadableRecordError& error) {
+            if (m_engine.unreadable != nullptr) {
+                m_engine.unreadable->recordLeftOut(error.record());
             }
         }
     }

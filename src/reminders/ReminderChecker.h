@@ -39,8 +39,9 @@ public:
         Hide ///< none are due any more: empty the list and hide
     };
 
-    /// Opens the connection and reads all due reminders to the end. A record that does not convert, which the
-    /// program itself never writes, is passed over. `engine` outlives the check. Throws DatabaseError.
+    /// Opens the connection and reads all due reminders to the end. A record of which a value that is asked
+    /// for does not convert is left out (DatabaseEngine::unreadable); without a listener, too. `engine`
+    /// outlives the check. Throws DatabaseError.
     explicit ReminderChecker(const DatabaseEngine& engine);
     ReminderChecker(const ReminderChecker&) = delete;
     ReminderChecker& operator=(const ReminderChecker&) = delete;

@@ -18,5 +18,10 @@ struct SettingsRecord {
     bool show_grid = false;
     bool show_ballon_icon = false;
 
+    /// As a data file is shipped.
+    static SettingsRecord shipped()
+    {
+        return {false, true, false, QStringLiteral("Aqua"), true, true, true, true, false, true, true};
+    }
     bool operator==(const SettingsRecord&) const = default;
 };

@@ -1,8 +1,8 @@
 #include "settings/SettingsStore.h"
 
 #include "data/ClsDatabase.h"
+#include "data/RecordReading.h"
 #include "data/SqlText.h"
-#include "platform/database/DatabaseError.h"
 
 namespace
 {
@@ -39,18 +39,31 @@ SettingsRecord SettingsStore::read() const
         throw DatabaseError(DatabaseError::Kind::Conversion,
             tr("The row of the table \"settings\" is missing in the data file."));
     }
-    SettingsRecord settings;
-    settings.skin = rows.text(rows.field("skin"));
-    settings.always_on_top = rows.flag(rows.field("always_on_top"));
-    settings.minimize_on_start = rows.flag(rows.field("minimize_on_start"));
-    settings.show_grid = rows.flag(rows.field("show_grid"));
-    settings.show_task_due_date = rows.flag(rows.field("show_task_due_date"));
-    settings.show_task_periority = rows.flag(rows.field("show_task_periority"));
-    settings.show_task_reminder = rows.flag(rows.field("show_task_reminder"));
-    settings.show_task_status = rows.flag(rows.field("show_task_status"));
-    settings.show_today_tasks = rows.flag(rows.field("show_today_tasks"));
-    settings.show_ballon_icon = rows.flag(rows.field("show_ballon_icon"));
-    settings.start_with_windows = rows.flag(rows.field("start_with_windows"));
+    SettingsRecord settings = SettingsRecord::shipped();
+    const auto read = [&](const QString& column, auto convert) {
+        const int field = rows.field(column.toStdString());
+        readOrLeaveOut(*m_engine, [&] {
+            try {
+                convert(field);
+            } catch (const DatabaseError& error) {
+                throw UnreadableRecordError({QStringLiteral("settings"), column, {}, error.text()});
+            }
+        });
+    };
+    const auto readFlag = [&](const QString& column, bool& flag) {
+        read(column, [&](int field) { flag = rows.flag(field); });
+    };
+    read(QStringLiteral("skin"), [&](int field) { settings.skin = rows.text(field); });
+    readFlag(QStringLiteral("always_on_top"), settings.always_on_top);
+    readFlag(QStringLiteral("minimize_on_start"), settings.minimize_on_start);
+    readFlag(QStringLiteral("show_grid"), settings.show_grid);
+    readFlag(QStringLiteral("show_task_due_date"), settings.show_task_due_date);
+    readFlag(QStringLiteral("show_task_periority"), settings.show_task_periority);
+    readFlag(QStringLiteral("show_task_reminder"), settings.show_task_reminder);
+    readFlag(QStringLiteral("show_task_status"), settings.show_task_status);
+    readFlag(QStringLiteral("show_today_tasks"), settings.show_today_tasks);
+    readFlag(QStringLiteral("show_ballon_icon"), settings.show_ballon_icon);
+    readFlag(QStringLiteral("start_with_windows"), settings.start_with_windows);
     connection.close();
     return settings;
 }

@@ -15,7 +15,8 @@ public:
     /// `engine` outlives this object.
     explicit SettingsStore(const DatabaseEngine& engine) : m_engine(&engine) { }
 
-    /// The first row. A table without a row is an error.
+    /// The first row; a table without one is an error. A value that does not convert is left out
+    /// (DatabaseEngine::unreadable), and that of a shipped data file stands for it.
     SettingsRecord read() const;
     /// Replaces the row by `settings`, then, once that is on the disk, `record` by `settings`. The skin's
     /// name goes into the statement as it stands: one with a single quote breaks it, and then the table is

@@ -289,10 +289,11 @@ void ClsTaskTest::aCategoryIdThatDoesNotFitIsAnOverflow()
     aTask(database).add();
     database.sql(QStringLiteral("update tasks set cat_id = 32768"));
     const ClsTask store(database.engine());
-    const auto error = caught<OverflowError>([&] { store.GetTaskById(1); });
+    const auto error = caught([&] { store.GetTaskById(1); });
     QVERIFY(error);
-    QVERIFY2(error->text().contains(QLatin1String("32768")), qPrintable(error->text()));
-    QVERIFY(caught<OverflowError>([&] {
+    QVERIFY2(
+        error->text().contains(QLatin1String("Overflow: the category id 32768")), qPrintable(error->text()));
+    QVERIFY(caught([&] {
         store.GetTasks(CategoryFilter::All, TaskStatus::All, TaskSort::None, false, {}, {}, TaskType::All);
     }));
 }

@@ -110,6 +110,36 @@ class SweepTest(DamageCase):
             os.rename(path + ".away", path)
 
 
+class UnreadableRecordsTest(DamageCase):
+    """A value in the data file that does not convert locks nobody out."""
+
+    def setUp(self):
+        super().setUp()
+        self.backup = self.desk.path("sound.abk")
+        shutil.copy(self.desk.data_file, self.backup)
+
+    def test_one_box_names_the_records_and_a_restore_is_within_reach(self):
+        self.store.add_task("Day of no month", task_due_date="0000-00-00")
+        self.store.add_task("Word for a status", task_status="abc")
+        self.store.execute("update categories set cat_id=40000 where cat_name='Shopping'")
+        self.store.set(show_grid="abc")
+        user = self.start()
+        box = user.access.message_box("Day of no month", names.MAIN)
+        text = box.find("label").name
+        for part in ("task_due_date", "Word for a status", "task_status", "Shopping", "40000", "show_grid",
+                     "restore a backup"):
+            self.assertIn(part, text)
+        user.click_control(box, names.OK)
+        user.wait_rows(["Alpha"])
+        user.click_control(user.open_page("Maintenance"), names.RESTORE)
+        user.choose_file(names.OPEN_FILE, self.backup)
+        wait_until(lambda: self.store.task_named("Word for a status") is None, "the backup is restored")
+        user.open_page("Tasks")
+        user.wait_rows(["Alpha"])
+        user.program.send(signal.SIGTERM)
+        self.assertEqual(user.program.wait_end(), 0)
+
+
 class UseTest(DamageCase):
     """What is damaged is told when it is needed, and the program goes on."""
 

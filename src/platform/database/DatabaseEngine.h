@@ -21,6 +21,27 @@ public:
     virtual void connectionClosed() = 0;
 };
 
+/// A record that is not shown, because a value in it does not convert.
+struct UnreadableRecord {
+    QString table;
+    QString id; ///< as it is stored, whatever that is
+    QString name; ///< empty where there is none
+    QString reason; ///< a sentence that names the column
+};
+
+/// Is told which records a query of many has left out. Called on the thread that uses the connection.
+class UnreadableRecordListener
+{
+public:
+    UnreadableRecordListener() = default;
+    virtual ~UnreadableRecordListener() = default;
+    UnreadableRecordListener(const UnreadableRecordListener&) = delete;
+    UnreadableRecordListener& operator=(const UnreadableRecordListener&) = delete;
+
+    /// Told anew by every query that would have had the record.
+    virtual void recordLeftOut(const UnreadableRecord& record) = 0;
+};
+
 /// What every connection needs to know; one for the program, it outlives all that uses it.
 struct DatabaseEngine {
     QString programFolder; ///< absolute path of the folder that holds the data file
@@ -31,4 +52,6 @@ struct DatabaseEngine {
     /// the file first: damage that reading does not notice could make the engine write over living records. A
     /// sound file sets it; a damaged one is not written to.
     bool* knownSound = nullptr;
+    /// Not owned; may be null: then a record that does not convert ends the query of many, too.
+    UnreadableRecordListener* unreadable = nullptr;
 };

@@ -181,7 +181,11 @@ bool RecordSet::flag(int field) const
 
 Moment RecordSet::moment(int field) const
 {
-    const std::optional<Moment> moment = momentFromStoredText(utf8(field));
+    const std::string_view stored = utf8(field);
+    const std::optional<Moment> moment = momentFromStoredText(stored);
+    if (!moment && stored.empty()) {
+        refuse(tr("The value of column \"%1\" is empty.").arg(columnName(m_cursor->statement(), field)));
+    }
     if (!moment) {
         refuse(tr("The value of column \"%1\" is no date and time: %2.")
                    .arg(columnName(m_cursor->statement(), field), text(field).left(40)));

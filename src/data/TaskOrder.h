@@ -1,0 +1,32 @@
+#pragma once
+
+#include "data/ClsTask.h"
+#include "data/TaskCodes.h"
+#include "platform/Progress.h"
+
+#include <algorithm>
+#include <vector>
+
+/// Puts tasks, just read by a statement that sorts by `sortBy`, where people look for them; `taskOf` answers
+/// the task of an item. One order for all that lists them. `progress` may be null; what it throws leaves the
+/// items as they were.
+template <typename Item, typename TaskOf>
+void putInOrder(std::vector<Item>& items, qint32 sortBy, TaskOf taskOf, Progress* /*progress*/)
+{
+    switch (sortBy) {
+    case TaskSort::Name:
+    case TaskSort::Status:
+    case TaskSort::DueDate:
+    case TaskSort::Periority:
+        return;
+    default:
+        break;
+    }
+    // In the order of making. The engine reads them so, unless another tool left statistics in the file.
+    const auto isEarlier = [&](const Item& one, const Item& other) {
+        return taskOf(one).Id() < taskOf(other).Id();
+    };
+    if (!std::is_sorted(items.cbegin(), items.cend(), isEarlier)) {
+        std::sort(items.begin(), items.end(), isEarlier);
+    }
+}

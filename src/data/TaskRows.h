@@ -1,0 +1,58 @@
+#pragma once
+
+#include "data/CategoryRows.h"
+#include "data/ClsTask.h"
+
+#include <array>
+#include <string_view>
+#include <unordered_set>
+
+/// The rows of the table of tasks. Throws UnreadableRecordError for a row that does not convert as a whole,
+/// whichever of its values the caller wants: all that show a task show the same ones.
+class TaskColumns
+{
+public:
+    /// Looks the columns up; throws DatabaseError when one is missing.
+    explicit TaskColumns(const RecordSet& records);
+
+    /// Reads the current row into `task`, but for what belongs to its category.
+    void read(const RecordSet& records, ClsTask& task) const;
+    /// The same, but keeps no texts.
+    void check(const RecordSet& records, ClsTask& scratch) const;
+
+private:
+    using Texts = std::array<std::string_view, ClsTask::TextCount>;
+    Texts texts(const RecordSet& records) const;
+    void readNumbers(const RecordSet& records, ClsTask& task) const;
+
+    RecordNaming m_naming;
+    int m_status;
+    int m_description;
+    int m_due;
+    int m_periority;
+    int m_reminder;
+    int m_file;
+    int m_reminderOn;
+    int m_sound;
+    int m_played;
+    int m_dismissed;
+};
+
+/// The rows of the tasks joined with their categories. A task is shown where its row converts and that of its
+/// category does, so that a list never holds a task of a category that no filter offers.
+class TaskRows
+{
+public:
+    /// `engine` outlives this object.
+    TaskRows(const DatabaseEngine& engine, const RecordSet& records);
+
+    /// Reads the current row. Throws UnreadableRecordError, which names the task or its category.
+    void read(const RecordSet& records, ClsTask& task);
+
+private:
+    const DatabaseEngine* m_engine;
+    TaskColumns m_columns;
+    CategoryRows m_categories;
+    int m_icon;
+    std::unordered_set<qint16> m_readable; ///< categories
+};
