@@ -1,20 +1,21 @@
 #pragma once
 
 #include "data/ClsTask.h"
+#include "data/NameOrder.h"
 #include "data/TaskCodes.h"
-#include "platform/Progress.h"
-
-#include <algorithm>
-#include <vector>
 
 /// Puts tasks, just read by a statement that sorts by `sortBy`, where people look for them; `taskOf` answers
 /// the task of an item. One order for all that lists them. `progress` may be null; what it throws leaves the
 /// items as they were.
 template <typename Item, typename TaskOf>
-void putInOrder(std::vector<Item>& items, qint32 sortBy, TaskOf taskOf, Progress* /*progress*/)
+void putInOrder(std::vector<Item>& items, qint32 sortBy, TaskOf taskOf, Progress* progress)
 {
     switch (sortBy) {
     case TaskSort::Name:
+        // The engine has sorted by codes of letters.
+        NameOrder().sort(
+            items, [&](const Item& item) { return taskOf(item).taskNameUtf8(); }, progress);
+        return;
     case TaskSort::Status:
     case TaskSort::DueDate:
     case TaskSort::Periority:

@@ -1,4 +1,5 @@
 #include "Require.h"
+#include "data/NameOrder.h"
 #include "platform/database/UnicodeCollation.h"
 
 #include <cstdint>
@@ -30,6 +31,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(sign(compareIgnoringCase(a, b)) == -sign(compareIgnoringCase(b, a)), "both ways say the same");
     if (compareIgnoringCase(a, b) <= 0 && compareIgnoringCase(b, c) <= 0) {
         require(compareIgnoringCase(a, c) <= 0, "what comes before stays before");
+    }
+    // Names that the engine takes for the same have one place in a list.
+    static const NameOrder order;
+    if (compareIgnoringCase(a, b) == 0) {
+        require(order.key(a).compare(order.key(b)) == 0, "equal names have one place");
     }
     return 0;
 }

@@ -1,6 +1,7 @@
 #include "platform/database/UnicodeCollation.h"
 
 #include <QChar>
+#include <algorithm>
 #include <sqlite3.h>
 
 namespace
@@ -91,6 +92,22 @@ int compareIgnoringCase(std::string_view left, std::string_view right)
         }
     }
     return static_cast<int>(l < left.size()) - static_cast<int>(r < right.size());
+}
+
+QString foldedBeginning(std::string_view text, std::size_t most)
+{
+    QString folded;
+    folded.reserve(static_cast<qsizetype>(std::min(most, text.size())));
+    std::size_t position = 0;
+    for (std::size_t i = 0; i < most && position < text.size(); ++i) {
+        const char32_t codePoint = nextFolded(text, position);
+        if (codePoint >= FirstOfMalformed) {
+            folded += QChar(QChar::ReplacementCharacter);
+        } else {
+            folded += QChar::fromUcs4(codePoint);
+        }
+    }
+    return folded;
 }
 
 int installUnicodeNoCase(sqlite3* database, ComparisonWatch& watch)
