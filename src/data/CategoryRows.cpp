@@ -18,7 +18,8 @@ qint16 CategoryRows::id(const RecordSet& records) const
 
 qint16 CategoryRows::narrowedId(const RecordSet& records) const
 {
-    return narrowId(records.int32(m_naming.id), QT_TRANSLATE_NOOP("OverflowError", "category id"));
+    // By the name of its column, as with every other value that does not convert.
+    return narrowId(records.int32(m_naming.id), "cat_id");
 }
 
 void CategoryRows::read(const RecordSet& records, ClsCategory& category) const

@@ -5,6 +5,7 @@ namespace
 
 const QLatin1String Categories("categories");
 const QLatin1String Settings("settings");
+const QString Bullet = QStringLiteral(u"\u2022 ");
 const QString Paragraph = QStringLiteral("\n\n");
 
 } // namespace
@@ -34,12 +35,12 @@ void UnreadableRecords::recordLeftOut(const UnreadableRecord& record)
         return;
     }
     if (record.table == Settings) {
-        m_settings.append(sentenceOf(record));
+        m_settings.append(Bullet + sentenceOf(record));
         return;
     }
     m_hasCategory = m_hasCategory || record.table == Categories;
     if (m_records.size() < MostNamed) {
-        m_records.append(sentenceOf(record));
+        m_records.append(Bullet + sentenceOf(record));
     } else {
         ++m_more;
     }

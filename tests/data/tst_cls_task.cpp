@@ -292,7 +292,7 @@ void ClsTaskTest::aCategoryIdThatDoesNotFitIsAnOverflow()
     const auto error = caught([&] { store.GetTaskById(1); });
     QVERIFY(error);
     QVERIFY2(
-        error->text().contains(QLatin1String("Overflow: the category id 32768")), qPrintable(error->text()));
+        error->text().contains(QLatin1String("Overflow: the cat_id 32768")), qPrintable(error->text()));
     QVERIFY(caught([&] {
         store.GetTasks(CategoryFilter::All, TaskStatus::All, TaskSort::None, false, {}, {}, TaskType::All);
     }));

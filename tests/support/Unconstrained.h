@@ -44,7 +44,7 @@ inline constexpr Damage TaskDamages[]{
 };
 
 inline constexpr Damage CategoryDamages[]{
-    {"an id of 17 bits", "cat_id=40000", "Overflow"},
+    {"an id of 17 bits", "cat_id=40000", "cat_id"},
     {"an id of 33 bits", "cat_id=5000000000", "cat_id"},
     {"a null for a name", "cat_name=null", "cat_name"},
     {"a null for a description", "cat_desc=null", "cat_desc"},
