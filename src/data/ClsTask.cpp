@@ -201,7 +201,7 @@ void ClsTask::readAll(const std::function<void(const RecordSet&)>& alsoSee) cons
     RecordSet records = connection.execute(
         QStringLiteral("select ifnull(cat_id in (select cat_id from categories), 0), * from tasks"));
     constexpr int IsShown = 0;
-    const TaskColumns columns(records);
+    const TaskFields columns(records);
     for (ClsTask task(*m_engine); !records.atEnd(); records.moveNext()) {
         if (records.flag(IsShown)) {
             columns.check(records, task);

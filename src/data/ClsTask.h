@@ -77,7 +77,7 @@ public:
     void DeleteById(qint16 Id) const;
 
 private:
-    friend class TaskColumns;
+    friend class TaskFields;
     enum Text : std::size_t { NameText, DescriptionText, SoundText, FileText, TextCount };
     QString filled(const QString& pattern) const;
     void setText(Text which, const QString& value) { m_texts.set(which, value.toStdString()); }

@@ -2,7 +2,7 @@
 
 #include "data/ClsCategory.h"
 
-TaskColumns::TaskColumns(const RecordSet& records)
+TaskFields::TaskFields(const RecordSet& records)
     : m_naming{QLatin1String("tasks"), records.field("task_id"), records.field("task_name")},
       m_status(records.field("task_status")), m_description(records.field("task_desc")),
       m_due(records.field("task_due_date")), m_periority(records.field("task_periority")),
@@ -12,13 +12,13 @@ TaskColumns::TaskColumns(const RecordSet& records)
 {
 }
 
-TaskColumns::Texts TaskColumns::texts(const RecordSet& records) const
+TaskFields::Texts TaskFields::texts(const RecordSet& records) const
 {
     return {records.utf8(m_naming.name), records.utf8(m_description), records.utf8(m_sound),
         records.utf8(m_file)};
 }
 
-void TaskColumns::readNumbers(const RecordSet& records, ClsTask& task) const
+void TaskFields::readNumbers(const RecordSet& records, ClsTask& task) const
 {
     task.setStatus(records.int32(m_status));
     task.setDueDateTime(records.moment(m_due));
@@ -31,7 +31,7 @@ void TaskColumns::readNumbers(const RecordSet& records, ClsTask& task) const
     records.flag(m_dismissed);
 }
 
-void TaskColumns::read(const RecordSet& records, ClsTask& task) const
+void TaskFields::read(const RecordSet& records, ClsTask& task) const
 {
     readRecord(records, m_naming, [&] {
         task.m_texts.assign(texts(records));
@@ -39,7 +39,7 @@ void TaskColumns::read(const RecordSet& records, ClsTask& task) const
     });
 }
 
-void TaskColumns::check(const RecordSet& records, ClsTask& scratch) const
+void TaskFields::check(const RecordSet& records, ClsTask& scratch) const
 {
     readRecord(records, m_naming, [&] {
         texts(records);

@@ -9,11 +9,11 @@
 
 /// The rows of the table of tasks. Throws UnreadableRecordError for a row that does not convert as a whole,
 /// whichever of its values the caller wants: all that show a task show the same ones.
-class TaskColumns
+class TaskFields
 {
 public:
     /// Looks the columns up; throws DatabaseError when one is missing.
-    explicit TaskColumns(const RecordSet& records);
+    explicit TaskFields(const RecordSet& records);
 
     /// Reads the current row into `task`, but for what belongs to its category.
     void read(const RecordSet& records, ClsTask& task) const;
@@ -51,7 +51,7 @@ public:
 
 private:
     const DatabaseEngine* m_engine;
-    TaskColumns m_columns;
+    TaskFields m_columns;
     CategoryRows m_categories;
     int m_icon;
     std::unordered_set<qint16> m_readable; ///< categories
