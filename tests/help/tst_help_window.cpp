@@ -195,7 +195,8 @@ private slots:
 
     void picturesThatTheFileDoesNotHoldAreNotDrawnFromTheDisk()
     {
-        const QTemporaryDir folder;
+        // Its name has to fit into the place of another.
+        const QTemporaryDir folder(QStringLiteral("/tmp/XXXXXX"));
         QImage red(24, 24, QImage::Format_RGB32);
         red.fill(QColor(0xff, 0x01, 0x02));
         const QString picture = folder.filePath(QStringLiteral("r.png"));

@@ -30,7 +30,7 @@ def icon(size):
 # Patterns: the modules lie in a folder of their version.
 EXPECTED = [PROGRAM, ENTRY, METAINFO, MAN_PAGE, CHANGELOG, "share/doc/ambertask/copyright", DRAWING,
             *(icon(size) for size in ICON_SIZES),
-            *(f"lib/ambertask/*/ambertask_{module}.so" for module in ("help", "report")), "lib/ambertask/*/ambertask_sound",
+            *(f"lib/ambertask/*/ambertask_{module}.so" for module in ("help", "report")), "lib/ambertask/*/ambertask_sound", "lib/ambertask/*/ambertask_pictures",
             LIST, TEMPLATE + "data.dat", TEMPLATE + "Ambertask1.1.chm", TEMPLATE + "custom icons",
             *(f"{TEMPLATE}Skins/{name}.skf" for name in SKINS),
             *(f"{TEMPLATE}sounds/{name}.wav" for name in SOUNDS)]

@@ -8,6 +8,7 @@ import subprocess
 import tempfile
 import unittest
 
+import hardening
 from installation import PROGRAM, Installation
 
 
@@ -27,6 +28,7 @@ class PackageContentsTest(unittest.TestCase):
         tree = self.path("tree")
         subprocess.run(["dpkg-deb", "--raw-extract", self.package("*.deb"), tree], check=True)
         self.assertEqual(Installation(os.path.join(tree, "usr")).faults(), [])
+        self.assert_hardened(os.path.join(tree, "usr"))
         for path in ("share/doc/ambertask/changelog.Debian.gz", "share/lintian/overrides/ambertask"):
             self.assertTrue(os.path.exists(os.path.join(tree, "usr", path)), path)
 
@@ -35,9 +37,30 @@ class PackageContentsTest(unittest.TestCase):
         self.assertEqual(os.listdir(self.folder), ["Ambertask"])
         folder = self.path("Ambertask")
         self.assertEqual(Installation(folder).faults(), [])
+        self.assert_hardened(folder)
         self.assertLessEqual({"Ambertask", "README.txt", "LICENSE"}, set(os.listdir(folder)))
         self.assertEqual(os.readlink(os.path.join(folder, "Ambertask")), PROGRAM)
         self.assertFalse(os.path.lexists(os.path.join(folder, "data.dat")), "it would overwrite a user's data")
+
+    def assert_hardened(self, prefix):
+        binaries = [os.path.join(prefix, PROGRAM), *glob.glob(os.path.join(glob.escape(prefix), "lib/ambertask/*/*"))]
+        self.assertEqual(len(binaries), 5, binaries)
+        for binary in binaries:
+            # The player is too small to have anything of it.
+            asserts = os.path.basename(binary) != "ambertask_sound"
+            self.assertEqual(list(hardening.faults(binary, asserts)), [], binary)
+
+    def test_a_binary_that_is_not_hardened_is_found(self):
+        source = self.path("plain.cpp")
+        with open(source, "w", encoding="ascii") as text:
+            text.write("int main() { return 0; }\n")
+        binary = self.path("plain")
+        subprocess.run(["c++", "-no-pie", "-fcf-protection=none", "-fno-stack-protector", "-Wl,-z,norelro,-z,lazy,-z,execstack",
+                        source, "-o", binary], check=True, capture_output=True)
+        self.assertEqual(list(hardening.faults(binary)), [
+            "it lies at a fixed address", "its relocations can be written", "its stack can be run", "its stack is not protected",
+            "its containers are not checked", "its calls of the C library are not checked",
+            "its flow of control is not protected"])
 
 
 if __name__ == "__main__":
