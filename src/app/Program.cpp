@@ -99,6 +99,14 @@ void Program::onFirstPainted()
     // Behind the loading of the dialogs: an open box is not to hold back the checker.
     m_hasBeenSeen = true;
     tellUnreadableRecords();
+    tellUnreadablePictures();
+}
+
+void Program::tellUnreadablePictures()
+{
+    if (!m_hasBeenSeen || m_main->categoriesPage()->isReadingPictures()) {
+        return;
+    }
     const QStringList unreadable = m_main->categoriesPage()->takeUnreadablePictures();
     if (!unreadable.isEmpty()) {
         m_machine.messages.tell(m_main.get(), MessageBoxes::Icon::Exclamation, unreadable.join(u'\n'));
@@ -114,8 +122,8 @@ void Program::makeMainWindow()
         return TaskColumns{settingsPage->showStatusChecked(), settingsPage->showDueDateChecked(),
             settingsPage->showPeriorityChecked(), settingsPage->showReminderChecked()};
     });
-    pages.categories =
-        new CategoriesPage(m_services, [this]() -> frmCategoryDetails& { return categoryDetails(); });
+    pages.categories = new CategoriesPage(
+        m_services, [this]() -> frmCategoryDetails& { return categoryDetails(); }, m_machine.pictureReader);
     pages.maintenance = new MaintenancePage(m_services);
     m_main = std::make_unique<frmMain>(m_services, m_settings, static_cast<MainWindowHost&>(*this), pages);
 
@@ -126,6 +134,8 @@ void Program::makeMainWindow()
     connect(m_main.get(), &frmMain::exitRequested, this, &Program::end);
     connectGuarded(
         pages.categories, &CategoriesPage::categoriesChanged, this, &Program::onCategoriesChanged, errors);
+    connect(pages.categories, &CategoriesPage::pictureCame, this, &Program::onPictureCame);
+    connect(pages.categories, &CategoriesPage::picturesRead, this, &Program::tellUnreadablePictures);
     // A failed reload ends a restore silently; Program::onDataRestored lets nothing out.
     connect(pages.maintenance, &MaintenancePage::dataRestored, this, &Program::onDataRestored);
     connectGuarded(pages.maintenance, &MaintenancePage::tasksDeleted, this, &Program::LoadTasks, errors);
@@ -169,6 +179,7 @@ void Program::loadDialogs()
     // Now that the main window is on the screen: the pictures of a window's icon are many, and large.
     QApplication::setWindowIcon(programWindowIcon());
     m_main->wakePages();
+    m_main->categoriesPage()->readPictures();
     // The alert window has to be there even when a dialog cannot be loaded, and before anybody has read why:
     // without it nothing reminds.
     CollectedErrors errors;

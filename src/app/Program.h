@@ -4,6 +4,7 @@
 #include "data/UnreadableRecords.h"
 #include "help/HTMLHelpViewer.h"
 #include "platform/ElidedTextTips.h"
+#include "platform/HelperProcess.h"
 #include "platform/ImageList.h"
 #include "platform/LongWork.h"
 #include "platform/WaveBackend.h"
@@ -41,6 +42,8 @@ struct Machine {
     HelpWindowFactory helpWindow;
     ReportWindowFactory reportWindow;
     LongWorkTime longWorkTime = LongWorkTime::real();
+    /// What reads pictures; without it they are read between two events.
+    ProgramPath pictureReader = {};
 };
 
 /// The program: its one instance of each form and of what they share, and how they are wired. Interface
@@ -86,6 +89,8 @@ signals:
 private:
     void makeMainWindow();
     void onFirstPainted();
+    void tellUnreadablePictures();
+    void onPictureCame();
 
     void connectHelp(const MainWindowPages& pages);
     void showAbout();

@@ -9,6 +9,7 @@
 #include "settings/SettingsPage.h"
 #include "tasks/frmTaskDetails.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QTimer>
 #include <utility>
@@ -53,6 +54,17 @@ void Program::onCategoriesChanged()
 {
     reloadCategoryCombos();
     m_main->LoadTasks();
+}
+
+void Program::onPictureCame()
+{
+    for (const QWidget* window : std::initializer_list<const QWidget*>{m_main.get(), m_alerts.get()}) {
+        if (window != nullptr) {
+            for (const QAbstractItemView* list : window->findChildren<QAbstractItemView*>()) {
+                list->viewport()->update();
+            }
+        }
+    }
 }
 
 void Program::reloadCategoryCombos()

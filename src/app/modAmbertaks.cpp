@@ -4,6 +4,7 @@
 #include "app/DisplayGate.h"
 #include "app/Program.h"
 #include "app/drTasks.h"
+#include "categories/PictureReader.h"
 #include "platform/Clock.h"
 #include "platform/FileDialogs.h"
 #include "platform/FileReplace.h"
@@ -33,7 +34,7 @@ namespace
 struct RealMachine {
     RealMachine(const QString& moduleFolder, const QString& programFolder, ErrorReport& errorReport)
         : modules(moduleFolder, {QLatin1String(HelpModule), QLatin1String(ReportModule)},
-            {QLatin1String(SoundProgram)}),
+            {QLatin1String(SoundProgram), QLatin1String(PictureProgram)}),
           engine{programFolder, &clock, nullptr, nullptr, &dataFileIsSound}, errors(errorReport)
     {
     }
@@ -43,8 +44,9 @@ struct RealMachine {
         return {engine, messages, fileDialogs, errors, shell, *registry,
             [this] { return makeWaveBackend(modules); }, TrayIcon::isAreaAvailable,
             [this](HelpHost& host) { return loadHelpWindow(modules, host); },
-            [this](ReportHost& host) {
-                return loadReportWindow(modules, host);
+            [this](ReportHost& host) { return loadReportWindow(modules, host); }, LongWorkTime::real(),
+            [this] {
+                return modules.program(QLatin1String(PictureProgram));
             }};
     }
 

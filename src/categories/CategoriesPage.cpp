@@ -11,6 +11,7 @@
 #include "platform/WindowPlacement.h"
 
 #include <QBoxLayout>
+#include <QFileInfo>
 #include <QPushButton>
 #include <algorithm>
 #include <utility>
@@ -34,13 +35,13 @@ int idOf(const QListWidgetItem& item)
 
 } // namespace
 
-CategoriesPage::CategoriesPage(
-    const FormServices& services, std::function<frmCategoryDetails&()> categoryDetails, QWidget* parent)
+CategoriesPage::CategoriesPage(const FormServices& services,
+    std::function<frmCategoryDetails&()> categoryDetails, const ProgramPath& pictureReader, QWidget* parent)
     : QWidget(parent), m_services(services), m_categoryDetails(std::move(categoryDetails)),
       m_customIcons(services.engine.programFolder), m_list(new CategoryList),
       m_add(makeButton("btnAddCat", tr("&Add"))), m_edit(makeButton("btnEditCat", tr("&Edit"))),
       m_delete(makeButton("btnDeleteCat", tr("&Delete"))),
-      m_help(makeButton("btnHelpCategories", tr("&Help")))
+      m_help(makeButton("btnHelpCategories", tr("&Help"))), m_reader(pictureReader)
 {
     m_list->setObjectName(QStringLiteral("lstViewCategories"));
     m_list->setAccessibleName(tr("Categories"));
@@ -71,6 +72,16 @@ void CategoriesPage::connectControls()
     connectGuarded(m_list, &QListWidget::doubleClicked, this, &CategoriesPage::btnEditCat_Click, errors);
     connectGuarded(m_list, &CategoryList::enterPressed, this, &CategoriesPage::btnEditCat_Click, errors);
     connectGuarded(m_list, &CategoryList::deletePressed, this, &CategoriesPage::btnDeleteCat_Click, errors);
+    connect(&m_reader, &PictureReader::read, this, &CategoriesPage::takePicture);
+    connect(&m_reader, &PictureReader::refused, this, [this](const QString& path, const QString& why) {
+        m_awaited.remove(path);
+        note(QFileInfo(path).fileName(), why);
+    });
+    connect(&m_reader, &PictureReader::finished, this, [this] {
+        m_isReading = false;
+        m_customIcons.tidy();
+        emit picturesRead();
+    });
     connect(m_help, &QPushButton::clicked, this, &CategoriesPage::helpRequested);
 }
 
@@ -109,11 +120,44 @@ void CategoriesPage::LoadCategories()
 QIcon CategoriesPage::customPicture(const ClsCategory& category)
 {
     try {
-        return m_customIcons.load(category.CustomIconName());
+        const QIcon known = m_customIcons.find(category.CustomIconName());
+        if (!known.isNull()) {
+            return known;
+        }
+        const QString path = m_customIcons.pathOf(category.CustomIconName());
+        const LatePicture late;
+        waitFor(path, late);
+        return late.icon();
     } catch (const RuntimeError& error) {
         note(category.CustomIconName(), error.text());
         return standInPicture();
     }
+}
+
+void CategoriesPage::waitFor(const QString& path, const LatePicture& picture)
+{
+    Awaited& awaited = m_awaited[path];
+    if (awaited.pictures.isEmpty()) {
+        awaited.key = PictureCache::keyOf(path);
+    }
+    awaited.pictures.append(picture);
+    m_reader.request(path);
+}
+
+void CategoriesPage::takePicture(const QString& path, const QImage& picture)
+{
+    const Awaited awaited = m_awaited.take(path);
+    const QIcon icon = m_customIcons.keep(path, awaited.key, picture);
+    for (LatePicture late : awaited.pictures) {
+        late.arrive(icon);
+    }
+    m_list->viewport()->update();
+    emit pictureCame();
+}
+
+void CategoriesPage::readPictures()
+{
+    m_reader.begin();
 }
 
 void CategoriesPage::writeIconNumber(ClsCategory& category, int number)
@@ -134,7 +178,7 @@ void CategoriesPage::note(const QString& key, const QString& text)
     }
     m_noted.insert(key);
     m_notes.append(text);
-    if (m_notes.size() == 1 && window()->isVisible()) {
+    if (m_notes.size() == 1 && window()->isVisible() && !m_isReading) {
         // After all that follows the load: the other lists are not to wait for the user's answer.
         QMetaObject::invokeMethod(this, &CategoriesPage::reportNotes, Qt::QueuedConnection);
     }

@@ -1,6 +1,7 @@
 #include "categories/CustomIcons.h"
 
 #include "platform/FileReplace.h"
+#include "platform/PackedPicture.h"
 #include "platform/PictureFile.h"
 #include "platform/RuntimeError.h"
 
@@ -11,8 +12,6 @@
 namespace
 {
 
-/// Enough for the list's pictures on a screen with three device pixels to each of ours.
-constexpr int PictureEdge = 96;
 constexpr qsizetype BytesAPixel = 4;
 /// Some hundred pictures.
 constexpr qsizetype MostBytes = qsizetype{16} * 1024 * 1024;
@@ -42,14 +41,44 @@ CustomIcons::CustomIcons(const QString& programFolder)
 
 QIcon CustomIcons::load(const QString& name) const
 {
+    if (const QIcon found = find(name); !found.isNull()) {
+        return found;
+    }
     const QString path = pathOf(name);
     // Before it is read: a change in between is found at the next call.
+    const QString key = PictureCache::keyOf(path);
+    return keep(path, key, PictureFile(path).load(RenditionEdge));
+}
+
+QIcon CustomIcons::find(const QString& name) const
+{
+    const QString path = pathOf(name);
+    if (!QFileInfo(path).isFile()) {
+        // It says why.
+        PictureFile(path).load(RenditionEdge);
+    }
     const Stamp stamp(path);
     if (const Decoded* decoded = m_decoded.object(path); decoded != nullptr && decoded->stamp == stamp) {
         return decoded->icon;
     }
     m_decoded.remove(path);
-    QIcon icon = loadFile(path);
+    const QImage rendition = m_renditions.load(PictureCache::keyOf(path));
+    return rendition.isNull() ? QIcon() : remember(path, stamp, QIcon(QPixmap::fromImage(rendition)));
+}
+
+QIcon CustomIcons::keep(const QString& path, const QString& key, const QImage& picture) const
+{
+    const QIcon icon(QPixmap::fromImage(picture));
+    const Stamp stamp(path);
+    if (PictureCache::keyOf(path) != key) {
+        return icon;
+    }
+    m_renditions.store(key, picture);
+    return remember(path, stamp, icon);
+}
+
+QIcon CustomIcons::remember(const QString& path, const Stamp& stamp, const QIcon& icon) const
+{
     const QSize size = icon.availableSizes().constFirst();
     m_decoded.insert(path, new Decoded{stamp, icon}, BytesAPixel * size.width() * size.height());
     return icon;
@@ -57,16 +86,23 @@ QIcon CustomIcons::load(const QString& name) const
 
 QIcon CustomIcons::loadFile(const QString& path)
 {
-    return QIcon(QPixmap::fromImage(PictureFile(path).load(PictureEdge)));
+    return QIcon(QPixmap::fromImage(PictureFile(path).load(RenditionEdge)));
 }
 
-void CustomIcons::store(const QString& source, const QString& name) const
+void CustomIcons::store(
+    const QString& source, const QString& name, const QIcon& picture, const QString& sourceKey) const
 {
     const QString destination = pathOf(name);
     makeFolder(m_folder);
     replaceByCopy(source, destination, PublicFile);
     // The disk's clock is too coarse to tell what follows at once.
     m_decoded.remove(destination);
+    const QString key = PictureCache::keyOf(destination);
+    m_renditions.remove(key);
+    const QList<QSize> sizes = picture.availableSizes();
+    if (!sizes.isEmpty() && PictureCache::keyOf(source) == sourceKey) {
+        m_renditions.store(key, picture.pixmap(sizes.constFirst(), 1).toImage());
+    }
 }
 
 QString CustomIcons::pathOf(const QString& name) const

@@ -168,7 +168,9 @@ void frmCategoryDetails::btnBrowse_Click()
         path = m_services.fileDialogs.open(this, request);
     }
     // Loaded first: a file that is no picture changes neither the path nor the preview.
+    const QString key = PictureCache::keyOf(path);
     const QIcon picture = path.isEmpty() ? QIcon() : CustomIcons::loadFile(path);
+    m_customIconKey = key;
     m_customIconSource = path;
     showCustomPicture(picture);
 }
@@ -243,7 +245,7 @@ QString frmCategoryDetails::storeCustomPicture() const
         return m_controls.imgCustomIcon->property(PictureTag).toString();
     }
     QString name = NewCustomIconName() + QLatin1String(".gif");
-    m_customIcons.store(m_customIconSource, name);
+    m_customIcons.store(m_customIconSource, name, m_customPicture, m_customIconKey);
     return name;
 }
 

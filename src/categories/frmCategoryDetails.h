@@ -82,5 +82,7 @@ private:
     QString m_tag;
     /// The picture file that the user chose.
     QString m_customIconSource;
+    /// Of that file when it was read.
+    QString m_customIconKey;
     QIcon m_customPicture;
 };

@@ -3,7 +3,7 @@
 #include <QProcess>
 #include <utility>
 
-HelperProcess::HelperProcess(QString program, QObject* parent)
+HelperProcess::HelperProcess(ProgramPath program, QObject* parent)
     : QObject(parent), m_program(std::move(program))
 {
 }
@@ -35,7 +35,7 @@ void HelperProcess::start()
             lose();
         }
     });
-    m_process->start(m_program, QStringList());
+    m_process->start(m_program(), QStringList());
 }
 
 void HelperProcess::lose()

@@ -2,8 +2,11 @@
 
 #include <QObject>
 #include <QString>
+#include <functional>
 
 class QProcess;
+
+using ProgramPath = std::function<QString()>;
 
 /// A process of ours that does what could end or hold up the program. It runs while there is something to do:
 /// the first `write` starts it. Its errors go where the program's go. Interface thread only.
@@ -12,8 +15,8 @@ class HelperProcess final : public QObject
     Q_OBJECT
 
 public:
-    /// `program` is the path of its executable.
-    explicit HelperProcess(QString program, QObject* parent = nullptr);
+    /// `program` answers the path of its executable; it is asked at each start.
+    explicit HelperProcess(ProgramPath program, QObject* parent = nullptr);
     /// Ends the process.
     ~HelperProcess() override;
 
@@ -33,6 +36,6 @@ private:
     void start();
     void lose();
 
-    QString m_program;
+    ProgramPath m_program;
     QProcess* m_process = nullptr;
 };

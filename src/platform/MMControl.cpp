@@ -5,7 +5,8 @@
 
 std::unique_ptr<WaveBackend> makeWaveBackend(const Modules& modules)
 {
-    return std::make_unique<SoundProcess>(modules.program(QLatin1String(SoundProgram)));
+    return std::make_unique<SoundProcess>(
+        [&modules] { return modules.program(QLatin1String(SoundProgram)); });
 }
 
 MMControl::MMControl(WaveBackendFactory factory, QObject* parent)

@@ -10,7 +10,7 @@ class Modules;
 
 inline constexpr char SoundProgram[] = "ambertask_sound";
 
-/// What plays waves on this machine; silent where its program is missing.
+/// What plays waves on this machine; silent where its program is missing. `modules` outlives it.
 std::unique_ptr<WaveBackend> makeWaveBackend(const Modules& modules);
 
 /// The multimedia control: set the properties, then send the commands "Open" and "Play". Each "Play" starts

@@ -198,6 +198,11 @@ QByteArray PictureFile::read() const
     return bytes;
 }
 
+QString PictureFile::refusal(const QString& path)
+{
+    return tr("The picture \"%1\" cannot be used: %2").arg(path, tr("it is damaged or incomplete."));
+}
+
 void PictureFile::refuse(const QString& reason) const
 {
     throw RuntimeError(tr("The picture \"%1\" cannot be used: %2").arg(m_path, reason));

@@ -19,6 +19,9 @@ public:
     /// its size. Throws RuntimeError that names the file and says why.
     QImage load(int edge) const;
 
+    /// What is said of a damaged picture.
+    static QString refusal(const QString& path);
+
 private:
     QByteArray read() const;
     [[noreturn]] void refuse(const QString& reason) const;

@@ -24,6 +24,11 @@ QString userDataFolder()
     return baseFolder("XDG_DATA_HOME", QStringLiteral(".local/share"));
 }
 
+QString userCacheFolder()
+{
+    return baseFolder("XDG_CACHE_HOME", QStringLiteral(".cache"));
+}
+
 QString programFolderOf(const Installation& installation, const QString& userData)
 {
     return installation.programFolder.isEmpty() ? pathIn(userData, QLatin1String(ProductName))

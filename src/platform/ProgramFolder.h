@@ -15,6 +15,9 @@ inline constexpr char DataFileName[] = "data.dat";
 /// The folder of the user's own data (XDG data home), below which an installed program keeps its folder.
 QString userDataFolder();
 
+/// The folder of what can be made anew at any time (XDG cache home).
+QString userCacheFolder();
+
 /// The folder that holds data.dat, Skins, sounds and custom icons: the installation's, or one of the user's
 /// own in the folder `userData`.
 QString programFolderOf(const Installation& installation, const QString& userData);

@@ -17,6 +17,7 @@ struct PageUnderTest : TestServices {
         database.removeAllCategories();
         page =
             std::make_unique<CategoriesPage>(services, [this]() -> frmCategoryDetails& { return *dialog; });
+        page->readPictures();
         dialog = std::make_unique<frmCategoryDetails>(services);
         QObject::connect(
             dialog.get(), &frmCategoryDetails::categoryStored, page.get(), &CategoriesPage::LoadCategories);

@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QHelpEvent>
 #include <QLineEdit>
+#include <QSignalSpy>
 #include <QToolTip>
 
 class CategoriesListTest : public TestCase
@@ -26,6 +27,8 @@ private slots:
     void aPictureBehindAFolderNameIsRefused_data();
     void aPictureBehindAFolderNameIsRefused();
     void aTextNamedGifKeepsItsPlace();
+    void aPictureThatIsNotKnownYetHasAStandInUntilItIsRead();
+    void theNextStartHasThePictureAtOnce();
     void theVisiblePageReportsAnUnreadablePictureByItself();
     void anIconNumberOutsideOfTheListHasAStandIn();
     void anIconNumberThatDoesNotFitIsNotWritten();
@@ -99,7 +102,7 @@ void CategoriesListTest::aCustomPictureIsAppendedAndItsNumberWrittenBack()
 
     QCOMPARE(test.images.count(), 22);
     QCOMPARE(test.list()->item(0)->icon().cacheKey(), test.images.picture(22).cacheKey());
-    QVERIFY(test.images.picture(22).pixmap(24, 24).toImage().pixelColor(12, 12).green() > 200);
+    QTRY_VERIFY(test.images.picture(22).pixmap(24, 24).toImage().pixelColor(12, 12).green() > 200);
     QCOMPARE(test.database.statements().take().value(1),
         QStringLiteral(
             "Update categories set cat_name = 'It''s',cat_desc = '', cat_icon = 21,custom_icon = 1 "
@@ -125,12 +128,15 @@ void CategoriesListTest::aReloadDecodesNoPictureAnew()
     writeFile(test.customIcons(), QStringLiteral("icon5.gif"), jpegOf(QSize(4000, 3000)));
     test.addCustom(QStringLiteral("Own"), QStringLiteral("icon5.gif"));
     test.page->LoadCategories();
+    QSignalSpy came(test.page.get(), &CategoriesPage::pictureCame);
+    QVERIFY(came.wait());
     test.page->LoadCategories();
-    QCOMPARE(test.images.picture(23).cacheKey(), test.images.picture(22).cacheKey());
+    test.page->LoadCategories();
+    QCOMPARE(test.images.picture(24).cacheKey(), test.images.picture(23).cacheKey());
     writeFile(test.customIcons(), QStringLiteral("icon5.gif"), gifOf());
     test.page->LoadCategories();
-    QCOMPARE(test.images.picture(24).availableSizes(), QList<QSize>{QSize(1, 1)});
-    QCOMPARE(test.list()->item(0)->icon().cacheKey(), test.images.picture(24).cacheKey());
+    QTRY_COMPARE(test.images.picture(25).availableSizes(), QList<QSize>{QSize(1, 1)});
+    QCOMPARE(test.list()->item(0)->icon().cacheKey(), test.images.picture(25).cacheKey());
 }
 
 void CategoriesListTest::aReloadKeepsTheSelectedCategory()
@@ -208,7 +214,38 @@ void CategoriesListTest::aTextNamedGifKeepsItsPlace()
     test.page->LoadCategories();
     QCOMPARE(test.listed(), QStringLiteral("Letter Dot"));
     QCOMPARE(test.list()->item(1)->icon().cacheKey(), test.images.picture(23).cacheKey());
+    QSignalSpy came(test.page.get(), &CategoriesPage::pictureCame);
+    QVERIFY(came.wait());
     QVERIFY(test.page->takeUnreadablePictures().value(0).contains(QLatin1String("icon3.gif")));
+}
+
+void CategoriesListTest::aPictureThatIsNotKnownYetHasAStandInUntilItIsRead()
+{
+    PageUnderTest test;
+    writeFile(test.customIcons(), QStringLiteral("icon5.gif"), pngOf(QSize(1000, 1000), Qt::green));
+    test.addCustom(QStringLiteral("Own"), QStringLiteral("icon5.gif"));
+    const auto colour = [&test] {
+        return test.list()->item(0)->icon().pixmap(96, 96).toImage().pixelColor(48, 5);
+    };
+    test.page->LoadCategories();
+    QVERIFY(colour() != QColor(Qt::green));
+    QTRY_COMPARE(colour(), QColor(Qt::green));
+    // What else shows the picture has taken it from the image list before.
+    QCOMPARE(test.images.picture(22).pixmap(96, 96).toImage().pixelColor(48, 5), QColor(Qt::green));
+    QVERIFY(test.page->takeUnreadablePictures().isEmpty());
+}
+
+void CategoriesListTest::theNextStartHasThePictureAtOnce()
+{
+    PageUnderTest test;
+    writeFile(test.customIcons(), QStringLiteral("icon5.gif"), pngOf(QSize(1000, 1000), Qt::green));
+    test.addCustom(QStringLiteral("Own"), QStringLiteral("icon5.gif"));
+    test.page->LoadCategories();
+    QSignalSpy came(test.page.get(), &CategoriesPage::pictureCame);
+    QVERIFY(came.wait());
+    CategoriesPage next(test.services, [&test]() -> frmCategoryDetails& { return *test.dialog; });
+    next.LoadCategories();
+    QCOMPARE(test.images.picture(23).pixmap(96, 96).toImage().pixelColor(48, 48), QColor(Qt::green));
 }
 
 void CategoriesListTest::theVisiblePageReportsAnUnreadablePictureByItself()

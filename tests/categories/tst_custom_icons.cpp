@@ -75,7 +75,7 @@ private slots:
         const QString source = f.write(QStringLiteral("source.png"), pngOf(QSize(24, 24), Qt::green));
         f.write(QStringLiteral("icon1.gif"), pngOf(QSize(24, 24), Qt::red));
         QCOMPARE(f.colour(QStringLiteral("icon1.gif")), QColor(Qt::red));
-        f.icons.store(source, QStringLiteral("icon1.gif"));
+        f.icons.store(source, QStringLiteral("icon1.gif"), {}, {});
         QCOMPARE(f.colour(QStringLiteral("icon1.gif")), QColor(Qt::green));
     }
 

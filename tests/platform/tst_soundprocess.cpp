@@ -39,7 +39,7 @@ public:
         QFile sound(path("a sound.wav"));
         ready = ready && sound.open(QIODevice::WriteOnly) && sound.write(wave()) > 0;
         program.close();
-        process.emplace(path("player"));
+        process.emplace([program = path("player")] { return program; });
         process->onDone = [this] {
             ++done;
         };

@@ -189,7 +189,7 @@ void DamagedPicturesAndSoundsTest::aDamagedWaveHasNoLengthOrOneOfItsSize()
 
 void DamagedPicturesAndSoundsTest::thePlayerPlaysDamagedWavesOrNothing()
 {
-    SoundProcess backend(QStringLiteral(AMBERTASK_SOUND_PROGRAM));
+    SoundProcess backend([] { return QStringLiteral(AMBERTASK_SOUND_PROGRAM); });
     const QByteArray bytes = bytesOf(QStringLiteral(AMBERTASK_SHIPPED_SOUNDS "/bell.wav"));
     int played = 0;
     for (const Damage& damage : damagedAnywhere(bytes.left(4000), 100, 20, m_chance)) {

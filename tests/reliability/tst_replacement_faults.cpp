@@ -311,7 +311,7 @@ void TestReplacementFaults::aCustomIconIsStoredWholeOrNotAtAll()
         writeFile(place.path(QStringLiteral("elsewhere")), QStringLiteral("p.gif"), gifOf());
     const CustomIcons icons(place.engine.programFolder);
     trySweep(place,
-        {[&] { return told([&] { icons.store(picture, QStringLiteral("icon7.gif")); }); },
+        {[&] { return told([&] { icons.store(picture, QStringLiteral("icon7.gif"), {}, {}); }); },
             [](const std::string& folder) {
                 return contentIn(folder, "program/custom icons/icon7.gif");
             }});

@@ -1,6 +1,7 @@
 #include "support/TestMain.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QLocale>
 #include <QSettings>
 #include <QStandardPaths>
@@ -22,6 +23,8 @@ int runTest(QObject& test, int argc, char** argv)
     // What a file dialog remembers would be met by the dialogs of the next test.
     const QTemporaryDir settings;
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
+    const QTemporaryDir cache;
+    qputenv("XDG_CACHE_HOME", QFile::encodeName(cache.path()));
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
     QApplication application(argc, argv);
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));

@@ -15,7 +15,7 @@ constexpr std::chrono::milliseconds Grace = 5s;
 
 } // namespace
 
-SoundProcess::SoundProcess(const QString& program) : m_player(program)
+SoundProcess::SoundProcess(const ProgramPath& program) : m_player(program)
 {
     m_overdue.setSingleShot(true);
     QObject::connect(&m_overdue, &QTimer::timeout, &m_player, [this] { finish(); });

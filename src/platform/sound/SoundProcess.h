@@ -11,8 +11,8 @@
 class SoundProcess final : public WaveBackend
 {
 public:
-    /// `program` is the path of the player's executable.
-    explicit SoundProcess(const QString& program);
+    /// `program` answers the path of the player's executable.
+    explicit SoundProcess(const ProgramPath& program);
 
     void play(const QString& file) override;
     void stopAll() override;

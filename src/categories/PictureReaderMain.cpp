@@ -1,0 +1,57 @@
+// A process of its own, beside the program, that reads pictures from anywhere and answers small renditions.
+// It greets by an empty answer, reads names of files, each followed by a zero byte, and answers each by the
+// length of what follows (four bytes, the lowest first) and that: a packed picture, or a sentence that says
+// why there is none. It ends with its input.
+
+#include "platform/Language.h"
+#include "platform/PackedPicture.h"
+#include "platform/PictureFile.h"
+#include "platform/RuntimeError.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QLocale>
+#include <QTranslator>
+#include <QtEndian>
+#include <array>
+#include <cstdio>
+#include <iostream>
+#include <string>
+
+namespace
+{
+
+void answer(const QByteArray& bytes)
+{
+    std::array<char, 4> head;
+    qToLittleEndian(static_cast<quint32>(bytes.size()), head.data());
+    std::fwrite(head.data(), 1, head.size(), stdout);
+    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stdout);
+    std::fflush(stdout);
+}
+
+QByteArray answerTo(const QString& path)
+{
+    try {
+        return packedPicture(PictureFile(path).load(RenditionEdge));
+    } catch (const RuntimeError& error) {
+        return error.text().toUtf8();
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    QTranslator catalogue;
+    const QString language = catalogueFor(QLocale::system().uiLanguages(), Language::shipped());
+    if (!language.isEmpty() && catalogue.load(Language::fileOf(language))) {
+        QCoreApplication::installTranslator(&catalogue);
+    }
+    answer({});
+    for (std::string name; std::getline(std::cin, name, '\0');) {
+        answer(answerTo(QFile::decodeName(name.c_str())));
+    }
+    return 0;
+}
