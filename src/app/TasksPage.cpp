@@ -20,6 +20,7 @@
 #include <QRadioButton>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
+#include <optional>
 
 namespace
 {
@@ -226,8 +227,22 @@ void TasksPage::readTasks()
 {
     // Read before the list is cleared: a store that cannot be read is not to look like an empty one.
     std::vector<ClsTask> tasks = filter().tasks(m_services.engine);
+    const int row = m_grid->currentIndex().row();
+    const std::optional<qint32> current = row < 0 ? std::nullopt : std::optional(m_model->idAt(row));
     m_model->setImageList(&m_services.imgLstCategories);
     m_model->setTasks(std::move(tasks), m_shownColumns());
+    if (current) {
+        goToTask(*current);
+    }
+}
+
+bool TasksPage::goToTask(qint32 id)
+{
+    const int row = m_model->rowOf(id);
+    if (row >= 0) {
+        m_grid->goTo(row);
+    }
+    return row >= 0;
 }
 
 void TasksPage::setGridLines(bool shown)

@@ -32,10 +32,12 @@ public:
     void reloadCategories();
     /// Sets both due-date pickers to today, selects the specific dates or all dates and rebuilds the list.
     void startWith(bool todayOnly);
-    /// Rebuilds the list from the filters. Throws DatabaseError, and then the list is as it was; Cancelled
-    /// when the program ends meanwhile.
+    /// Rebuilds the list from the filters; the current row stays on its task. Throws DatabaseError, and then
+    /// the list is as it was; Cancelled when the program ends meanwhile.
     void LoadTasks();
 
+    /// Makes the task's row the current one and scrolls to it. False when the list does not show the task.
+    bool goToTask(qint32 id);
     void setGridLines(bool shown);
     /// Gives the focus to the list and activates its window when that is visible, whichever page is in front.
     void focusGrid();

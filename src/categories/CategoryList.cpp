@@ -119,6 +119,14 @@ QListWidgetItem* CategoryList::selectedItem() const
     return selectedItems().value(0);
 }
 
+void CategoryList::focusInEvent(QFocusEvent* event)
+{
+    // The toolkit's list makes the first item the current one, and frames it: an item on which no key acts.
+    QAbstractScrollArea::focusInEvent(event);
+    setAttribute(Qt::WA_InputMethodEnabled, false);
+    viewport()->update();
+}
+
 void CategoryList::keyPressEvent(QKeyEvent* event)
 {
     // The key of that name on the keypad is the same key.

@@ -97,12 +97,15 @@ QString rangeStatement(
     return statement.text();
 }
 
-void runAlone(const DatabaseEngine& engine, const QString& statement)
+/// Answers the id of the record that the statement has inserted, if it was to insert one.
+qint64 runAlone(const DatabaseEngine& engine, const QString& statement)
 {
     Connection connection = ClsDatabase(engine).Connect();
     connection.open();
     connection.execute(statement);
+    const qint64 id = connection.insertedId();
     connection.close();
+    return id;
 }
 
 } // namespace
@@ -123,9 +126,9 @@ QString ClsTask::filled(const QString& pattern) const
             {u"<reminder_file/>", EscapeSqlText(ReminderFile())}});
 }
 
-void ClsTask::Add() const
+qint32 ClsTask::Add() const
 {
-    runAlone(*m_engine,
+    const qint64 id = runAlone(*m_engine,
         filled(QStringLiteral(
             "insert into "
             "tasks(task_name,task_desc,task_status,cat_id,task_due_date,task_periority,reminder_on,"
@@ -133,6 +136,7 @@ void ClsTask::Add() const
             "('<task_name/>','<task_desc/>',<task_status/>,<cat_id/>,#<task_due_date_time/>#,<task_periority/"
             ">,"
             "<reminder_on/>,#<reminder_date_time/>#,'<reminder_sound/>','<reminder_file/>')")));
+    return static_cast<qint32>(id);
 }
 
 void ClsTask::Update() const

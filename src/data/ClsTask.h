@@ -53,8 +53,8 @@ public:
     bool DateChanged() const { return m_dateChanged; }
     void setDateChanged(bool changed) { m_dateChanged = changed; }
 
-    /// Stores this task as a new one. The new id is not read back.
-    void Add() const;
+    /// Stores this task as a new one and answers its id; the object keeps the id that it has.
+    qint32 Add() const;
     /// Writes this task over the row of its id.
     void Update() const;
     /// The stored task of that id; none when there is no such row or its category is gone. A row that does

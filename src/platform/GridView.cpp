@@ -99,13 +99,23 @@ void GridView::selectOnly(int row)
         clearSelection();
         return;
     }
+    // The toolkit's selectRow() finds no column at the edge where it looks from right to left, and clears.
+    moveTo(row, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+}
+
+void GridView::goTo(int row)
+{
+    moveTo(row, QItemSelectionModel::NoUpdate);
+}
+
+void GridView::moveTo(int row, QItemSelectionModel::SelectionFlags selection)
+{
     int column = 0;
     while (column + 1 < model()->columnCount() && isColumnHidden(column)) {
         ++column;
     }
-    // The toolkit's selectRow() finds no column at the edge where it looks from right to left, and clears.
     const QModelIndex cell = model()->index(row, column);
-    selectionModel()->setCurrentIndex(cell, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    selectionModel()->setCurrentIndex(cell, selection);
     scrollTo(cell);
 }
 
@@ -142,6 +152,14 @@ void GridView::currentChanged(const QModelIndex& current, const QModelIndex& pre
     QAbstractItemView::currentChanged(current, previous);
 }
 
+void GridView::focusInEvent(QFocusEvent* event)
+{
+    // The toolkit's table makes the first row the current one, and frames it: a row on which no key acts.
+    QAbstractScrollArea::focusInEvent(event);
+    setAttribute(Qt::WA_InputMethodEnabled, false);
+    viewport()->update();
+}
+
 void GridView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)
 {
     AccessibleGrid::announce(*this, QAccessible::SelectionAdd, firstOf(selected));
@@ -160,11 +178,14 @@ void GridView::keyPressEvent(QKeyEvent* event)
         selectOnly(0);
     } else if (m_gridModel != nullptr && isPlain(*event) && event->key() == Qt::Key_End) {
         selectOnly(m_gridModel->rowCount() - 1);
-    } else if (m_gridModel != nullptr && movesUpOrDown(*event) && selectedRow() < 0) {
-        // The row that has the focus would be passed over.
-        selectOnly(qMax(0, currentIndex().row()));
+    } else if (m_gridModel != nullptr && movesUpOrDown(*event) && !currentIndex().isValid()) {
+        selectOnly(0);
     } else {
         QTableView::keyPressEvent(event);
+        if (m_gridModel != nullptr && movesUpOrDown(*event) && isPlain(*event) && selectedRow() < 0) {
+            // At an end the toolkit neither moves nor selects.
+            selectOnly(currentIndex().row());
+        }
     }
 }
 

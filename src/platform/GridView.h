@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QItemSelectionModel>
 #include <QTableView>
 #include <optional>
 #include <vector>
@@ -23,6 +24,8 @@ public:
     int selectedRow() const;
     /// Selects a row, makes it the current one and scrolls to it; -1 selects none.
     void selectOnly(int row);
+    /// Makes a row the current one, from which the keys go on, and scrolls to it, without selecting it.
+    void goTo(int row);
     /// A few rows below the header.
     QSize minimumSizeHint() const override;
 
@@ -35,6 +38,7 @@ signals:
 protected:
     void changeEvent(QEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
@@ -45,6 +49,8 @@ private:
     void followLetters();
     void layOutColumns();
     void takeUserWidth(int column, int oldSize, int newSize);
+
+    void moveTo(int row, QItemSelectionModel::SelectionFlags selection);
 
     GridModel* m_gridModel = nullptr;
     int widthOf(int column) const;

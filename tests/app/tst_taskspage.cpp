@@ -234,6 +234,39 @@ private slots:
         QCOMPARE(f.page.grid()->selectedRow(), -1);
     }
 
+    void theCurrentRowStaysOnItsTaskThroughARebuild()
+    {
+        TasksPageFixture f;
+        for (const char* name : {"c", "b", "a"}) {
+            aTask(f.services.database).named(QLatin1String(name)).in(f.home).add();
+        }
+        f.load();
+        f.page.grid()->selectOnly(0);
+        f.choose("cmbSort", QStringLiteral("Name"));
+        QCOMPARE(f.page.grid()->currentIndex().row(), 2);
+        QCOMPARE(f.page.grid()->selectedRow(), -1);
+        f.services.database.sql(QStringLiteral("delete from tasks where task_name = 'c'"));
+        f.page.LoadTasks();
+        QVERIFY(!f.page.grid()->currentIndex().isValid());
+    }
+
+    void aTaskThatIsGoneToIsCurrentAndInSightAndNotSelected()
+    {
+        TasksPageFixture f;
+        qint32 id = 0;
+        for (int i = 0; i < 100; ++i) {
+            id = aTask(f.services.database).in(f.home).add();
+        }
+        f.load();
+        QVERIFY(f.page.goToTask(id));
+        const QModelIndex current = f.page.grid()->currentIndex();
+        QCOMPARE(current.row(), 99);
+        QVERIFY(f.page.grid()->viewport()->rect().contains(f.page.grid()->visualRect(current).center()));
+        QCOMPARE(f.page.grid()->selectedRow(), -1);
+        QVERIFY(!f.page.goToTask(id + 1));
+        QCOMPARE(f.page.grid()->currentIndex(), current);
+    }
+
     void theCategoryFilterKeepsItsCategoryWhenTheListIsFilledAnew()
     {
         TasksPageFixture f;

@@ -37,6 +37,7 @@ private slots:
     void aLabelIsNotEditedInPlace();
     void itemsHaveOneSizeWhateverTheirNames();
     void whereNothingIsSelectedTheFirstKeySelects();
+    void theFocusMakesNoCategoryTheCurrentOne();
 };
 
 void CategoriesListTest::theListShowsEveryCategoryInTheOrderOfTheStore()
@@ -338,6 +339,17 @@ void CategoriesListTest::itemsHaveOneSizeWhateverTheirNames()
     for (int row = 0; row < 3; ++row) {
         QCOMPARE(test.list()->visualItemRect(test.list()->item(row)).size(), test.list()->gridSize());
     }
+}
+
+void CategoriesListTest::theFocusMakesNoCategoryTheCurrentOne()
+{
+    PageUnderTest test;
+    test.database.addCategory(QStringLiteral("Work"));
+    test.page->LoadCategories();
+    QVERIFY(test.show());
+    test.page->focusList();
+    QTRY_VERIFY(test.list()->hasFocus());
+    QVERIFY(!test.list()->currentIndex().isValid());
 }
 
 AMBERTASK_TEST_MAIN(CategoriesListTest)

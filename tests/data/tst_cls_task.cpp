@@ -44,6 +44,7 @@ class ClsTaskTest : public TestCase
 private slots:
     void aNewTaskHasNoIdAndNoChangedDate();
     void addingSendsTheFilledTemplate();
+    void addingAnswersTheIdOfTheNewTask();
     void addedFieldsAreReadBackWithoutSeconds();
     void flagsAndMomentsAreStoredPlainly();
     void updatingKeepsPlayedAndDismissed();
@@ -86,6 +87,16 @@ void ClsTaskTest::addingSendsTheFilledTemplate()
             "reminder_date_time,reminder_sound,reminder_file) values('Bob''s call','about "
             "''it''',3,2,#1/31/2007 "
             "09:05#,2,1,#1/30/2007 18:00#,'sounds/ring.wav','/bin/true')")});
+}
+
+void ClsTaskTest::addingAnswersTheIdOfTheNewTask()
+{
+    TestDatabase database;
+    const qint32 first = bobsCall(database).Add();
+    aTask(database).named(QStringLiteral("between")).add();
+    const qint32 second = bobsCall(database).Add();
+    QCOMPARE(database.rows(QStringLiteral("select task_id from tasks where task_name = 'Bob''s call'")),
+        (QList<QVariantList>{{qint64(first)}, {qint64(second)}}));
 }
 
 void ClsTaskTest::addedFieldsAreReadBackWithoutSeconds()

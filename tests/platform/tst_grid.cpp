@@ -263,7 +263,7 @@ private slots:
         QCOMPARE(shown.grid.selectedRow(), -1);
     }
 
-    void whereNothingIsSelectedTheFirstKeySelectsTheRowWithTheFocus_data()
+    void whereNoRowIsCurrentTheFirstKeySelectsTheFirstOrTheLast_data()
     {
         QTest::addColumn<int>("key");
         QTest::addColumn<int>("row");
@@ -274,7 +274,7 @@ private slots:
         QTest::newRow("end") << int(Qt::Key_End) << 2;
     }
 
-    void whereNothingIsSelectedTheFirstKeySelectsTheRowWithTheFocus()
+    void whereNoRowIsCurrentTheFirstKeySelectsTheFirstOrTheLast()
     {
         QFETCH(int, key);
         QFETCH(int, row);
@@ -287,6 +287,58 @@ private slots:
         QCOMPARE(shown.grid.selectedRow(), -1);
         QTest::keyClick(&shown.grid, Qt::Key(key));
         QCOMPARE(shown.grid.selectedRow(), row);
+    }
+
+    void aRowIsGoneToWithoutBeingSelected()
+    {
+        ShownGrid shown;
+        shown.grid.goTo(1);
+        QCOMPARE(shown.grid.currentIndex(), shown.model.index(1, 1));
+        QCOMPARE(shown.grid.selectedRow(), -1);
+    }
+
+    void aRowThatIsGoneToIsScrolledTo()
+    {
+        ShownGrid shown;
+        shown.model.setWords(QStringList(100, QStringLiteral("word")), columns());
+        shown.grid.goTo(60);
+        QVERIFY(shown.grid.viewport()->rect().contains(shown.placeOf(60)));
+    }
+
+    void theKeysGoOnFromTheCurrentRow_data()
+    {
+        QTest::addColumn<int>("from");
+        QTest::addColumn<int>("key");
+        QTest::addColumn<int>("row");
+        QTest::newRow("down") << 1 << int(Qt::Key_Down) << 2;
+        QTest::newRow("up") << 1 << int(Qt::Key_Up) << 0;
+        QTest::newRow("page down") << 1 << int(Qt::Key_PageDown) << 2;
+        QTest::newRow("down from the last") << 2 << int(Qt::Key_Down) << 2;
+        QTest::newRow("up from the first") << 0 << int(Qt::Key_Up) << 0;
+        QTest::newRow("blank") << 1 << int(Qt::Key_Space) << 1;
+    }
+
+    void theKeysGoOnFromTheCurrentRow()
+    {
+        QFETCH(int, from);
+        QFETCH(int, key);
+        QFETCH(int, row);
+        ShownGrid shown;
+        QVERIFY(shown.isActive);
+        shown.grid.goTo(from);
+        QTest::keyClick(&shown.grid, Qt::Key(key));
+        QCOMPARE(shown.grid.selectedRow(), row);
+    }
+
+    void theFocusMakesNoRowTheCurrentOne()
+    {
+        ShownGrid shown;
+        QVERIFY(shown.isActive);
+        shown.grid.clearFocus();
+        shown.model.setWords({QStringLiteral("one"), QStringLiteral("two")}, columns());
+        shown.grid.setFocus(Qt::TabFocusReason);
+        QVERIFY(shown.grid.hasFocus());
+        QVERIFY(!shown.grid.currentIndex().isValid());
     }
 
     void allRowsHaveOneHeight()

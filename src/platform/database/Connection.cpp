@@ -75,6 +75,11 @@ RecordSet Connection::execute(const QString& statement)
     return RecordSet(m_session->start(statement));
 }
 
+qint64 Connection::insertedId() const
+{
+    return m_session == nullptr ? 0 : m_session->insertedId();
+}
+
 void Connection::commit()
 {
     if (m_session == nullptr) {

@@ -37,6 +37,9 @@ public:
     void open(const QString& user = {}, const QString& password = {}, int options = -1);
     /// Runs one statement. A query yields its rows, anything else an empty record set. Throws DatabaseError.
     RecordSet execute(const QString& statement);
+    /// The id of the record that was inserted last on this connection; 0 before the first and when it is not
+    /// open. No statement is sent for it.
+    qint64 insertedId() const;
     /// Makes what was written durable before the close, for callers that go on only when it is. Throws
     /// DatabaseError (Storage), and then nothing of this connection's writing is in the file.
     void commit();

@@ -148,3 +148,22 @@ std::string translateDialect(std::string_view statement)
     translated.append(statement.substr(copied));
     return translated;
 }
+
+bool holdsStatement(std::string_view text)
+{
+    while (!text.empty()) {
+        std::size_t skipped = 0;
+        if (std::string_view(" \t\r\n\f").find(text.front()) != std::string_view::npos) {
+            skipped = 1;
+        } else if (text.substr(0, 2) == "--") {
+            skipped = text.find('\n');
+        } else if (text.substr(0, 2) == "/*") {
+            const std::size_t close = text.find("*/", 2);
+            skipped = close == std::string_view::npos ? close : close + 2;
+        } else {
+            return true;
+        }
+        text.remove_prefix(std::min(skipped, text.size()));
+    }
+    return false;
+}

@@ -10,3 +10,6 @@
 /// out. Throws DatabaseError (Statement) for a malformed or unclosed literal, naming it, and for a zero
 /// character.
 std::string translateDialect(std::string_view statement);
+
+/// Whether anything but white space and comments stands in the text.
+bool holdsStatement(std::string_view text);

@@ -47,25 +47,6 @@ bool comesAfterTheCommit(int extendedCode)
         || extendedCode == SQLITE_IOERR_UNLOCK;
 }
 
-bool holdsStatement(std::string_view text)
-{
-    while (!text.empty()) {
-        std::size_t skipped = 0;
-        if (std::string_view(" \t\r\n\f").find(text.front()) != std::string_view::npos) {
-            skipped = 1;
-        } else if (text.substr(0, 2) == "--") {
-            skipped = text.find('\n');
-        } else if (text.substr(0, 2) == "/*") {
-            const std::size_t close = text.find("*/", 2);
-            skipped = close == std::string_view::npos ? close : close + 2;
-        } else {
-            return true;
-        }
-        text.remove_prefix(std::min(skipped, text.size()));
-    }
-    return false;
-}
-
 /// Pragmas that only tell something, for checking a file before it is taken over.
 bool isReadingPragma(std::string_view name, const char* argument)
 {
@@ -355,6 +336,11 @@ void Session::commit()
         failStorage(tr("The data file \"%1\" could not be written; nothing was stored: %2.")
                         .arg(m_path, reason(code)));
     }
+}
+
+qint64 Session::insertedId() const
+{
+    return sqlite3_last_insert_rowid(m_database);
 }
 
 void Session::undo()

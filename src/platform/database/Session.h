@@ -60,6 +60,8 @@ public:
     void commit();
     /// Ends all cursors, so that none of them holds a lock any more.
     void releaseCursors();
+    /// The id of the record that was inserted last; 0 before the first.
+    qint64 insertedId() const;
     /// A storage error has undone the operation.
     bool isUndone() const { return m_undone; }
 
