@@ -15,8 +15,8 @@ void name(const QMessageBox& box, QMessageBox::StandardButton which, const QStri
     }
 }
 
-QMessageBox::StandardButton show(
-    QWidget* owner, QMessageBox::Icon icon, const QString& text, QMessageBox::StandardButtons buttons)
+QMessageBox::StandardButton show(QWidget* owner, QMessageBox::Icon icon, const QString& text,
+    QMessageBox::StandardButtons buttons, QMessageBox::StandardButton byEnter)
 {
     QMessageBox box(icon, QStringLiteral("Ambertask"), {}, buttons, owner);
     setBoxText(box, text);
@@ -24,6 +24,7 @@ QMessageBox::StandardButton show(
     name(box, QMessageBox::Ok, MessageBoxes::tr("&OK"));
     name(box, QMessageBox::Yes, MessageBoxes::tr("&Yes"));
     name(box, QMessageBox::No, MessageBoxes::tr("&No"));
+    box.setDefaultButton(byEnter);
     // A message has to be seen above a topmost owner.
     if (owner != nullptr && owner->window()->windowFlags().testFlag(Qt::WindowStaysOnTopHint)) {
         box.setWindowFlag(Qt::WindowStaysOnTopHint);
@@ -38,11 +39,12 @@ void ScreenMessageBoxes::tell(QWidget* owner, Icon icon, const QString& text)
     const QMessageBox::Icon picture = icon == Icon::Information ? QMessageBox::Information
         : icon == Icon::Exclamation                             ? QMessageBox::Warning
                                                                 : QMessageBox::NoIcon;
-    show(owner, picture, text, QMessageBox::Ok);
+    show(owner, picture, text, QMessageBox::Ok, QMessageBox::Ok);
 }
 
 bool ScreenMessageBoxes::ask(QWidget* owner, const QString& question)
 {
-    return show(owner, QMessageBox::Question, question, QMessageBox::Yes | QMessageBox::No)
+    // An Enter that is held or meant for another window is not to delete.
+    return show(owner, QMessageBox::Question, question, QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
         == QMessageBox::Yes;
 }

@@ -19,7 +19,7 @@ public:
 
     /// Shows `text` with an OK button and returns when it is closed. `owner` may be null.
     virtual void tell(QWidget* owner, Icon icon, const QString& text) = 0;
-    /// Asks with the question icon and the buttons Yes and No. True only for Yes.
+    /// Asks with the question icon and the buttons Yes and No. True only for Yes; Enter and Escape mean No.
     virtual bool ask(QWidget* owner, const QString& question) = 0;
 };
 

@@ -1,0 +1,53 @@
+#include "platform/MessageBoxes.h"
+#include "support/TestMain.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <functional>
+
+namespace
+{
+
+/// Presses the key in the box that opens next.
+void pressWhenOpen(Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    QTimer::singleShot(0, qApp, [key, modifiers] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        QVERIFY(box != nullptr);
+        QVERIFY(QTest::qWaitForWindowActive(box));
+        QTest::keyClick(box->focusWidget(), key, modifiers);
+    });
+}
+
+bool answerTo(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+{
+    pressWhenOpen(key, modifiers);
+    return ScreenMessageBoxes().ask(nullptr, QStringLiteral("Are you sure?"));
+}
+
+} // namespace
+
+class MessageBoxesTest : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void enterAndEscapeAnswerAQuestionByNo()
+    {
+        QVERIFY(!answerTo(Qt::Key_Return));
+        QVERIFY(!answerTo(Qt::Key_Enter, Qt::KeypadModifier));
+        QVERIFY(!answerTo(Qt::Key_Escape));
+    }
+
+    void theKeyOfYesAnswersAQuestionByYes()
+    {
+        QVERIFY(answerTo(Qt::Key_Y, Qt::AltModifier));
+        QVERIFY(!answerTo(Qt::Key_N, Qt::AltModifier));
+    }
+};
+
+AMBERTASK_TEST_MAIN(MessageBoxesTest)
+#include "tst_messageboxes.moc"
