@@ -79,6 +79,17 @@
     </message>
 </context>
 <context>
+    <name>CategoryInput</name>
+    <message>
+        <source>The changes to the category are not saved.</source>
+        <translation>لم تُحفظ التغييرات في الفئة.</translation>
+    </message>
+    <message>
+        <source>The changes to &apos;%1&apos; are not saved.</source>
+        <translation>لم تُحفظ التغييرات في «%1».</translation>
+    </message>
+</context>
+<context>
     <name>CategoryPictures</name>
     <message>
         <source>Home</source>
@@ -504,6 +515,18 @@
     <message>
         <source>&amp;OK</source>
         <translation>م&amp;وافق</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;حفظ</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;تجاهل</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>إل&amp;غاء</translation>
     </message>
 </context>
 <context>
@@ -1125,6 +1148,14 @@
     <message>
         <source>Please select reminder file.</source>
         <translation>يُرجى اختيار ملف للتذكير.</translation>
+    </message>
+    <message>
+        <source>The changes to the task are not saved.</source>
+        <translation>لم تُحفظ التغييرات في المهمة.</translation>
+    </message>
+    <message>
+        <source>The changes to &apos;%1&apos; are not saved.</source>
+        <translation>لم تُحفظ التغييرات في «%1».</translation>
     </message>
 </context>
 <context>

@@ -79,6 +79,17 @@
     </message>
 </context>
 <context>
+    <name>CategoryInput</name>
+    <message>
+        <source>The changes to the category are not saved.</source>
+        <translation>Die Änderungen an der Kategorie sind nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>The changes to &apos;%1&apos; are not saved.</source>
+        <translation>Die Änderungen an „%1“ sind nicht gespeichert.</translation>
+    </message>
+</context>
+<context>
     <name>CategoryPictures</name>
     <message>
         <source>Home</source>
@@ -488,6 +499,18 @@
     <message>
         <source>&amp;OK</source>
         <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Verwerfen</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -1105,6 +1128,14 @@ ein Fehler auf: %3.</translation>
     <message>
         <source>Please select reminder file.</source>
         <translation>Bitte wählen Sie eine Erinnerungsdatei aus.</translation>
+    </message>
+    <message>
+        <source>The changes to the task are not saved.</source>
+        <translation>Die Änderungen an der Aufgabe sind nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>The changes to &apos;%1&apos; are not saved.</source>
+        <translation>Die Änderungen an „%1“ sind nicht gespeichert.</translation>
     </message>
 </context>
 <context>

@@ -79,6 +79,17 @@
     </message>
 </context>
 <context>
+    <name>CategoryInput</name>
+    <message>
+        <source>The changes to the category are not saved.</source>
+        <translation>Los cambios de la categoría no se han guardado.</translation>
+    </message>
+    <message>
+        <source>The changes to &apos;%1&apos; are not saved.</source>
+        <translation>Los cambios de «%1» no se han guardado.</translation>
+    </message>
+</context>
+<context>
     <name>CategoryPictures</name>
     <message>
         <source>Home</source>
@@ -488,6 +499,18 @@
     <message>
         <source>&amp;OK</source>
         <translation>&amp;Aceptar</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Guardar</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Descartar</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
     </message>
 </context>
 <context>
@@ -1105,6 +1128,14 @@
     <message>
         <source>Please select reminder file.</source>
         <translation>Seleccione un archivo de recordatorio.</translation>
+    </message>
+    <message>
+        <source>The changes to the task are not saved.</source>
+        <translation>Los cambios de la tarea no se han guardado.</translation>
+    </message>
+    <message>
+        <source>The changes to &apos;%1&apos; are not saved.</source>
+        <translation>Los cambios de «%1» no se han guardado.</translation>
     </message>
 </context>
 <context>

@@ -79,6 +79,17 @@
     </message>
 </context>
 <context>
+    <name>CategoryInput</name>
+    <message>
+        <source>The changes to the category are not saved.</source>
+        <translation>Les modifications de la catégorie ne sont pas enregistrées.</translation>
+    </message>
+    <message>
+        <source>The changes to &apos;%1&apos; are not saved.</source>
+        <translation>Les modifications de «&#xa0;%1&#xa0;» ne sont pas enregistrées.</translation>
+    </message>
+</context>
+<context>
     <name>CategoryPictures</name>
     <message>
         <source>Home</source>
@@ -488,6 +499,18 @@
     <message>
         <source>&amp;OK</source>
         <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Ne pas enregistrer</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
     </message>
 </context>
 <context>
@@ -1105,6 +1128,14 @@
     <message>
         <source>Please select reminder file.</source>
         <translation>Veuillez sélectionner un fichier de rappel.</translation>
+    </message>
+    <message>
+        <source>The changes to the task are not saved.</source>
+        <translation>Les modifications de la tâche ne sont pas enregistrées.</translation>
+    </message>
+    <message>
+        <source>The changes to &apos;%1&apos; are not saved.</source>
+        <translation>Les modifications de «&#xa0;%1&#xa0;» ne sont pas enregistrées.</translation>
     </message>
 </context>
 <context>

@@ -79,6 +79,17 @@
     </message>
 </context>
 <context>
+    <name>CategoryInput</name>
+    <message>
+        <source>The changes to the category are not saved.</source>
+        <translation>对类别的更改尚未保存。</translation>
+    </message>
+    <message>
+        <source>The changes to &apos;%1&apos; are not saved.</source>
+        <translation>对“%1”的更改尚未保存。</translation>
+    </message>
+</context>
+<context>
     <name>CategoryPictures</name>
     <message>
         <source>Home</source>
@@ -484,6 +495,18 @@
     <message>
         <source>&amp;OK</source>
         <translation>确定(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>放弃(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>取消(&amp;C)</translation>
     </message>
 </context>
 <context>
@@ -1100,6 +1123,14 @@
     <message>
         <source>Please select reminder file.</source>
         <translation>请选择提醒文件。</translation>
+    </message>
+    <message>
+        <source>The changes to the task are not saved.</source>
+        <translation>对任务的更改尚未保存。</translation>
+    </message>
+    <message>
+        <source>The changes to &apos;%1&apos; are not saved.</source>
+        <translation>对“%1”的更改尚未保存。</translation>
     </message>
 </context>
 <context>

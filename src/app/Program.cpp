@@ -257,6 +257,9 @@ void Program::showAbout()
 void Program::addTask(qint16 category)
 {
     frmTaskDetails& dialog = taskDetails();
+    if (!dialog.letGo()) {
+        return;
+    }
     dialog.EmptyForm();
     if (category != CategoryFilter::All) {
         dialog.selectCategory(category);
@@ -270,6 +273,9 @@ void Program::addTask(qint16 category)
 void Program::editTask(qint16 id)
 {
     frmTaskDetails& dialog = taskDetails();
+    if (!dialog.letGo()) {
+        return;
+    }
     dialog.SetTag(id);
     if (m_settings.always_on_top) {
         makeTopmost(&dialog);
@@ -295,8 +301,10 @@ void Program::openTask(qint16 id)
 {
     // From the alert the dialog is never made topmost.
     frmTaskDetails& dialog = taskDetails();
-    dialog.SetTag(id);
-    showOwned(&dialog, m_alerts.get());
+    if (dialog.letGo()) {
+        dialog.SetTag(id);
+        showOwned(&dialog, m_alerts.get());
+    }
 }
 
 bool Program::isTaskDialogVisible() const

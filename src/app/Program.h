@@ -98,7 +98,7 @@ private:
     void editTask(qint16 id);
     void printTasks(const TaskFilter& filter);
     void onTaskStored();
-    void onTaskSaved();
+    void onTaskSaved(qint32 id);
     void onTaskCancelled();
     void onCategoryStored();
     void onCategorySaved();

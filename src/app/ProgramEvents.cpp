@@ -23,10 +23,11 @@ void Program::onTaskStored()
     }
 }
 
-void Program::onTaskSaved()
+void Program::onTaskSaved(qint32 id)
 {
     bringToFront(m_main.get());
     m_main->LoadTasks();
+    m_main->tasksPage()->goToTask(id);
 }
 
 void Program::onTaskCancelled()

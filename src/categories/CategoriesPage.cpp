@@ -220,9 +220,11 @@ void CategoriesPage::setHelpEnabled(bool enabled)
 void CategoriesPage::btnAddCat_Click()
 {
     frmCategoryDetails& dialog = m_categoryDetails();
-    dialog.clearTag();
-    dialog.EmptyForm();
-    showDialog(dialog);
+    if (dialog.letGo()) {
+        dialog.clearTag();
+        dialog.EmptyForm();
+        showDialog(dialog);
+    }
 }
 
 void CategoriesPage::btnEditCat_Click()
@@ -233,8 +235,10 @@ void CategoriesPage::btnEditCat_Click()
     }
     const QString tag = QString::number(idOf(*item));
     frmCategoryDetails& dialog = m_categoryDetails();
-    dialog.SetTag(tag);
-    showDialog(dialog);
+    if (dialog.letGo()) {
+        dialog.SetTag(tag);
+        showDialog(dialog);
+    }
 }
 
 void CategoriesPage::showDialog(frmCategoryDetails& dialog)

@@ -12,6 +12,7 @@
 #include "ui/CloseBox.h"
 #include "ui/ControlValue.h"
 #include "ui/PictureLabel.h"
+#include "ui/UnsavedInput.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -64,6 +65,19 @@ void frmCategoryDetails::connectControls()
         m_controls.btnCancel, &QPushButton::clicked, this, &frmCategoryDetails::btnCancel_Click, errors);
 }
 
+bool frmCategoryDetails::letGo()
+{
+    const CategoryInput entered = input();
+    return !m_filled || entered == *m_filled
+        || letGoOfInput(m_services, *this, entered.unsavedText(), [this] { return save(); });
+}
+
+CategoryInput frmCategoryDetails::input() const
+{
+    return {m_controls.txtCatName->text(), textOf(*m_controls.txtCatDesc), GetSelectedIcon(),
+        m_controls.opnCustomIcon->isChecked(), m_customIconSource};
+}
+
 void frmCategoryDetails::EmptyForm()
 {
     m_controls.txtCatName->clear();
@@ -75,6 +89,7 @@ void frmCategoryDetails::EmptyForm()
     showCustomPicture({});
     m_customIconSource.clear();
     m_controls.imgCustomIcon->setProperty(PictureTag, QString());
+    noteFilled();
 }
 
 void frmCategoryDetails::SetTag(const QString& tag)
@@ -87,6 +102,7 @@ void frmCategoryDetails::SetTag(const QString& tag)
     m_tag = tag;
     EmptyForm();
     fillFrom(*category);
+    noteFilled();
 }
 
 void frmCategoryDetails::forgetCategory()
@@ -177,8 +193,13 @@ void frmCategoryDetails::btnBrowse_Click()
 
 void frmCategoryDetails::btnOk_Click()
 {
+    save();
+}
+
+bool frmCategoryDetails::save()
+{
     if (refuses()) {
-        return;
+        return false;
     }
     bool isStored = false;
     m_services.longWork.run(
@@ -188,11 +209,12 @@ void frmCategoryDetails::btnOk_Click()
             this, MessageBoxes::Icon::Exclamation, tr("A category with the same name already exists"));
         m_controls.txtCatName->selectAll();
         m_controls.txtCatName->setFocus();
-        return;
+        return false;
     }
     emit categoryStored();
-    hide();
+    leave();
     emit categorySaved();
+    return true;
 }
 
 bool frmCategoryDetails::store() const
@@ -260,8 +282,24 @@ void frmCategoryDetails::requireEditedCategory() const
 
 void frmCategoryDetails::btnCancel_Click()
 {
-    hide();
+    leave();
     emit cancelled();
+}
+
+void frmCategoryDetails::leave()
+{
+    m_filled.reset();
+    hide();
+}
+
+void frmCategoryDetails::Form_Escape()
+{
+    // Pressed by mistake; the button is pressed on purpose.
+    m_services.errors.guard([this] {
+        if (letGo() && isVisible()) {
+            m_controls.btnCancel->click();
+        }
+    });
 }
 
 void frmCategoryDetails::keyPressEvent(QKeyEvent* event)
@@ -270,7 +308,9 @@ void frmCategoryDetails::keyPressEvent(QKeyEvent* event)
     const bool modified =
         event->modifiers().testAnyFlags(Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
     if (event->key() == Qt::Key_Escape && !modified) {
-        m_controls.btnCancel->click();
+        if (!event->isAutoRepeat()) {
+            Form_Escape();
+        }
         return;
     }
     QWidget::keyPressEvent(event);
@@ -293,6 +333,6 @@ void frmCategoryDetails::closeEvent(QCloseEvent* event)
 {
     if (isCloseByUser(*event)) {
         event->ignore();
-        hide();
+        leave();
     }
 }

@@ -1,12 +1,14 @@
 #pragma once
 
 #include "categories/CategoryDetailsControls.h"
+#include "categories/CategoryInput.h"
 #include "categories/CustomIcons.h"
 #include "ui/FormServices.h"
 
 #include <QIcon>
 #include <QWidget>
 #include <functional>
+#include <optional>
 
 class ClsCategory;
 
@@ -22,6 +24,9 @@ public:
     /// without it the system's generator is asked.
     explicit frmCategoryDetails(const FormServices& services, std::function<double()> draw = {});
 
+    /// To be called before the form is filled anew: asks about input that the user has not saved, and saves
+    /// it as OK does when that is the answer. False when the input stays. Throws as OK fails.
+    bool letGo();
     /// Resets every control for a new category; the tag stays.
     void EmptyForm();
     /// Resets the form and fills it with the stored category of that id, to edit it. Throws RuntimeError when
@@ -64,6 +69,14 @@ private:
     QString NewCustomIconName() const;
 
     void connectControls();
+    /// What stands in the form now is none of the user's input.
+    void noteFilled() { m_filled = input(); }
+    CategoryInput input() const;
+    /// False when the category is refused, and that has been told.
+    bool save();
+    /// Hides, and forgets what was not saved.
+    void leave();
+    void Form_Escape();
     void fillFrom(const ClsCategory& category);
     void showCustomPicture(const QIcon& picture);
     /// Tells what is missing and leads there; true when something is.
@@ -85,4 +98,6 @@ private:
     /// Of that file when it was read.
     QString m_customIconKey;
     QIcon m_customPicture;
+    /// None while the form holds nothing that could be lost.
+    std::optional<CategoryInput> m_filled;
 };

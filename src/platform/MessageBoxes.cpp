@@ -24,6 +24,9 @@ QMessageBox::StandardButton show(QWidget* owner, QMessageBox::Icon icon, const Q
     name(box, QMessageBox::Ok, MessageBoxes::tr("&OK"));
     name(box, QMessageBox::Yes, MessageBoxes::tr("&Yes"));
     name(box, QMessageBox::No, MessageBoxes::tr("&No"));
+    name(box, QMessageBox::Save, MessageBoxes::tr("&Save"));
+    name(box, QMessageBox::Discard, MessageBoxes::tr("&Discard"));
+    name(box, QMessageBox::Cancel, MessageBoxes::tr("&Cancel"));
     box.setDefaultButton(byEnter);
     // A message has to be seen above a topmost owner.
     if (owner != nullptr && owner->window()->windowFlags().testFlag(Qt::WindowStaysOnTopHint)) {
@@ -47,4 +50,17 @@ bool ScreenMessageBoxes::ask(QWidget* owner, const QString& question)
     // An Enter that is held or meant for another window is not to delete.
     return show(owner, QMessageBox::Question, question, QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
         == QMessageBox::Yes;
+}
+
+MessageBoxes::Unsaved ScreenMessageBoxes::askAboutUnsaved(QWidget* owner, const QString& text)
+{
+    switch (show(owner, QMessageBox::Question, text,
+        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Cancel)) {
+    case QMessageBox::Save:
+        return Unsaved::Save;
+    case QMessageBox::Discard:
+        return Unsaved::Discard;
+    default:
+        return Unsaved::Keep;
+    }
 }

@@ -11,6 +11,8 @@ class MessageBoxes
 
 public:
     enum class Icon { None, Information, Exclamation };
+    /// What becomes of input that is not saved.
+    enum class Unsaved { Save, Discard, Keep };
 
     MessageBoxes() = default;
     virtual ~MessageBoxes() = default;
@@ -21,6 +23,9 @@ public:
     virtual void tell(QWidget* owner, Icon icon, const QString& text) = 0;
     /// Asks with the question icon and the buttons Yes and No. True only for Yes; Enter and Escape mean No.
     virtual bool ask(QWidget* owner, const QString& question) = 0;
+    /// Tells of input that is not saved, with the buttons Save, Discard and Cancel. Keep, which loses
+    /// nothing, for Cancel, Enter and Escape.
+    virtual Unsaved askAboutUnsaved(QWidget* owner, const QString& text) = 0;
 };
 
 /// The message boxes on the screen.
@@ -29,4 +34,5 @@ class ScreenMessageBoxes final : public MessageBoxes
 public:
     void tell(QWidget* owner, Icon icon, const QString& text) override;
     bool ask(QWidget* owner, const QString& question) override;
+    Unsaved askAboutUnsaved(QWidget* owner, const QString& text) override;
 };

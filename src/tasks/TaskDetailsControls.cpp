@@ -4,6 +4,8 @@
 #include "ui/CheckBox.h"
 #include "ui/ComboBox.h"
 #include "ui/Combos.h"
+#include "ui/ControlValue.h"
+#include "ui/DateComposition.h"
 #include "ui/Pickers.h"
 
 #include <QDateEdit>
@@ -75,6 +77,37 @@ QList<QWidget*> TaskDetailsControls::inTabOrder() const
     return {txtTask, cmbCategories, txtDescription, dtpDueDate, dtpDueTime, cmbStatus, cmbPeriorities,
         chkEnableReminder, dtpReminderDate, dtpReminderTime, chkReminderSound, txtReminderSound,
         btnSoundBrowse, chkReminderFile, txtReminderFile, btnFileBrowse, btnOk, btnCancel};
+}
+
+std::optional<qint16> TaskDetailsControls::selectedCategory() const
+{
+    if (cmbCategories->currentIndex() < 0) {
+        return std::nullopt;
+    }
+    return static_cast<qint16>(cmbCategories->currentData().toInt());
+}
+
+TaskInput TaskDetailsControls::input() const
+{
+    // Enter saves without taking the focus: what is half typed in a picker counts as it would on leaving it.
+    for (QDateTimeEdit* picker :
+        std::initializer_list<QDateTimeEdit*>{dtpDueDate, dtpDueTime, dtpReminderDate, dtpReminderTime}) {
+        picker->interpretText();
+    }
+    TaskInput entered;
+    entered.taskName = txtTask->text();
+    entered.categoryId = selectedCategory();
+    entered.description = textOf(*txtDescription);
+    entered.due = composeMoment(dtpDueDate->date(), dtpDueTime->time());
+    entered.status = selectedNumber(*cmbStatus, TaskStatus::NotStarted);
+    entered.periority = selectedNumber(*cmbPeriorities, TaskPeriority::Normal);
+    entered.reminderOn = chkEnableReminder->isChecked();
+    entered.reminder = composeMoment(dtpReminderDate->date(), dtpReminderTime->time());
+    entered.hasSound = chkReminderSound->isChecked();
+    entered.sound = txtReminderSound->text();
+    entered.hasFile = chkReminderFile->isChecked();
+    entered.file = txtReminderFile->text();
+    return entered;
 }
 
 void TaskDetailsControls::setUp()

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "tasks/TaskInput.h"
+
 #include <QCoreApplication>
 #include <QList>
+#include <optional>
 
 class ComboBox;
 class QCheckBox;
@@ -49,6 +52,9 @@ public:
 
     /// All controls that take the focus, in the order of the Tab key.
     QList<QWidget*> inTabOrder() const;
+    std::optional<qint16> selectedCategory() const;
+    /// What is entered. Text that is half typed into a picker is completed.
+    TaskInput input() const;
 
 private:
     void setUp();

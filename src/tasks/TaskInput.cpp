@@ -34,6 +34,24 @@ QString descriptionOf(const QString& text)
 
 } // namespace
 
+QString TaskInput::unsavedText(const TaskInput& filled) const
+{
+    const QString name = nameOf(isBlank(taskName) ? filled.taskName : taskName);
+    return name.isEmpty() ? tr("The changes to the task are not saved.")
+                          : tr("The changes to '%1' are not saved.").arg(name);
+}
+
+void TaskInput::followReminder(EditedTask& edited, const ClsTask& stored)
+{
+    if (reminder != edited.reminder) {
+        return;
+    }
+    if (reminderOn == edited.reminderOn) {
+        reminderOn = stored.ReminderOn();
+    }
+    reminder = edited.reminder = stored.reminderDateTime();
+}
+
 bool TaskInput::reminderMustLieAhead(const std::optional<EditedTask>& edited) const
 {
     return !edited || reminder != edited->reminder || !edited->reminderOn;

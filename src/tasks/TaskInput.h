@@ -37,6 +37,14 @@ struct TaskInput {
     bool hasFile = false;
     QString file;
 
+    bool operator==(const TaskInput&) const = default;
+
+    /// What is told before this input is given up; `filled` is what the user found in the dialog.
+    QString unsavedText(const TaskInput& filled) const;
+    /// Where the user has left the reminder as it was loaded, what the alert has done to the stored one since
+    /// is taken over, in `edited` too: it is no change of the user's.
+    void followReminder(EditedTask& edited, const ClsTask& stored);
+
     /// The first objection to this input, if any. `edited` is none for a new task.
     std::optional<Refusal> refusal(const std::optional<EditedTask>& edited, Moment now) const;
 

@@ -11,8 +11,8 @@
 #include "ui/ComboBox.h"
 #include "ui/Combos.h"
 #include "ui/ControlValue.h"
-#include "ui/DateComposition.h"
 #include "ui/Pickers.h"
+#include "ui/UnsavedInput.h"
 #include "ui/clsGuiLoader.h"
 
 #include <QCheckBox>
@@ -98,6 +98,16 @@ void frmTaskDetails::connectControls()
     }
 }
 
+bool frmTaskDetails::letGo()
+{
+    if (!m_filled) {
+        return true;
+    }
+    const TaskInput entered = m_controls.input();
+    return entered == *m_filled
+        || letGoOfInput(m_services, *this, entered.unsavedText(*m_filled), [this] { return save(); });
+}
+
 void frmTaskDetails::EmptyForm()
 {
     const Moment now = m_services.clock.now();
@@ -115,6 +125,7 @@ void frmTaskDetails::EmptyForm()
     m_tag.clear();
     m_loadedReminderOn = false;
     m_loadedReminder = {};
+    noteFilled();
 }
 
 void frmTaskDetails::SetTag(qint16 Id)
@@ -146,16 +157,23 @@ void frmTaskDetails::fillFrom(const ClsTask& task)
     // After the click, which has copied the due moment over the reminder.
     m_loadedReminder = task.reminderDateTime();
     setPickers(*m_controls.dtpReminderDate, *m_controls.dtpReminderTime, toMinute(m_loadedReminder));
+    noteFilled();
 }
 
 void frmTaskDetails::selectCategory(qint16 id)
 {
     selectNumber(*m_controls.cmbCategories, id);
+    noteFilled();
 }
 
 void frmTaskDetails::reloadCategories()
 {
+    const std::optional<qint16> before = m_controls.selectedCategory();
     clsGuiLoader(m_services.engine).reloadCategoriesComboWithoutAll(*m_controls.cmbCategories);
+    // A category that is gone was not taken away by the user.
+    if (m_filled && m_filled->categoryId == before) {
+        m_filled->categoryId = m_controls.selectedCategory();
+    }
 }
 
 void frmTaskDetails::enableReminderControls()
@@ -216,48 +234,35 @@ void frmTaskDetails::btnSoundBrowse_Click()
 
 void frmTaskDetails::btnOk_Click()
 {
-    const TaskInput entered = input();
+    save();
+}
+
+bool frmTaskDetails::save()
+{
+    const TaskInput entered = m_controls.input();
     if (const auto refusal = entered.refusal(edited(), m_services.clock.now())) {
         m_services.messages.tell(this, MessageBoxes::Icon::Exclamation, refusal->message);
         controlOf(refusal->field)->setFocus();
-        return;
+        return false;
     }
-    m_services.longWork.run(tr("Saving the task..."), LongWork::Kind::Storing,
-        [&] { store(entered.toTask(m_services.engine, edited())); });
+    qint32 id = 0;
+    m_services.longWork.run(tr("Saving the task..."), LongWork::Kind::Storing, [&] { id = store(entered); });
     emit taskStored();
-    hide();
-    emit taskSaved();
+    leave();
+    emit taskSaved(id);
+    return true;
 }
 
 void frmTaskDetails::btnCancel_Click()
 {
-    hide();
+    leave();
     emit cancelled();
 }
 
-TaskInput frmTaskDetails::input()
+void frmTaskDetails::leave()
 {
-    // Enter saves without taking the focus: what is half typed in a picker counts as it would on leaving it.
-    for (QDateTimeEdit* picker : std::initializer_list<QDateTimeEdit*>{m_controls.dtpDueDate,
-             m_controls.dtpDueTime, m_controls.dtpReminderDate, m_controls.dtpReminderTime}) {
-        picker->interpretText();
-    }
-    TaskInput entered;
-    entered.taskName = m_controls.txtTask->text();
-    if (m_controls.cmbCategories->currentIndex() >= 0) {
-        entered.categoryId = static_cast<qint16>(m_controls.cmbCategories->currentData().toInt());
-    }
-    entered.description = textOf(*m_controls.txtDescription);
-    entered.due = composeMoment(m_controls.dtpDueDate->date(), m_controls.dtpDueTime->time());
-    entered.status = selectedNumber(*m_controls.cmbStatus, TaskStatus::NotStarted);
-    entered.periority = selectedNumber(*m_controls.cmbPeriorities, TaskPeriority::Normal);
-    entered.reminderOn = m_controls.chkEnableReminder->isChecked();
-    entered.reminder = composeMoment(m_controls.dtpReminderDate->date(), m_controls.dtpReminderTime->time());
-    entered.hasSound = m_controls.chkReminderSound->isChecked();
-    entered.sound = m_controls.txtReminderSound->text();
-    entered.hasFile = m_controls.chkReminderFile->isChecked();
-    entered.file = m_controls.txtReminderFile->text();
-    return entered;
+    m_filled.reset();
+    hide();
 }
 
 std::optional<EditedTask> frmTaskDetails::edited() const
@@ -268,17 +273,21 @@ std::optional<EditedTask> frmTaskDetails::edited() const
     return EditedTask{m_tag.toInt(), m_loadedReminderOn, m_loadedReminder};
 }
 
-void frmTaskDetails::store(const ClsTask& task) const
+qint32 frmTaskDetails::store(TaskInput entered) const
 {
-    if (m_tag.isEmpty()) {
-        task.Add();
-        return;
+    const DatabaseEngine& engine = m_services.engine;
+    std::optional<EditedTask> task = edited();
+    if (!task) {
+        return entered.toTask(engine, task).Add();
     }
-    // An update of a task that is gone writes nothing and would lose the input unnoticed.
-    if (!task.GetTaskById(static_cast<qint16>(task.Id()))) {
+    const std::optional<ClsTask> stored = ClsTask(engine).GetTaskById(static_cast<qint16>(task->id));
+    if (!stored) {
+        // An update would write nothing and lose the input unnoticed.
         throw RuntimeError(tr("The task no longer exists."));
     }
-    task.Update();
+    entered.followReminder(*task, *stored);
+    entered.toTask(engine, task).Update();
+    return task->id;
 }
 
 QWidget* frmTaskDetails::controlOf(TaskField field) const
@@ -305,7 +314,9 @@ bool frmTaskDetails::Form_KeyPress(const QKeyEvent& event)
         return false;
     }
     if (event.key() == Qt::Key_Escape) {
-        m_controls.btnCancel->click();
+        if (!event.isAutoRepeat()) {
+            Form_Escape();
+        }
         return true;
     }
     const bool isEnter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
@@ -316,6 +327,16 @@ bool frmTaskDetails::Form_KeyPress(const QKeyEvent& event)
         return true;
     }
     return false;
+}
+
+void frmTaskDetails::Form_Escape()
+{
+    // Pressed by mistake, or for a list that was closed already; the button is pressed on purpose.
+    m_services.errors.guard([this] {
+        if (letGo() && isVisible()) {
+            m_controls.btnCancel->click();
+        }
+    });
 }
 
 bool frmTaskDetails::eventFilter(QObject* watched, QEvent* event)
@@ -345,6 +366,6 @@ void frmTaskDetails::closeEvent(QCloseEvent* event)
 {
     if (isCloseByUser(*event)) {
         event->ignore();
-        hide();
+        leave();
     }
 }

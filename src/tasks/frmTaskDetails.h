@@ -18,6 +18,9 @@ public:
     /// Fills the lists. `services` and `host` outlive the form. Throws DatabaseError.
     frmTaskDetails(const FormServices& services, const TaskDetailsHost& host);
 
+    /// To be called before the form is filled anew: asks about input that the user has not saved, and saves
+    /// it as OK does when that is the answer. False when the input stays. Throws DatabaseError.
+    bool letGo();
     /// Gets ready for a new task: every control at its default, no category selected, the tag empty.
     void EmptyForm();
     /// Loads the stored task of that id for editing. Throws RuntimeError when there is no such task and
@@ -37,8 +40,8 @@ public:
 signals:
     /// The task has been written: what is due may have changed. The dialog still shows.
     void taskStored();
-    /// The task has been written and the dialog is hidden.
-    void taskSaved();
+    /// The task of that id has been written and the dialog is hidden.
+    void taskSaved(qint32 id);
     /// The user gave up and the dialog is hidden. Not sent for the close box.
     void cancelled();
 
@@ -52,6 +55,8 @@ private:
     void loadCombos();
     void connectControls();
     void fillFrom(const ClsTask& task);
+    /// What stands in the form now is none of the user's input.
+    void noteFilled() { m_filled = m_controls.input(); }
 
     void chkEnableReminder_Click();
     void btnSoundBrowse_Click();
@@ -60,12 +65,17 @@ private:
     void btnCancel_Click();
     /// True when the key is the form's own and goes no further.
     bool Form_KeyPress(const QKeyEvent& event);
+    void Form_Escape();
 
+    /// False when something is missing, and has been told.
+    bool save();
+    /// Hides, and forgets what was not saved.
+    void leave();
     void enableReminderControls();
-    TaskInput input();
     /// None for a new task.
     std::optional<EditedTask> edited() const;
-    void store(const ClsTask& task) const;
+    /// Answers the id of the stored task.
+    qint32 store(TaskInput entered) const;
     QWidget* controlOf(TaskField field) const;
 
     const FormServices& m_services;
@@ -74,4 +84,6 @@ private:
     QString m_tag;
     bool m_loadedReminderOn = false;
     Moment m_loadedReminder{};
+    /// None while the form holds nothing that could be lost.
+    std::optional<TaskInput> m_filled;
 };

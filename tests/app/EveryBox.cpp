@@ -132,6 +132,10 @@ void visitEveryBox(QWidget& owner, const Visit& visit)
                            "will be deleted?")
                 .arg(QString(250, u'w')));
     });
+    visitOpened(QStringLiteral("question about unsaved input"), visit, [&] {
+        boxes.askAboutUnsaved(
+            &owner, QStringLiteral("The changes to '%1' are not saved.").arg(QString(250, u'w')));
+    });
     visitOpened(QStringLiteral("message without a picture"), visit,
         [&] { boxes.tell(&owner, MessageBoxes::Icon::None, text); });
     visitOpened(QStringLiteral("information"), visit,
@@ -188,6 +192,7 @@ void visitPopUps(SkinnedProgram& f, const Visit& visit)
     name->setText(QStringLiteral("Call back"));
     const std::unique_ptr<QMenu> edits(name->createStandardContextMenu());
     visitMenu(edits.get(), QStringLiteral("menu of a line"), visit);
+    name->clear();
     task.hide();
     f.press(f.main(), "btnAddCat");
     const std::unique_ptr<QMenu> lines(

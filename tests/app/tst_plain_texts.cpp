@@ -316,13 +316,15 @@ private slots:
         boxes.tell(nullptr, MessageBoxes::Icon::Exclamation, Planted);
         lookWhileOpen();
         boxes.ask(nullptr, Planted);
+        lookWhileOpen();
+        boxes.askAboutUnsaved(nullptr, Planted);
         ScreenErrorReport errors([] {});
         lookWhileOpen();
         errors.report(Planted);
         lookWhileOpen();
         ScreenErrorReport::reportFailedStart(Planted);
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
-        QCOMPARE(texts, QStringList(4, Planted));
+        QCOMPARE(texts, QStringList(5, Planted));
     }
 };
 

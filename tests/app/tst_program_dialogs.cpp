@@ -106,6 +106,106 @@ private slots:
         QCOMPARE(f.grid(f.main())->model()->rowCount(), 2);
     }
 
+    void aTaskThatIsAddedOrEditedIsTheCurrentRow()
+    {
+        ProgramFixture f;
+        for (const char* name : {"a", "c", "d"}) {
+            aTask(f.database).named(QLatin1String(name)).add();
+        }
+        f.start();
+        auto* sort = f.control<QComboBox>(f.main(), "cmbSort");
+        sort->setCurrentIndex(1);
+        emit sort->activated(1);
+        f.press(f.main(), "btnTaskAdd");
+        frmTaskDetails& dialog = f.program.taskDetails();
+        f.control<QLineEdit>(dialog, "txtTask")->setText(QStringLiteral("b"));
+        f.control<QComboBox>(dialog, "cmbCategories")->setCurrentIndex(0);
+        f.press(dialog, "btnOk");
+        QCOMPARE(f.grid(f.main())->currentIndex().row(), 1);
+        QCOMPARE(f.grid(f.main())->selectedRow(), -1);
+        QTest::keyClick(f.grid(f.main()), Qt::Key_Down);
+        QCOMPARE(f.grid(f.main())->selectedRow(), 2);
+        f.press(f.main(), "btnTaskEdit");
+        f.control<QLineEdit>(dialog, "txtTask")->setText(QStringLiteral("e"));
+        f.press(dialog, "btnOk");
+        QCOMPARE(f.grid(f.main())->currentIndex().row(), 3);
+        QTest::keyClick(f.grid(f.main()), Qt::Key_Up);
+        QCOMPARE(f.grid(f.main())->selectedRow(), 2);
+    }
+
+    void unsavedInputIsAskedAboutBeforeTheDialogIsFilledAnew_data()
+    {
+        QTest::addColumn<QString>("request");
+        QTest::newRow("add") << QStringLiteral("btnTaskAdd");
+        QTest::newRow("edit") << QStringLiteral("btnTaskEdit");
+        QTest::newRow("open item") << QStringLiteral("btnOpenItem");
+    }
+
+    void unsavedInputIsAskedAboutBeforeTheDialogIsFilledAnew()
+    {
+        QFETCH(QString, request);
+        ProgramFixture f;
+        aTask(f.database).named(QStringLiteral("call")).remindingAt(f.database.clock().now() - 1min).add();
+        f.start();
+        f.program.loadDialogs();
+        QWidget& from =
+            request == QLatin1String("btnOpenItem") ? static_cast<QWidget&>(f.program.alerts()) : f.main();
+        const QByteArray button = request.toLatin1();
+        f.grid(f.main())->selectOnly(0);
+        f.press(f.main(), "btnTaskAdd");
+        frmTaskDetails& dialog = f.program.taskDetails();
+        auto* name = f.control<QLineEdit>(dialog, "txtTask");
+        name->setText(QStringLiteral("half"));
+        const QString text = QStringLiteral("The changes to 'half' are not saved.");
+        f.dialogs.expectUnsaved(text, MessageBoxes::Unsaved::Keep);
+        f.press(from, button);
+        QCOMPARE(name->text(), QStringLiteral("half"));
+        QVERIFY(dialog.isVisible());
+        f.dialogs.expectUnsaved(text, MessageBoxes::Unsaved::Discard);
+        f.press(from, button);
+        QCOMPARE(name->text(), request == QLatin1String("btnTaskAdd") ? QString() : QStringLiteral("call"));
+        QVERIFY(dialog.isVisible());
+        f.press(from, button);
+        QVERIFY(f.dialogs.allUsed());
+    }
+
+    void whatIsSavedBeforeTheDialogIsFilledAnewIsInTheList()
+    {
+        ProgramFixture f;
+        aTask(f.database).named(QStringLiteral("call")).add();
+        f.start();
+        f.grid(f.main())->selectOnly(0);
+        f.press(f.main(), "btnTaskAdd");
+        frmTaskDetails& dialog = f.program.taskDetails();
+        f.control<QLineEdit>(dialog, "txtTask")->setText(QStringLiteral("new"));
+        f.control<QComboBox>(dialog, "cmbCategories")->setCurrentIndex(0);
+        f.dialogs.expectUnsaved(
+            QStringLiteral("The changes to 'new' are not saved."), MessageBoxes::Unsaved::Save);
+        f.press(f.main(), "btnTaskEdit");
+        QCOMPARE(f.grid(f.main())->model()->rowCount(), 2);
+        QVERIFY(dialog.isVisible());
+        QCOMPARE(f.control<QLineEdit>(dialog, "txtTask")->text(), QStringLiteral("call"));
+    }
+
+    void inputThatWentWithTheMainWindowIsNotLost()
+    {
+        ProgramFixture f;
+        f.start();
+        f.press(f.main(), "btnTaskAdd");
+        frmTaskDetails& dialog = f.program.taskDetails();
+        auto* name = f.control<QLineEdit>(dialog, "txtTask");
+        name->setText(QStringLiteral("half"));
+        f.menu("mnuShow")->trigger();
+        QVERIFY(!dialog.isVisible());
+        f.menu("mnuShow")->trigger();
+        QVERIFY(!dialog.isVisible());
+        f.dialogs.expectUnsaved(
+            QStringLiteral("The changes to 'half' are not saved."), MessageBoxes::Unsaved::Keep);
+        f.press(f.main(), "btnTaskAdd");
+        QVERIFY(dialog.isVisible());
+        QCOMPARE(name->text(), QStringLiteral("half"));
+    }
+
     void theTypicalEventRunsFromStartToEnd()
     {
         ProgramFixture f;

@@ -22,6 +22,8 @@ private slots:
     void theButtonsDoNothingOnAnEmptyList();
     void editingACategoryThatIsGoneIsReported();
     void aCategoryThatIsGoneLeavesTheOpenDialogAlone();
+    void unsavedInputIsAskedAboutBeforeTheDialogIsFilledAnew_data();
+    void unsavedInputIsAskedAboutBeforeTheDialogIsFilledAnew();
     void withoutADataFileEditIsReported();
     void openingThePageSelectsTheFirstOfSeveral();
     void openingThePageLeavesASingleItemAlone();
@@ -152,10 +154,46 @@ void CategoriesButtonsTest::aCategoryThatIsGoneLeavesTheOpenDialogAlone()
     test.press("btnAddCat");
     auto* name = test.dialog->findChild<QLineEdit*>(QStringLiteral("txtCatName"));
     QTest::keyClicks(name, QStringLiteral("half written"));
+    test.dialogs.expectUnsaved(
+        QStringLiteral("The changes to 'half written' are not saved."), MessageBoxes::Unsaved::Discard);
     test.dialogs.expectError(QStringLiteral("no longer exists"));
     test.press("btnEditCat");
     QCOMPARE(name->text(), QStringLiteral("half written"));
     QVERIFY(test.dialog->tag().isEmpty());
+}
+
+void CategoriesButtonsTest::unsavedInputIsAskedAboutBeforeTheDialogIsFilledAnew_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::newRow("add") << QStringLiteral("btnAddCat");
+    QTest::newRow("edit") << QStringLiteral("btnEditCat");
+}
+
+void CategoriesButtonsTest::unsavedInputIsAskedAboutBeforeTheDialogIsFilledAnew()
+{
+    QFETCH(QString, button);
+    PageUnderTest test;
+    test.database.addCategory(QStringLiteral("Work"));
+    test.page->LoadCategories();
+    QVERIFY(test.show());
+    test.press("btnAddCat");
+    auto* name = test.dialog->findChild<QLineEdit*>(QStringLiteral("txtCatName"));
+    name->setText(QStringLiteral("Garden"));
+    const QString text = QStringLiteral("The changes to 'Garden' are not saved.");
+    test.select(0);
+    test.dialogs.expectUnsaved(text, MessageBoxes::Unsaved::Keep);
+    test.press(button.toLatin1());
+    QCOMPARE(name->text(), QStringLiteral("Garden"));
+    QVERIFY(test.dialog->tag().isEmpty());
+    test.dialogs.expectUnsaved(text, MessageBoxes::Unsaved::Save);
+    test.press(button.toLatin1());
+    QCOMPARE(test.database.sql(QStringLiteral("select group_concat(cat_name) from categories")).toString(),
+        QStringLiteral("Work,Garden"));
+    QVERIFY(test.dialog->isVisible());
+    const bool edits = button == QLatin1String("btnEditCat");
+    QCOMPARE(name->text(), edits ? QStringLiteral("Work") : QString());
+    QCOMPARE(test.dialog->tag().isEmpty(), !edits);
+    test.press(button.toLatin1());
 }
 
 void CategoriesButtonsTest::withoutADataFileEditIsReported()

@@ -244,6 +244,10 @@ void CategoryDialogFormTest::escapeAnywhereCancels()
     if (control == QLatin1String("btnBrowse")) {
         test.choose(test.customIcon());
     }
+    if (control == QLatin1String("btnBrowse")) {
+        test.dialogs.expectUnsaved(
+            QStringLiteral("The changes to the category are not saved."), MessageBoxes::Unsaved::Discard);
+    }
     const QSignalSpy cancelled(&test.dialog, &frmCategoryDetails::cancelled);
     auto* widget = test.find<QWidget>(control);
     widget->setFocus();

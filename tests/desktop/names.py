@@ -19,6 +19,8 @@ OK = ("button", "OK")
 CANCEL = ("button", "Cancel")
 YES = ("button", "Yes")
 NO = ("button", "No")
+SAVE = ("button", "Save")
+DISCARD = ("button", "Discard")
 SAVE_SETTINGS = ("button", "Save Settings")
 ON_TOP = ("check box", "Always on top")
 SHOW_BALLOON = ("check box", "Show tray balloon when closed")
@@ -78,6 +80,7 @@ DELETE_QUESTION = "Are you sure you want to delete this task?"
 NO_CATEGORY = "Please select category."
 NO_CATEGORY_NAME = "Please enter category name."
 CATEGORY_EXISTS = "A category with the same name already exists"
+CATEGORY_NOT_SAVED = "The changes to the category are not saved."
 NO_TASKS = "There is no tasks according to the selected criteria!"
 SKIN_ADDED = "The new skin is now available in the skins list."
 
@@ -89,6 +92,10 @@ def alert_title(count):
 def icon(index):
     """The built-in category icon of that stored number."""
     return "option", f"Icon {index + 1} of 12"
+
+
+def not_saved(name):
+    return f"The changes to '{name}' are not saved."
 
 
 def delete_category_question(name):

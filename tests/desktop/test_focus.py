@@ -49,6 +49,7 @@ class MainGridTest(FocusCase):
         dialog = self.user.open_new_task()
         self.user.type_into(dialog, names.TASK_NAME, "never saved")
         self.desk.input.key("Escape")
+        self.user.answer(names.not_saved("never saved"), names.DISCARD)
         self.user.wait_hidden(names.TASK_DIALOG)
         self.wait_grid_focus(names.MAIN)
         self.assertIsNone(self.store.task_named("never saved"))
@@ -92,6 +93,20 @@ class MainGridTest(FocusCase):
         self.user.wait_active(names.TASK_DIALOG)
         wait_until(lambda: self.user.dialog().find(*names.TASK_NAME).text == "Beta", "the task is loaded")
 
+    def test_the_keys_go_on_from_the_task_that_was_edited(self):
+        self.store.add_task("Gamma")
+        self.user.select_row("Beta")
+        self.desk.input.key("Return")
+        self.user.wait_active(names.TASK_DIALOG)
+        self.user.type_into(self.user.dialog(), names.TASK_NAME, "Delta")
+        self.desk.input.key("Return")
+        self.user.wait_hidden(names.TASK_DIALOG)
+        self.user.wait_rows(["Alpha", "Delta", "Gamma"])
+        self.wait_grid_focus(names.MAIN)
+        self.assertEqual(self.user.grid().selected_rows(), [])
+        self.desk.input.key("Down")
+        wait_until(lambda: self.user.grid().selected_rows() == [2], "the next row is selected")
+
     def test_a_double_click_on_a_row_opens_it(self):
         self.desk.input.double_click(*self.user.row_place("Alpha"))
         self.user.wait_active(names.TASK_DIALOG)
@@ -103,6 +118,18 @@ class MainGridTest(FocusCase):
         box = self.user.access.message_box(names.DELETE_QUESTION)
         self.user.click_control(box, names.NO)
         self.user.wait_active(names.MAIN)
+        self.user.wait_rows(["Alpha", "Beta"])
+        self.assertEqual(len(self.store.tasks()), 2)
+
+    def test_enter_and_escape_in_the_question_delete_nothing(self):
+        self.user.select_row("Alpha")
+        for key in "Return", "KP_Enter", "Escape":
+            self.desk.input.key("Delete")
+            box = self.user.access.message_box(names.DELETE_QUESTION)
+            wait_until(lambda no=box.find(*names.NO): no.has("focused"), "No is the default")
+            self.desk.input.key(key)
+            wait_until(lambda closed=box: closed not in self.user.access.windows(), "the question closes")
+            self.wait_grid_focus(names.MAIN)
         self.user.wait_rows(["Alpha", "Beta"])
         self.assertEqual(len(self.store.tasks()), 2)
 

@@ -11,6 +11,8 @@
 namespace
 {
 
+using Unsaved = MessageBoxes::Unsaved;
+
 /// Presses the key in the box that opens next.
 void pressWhenOpen(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
@@ -26,6 +28,12 @@ bool answerTo(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
 {
     pressWhenOpen(key, modifiers);
     return ScreenMessageBoxes().ask(nullptr, QStringLiteral("Are you sure?"));
+}
+
+Unsaved choiceBy(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+{
+    pressWhenOpen(key, modifiers);
+    return ScreenMessageBoxes().askAboutUnsaved(nullptr, QStringLiteral("The changes are not saved."));
 }
 
 } // namespace
@@ -46,6 +54,25 @@ private slots:
     {
         QVERIFY(answerTo(Qt::Key_Y, Qt::AltModifier));
         QVERIFY(!answerTo(Qt::Key_N, Qt::AltModifier));
+    }
+
+    void enterAndEscapeKeepUnsavedInput()
+    {
+        QCOMPARE(choiceBy(Qt::Key_Return), Unsaved::Keep);
+        QCOMPARE(choiceBy(Qt::Key_Escape), Unsaved::Keep);
+        QCOMPARE(choiceBy(Qt::Key_C, Qt::AltModifier), Unsaved::Keep);
+    }
+
+    void unsavedInputIsSavedAndDiscardedByTheirKeys()
+    {
+        QCOMPARE(choiceBy(Qt::Key_S, Qt::AltModifier), Unsaved::Save);
+        QCOMPARE(choiceBy(Qt::Key_D, Qt::AltModifier), Unsaved::Discard);
+    }
+
+    void aBoxThatEndsWithItsProgramKeepsUnsavedInput()
+    {
+        QTimer::singleShot(0, qApp, [] { QApplication::activeModalWidget()->close(); });
+        QCOMPARE(ScreenMessageBoxes().askAboutUnsaved(nullptr, QStringLiteral("Text")), Unsaved::Keep);
     }
 };
 

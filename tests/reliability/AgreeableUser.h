@@ -17,6 +17,11 @@ public:
         asked.append(question);
         return true;
     }
+    Unsaved askAboutUnsaved(QWidget* /*owner*/, const QString& text) override
+    {
+        asked.append(text);
+        return Unsaved::Save;
+    }
     QString open(QWidget* /*owner*/, const FileDialogRequest& /*request*/) override { return file; }
     QString save(QWidget* /*owner*/, const FileDialogRequest& /*request*/) override { return file; }
     void report(const QString& text) override { errors.append(text); }

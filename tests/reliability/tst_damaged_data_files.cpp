@@ -122,6 +122,7 @@ class CountedBoxes final : public MessageBoxes, public ErrorReport
 public:
     void tell(QWidget*, Icon, const QString&) override { ++shown; }
     bool ask(QWidget*, const QString&) override { return false; }
+    Unsaved askAboutUnsaved(QWidget*, const QString&) override { return Unsaved::Keep; }
     void report(const QString&) override { ++shown; }
     int shown = 0;
 };

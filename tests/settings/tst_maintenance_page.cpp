@@ -254,6 +254,7 @@ public:
         m_meddle();
         return true;
     }
+    Unsaved askAboutUnsaved(QWidget*, const QString&) override { return Unsaved::Keep; }
 
 private:
     std::function<void()> m_meddle;

@@ -55,6 +55,7 @@ public:
         ++told;
     }
     bool ask(QWidget* /*owner*/, const QString& /*question*/) override { return false; }
+    Unsaved askAboutUnsaved(QWidget* /*owner*/, const QString& /*text*/) override { return Unsaved::Keep; }
 
     int told = 0;
     int mostOpen = 0;

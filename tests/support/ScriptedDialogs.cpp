@@ -34,6 +34,11 @@ void ScriptedDialogs::expectAsk(const QString& question, bool yes)
     m_expected.enqueue({Kind::Ask, question, Icon::None, yes, {}});
 }
 
+void ScriptedDialogs::expectUnsaved(const QString& text, Unsaved answer)
+{
+    m_expected.enqueue({Kind::AskAboutUnsaved, text, Icon::None, false, {}, answer});
+}
+
 void ScriptedDialogs::expectOpen(
     const QString& answer, std::function<void(const FileDialogRequest&)> whileOpen)
 {
@@ -81,6 +86,15 @@ bool ScriptedDialogs::ask(QWidget* /*owner*/, const QString& question)
         fail(QStringLiteral("the question \"%1\" is not the announced \"%2\"").arg(question, expected.text));
     }
     return expected.yes;
+}
+
+MessageBoxes::Unsaved ScriptedDialogs::askAboutUnsaved(QWidget* /*owner*/, const QString& text)
+{
+    Expectation expected;
+    if (take(Kind::AskAboutUnsaved, text, expected) && expected.text != text) {
+        fail(QStringLiteral("\"%1\" is not the announced \"%2\"").arg(text, expected.text));
+    }
+    return expected.unsaved;
 }
 
 QString ScriptedDialogs::open(QWidget* /*owner*/, const FileDialogRequest& request)

@@ -229,6 +229,8 @@ void TestTaskDetailsKeys::escapeCancelsFromEveryControl()
     dialog.click("chkReminderFile");
     dialog.form->findChild<QWidget*>(name)->setFocus();
     QCOMPARE(dialog.focused(), name);
+    dialog.services.dialogs.expectUnsaved(
+        QStringLiteral("The changes to 'task' are not saved."), MessageBoxes::Unsaved::Discard);
     dialog.press(Qt::Key_Escape);
     QCOMPARE(dialog.facts, QStringList("cancelled hidden"));
     QCOMPARE(dialog.services.database.statements().take(), QStringList());

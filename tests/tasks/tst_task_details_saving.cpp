@@ -44,6 +44,9 @@ private slots:
     void changingTheReminderMinuteArmsTheAlertAgain();
     void changingTheNameLeavesTheAlertSilent();
     void switchingTheReminderOnLeavesTheAlertSilent();
+    void whatTheAlertPostponedMeanwhileStaysPostponed();
+    void whatTheAlertDismissedMeanwhileStaysDismissed();
+    void aReminderThatTheUserMovesRingsAgainWhateverTheAlertDidMeanwhile();
     void theFactsComeInTheirOrder();
     void aSavedTaskCanBeFollowedByAnother();
 };
@@ -289,6 +292,57 @@ void TestTaskDetailsSaving::switchingTheReminderOnLeavesTheAlertSilent()
     dialog.click("btnOk");
     QCOMPARE(dialog.stored(QStringLiteral("reminder_on")).toInt(), 1);
     QCOMPARE(dialog.stored(QStringLiteral("played + dismissed")).toInt(), 2);
+}
+
+void TestTaskDetailsSaving::whatTheAlertPostponedMeanwhileStaysPostponed()
+{
+    TaskDialog dialog;
+    const qint32 id =
+        aTask(dialog.services.database).dueAt(fromStart(2h)).remindingAt(fromStart(-1min)).played().add();
+    dialog.form->SetTag(static_cast<qint16>(id));
+    dialog.show();
+    dialog.services.database.sql(
+        QStringLiteral("update tasks set played=0,reminder_date_time='2026-01-15 11:30:00'"));
+    dialog.setText("txtTask", QStringLiteral("renamed"));
+    dialog.services.database.statements().take();
+    dialog.click("btnOk");
+    QCOMPARE(dialog.services.database.statements().take(),
+        QStringList({selectById(id),
+            QStringLiteral("update tasks set task_name='renamed',task_desc='',task_status=0,cat_id=1,"
+                           "task_due_date=#1/15/2026 12:00#,task_periority=1,reminder_on=1,"
+                           "reminder_date_time=#1/15/2026 11:30#,reminder_sound='',reminder_file='' "
+                           "where task_id = %1")
+                .arg(id)}));
+}
+
+void TestTaskDetailsSaving::whatTheAlertDismissedMeanwhileStaysDismissed()
+{
+    TaskDialog dialog;
+    const qint32 id =
+        aTask(dialog.services.database).dueAt(fromStart(2h)).remindingAt(fromStart(-1min)).played().add();
+    dialog.form->SetTag(static_cast<qint16>(id));
+    dialog.show();
+    dialog.services.database.sql(QStringLiteral("update tasks set dismissed=1,reminder_on=0"));
+    dialog.setText("txtTask", QStringLiteral("renamed"));
+    dialog.click("btnOk");
+    QCOMPARE(dialog.services.database.rows(
+                 QStringLiteral("select task_name,reminder_on,dismissed,reminder_date_time from tasks")),
+        (QList<QVariantList>{{QStringLiteral("renamed"), 0LL, 1LL, QStringLiteral("2026-01-15 09:59:00")}}));
+}
+
+void TestTaskDetailsSaving::aReminderThatTheUserMovesRingsAgainWhateverTheAlertDidMeanwhile()
+{
+    TaskDialog dialog;
+    const qint32 id =
+        aTask(dialog.services.database).dueAt(fromStart(2h)).remindingAt(fromStart(-1min)).played().add();
+    dialog.form->SetTag(static_cast<qint16>(id));
+    dialog.show();
+    dialog.services.database.sql(QStringLiteral("update tasks set dismissed=1,reminder_on=0"));
+    dialog.setMoment("dtpReminderDate", "dtpReminderTime", fromStart(1h));
+    dialog.click("btnOk");
+    QCOMPARE(dialog.services.database.rows(
+                 QStringLiteral("select reminder_on,played,dismissed,reminder_date_time from tasks")),
+        (QList<QVariantList>{{1LL, 0LL, 0LL, QStringLiteral("2026-01-15 11:00:00")}}));
 }
 
 void TestTaskDetailsSaving::theFactsComeInTheirOrder()

@@ -3,6 +3,7 @@
 #include "tasks/TaskInput.h"
 
 #include <QTest>
+#include <functional>
 
 using namespace std::chrono_literals;
 
@@ -63,8 +64,22 @@ private slots:
     void aNewTaskHasNoChangedDate();
     void anEditedTaskKeepsItsId();
     void onlyAnotherReminderMomentChangesTheDate();
+    void everyFieldMakesAnotherInput();
+    void whatIsUnsavedIsNamedAsTypedElseAsLoaded();
+    void aReminderLeftAloneFollowsAPostponement();
+    void aReminderLeftAloneFollowsADismissal();
+    void aReminderMovedByTheUserIsHis();
+    void aReminderSwitchedByTheUserStaysSoAndKeepsTheStoredMoment();
 
 private:
+    ClsTask stored(bool reminderOn, Moment reminder)
+    {
+        ClsTask task(m_database.engine());
+        task.setReminderOn(reminderOn);
+        task.setReminderDateTime(reminder);
+        return task;
+    }
+
     TestDatabase m_database;
 };
 
@@ -336,6 +351,87 @@ void TestTaskInput::onlyAnotherReminderMomentChangesTheDate()
     QVERIFY(!input.toTask(m_database.engine(), edited).DateChanged());
     input.reminder += 1min;
     QVERIFY(input.toTask(m_database.engine(), edited).DateChanged());
+}
+
+void TestTaskInput::everyFieldMakesAnotherInput()
+{
+    const TaskInput filled = validInput();
+    QVERIFY(validInput() == filled);
+    const QList<std::function<void(TaskInput&)>> changes{[](TaskInput& i) { i.taskName += u'x'; },
+        [](TaskInput& i) { i.categoryId = qint16(4); }, [](TaskInput& i) { i.categoryId.reset(); },
+        [](TaskInput& i) { i.description += u'x'; }, [](TaskInput& i) { i.due += 1min; },
+        [](TaskInput& i) { i.status = TaskStatus::Deferred; },
+        [](TaskInput& i) { i.periority = TaskPeriority::High; }, [](TaskInput& i) { i.reminderOn = true; },
+        [](TaskInput& i) { i.reminder += 1min; }, [](TaskInput& i) { i.hasSound = true; },
+        [](TaskInput& i) { i.sound += u'x'; }, [](TaskInput& i) { i.hasFile = true; },
+        [](TaskInput& i) {
+            i.file += u'x';
+        }};
+    for (const auto& change : changes) {
+        TaskInput input = validInput();
+        change(input);
+        QVERIFY(input != filled);
+    }
+}
+
+void TestTaskInput::whatIsUnsavedIsNamedAsTypedElseAsLoaded()
+{
+    TaskInput filled = validInput();
+    TaskInput input = filled;
+    input.taskName = QStringLiteral(" <b>tea\nand %1</b> ");
+    QCOMPARE(input.unsavedText(filled), QStringLiteral("The changes to '<b>tea and %1</b>' are not saved."));
+    input.taskName = QStringLiteral("  ");
+    QCOMPARE(input.unsavedText(filled), QStringLiteral("The changes to 'task' are not saved."));
+    filled.taskName.clear();
+    QCOMPARE(input.unsavedText(filled), QStringLiteral("The changes to the task are not saved."));
+}
+
+void TestTaskInput::aReminderLeftAloneFollowsAPostponement()
+{
+    TaskInput input = validInput();
+    input.reminderOn = true;
+    EditedTask edited{7, true, input.reminder};
+    input.followReminder(edited, stored(true, Now + 3h));
+    const ClsTask task = input.toTask(m_database.engine(), edited);
+    QVERIFY(task.reminderDateTime() == Now + 3h);
+    QVERIFY(task.ReminderOn());
+    QVERIFY(!task.DateChanged());
+}
+
+void TestTaskInput::aReminderLeftAloneFollowsADismissal()
+{
+    TaskInput input = validInput();
+    input.reminderOn = true;
+    EditedTask edited{7, true, input.reminder};
+    input.followReminder(edited, stored(false, input.reminder));
+    const ClsTask task = input.toTask(m_database.engine(), edited);
+    QVERIFY(!task.ReminderOn());
+    QVERIFY(!task.DateChanged());
+}
+
+void TestTaskInput::aReminderMovedByTheUserIsHis()
+{
+    TaskInput input = validInput();
+    input.reminderOn = true;
+    EditedTask edited{7, true, input.reminder};
+    input.reminder += 5min;
+    input.followReminder(edited, stored(false, Now + 3h));
+    const ClsTask task = input.toTask(m_database.engine(), edited);
+    QVERIFY(task.ReminderOn());
+    QVERIFY(task.reminderDateTime() == input.reminder);
+    QVERIFY(task.DateChanged());
+}
+
+void TestTaskInput::aReminderSwitchedByTheUserStaysSoAndKeepsTheStoredMoment()
+{
+    TaskInput input = validInput();
+    EditedTask edited{7, true, input.reminder};
+    input.reminderOn = false;
+    input.followReminder(edited, stored(true, Now + 3h));
+    const ClsTask task = input.toTask(m_database.engine(), edited);
+    QVERIFY(!task.ReminderOn());
+    QVERIFY(task.reminderDateTime() == Now + 3h);
+    QVERIFY(!task.DateChanged());
 }
 
 AMBERTASK_TEST_MAIN(TestTaskInput)
