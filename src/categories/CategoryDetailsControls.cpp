@@ -88,11 +88,18 @@ void CategoryDetailsControls::setUp(const QWidget& form)
     imgCustomIcon->setAccessibleName(tr("Custom icon preview"));
     lblIconSize->setTextFormat(Qt::PlainText);
     lblIconSize->setText(tr("Prefered size 24*24 pixels"));
-    // Skins colour the labels for their own background; these stand on white or light grey under every skin.
+    // Skins colour labels and buttons for their own background; these stand on white or light grey under
+    // every skin. Shapes and sizes stay the skin's.
     imgCustomIcon->setStyleSheet(
         QStringLiteral("QLabel { background: transparent; border: 1px solid #b0b0b0; }"));
     lblIconSize->setStyleSheet(QStringLiteral(
         "QLabel { color: #202020; background: transparent; } QLabel:disabled { color: #5a5a5a; }"));
+    btnBrowse->setStyleSheet(QStringLiteral(
+        "QPushButton { color: #202020; background-color: #f4f4f4; border-color: #767676; }"
+        "QPushButton:hover { background-color: #e6e6e6; border-color: #5a5a5a; }"
+        "QPushButton:pressed { background-color: #d4d4d4; }"
+        "QPushButton:focus { border-color: #0b5fc4; }"
+        "QPushButton:disabled { color: #5a5a5a; background-color: #e0e0e0; border-color: #767676; }"));
 
     btnBrowse->setText(tr("&Browse"));
     btnBrowse->setAccessibleName(tr("Browse for a custom icon"));

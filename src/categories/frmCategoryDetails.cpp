@@ -177,6 +177,7 @@ void frmCategoryDetails::btnBrowse_Click()
     FileDialogRequest request;
     request.name = QStringLiteral("cdIconBrowse");
     request.filter = tr("Image Files (*.gif;*.jpg;*.jpeg)|*.gif;*.jpg;*.jpeg");
+    request.initialFolder = userFolder(QStandardPaths::PicturesLocation);
     request.fileMustExist = true;
     QString path;
     {
@@ -185,7 +186,14 @@ void frmCategoryDetails::btnBrowse_Click()
     }
     // Loaded first: a file that is no picture changes neither the path nor the preview.
     const QString key = PictureCache::keyOf(path);
-    const QIcon picture = path.isEmpty() ? QIcon() : CustomIcons::loadFile(path);
+    QIcon picture;
+    try {
+        picture = path.isEmpty() ? QIcon() : CustomIcons::loadFile(path);
+    } catch (const RuntimeError& error) {
+        m_services.messages.tell(this, MessageBoxes::Icon::Exclamation, error.text());
+        m_controls.btnBrowse->setFocus();
+        return;
+    }
     m_customIconKey = key;
     m_customIconSource = path;
     showCustomPicture(picture);

@@ -2,6 +2,7 @@
 
 #include "platform/PlainDialogTexts.h"
 
+#include <QDir>
 #include <QFileDialog>
 #include <QFileIconProvider>
 #include <QFileInfo>
@@ -36,7 +37,12 @@ QString show(QWidget* owner, const FileDialogRequest& request, QFileDialog::Acce
         dialog.setFileMode(QFileDialog::AnyFile);
         dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.promptBeforeOverwriting);
     }
-    dialog.setNameFilters(nameFilters(request));
+    const QStringList filters = nameFilters(request);
+    dialog.setNameFilters(filters);
+    if (request.executables) {
+        // Where programs carry no extension, their own filter would show an empty folder.
+        dialog.selectNameFilter(filters.constLast());
+    }
     if (!request.initialFolder.isEmpty()) {
         dialog.setDirectory(request.initialFolder);
     }
@@ -74,6 +80,13 @@ QStringList nameFilters(const FileDialogRequest& request)
     }
 #endif
     return filters;
+}
+
+QString userFolder(QStandardPaths::StandardLocation place)
+{
+    // A folder that does not exist would leave the dialog where the program was started.
+    const QString folder = QStandardPaths::writableLocation(place);
+    return QFileInfo(folder).isDir() ? folder : QDir::homePath();
 }
 
 QString ScreenFileDialogs::open(QWidget* owner, const FileDialogRequest& request)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QStandardPaths>
 #include <QStringList>
 
 class QWidget;
@@ -20,6 +21,9 @@ struct FileDialogRequest {
 /// The name filters of a filter text, in the toolkit's form: "Wave Files (*.wav)|*.wav" gives "Wave Files
 /// (*.wav)".
 QStringList nameFilters(const FileDialogRequest& request);
+
+/// The user's folder for what is kept in that place; the home folder where there is none.
+QString userFolder(QStandardPaths::StandardLocation place);
 
 /// The file dialogs of the program, modal to it.
 class FileDialogs

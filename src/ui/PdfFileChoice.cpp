@@ -7,7 +7,6 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QStandardPaths>
 
 QString choosePdfFile(const FormServices& services, QWidget* owner, const QString& name)
 {
@@ -15,7 +14,7 @@ QString choosePdfFile(const FormServices& services, QWidget* owner, const QStrin
     FileDialogRequest request;
     request.filter = QCoreApplication::translate("PdfFileChoice", "PDF Files (*.pdf)|*.pdf");
     request.fileName = name;
-    request.initialFolder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    request.initialFolder = userFolder(QStandardPaths::DocumentsLocation);
     request.promptBeforeOverwriting = true;
     QString file = services.fileDialogs.save(owner, request);
     if (file.isEmpty() || !QFileInfo(file).suffix().isEmpty()) {

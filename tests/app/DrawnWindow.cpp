@@ -41,6 +41,15 @@ QHash<QRgb, int> colorsIn(const QImage& picture, const QRect& area)
     return counts;
 }
 
+QRgb mostFrequent(const QHash<QRgb, int>& counts)
+{
+    QRgb found = 0;
+    for (auto it = counts.cbegin(); it != counts.cend(); ++it) {
+        found = it.value() > counts.value(found) ? it.key() : found;
+    }
+    return found;
+}
+
 QRect visiblePart(const QWidget& control, const QRect& place)
 {
     return control.visibleRegion().boundingRect() & place;
@@ -69,15 +78,22 @@ bool DrawnWindow::isInSight(const QWidget& control, const QRect& place) const
     return !seen.isEmpty() && seen.width() * seen.height() * 2 > place.width() * place.height();
 }
 
-double DrawnWindow::strongestContrast(const QWidget& control, const QRect& place) const
+QHash<QRgb, int> DrawnWindow::colors(const QWidget& control, const QRect& place) const
 {
     const QRect seen = visiblePart(control, place);
     const QRect area(control.mapTo(&m_window, seen.topLeft()) * Zoom, seen.size() * Zoom);
-    const QHash<QRgb, int> counts = colorsIn(m_picture, area & m_picture.rect());
-    QRgb ground = 0;
-    for (auto it = counts.cbegin(); it != counts.cend(); ++it) {
-        ground = it.value() > counts.value(ground) ? it.key() : ground;
-    }
+    return colorsIn(m_picture, area & m_picture.rect());
+}
+
+QRgb DrawnWindow::ground(const QWidget& control, const QRect& place) const
+{
+    return mostFrequent(colors(control, place));
+}
+
+double DrawnWindow::strongestContrast(const QWidget& control, const QRect& place) const
+{
+    const QHash<QRgb, int> counts = colors(control, place);
+    const QRgb ground = mostFrequent(counts);
     std::vector<std::pair<double, int>> contrasts;
     for (auto it = counts.cbegin(); it != counts.cend(); ++it) {
         contrasts.emplace_back(contrastOf(it.key(), ground), it.value());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QImage>
 
 class QWidget;
@@ -18,8 +19,12 @@ public:
     bool isInSight(const QWidget& control, const QRect& place) const;
     /// The contrast there, 1 to 21, that more than a speck has with the most frequent colour.
     double strongestContrast(const QWidget& control, const QRect& place) const;
+    /// The most frequent colour there.
+    QRgb ground(const QWidget& control, const QRect& place) const;
 
 private:
+    QHash<QRgb, int> colors(const QWidget& control, const QRect& place) const;
+
     QWidget& m_window;
     QImage m_picture;
 };

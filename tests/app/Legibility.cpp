@@ -104,6 +104,7 @@ private:
     void lookAtMenu(const QMenu& menu);
     void lookAtPicture(const QAbstractButton& button);
     void lookAtPushButton(const QPushButton& button);
+    void lookAtGroundOf(const QPushButton& button);
     void lookAtProgress(const QProgressBar& bar);
     void lookAtSpinBox(const QAbstractSpinBox& spin);
     void lookAtTabs(const QTabBar& tabs);
@@ -205,10 +206,26 @@ void Look::lookAtPushButton(const QPushButton& button)
     constexpr int Border = 4;
     const QRect place = inside(button.rect(), Border);
     text(button, place, button.text());
+    lookAtGroundOf(button);
     if (button.menu() != nullptr) {
         const int arrow = button.fontMetrics().height();
         mark(button, place.adjusted(place.width() - arrow, 0, 0, 0), QStringLiteral("arrow"));
     }
+}
+
+/// Letters that are faint on purpose are lost where their ground stands out more than they do.
+void Look::lookAtGroundOf(const QPushButton& button)
+{
+    constexpr int Beside = 6;
+    constexpr int Border = 4;
+    const QWidget* around = button.parentWidget();
+    const QRect beside(button.x() - Beside, button.y(), Border, button.height());
+    if (button.isEnabled() || around == nullptr || !m_drawn.isInSight(*around, beside)) {
+        return;
+    }
+    const QRect inner = inside(button.rect(), Border);
+    note(button, QStringLiteral("disabled on another ground"), m_drawn.strongestContrast(button, inner),
+        contrastOf(m_drawn.ground(button, inner), m_drawn.ground(*around, beside)));
 }
 
 /// How far it is and how far it has to go.

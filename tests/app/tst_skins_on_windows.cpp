@@ -100,6 +100,7 @@ class SkinsOnWindowsTest : public TestCase
 private slots:
     void aFaintTextIsFound();
     void anInvisibleMarkIsFound();
+    void aDisabledButtonOnAnotherGroundIsFound();
 
     void everyWindowCanBeRead_data() { skins(); }
     void everyWindowCanBeRead();
@@ -154,6 +155,27 @@ void SkinsOnWindowsTest::anInvisibleMarkIsFound()
     box.setStyleSheet(
         QStringLiteral("QCheckBox { background: #ffffff; } QCheckBox::indicator { background: #ffffff; }"));
     QCOMPARE(lookAt(box, 4.5).faults.size(), 2);
+}
+
+void SkinsOnWindowsTest::aDisabledButtonOnAnotherGroundIsFound()
+{
+    QWidget panel;
+    auto* button = new QPushButton(QStringLiteral("Browse"), &panel);
+    button->move(20, 20);
+    button->setEnabled(false);
+    const auto faultsOnPanel = [&](const QString& ground) {
+        panel.setStyleSheet(
+            QStringLiteral("QWidget { background: %1; } QPushButton { background: #171b24; color: #6f798b; }")
+                .arg(ground));
+        panel.show();
+        return lookAt(panel, 4.5).faults;
+    };
+    QCOMPARE(faultsOnPanel(QStringLiteral("#171b24")), QStringList());
+    QCOMPARE(faultsOnPanel(QStringLiteral("#e0e0e0")).size(), 1);
+    button->setEnabled(true);
+    panel.setStyleSheet(QStringLiteral("QWidget { background: white; } "
+                                       "QPushButton { background: black; color: white; }"));
+    QCOMPARE(lookAt(panel, 4.5).faults, QStringList());
 }
 
 void SkinsOnWindowsTest::everyWindowCanBeRead()

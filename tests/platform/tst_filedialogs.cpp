@@ -40,6 +40,54 @@ private slots:
             QStringList({QStringLiteral("Executable Files (*.exe *.bat)"), QStringLiteral("All Files (*)")}));
     }
 
+    void programsAreListedAtOnce()
+    {
+        const QTemporaryDir folder;
+        QFile program(folder.filePath(QStringLiteral("backup-script")));
+        QVERIFY(program.open(QIODevice::WriteOnly));
+        FileDialogRequest request;
+        request.filter = QStringLiteral("Executable Files (*.exe;*.bat;)|*.exe;*.bat");
+        request.initialFolder = folder.path();
+        request.executables = true;
+        QString filter;
+        QStringList listed;
+        QTimer look;
+        connect(&look, &QTimer::timeout, this, [&] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            if (dialog == nullptr) {
+                return;
+            }
+            filter = dialog->selectedNameFilter();
+            const auto* list = dialog->findChild<QListView*>(QStringLiteral("listView"));
+            const int rows = list->model()->rowCount(list->rootIndex());
+            for (int row = 0; row < rows; ++row) {
+                listed.append(list->model()->index(row, 0, list->rootIndex()).data().toString());
+            }
+            if (rows > 0) {
+                dialog->reject();
+            }
+        });
+        look.start(10);
+        ScreenFileDialogs().open(nullptr, request);
+        QCOMPARE(filter, QStringLiteral("All Files (*)"));
+        QCOMPARE(listed, QStringList(QStringLiteral("backup-script")));
+    }
+
+    void aFolderOfTheUserIsWhereADialogBeginsAndElseTheHome()
+    {
+        const QTemporaryDir home;
+        const QByteArray homeBefore = qgetenv("HOME");
+        qputenv("HOME", QFile::encodeName(home.path()));
+        const QString without = userFolder(QStandardPaths::PicturesLocation);
+        const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+        QVERIFY(QDir().mkpath(pictures));
+        const QString with = userFolder(QStandardPaths::PicturesLocation);
+        qputenv("HOME", homeBefore);
+        QCOMPARE(without, home.path());
+        QCOMPARE(with, pictures);
+        QVERIFY(pictures.startsWith(home.path()));
+    }
+
     void aFileNameInAQuestionOfTheDialogIsPlainText()
     {
         const QTemporaryDir folder;
