@@ -225,6 +225,10 @@
         <source>The topic could not be written to &quot;%1&quot;: %2.</source>
         <translation>تعذّرت كتابة الموضوع في «%1»: %2.</translation>
     </message>
+    <message>
+        <source>PDF saved to &quot;%1&quot;</source>
+        <translation>حُفظ ملف PDF في «%1»</translation>
+    </message>
 </context>
 <context>
     <name>Connection</name>
@@ -332,6 +336,34 @@
     <message>
         <source>it is missing from this installation</source>
         <translation>غير موجود في هذا التثبيت</translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>القرص ممتلئ</translation>
+    </message>
+    <message>
+        <source>the file would be too large</source>
+        <translation>سيكون الملف كبيرًا جدًا</translation>
+    </message>
+    <message>
+        <source>there is no permission for that</source>
+        <translation>لا توجد صلاحية لذلك</translation>
+    </message>
+    <message>
+        <source>nothing can be written to that disk</source>
+        <translation>لا يمكن الكتابة على هذا القرص</translation>
+    </message>
+    <message>
+        <source>the file or its folder does not exist</source>
+        <translation>الملف أو مجلده غير موجود</translation>
+    </message>
+    <message>
+        <source>the name is too long</source>
+        <translation>الاسم طويل جدًا</translation>
+    </message>
+    <message>
+        <source>the disk failed or was taken out</source>
+        <translation>تعطّل القرص أو أُزيل</translation>
     </message>
 </context>
 <context>
@@ -500,6 +532,52 @@
     <message>
         <source>Deleting the tasks...</source>
         <translation>جارٍ حذف المهام…</translation>
+    </message>
+    <message>
+        <source>1 task was deleted</source>
+        <translation>حُذفت مهمة واحدة</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks were deleted</source>
+        <translation>
+            <numerusform>لم تُحذف أي مهمة</numerusform>
+            <numerusform>حُذفت مهمة واحدة</numerusform>
+            <numerusform>حُذفت مهمتان</numerusform>
+            <numerusform>حُذفت %n مهام</numerusform>
+            <numerusform>حُذفت %n مهمة</numerusform>
+            <numerusform>حُذفت %n مهمة</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Restored from &quot;%1&quot;</source>
+        <translation>تمت الاستعادة من «%1»</translation>
+    </message>
+    <message>
+        <source>Restored 1 task from &quot;%1&quot;; what was there before is in %2</source>
+        <translation>استُعيدت مهمة واحدة من «%1»؛ ما كان موجودًا من قبل في %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Restored %n tasks from &quot;%1&quot;; what was there before is in %2</source>
+        <translation>
+            <numerusform>لا توجد مهام في «%1»؛ ما كان موجودًا من قبل في %2</numerusform>
+            <numerusform>استُعيدت مهمة واحدة من «%1»؛ ما كان موجودًا من قبل في %2</numerusform>
+            <numerusform>استُعيدت مهمتان من «%1»؛ ما كان موجودًا من قبل في %2</numerusform>
+            <numerusform>استُعيدت %n مهام من «%1»؛ ما كان موجودًا من قبل في %2</numerusform>
+            <numerusform>استُعيدت %n مهمة من «%1»؛ ما كان موجودًا من قبل في %2</numerusform>
+            <numerusform>استُعيدت %n مهمة من «%1»؛ ما كان موجودًا من قبل في %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Backup saved to &quot;%1&quot;</source>
+        <translation>حُفظت النسخة الاحتياطية في «%1»</translation>
+    </message>
+    <message>
+        <source>The backup could not be written: %1</source>
+        <translation>تعذّرت كتابة النسخة الاحتياطية: %1</translation>
+    </message>
+    <message>
+        <source>Nothing was restored: %1</source>
+        <translation>لم يُستعد شيء: %1</translation>
     </message>
 </context>
 <context>
@@ -679,6 +757,10 @@
     <message>
         <source>No printer is set up on this computer.</source>
         <translation>لا توجد طابعة مُعدّة على هذا الحاسوب.</translation>
+    </message>
+    <message>
+        <source>PDF saved to &quot;%1&quot;</source>
+        <translation>حُفظ ملف PDF في «%1»</translation>
     </message>
 </context>
 <context>
@@ -981,6 +1063,14 @@
         <source>Saving the settings...</source>
         <translation>جارٍ حفظ الإعدادات…</translation>
     </message>
+    <message>
+        <source>The skin was not added: %1</source>
+        <translation>لم يُضف المظهر: %1</translation>
+    </message>
+    <message>
+        <source>The skin &quot;%1&quot; was added; to wear it, choose it in the list and save the settings</source>
+        <translation>أُضيف المظهر «%1»؛ لاستخدامه اختره من القائمة ثم احفظ الإعدادات</translation>
+    </message>
 </context>
 <context>
     <name>SettingsStore</name>
@@ -1125,6 +1215,10 @@
 %1</source>
         <translation>تعذّر استخدام المظهر.
 %1</translation>
+    </message>
+    <message>
+        <source>%1: the file has to be named &quot;%2&quot;, as its skin is</source>
+        <translation>%1: يجب أن يكون اسم الملف «%2» مثل اسم مظهره</translation>
     </message>
 </context>
 <context>

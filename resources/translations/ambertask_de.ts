@@ -225,6 +225,10 @@
         <source>The topic could not be written to &quot;%1&quot;: %2.</source>
         <translation>Das Thema konnte nicht in „%1“ geschrieben werden: %2.</translation>
     </message>
+    <message>
+        <source>PDF saved to &quot;%1&quot;</source>
+        <translation>PDF gespeichert als „%1“</translation>
+    </message>
 </context>
 <context>
     <name>Connection</name>
@@ -332,6 +336,34 @@
     <message>
         <source>it is missing from this installation</source>
         <translation>es fehlt in dieser Installation</translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>der Datenträger ist voll</translation>
+    </message>
+    <message>
+        <source>the file would be too large</source>
+        <translation>die Datei würde zu groß</translation>
+    </message>
+    <message>
+        <source>there is no permission for that</source>
+        <translation>dafür fehlt die Berechtigung</translation>
+    </message>
+    <message>
+        <source>nothing can be written to that disk</source>
+        <translation>auf diesen Datenträger kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>the file or its folder does not exist</source>
+        <translation>die Datei oder ihr Ordner existiert nicht</translation>
+    </message>
+    <message>
+        <source>the name is too long</source>
+        <translation>der Name ist zu lang</translation>
+    </message>
+    <message>
+        <source>the disk failed or was taken out</source>
+        <translation>der Datenträger ist defekt oder wurde entfernt</translation>
     </message>
 </context>
 <context>
@@ -484,6 +516,44 @@
     <message>
         <source>Deleting the tasks...</source>
         <translation>Die Aufgaben werden gelöscht…</translation>
+    </message>
+    <message>
+        <source>1 task was deleted</source>
+        <translation>1 Aufgabe wurde gelöscht</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks were deleted</source>
+        <translation>
+            <numerusform>%n Aufgabe wurde gelöscht</numerusform>
+            <numerusform>%n Aufgaben wurden gelöscht</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Restored from &quot;%1&quot;</source>
+        <translation>Aus „%1“ wiederhergestellt</translation>
+    </message>
+    <message>
+        <source>Restored 1 task from &quot;%1&quot;; what was there before is in %2</source>
+        <translation>1 Aufgabe aus „%1“ wiederhergestellt; was vorher da war, liegt in %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Restored %n tasks from &quot;%1&quot;; what was there before is in %2</source>
+        <translation>
+            <numerusform>%n Aufgabe aus „%1“ wiederhergestellt; was vorher da war, liegt in %2</numerusform>
+            <numerusform>%n Aufgaben aus „%1“ wiederhergestellt; was vorher da war, liegt in %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Backup saved to &quot;%1&quot;</source>
+        <translation>Sicherung gespeichert als „%1“</translation>
+    </message>
+    <message>
+        <source>The backup could not be written: %1</source>
+        <translation>Die Sicherung konnte nicht geschrieben werden: %1</translation>
+    </message>
+    <message>
+        <source>Nothing was restored: %1</source>
+        <translation>Es wurde nichts wiederhergestellt: %1</translation>
     </message>
 </context>
 <context>
@@ -663,6 +733,10 @@
     <message>
         <source>No printer is set up on this computer.</source>
         <translation>Auf diesem Computer ist kein Drucker eingerichtet.</translation>
+    </message>
+    <message>
+        <source>PDF saved to &quot;%1&quot;</source>
+        <translation>PDF gespeichert als „%1“</translation>
     </message>
 </context>
 <context>
@@ -961,6 +1035,14 @@ ein Fehler auf: %3.</translation>
         <source>Saving the settings...</source>
         <translation>Die Einstellungen werden gespeichert…</translation>
     </message>
+    <message>
+        <source>The skin was not added: %1</source>
+        <translation>Der Skin wurde nicht hinzugefügt: %1</translation>
+    </message>
+    <message>
+        <source>The skin &quot;%1&quot; was added; to wear it, choose it in the list and save the settings</source>
+        <translation>Der Skin „%1“ wurde hinzugefügt; wählen Sie ihn in der Liste und speichern Sie die Einstellungen, um ihn zu verwenden</translation>
+    </message>
 </context>
 <context>
     <name>SettingsStore</name>
@@ -1105,6 +1187,10 @@ ein Fehler auf: %3.</translation>
 %1</source>
         <translation>Der Skin konnte nicht verwendet werden.
 %1</translation>
+    </message>
+    <message>
+        <source>%1: the file has to be named &quot;%2&quot;, as its skin is</source>
+        <translation>%1: die Datei muss „%2“ heißen, so wie ihr Skin</translation>
     </message>
 </context>
 <context>

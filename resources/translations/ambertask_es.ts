@@ -225,6 +225,10 @@
         <source>The topic could not be written to &quot;%1&quot;: %2.</source>
         <translation>No se pudo escribir el tema en «%1»: %2.</translation>
     </message>
+    <message>
+        <source>PDF saved to &quot;%1&quot;</source>
+        <translation>PDF guardado en «%1»</translation>
+    </message>
 </context>
 <context>
     <name>Connection</name>
@@ -332,6 +336,34 @@
     <message>
         <source>it is missing from this installation</source>
         <translation>falta en esta instalación</translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>el disco está lleno</translation>
+    </message>
+    <message>
+        <source>the file would be too large</source>
+        <translation>el archivo sería demasiado grande</translation>
+    </message>
+    <message>
+        <source>there is no permission for that</source>
+        <translation>no hay permiso para ello</translation>
+    </message>
+    <message>
+        <source>nothing can be written to that disk</source>
+        <translation>en ese disco no se puede escribir</translation>
+    </message>
+    <message>
+        <source>the file or its folder does not exist</source>
+        <translation>el archivo o su carpeta no existe</translation>
+    </message>
+    <message>
+        <source>the name is too long</source>
+        <translation>el nombre es demasiado largo</translation>
+    </message>
+    <message>
+        <source>the disk failed or was taken out</source>
+        <translation>el disco ha fallado o se ha retirado</translation>
     </message>
 </context>
 <context>
@@ -484,6 +516,44 @@
     <message>
         <source>Deleting the tasks...</source>
         <translation>Eliminando las tareas…</translation>
+    </message>
+    <message>
+        <source>1 task was deleted</source>
+        <translation>Se ha eliminado 1 tarea</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks were deleted</source>
+        <translation>
+            <numerusform>Se ha eliminado %n tarea</numerusform>
+            <numerusform>Se han eliminado %n tareas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Restored from &quot;%1&quot;</source>
+        <translation>Restaurado desde «%1»</translation>
+    </message>
+    <message>
+        <source>Restored 1 task from &quot;%1&quot;; what was there before is in %2</source>
+        <translation>Se ha restaurado 1 tarea desde «%1»; lo que había antes está en %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Restored %n tasks from &quot;%1&quot;; what was there before is in %2</source>
+        <translation>
+            <numerusform>Se ha restaurado %n tarea desde «%1»; lo que había antes está en %2</numerusform>
+            <numerusform>Se han restaurado %n tareas desde «%1»; lo que había antes está en %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Backup saved to &quot;%1&quot;</source>
+        <translation>Copia de seguridad guardada en «%1»</translation>
+    </message>
+    <message>
+        <source>The backup could not be written: %1</source>
+        <translation>No se pudo escribir la copia de seguridad: %1</translation>
+    </message>
+    <message>
+        <source>Nothing was restored: %1</source>
+        <translation>No se ha restaurado nada: %1</translation>
     </message>
 </context>
 <context>
@@ -663,6 +733,10 @@
     <message>
         <source>No printer is set up on this computer.</source>
         <translation>No hay ninguna impresora configurada en este equipo.</translation>
+    </message>
+    <message>
+        <source>PDF saved to &quot;%1&quot;</source>
+        <translation>PDF guardado en «%1»</translation>
     </message>
 </context>
 <context>
@@ -961,6 +1035,14 @@
         <source>Saving the settings...</source>
         <translation>Guardando la configuración…</translation>
     </message>
+    <message>
+        <source>The skin was not added: %1</source>
+        <translation>No se ha añadido el tema: %1</translation>
+    </message>
+    <message>
+        <source>The skin &quot;%1&quot; was added; to wear it, choose it in the list and save the settings</source>
+        <translation>Se ha añadido el tema «%1»; para usarlo, elíjalo en la lista y guarde la configuración</translation>
+    </message>
 </context>
 <context>
     <name>SettingsStore</name>
@@ -1105,6 +1187,10 @@
 %1</source>
         <translation>No se pudo usar el tema.
 %1</translation>
+    </message>
+    <message>
+        <source>%1: the file has to be named &quot;%2&quot;, as its skin is</source>
+        <translation>%1: el archivo debe llamarse «%2», como su tema</translation>
     </message>
 </context>
 <context>

@@ -225,6 +225,10 @@
         <source>The topic could not be written to &quot;%1&quot;: %2.</source>
         <translation>La rubrique n’a pas pu être écrite dans «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
+    <message>
+        <source>PDF saved to &quot;%1&quot;</source>
+        <translation>PDF enregistré dans «&#xa0;%1&#xa0;»</translation>
+    </message>
 </context>
 <context>
     <name>Connection</name>
@@ -332,6 +336,34 @@
     <message>
         <source>it is missing from this installation</source>
         <translation>il est absent de cette installation</translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>le disque est plein</translation>
+    </message>
+    <message>
+        <source>the file would be too large</source>
+        <translation>le fichier serait trop volumineux</translation>
+    </message>
+    <message>
+        <source>there is no permission for that</source>
+        <translation>l’autorisation nécessaire manque</translation>
+    </message>
+    <message>
+        <source>nothing can be written to that disk</source>
+        <translation>ce disque est protégé en écriture</translation>
+    </message>
+    <message>
+        <source>the file or its folder does not exist</source>
+        <translation>le fichier ou son dossier n’existe pas</translation>
+    </message>
+    <message>
+        <source>the name is too long</source>
+        <translation>le nom est trop long</translation>
+    </message>
+    <message>
+        <source>the disk failed or was taken out</source>
+        <translation>le disque est défaillant ou a été retiré</translation>
     </message>
 </context>
 <context>
@@ -484,6 +516,44 @@
     <message>
         <source>Deleting the tasks...</source>
         <translation>Suppression des tâches en cours…</translation>
+    </message>
+    <message>
+        <source>1 task was deleted</source>
+        <translation>1 tâche a été supprimée</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks were deleted</source>
+        <translation>
+            <numerusform>%n tâche a été supprimée</numerusform>
+            <numerusform>%n tâches ont été supprimées</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Restored from &quot;%1&quot;</source>
+        <translation>Restauré depuis «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>Restored 1 task from &quot;%1&quot;; what was there before is in %2</source>
+        <translation>1 tâche restaurée depuis «&#xa0;%1&#xa0;»&#xa0;; ce qui s’y trouvait auparavant est dans %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Restored %n tasks from &quot;%1&quot;; what was there before is in %2</source>
+        <translation>
+            <numerusform>%n tâche restaurée depuis «&#xa0;%1&#xa0;»&#xa0;; ce qui s’y trouvait auparavant est dans %2</numerusform>
+            <numerusform>%n tâches restaurées depuis «&#xa0;%1&#xa0;»&#xa0;; ce qui s’y trouvait auparavant est dans %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Backup saved to &quot;%1&quot;</source>
+        <translation>Sauvegarde enregistrée dans «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>The backup could not be written: %1</source>
+        <translation>La sauvegarde n’a pas pu être écrite&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Nothing was restored: %1</source>
+        <translation>Rien n’a été restauré&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -663,6 +733,10 @@
     <message>
         <source>No printer is set up on this computer.</source>
         <translation>Aucune imprimante n’est configurée sur cet ordinateur.</translation>
+    </message>
+    <message>
+        <source>PDF saved to &quot;%1&quot;</source>
+        <translation>PDF enregistré dans «&#xa0;%1&#xa0;»</translation>
     </message>
 </context>
 <context>
@@ -961,6 +1035,14 @@
         <source>Saving the settings...</source>
         <translation>Enregistrement des paramètres en cours…</translation>
     </message>
+    <message>
+        <source>The skin was not added: %1</source>
+        <translation>Le thème n’a pas été ajouté&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The skin &quot;%1&quot; was added; to wear it, choose it in the list and save the settings</source>
+        <translation>Le thème «&#xa0;%1&#xa0;» a été ajouté&#xa0;; pour l’utiliser, choisissez-le dans la liste et enregistrez les paramètres</translation>
+    </message>
 </context>
 <context>
     <name>SettingsStore</name>
@@ -1105,6 +1187,10 @@
 %1</source>
         <translation>Le thème n’a pas pu être utilisé.
 %1</translation>
+    </message>
+    <message>
+        <source>%1: the file has to be named &quot;%2&quot;, as its skin is</source>
+        <translation>%1&#xa0;: le fichier doit s’appeler «&#xa0;%2&#xa0;», comme son thème</translation>
     </message>
 </context>
 <context>

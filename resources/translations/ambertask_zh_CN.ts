@@ -225,6 +225,10 @@
         <source>The topic could not be written to &quot;%1&quot;: %2.</source>
         <translation>无法将此主题写入“%1”：%2。</translation>
     </message>
+    <message>
+        <source>PDF saved to &quot;%1&quot;</source>
+        <translation>PDF 已保存到“%1”</translation>
+    </message>
 </context>
 <context>
     <name>Connection</name>
@@ -332,6 +336,34 @@
     <message>
         <source>it is missing from this installation</source>
         <translation>此安装中缺少该文件</translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>磁盘已满</translation>
+    </message>
+    <message>
+        <source>the file would be too large</source>
+        <translation>文件会过大</translation>
+    </message>
+    <message>
+        <source>there is no permission for that</source>
+        <translation>没有相应的权限</translation>
+    </message>
+    <message>
+        <source>nothing can be written to that disk</source>
+        <translation>该磁盘不可写入</translation>
+    </message>
+    <message>
+        <source>the file or its folder does not exist</source>
+        <translation>文件或其文件夹不存在</translation>
+    </message>
+    <message>
+        <source>the name is too long</source>
+        <translation>名称过长</translation>
+    </message>
+    <message>
+        <source>the disk failed or was taken out</source>
+        <translation>磁盘出现故障或已被移除</translation>
     </message>
 </context>
 <context>
@@ -480,6 +512,42 @@
     <message>
         <source>Deleting the tasks...</source>
         <translation>正在删除任务…</translation>
+    </message>
+    <message>
+        <source>1 task was deleted</source>
+        <translation>已删除 1 个任务</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks were deleted</source>
+        <translation>
+            <numerusform>已删除 %n 个任务</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Restored from &quot;%1&quot;</source>
+        <translation>已从“%1”还原</translation>
+    </message>
+    <message>
+        <source>Restored 1 task from &quot;%1&quot;; what was there before is in %2</source>
+        <translation>已从“%1”还原 1 个任务；之前的内容在 %2 中</translation>
+    </message>
+    <message numerus="yes">
+        <source>Restored %n tasks from &quot;%1&quot;; what was there before is in %2</source>
+        <translation>
+            <numerusform>已从“%1”还原 %n 个任务；之前的内容在 %2 中</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Backup saved to &quot;%1&quot;</source>
+        <translation>备份已保存到“%1”</translation>
+    </message>
+    <message>
+        <source>The backup could not be written: %1</source>
+        <translation>无法写入备份：%1</translation>
+    </message>
+    <message>
+        <source>Nothing was restored: %1</source>
+        <translation>未还原任何内容：%1</translation>
     </message>
 </context>
 <context>
@@ -659,6 +727,10 @@
     <message>
         <source>No printer is set up on this computer.</source>
         <translation>此计算机上没有设置打印机。</translation>
+    </message>
+    <message>
+        <source>PDF saved to &quot;%1&quot;</source>
+        <translation>PDF 已保存到“%1”</translation>
     </message>
 </context>
 <context>
@@ -956,6 +1028,14 @@
         <source>Saving the settings...</source>
         <translation>正在保存设置…</translation>
     </message>
+    <message>
+        <source>The skin was not added: %1</source>
+        <translation>未添加皮肤：%1</translation>
+    </message>
+    <message>
+        <source>The skin &quot;%1&quot; was added; to wear it, choose it in the list and save the settings</source>
+        <translation>已添加皮肤“%1”；要使用它，请在列表中选择它并保存设置</translation>
+    </message>
 </context>
 <context>
     <name>SettingsStore</name>
@@ -1100,6 +1180,10 @@
 %1</source>
         <translation>无法使用该皮肤。
 %1</translation>
+    </message>
+    <message>
+        <source>%1: the file has to be named &quot;%2&quot;, as its skin is</source>
+        <translation>%1：文件必须以其皮肤命名，即“%2”</translation>
     </message>
 </context>
 <context>

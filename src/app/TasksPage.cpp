@@ -8,6 +8,7 @@
 #include "ui/ComboBox.h"
 #include "ui/Combos.h"
 #include "ui/Pickers.h"
+#include "ui/QuietLine.h"
 #include "ui/clsGuiLoader.h"
 
 #include <QBoxLayout>
@@ -51,7 +52,8 @@ TasksPage::TasksPage(const FormServices& services, std::function<TaskColumns()> 
       m_dateFrom(named(new QDateEdit, "dtpDueDateFrom")), m_dateTo(named(new QDateEdit, "dtpDueDateTo")),
       m_allTasks(named(new QRadioButton(tr("All tas&ks")), "opnAllTasks")),
       m_activeTasks(named(new QRadioButton(tr("Acti&ve tasks only")), "opnActiveTasks")),
-      m_expiredTasks(named(new QRadioButton(tr("E&xpired tasks only")), "opnExpiredTasks"))
+      m_expiredTasks(named(new QRadioButton(tr("E&xpired tasks only")), "opnExpiredTasks")),
+      m_quietLine(new QuietLine(QStringLiteral("lblTasksNote"), this))
 {
     m_grid->setAccessibleName(tr("Tasks"));
     m_grid->setGridModel(m_model);
@@ -70,6 +72,7 @@ TasksPage::TasksPage(const FormServices& services, std::function<TaskColumns()> 
     layout->addLayout(filters);
     layout->addWidget(m_grid, 1);
     layout->addLayout(makeButtonRow());
+    layout->addWidget(m_quietLine);
 
     ErrorReport& errors = services.errors;
     for (const QComboBox* combo : {m_categories, m_status, m_sort}) {

@@ -14,6 +14,7 @@ class QDateEdit;
 class QLabel;
 class QPushButton;
 class QRadioButton;
+class QuietLine;
 
 /// The page "Tasks": the filters, the list and its buttons. Every filter rebuilds the list as soon as it
 /// changes.
@@ -42,6 +43,8 @@ public:
     /// Gives the focus to the list and activates its window when that is visible, whichever page is in front.
     void focusGrid();
     GridView* grid() const { return m_grid; }
+    /// Says how an action ended.
+    QuietLine& quietLine() const { return *m_quietLine; }
     TaskFilter filter() const;
     /// The index of the selected entry of the category filter.
     int selectedCategoryIndex() const;
@@ -93,4 +96,5 @@ private:
     QRadioButton* m_allTasks;
     QRadioButton* m_activeTasks;
     QRadioButton* m_expiredTasks;
+    QuietLine* m_quietLine;
 };

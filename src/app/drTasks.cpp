@@ -14,6 +14,7 @@
 #include "ui/PdfFileChoice.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <array>
 
 namespace
@@ -63,7 +64,8 @@ std::vector<ReportSection> makeSections()
 QString dateText(Moment moment)
 {
     static const QString format = QString(DueDateFormat).section(u'$', -1);
-    return toQDate(moment).toString(format);
+    // In the digits of the list, where a language has its own.
+    return QLocale().toString(toQDate(moment), format);
 }
 
 } // namespace

@@ -197,7 +197,7 @@ std::vector<ClsTask> ClsTask::GetTasks(qint16 cat, qint32 status, qint32 sortBy,
 }
 
 // The join is asked for its columns alone: it would read the category with every task.
-void ClsTask::readAll(const std::function<void(const RecordSet&)>& alsoSee) const
+qint64 ClsTask::readAll(const std::function<void(const RecordSet&)>& alsoSee) const
 {
     Connection connection = ClsDatabase(*m_engine).Connect();
     connection.open();
@@ -206,8 +206,10 @@ void ClsTask::readAll(const std::function<void(const RecordSet&)>& alsoSee) cons
         QStringLiteral("select ifnull(cat_id in (select cat_id from categories), 0), * from tasks"));
     constexpr int IsShown = 0;
     const TaskFields columns(records);
+    qint64 shown = 0;
     for (ClsTask task(*m_engine); !records.atEnd(); records.moveNext()) {
         if (records.flag(IsShown)) {
+            ++shown;
             columns.check(records, task);
         }
         if (alsoSee) {
@@ -215,12 +217,18 @@ void ClsTask::readAll(const std::function<void(const RecordSet&)>& alsoSee) cons
         }
     }
     connection.close();
+    return shown;
 }
 
-void ClsTask::DeleteTasks(qint16 cat, qint32 status, Moment fromDate, Moment toDate, qint32 taskType) const
+qint32 ClsTask::DeleteTasks(qint16 cat, qint32 status, Moment fromDate, Moment toDate, qint32 taskType) const
 {
-    runAlone(*m_engine,
+    Connection connection = ClsDatabase(*m_engine).Connect();
+    connection.open();
+    connection.execute(
         rangeStatement(QLatin1String("delete from tasks "), cat, status, fromDate, toDate, taskType));
+    const auto deleted = static_cast<qint32>(connection.changedRows());
+    connection.close();
+    return deleted;
 }
 
 qint32 ClsTask::GetTasksCount(

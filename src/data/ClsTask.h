@@ -67,11 +67,11 @@ public:
     std::vector<ClsTask> GetTasks(qint16 cat, qint32 status, qint32 sortBy, bool isDateRange, Moment fromDate,
         Moment toDate, qint32 taskType) const;
     /// Reads every task that has a category, and keeps none; one that does not convert is an
-    /// UnreadableRecordError.
+    /// UnreadableRecordError. How many they are.
     /// `alsoSee` sees each row of the table with all its columns, those of tasks without a category too.
-    void readAll(const std::function<void(const RecordSet&)>& alsoSee = {}) const;
-    /// Deletes the tasks due from `fromDate` to the end of `toDate` that match.
-    void DeleteTasks(qint16 cat, qint32 status, Moment fromDate, Moment toDate, qint32 taskType) const;
+    qint64 readAll(const std::function<void(const RecordSet&)>& alsoSee = {}) const;
+    /// Deletes the tasks due from `fromDate` to the end of `toDate` that match. How many there were.
+    qint32 DeleteTasks(qint16 cat, qint32 status, Moment fromDate, Moment toDate, qint32 taskType) const;
     /// How many tasks `DeleteTasks` would delete.
     qint32 GetTasksCount(qint16 cat, qint32 status, Moment fromDate, Moment toDate, qint32 taskType) const;
     void DeleteById(qint16 Id) const;

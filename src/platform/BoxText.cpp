@@ -15,7 +15,6 @@ constexpr int TextColumns = 3;
 constexpr double TextHeight = 0.6;
 constexpr double FewerEachTime = 0.8;
 constexpr qsizetype FewestCharacters = 40;
-const QChar Ellipsis(0x2026);
 
 bool fits(const QMessageBox& box, const QString& text)
 {
@@ -26,25 +25,12 @@ bool fits(const QMessageBox& box, const QString& text)
     return taken.height() <= room.height() * TextHeight;
 }
 
-/// Without its middle: a question ends with what will happen, and a path with the name of the file.
-QString withoutMiddle(const QString& text, qsizetype characters)
-{
-    QString begin = text.left(characters / 2);
-    QString end = text.right(characters / 2);
-    if (begin.back().isHighSurrogate()) {
-        begin.chop(1);
-    }
-    if (end.front().isLowSurrogate()) {
-        end.remove(0, 1);
-    }
-    return begin + Ellipsis + end;
-}
-
 } // namespace
 
 void setBoxText(QMessageBox& box, const QString& text)
 {
-    QString shown = text.size() > MostCharacters ? withoutMiddle(text, MostCharacters) : text;
+    // A question ends with what will happen, and a path with the name of the file.
+    QString shown = withoutMiddle(text, MostCharacters);
     for (qsizetype characters = shown.size(); characters > FewestCharacters && !fits(box, shown);) {
         characters = static_cast<qsizetype>(static_cast<double>(characters) * FewerEachTime);
         shown = withoutMiddle(text, characters);

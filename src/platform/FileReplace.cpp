@@ -26,6 +26,11 @@ namespace
     throw FileError(path, why);
 }
 
+[[noreturn]] void fail(const QString& path, const std::error_code& error)
+{
+    fail(path, FileError::reason(error.default_error_condition().value()));
+}
+
 void flushFolderOf(const QString& path)
 {
     flushFolder(QFileInfo(path).absolutePath());
@@ -125,7 +130,7 @@ void openSource(QFile& source)
         fail(source.fileName(), FileError::tr("it is not a file"));
     }
     if (!source.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
-        fail(source.fileName(), source.errorString());
+        fail(source.fileName(), FileError::reason(source));
     }
 }
 
@@ -145,12 +150,61 @@ template <typename Fill> void replace(const QString& target, QFileDevice::Permis
 
 } // namespace
 
+QString FileError::reason(int error)
+{
+    switch (error) {
+#ifdef EDQUOT
+    case EDQUOT:
+#endif
+    case ENOSPC:
+        return tr("the disk is full");
+    case EFBIG:
+        return tr("the file would be too large");
+    case EACCES:
+    case EPERM:
+        return tr("there is no permission for that");
+    case EROFS:
+        return tr("nothing can be written to that disk");
+    case ENOENT:
+    case ENOTDIR:
+        return tr("the file or its folder does not exist");
+    case ENAMETOOLONG:
+        return tr("the name is too long");
+    case EIO:
+    case ENXIO:
+    case ENODEV:
+        return tr("the disk failed or was taken out");
+    default:
+        return QString::fromStdString(std::generic_category().message(error));
+    }
+}
+
+QString FileError::reason(const QFileDevice& file)
+{
+#ifdef Q_OS_WIN
+    return file.errorString();
+#else
+    Q_UNUSED(file); // its words are the system's own
+    return reason(errno);
+#endif
+}
+
+QString reasonOf(const std::exception& error)
+{
+    if (const auto* file = dynamic_cast<const FileError*>(&error);
+        file != nullptr && !file->why().isEmpty()) {
+        return file->why();
+    }
+    const auto* told = dynamic_cast<const RuntimeError*>(&error);
+    return told == nullptr ? QString::fromLocal8Bit(error.what()) : told->text();
+}
+
 bool isPresent(const QString& path)
 {
     std::error_code error;
     const auto status = std::filesystem::status(QFileInfo(path).filesystemFilePath(), error);
     if (status.type() == std::filesystem::file_type::none) {
-        fail(path, QString::fromStdString(error.message()));
+        fail(path, error);
     }
     return status.type() != std::filesystem::file_type::not_found;
 }
@@ -206,7 +260,7 @@ void moveOver(const QString& file, const QString& target)
     std::error_code error;
     std::filesystem::rename(QFileInfo(file).filesystemFilePath(), present.filesystemFilePath(), error);
     if (error) {
-        fail(place, QString::fromStdString(error.message()));
+        fail(place, error);
     }
     flushFolderOf(place);
 }

@@ -20,12 +20,20 @@ public:
     {
     }
 
-    /// What the system said, without the name of the file.
+    /// Why, without the name of the file. Empty when the text says it all.
     const QString& why() const { return m_why; }
+    /// Why the system refused something, by its error number and in words for whoever chose the file: "the
+    /// disk is full". For other numbers what the system says of them.
+    static QString reason(int error);
+    /// The same of the call on `file` that has failed just now.
+    static QString reason(const QFileDevice& file);
 
 private:
     QString m_why;
 };
+
+/// Why an operation on files failed, in words that follow a colon.
+QString reasonOf(const std::exception& error);
 
 /// Read and written by its owner alone.
 inline constexpr QFileDevice::Permissions PrivateFile = QFileDevice::ReadOwner | QFileDevice::WriteOwner;

@@ -3,6 +3,7 @@
 #include "platform/FileReplace.h"
 #include "platform/Progress.h"
 
+#include <cerrno>
 #include <utility>
 
 #ifdef Q_OS_WIN
@@ -73,13 +74,13 @@ private:
 NewFile::NewFile(const QString& path, QFileDevice::Permissions permissions) : m_file(path)
 {
     if (!m_file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered, permissions)) {
-        throw FileError(path, m_file.errorString());
+        throw FileError(path, FileError::reason(m_file));
     }
     m_exists = true;
     lock(m_file);
     // The mask must not take away what the owner needs.
     if (permissions == PrivateFile && !m_file.setPermissions(permissions)) {
-        const QString why = m_file.errorString();
+        const QString why = FileError::reason(m_file);
         discard();
         throw FileError(path, why);
     }
@@ -95,7 +96,7 @@ void NewFile::write(const char* bytes, qint64 size)
     for (qint64 written = 0; written < size;) {
         const qint64 step = m_file.write(bytes + written, size - written);
         if (step <= 0) {
-            throw FileError(path(), m_file.errorString());
+            throw FileError(path(), FileError::reason(m_file));
         }
         written += step;
     }
@@ -109,7 +110,7 @@ void NewFile::copy(QFile& from, Progress* progress)
     for (qint64 copied = 0;;) {
         const qint64 size = from.read(chunk.data(), ChunkSize);
         if (size < 0) {
-            throw FileError(from.fileName(), from.errorString());
+            throw FileError(from.fileName(), FileError::reason(from));
         }
         if (size == 0) {
             return;
@@ -126,11 +127,11 @@ void NewFile::copy(QFile& from, Progress* progress)
 void NewFile::finish()
 {
     if (!flushToDisk(m_file)) {
-        throw FileError(path(), qt_error_string());
+        throw FileError(path(), FileError::reason(errno));
     }
     m_file.close();
     if (m_file.error() != QFileDevice::NoError) {
-        throw FileError(path(), m_file.errorString());
+        throw FileError(path(), FileError::reason(m_file));
     }
 }
 

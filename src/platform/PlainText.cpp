@@ -31,6 +31,22 @@ QString breakable(const QString& text)
     return broken;
 }
 
+QString withoutMiddle(const QString& text, qsizetype characters)
+{
+    if (text.size() <= characters) {
+        return text;
+    }
+    QString begin = text.left(characters / 2);
+    QString end = text.right(characters / 2);
+    if (begin.back().isHighSurrogate()) {
+        begin.chop(1);
+    }
+    if (end.front().isLowSurrogate()) {
+        end.remove(0, 1);
+    }
+    return begin + Ellipsis + end;
+}
+
 QString inOwnDirection(const QString& text)
 {
     const bool turned = text.isRightToLeft() != QGuiApplication::isRightToLeft();

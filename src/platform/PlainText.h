@@ -8,6 +8,8 @@
 /// `text` with places to break it wherever it runs on for long without one, as a path or a name without
 /// blanks does. Nothing is seen of them.
 QString breakable(const QString& text);
+/// `text` with an ellipsis in the place of its middle when it is longer than `characters`.
+QString withoutMiddle(const QString& text, qsizetype characters);
 /// `text` read in the direction of its own script, where the program runs in the other one: a date or an
 /// English name is not to be turned around between right-to-left captions.
 QString inOwnDirection(const QString& text);

@@ -5,12 +5,15 @@
 #include "platform/printing/PageOutput.h"
 #include "platform/printing/WindowPrinting.h"
 #include "ui/ComboBox.h"
+#include "ui/QuietLine.h"
 
 #include <QBoxLayout>
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QDir>
 #include <QGraphicsView>
 #include <QLabel>
+#include <QLocale>
 #include <QPainter>
 #include <QPrintPreviewWidget>
 #include <QPushButton>
@@ -45,6 +48,14 @@ QLabel* labelFor(QWidget* buddy, const QString& text)
     return label;
 }
 
+/// As the number of the page writes its own.
+QString inDigits(int number)
+{
+    QLocale locale;
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    return locale.toString(number);
+}
+
 } // namespace
 
 PreviewWindow::PreviewWindow(ReportHost& host, std::function<bool()> hasPrinter)
@@ -59,7 +70,8 @@ PreviewWindow::PreviewWindow(ReportHost& host, std::function<bool()> hasPrinter)
       m_first(named(new QPushButton(tr("&First")), "btnFirstPage")),
       m_previous(named(new QPushButton(tr("Pre&vious")), "btnPreviousPage")),
       m_next(named(new QPushButton(tr("&Next")), "btnNextPage")),
-      m_last(named(new QPushButton(tr("&Last")), "btnLastPage"))
+      m_last(named(new QPushButton(tr("&Last")), "btnLastPage")),
+      m_quietLine(new QuietLine(QStringLiteral("lblReportNote"), this))
 {
     setObjectName(QStringLiteral("drTasks"));
     m_printer.setOutputFormat(QPrinter::PdfFormat);
@@ -72,6 +84,7 @@ PreviewWindow::PreviewWindow(ReportHost& host, std::function<bool()> hasPrinter)
     layout->addLayout(makeCommandRow());
     layout->addWidget(m_preview, 1);
     layout->addLayout(makePageRow());
+    layout->addWidget(m_quietLine);
     makeShortcuts();
     resize(FirstSize * fontMetrics().height());
     setContent({});
@@ -111,7 +124,7 @@ QLayout* PreviewWindow::makePageRow()
     m_zoom->addItem(tr("Whole page"));
     m_zoom->addItem(tr("Page width"));
     for (const int percentage : ZoomPercentages) {
-        m_zoom->addItem(tr("%1 %").arg(percentage), percentage);
+        m_zoom->addItem(tr("%1 %").arg(inDigits(percentage)), percentage);
     }
     auto* zoomIn = named(new QPushButton(tr("Zoom &in")), "btnZoomIn");
     auto* zoomOut = named(new QPushButton(tr("Zoom o&ut")), "btnZoomOut");
@@ -209,9 +222,9 @@ void PreviewWindow::showPage()
     const QSignalBlocker blocker(m_pageNumber);
     const int count = pageCount();
     m_pageNumber->setMaximum(count);
-    m_pageNumber->setSuffix(tr(" of %1").arg(count));
+    m_pageNumber->setSuffix(tr(" of %1").arg(inDigits(count)));
     m_pageNumber->setValue(m_page + 1);
-    const QString place = tr("Page %1 of %2").arg(m_page + 1).arg(count);
+    const QString place = tr("Page %1 of %2").arg(inDigits(m_page + 1), inDigits(count));
     m_pageNumber->setAccessibleName(place);
     m_first->setEnabled(m_page > 0);
     m_previous->setEnabled(m_page > 0);
@@ -311,22 +324,17 @@ void PreviewWindow::btnPrint_Click()
         windowTitle(), m_printer.pageLayout(), pageCount(), m_page, [this](QSizeF area) {
             return layOut(area);
         }};
-    std::optional<PrintFailure> failure;
+    m_quietLine->hush();
     try {
-        failure = printThroughDialog(*this, request);
+        tellHowItEnded(printThroughDialog(*this, request));
     } catch (const Cancelled&) {
         // While the pages were laid out for another paper.
-        return;
-    }
-    if (failure && failure->file.isEmpty()) {
-        tell(tr("The report could not be printed."));
-    } else if (failure) {
-        tellUnwritten(failure->file, failure->reason);
     }
 }
 
 void PreviewWindow::btnExport_Click()
 {
+    m_quietLine->hush();
     const QString file = m_host.choosePdfFile(this);
     if (!file.isEmpty()) {
         exportTo(file);
@@ -337,20 +345,19 @@ void PreviewWindow::exportTo(const QString& file)
 {
     // Stays while it is written, whatever the window shows by then.
     const std::shared_ptr<const ReportLayout> pages = m_layout;
-    const auto failure = writePdfFrom(*this, {file, windowTitle(), m_printer.pageLayout()}, *pages);
-    if (failure) {
-        tellUnwritten(file, *failure);
+    tellHowItEnded(writePdfFrom(*this, {file, windowTitle(), m_printer.pageLayout()}, *pages));
+}
+
+void PreviewWindow::tellHowItEnded(const PrintResult& result)
+{
+    if (result.kind == PrintResult::Kind::Failed) {
+        m_host.tellFailure(this,
+            result.file.isEmpty()
+                ? tr("The report could not be printed.")
+                : tr("The report could not be written to \"%1\": %2.").arg(result.file, result.reason));
+    } else if (result.kind == PrintResult::Kind::Done && !result.file.isEmpty()) {
+        m_quietLine->say(tr("PDF saved to \"%1\"").arg(QDir::toNativeSeparators(result.file)));
     }
-}
-
-void PreviewWindow::tellUnwritten(const QString& file, const QString& reason)
-{
-    tell(tr("The report could not be written to \"%1\": %2.").arg(file, reason));
-}
-
-void PreviewWindow::tell(const QString& text)
-{
-    m_host.tellFailure(this, text);
 }
 
 void PreviewWindow::showEvent(QShowEvent* event)

@@ -7,13 +7,14 @@
 #include <QPrinter>
 #include <QWidget>
 #include <functional>
-#include <optional>
 
 class QComboBox;
 class QLayout;
 class QPrintPreviewWidget;
 class QPushButton;
 class QSpinBox;
+class QuietLine;
+struct PrintResult;
 
 /// The preview of a report, one page at a time: only the page in view is painted, however long the report is.
 class PreviewWindow final : public QWidget, public ReportWindow
@@ -32,8 +33,8 @@ public:
     int page() const { return m_page; }
     void goToPage(int page);
     QPageLayout pageLayout() const { return m_printer.pageLayout(); }
-    /// Exports the report as it is in view and returns when that is done or cancelled; failures are told to
-    /// the user. Another report may be set meanwhile.
+    /// Exports the report as it is in view and returns when that is done or cancelled; how it ended is told
+    /// to the user. Another report may be set meanwhile.
     void exportTo(const QString& file);
 
 protected:
@@ -58,8 +59,7 @@ private:
     /// A window that has not been shown yet gets the room for its controls in two rows.
     void widenForRows();
     void showZoom();
-    void tell(const QString& text);
-    void tellUnwritten(const QString& file, const QString& reason);
+    void tellHowItEnded(const PrintResult& result);
 
     ReportHost& m_host;
     std::function<bool()> m_hasPrinter;
@@ -78,4 +78,5 @@ private:
     QPushButton* m_previous;
     QPushButton* m_next;
     QPushButton* m_last;
+    QuietLine* m_quietLine;
 };

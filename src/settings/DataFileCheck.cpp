@@ -64,8 +64,8 @@ void requireReadableSettings(Trial& trial)
 }
 
 /// That the file is sound and every record in it can be read. The tasks are read once for both; what the
-/// engine finds out about the indexes only at many times the cost is proven by them.
-void requireSoundAndReadable(const DatabaseEngine& engine)
+/// engine finds out about the indexes only at many times the cost is proven by them. The number of tasks.
+qint64 requireSoundAndReadable(const DatabaseEngine& engine)
 {
     Trial trial(engine);
     IndexProof proof(trial.connection(), QStringLiteral("tasks"), QStringLiteral("task_id"));
@@ -76,11 +76,12 @@ void requireSoundAndReadable(const DatabaseEngine& engine)
         "select played,dismissed from tasks,categories where tasks.cat_id=categories.cat_id limit 0");
     trial.execute("select task_id from tasks order by task_name limit 0");
     ClsCategory(engine).GetAllCategories();
-    ClsTask(engine).readAll([&proof](const RecordSet& row) { proof.add(row); });
+    const qint64 tasks = ClsTask(engine).readAll([&proof](const RecordSet& row) { proof.add(row); });
     IndexPages pages(pathIn(engine.programFolder, ClsDatabase(engine).FileName()), engine.progress);
     if (!proof.succeeds(pages)) {
         requireOk(trial.execute("pragma integrity_check"));
     }
+    return tasks;
 }
 
 void requireRoomForCategories(Trial& trial)
@@ -131,11 +132,12 @@ void requireRoomForSettings(Trial& trial)
 
 } // namespace
 
-void requireServiceableDataFile(const DatabaseEngine& engine)
+qint64 requireServiceableDataFile(const DatabaseEngine& engine)
 {
-    requireSoundAndReadable(engine);
+    const qint64 tasks = requireSoundAndReadable(engine);
     Trial trial(engine);
     requireRoomForCategories(trial);
     requireRoomForTasks(trial);
     requireRoomForSettings(trial);
+    return tasks;
 }

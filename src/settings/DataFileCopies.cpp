@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <array>
+#include <cerrno>
 
 namespace
 {
@@ -30,7 +31,7 @@ public:
         remove();
         // The user's mask must not take away what the owner needs.
         if (!QDir().mkdir(m_path, PrivateFolder) || !QFile::setPermissions(m_path, PrivateFolder)) {
-            throw FileError(QStringLiteral("\"%1\": %2.").arg(m_path, qt_error_string()));
+            throw FileError(m_path, FileError::reason(errno));
         }
     }
     ~CheckingFolder() { remove(); }
@@ -133,7 +134,7 @@ void DataFileCopies::backUpTo(const QString& file, Progress* progress) const
     replaceByCopy(m_dataFile, file, PrivateFile, progress);
 }
 
-void DataFileCopies::restoreFrom(const QString& file, Progress* progress) const
+RestoredData DataFileCopies::restoreFrom(const QString& file, Progress* progress) const
 {
     if (isSameFile(file, m_dataFile)) {
         throw FileError(tr("\"%1\" is the data file itself.").arg(file));
@@ -146,13 +147,13 @@ void DataFileCopies::restoreFrom(const QString& file, Progress* progress) const
     const QString checked = pathIn(folder.path(), ClsDatabase(*m_engine).FileName());
     copyToNewFile(file, checked, PrivateFile, progress);
     useRollbackJournal(checked);
-    requireServiceableDataFile({folder.path(), m_engine->clock, nullptr, progress});
+    const qint64 tasks = requireServiceableDataFile({folder.path(), m_engine->clock, nullptr, progress});
     makePrivate(file);
     if (!isPresent(place)) {
         // It would be rolled back into the new file.
         refuseOpenOperation(m_dataFile);
         moveOver(checked, place);
-        return;
+        return {tasks, {}};
     }
     // What lies beside a file that is no database any more belongs to no operation that somebody could
     // finish, and the engine would throw it away.
@@ -169,6 +170,7 @@ void DataFileCopies::restoreFrom(const QString& file, Progress* progress) const
         putBackEarlier(place, folder.path());
         throw;
     }
+    return {tasks, QFileInfo(place).fileName() + QLatin1String(ReplacedSuffix)};
 }
 
 void DataFileCopies::leaveWriteAheadMode() const

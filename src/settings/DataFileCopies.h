@@ -6,6 +6,12 @@
 class Progress;
 struct DatabaseEngine;
 
+/// What a restore has brought.
+struct RestoredData {
+    qint64 tasks = 0; ///< how many the file holds
+    QString replaced; ///< the file beside the data file that holds what was there; empty when nothing was
+};
+
 /// Copies of the data file: backups, and the way back from one. No connection to the data file may be open
 /// meanwhile. All operations throw RuntimeError, or what `progress` throws, and then the data
 /// file and the backups are as they were.
@@ -25,7 +31,7 @@ public:
     /// stays beside it as data.dat.before-restore, with the journal of an operation that died in it, if any;
     /// `file` becomes private to its owner, where that can be. A copy in write-ahead mode is turned to
     /// rollback-journal mode, in which the data file is kept; any other is restored byte for byte.
-    void restoreFrom(const QString& file, Progress* progress = nullptr) const;
+    RestoredData restoreFrom(const QString& file, Progress* progress = nullptr) const;
 
     /// Turns a data file that another program has left in write-ahead mode back to rollback-journal mode: in
     /// the other, changes lie in a second file, which a copy of the data file alone would miss. Where that

@@ -5,6 +5,7 @@
 #include "platform/Clock.h"
 #include "platform/ErrorReport.h"
 #include "platform/FileDialogs.h"
+#include "platform/FileReplace.h"
 #include "platform/LongWork.h"
 #include "platform/MessageBoxes.h"
 #include "platform/ScreenProgress.h"
@@ -15,9 +16,11 @@
 #include "ui/FormServices.h"
 #include "ui/MomentTexts.h"
 #include "ui/Pickers.h"
+#include "ui/QuietLine.h"
 
 #include <QBoxLayout>
 #include <QDateEdit>
+#include <QDir>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -53,6 +56,25 @@ QLabel* labelFor(QWidget* control, const QString& caption, const QString& name)
     return label;
 }
 
+QString deletedNote(qint32 count)
+{
+    return count == 1 ? MaintenancePage::tr("1 task was deleted")
+                      : MaintenancePage::tr("%n tasks were deleted", nullptr, count);
+}
+
+QString restoredNote(const RestoredData& restored, const QString& file)
+{
+    if (restored.replaced.isEmpty()) {
+        return MaintenancePage::tr("Restored from \"%1\"").arg(file);
+    }
+    const auto count = static_cast<int>(restored.tasks);
+    const QString note = count == 1
+        ? MaintenancePage::tr("Restored 1 task from \"%1\"; what was there before is in %2")
+        : MaintenancePage::tr(
+            "Restored %n tasks from \"%1\"; what was there before is in %2", nullptr, count);
+    return note.arg(file, restored.replaced);
+}
+
 QString backupFilter()
 {
     return MaintenancePage::tr("Ambertaks Backup Files (*.abk)|*.abk");
@@ -70,6 +92,8 @@ MaintenancePage::MaintenancePage(const FormServices& services, QWidget* parent)
     m_btnHelp = named("btnHelpMaintenance", new QPushButton(tr("&Help")));
     m_btnHelp->setEnabled(false);
     page->addWidget(m_btnHelp, 0, Qt::AlignRight);
+    m_quietLine = new QuietLine(QStringLiteral("lblMaintenanceNote"), this);
+    page->addWidget(m_quietLine);
 
     ErrorReport& errors = services.errors;
     connectGuarded(m_btnDeleteTasks, &QPushButton::clicked, this,
@@ -178,6 +202,7 @@ MaintenancePage::Criteria MaintenancePage::shownCriteria() const
 
 void MaintenancePage::btnDeleteTasksMaintenance_Click()
 {
+    m_quietLine->hush();
     const ClsTask store(m_services.engine);
     const Criteria counted = shownCriteria();
     qint32 count = 0;
@@ -195,15 +220,18 @@ void MaintenancePage::btnDeleteTasksMaintenance_Click()
     }
     // The category lists may have been reloaded while the question was open.
     const Criteria confirmed = shownCriteria();
+    qint32 deleted = 0;
     m_services.longWork.run(tr("Deleting the tasks..."), LongWork::Kind::Cancellable, [&] {
-        store.DeleteTasks(
+        deleted = store.DeleteTasks(
             confirmed.category, confirmed.status, confirmed.from, confirmed.to, confirmed.taskType);
     });
     emit tasksDeleted();
+    m_quietLine->say(deletedNote(deleted));
 }
 
 void MaintenancePage::btnBackup_Click()
 {
+    m_quietLine->hush();
     const CheckerPause pause(m_services.checkerTimer);
     try {
         FileDialogRequest request;
@@ -213,16 +241,23 @@ void MaintenancePage::btnBackup_Click()
             QStringLiteral("Ambertaks ") + shortDate(m_services.clock.now()).replace(u'/', u'-');
         request.promptBeforeOverwriting = true;
         const QString file = m_services.fileDialogs.save(window(), request);
+        if (file.isEmpty()) {
+            return;
+        }
         ScreenProgress(this, tr("Backing up the data...")).run([&](Progress& progress) {
             DataFileCopies(m_services.engine).backUpTo(file, &progress);
         });
-    } catch (const std::exception&) {
-        // A cancelled dialog or copy, or a target that cannot be written: nothing is reported.
+        m_quietLine->say(tr("Backup saved to \"%1\"").arg(QDir::toNativeSeparators(file)));
+    } catch (const Cancelled&) {
+        // Who cancels knows.
+    } catch (const std::exception& error) {
+        m_quietLine->say(tr("The backup could not be written: %1").arg(reasonOf(error)));
     }
 }
 
 void MaintenancePage::btnRestore_Click()
 {
+    m_quietLine->hush();
     const CheckerPause pause(m_services.checkerTimer);
     try {
         FileDialogRequest request;
@@ -230,13 +265,19 @@ void MaintenancePage::btnRestore_Click()
         request.filter = backupFilter();
         request.promptBeforeOverwriting = true;
         const QString file = m_services.fileDialogs.open(window(), request);
+        if (file.isEmpty()) {
+            return;
+        }
+        RestoredData restored;
         ScreenProgress(this, tr("Restoring the data...")).run([&](Progress& progress) {
-            DataFileCopies(m_services.engine).restoreFrom(file, &progress);
+            restored = DataFileCopies(m_services.engine).restoreFrom(file, &progress);
         });
         emit dataRestored();
-    } catch (const std::exception&) {
-        // A cancelled dialog or copy, or a file that is no backup: nothing has changed, and nothing is
-        // reported.
+        m_quietLine->say(restoredNote(restored, QDir::toNativeSeparators(file)));
+    } catch (const Cancelled&) {
+        // Who cancels knows; nothing has changed.
+    } catch (const std::exception& error) {
+        m_quietLine->say(tr("Nothing was restored: %1").arg(reasonOf(error)));
     }
 }
 

@@ -11,6 +11,7 @@ class QDateEdit;
 class QGroupBox;
 class QPushButton;
 class QRadioButton;
+class QuietLine;
 struct FormServices;
 
 /// The page "Maintenance": bulk delete of tasks, backup and restore of the data file.
@@ -64,4 +65,5 @@ private:
     QPushButton* m_btnBackup = nullptr;
     QPushButton* m_btnRestore = nullptr;
     QPushButton* m_btnHelp = nullptr;
+    QuietLine* m_quietLine = nullptr;
 };

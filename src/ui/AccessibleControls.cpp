@@ -4,6 +4,7 @@
 #include "ui/CheckBox.h"
 #include "ui/ComboBox.h"
 #include "ui/LinkLabel.h"
+#include "ui/QuietLine.h"
 
 #include <QAbstractItemView>
 #include <QAccessibleWidget>
@@ -177,6 +178,32 @@ private:
     LinkLabel& m_link;
 };
 
+/// Screen readers read a notification out when it is told to show.
+class AccessibleQuietLine final : public QAccessibleWidget
+{
+public:
+    explicit AccessibleQuietLine(QuietLine& line)
+        : QAccessibleWidget(&line, QAccessible::Notification), m_line(line)
+    {
+    }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Name ? m_line.said() : QAccessibleWidget::text(kind);
+    }
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        if (m_line.said().isEmpty()) {
+            state.invisible = true;
+        }
+        return state;
+    }
+
+private:
+    QuietLine& m_line;
+};
+
 /// The combo box whose list `view` is; its window is the frame that opens below the box.
 ComboBox* comboOf(const QAbstractItemView& view)
 {
@@ -191,6 +218,9 @@ QAccessibleInterface* accessibleOf(const QString& className, QObject* object)
     }
     if (auto* link = qobject_cast<LinkLabel*>(object)) {
         return new AccessibleLink(*link);
+    }
+    if (auto* line = qobject_cast<QuietLine*>(object)) {
+        return new AccessibleQuietLine(*line);
     }
     if (auto* view = qobject_cast<QAbstractItemView*>(object)) {
         if (ComboBox* combo = comboOf(*view)) {

@@ -204,6 +204,7 @@ ROLES = {
     "menu entry": ("menu item", "check menu item", "radio menu item"),
     "tool tip": ("tool tip",),
     "label": ("label",),
+    "notification": ("notification",),
 }
 
 

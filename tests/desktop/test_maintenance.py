@@ -145,6 +145,19 @@ class BackupTest(MaintenanceCase):
         self.user.wait_hidden(names.SAVE_FILE)
         wait_until(lambda: self.data(self.backup) == self.data(), "the backup has replaced the old file")
 
+    def test_a_screen_reader_is_told_where_the_backup_is_and_the_next_key_takes_it_away(self):
+        self.back_up()
+        note = self.user.access.shown("notification", f'Backup saved to "{self.backup}"')
+        self.assertFalse(note.has("focusable"))
+        self.desk.input.key("Tab")
+        wait_until(lambda: note in self.user.access.told("showing", False), "it is told to be gone")
+        self.assertEqual(note.name, "")
+        # The same once more is news, too.
+        times = len(self.user.access.told("showing"))
+        os.remove(self.backup)
+        self.back_up()
+        wait_until(lambda: note in self.user.access.told("showing")[times:], "it is told again")
+
     def test_a_cancelled_backup_writes_nothing(self):
         before = sorted(os.listdir(self.desk.path("home"))), sorted(os.listdir(self.desk.program)), self.data()
         self.user.click_control(self.open_maintenance(), names.BACKUP)
@@ -165,6 +178,8 @@ class RestoreTest(MaintenanceCase):
         emptied = self.data()
         self.assertNotEqual(emptied, before)
         self.restore(self.backup)
+        self.user.access.shown("notification", f'Restored 4 tasks from "{self.backup}"; what was there before is in '
+                               "data.dat.before-restore")
         self.wait_list(ALL)
         self.assertEqual(self.shown_list(), shown)
         self.assertEqual(self.data(self.previous), emptied, "what was replaced is kept")
@@ -228,10 +243,11 @@ class RestoreTest(MaintenanceCase):
         self.store.add_task("Due", reminder=NOW)
         self.user.alert(1, PERIOD + SLACK)
 
-    def test_a_file_that_is_no_backup_changes_nothing_and_nothing_is_said(self):
+    def test_a_file_that_is_no_backup_changes_nothing_and_a_screen_reader_is_told_why(self):
         before = self.data()
         notes = self.desk.write(os.path.join("home", "notes.abk"), "This is a letter.\n" * 500)
         self.restore(notes)
+        self.user.access.shown("notification", f'Nothing was restored: "{notes}" is no data file.')
         self.wait_list(ALL)
         self.assertEqual(self.data(), before)
         self.assertFalse(os.path.exists(self.previous))

@@ -139,8 +139,8 @@ private slots:
         help.window.showContext(0);
         help.print().click();
         QCOMPARE(help.host.failures,
-            QStringList(QStringLiteral("The topic could not be written to \"/nowhere/at/all.pdf\": No such "
-                                       "file or directory.")));
+            QStringList(QStringLiteral("The topic could not be written to \"/nowhere/at/all.pdf\": the file "
+                                       "or its folder does not exist.")));
     }
 
     // The dialog of the toolkit, driven as a user would; without a printer it knows files alone.

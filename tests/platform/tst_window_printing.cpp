@@ -52,7 +52,9 @@ private slots:
         });
         look.start(10);
         QWidget window;
-        QVERIFY(!printThroughDialog(window, {QStringLiteral("Tasks"), QPageLayout(), 3, 0, {}}).has_value());
+        const PrintResult result =
+            printThroughDialog(window, {QStringLiteral("Tasks"), QPageLayout(), 3, 0, {}});
+        QCOMPARE(result.kind, PrintResult::Kind::Cancelled);
         QVERIFY2(question.contains(name), qPrintable(question));
         QCOMPARE(format, Qt::PlainText);
     }

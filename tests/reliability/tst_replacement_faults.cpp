@@ -1,6 +1,7 @@
 #include "categories/CustomIcons.h"
 #include "data/ClsDatabase.h"
 #include "data/ClsTask.h"
+#include "platform/FileReplace.h"
 #include "platform/Registry.h"
 #include "platform/RuntimeError.h"
 #include "reliability/DataFileState.h"
@@ -8,6 +9,7 @@
 #include "settings/DataFileCopies.h"
 #include "settings/DeadOperation.h"
 #include "settings/Skins.h"
+#include "support/CaughtError.h"
 #include "support/ScriptedDialogs.h"
 #include "support/TestDatabase.h"
 #include "support/TestMain.h"
@@ -15,6 +17,7 @@
 
 #include <QStandardPaths>
 #include <QTest>
+#include <cerrno>
 #include <filesystem>
 
 namespace
@@ -94,6 +97,7 @@ private slots:
     void aBackupUnderANewNameIsWholeOrNotThere();
     void aBackupReplacesAnOlderOneWholeOrNotAtAll();
     void aBackupAfterADeadOperationIsWholeOrNotThere();
+    void aFullDiskIsToldInWords();
     void aBackupAfterEveryPowerCutHoldsTheOldStateOrTheNew();
     void aRestoreReplacesTheDataFileWholeOrNotAtAll();
     void aRestoreOverADeadOperationIsWholeOrNotAtAll();
@@ -146,6 +150,25 @@ void TestReplacementFaults::aBackupReplacesAnOlderOneWholeOrNotAtAll()
 {
     const Place place;
     trySweep(place, place.backup(QStringLiteral("elsewhere/b.abk")));
+}
+
+void TestReplacementFaults::aFullDiskIsToldInWords()
+{
+    const Place place;
+    FaultyDisk disk(place.path(QStringLiteral("elsewhere")).toStdString());
+    int told = 0;
+    std::size_t call = 0;
+    do {
+        disk.watch({++call, ENOSPC, FaultyDisk::Lasting::ForThisKind});
+        const auto error = caught<FileError>(
+            [&] { DataFileCopies(place.engine).backUpTo(place.path(QStringLiteral("elsewhere/new.abk"))); });
+        disk.stopWatching();
+        if (error) {
+            QCOMPARE(error->why(), QStringLiteral("the disk is full"));
+            ++told;
+        }
+    } while (disk.hasRefused());
+    QVERIFY2(told >= 3, qPrintable(QString::number(told)));
 }
 
 void TestReplacementFaults::aBackupAfterADeadOperationIsWholeOrNotThere()
@@ -292,15 +315,15 @@ void TestReplacementFaults::aRestoreOverAnEmptyFileKeepsItsJournal()
 void TestReplacementFaults::aSkinIsAddedWholeOrNotAtAll()
 {
     const Place place;
-    const QString skin = place.path(QStringLiteral("elsewhere/New.skf"));
+    const QString skin = place.path(QStringLiteral("elsewhere/Lemon.skf"));
     QVERIFY(QFile::copy(QStringLiteral(AMBERTASK_SHIPPED_SKINS "/Lemon.skf"), skin));
-    writeFile(place.path(QStringLiteral("program/Skins")), QStringLiteral("New.skf"), "an older one");
+    writeFile(place.path(QStringLiteral("program/Skins")), QStringLiteral("Lemon.skf"), "an older one");
     ScriptedDialogs dialogs;
     const Skins skins(place.engine.programFolder, dialogs);
     trySweep(place,
         {[&] { return told([&] { skins.add(skin); }); },
             [](const std::string& folder) {
-                return contentIn(folder, "program/Skins/New.skf");
+                return contentIn(folder, "program/Skins/Lemon.skf");
             }});
 }
 

@@ -3,6 +3,7 @@
 #include "report/PreviewWindow.h"
 #include "tests/report/RecordedReportHost.h"
 #include "tests/report/ReportSamples.h"
+#include "ui/QuietLine.h"
 
 #include <QComboBox>
 #include <QPrintPreviewWidget>
@@ -33,6 +34,8 @@ struct PreviewUnderTest {
         emit combo->activated(index);
     }
     QString pageText() { return control<QSpinBox>("spnPage")->text(); }
+    /// What the line at the foot says.
+    QString said() { return control<QuietLine>("lblReportNote")->said(); }
     QPrintPreviewWidget* preview() { return control<QPrintPreviewWidget>("prvReport"); }
     /// A picture of what the preview shows.
     QImage picture()

@@ -82,6 +82,7 @@ private slots:
         const QStringList pages = pagesOfPdf(f.host.file);
         QCOMPARE(pages.size(), f.window.pageCount());
         QVERIFY(pages.last().contains(QStringLiteral("record 60.")));
+        QCOMPARE(f.said(), QStringLiteral("PDF saved to \"%1\"").arg(f.host.file));
     }
 
     void aCancelledExportWritesNothing()
@@ -89,6 +90,7 @@ private slots:
         PreviewUnderTest f(1);
         f.press("btnExport");
         QCOMPARE(f.host.failures, QStringList());
+        QCOMPARE(f.said(), QString());
     }
 
     // Long enough for the box, which the real time brings.
@@ -110,6 +112,7 @@ private slots:
         f.press("btnExport");
         QCOMPARE(text, QStringLiteral("Writing the PDF file..."));
         QCOMPARE(f.host.failures, QStringList());
+        QCOMPARE(f.said(), QString());
         QVERIFY(QDir(folder.path()).isEmpty());
     }
 
@@ -154,8 +157,11 @@ private slots:
         f.host.file = folder.filePath(QStringLiteral("missing/out.pdf"));
         f.press("btnExport");
         QCOMPARE(f.host.failures.size(), 1);
-        QVERIFY(f.host.failures[0].startsWith(
-            QStringLiteral("The report could not be written to \"%1\": ").arg(f.host.file)));
+        QCOMPARE(f.host.failures[0],
+            QStringLiteral(
+                "The report could not be written to \"%1\": the file or its folder does not exist.")
+                .arg(f.host.file));
+        QCOMPARE(f.said(), QString());
         QVERIFY(QDir(folder.path()).isEmpty());
     }
 

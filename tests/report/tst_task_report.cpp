@@ -4,6 +4,7 @@
 #include "report/PreviewWindow.h"
 #include "support/CaughtError.h"
 #include "support/PdfFile.h"
+#include "support/RecordedReportWindow.h"
 #include "support/TestMain.h"
 #include "support/TestServices.h"
 #include "tests/report/ReportSamples.h"
@@ -105,6 +106,25 @@ private slots:
         aTask(f.services.database).withStatus(9).add();
         f.print();
         QVERIFY(f.text().contains(QRegularExpression(QStringLiteral("Status +9\\b"))));
+    }
+
+    void theDateIsInTheDigitsOfTheLanguage()
+    {
+        TestServices services;
+        RecordedReportWindow* window = nullptr;
+        QWidget owner;
+        drTasks report(services.services, [&](ReportHost&) {
+            auto made = std::make_unique<RecordedReportWindow>();
+            window = made.get();
+            return made;
+        });
+        aTask(services.database).dueAt(makeMoment(2026y / 2 / 3, 23h + 59min)).add();
+        const QLocale before;
+        QLocale::setDefault(QLocale(QLocale::Arabic, QLocale::Egypt));
+        report.printTasks({}, &owner);
+        QLocale::setDefault(before);
+        constexpr std::size_t DueDate = 4;
+        QCOMPARE(window->content.records.at(0).at(DueDate), QStringLiteral("٠٣/٠٢/٢٠٢٦"));
     }
 
     void everyCodeHasItsWord_data()
@@ -327,7 +347,8 @@ private slots:
         const QString file = QStringLiteral("/nowhere/at/all.pdf");
         f.services.dialogs.expectSave(file);
         f.services.dialogs.expectTell(MessageBoxes::Icon::Exclamation,
-            QStringLiteral("The report could not be written to \"%1\": No such file or directory.")
+            QStringLiteral(
+                "The report could not be written to \"%1\": the file or its folder does not exist.")
                 .arg(file));
         QTest::mouseClick(f.window->findChild<QPushButton*>(QStringLiteral("btnExport")), Qt::LeftButton);
     }

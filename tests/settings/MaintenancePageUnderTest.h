@@ -3,6 +3,7 @@
 #include "settings/MaintenancePage.h"
 #include "settings/SkinFolder.h"
 #include "support/TestServices.h"
+#include "ui/QuietLine.h"
 
 #include <QComboBox>
 #include <QDateEdit>
@@ -39,6 +40,8 @@ struct MaintenancePageUnderTest : TestServices {
         }
         return names;
     }
+    /// What the line at the foot says.
+    QString said() const { return find<QuietLine>("lblMaintenanceNote")->said(); }
     /// All that lies in the program folder, hidden files included.
     QStringList files() const
     {

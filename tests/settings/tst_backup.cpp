@@ -19,7 +19,10 @@ private slots:
     void aLinkIsFollowedToTheFileItPointsTo();
     void theCheckerRestsFromTheDialogToTheEndOfTheCopy();
     void aCancelledDialogChangesNothing();
-    void aTargetThatCannotBeWrittenIsSilent();
+    void aTargetThatCannotBeWrittenIsToldInTheLineAlone_data();
+    void aTargetThatCannotBeWrittenIsToldInTheLineAlone();
+    void theLineSaysWhereTheCopyIs();
+    void aDialogThatIsCancelledSaysNothing();
     void theDataFileItselfIsNeverTheTarget_data();
     void theDataFileItselfIsNeverTheTarget();
     void aFullDiskLeavesTheOlderBackup();
@@ -99,18 +102,55 @@ void TestBackup::aCancelledDialogChangesNothing()
     QVERIFY(test.checkerTimer.enabled);
 }
 
-void TestBackup::aTargetThatCannotBeWrittenIsSilent()
+void TestBackup::aTargetThatCannotBeWrittenIsToldInTheLineAlone_data()
 {
+    QTest::addColumn<QString>("target");
+    QTest::addColumn<QString>("why");
+    QTest::newRow("no such folder") << "/nowhere/b.abk"
+                                    << "the file or its folder does not exist";
+    QTest::newRow("a folder") << "folder"
+                              << "it is not a file";
+    QTest::newRow("a device") << "/dev/null"
+                              << "it is not a file";
+    QTest::newRow("a name of 300 letters") << QString(300, u'n') << "the name is too long";
+    QTest::newRow("the data file") << "data.dat"
+                                   << "\"%1\" is the data file itself.";
+}
+
+void TestBackup::aTargetThatCannotBeWrittenIsToldInTheLineAlone()
+{
+    QFETCH(const QString, target);
+    QFETCH(const QString, why);
     MaintenancePageUnderTest test;
     QVERIFY(QDir(test.database.folder()).mkdir(QStringLiteral("folder")));
-    for (const QString& target : {QStringLiteral("/nowhere/b.abk"), test.pathOf(QStringLiteral("folder")),
-             QStringLiteral("/dev/null")}) {
-        test.dialogs.expectSave(target);
-        test.press("btnBackup");
-        QVERIFY(test.checkerTimer.enabled);
-    }
+    const QString file = target.startsWith(u'/') ? target : test.pathOf(target);
+    test.dialogs.expectSave(file);
+    test.press("btnBackup");
+    QCOMPARE(test.said(),
+        QStringLiteral("The backup could not be written: ") + (why.contains(u'%') ? why.arg(file) : why));
+    QVERIFY(test.checkerTimer.enabled);
     QCOMPARE(test.files(), QStringList({QStringLiteral("data.dat"), QStringLiteral("folder")}));
     QVERIFY(!QFileInfo(QStringLiteral("/dev/null")).isFile());
+}
+
+void TestBackup::theLineSaysWhereTheCopyIs()
+{
+    MaintenancePageUnderTest test;
+    const QString backup = test.pathOf(QStringLiteral("<i>b<i>.abk"));
+    test.dialogs.expectSave(backup);
+    test.press("btnBackup");
+    QCOMPARE(test.said(), QStringLiteral("Backup saved to \"%1\"").arg(backup));
+}
+
+void TestBackup::aDialogThatIsCancelledSaysNothing()
+{
+    MaintenancePageUnderTest test;
+    test.dialogs.expectSave(test.pathOf(QStringLiteral("b.abk")));
+    test.press("btnBackup");
+    test.dialogs.expectSave({});
+    // Assistive technology presses without a key.
+    test.find<QPushButton>("btnBackup")->click();
+    QCOMPARE(test.said(), QString());
 }
 
 void TestBackup::theDataFileItselfIsNeverTheTarget_data()
@@ -153,6 +193,7 @@ void TestBackup::aFullDiskLeavesTheOlderBackup()
     QCOMPARE(contentOf(backup), QByteArray("old"));
     QCOMPARE(test.files(), QStringList({QStringLiteral("data.dat"), QStringLiteral("old.abk")}));
     QVERIFY(test.checkerTimer.enabled);
+    QCOMPARE(test.said(), QStringLiteral("The backup could not be written: the file would be too large"));
 }
 
 void TestBackup::aCancelledCopyLeavesTheOlderBackup()

@@ -83,7 +83,9 @@ void TestMaintenancePage::listsAndPickersAreNamedByTheirLabels()
     MaintenancePageUnderTest test;
     QStringList labels;
     for (const QLabel* label : test.page.findChildren<QLabel*>()) {
-        labels.append(label->text().remove(u'&') + u' ' + label->buddy()->objectName());
+        if (label->buddy() != nullptr) {
+            labels.append(label->text().remove(u'&') + u' ' + label->buddy()->objectName());
+        }
     }
     labels.sort();
     QCOMPARE(labels,
@@ -227,6 +229,7 @@ void TestMaintenancePage::categoryAndStatusNarrowTheChoice()
     test.dialogs.expectAsk(QStringLiteral("Are you sure you want to delete 1 tasks?"), true);
     test.press("btnDeleteTasksMaintenance");
     QCOMPARE(test.tasks().join(u','), QStringLiteral("elsewhere,open"));
+    QCOMPARE(test.said(), QStringLiteral("1 task was deleted"));
     QCOMPARE(test.database.statements().take().first(),
         QStringLiteral("select count(*) as tasks_count from tasks  where cat_id= %1 and task_status = 2 and "
                        "task_due_date >= #1/15/2026# and task_due_date <= #1/15/2026 23:59# ")
@@ -241,6 +244,7 @@ void TestMaintenancePage::anythingButYesDeletesNothing()
     test.press("btnDeleteTasksMaintenance");
     QCOMPARE(test.tasks().size(), 6);
     QCOMPARE(test.deleted.size(), 0);
+    QCOMPARE(test.said(), QString());
 }
 
 /// Changes the criteria while the question is open.
@@ -278,6 +282,9 @@ void TestMaintenancePage::theCriteriaAreReadAgainAfterTheQuestion()
         page.findChild<QPushButton*>(QStringLiteral("btnDeleteTasksMaintenance")), Qt::LeftButton);
     QCOMPARE(own.database.sql(QStringLiteral("select group_concat(task_name) from tasks")).toString(),
         QStringLiteral("yesterday,now,tonight,tomorrow"));
+    // What was deleted, not what was counted before.
+    QCOMPARE(page.findChild<QuietLine*>(QStringLiteral("lblMaintenanceNote"))->said(),
+        QStringLiteral("2 tasks were deleted"));
 }
 
 void TestMaintenancePage::aRangeThatEndsBeforeItBeginsMatchesNothing()

@@ -21,6 +21,9 @@ private slots:
     void theCheckerRestsUntilEverythingIsReloaded();
     void theDialogAsksForABackup();
     void aCancelledDialogChangesNothing();
+    void theLineSaysWhatCameBackAndWhereTheOtherIs();
+    void theLineCountsOneTaskAndNone();
+    void aRefusedFileIsToldWithItsReason();
     void aBackupOfAnUnfinishedOperationIsRefused();
     void theDataFileIsNotItsOwnBackup();
     void theFileOfTheLastRestoreCanBeRestored();
@@ -110,6 +113,47 @@ void TestRestore::theDialogAsksForABackup()
         QCOMPARE(request.filter, QStringLiteral("Ambertaks Backup Files (*.abk)|*.abk"));
     });
     test.press("btnRestore");
+}
+
+void TestRestore::theLineSaysWhatCameBackAndWhereTheOtherIs()
+{
+    RestoreUnderTest test;
+    for (int i = 0; i < 35; ++i) {
+        aTask(test.database).add();
+    }
+    // The list shows no task whose category is gone.
+    aTask(test.database).in(31000).add();
+    test.database.sql(QStringLiteral("delete from tasks where task_name='after'"));
+    const QString backup = test.elsewhere.filePath(QStringLiteral("many.abk"));
+    DataFileCopies(test.database.engine()).backUpTo(backup);
+    test.restore(backup);
+    QCOMPARE(test.said(),
+        QStringLiteral("Restored 35 tasks from \"%1\"; what was there before is in data.dat.before-restore")
+            .arg(backup));
+}
+
+void TestRestore::theLineCountsOneTaskAndNone()
+{
+    RestoreUnderTest test;
+    test.restore(test.backup());
+    QVERIFY2(test.said().startsWith(QLatin1String("Restored 1 task from ")), qPrintable(test.said()));
+    test.database.sql(QStringLiteral("delete from tasks"));
+    const QString empty = test.elsewhere.filePath(QStringLiteral("none.abk"));
+    DataFileCopies(test.database.engine()).backUpTo(empty);
+    test.restore(empty);
+    QVERIFY2(test.said().startsWith(QLatin1String("Restored 0 tasks from ")), qPrintable(test.said()));
+}
+
+void TestRestore::aRefusedFileIsToldWithItsReason()
+{
+    RestoreUnderTest test;
+    const QString letter = test.elsewhere.filePath(QStringLiteral("letter.abk"));
+    writeText(letter, "Dear Sir or Madam");
+    test.restore(letter);
+    QCOMPARE(test.said(), QStringLiteral("Nothing was restored: \"%1\" is no data file.").arg(letter));
+    test.dialogs.expectOpen({});
+    test.find<QPushButton>("btnRestore")->click();
+    QCOMPARE(test.said(), QString());
 }
 
 void TestRestore::aCancelledDialogChangesNothing()

@@ -6,8 +6,10 @@
 #include "help/window/TopicView.h"
 #include "platform/WrappingRow.h"
 #include "platform/printing/WindowPrinting.h"
+#include "ui/QuietLine.h"
 
 #include <QBoxLayout>
+#include <QDir>
 #include <QFileInfo>
 #include <QLabel>
 #include <QPushButton>
@@ -39,7 +41,8 @@ QString fileNameOf(QString title)
 
 CompiledHelpWindow::CompiledHelpWindow(HelpHost& host, std::function<bool()> hasPrinter)
     : m_host(host), m_hasPrinter(std::move(hasPrinter)), m_damaged(new QLabel), m_tabs(new QTabWidget),
-      m_contents(new ContentsPane), m_index(new IndexPane), m_search(new SearchPane), m_topic(new TopicView)
+      m_contents(new ContentsPane), m_index(new IndexPane), m_search(new SearchPane), m_topic(new TopicView),
+      m_quietLine(new QuietLine(QStringLiteral("lblHelpNote"), this))
 {
     setObjectName(QStringLiteral("HelpWindow"));
     setWindowTitle(tr("Ambertask Help"));
@@ -55,6 +58,7 @@ CompiledHelpWindow::CompiledHelpWindow(HelpHost& host, std::function<bool()> has
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(makeBar());
     layout->addWidget(splitter, 1);
+    layout->addWidget(m_quietLine);
     resize(FirstSize * line);
     connectPanes();
     addKeys();
@@ -267,6 +271,7 @@ void CompiledHelpWindow::showContext(qint32 context)
 
 void CompiledHelpWindow::btnPrint_Click()
 {
+    m_quietLine->hush();
     if (!m_hasPrinter()) {
         if (m_host.ask(this,
                 tr("No printer is set up on this computer. Do you want to write this topic to a PDF file "
@@ -280,12 +285,7 @@ void CompiledHelpWindow::btnPrint_Click()
         TopicPages(*m_topic->document(), printableArea(page)).pageCount(), 0, [this](QSizeF area) {
             return std::make_shared<TopicPages>(*m_topic->document(), area);
         }};
-    const auto failure = printThroughDialog(*this, request);
-    if (failure && failure->file.isEmpty()) {
-        m_host.tellFailure(this, tr("The topic could not be printed."));
-    } else if (failure) {
-        tellUnwritten(failure->file, failure->reason);
-    }
+    tellHowItEnded(printThroughDialog(*this, request));
 }
 
 void CompiledHelpWindow::writeTopicPdf()
@@ -297,13 +297,17 @@ void CompiledHelpWindow::writeTopicPdf()
     }
     const QPageLayout page = usualPage();
     const TopicPages pages(*m_topic->document(), printableArea(page));
-    const auto failure = writePdfFrom(*this, {file, title, page}, pages);
-    if (failure) {
-        tellUnwritten(file, *failure);
-    }
+    tellHowItEnded(writePdfFrom(*this, {file, title, page}, pages));
 }
 
-void CompiledHelpWindow::tellUnwritten(const QString& file, const QString& reason)
+void CompiledHelpWindow::tellHowItEnded(const PrintResult& result)
 {
-    m_host.tellFailure(this, tr("The topic could not be written to \"%1\": %2.").arg(file, reason));
+    if (result.kind == PrintResult::Kind::Failed) {
+        m_host.tellFailure(this,
+            result.file.isEmpty()
+                ? tr("The topic could not be printed.")
+                : tr("The topic could not be written to \"%1\": %2.").arg(result.file, result.reason));
+    } else if (result.kind == PrintResult::Kind::Done && !result.file.isEmpty()) {
+        m_quietLine->say(tr("PDF saved to \"%1\"").arg(QDir::toNativeSeparators(result.file)));
+    }
 }

@@ -11,8 +11,10 @@ class IndexPane;
 class QLabel;
 class QPushButton;
 class QTabWidget;
+class QuietLine;
 class SearchPane;
 class TopicView;
+struct PrintResult;
 
 /// The help window over a compiled help file.
 class CompiledHelpWindow final : public HelpWindow
@@ -45,7 +47,7 @@ private:
     void setTextSize(int steps);
     void btnPrint_Click();
     void writeTopicPdf();
-    void tellUnwritten(const QString& file, const QString& reason);
+    void tellHowItEnded(const PrintResult& result);
 
     HelpHost& m_host;
     std::function<bool()> m_hasPrinter;
@@ -58,6 +60,7 @@ private:
     IndexPane* m_index;
     SearchPane* m_search;
     TopicView* m_topic;
+    QuietLine* m_quietLine;
     QPushButton* m_back = nullptr;
     QPushButton* m_forward = nullptr;
     QPushButton* m_home = nullptr;

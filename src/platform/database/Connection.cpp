@@ -80,6 +80,11 @@ qint64 Connection::insertedId() const
     return m_session == nullptr ? 0 : m_session->insertedId();
 }
 
+qint64 Connection::changedRows() const
+{
+    return m_session->changedRows();
+}
+
 void Connection::commit()
 {
     if (m_session == nullptr) {

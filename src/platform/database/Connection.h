@@ -40,6 +40,8 @@ public:
     /// The id of the record that was inserted last on this connection; 0 before the first and when it is not
     /// open. No statement is sent for it.
     qint64 insertedId() const;
+    /// How many rows the last statement that writes has changed. Only while the connection is open.
+    qint64 changedRows() const;
     /// Makes what was written durable before the close, for callers that go on only when it is. Throws
     /// DatabaseError (Storage), and then nothing of this connection's writing is in the file.
     void commit();

@@ -21,13 +21,11 @@ using Kind = DatabaseError::Kind;
 /// So many steps of the engine's machine are done in well under a millisecond.
 constexpr int StepsOfProgress = 20000;
 constexpr int BusyMilliseconds = 250;
-constexpr qsizetype ShownStatementLength = 200;
 
 QString shortened(const QString& statement)
 {
-    return statement.size() <= ShownStatementLength
-        ? statement
-        : statement.left(ShownStatementLength) + QStringLiteral("...");
+    constexpr qsizetype Shown = 200;
+    return statement.size() <= Shown ? statement : statement.left(Shown) + QStringLiteral("...");
 }
 
 /// Errors that say something about the statement alone; all others are about the file or the machine.
@@ -264,6 +262,11 @@ sqlite3_stmt* Session::prepare(const QString& statement)
             Kind::Statement, tr("The text holds more than one statement: %1").arg(shortened(statement)));
     }
     return prepared;
+}
+
+qint64 Session::changedRows() const
+{
+    return sqlite3_changes64(m_database);
 }
 
 int Session::executeOwn(const char* sql)

@@ -62,6 +62,8 @@ public:
     void releaseCursors();
     /// The id of the record that was inserted last; 0 before the first.
     qint64 insertedId() const;
+    /// How many rows the last insert, update or delete that ran to its end has changed.
+    qint64 changedRows() const;
     /// A storage error has undone the operation.
     bool isUndone() const { return m_undone; }
 

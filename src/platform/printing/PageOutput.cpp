@@ -101,7 +101,7 @@ std::optional<QString> writePdf(
     const QFileInfo present(target.file);
     if (present.isFile() && !present.isWritable()) {
         // It could be replaced all the same, but whoever protected it did not mean that.
-        return qt_error_string(EACCES);
+        return FileError::reason(EACCES);
     }
     const auto permissions = present.isFile() ? present.permissions() : PublicFile;
     try {

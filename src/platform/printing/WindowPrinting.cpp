@@ -1,10 +1,14 @@
 #include "platform/printing/WindowPrinting.h"
 
+#include "platform/FileDialogs.h"
 #include "platform/PlainDialogTexts.h"
 #include "platform/ScreenProgress.h"
 #include "platform/printing/WithheldPrinting.h"
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QLineEdit>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
@@ -35,34 +39,36 @@ private:
     std::optional<WithheldPrinting> m_withheld;
 };
 
-std::optional<QString> putOutWithProgress(
-    QWidget& window, const QString& text, const std::function<std::optional<QString>(Progress&)>& putOut)
+/// `putOut` answers why it failed, if it did.
+PrintResult putOutWithProgress(QWidget& window, const QString& text, const QString& file,
+    const std::function<std::optional<QString>(Progress&)>& putOut)
 {
     std::optional<QString> failure;
     try {
         ScreenProgress(&window, text).run([&](Progress& progress) { failure = putOut(progress); });
     } catch (const Cancelled&) {
-        return std::nullopt;
+        return {PrintResult::Kind::Cancelled, file, {}};
     }
-    return failure;
+    return {failure ? PrintResult::Kind::Failed : PrintResult::Kind::Done, file, failure.value_or(QString())};
 }
 
-bool print(QWidget& window, QPrinter& printer, const PrintedPages& pages, const std::vector<int>& order)
+PrintResult print(
+    QWidget& window, QPrinter& printer, const PrintedPages& pages, const std::vector<int>& order)
 {
     const QString text = QCoreApplication::translate("Printing", "Printing...");
-    return !putOutWithProgress(window, text, [&](Progress& progress) -> std::optional<QString> {
+    return putOutWithProgress(window, text, {}, [&](Progress& progress) -> std::optional<QString> {
         PrinterProgress withdrawing(printer, progress);
         const bool painted = paintPages(printer, pages, order, &withdrawing);
         return painted ? std::nullopt : std::optional(QString());
     });
 }
 
-std::optional<QString> writePages(
+PrintResult writePages(
     QWidget& window, const PdfTarget& target, const PrintedPages& pages, const std::vector<int>& order)
 {
     const QString text = QCoreApplication::translate("Printing", "Writing the PDF file...");
-    return putOutWithProgress(
-        window, text, [&](Progress& progress) { return writePdf(target, pages, order, &progress); });
+    return putOutWithProgress(window, text, target.file,
+        [&](Progress& progress) { return writePdf(target, pages, order, &progress); });
 }
 
 } // namespace
@@ -72,7 +78,7 @@ bool hasPrinter()
     return !QPrinterInfo::availablePrinterNames().isEmpty();
 }
 
-std::optional<PrintFailure> printThroughDialog(QWidget& window, const PrintRequest& request)
+PrintResult printThroughDialog(QWidget& window, const PrintRequest& request)
 {
     QPrinter printer(QPrinter::HighResolution);
     printer.setPageLayout(request.page);
@@ -82,24 +88,28 @@ std::optional<PrintFailure> printThroughDialog(QWidget& window, const PrintReque
     dialog.setWindowFlag(Qt::WindowStaysOnTopHint, window.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
     dialog.setOption(QAbstractPrintDialog::PrintCurrentPage);
     dialog.setMinMax(1, request.pageCount);
+    if (auto* file = dialog.findChild<QLineEdit*>(QStringLiteral("filename"))) {
+        // It proposes a file where the program was started, and has no call that says otherwise (Qt 6.4.2).
+        file->setText(
+            QDir(userFolder(QStandardPaths::DocumentsLocation)).filePath(QFileInfo(file->text()).fileName()));
+    }
     if (dialog.exec() != QDialog::Accepted) {
-        return std::nullopt;
+        return {};
     }
     // The dialog may have chosen another paper.
     const auto pages = request.layOut(printableArea(printer.pageLayout()));
     const std::vector<int> order = chosenPages(printer, pages->pageCount(), request.currentPage);
     if (order.empty()) {
-        return std::nullopt;
+        return {};
     }
     if (printer.outputFormat() == QPrinter::PdfFormat) {
         const QString file = printer.outputFileName();
-        const auto reason = writePages(window, {file, request.title, printer.pageLayout()}, *pages, order);
-        return reason ? std::optional(PrintFailure{file, *reason}) : std::nullopt;
+        return writePages(window, {file, request.title, printer.pageLayout()}, *pages, order);
     }
-    return print(window, printer, *pages, order) ? std::nullopt : std::optional(PrintFailure());
+    return print(window, printer, *pages, order);
 }
 
-std::optional<QString> writePdfFrom(QWidget& window, const PdfTarget& target, const PrintedPages& pages)
+PrintResult writePdfFrom(QWidget& window, const PdfTarget& target, const PrintedPages& pages)
 {
     return writePages(window, target, pages, allPages(pages));
 }

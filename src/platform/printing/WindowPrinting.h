@@ -22,16 +22,17 @@ struct PrintRequest {
 /// Whether there is a printer to print on. The first question loads what the system has for printing.
 bool hasPrinter();
 
-/// What kept a request from being printed.
-struct PrintFailure {
-    QString file; ///< that was chosen in place of a printer; else empty, and so is the reason
-    QString reason;
+/// How a request ended.
+struct PrintResult {
+    /// Who cancels a dialog or the printing has nothing printed, and that is no failure.
+    enum class Kind { Done, Cancelled, Failed };
+    Kind kind = Kind::Cancelled;
+    QString file; ///< that was written, or was to be, in place of a printer; empty for a printer
+    QString reason; ///< why the file could not be written
 };
 
-/// Lets the user choose printer and pages, and prints them. Who cancels dialog or printing has nothing
-/// printed, and that is no failure.
-std::optional<PrintFailure> printThroughDialog(QWidget& window, const PrintRequest& request);
+/// Lets the user choose printer and pages, and prints them.
+PrintResult printThroughDialog(QWidget& window, const PrintRequest& request);
 
-/// Writes all pages to a PDF file, which appears complete or not at all. The text of the failure, if any; to
-/// be cancelled is none.
-std::optional<QString> writePdfFrom(QWidget& window, const PdfTarget& target, const PrintedPages& pages);
+/// Writes all pages to a PDF file, which appears complete or not at all.
+PrintResult writePdfFrom(QWidget& window, const PdfTarget& target, const PrintedPages& pages);
