@@ -72,7 +72,7 @@ void Program::start(const std::function<bool()>& noteFirstStart)
     dataFile.keepPrivate();
     dataFile.leaveWriteAheadMode();
     m_settings = SettingsStore(m_engine).read();
-    const bool isSkinLoaded = m_skins.load(m_settings.skin);
+    const bool isSkinLoaded = m_skins.load(m_settings.skin, Skins::Asked::AtStart);
     if (noteFirstStart()) {
         writeRunEntry(m_machine.registry, m_machine.engine.programFolder);
     }

@@ -2,6 +2,7 @@
 
 #include "platform/ErrorReport.h"
 #include "platform/FileDialogs.h"
+#include "platform/FileReplace.h"
 #include "platform/LongWork.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Registry.h"
@@ -15,6 +16,7 @@
 #include "ui/ComboBox.h"
 #include "ui/FormServices.h"
 #include "ui/LinkLabel.h"
+#include "ui/QuietLine.h"
 
 #include <QBoxLayout>
 #include <QGridLayout>
@@ -45,6 +47,8 @@ SettingsPage::SettingsPage(const FormServices& services, SettingsRecord& record,
     buttons->addWidget(m_btnSave);
     buttons->addWidget(m_btnHelpSettings);
     page->addLayout(buttons, 3, 0, 1, 2);
+    m_quietLine = new QuietLine(QStringLiteral("lblSettingsNote"), this);
+    page->addWidget(m_quietLine, 4, 0, 1, 2);
 
     connectControls();
 }
@@ -190,7 +194,7 @@ void SettingsPage::btnSave_Click()
         [this] { SettingsStore(m_services.engine).save(shownSettings(), m_record); });
     updateRunEntry();
     if (m_skinChanged) {
-        applySkin();
+        m_skins.wear(m_cmbSkins->currentText());
         m_skinChanged = false;
     }
     m_host.placeMainWindow(m_record.always_on_top);
@@ -209,7 +213,7 @@ void SettingsPage::updateRunEntry() const
 
 void SettingsPage::applySkin()
 {
-    m_skins.wear(m_cmbSkins->currentText());
+    m_skins.wear(m_cmbSkins->currentText(), Skins::Asked::AtStart);
 }
 
 void SettingsPage::cmbSkins_Click()
@@ -219,6 +223,7 @@ void SettingsPage::cmbSkins_Click()
 
 void SettingsPage::btnBrowseNewSkin_Click()
 {
+    m_quietLine->hush();
     FileDialogRequest request;
     request.name = QStringLiteral("cdSkinsBrowse");
     request.filter = tr("Skin Files (*.skf)|*.skf");
@@ -228,15 +233,23 @@ void SettingsPage::btnBrowseNewSkin_Click()
         const CheckerPause pause(m_services.checkerTimer);
         file = m_services.fileDialogs.open(window(), request);
     }
-    try {
-        m_skins.add(file);
-        LoadSkinsList();
-    } catch (const std::exception&) {
-        // A cancelled dialog, a file that is no skin, a full disk: nothing is added, and nothing is said.
+    if (file.isEmpty()) {
         return;
     }
+    QString name;
+    try {
+        name = m_skins.add(file);
+        LoadSkinsList();
+    } catch (const std::exception& error) {
+        m_quietLine->say(tr("The skin was not added: %1").arg(reasonOf(error)));
+        return;
+    }
+    // The list shows its first entry now, whatever is worn: what is saved is to be what is seen.
+    m_skinChanged = true;
     m_services.messages.tell(
         window(), MessageBoxes::Icon::Information, tr("The new skin is now available in the skins list."));
+    m_quietLine->say(
+        tr("The skin \"%1\" was added; to wear it, choose it in the list and save the settings").arg(name));
 }
 
 void SettingsPage::lblDownloadSkins_Click()

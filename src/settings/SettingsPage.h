@@ -8,6 +8,7 @@ class ComboBox;
 class QCheckBox;
 class QGroupBox;
 class QPushButton;
+class QuietLine;
 class LinkLabel;
 class Registry;
 class SettingsPageHost;
@@ -31,7 +32,7 @@ public:
     void LoadSettingsPage();
     /// Stores what the page shows and lets it take effect. Throws DatabaseError.
     void btnSave_Click();
-    /// Wears the skin that the list shows.
+    /// Wears the skin that the list shows when the program starts.
     void applySkin();
 
     // What the boxes say, saved or not.
@@ -68,7 +69,7 @@ private:
     Registry& m_registry;
     Skins& m_skins;
     SettingsPageHost& m_host;
-    /// Another skin was chosen and not saved yet.
+    /// Another skin was chosen, or the list was rebuilt, and what it shows was not saved yet.
     bool m_skinChanged = false;
 
     QCheckBox* m_chkShowGrid = nullptr;
@@ -86,4 +87,5 @@ private:
     LinkLabel* m_lblDownloadSkins = nullptr;
     QPushButton* m_btnSave = nullptr;
     QPushButton* m_btnHelpSettings = nullptr;
+    QuietLine* m_quietLine = nullptr;
 };

@@ -17,6 +17,18 @@ namespace
 
 constexpr QLatin1String Ending(".skf");
 
+QDirIterator skinFiles(const QString& folder)
+{
+    return {
+        folder, {QStringLiteral("*.skf")}, QDir::Files | QDir::Hidden | QDir::System | QDir::CaseSensitive};
+}
+
+/// What is wrong with a skin in a file of another name: it is loaded by its own.
+QString misnamed(const QString& fileName, const QString& skin)
+{
+    return Skins::tr("%1: the file has to be named \"%2\", as its skin is").arg(fileName, skin + Ending);
+}
+
 } // namespace
 
 Skins::Skins(const QString& programFolder, MessageBoxes& messages, QObject* parent)
@@ -34,9 +46,7 @@ QString Skins::fileOf(const QString& name) const
 QStringList Skins::names()
 {
     QStringList names;
-    QDirIterator files(
-        m_folder, {QStringLiteral("*.skf")}, QDir::Files | QDir::Hidden | QDir::System | QDir::CaseSensitive);
-    while (files.hasNext()) {
+    for (QDirIterator files = skinFiles(m_folder); files.hasNext();) {
         try {
             names.append(engine().skinInfo(files.next()).name);
         } catch (const SkinError&) {
@@ -55,7 +65,21 @@ SkinEngine& Skins::engine()
     return *m_engine;
 }
 
-bool Skins::load(const QString& name)
+QString Skins::otherFileOf(const QString& name)
+{
+    for (QDirIterator files = skinFiles(m_folder); files.hasNext();) {
+        try {
+            if (engine().skinInfo(files.next()).name == name) {
+                return files.fileName();
+            }
+        } catch (const SkinError&) {
+            // It holds no skin.
+        }
+    }
+    return {};
+}
+
+bool Skins::load(const QString& name, Asked asked)
 {
     // A list without skins names none.
     if (name.isEmpty()) {
@@ -66,7 +90,12 @@ bool Skins::load(const QString& name)
     try {
         engine().loadSkinFile(file);
     } catch (const SkinError& error) {
-        noteUnreadable(fileName, error.text());
+        const QString other = QFileInfo::exists(file) ? QString() : otherFileOf(name);
+        if (other.isEmpty()) {
+            noteUnreadable(fileName, error.text());
+        } else if (asked == Asked::ByUser) {
+            noteUnreadable(fileName, misnamed(other, name));
+        }
         return false;
     }
     m_reported.removeAll(fileName);
@@ -78,25 +107,29 @@ void Skins::apply()
     engine().applySkin();
 }
 
-bool Skins::wear(const QString& name)
+bool Skins::wear(const QString& name, Asked asked)
 {
-    const bool isLoaded = load(name);
+    const bool isLoaded = load(name, asked);
     if (isLoaded) {
         apply();
     }
     return isLoaded;
 }
 
-void Skins::add(const QString& file) const
+QString Skins::add(const QString& file) const
 {
-    SkinFile::read(file);
+    const QString skin = SkinFile::read(file).info.name;
     QString name = file.section(u'/', -1);
     // The folder is searched for this ending, on a file system that minds small letters, too.
     if (name.endsWith(Ending, Qt::CaseInsensitive)) {
         name.chop(Ending.size());
         name += Ending;
     }
+    if (name != skin + Ending) {
+        throw SkinError(misnamed(name, skin));
+    }
     replaceByCopy(file, pathIn(m_folder, name), PublicFile);
+    return skin;
 }
 
 void Skins::noteUnreadable(const QString& fileName, const QString& why)

@@ -24,16 +24,20 @@ public:
     /// The names of the skins in the folder, in the file system's order; unreadable files are left out.
     /// Pending messages other than user input run between the files.
     QStringList names();
+    /// Who asks for a skin: the start of the program, for the one that is stored, or the user who has chosen
+    /// it just now.
+    enum class Asked { AtStart, ByUser };
     /// Loads the skin of that name without applying it. False when it cannot be; what `wear` says holds.
-    bool load(const QString& name);
+    bool load(const QString& name, Asked asked);
     /// All windows wear the skin that was loaded last.
     void apply();
     /// Loads and applies the skin of that name. False when it cannot be: the look stays as it was, and the
     /// user is told once, by file name, when the window of `reportOn` is on the screen. No name is no fault.
-    bool wear(const QString& name);
-    /// Copies a skin file into the folder, over a file of that name. Throws RuntimeError for a file that is
-    /// no skin.
-    void add(const QString& file) const;
+    /// That the skin lies there in a file of another name is told to the user who chooses it, at no start.
+    bool wear(const QString& name, Asked asked = Asked::ByUser);
+    /// Copies a skin file into the folder, over a file of that name. The name of the skin. Throws
+    /// RuntimeError for a file that is no skin, or that is not named after its skin: it could not be worn.
+    QString add(const QString& file) const;
     /// The window over which the reports are shown; not owned.
     void reportOn(QWidget* window);
 
@@ -41,6 +45,7 @@ public:
 
 private:
     SkinEngine& engine();
+    QString otherFileOf(const QString& name);
     void noteUnreadable(const QString& fileName, const QString& why);
     void reportSoon();
     void reportPending();

@@ -192,8 +192,8 @@ class SkinTest(SettingsCase):
         self.wait_background(COPPER)
         self.assertEqual(self.store.settings()["skin"], "Copper")
 
-    def add_skin_in_silence(self, path):
-        """Adds the file by the dialog; the page answers afterwards, so no box was shown."""
+    def refuse_skin(self, path):
+        """Adds the file by the dialog; a line says why not, and the page answers, so no box was shown."""
         folder = os.path.join(self.desk.program, "Skins")
         before = sorted(os.listdir(folder))
         main_window = self.open_settings()
@@ -201,18 +201,19 @@ class SkinTest(SettingsCase):
         self.user.click_control(main_window, names.ADD_SKIN)
         self.user.choose_file(names.OPEN_FILE, path)
         self.user.wait_active(names.MAIN)
+        self.assertIn("The skin was not added: ", self.user.access.shown("notification").name)
         self.user.check(main_window, names.SHOW_BALLOON, False)
         self.assertEqual(self.user.entries(main_window, names.SKIN), entries)
         self.assertEqual(sorted(os.listdir(folder)), before)
 
-    def test_a_file_that_is_no_skin_is_refused_in_silence_and_not_copied(self):
-        self.add_skin_in_silence(self.desk.write(os.path.join("home", "Letter.skf"), "Dear all,\n" * 40))
+    def test_a_file_that_is_no_skin_is_refused_without_a_box_and_not_copied(self):
+        self.refuse_skin(self.desk.write(os.path.join("home", "Letter.skf"), "Dear all,\n" * 40))
 
-    def test_a_file_in_the_place_of_a_skin_that_is_too_large_is_refused_in_silence(self):
+    def test_a_file_in_the_place_of_a_skin_that_is_too_large_is_refused_without_a_box(self):
         skin = self.write_skin("Copper", COPPER)
         with open(skin, "a", encoding="utf-8") as file:
             file.write("/* " + "filler " * 160000 + "*/\n")
-        self.add_skin_in_silence(skin)
+        self.refuse_skin(skin)
 
     def test_more_skins_are_looked_for_on_the_vendors_page(self):
         main_window = self.open_settings()

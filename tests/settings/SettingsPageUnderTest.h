@@ -7,6 +7,7 @@
 #include "settings/Skins.h"
 #include "support/MemoryRegistry.h"
 #include "support/TestServices.h"
+#include "ui/QuietLine.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -74,6 +75,8 @@ struct SettingsPageUnderTest : TestServices {
         cmbSkins()->setCurrentText(skin);
         emit cmbSkins()->activated(cmbSkins()->currentIndex());
     }
+    /// What the line at the foot says.
+    QString said() const { return page.findChild<QuietLine*>(QStringLiteral("lblSettingsNote"))->said(); }
     QByteArray runEntry() const { return registry.runEntry("Ambertask").data; }
     QString folderOfSkins() const { return database.folder() + QStringLiteral("/Skins"); }
 

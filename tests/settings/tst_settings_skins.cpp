@@ -51,6 +51,11 @@ private slots:
     void addingAnswersOverAFileOfThatName();
     void aCancelledDialogAddsNothing();
     void aFileThatIsNoSkinIsRefusedBeforeTheCopy();
+    void anAddedSkinIsToldInTheLine();
+    void aFileThatIsNotNamedAfterItsSkinIsRefusedBeforeTheCopy_data();
+    void aFileThatIsNotNamedAfterItsSkinIsRefusedBeforeTheCopy();
+    void whatTheListShowsAfterAddingIsWornOnSave();
+    void theSkinInUseThatWasReplacedIsWornAnewOnSave();
     void theDownloadLinkOpensTheVendorsPage();
     void theDownloadLinkIsPressedByKeyboardToo();
 };
@@ -259,6 +264,94 @@ void TestSettingsSkins::aFileThatIsNoSkinIsRefusedBeforeTheCopy()
     test.press("btnBrowseNewSkin");
     QCOMPARE(contentOf(test.folderOfSkins() + QStringLiteral("/Aqua.skf")), before);
     QCOMPARE(QDir(test.folderOfSkins()).entryList(QDir::Files | QDir::Hidden).size(), 3);
+    QCOMPARE(test.said(),
+        QStringLiteral("The skin was not added: Aqua.skf, line 1: the file does not begin with a comment "
+                       "block"));
+    test.dialogs.expectOpen({});
+    test.page.findChild<QPushButton*>(QStringLiteral("btnBrowseNewSkin"))->click();
+    QCOMPARE(test.said(), QString());
+}
+
+void TestSettingsSkins::anAddedSkinIsToldInTheLine()
+{
+    SettingsPageUnderTest test;
+    const QTemporaryDir elsewhere;
+    const QString file = elsewhere.filePath(QStringLiteral("Zebra.skf"));
+    writeText(file, plainSkin("Zebra"));
+    test.dialogs.expectOpen(file);
+    test.dialogs.expectTell(MessageBoxes::Icon::Information, Added);
+    test.press("btnBrowseNewSkin");
+    QCOMPARE(test.said(),
+        QStringLiteral(
+            "The skin \"Zebra\" was added; to wear it, choose it in the list and save the settings"));
+}
+
+void TestSettingsSkins::aFileThatIsNotNamedAfterItsSkinIsRefusedBeforeTheCopy_data()
+{
+    QTest::addColumn<QString>("fileName");
+    QTest::newRow("another name") << "stripes.skf";
+    QTest::newRow("another letter case") << "zebra.skf";
+    QTest::newRow("no ending") << "Zebra";
+    QTest::newRow("another ending") << "Zebra.txt";
+}
+
+void TestSettingsSkins::aFileThatIsNotNamedAfterItsSkinIsRefusedBeforeTheCopy()
+{
+    QFETCH(const QString, fileName);
+    SettingsPageUnderTest test;
+    const QTemporaryDir elsewhere;
+    const QString file = elsewhere.filePath(fileName);
+    writeText(file, plainSkin("Zebra"));
+    test.cmbSkins()->setCurrentIndex(1);
+    test.dialogs.expectOpen(file);
+    test.press("btnBrowseNewSkin");
+    QCOMPARE(QDir(test.folderOfSkins()).entryList(QDir::Files | QDir::Hidden).size(), 3);
+    QCOMPARE(test.cmbSkins()->currentIndex(), 1);
+    QCOMPARE(test.said(),
+        QStringLiteral("The skin was not added: %1: the file has to be named \"Zebra.skf\", as its skin is")
+            .arg(fileName));
+}
+
+void TestSettingsSkins::whatTheListShowsAfterAddingIsWornOnSave()
+{
+    SettingsPageUnderTest test;
+    // Worn and stored is another one than the first of the list.
+    const QString worn = test.cmbSkins()->itemText(1);
+    test.choose(worn);
+    test.press("btnSave");
+    const QColor before = windowColor();
+    const QTemporaryDir elsewhere;
+    const QString file = elsewhere.filePath(QStringLiteral("Zebra.skf"));
+    writeText(file, plainSkin("Zebra"));
+    test.dialogs.expectOpen(file);
+    test.dialogs.expectTell(MessageBoxes::Icon::Information, Added);
+    test.press("btnBrowseNewSkin");
+    QCOMPARE(windowColor(), before);
+    const QString shown = test.cmbSkins()->currentText();
+    QCOMPARE(test.cmbSkins()->currentIndex(), 0);
+    test.press("btnSave");
+    QCOMPARE(test.record.skin, shown);
+    const QColor saved = windowColor();
+    test.skins.wear(shown);
+    QCOMPARE(saved, windowColor());
+    QVERIFY(shown == worn || saved != before);
+}
+
+void TestSettingsSkins::theSkinInUseThatWasReplacedIsWornAnewOnSave()
+{
+    SettingsPageUnderTest test;
+    const QTemporaryDir elsewhere;
+    const QString first = test.cmbSkins()->itemText(0);
+    test.choose(first);
+    test.press("btnSave");
+    const QString file = elsewhere.filePath(first + QStringLiteral(".skf"));
+    writeText(file, plainSkin(first.toUtf8(), "#010203"));
+    test.dialogs.expectOpen(file);
+    test.dialogs.expectTell(MessageBoxes::Icon::Information, Added);
+    test.press("btnBrowseNewSkin");
+    test.choose(first);
+    test.press("btnSave");
+    QCOMPARE(windowColor(), QColor(1, 2, 3));
 }
 
 void TestSettingsSkins::theDownloadLinkOpensTheVendorsPage()

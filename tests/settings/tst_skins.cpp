@@ -84,6 +84,8 @@ private slots:
     void twoFaultsAreReportedOneAfterTheOther();
     void noReportOpensOverAnother();
     void noNameIsNoFault();
+    void aSkinInAFileOfAnotherNameIsToldToWhoChoosesItAndAtNoStart();
+    void aSkinWhoseFileIsGoneIsToldAtTheStart();
     void addedFilesAreReadableByOthers();
     void addingRefusesAPathThatIsNoFile();
     void aMenuStaysOpenWhenTheAltOfItsMnemonicComesLate();
@@ -223,6 +225,32 @@ void TestSkins::noNameIsNoFault()
     QVERIFY(!test.skins.wear({}));
     test.expectReport(BadSkin);
     test.skins.wear(QStringLiteral("Bad"));
+    QVERIFY(test.allReported());
+}
+
+void TestSkins::aSkinInAFileOfAnotherNameIsToldToWhoChoosesItAndAtNoStart()
+{
+    SkinsUnderTest test;
+    test.write("stripes", plainSkin("Zebra"));
+    QVERIFY(test.skins.names().contains(QStringLiteral("Zebra")));
+    test.window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&test.window));
+    // The boxes fail the test when a report comes that was not announced.
+    QVERIFY(!test.skins.load(QStringLiteral("Zebra"), Skins::Asked::AtStart));
+    QVERIFY(!test.skins.wear(QStringLiteral("Zebra"), Skins::Asked::AtStart));
+    QCoreApplication::processEvents();
+    test.expectReport(QStringLiteral("stripes.skf: the file has to be named \"Zebra.skf\", as its skin is"));
+    QVERIFY(!test.skins.wear(QStringLiteral("Zebra")));
+    QVERIFY(test.allReported());
+}
+
+void TestSkins::aSkinWhoseFileIsGoneIsToldAtTheStart()
+{
+    SkinsUnderTest test;
+    test.window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&test.window));
+    test.expectReport(QStringLiteral("Zebra.skf: the file does not exist"));
+    QVERIFY(!test.skins.load(QStringLiteral("Zebra"), Skins::Asked::AtStart));
     QVERIFY(test.allReported());
 }
 
