@@ -780,6 +780,10 @@
         <source>Loading the tasks...</source>
         <translation>جارٍ تحميل المهام…</translation>
     </message>
+    <message>
+        <source>The task &quot;%1&quot; was added; the filters do not show it</source>
+        <translation>أُضيفت المهمة «%1»؛ المرشّحات لا تعرضها</translation>
+    </message>
 </context>
 <context>
     <name>ProgressBox</name>

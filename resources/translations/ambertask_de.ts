@@ -756,6 +756,10 @@
         <source>Loading the tasks...</source>
         <translation>Die Aufgaben werden geladen…</translation>
     </message>
+    <message>
+        <source>The task &quot;%1&quot; was added; the filters do not show it</source>
+        <translation>Die Aufgabe „%1“ wurde hinzugefügt; die Filter zeigen sie nicht</translation>
+    </message>
 </context>
 <context>
     <name>ProgressBox</name>

@@ -756,6 +756,10 @@
         <source>Loading the tasks...</source>
         <translation>Cargando las tareas…</translation>
     </message>
+    <message>
+        <source>The task &quot;%1&quot; was added; the filters do not show it</source>
+        <translation>Se ha añadido la tarea «%1»; los filtros no la muestran</translation>
+    </message>
 </context>
 <context>
     <name>ProgressBox</name>

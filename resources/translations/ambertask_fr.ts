@@ -756,6 +756,10 @@
         <source>Loading the tasks...</source>
         <translation>Chargement des tâches en cours…</translation>
     </message>
+    <message>
+        <source>The task &quot;%1&quot; was added; the filters do not show it</source>
+        <translation>La tâche «&#xa0;%1&#xa0;» a été ajoutée&#xa0;; les filtres ne l’affichent pas</translation>
+    </message>
 </context>
 <context>
     <name>ProgressBox</name>

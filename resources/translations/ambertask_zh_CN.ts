@@ -750,6 +750,10 @@
         <source>Loading the tasks...</source>
         <translation>正在加载任务…</translation>
     </message>
+    <message>
+        <source>The task &quot;%1&quot; was added; the filters do not show it</source>
+        <translation>已添加任务“%1”；当前筛选条件不显示它</translation>
+    </message>
 </context>
 <context>
     <name>ProgressBox</name>

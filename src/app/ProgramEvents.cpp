@@ -8,6 +8,7 @@
 #include "reminders/frmAlerts.h"
 #include "settings/SettingsPage.h"
 #include "tasks/frmTaskDetails.h"
+#include "ui/QuietLine.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -27,7 +28,10 @@ void Program::onTaskSaved(qint32 id)
 {
     bringToFront(m_main.get());
     m_main->LoadTasks();
-    m_main->tasksPage()->goToTask(id);
+    if (!m_main->tasksPage()->goToTask(id) && m_taskDetails->tag().isEmpty()) {
+        m_main->tasksPage()->quietLine().say(
+            tr("The task \"%1\" was added; the filters do not show it").arg(m_taskDetails->taskName()));
+    }
 }
 
 void Program::onTaskCancelled()

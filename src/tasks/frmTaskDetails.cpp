@@ -160,6 +160,11 @@ void frmTaskDetails::fillFrom(const ClsTask& task)
     noteFilled();
 }
 
+QString frmTaskDetails::taskName() const
+{
+    return m_controls.txtTask->text().trimmed();
+}
+
 void frmTaskDetails::selectCategory(qint16 id)
 {
     selectNumber(*m_controls.cmbCategories, id);

@@ -30,6 +30,8 @@ public:
     void forgetTask() { m_tag.clear(); }
     /// The decimal id of the task that is edited; empty for a new task.
     QString tag() const { return m_tag; }
+    /// The name that is entered, as it is stored.
+    QString taskName() const;
 
     /// Selects the category of that id; none when it is not in the list.
     void selectCategory(qint16 id);

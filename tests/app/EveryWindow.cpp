@@ -11,6 +11,7 @@
 #include "tests/help/RecordedHelpHost.h"
 #include "tests/report/RecordedReportHost.h"
 #include "tests/report/ReportSamples.h"
+#include "ui/QuietLine.h"
 
 #include <QCheckBox>
 #include <QListView>
@@ -31,6 +32,9 @@ void visitPages(SkinnedProgram& f, const Visit& visit)
     for (int page = tabs->count() - 1; page >= 0; --page) {
         tabs->setCurrentIndex(page);
         settleWindows();
+        for (QuietLine* line : f.main().findChildren<QuietLine*>()) {
+            line->say(QStringLiteral("Backup saved to \"/home/anna/kept.abk\""));
+        }
         visit(QStringLiteral("page ") + tabs->tabText(page), f.main());
     }
     f.control<QRadioButton>(f.main(), "opnSpecificDate")->click();

@@ -4,6 +4,7 @@
 #include "reminders/frmAlerts.h"
 #include "support/TestMain.h"
 #include "tasks/frmTaskDetails.h"
+#include "ui/QuietLine.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -86,6 +87,38 @@ private slots:
         f.press(f.main(), "btnTaskAdd");
         f.press(f.program.taskDetails(), "btnCancel");
         QTRY_COMPARE(QApplication::focusWidget(), f.grid(f.main()));
+    }
+
+    void aNewTaskThatTheFiltersHideIsToldAtTheFootOfThePage()
+    {
+        ProgramFixture f;
+        f.start();
+        auto* filter = f.control<QComboBox>(f.main(), "cmbStatus");
+        const auto showStatus = [filter](int index) {
+            filter->setCurrentIndex(index);
+            emit filter->activated(index);
+        };
+        auto* line = f.control<QuietLine>(f.main(), "lblTasksNote");
+        frmTaskDetails& dialog = f.program.taskDetails();
+        const auto add = [&](const QString& name) {
+            f.press(f.main(), "btnTaskAdd");
+            f.control<QLineEdit>(dialog, "txtTask")->setText(name);
+            f.control<QComboBox>(dialog, "cmbCategories")->setCurrentIndex(0);
+            f.press(dialog, "btnOk");
+        };
+        add(QStringLiteral("seen"));
+        QCOMPARE(line->said(), QString());
+        showStatus(3);
+        add(QStringLiteral(" <b>hidden</b> "));
+        QCOMPARE(
+            line->said(), QStringLiteral("The task \"<b>hidden</b>\" was added; the filters do not show it"));
+        // Who edits a task knows what he has changed.
+        showStatus(1);
+        f.grid(f.main())->selectOnly(0);
+        f.press(f.main(), "btnTaskEdit");
+        f.control<QComboBox>(dialog, "cmbStatus")->setCurrentIndex(2);
+        f.press(dialog, "btnOk");
+        QCOMPARE(line->said(), QString());
     }
 
     void aSavedTaskDueAtOnceIsListedByAVisibleAlertWithoutWaiting()

@@ -1,6 +1,7 @@
 #include "platform/database/Hardening.h"
 
 #include <QFile>
+#include <algorithm>
 #include <array>
 #include <sqlite3.h>
 #include <string_view>
@@ -71,4 +72,13 @@ bool mayDropRecords(sqlite3* database, const std::string& table, int& failure)
         return false;
     }
     return yieldsRow(database, "SELECT 1 FROM pragma_index_list(?1) WHERE origin <> 'c'", table, failure);
+}
+
+bool isReadingPragma(std::string_view name, const char* argument)
+{
+    constexpr std::array<std::string_view, 4> OfTheFile{
+        "integrity_check", "quick_check", "application_id", "user_version"};
+    constexpr std::array<std::string_view, 3> OfATable{"table_list", "index_list", "index_xinfo"};
+    return (argument == nullptr && std::find(OfTheFile.begin(), OfTheFile.end(), name) != OfTheFile.end())
+        || std::find(OfATable.begin(), OfATable.end(), name) != OfATable.end();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 class QString;
 struct sqlite3;
@@ -18,3 +19,7 @@ int hardenConnection(sqlite3* database);
 /// Whether the table has a constraint that lets it drop or skip records by itself when two are alike.
 /// `failure` is set to the engine's result code when it cannot be told.
 bool mayDropRecords(sqlite3* database, const std::string& table, int& failure);
+
+/// Whether the pragma of that name only tells something, for checking a file before it is taken over.
+/// `argument` is null for none.
+bool isReadingPragma(std::string_view name, const char* argument);

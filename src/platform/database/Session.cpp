@@ -45,16 +45,6 @@ bool comesAfterTheCommit(int extendedCode)
         || extendedCode == SQLITE_IOERR_UNLOCK;
 }
 
-/// Pragmas that only tell something, for checking a file before it is taken over.
-bool isReadingPragma(std::string_view name, const char* argument)
-{
-    constexpr std::array<std::string_view, 4> OfTheFile{
-        "integrity_check", "quick_check", "application_id", "user_version"};
-    constexpr std::array<std::string_view, 3> OfATable{"table_list", "index_list", "index_xinfo"};
-    return (argument == nullptr && std::find(OfTheFile.begin(), OfTheFile.end(), name) != OfTheFile.end())
-        || std::find(OfATable.begin(), OfATable.end(), name) != OfATable.end();
-}
-
 } // namespace
 
 Cursor::Cursor(Session& session, sqlite3_stmt* statement) : m_session(&session), m_statement(statement)
