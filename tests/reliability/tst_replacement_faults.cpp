@@ -163,7 +163,9 @@ void TestReplacementFaults::aFullDiskIsToldInWords()
         const auto error = caught<FileError>(
             [&] { DataFileCopies(place.engine).backUpTo(place.path(QStringLiteral("elsewhere/new.abk"))); });
         disk.stopWatching();
-        if (error) {
+        // A full disk can still say what lies on it.
+        const bool asks = call <= disk.calls().size() && disk.calls()[call - 1].kind == FileCall::Status;
+        if (error && !asks) {
             QCOMPARE(error->why(), QStringLiteral("the disk is full"));
             ++told;
         }
