@@ -1608,40 +1608,36 @@
 <context>
     <name>frmAlerts</name>
     <message>
-        <source>Due re&amp;minders</source>
-        <translation>التذكيرات المس&amp;تحقة</translation>
-    </message>
-    <message>
         <source>New reminder</source>
         <translation>تذكير جديد</translation>
     </message>
     <message>
-        <source>&amp;Remind me later</source>
-        <translation>&amp;ذكّرني لاحقًا</translation>
+        <source>Remind me later</source>
+        <translation>ذكّرني لاحقًا</translation>
     </message>
     <message>
-        <source>&amp;Open Item</source>
-        <translation>&amp;فتح المهمة</translation>
+        <source>Open Item</source>
+        <translation>فتح المهمة</translation>
     </message>
     <message>
-        <source>&amp;Dismiss</source>
-        <translation>ت&amp;جاهل</translation>
+        <source>Dismiss</source>
+        <translation>تجاهل</translation>
     </message>
     <message>
-        <source>Dismiss &amp;All</source>
-        <translation>تجاهل ال&amp;كل</translation>
+        <source>Dismiss All</source>
+        <translation>تجاهل الكل</translation>
     </message>
     <message>
-        <source>&amp;Help</source>
-        <translation>م&amp;ساعدة</translation>
+        <source>Help</source>
+        <translation>مساعدة</translation>
     </message>
     <message>
-        <source>Da&amp;te:</source>
-        <translation>التا&amp;ريخ:</translation>
+        <source>Date:</source>
+        <translation>التاريخ:</translation>
     </message>
     <message>
-        <source>T&amp;ime:</source>
-        <translation>ال&amp;وقت:</translation>
+        <source>Time:</source>
+        <translation>الوقت:</translation>
     </message>
     <message>
         <source>Due reminders</source>
@@ -1691,8 +1687,8 @@
         <translation>يجب ألا يسبق تاريخ التذكير ووقته التاريخ والوقت الحاليين للنظام</translation>
     </message>
     <message>
-        <source>&amp;Set to</source>
-        <translation>ت&amp;عيين إلى</translation>
+        <source>Set to</source>
+        <translation>تعيين إلى</translation>
     </message>
     <message>
         <source>Set date and time to</source>

@@ -1576,40 +1576,36 @@ ein Fehler auf: %3.</translation>
 <context>
     <name>frmAlerts</name>
     <message>
-        <source>Due re&amp;minders</source>
-        <translation>Fä&amp;llige Erinnerungen</translation>
-    </message>
-    <message>
         <source>New reminder</source>
         <translation>Neue Erinnerung</translation>
     </message>
     <message>
-        <source>&amp;Remind me later</source>
-        <translation>Später &amp;erinnern</translation>
+        <source>Remind me later</source>
+        <translation>Später erinnern</translation>
     </message>
     <message>
-        <source>&amp;Open Item</source>
-        <translation>Aufgabe ö&amp;ffnen</translation>
+        <source>Open Item</source>
+        <translation>Aufgabe öffnen</translation>
     </message>
     <message>
-        <source>&amp;Dismiss</source>
-        <translation>&amp;Verwerfen</translation>
+        <source>Dismiss</source>
+        <translation>Verwerfen</translation>
     </message>
     <message>
-        <source>Dismiss &amp;All</source>
-        <translation>&amp;Alle verwerfen</translation>
+        <source>Dismiss All</source>
+        <translation>Alle verwerfen</translation>
     </message>
     <message>
-        <source>&amp;Help</source>
-        <translation>H&amp;ilfe</translation>
+        <source>Help</source>
+        <translation>Hilfe</translation>
     </message>
     <message>
-        <source>Da&amp;te:</source>
-        <translation>&amp;Datum:</translation>
+        <source>Date:</source>
+        <translation>Datum:</translation>
     </message>
     <message>
-        <source>T&amp;ime:</source>
-        <translation>&amp;Uhrzeit:</translation>
+        <source>Time:</source>
+        <translation>Uhrzeit:</translation>
     </message>
     <message>
         <source>Due reminders</source>
@@ -1655,8 +1651,8 @@ ein Fehler auf: %3.</translation>
         <translation>Datum und Uhrzeit der Erinnerung dürfen nicht in der Vergangenheit liegen</translation>
     </message>
     <message>
-        <source>&amp;Set to</source>
-        <translation>&amp;Setzen auf</translation>
+        <source>Set to</source>
+        <translation>Setzen auf</translation>
     </message>
     <message>
         <source>Set date and time to</source>

@@ -1576,40 +1576,36 @@
 <context>
     <name>frmAlerts</name>
     <message>
-        <source>Due re&amp;minders</source>
-        <translation>Recordatorios &amp;pendientes</translation>
-    </message>
-    <message>
         <source>New reminder</source>
         <translation>Recordatorio nuevo</translation>
     </message>
     <message>
-        <source>&amp;Remind me later</source>
-        <translation>Recordar &amp;más tarde</translation>
+        <source>Remind me later</source>
+        <translation>Recordar más tarde</translation>
     </message>
     <message>
-        <source>&amp;Open Item</source>
-        <translation>Abr&amp;ir tarea</translation>
+        <source>Open Item</source>
+        <translation>Abrir tarea</translation>
     </message>
     <message>
-        <source>&amp;Dismiss</source>
-        <translation>&amp;Descartar</translation>
+        <source>Dismiss</source>
+        <translation>Descartar</translation>
     </message>
     <message>
-        <source>Dismiss &amp;All</source>
-        <translation>Descartar &amp;todos</translation>
+        <source>Dismiss All</source>
+        <translation>Descartar todos</translation>
     </message>
     <message>
-        <source>&amp;Help</source>
-        <translation>A&amp;yuda</translation>
+        <source>Help</source>
+        <translation>Ayuda</translation>
     </message>
     <message>
-        <source>Da&amp;te:</source>
-        <translation>&amp;Fecha:</translation>
+        <source>Date:</source>
+        <translation>Fecha:</translation>
     </message>
     <message>
-        <source>T&amp;ime:</source>
-        <translation>&amp;Hora:</translation>
+        <source>Time:</source>
+        <translation>Hora:</translation>
     </message>
     <message>
         <source>Due reminders</source>
@@ -1655,8 +1651,8 @@
         <translation>La fecha y la hora del recordatorio no pueden ser anteriores a la fecha y la hora actuales del sistema</translation>
     </message>
     <message>
-        <source>&amp;Set to</source>
-        <translation>&amp;Establecer en</translation>
+        <source>Set to</source>
+        <translation>Establecer en</translation>
     </message>
     <message>
         <source>Set date and time to</source>

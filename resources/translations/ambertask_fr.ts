@@ -1576,40 +1576,36 @@
 <context>
     <name>frmAlerts</name>
     <message>
-        <source>Due re&amp;minders</source>
-        <translation>Rappe&amp;ls échus</translation>
-    </message>
-    <message>
         <source>New reminder</source>
         <translation>Nouveau rappel</translation>
     </message>
     <message>
-        <source>&amp;Remind me later</source>
-        <translation>Me le &amp;rappeler plus tard</translation>
+        <source>Remind me later</source>
+        <translation>Me le rappeler plus tard</translation>
     </message>
     <message>
-        <source>&amp;Open Item</source>
-        <translation>Ou&amp;vrir la tâche</translation>
+        <source>Open Item</source>
+        <translation>Ouvrir la tâche</translation>
     </message>
     <message>
-        <source>&amp;Dismiss</source>
-        <translation>&amp;Ignorer</translation>
+        <source>Dismiss</source>
+        <translation>Ignorer</translation>
     </message>
     <message>
-        <source>Dismiss &amp;All</source>
-        <translation>&amp;Tout ignorer</translation>
+        <source>Dismiss All</source>
+        <translation>Tout ignorer</translation>
     </message>
     <message>
-        <source>&amp;Help</source>
-        <translation>Aid&amp;e</translation>
+        <source>Help</source>
+        <translation>Aide</translation>
     </message>
     <message>
-        <source>Da&amp;te:</source>
-        <translation>&amp;Date&#xa0;:</translation>
+        <source>Date:</source>
+        <translation>Date&#xa0;:</translation>
     </message>
     <message>
-        <source>T&amp;ime:</source>
-        <translation>&amp;Heure&#xa0;:</translation>
+        <source>Time:</source>
+        <translation>Heure&#xa0;:</translation>
     </message>
     <message>
         <source>Due reminders</source>
@@ -1655,8 +1651,8 @@
         <translation>La date et l’heure du rappel ne doivent pas être antérieures à la date et à l’heure actuelles du système</translation>
     </message>
     <message>
-        <source>&amp;Set to</source>
-        <translation>Ré&amp;gler sur</translation>
+        <source>Set to</source>
+        <translation>Régler sur</translation>
     </message>
     <message>
         <source>Set date and time to</source>

@@ -1568,40 +1568,36 @@
 <context>
     <name>frmAlerts</name>
     <message>
-        <source>Due re&amp;minders</source>
-        <translation>到期的提醒(&amp;M)</translation>
-    </message>
-    <message>
         <source>New reminder</source>
         <translation>新的提醒</translation>
     </message>
     <message>
-        <source>&amp;Remind me later</source>
-        <translation>稍后提醒(&amp;R)</translation>
+        <source>Remind me later</source>
+        <translation>稍后提醒</translation>
     </message>
     <message>
-        <source>&amp;Open Item</source>
-        <translation>打开任务(&amp;O)</translation>
+        <source>Open Item</source>
+        <translation>打开任务</translation>
     </message>
     <message>
-        <source>&amp;Dismiss</source>
-        <translation>消除(&amp;D)</translation>
+        <source>Dismiss</source>
+        <translation>消除</translation>
     </message>
     <message>
-        <source>Dismiss &amp;All</source>
-        <translation>全部消除(&amp;A)</translation>
+        <source>Dismiss All</source>
+        <translation>全部消除</translation>
     </message>
     <message>
-        <source>&amp;Help</source>
-        <translation>帮助(&amp;H)</translation>
+        <source>Help</source>
+        <translation>帮助</translation>
     </message>
     <message>
-        <source>Da&amp;te:</source>
-        <translation>日期(&amp;T)：</translation>
+        <source>Date:</source>
+        <translation>日期：</translation>
     </message>
     <message>
-        <source>T&amp;ime:</source>
-        <translation>时间(&amp;I)：</translation>
+        <source>Time:</source>
+        <translation>时间：</translation>
     </message>
     <message>
         <source>Due reminders</source>
@@ -1646,8 +1642,8 @@
         <translation>提醒的日期和时间不能早于系统当前的日期和时间</translation>
     </message>
     <message>
-        <source>&amp;Set to</source>
-        <translation>设为(&amp;S)</translation>
+        <source>Set to</source>
+        <translation>设为</translation>
     </message>
     <message>
         <source>Set date and time to</source>

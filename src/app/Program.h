@@ -154,6 +154,7 @@ private:
     bool m_hasBeenSeen = false;
     bool m_dialogsLoaded = false;
     bool m_holdsBackground = false;
+    bool m_taskDialogHasKeyboard = false; ///< as it was when its task was stored
     std::vector<Duty> m_owed;
     bool m_ending = false;
 };

@@ -19,6 +19,7 @@
 
 void Program::onTaskStored()
 {
+    m_taskDialogHasKeyboard = m_taskDetails->isActiveWindow();
     if (m_alerts != nullptr && m_alerts->isVisible()) {
         m_alerts->tmrTasksChecker_Timer();
     }
@@ -27,6 +28,10 @@ void Program::onTaskStored()
 void Program::onTaskSaved(qint32 id)
 {
     bringToFront(m_main.get());
+    // The keys are to go to the window that lies in front, not to an alert behind it.
+    if (m_taskDialogHasKeyboard && m_main->isShown()) {
+        activate(m_main.get());
+    }
     m_main->LoadTasks();
     if (!m_main->tasksPage()->goToTask(id) && m_taskDetails->tag().isEmpty()) {
         m_main->tasksPage()->quietLine().say(

@@ -5,6 +5,7 @@
 #include "platform/GridView.h"
 #include "platform/LongWork.h"
 #include "platform/MessageBoxes.h"
+#include "platform/WindowPlacement.h"
 #include "ui/ComboBox.h"
 #include "ui/Combos.h"
 #include "ui/Pickers.h"
@@ -256,7 +257,7 @@ void TasksPage::setGridLines(bool shown)
 void TasksPage::focusGrid()
 {
     if (window()->isVisible()) {
-        window()->activateWindow();
+        activate(window());
         m_grid->setFocus(Qt::OtherFocusReason);
     }
 }

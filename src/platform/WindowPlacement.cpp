@@ -1,6 +1,6 @@
 #include "platform/WindowPlacement.h"
 
-#include "platform/ActiveWindow.h"
+#include "platform/WindowManager.h"
 
 #include <QEvent>
 #include <QGuiApplication>
@@ -45,8 +45,9 @@ QMargins frameOf(const QWidget& window)
     return known.isNull() ? LikelyFrame : known;
 }
 
-/// Notes where a window is hidden: a window manager may move a window that it has let go. Keeps a window on
-/// its screen that grows because what it holds needs more room.
+/// Notes where a window is hidden: a window manager may move a window that it has let go. Gives the keyboard
+/// of a window that is hidden to its owner. Keeps a window on its screen that grows because what it holds
+/// needs more room.
 class PlaceKeeper final : public QObject
 {
 public:
@@ -57,8 +58,13 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (event->type() == QEvent::Hide && !event->spontaneous()) {
+        if (event->type() == QEvent::Close) {
+            m_isClosed = true;
+        } else if (event->type() == QEvent::Show) {
+            m_isClosed = false;
+        } else if (event->type() == QEvent::Hide && !event->spontaneous()) {
             m_window.setProperty(LastPlace, m_window.geometry());
+            giveKeyboardToOwner();
         } else if (event->type() == QEvent::Resize && !event->spontaneous() && m_window.isVisible()) {
             keepOnScreen(static_cast<QResizeEvent*>(event)->oldSize());
         }
@@ -66,6 +72,18 @@ public:
     }
 
 private:
+    // Left to themselves, some window managers (openbox, icewm, xfwm4) give the keyboard to any window that
+    // lies in front. A form that hides itself at the end of an action says itself who gets it.
+    void giveKeyboardToOwner() const
+    {
+        const QWindow* native = m_window.windowHandle();
+        QWindow* owner = native->transientParent();
+        if (m_isClosed && QGuiApplication::focusWindow() == native && owner != nullptr && owner->isVisible()
+            && !owner->windowStates().testFlag(Qt::WindowMinimized)) {
+            giveKeyboard(*owner);
+        }
+    }
+
     void keepOnScreen(QSize before)
     {
         const QRect area = m_window.screen()->availableGeometry();
@@ -79,6 +97,7 @@ private:
     }
 
     QWidget& m_window;
+    bool m_isClosed = false;
 };
 
 /// The size that a window has been given, else the one that it asks for.
@@ -206,24 +225,16 @@ void bringToFront(QWidget* window)
     }
 }
 
+void activate(QWidget* window)
+{
+    if (window->isVisible()) {
+        giveKeyboard(*nativeWindow(window));
+    }
+}
+
 void setOwner(QWidget* window, QWidget* owner)
 {
     nativeWindow(window)->setTransientParent(nativeWindow(owner));
-}
-
-void showUnasked(QWidget* window)
-{
-    const bool yields = isAnotherProgramActive();
-    // Window managers activate what is restored, whatever it asks for.
-    if (window->isMinimized()) {
-        window->hide();
-        window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
-    }
-    window->setAttribute(Qt::WA_ShowWithoutActivating, yields);
-    // A native window that exists takes no notice of the attribute.
-    nativeWindow(window)->setProperty("_q_showWithoutActivating", yields);
-    window->show();
-    bringToFront(window);
 }
 
 void showOwned(QWidget* window, QWidget* owner)

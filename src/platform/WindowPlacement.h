@@ -19,7 +19,8 @@ QRect nextPlace(const QRect& frame, int titleHeight, const QList<QRect>& areas);
 QSize roomFor(const QWidget& window);
 /// Brings a window that is about to be shown to its place: the first time over `owner` when that is visible,
 /// else in the middle of the screen; later where it was, unless nobody could reach it there. When what it
-/// holds makes it grow afterwards, it is moved so that it stays on its screen.
+/// holds makes it grow afterwards, it is moved so that it stays on its screen. When it is hidden while it has
+/// the keyboard, its owner gets that, unless it is hidden or minimized.
 void putInPlace(QWidget* window, const QWidget* owner = nullptr);
 
 // Where a top-level window stands among the others. None of these but the last shows, hides, moves or resizes
@@ -32,11 +33,11 @@ void leaveTopmost(QWidget* window);
 bool isTopmost(const QWidget* window);
 /// Brings `window` to the front without activating it; nothing when it is hidden.
 void bringToFront(QWidget* window);
+/// Gives a window of the program the keyboard after the user has closed the one in front of it; nothing when
+/// it is hidden.
+void activate(QWidget* window);
 /// Makes `owner` the window that `window` stays above, without making it a child.
 void setOwner(QWidget* window, QWidget* owner);
-/// Shows `window`, restores it when it is minimized, and brings it to the front. It becomes the active window
-/// unless one of another program is that now: from another program it takes neither activation nor keys.
-void showUnasked(QWidget* window);
 /// Puts `window` in place and shows it modeless above its owner, in front and active; restores it when it is
 /// minimized.
 void showOwned(QWidget* window, QWidget* owner);

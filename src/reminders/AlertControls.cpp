@@ -25,11 +25,18 @@ template <typename Control> Control* named(Control* control, const QString& name
     return control;
 }
 
-QPushButton* button(const QString& caption, const QString& name, QWidget& form)
+// No mnemonics: with Alt a letter works the main window, and the alert may come up just as it is struck.
+template <typename Button> Button* workedBy(const QKeySequence& keys, Button* button)
 {
-    auto* made = named(new QPushButton(caption, &form), name);
-    made->setAutoDefault(false);
-    return made;
+    button->setShortcut(keys);
+    button->setToolTip(keys.toString(QKeySequence::NativeText));
+    button->setAutoDefault(false);
+    return button;
+}
+
+QPushButton* button(const QString& caption, const QString& name, const QKeySequence& keys, QWidget& form)
+{
+    return workedBy(keys, named(new QPushButton(caption, &form), name));
 }
 
 QLabel* labelOf(QWidget* buddy, const QString& text, QWidget* parent)
@@ -44,23 +51,25 @@ QLabel* labelOf(QWidget* buddy, const QString& text, QWidget* parent)
 
 AlertControls::AlertControls(QWidget& form, const Clock& clock)
     : grdTasks(named(new GridView(&form), QStringLiteral("grdTasks"))),
-      band(named(new FlashBand(tr("Due re&minders"), &form), QStringLiteral("lblDueReminders"))),
+      band(named(new FlashBand(tr("Due reminders"), &form), QStringLiteral("lblDueReminders"))),
       framNewReminder(named(new QGroupBox(tr("New reminder"), &form), QStringLiteral("framNewReminder"))),
       dtpReminderDate(named(new QDateEdit(framNewReminder), QStringLiteral("dtpReminderDate"))),
       dtpReminderTime(named(new QTimeEdit(framNewReminder), QStringLiteral("dtpReminderTime"))),
-      btnUsualMoment(named(
-          new UsualMomentButton(tr("&Set to"), clock, framNewReminder), QStringLiteral("btnUsualMoment"))),
-      btnRemindMeLater(button(tr("&Remind me later"), QStringLiteral("btnRemindMeLater"), form)),
-      btnOpenItem(button(tr("&Open Item"), QStringLiteral("btnOpenItem"), form)),
-      btnDismiss(button(tr("&Dismiss"), QStringLiteral("btnDismiss"), form)),
-      btnDismissAll(button(tr("Dismiss &All"), QStringLiteral("btnDismissAll"), form)),
-      btnHelp(button(tr("&Help"), QStringLiteral("btnHelp"), form))
+      btnUsualMoment(workedBy(Qt::CTRL | Qt::Key_T,
+          named(new UsualMomentButton(tr("Set to"), clock, framNewReminder),
+              QStringLiteral("btnUsualMoment")))),
+      btnRemindMeLater(
+          button(tr("Remind me later"), QStringLiteral("btnRemindMeLater"), Qt::CTRL | Qt::Key_R, form)),
+      btnOpenItem(button(tr("Open Item"), QStringLiteral("btnOpenItem"), Qt::CTRL | Qt::Key_O, form)),
+      btnDismiss(button(tr("Dismiss"), QStringLiteral("btnDismiss"), Qt::CTRL | Qt::Key_D, form)),
+      btnDismissAll(
+          button(tr("Dismiss All"), QStringLiteral("btnDismissAll"), Qt::CTRL | Qt::SHIFT | Qt::Key_D, form)),
+      btnHelp(button(tr("Help"), QStringLiteral("btnHelp"), Qt::Key_F1, form))
 {
     band->setBuddy(grdTasks);
     grdTasks->setMinimumSize(SmallestGrid);
     setUpDatePicker(*dtpReminderDate);
     setUpTimePicker(*dtpReminderTime);
-    btnUsualMoment->setAutoDefault(false);
     btnHelp->setEnabled(false);
     layOut(form);
     setAccessibleNames();
@@ -94,10 +103,10 @@ void AlertControls::layOut(QWidget& form)
 void AlertControls::layOutNewReminder()
 {
     auto* row = new QHBoxLayout(framNewReminder);
-    row->addWidget(labelOf(dtpReminderDate, tr("Da&te:"), framNewReminder));
+    row->addWidget(labelOf(dtpReminderDate, tr("Date:"), framNewReminder));
     row->addWidget(dtpReminderDate);
     row->addSpacing(row->spacing());
-    row->addWidget(labelOf(dtpReminderTime, tr("T&ime:"), framNewReminder));
+    row->addWidget(labelOf(dtpReminderTime, tr("Time:"), framNewReminder));
     row->addWidget(dtpReminderTime);
     row->addSpacing(row->spacing());
     row->addWidget(btnUsualMoment);

@@ -5,7 +5,27 @@
 #include "ui/MomentTexts.h"
 #include "ui/TaskPictures.h"
 
+#include <QHash>
 #include <algorithm>
+
+namespace
+{
+
+/// Whether all of `some` are among `all`. A task that was given another moment is another reminder.
+bool areAmong(const std::vector<DueReminder>& all, const std::vector<DueReminder>& some)
+{
+    QHash<qint32, QString> moments;
+    moments.reserve(static_cast<qsizetype>(all.size()));
+    for (const DueReminder& reminder : all) {
+        moments.insert(reminder.id, reminder.reminder);
+    }
+    return std::all_of(some.begin(), some.end(), [&moments](const DueReminder& reminder) {
+        const auto found = moments.constFind(reminder.id);
+        return found != moments.constEnd() && *found == reminder.reminder;
+    });
+}
+
+} // namespace
 
 AlertListModel::AlertListModel(const Clock& clock, QObject* parent) : GridModel(parent), m_clock(clock)
 {
@@ -43,6 +63,19 @@ bool AlertListModel::lists(const std::vector<DueReminder>& reminders) const
 {
     return std::equal(m_reminders.begin(), m_reminders.end(), reminders.begin(), reminders.end(),
         [](const DueReminder& shown, const DueReminder& due) { return shown.id == due.id; });
+}
+
+int AlertListModel::shownCount(const std::vector<DueReminder>& due, bool visible) const
+{
+    const bool isOvertaken = !visible && !areAmong(due, m_reminders) && !areAmong(m_reminders, due);
+    return isOvertaken ? 0 : rowCount();
+}
+
+int AlertListModel::rowOf(qint32 id) const
+{
+    const auto found = std::find_if(m_reminders.begin(), m_reminders.end(),
+        [id](const DueReminder& reminder) { return reminder.id == id; });
+    return found == m_reminders.end() ? -1 : static_cast<int>(found - m_reminders.begin());
 }
 
 int AlertListModel::rowCount(const QModelIndex& parent) const

@@ -22,6 +22,13 @@ public:
     void removeReminder(int row);
     /// Whether these very tasks are listed, in this order.
     bool lists(const std::vector<DueReminder>& reminders) const;
+    /// How many of them the user has been shown, for a check that finds these reminders due: the number of
+    /// rows. None when the list is hidden (`visible` is false) and has been overtaken: some of what it lists
+    /// is no longer due, and some of what is due it does not list.
+    int shownCount(const std::vector<DueReminder>& due, bool visible) const;
+    /// The row of that task; -1 when it is not listed.
+    int rowOf(qint32 id) const;
+    qint32 id(int row) const { return at(row).id; }
     /// The task id of a row as the text of its cell.
     QString idText(int row) const { return cellText(row, Id); }
 

@@ -29,6 +29,7 @@ using namespace std::chrono_literals;
 constexpr auto CheckerInterval = 10000ms;
 constexpr auto FlasherInterval = 1000ms;
 constexpr QSize FirstSize(620, 380);
+constexpr qint32 NoTask = -1;
 
 QString titleFor(int count)
 {
@@ -45,9 +46,11 @@ bool isOwnBoxOpen()
 
 frmAlerts::frmAlerts(
     const FormServices& services, AlertsHost& host, WaveBackendFactory waveBackend, QWidget* parent)
-    : QWidget(parent, Qt::Dialog), m_services(services), m_host(host), m_database(services.engine),
+    // No dialog: one without an owner is kept above all windows of its program by some window managers
+    // (metacity, xfwm4), and the main window could not come in front of it.
+    : QWidget(parent, Qt::Window), m_services(services), m_host(host), m_database(services.engine),
       m_mmc(std::move(waveBackend), this), m_reminders(services.clock), m_tmrTasksChecker(this),
-      m_tmrFlasher(this), m_controls(*this, services.clock)
+      m_tmrFlasher(this), m_controls(*this, services.clock), m_unasked(this)
 {
     setObjectName(QStringLiteral("frmAlerts"));
     setWindowTitle(titleFor(0));
@@ -110,9 +113,7 @@ void frmAlerts::forgetReminders()
 void frmAlerts::focusGrid()
 {
     m_controls.grdTasks->setFocus();
-    if (isVisible()) {
-        activateWindow();
-    }
+    m_unasked.activate();
 }
 
 void frmAlerts::setHelpEnabled(bool enabled)
@@ -150,7 +151,7 @@ void frmAlerts::check()
         m_reminders.createColumns();
     }
     ReminderChecker checker(m_services.engine);
-    const Outcome outcome = checker.outcome(m_reminders.rowCount());
+    const Outcome outcome = checker.outcome(m_reminders.shownCount(checker.due(), isVisible()));
     if (outcome != Outcome::Nothing) {
         redraw(checker.due());
     }
@@ -176,7 +177,10 @@ void frmAlerts::check()
 void frmAlerts::redraw(const std::vector<DueReminder>& due)
 {
     setWindowTitle(titleFor(static_cast<int>(due.size())));
+    const int selected = m_controls.grdTasks->selectedRow();
+    const qint32 selectedTask = selected < 0 ? NoTask : m_reminders.id(selected);
     m_reminders.setReminders(due);
+    m_controls.grdTasks->selectOnly(m_reminders.rowOf(selectedTask));
     for (const DueReminder& reminder : due) {
         fireOnce(reminder);
     }
@@ -215,8 +219,7 @@ void frmAlerts::comeUp()
         makeTopmost(this);
     }
     putInPlace(this);
-    showUnasked(this);
-    QApplication::alert(this);
+    m_unasked.comeUp();
 }
 
 void frmAlerts::btnDismiss_Click()

@@ -3,6 +3,7 @@
 #include "data/ClsDatabase.h"
 #include "platform/LongWork.h"
 #include "platform/MMControl.h"
+#include "platform/UnaskedWindow.h"
 #include "reminders/AlertControls.h"
 #include "reminders/AlertListModel.h"
 #include "ui/FormServices.h"
@@ -89,6 +90,7 @@ private:
     QTimer m_tmrTasksChecker;
     QTimer m_tmrFlasher;
     AlertControls m_controls;
+    UnaskedWindow m_unasked;
     bool m_isActive = false;
     bool m_holdsChecks = false;
     bool m_owesCheck = false;

@@ -112,11 +112,24 @@ QString spokenName(QWidget* control, QWidget& window)
     return seen == nullptr ? QString() : seen->text(QAccessible::Name).trimmed();
 }
 
+/// Mnemonics are in a window throughout or, where they could be taken for those of another, not at all.
+bool hasMnemonics(QWidget& window)
+{
+    const QList<QLabel*> labels = labelsOf(window);
+    const QList<QAbstractButton*> buttons = window.findChildren<QAbstractButton*>();
+    const auto isMarked = [](const auto* control) {
+        return !mnemonicOf(control->text()).isEmpty();
+    };
+    return std::any_of(labels.begin(), labels.end(), isMarked)
+        || std::any_of(buttons.begin(), buttons.end(), isMarked);
+}
+
 bool hasLeadingLabel(const QWidget* control, QWidget& window)
 {
     const QList<QLabel*> labels = labelsOf(window);
-    return std::any_of(labels.begin(), labels.end(), [control](const QLabel* label) {
-        return label->buddy() == control && !mnemonicOf(label->text()).isEmpty();
+    const bool needsMnemonic = hasMnemonics(window);
+    return std::any_of(labels.begin(), labels.end(), [control, needsMnemonic](const QLabel* label) {
+        return label->buddy() == control && (!needsMnemonic || !mnemonicOf(label->text()).isEmpty());
     });
 }
 
@@ -171,9 +184,9 @@ void checkLabels(const Controls& controls, QWidget& window, QStringList& faults)
             faults.append(nameOf(control) + QLatin1String(" has no label whose mnemonic leads to it"));
         }
         const auto* button = qobject_cast<const QAbstractButton*>(control);
-        if (button != nullptr && !button->text().isEmpty() && mnemonicOf(button->text()).isEmpty()
+        if (button != nullptr && !button->text().isEmpty() && button->shortcut().isEmpty()
             && !hasLeadingLabel(button, window)) {
-            faults.append(nameOf(button) + QLatin1String(" has no mnemonic"));
+            faults.append(nameOf(button) + QLatin1String(" has no key"));
         }
     }
 }

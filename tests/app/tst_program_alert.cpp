@@ -33,6 +33,52 @@ private slots:
         QVERIFY(f.program.alerts().isVisible());
     }
 
+    void afterOkTheMainWindowThatLiesInFrontHasTheKeyboard()
+    {
+        ProgramFixture f;
+        aTask(f.database).remindingAt(f.database.clock().now() - 1min).add();
+        f.start();
+        f.program.loadDialogs();
+        openItem(f);
+        frmTaskDetails& dialog = f.program.taskDetails();
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        f.press(dialog, "btnOk");
+        QVERIFY(!dialog.isVisible());
+        QVERIFY(QTest::qWaitForWindowActive(&f.main()));
+        QVERIFY(f.program.alerts().isVisible());
+    }
+
+    void afterOkOfADialogThatHadNotTheKeyboardNobodyIsActivated()
+    {
+        ProgramFixture f;
+        aTask(f.database).remindingAt(f.database.clock().now() - 1min).add();
+        f.start();
+        f.program.loadDialogs();
+        openItem(f);
+        f.program.alerts().focusGrid();
+        QVERIFY(QTest::qWaitForWindowActive(&f.program.alerts()));
+        f.press(f.program.taskDetails(), "btnOk");
+        QCoreApplication::processEvents();
+        QVERIFY(f.program.alerts().isActiveWindow());
+    }
+
+    void afterOkAMinimizedMainWindowStaysSo()
+    {
+        ProgramFixture f;
+        aTask(f.database).remindingAt(f.database.clock().now() - 1min).add();
+        f.start();
+        f.program.loadDialogs();
+        openItem(f);
+        f.main().showMinimized();
+        frmTaskDetails& dialog = f.program.taskDetails();
+        dialog.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        f.press(dialog, "btnOk");
+        QCoreApplication::processEvents();
+        QVERIFY(f.main().isMinimized());
+        QVERIFY(!f.main().isActiveWindow());
+    }
+
     void withoutAlwaysOnTopNoWindowStaysTopmost()
     {
         ProgramFixture f;
@@ -89,6 +135,11 @@ private slots:
     }
 
 private:
+    static void openItem(ProgramFixture& f)
+    {
+        f.press(f.program.alerts(), "btnOpenItem");
+        QVERIFY(f.program.taskDetails().isVisible());
+    }
     static QWidget* aboutBox()
     {
         for (QWidget* window : QApplication::topLevelWidgets()) {

@@ -20,10 +20,12 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGroupBox>
 #include <QLabel>
 #include <QMenu>
 #include <QRadioButton>
 #include <QScreen>
+#include <QShortcut>
 #include <QTabWidget>
 #include <QTimer>
 
@@ -81,6 +83,26 @@ QStringList doubled(QStringList texts)
         }
     }
     return found;
+}
+
+/// The keys that work something in a window, whatever page is in front.
+QStringList keysOf(QWidget& window)
+{
+    QStringList keys;
+    for (const QAbstractButton* button : window.findChildren<QAbstractButton*>()) {
+        keys.append(button->shortcut().toString());
+    }
+    for (const QLabel* label : window.findChildren<QLabel*>()) {
+        keys.append(QKeySequence::mnemonic(label->text()).toString());
+    }
+    for (const QGroupBox* frame : window.findChildren<QGroupBox*>()) {
+        keys.append(QKeySequence::mnemonic(frame->title()).toString());
+    }
+    for (const QShortcut* shortcut : window.findChildren<QShortcut*>()) {
+        keys.append(shortcut->key().toString());
+    }
+    keys.removeAll(QString());
+    return keys;
 }
 
 QStringList faultsOf(QWidget& window, const QString& language)
@@ -144,6 +166,8 @@ private slots:
     void theCategoryDialogIsGood();
     void theAlertIsGood_data() { languages(); }
     void theAlertIsGood();
+    void noKeyOfTheAlertDoesAnotherThingInTheMainWindow_data() { languages(); }
+    void noKeyOfTheAlertDoesAnotherThingInTheMainWindow();
     void theAboutBoxIsGood_data() { languages(); }
     void theAboutBoxIsGood();
     void theTrayMenuIsGood_data() { languages(); }
@@ -292,6 +316,21 @@ void TranslatedWindowsTest::theAlertIsGood()
     usualMoments->popup(QPoint(10, 10));
     EXPECT_GOOD(*usualMoments, language);
     usualMoments->close();
+}
+
+void TranslatedWindowsTest::noKeyOfTheAlertDoesAnotherThingInTheMainWindow()
+{
+    QFETCH(const QString, language);
+    TranslatedProgram t(language);
+    const QStringList keysOfAlert = keysOf(t.f.program.alerts());
+    QStringList keysOfMain = keysOf(t.f.main());
+    QVERIFY(keysOfAlert.size() > 5);
+    QVERIFY(keysOfMain.size() > 40);
+    // Both open the help.
+    QVERIFY(keysOfMain.removeOne(QStringLiteral("F1")));
+    for (const QString& key : keysOfAlert) {
+        QVERIFY2(!keysOfMain.contains(key), qPrintable(key));
+    }
 }
 
 void TranslatedWindowsTest::theAboutBoxIsGood()

@@ -12,6 +12,7 @@ from datetime import timezone
 
 from gi.repository import Gio, GLib
 
+import managers
 from access import connect_bus
 from printer import PrintServer
 from processes import Children, adopt_orphans, listens
@@ -88,12 +89,14 @@ class Program:
 class Desktop:
     """Context manager. Everything it starts ends with it, everything it writes is removed with it."""
 
-    def __init__(self, tray=True, sound=False, folder=None, name="program"):
-        """`folder` holds the finished program, `name` is the name of the copy that runs here."""
+    def __init__(self, tray=True, sound=False, folder=None, name="program", manager=None):
+        """`folder` holds the finished program, `name` is the name of the copy that runs here, `manager` that of the
+        window manager (see managers.py)."""
         self._with_tray = tray
         self._with_sound = sound
         self._source = folder or program_folder()
         self._name = name
+        self._manager = manager or managers.chosen()
         self._starts = 0
         self.screen = None
         self.sound = None
@@ -238,7 +241,7 @@ class Desktop:
         wait_until(launched, "the accessibility bus is there")
 
     def _start_window_manager(self):
-        self._children.start(["openbox", "--sm-disable"], self.environment, "openbox")
+        managers.start(self._manager, self._children, self.environment)
         watcher = Screen(self.environment["DISPLAY"])
         try:
             wait_until(watcher.has_window_manager, "the window manager is there")

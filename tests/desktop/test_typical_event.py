@@ -5,7 +5,7 @@ from datetime import datetime
 
 import names
 from case import DesktopCase, main
-from polling import wait_until
+from polling import holds_for, wait_until
 from sound import write_tone
 
 START = datetime(2026, 3, 2, 10, 20, 30)
@@ -123,7 +123,9 @@ class AlertActionsTest(DesktopCase):
         self.assertEqual((self.flags(self.first), self.flags(self.second)), ((1, 0, 1), (1, 0, 1)))
 
     def test_remind_me_later_in_the_current_minute_is_refused(self):
-        self.user.window(names.alert_title(2)).activate()
+        window = self.user.window(names.alert_title(2))
+        holds_for(lambda: window.mapped, "it is there while it takes no keyboard yet", 1)
+        window.activate()
         self.user.wait_active(names.alert_title(2))
         before = self.store.tasks()
         self.user.click_control(self.alert, names.REMIND_LATER)

@@ -84,6 +84,14 @@ class Input:
             xtest.fake_input(self._display, X.KeyRelease, modifier)
         self._display.sync()
 
+    def switch_window(self):
+        """Alt+Tab at the speed of fingers: window managers take the keyboard for it, which is lost on a faster one."""
+        alt, tab = (self._code(XK.string_to_keysym(name))[0] for name in ("Alt_L", "Tab"))
+        for kind, code in (X.KeyPress, alt), (X.KeyPress, tab), (X.KeyRelease, tab), (X.KeyRelease, alt):
+            xtest.fake_input(self._display, kind, code)
+            self._display.sync()
+            self._pause(FINGER_SECONDS)
+
     def type(self, text):
         """Types ASCII text; letters that the keyboard lacks are an error, never dropped."""
         for letter in text:

@@ -164,8 +164,22 @@ class Screen:
         return [self.window(number) for number in self.property(self.root, "_NET_CLIENT_LIST") or []]
 
     def stacking(self):
-        """The managed windows from the lowest to the highest."""
-        return [self.window(number) for number in self.property(self.root, "_NET_CLIENT_LIST_STACKING") or []]
+        """The managed windows from the lowest to the highest, as the server has them: what a window manager tells of
+        it (fluxbox) need not be so."""
+        clients = {window.id: window for window in self.clients()}
+        found = []
+        for frame in self.root.query_tree().children:
+            pending = [frame]
+            while pending:
+                handle = pending.pop()
+                if handle.id in clients:
+                    found.append(clients[handle.id])
+                    break
+                try:
+                    pending += handle.query_tree().children
+                except error.XError:
+                    continue
+        return found
 
     def is_above(self, upper, lower):
         order = self.stacking()

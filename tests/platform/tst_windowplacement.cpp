@@ -29,38 +29,6 @@ class WindowPlacementTest : public TestCase
     Q_OBJECT
 
 private slots:
-    void aWindowShownUnaskedIsActiveWhereTheProgramIs()
-    {
-        QWidget first;
-        first.show();
-        first.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&first));
-        QWidget second;
-        showUnasked(&second);
-        QVERIFY(!second.testAttribute(Qt::WA_ShowWithoutActivating));
-        QVERIFY(!second.windowHandle()->property("_q_showWithoutActivating").toBool());
-        QVERIFY(second.isVisible());
-    }
-
-    void aWindowShownUnaskedLeavesTheKeysToAnotherProgram()
-    {
-        // Focus that the last window had goes with its end.
-        QTRY_VERIFY(QGuiApplication::focusWindow() == nullptr);
-        QWidget window;
-        showUnasked(&window);
-        QVERIFY(window.windowHandle()->property("_q_showWithoutActivating").toBool());
-        QVERIFY(window.isVisible());
-    }
-
-    void aMinimizedWindowShownUnaskedIsRestored()
-    {
-        QWidget window;
-        window.showMinimized();
-        showUnasked(&window);
-        QVERIFY(window.isVisible());
-        QVERIFY(!window.isMinimized());
-    }
-
     void aFirstWindowIsCentred()
     {
         const QRect screen(0, 0, 1024, 640);
@@ -132,6 +100,33 @@ private slots:
         dialog.resize(200, 100);
         showOwned(&dialog, &owner);
         QVERIFY((dialog.frameGeometry().center() - owner.frameGeometry().center()).manhattanLength() <= 32);
+    }
+
+    void theOwnerGetsTheKeyboardOfAWindowThatIsClosed()
+    {
+        QWidget owner;
+        owner.show();
+        QWidget dialog(nullptr, Qt::Dialog);
+        showOwned(&dialog, &owner);
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        dialog.close();
+        QVERIFY(QTest::qWaitForWindowActive(&owner));
+    }
+
+    void aWindowThatIsClosedWithoutTheKeyboardTakesItFromNobody()
+    {
+        QWidget owner;
+        owner.show();
+        QWidget dialog(nullptr, Qt::Dialog);
+        showOwned(&dialog, &owner);
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        QWidget other;
+        other.show();
+        other.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+        dialog.close();
+        QCoreApplication::processEvents();
+        QVERIFY(other.isActiveWindow());
     }
 
     void aWindowComesUpAgainWhereTheUserLeftIt()

@@ -9,6 +9,7 @@
 #include <QAbstractButton>
 #include <QStringList>
 #include <QTest>
+#include <QTimer>
 
 /// Remembers what was played and stopped.
 class RecordedWave final : public WaveBackend
@@ -50,6 +51,16 @@ struct AlertsFixture {
     }
 
     void tick() { window.tmrTasksChecker_Timer(); }
+    /// Lets the half second pass in which the buttons of a window that has just come up act on no key.
+    void passKeyRest() const
+    {
+        auto* rest = control<QTimer>(QStringLiteral("tmrKeyRest"));
+        QCoreApplication::processEvents();
+        rest->setInterval(0);
+        QCoreApplication::processEvents();
+        QVERIFY(!rest->isActive());
+        rest->setInterval(500);
+    }
     QString caption() const { return window.windowTitle(); }
     template <typename Control> Control* control(const QString& name) const
     {

@@ -188,6 +188,61 @@ private slots:
         QVERIFY(!model.lists({a, b}));
     }
 
+    void theRowsThatCountAsShown_data()
+    {
+        using Ids = QList<int>;
+        QTest::addColumn<Ids>("listed");
+        QTest::addColumn<Ids>("due");
+        QTest::addColumn<bool>("visible");
+        QTest::addColumn<int>("shown");
+        QTest::newRow("seen, others due") << Ids{1, 2} << Ids{3, 4} << true << 2;
+        QTest::newRow("hidden, the same due") << Ids{1, 2} << Ids{1, 2} << false << 2;
+        QTest::newRow("hidden, the same in another order") << Ids{1, 2} << Ids{2, 1} << false << 2;
+        QTest::newRow("hidden, fewer due") << Ids{1, 2} << Ids{2} << false << 2;
+        QTest::newRow("hidden, none due") << Ids{1, 2} << Ids{} << false << 2;
+        QTest::newRow("hidden, one more due") << Ids{1, 2} << Ids{1, 2, 3} << false << 2;
+        QTest::newRow("hidden, others due") << Ids{1, 2} << Ids{3, 4} << false << 0;
+        QTest::newRow("hidden, one instead of another") << Ids{1, 2} << Ids{1, 3} << false << 0;
+        QTest::newRow("hidden, one instead of two") << Ids{1, 2} << Ids{3} << false << 0;
+        QTest::newRow("nothing listed") << Ids{} << Ids{1} << false << 0;
+    }
+
+    void theRowsThatCountAsShown()
+    {
+        QFETCH(const QList<int>, listed);
+        QFETCH(const QList<int>, due);
+        QFETCH(const bool, visible);
+        AlertListModel model(m_clock);
+        const auto reminders = [](const QList<int>& ids) {
+            std::vector<DueReminder> made;
+            for (const int id : ids) {
+                made.push_back(reminder(id, QString::number(id)));
+            }
+            return made;
+        };
+        model.setReminders(reminders(listed));
+        QTEST(model.shownCount(reminders(due), visible), "shown");
+    }
+
+    void aTaskThatRemindsAtAnotherMomentIsAnotherReminder()
+    {
+        AlertListModel model(m_clock);
+        model.setReminders({reminder(1, QStringLiteral("a"))});
+        DueReminder moved = reminder(1, QStringLiteral("a"));
+        moved.reminder = QString::fromStdString(storedText(Due + 1min));
+        QCOMPARE(model.shownCount({moved}, false), 0);
+        QCOMPARE(model.shownCount({moved}, true), 1);
+    }
+
+    void aRowIsFoundByItsTask()
+    {
+        AlertListModel model(m_clock);
+        model.setReminders({reminder(7, QStringLiteral("a")), reminder(5, QStringLiteral("b"))});
+        QCOMPARE(model.rowOf(5), 1);
+        QCOMPARE(model.id(1), 5);
+        QCOMPARE(model.rowOf(6), -1);
+    }
+
 private:
     const SteppedClock m_clock{Due};
 };

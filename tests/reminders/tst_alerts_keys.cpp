@@ -8,6 +8,7 @@
 #include <QDateEdit>
 #include <QMenu>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QTimeEdit>
 #include <QTimer>
 
@@ -47,6 +48,87 @@ private slots:
         QVERIFY(alerts.host.opened.isEmpty());
         QCOMPARE(QApplication::focusWidget(), alerts.grid());
         QCOMPARE(alerts.grid()->selectedRow(), 0);
+    }
+
+    void forHalfASecondAfterItCameUpTheButtonsActOnNoKey_data()
+    {
+        QTest::addColumn<QString>("button");
+        for (const char* name :
+            {"btnOpenItem", "btnDismiss", "btnDismissAll", "btnRemindMeLater", "btnUsualMoment", "btnHelp"}) {
+            QTest::newRow(name) << QString::fromLatin1(name);
+        }
+    }
+
+    void forHalfASecondAfterItCameUpTheButtonsActOnNoKey()
+    {
+        QFETCH(const QString, button);
+        AlertsFixture alerts;
+        alerts.window.setHelpEnabled(true);
+        const auto* rest = alerts.control<QTimer>(QStringLiteral("tmrKeyRest"));
+        QVERIFY(!rest->isActive());
+        QCOMPARE(rest->interval(), 500);
+        comeUpActive(alerts);
+        QVERIFY(rest->isActive());
+        auto* pressed = alerts.control<QPushButton>(button);
+        const QSignalSpy presses(pressed, &QPushButton::pressed);
+        const QKeyCombination keys = pressed->shortcut()[0];
+        pressed->setFocus();
+        for (const int key : {int(Qt::Key_Space), int(Qt::Key_Return), int(Qt::Key_Select)}) {
+            QTest::keyClick(pressed, Qt::Key(key));
+        }
+        QTest::keyClick(&alerts.window, keys.key(), keys.keyboardModifiers());
+        QCOMPARE(presses.count(), 0);
+
+        alerts.passKeyRest();
+        // Of the button with the menu a key would open that and wait for a choice.
+        if (pressed->menu() == nullptr) {
+            alerts.control<QDateEdit>(QStringLiteral("dtpReminderDate"))->setDate(QDate(2027, 1, 1));
+            QTest::keyClick(&alerts.window, keys.key(), keys.keyboardModifiers());
+            QCOMPARE(presses.count(), 1);
+            QTRY_VERIFY(!pressed->isDown());
+        }
+    }
+
+    void aKeyThatWasStruckTooEarlyAndIsLetGoLaterPressesNothing()
+    {
+        AlertsFixture alerts;
+        comeUpActive(alerts);
+        auto* button = alerts.control<QPushButton>(QStringLiteral("btnDismissAll"));
+        button->setFocus();
+        QTest::keyPress(button, Qt::Key_Space);
+        alerts.passKeyRest();
+        QTest::keyRelease(button, Qt::Key_Space);
+        QVERIFY(alerts.window.isVisible());
+        QTest::keyClick(button, Qt::Key_Space);
+        QVERIFY(!alerts.window.isVisible());
+    }
+
+    void theMouseWorksAtOnce()
+    {
+        AlertsFixture alerts;
+        comeUpActive(alerts);
+        QVERIFY(alerts.control<QTimer>(QStringLiteral("tmrKeyRest"))->isActive());
+        alerts.click(QStringLiteral("btnDismissAll"));
+        QVERIFY(!alerts.window.isVisible());
+    }
+
+    void theNextReminderMakesTheButtonsRestAgain()
+    {
+        AlertsFixture alerts;
+        comeUpActive(alerts);
+        alerts.passKeyRest();
+        alerts.aDueTask(QStringLiteral("another")).add();
+        alerts.tick();
+        QVERIFY(alerts.control<QTimer>(QStringLiteral("tmrKeyRest"))->isActive());
+    }
+
+    void aCheckThatBringsNothingUpLeavesTheKeysAlone()
+    {
+        AlertsFixture alerts;
+        comeUpActive(alerts);
+        alerts.passKeyRest();
+        alerts.tick();
+        QVERIFY(!alerts.control<QTimer>(QStringLiteral("tmrKeyRest"))->isActive());
     }
 
     void noButtonIsPressedByEnterFromElsewhere()
@@ -152,6 +234,14 @@ private slots:
     }
 
 private:
+    static void comeUpActive(AlertsFixture& alerts)
+    {
+        alerts.aDueTask(QStringLiteral("one")).add();
+        alerts.aDueTask(QStringLiteral("two")).add();
+        alerts.tick();
+        alerts.window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&alerts.window));
+    }
     static UsualMomentButton* button(const AlertsFixture& alerts)
     {
         return alerts.control<UsualMomentButton>(QStringLiteral("btnUsualMoment"));
@@ -161,6 +251,7 @@ private:
     {
         alerts.window.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&alerts.window));
+        alerts.passKeyRest();
         bool opened = false;
         QMenu* menu = button(alerts)->menu();
         QTimer::singleShot(0, menu, [&] {

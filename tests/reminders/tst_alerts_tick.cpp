@@ -233,6 +233,35 @@ private slots:
         QVERIFY(!alerts.isPlayed(fresh));
     }
 
+    void afterARedrawOfFewerTheSelectedTaskIsStillSelected()
+    {
+        AlertsFixture alerts;
+        const qint32 first = alerts.aDueTask(QStringLiteral("a")).add();
+        const qint32 second = alerts.aDueTask(QStringLiteral("b")).add();
+        alerts.aDueTask(QStringLiteral("c")).add();
+        alerts.tick();
+        alerts.grid()->selectOnly(2);
+        alerts.database().sql(QStringLiteral("delete from tasks where task_id=%1").arg(first));
+        alerts.tick();
+        QCOMPARE(alerts.names(), QStringList({QStringLiteral("b"), QStringLiteral("c")}));
+        QCOMPARE(alerts.grid()->selectedRow(), 1);
+        QCOMPARE(alerts.grid()->currentIndex().row(), 1);
+        alerts.database().sql(QStringLiteral("delete from tasks where task_id=%1").arg(second));
+        alerts.tick();
+        QCOMPARE(alerts.grid()->selectedRow(), 0);
+    }
+
+    void aSelectedTaskThatIsGoneLeavesNoneSelected()
+    {
+        AlertsFixture alerts;
+        const qint32 first = alerts.aDueTask(QStringLiteral("a")).add();
+        alerts.aDueTask(QStringLiteral("b")).add();
+        alerts.tick();
+        alerts.database().sql(QStringLiteral("delete from tasks where task_id=%1").arg(first));
+        alerts.tick();
+        QCOMPARE(alerts.grid()->selectedRow(), -1);
+    }
+
     void whatARedrawOfFewerHasSoundedDoesNotSoundAgainWhenMoreAreDue()
     {
         AlertsFixture alerts;
