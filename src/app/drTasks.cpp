@@ -9,6 +9,7 @@
 #include "platform/LongWork.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Modules.h"
+#include "platform/PlainText.h"
 #include "platform/Shell.h"
 #include "platform/WindowPlacement.h"
 #include "ui/PdfFileChoice.h"
@@ -26,6 +27,11 @@ const QLatin1String Detail("cmdTasks_Detail");
 constexpr QSize LogoSize(288, 96);
 // What follows the marker of the language is the format of the date.
 const QLatin1String DueDateFormat("$l$dd/MM/yyyy");
+
+/// A text without end is not to be laid out: of a name some lines are printed, of a description some thirty
+/// pages.
+constexpr qsizetype MostOfName = 1000;
+constexpr qsizetype MostOfDescription = 100'000;
 
 struct Binding {
     const char* control;
@@ -133,6 +139,7 @@ std::vector<std::vector<QString>> drTasks::readRecords(RecordSet& records, const
         int field;
         const std::function<void(QString&)>* format;
         bool isDate;
+        qsizetype most;
     };
     std::vector<Column> columns;
     for (const ReportSection& section : m_sections) {
@@ -141,7 +148,8 @@ std::vector<std::vector<QString>> drTasks::readRecords(RecordSet& records, const
                 const auto format = m_formats.find(text.name);
                 columns.push_back({records.field(text.dataField.toStdString()),
                     format == m_formats.end() ? nullptr : &format->second.Format,
-                    text.name == QLatin1String("txtTaskDueDate")});
+                    text.name == QLatin1String("txtTaskDueDate"),
+                    text.name == QLatin1String("txtTaskDesc") ? MostOfDescription : MostOfName});
             }
         }
     }
@@ -159,8 +167,8 @@ std::vector<std::vector<QString>> drTasks::readRecords(RecordSet& records, const
         }
         read.texts.reserve(columns.size());
         for (const Column& column : columns) {
-            read.texts.push_back(
-                column.isDate ? dateText(records.moment(column.field)) : records.text(column.field));
+            read.texts.push_back(column.isDate ? dateText(records.moment(column.field))
+                                               : shownPart(records.text(column.field), column.most));
             if (column.format != nullptr) {
                 (*column.format)(read.texts.back());
             }

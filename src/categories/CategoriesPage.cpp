@@ -8,6 +8,7 @@
 #include "platform/ImageList.h"
 #include "platform/LongWork.h"
 #include "platform/MessageBoxes.h"
+#include "platform/PlainText.h"
 #include "platform/WindowPlacement.h"
 
 #include <QBoxLayout>
@@ -104,7 +105,8 @@ void CategoriesPage::LoadCategories()
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
         item->setData(Qt::UserRole, category.Id());
         item->setToolTip(category.Description());
-        item->setData(Qt::AccessibleDescriptionRole, category.Description());
+        item->setData(Qt::AccessibleTextRole, shownPart(category.CatName()));
+        item->setData(Qt::AccessibleDescriptionRole, shownPart(category.Description()));
         m_list->addItem(item);
     }
     if (const int row = rowOf(selectedId); row >= 0) {

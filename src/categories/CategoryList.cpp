@@ -81,7 +81,7 @@ protected:
         option->decorationSize = m_list.iconSize();
         option->displayAlignment = Qt::AlignHCenter | Qt::AlignTop;
         option->features.setFlag(QStyleOptionViewItem::WrapText, false);
-        option->text = wrapped(option->text.left(LaidOutCharacters), option->font, m_list.labelWidth());
+        option->text = wrapped(shownPart(option->text, LaidOutCharacters), option->font, m_list.labelWidth());
     }
 
 private:
@@ -161,8 +161,8 @@ bool CategoryList::viewportEvent(QEvent* event)
 QString CategoryList::tipOf(const QListWidgetItem& item) const
 {
     const QString name = item.text();
-    const QString shown = wrapped(name.left(LaidOutCharacters), font(), labelWidth());
-    if (name.size() <= LaidOutCharacters && !shown.contains(Ellipsis)) {
+    const QString shown = wrapped(shownPart(name, LaidOutCharacters), font(), labelWidth());
+    if (!shown.contains(Ellipsis)) {
         return item.toolTip();
     }
     return item.toolTip().isEmpty() ? name : name + QLatin1String("\n\n") + item.toolTip();

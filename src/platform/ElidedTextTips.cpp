@@ -23,13 +23,13 @@ QString hiddenIn(const QComboBox& combo)
     option.initFrom(&combo);
     const QRect field =
         combo.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &combo);
-    const int written = combo.fontMetrics().horizontalAdvance(combo.currentText());
+    const int written = combo.fontMetrics().horizontalAdvance(shownPart(combo.currentText()));
     return written > field.width() - EditMargin ? combo.currentText() : QString();
 }
 
 QString hiddenIn(const QLineEdit& edit)
 {
-    const int written = edit.fontMetrics().horizontalAdvance(edit.text());
+    const int written = edit.fontMetrics().horizontalAdvance(shownPart(edit.text()));
     const bool isSecret = edit.echoMode() != QLineEdit::Normal;
     return written > edit.contentsRect().width() - 2 * EditMargin && !isSecret ? edit.text() : QString();
 }
@@ -43,7 +43,7 @@ QString hiddenIn(const QAbstractItemView& view, QPoint position)
     const QString text = index.data().toString();
     const bool hasPicture = index.data(Qt::DecorationRole).isValid();
     const int picture = hasPicture ? view.iconSize().width() + EditMargin : 0;
-    const int needed = view.fontMetrics().horizontalAdvance(text) + picture + 2 * EditMargin;
+    const int needed = view.fontMetrics().horizontalAdvance(shownPart(text)) + picture + 2 * EditMargin;
     return needed > view.visualRect(index).width() ? text : QString();
 }
 

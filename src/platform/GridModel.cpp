@@ -23,15 +23,15 @@ QVariant GridModel::data(const QModelIndex& index, int role) const
     const int field = m_columns[index.column()].field;
     switch (role) {
     case Qt::DisplayRole:
-        return cellText(index.row(), field);
+        return shownPart(cellText(index.row(), field));
     case Qt::DecorationRole: {
         const int icon = cellIcon(index.row(), field);
         return icon == NoIcon || m_images == nullptr ? QVariant() : QVariant(m_images->icon(icon));
     }
     case Qt::AccessibleTextRole:
-        return wordOrText(index.row(), field);
+        return shownPart(wordOrText(index.row(), field));
     case Qt::AccessibleDescriptionRole:
-        return cellNote(index.row(), field);
+        return shownPart(cellNote(index.row(), field));
     case Qt::ToolTipRole:
         return toolTip(index.row(), field);
     case Qt::TextAlignmentRole:

@@ -1,11 +1,13 @@
 #include "platform/PlainText.h"
 
 #include <QGuiApplication>
+#include <QTextBoundaryFinder>
 
 namespace
 {
 
 constexpr qsizetype LongestRun = 40;
+constexpr qsizetype LongestCharacter = 64;
 constexpr qsizetype ToolTipCharacters = 2000;
 const QChar ZeroWidthSpace(0x200B);
 const QChar FirstStrongIsolate(0x2068);
@@ -53,13 +55,34 @@ QString inOwnDirection(const QString& text)
     return turned && !text.isEmpty() ? FirstStrongIsolate + text + PopIsolate : text;
 }
 
+QString shownPart(const QString& text, qsizetype characters)
+{
+    return text.size() <= characters ? text : text.left(lengthOfPart(text, characters)) + Ellipsis;
+}
+
+qsizetype lengthOfPart(const QString& text, qsizetype characters)
+{
+    if (text.size() <= characters) {
+        return text.size();
+    }
+    // What is drawn in one place may be of any length; it is looked for so far back.
+    const qsizetype begin = qMax(qsizetype(0), characters - LongestCharacter);
+    const QStringView around = QStringView(text).mid(begin, characters - begin + 1);
+    QTextBoundaryFinder borders(QTextBoundaryFinder::Grapheme, around.data(), around.size());
+    borders.setPosition(around.size() - 1);
+    if (borders.isAtBoundary() || borders.toPreviousBoundary() > 0) {
+        return begin + borders.position();
+    }
+    return text[characters].isLowSurrogate() ? characters - 1 : characters;
+}
+
 QString plainToolTip(const QString& text)
 {
     if (text.isEmpty()) {
         return {};
     }
-    const QString shown = text.size() <= ToolTipCharacters ? text : text.left(ToolTipCharacters) + Ellipsis;
     // A tool tip that looks like markup would be shown as such.
-    return QLatin1String("<qt>") + breakable(shown).toHtmlEscaped().replace(u'\n', QLatin1String("<br>"))
+    const QString shown = breakable(shownPart(text, ToolTipCharacters)).toHtmlEscaped();
+    return QLatin1String("<qt>") + QString(shown).replace(u'\n', QLatin1String("<br>"))
         + QLatin1String("</qt>");
 }

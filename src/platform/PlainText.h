@@ -13,6 +13,11 @@ QString withoutMiddle(const QString& text, qsizetype characters);
 /// `text` read in the direction of its own script, where the program runs in the other one: a date or an
 /// English name is not to be turned around between right-to-left captions.
 QString inOwnDirection(const QString& text);
+/// What is looked at of `text` where it is shown: of a longer one about so many characters, never part of
+/// one, and an ellipsis. A text without end is to be neither measured nor shaped.
+QString shownPart(const QString& text, qsizetype characters = 1000);
+/// The length of that part, at most `characters`.
+qsizetype lengthOfPart(const QString& text, qsizetype characters);
 /// A tool tip that shows `text` letter for letter, in lines; what is longer than anybody reads is cut.
 /// Empty for an empty text.
 QString plainToolTip(const QString& text);

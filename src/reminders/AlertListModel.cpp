@@ -1,6 +1,7 @@
 #include "reminders/AlertListModel.h"
 
 #include "platform/Clock.h"
+#include "platform/PlainText.h"
 #include "reminders/Lateness.h"
 #include "ui/MomentTexts.h"
 #include "ui/TaskPictures.h"
@@ -119,7 +120,7 @@ QString AlertListModel::cellNote(int row, int field) const
     const DueReminder& shown = at(row);
     QStringList notes;
     if (field == Name && !shown.category.isEmpty()) {
-        notes.append(tr("Category: %1").arg(shown.category));
+        notes.append(tr("Category: %1").arg(shownPart(shown.category)));
     }
     if (const auto reminder = momentFromStoredText(shown.reminder.toStdString())) {
         notes.append(latenessText(*reminder, m_clock.now()));

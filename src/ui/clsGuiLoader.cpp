@@ -2,6 +2,7 @@
 
 #include "data/ClsCategory.h"
 #include "data/TaskCodes.h"
+#include "platform/PlainText.h"
 #include "ui/Combos.h"
 
 #include <QComboBox>
@@ -35,7 +36,7 @@ void clsGuiLoader::LoadCategoriesCombo(QComboBox& combo, int index) const
     combo.clear();
     combo.addItem(tr("All", "categories"), CategoryFilter::All);
     for (const ClsCategory& category : categories) {
-        combo.addItem(category.CatName(), category.Id());
+        combo.addItem(shownPart(category.CatName()), category.Id());
     }
     combo.setCurrentIndex(index);
 }

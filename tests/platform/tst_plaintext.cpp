@@ -24,6 +24,43 @@ private slots:
         QVERIFY(tip.contains(QChar(0x2026)));
     }
 
+    void ofALongTextABeginningIsShown()
+    {
+        const QString endless(100'000, u'a');
+        QCOMPARE(shownPart(endless, 64), QString(64, u'a') + QChar(0x2026));
+        QCOMPARE(shownPart(QString(64, u'a'), 64), QString(64, u'a'));
+        QVERIFY(shownPart(endless).size() < 2000);
+        QCOMPARE(shownPart(QString()), QString());
+    }
+
+    void noCharacterIsCutInTwo_data()
+    {
+        QTest::addColumn<QString>("character");
+        QTest::newRow("two halves") << QString::fromUcs4(U"\U0001F600");
+        QTest::newRow("drawn upon another") << QStringLiteral("e\u0301\u0323");
+        QTest::newRow("line break") << QStringLiteral("\r\n");
+    }
+
+    void noCharacterIsCutInTwo()
+    {
+        QFETCH(QString, character);
+        const QString text = character.repeated(1000);
+        for (qsizetype most = 90; most < 120; ++most) {
+            const qsizetype length = lengthOfPart(text, most);
+            QVERIFY(length <= most && length > most - character.size());
+            QCOMPARE(length % character.size(), 0);
+        }
+    }
+
+    void aCharacterWithoutEndIsCutAllTheSame()
+    {
+        const QString marks = u'a' + QString(100'000, u'\u0301');
+        QCOMPARE(lengthOfPart(marks, 1000), 1000);
+        const QString high = QString::fromUcs4(U"\U000E0101");
+        QVERIFY(shownPart(u'a' + high.repeated(1000), 101).isValidUtf16());
+        QVERIFY(shownPart(u'a' + high.repeated(1000), 100).isValidUtf16());
+    }
+
     void aLongNameWithoutBlanksCanBeBroken()
     {
         const QString name(100, u'w');
