@@ -6,8 +6,8 @@
 
 class ImageList;
 
-/// A column of a grid. Its width is the grid's width in twentieths of a point (15 a logical pixel) divided by
-/// `widthDivisor`, in pixels; a divisor of 0 hides the column.
+/// A column of a grid. Its width is the grid's width divided by `widthDivisor`, in a unit in which all
+/// columns together are as wide as the grid; a divisor of 0 hides the column.
 struct GridColumn {
     int field = 0; ///< what the column shows, in the terms of the model
     QString key; ///< unique name; lies in the header's Qt::UserRole

@@ -10,12 +10,13 @@
 #include <QKeyEvent>
 #include <QScopedValueRollback>
 #include <QStyledItemDelegate>
+#include <algorithm>
 #include <cmath>
+#include <numeric>
 
 namespace
 {
 
-constexpr double UnitsPerPixel = 15;
 constexpr int IconSize = 16;
 constexpr int RowPadding = 8;
 constexpr int LeastRows = 4;
@@ -35,6 +36,18 @@ bool movesUpOrDown(const QKeyEvent& event)
 QModelIndex firstOf(const QItemSelection& selection)
 {
     return selection.isEmpty() ? QModelIndex() : QModelIndex(selection.first().topLeft());
+}
+
+/// The widths that columns ask for, each as a part of the whole.
+std::vector<double> sharesOf(const QList<GridColumn>& columns)
+{
+    std::vector<double> shares;
+    for (const GridColumn& column : columns) {
+        shares.push_back(column.widthDivisor == 0 ? 0 : 1.0 / column.widthDivisor);
+    }
+    const double whole = std::accumulate(shares.begin(), shares.end(), 0.0);
+    std::for_each(shares.begin(), shares.end(), [whole](double& share) { share /= whole; });
+    return shares;
 }
 
 /// Writes each text in its own direction.
@@ -80,7 +93,7 @@ void GridView::setGridModel(GridModel* model)
     m_gridModel = model;
     setModel(model);
     connect(model, &QAbstractItemModel::modelReset, this, [this] {
-        m_draggedShares.clear();
+        m_shares.clear();
         layOutColumns();
     });
     layOutColumns();
@@ -203,32 +216,52 @@ void GridView::showEvent(QShowEvent* event)
 
 void GridView::layOutColumns()
 {
-    if (m_gridModel == nullptr) {
+    if (m_gridModel == nullptr || m_layingOut) {
         return;
     }
     const QScopedValueRollback guard(m_layingOut, true);
     const QList<GridColumn>& columns = m_gridModel->columns();
-    m_draggedShares.resize(static_cast<std::size_t>(columns.size()));
+    if (m_shares.empty()) {
+        m_shares = sharesOf(columns);
+    }
+    const int room = viewport()->width();
+    int taken = 0;
     for (int i = 0; i < columns.size(); ++i) {
-        const bool hidden = columns[i].widthDivisor == 0;
-        setColumnHidden(i, hidden);
-        if (!hidden) {
-            setColumnWidth(i, widthOf(i));
+        setColumnHidden(i, columns[i].widthDivisor == 0);
+        if (!isColumnHidden(i)) {
+            setColumnWidth(i, static_cast<int>(std::lround(share(i) * room)));
+            taken += columnWidth(i);
         }
+    }
+    // The widest takes what the rounding leaves over.
+    const auto widest = std::max_element(m_shares.cbegin(), m_shares.cend());
+    if (taken > 0) {
+        const int column = static_cast<int>(widest - m_shares.cbegin());
+        setColumnWidth(column, columnWidth(column) + room - taken);
     }
 }
 
-int GridView::widthOf(int column) const
+double GridView::share(int column) const
 {
-    const std::optional<double> share = m_draggedShares[static_cast<std::size_t>(column)];
-    const double pixels =
-        share ? *share * width() : UnitsPerPixel * width() / m_gridModel->columns()[column].widthDivisor;
-    return static_cast<int>(std::lround(pixels));
+    return m_shares[static_cast<std::size_t>(column)];
 }
 
 void GridView::takeUserWidth(int column, int /*oldSize*/, int newSize)
 {
-    if (!m_layingOut && width() > 0 && static_cast<std::size_t>(column) < m_draggedShares.size()) {
-        m_draggedShares[static_cast<std::size_t>(column)] = static_cast<double>(newSize) / width();
+    if (m_layingOut || m_shares.empty() || viewport()->width() == 0) {
+        return;
     }
+    const auto dragged = m_shares.begin() + column;
+    const double before = std::accumulate(m_shares.begin(), dragged, 0.0);
+    const double after = std::accumulate(dragged + 1, m_shares.end(), 0.0);
+    // The last one ends where the grid does. Those behind any other share what it leaves them as they did.
+    if (after > 0) {
+        const auto shown = std::count_if(dragged + 1, m_shares.end(), [](double share) { return share > 0; });
+        const double least = double(horizontalHeader()->minimumSectionSize()) / viewport()->width();
+        const double most = std::max(least, 1 - before - least * static_cast<double>(shown));
+        *dragged = std::clamp(double(newSize) / viewport()->width(), least, most);
+        const double rest = 1 - before - *dragged;
+        std::for_each(dragged + 1, m_shares.end(), [&](double& share) { share *= rest / after; });
+    }
+    layOutColumns();
 }

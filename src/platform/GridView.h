@@ -2,7 +2,6 @@
 
 #include <QItemSelectionModel>
 #include <QTableView>
-#include <optional>
 #include <vector>
 
 class GridModel;
@@ -17,7 +16,8 @@ public:
     explicit GridView(QWidget* parent = nullptr);
 
     /// The grid does not own `model`; set once. After every reset of the model the columns get the widths
-    /// that they ask for and no row is selected. Columns follow a change of the grid's width in proportion.
+    /// that they ask for and no row is selected. Together they fill the grid, whatever its width; those
+    /// behind a column that the user drags make room for it.
     void setGridModel(GridModel* model);
 
     /// The selected row, counted from 0; -1 for none.
@@ -51,11 +51,11 @@ private:
     void takeUserWidth(int column, int oldSize, int newSize);
 
     void moveTo(int row, QItemSelectionModel::SelectionFlags selection);
+    double share(int column) const;
 
     GridModel* m_gridModel = nullptr;
-    int widthOf(int column) const;
-
-    /// For each column that the user has dragged, its width as a share of the grid's width.
-    std::vector<std::optional<double>> m_draggedShares;
+    /// For each column its part of the grid's visible width, 0 for a hidden one; none before the first
+    /// layout.
+    std::vector<double> m_shares;
     bool m_layingOut = false;
 };

@@ -2,6 +2,8 @@
 #include "support/TestMain.h"
 
 #include <QComboBox>
+#include <QHeaderView>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <cmath>
 
@@ -50,9 +52,45 @@ private slots:
         const GridView* grid = f.page.grid();
         QVERIFY(grid->isColumnHidden(0));
         const QList<int> divisors{28, 300, 62, 180, 290};
-        for (int i = 0; i < divisors.size(); ++i) {
-            QCOMPARE(
-                grid->columnWidth(i + 1), static_cast<int>(std::lround(15.0 * grid->width() / divisors[i])));
+        double all = 0;
+        for (const int divisor : divisors) {
+            all += 1.0 / divisor;
+        }
+        for (int i = 1; i < divisors.size(); ++i) {
+            QCOMPARE(grid->columnWidth(i + 1),
+                static_cast<int>(std::lround(grid->viewport()->width() / all / divisors[i])));
+        }
+        QCOMPARE(grid->horizontalHeader()->length(), grid->viewport()->width());
+    }
+
+    void theShownColumnsFillTheGrid_data()
+    {
+        QTest::addColumn<int>("width");
+        QTest::addColumn<int>("tasks");
+        for (const int width : {960, 1001, 1920}) {
+            QTest::addRow("%d", width) << width << 3;
+            QTest::addRow("%d with a scroll bar", width) << width << 100;
+        }
+    }
+
+    void theShownColumnsFillTheGrid()
+    {
+        QFETCH(int, width);
+        QFETCH(int, tasks);
+        TasksPageFixture f;
+        for (int i = 0; i < tasks; ++i) {
+            aTask(f.services.database).named(QStringLiteral("task")).add();
+        }
+        f.page.resize(width, 600);
+        f.page.show();
+        for (int shown = 0; shown < 16; ++shown) {
+            f.columns = {(shown & 1) != 0, (shown & 2) != 0, (shown & 4) != 0, (shown & 8) != 0};
+            f.load();
+            QCoreApplication::processEvents();
+            const GridView* grid = f.page.grid();
+            QCOMPARE(grid->verticalScrollBar()->isVisible(), tasks == 100);
+            QVERIFY(!grid->horizontalScrollBar()->isVisible());
+            QCOMPARE(grid->horizontalHeader()->length(), grid->viewport()->width());
         }
     }
 

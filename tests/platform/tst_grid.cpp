@@ -5,6 +5,7 @@
 
 #include <QAbstractItemModelTester>
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
 #include <cmath>
@@ -28,9 +29,13 @@ struct ShownGrid {
     bool isActive = false;
 };
 
-int expectedWidth(int gridWidth, int divisor)
+int widthOfAll(const GridView& grid)
 {
-    return static_cast<int>(std::lround(15.0 * gridWidth / divisor));
+    int width = 0;
+    for (int column = 0; column < grid.model()->columnCount(); ++column) {
+        width += grid.columnWidth(column);
+    }
+    return width;
 }
 
 } // namespace
@@ -93,38 +98,88 @@ private slots:
         QVERIFY(!model.index(0, 1).data(Qt::DecorationRole).isValid());
     }
 
-    void aColumnIsTheGridsWidthInTwentiethsOfAPointOverItsDivisor_data()
+    void columnsFillTheGridInTheProportionOfTheirDivisors_data()
     {
         QTest::addColumn<int>("width");
-        for (const int width : {300, 403, 500, 639, 1001}) {
+        for (const int width : {300, 403, 500, 639, 960, 1001, 1920}) {
             QTest::addRow("%d", width) << width;
         }
-        // 15 x 429 / 26 = 247.5: the half is rounded up.
-        QTest::addRow("a half") << 429;
     }
 
-    void aColumnIsTheGridsWidthInTwentiethsOfAPointOverItsDivisor()
+    void columnsFillTheGridInTheProportionOfTheirDivisors()
     {
         QFETCH(int, width);
         ShownGrid shown;
         shown.grid.resize(width, 300);
         QCoreApplication::processEvents();
         QVERIFY(shown.grid.isColumnHidden(0));
-        QCOMPARE(shown.grid.columnWidth(1), expectedWidth(width, 26));
-        QCOMPARE(shown.grid.columnWidth(2), expectedWidth(width, 200));
+        QCOMPARE(widthOfAll(shown.grid), shown.grid.viewport()->width());
+        const double unit = shown.grid.viewport()->width() / (1.0 / 26 + 1.0 / 200);
+        QCOMPARE(shown.grid.columnWidth(2), static_cast<int>(std::lround(unit / 200)));
+        QVERIFY(std::abs(shown.grid.columnWidth(1) - unit / 26) < 1);
+    }
+
+    void theColumnsMakeRoomForAScrollBar()
+    {
+        ShownGrid shown;
+        const int before = shown.grid.viewport()->width();
+        shown.model.setWords(QStringList(100, QStringLiteral("word")), columns());
+        QTRY_VERIFY(shown.grid.verticalScrollBar()->isVisible());
+        QVERIFY(shown.grid.viewport()->width() < before);
+        QCOMPARE(widthOfAll(shown.grid), shown.grid.viewport()->width());
+        QVERIFY(!shown.grid.horizontalScrollBar()->isVisible());
+        shown.model.setWords({QStringLiteral("word")}, columns());
+        QTRY_COMPARE(shown.grid.viewport()->width(), before);
+        QCOMPARE(widthOfAll(shown.grid), before);
     }
 
     void aDraggedColumnFollowsTheGridInProportionUntilTheColumnsAreMadeAnew()
     {
         ShownGrid shown;
-        shown.grid.horizontalHeader()->resizeSection(1, 100);
-        shown.grid.resize(1000, 300);
+        const int normal = shown.grid.columnWidth(1);
+        const int width = shown.grid.viewport()->width();
+        shown.grid.horizontalHeader()->resizeSection(1, width / 2);
+        QCOMPARE(widthOfAll(shown.grid), width);
+        shown.grid.resize(shown.grid.width() + width, 300);
         QCoreApplication::processEvents();
-        QCOMPARE(shown.grid.columnWidth(1), 200);
-        QCOMPARE(shown.grid.columnWidth(2), expectedWidth(1000, 200));
+        QCOMPARE(shown.grid.viewport()->width(), 2 * width);
+        QCOMPARE(shown.grid.columnWidth(1), width / 2 * 2);
+        QCOMPARE(widthOfAll(shown.grid), 2 * width);
         shown.model.setColumns(columns());
-        QCOMPARE(shown.grid.columnWidth(1), expectedWidth(1000, 26));
+        QVERIFY(std::abs(shown.grid.columnWidth(1) - 2 * normal) <= 1);
         QVERIFY(shown.grid.isColumnHidden(0));
+    }
+
+    void draggingLeavesNoGapAndPushesNoColumnOut()
+    {
+        ShownGrid shown;
+        const int width = shown.grid.viewport()->width();
+        QHeaderView& header = *shown.grid.horizontalHeader();
+        header.resizeSection(1, 2 * width);
+        QCOMPARE(widthOfAll(shown.grid), width);
+        QCOMPARE(header.sectionSize(2), header.minimumSectionSize());
+        // The last one ends where the grid does.
+        header.resizeSection(2, 100);
+        QCOMPARE(header.sectionSize(2), header.minimumSectionSize());
+        QCOMPARE(widthOfAll(shown.grid), width);
+    }
+
+    void ofATextWithoutEndAPartIsShownAndTheWholeIsKept()
+    {
+        WordsModel model;
+        const QString endless(10'000'000, u'\u0628');
+        model.setWords({endless}, columns());
+        GridView grid;
+        grid.setGridModel(&model);
+        grid.resize(960, 300);
+        grid.grab();
+        grid.selectOnly(0);
+        grid.grab();
+        for (const int role : {Qt::DisplayRole, Qt::AccessibleTextRole, Qt::ToolTipRole}) {
+            const QString shown = model.index(0, 1).data(role).toString();
+            QVERIFY(shown.contains(u'\u2026'));
+            QVERIFY(shown.size() < 3000);
+        }
     }
 
     void theSelectionIsOneWholeRowOrNone()
