@@ -42,7 +42,7 @@ void Program::onTaskSaved(qint32 id)
 void Program::onTaskCancelled()
 {
     if (m_main->isShown()) {
-        m_main->tasksPage()->focusGrid();
+        m_main->focusTaskGrid();
     } else if (m_alerts != nullptr) {
         m_alerts->focusGrid();
     }

@@ -2,6 +2,7 @@
 
 #include "app/FixedPictures.h"
 #include "app/HeaderFrame.h"
+#include "app/PageKeys.h"
 #include "app/TasksPage.h"
 #include "categories/CategoriesPage.h"
 #include "platform/ErrorReport.h"
@@ -54,26 +55,16 @@ frmMain::frmMain(
     addPage(m_pages.maintenance, tr("Maintenance"));
     // It is the first to be seen.
     m_resting[TasksIndex].join();
-    addPageKeys();
     m_trayMenu = makeTrayMenu();
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(header);
     layout->addWidget(m_tabs, 1);
+    addPageKeys(*m_tabs);
     resize(withLetters(FirstSize, font()));
     connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, &frmMain::helpRequested);
     // Only now: adding pages switches to the first one.
     connectGuarded(m_tabs, &QTabWidget::currentChanged, this, &frmMain::tabMain_Switch, services.errors);
     connectGuarded(&m_trayIcon, &TrayIcon::activated, this, &frmMain::toggle, services.errors);
-}
-
-void frmMain::addPageKeys()
-{
-    for (int page = 0; page < m_tabs->count(); ++page) {
-        const QKeySequence keys(Qt::AltModifier | static_cast<Qt::Key>(Qt::Key_1 + page));
-        connect(new QShortcut(keys, this), &QShortcut::activated, m_tabs,
-            [this, page] { m_tabs->setCurrentIndex(page); });
-        m_tabs->setTabToolTip(page, keys.toString(QKeySequence::NativeText));
-    }
 }
 
 QWidget* frmMain::makeHeader()
@@ -163,10 +154,11 @@ void frmMain::Form_Load()
         }
         putInPlace(this);
         show();
-        m_pages.tasks->focusGrid();
     } else {
         stayReachable();
     }
+    // Of a hidden window, too: it is to have the keys when it is shown.
+    m_pages.tasks->focusGrid();
 }
 
 void frmMain::fillPages()
@@ -216,9 +208,41 @@ void frmMain::saveSettings()
     m_pages.settings->btnSave_Click();
 }
 
+void frmMain::focusTaskGrid()
+{
+    focusListOf(TasksIndex);
+}
+
 void frmMain::focusCategoryList()
 {
-    m_pages.categories->focusList();
+    focusListOf(CategoriesIndex);
+}
+
+void frmMain::focusListOf(int page)
+{
+    const bool isInFront = m_tabs->currentIndex() == page;
+    // A list that nobody sees would take keys meant for what is in front.
+    if (!isInFront && m_tabs->currentWidget()->isAncestorOf(focusWidget())) {
+        activateWindow();
+    } else {
+        focusPage();
+    }
+}
+
+void frmMain::focusPage()
+{
+    switch (m_tabs->currentIndex()) {
+    case TasksIndex:
+        m_pages.tasks->focusGrid();
+        break;
+    case CategoriesIndex:
+        m_pages.categories->focusList();
+        break;
+    default:
+        activateWindow();
+        focusFirstControl(*m_tabs->currentWidget());
+        break;
+    }
 }
 
 void frmMain::place(bool topmost)
@@ -346,6 +370,9 @@ void frmMain::tabMain_Switch(int page)
         m_pages.tasks->focusGrid();
     } else if (page == CategoriesIndex && isVisible()) {
         m_pages.categories->focusList();
+    } else if (const QWidget* focus = focusWidget(); !m_tabs->isAncestorOf(focus)) {
+        // From the links above.
+        focusFirstControl(*m_tabs->currentWidget());
     }
 }
 

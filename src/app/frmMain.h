@@ -64,6 +64,9 @@ public:
     void reloadCategoryCombos();
     /// Stores what the settings page shows and lets it take effect.
     void saveSettings();
+    /// Gives the keys to the task grid, to the category list; with another page in front to that page, where
+    /// they stay with the control that has them.
+    void focusTaskGrid();
     void focusCategoryList();
 
     /// Whether the window is on the screen; minimized counts as hidden.
@@ -117,10 +120,11 @@ private:
     void mnuFeedBack_Click();
     void header_Click();
     void header_Menu(const QPoint& place, bool byKeys);
+    void focusListOf(int page);
+    void focusPage();
     void hideWindow();
     void showWindow();
     void syncTrayCaption();
-    void addPageKeys();
     QWidget* makeHeader();
     QMenu* makeTrayMenu();
 
