@@ -14,6 +14,7 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 
 namespace
 {
@@ -126,6 +127,8 @@ void frmAbout::layOut(const AboutPictures& pictures)
     // Enter presses it as Space does while it has the focus.
     ok->setAutoDefault(true);
     connectGuarded(ok, &QPushButton::clicked, this, &frmAbout::cmdOK_Click, m_services.errors);
+
+    connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, &QWidget::close);
 
     auto* all = new QVBoxLayout(this);
     all->setContentsMargins(20, 20, 20, 16);

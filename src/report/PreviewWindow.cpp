@@ -160,6 +160,7 @@ void PreviewWindow::makeShortcuts()
     };
     add(QKeySequence::Print, [this] { m_print->click(); });
     add(QKeySequence::Close, [this] { close(); });
+    add(QKeySequence::Cancel, [this] { close(); });
     add(QKeySequence::ZoomIn, [this] { zoomBy(1); });
     add(QKeySequence::ZoomOut, [this] { zoomBy(-1); });
     add(QKeySequence::MoveToNextPage, [this] { scrollOrTurn(1); });

@@ -76,6 +76,17 @@ private slots:
         }
     }
 
+    void escapeClosesIt()
+    {
+        About about;
+        about.form.show();
+        QVERIFY(QTest::qWaitForWindowActive(&about.form));
+        const QSignalSpy unloads(&about.form, &frmAbout::unloadRequested);
+        QTest::keyClick(&about.form, Qt::Key_Escape);
+        QVERIFY(!about.form.isVisible());
+        QCOMPARE(unloads.count(), 1);
+    }
+
     void itShowsBothPicturesAndTheLine()
     {
         About about;

@@ -257,6 +257,27 @@ private slots:
         QVERIFY(!f.window.isVisible());
     }
 
+    void escapeClosesItFromEveryControl_data()
+    {
+        QTest::addColumn<QString>("control");
+        for (const char* name : {"btnExport", "cmbZoom", "spnPage", "btnNextPage"}) {
+            QTest::newRow(name) << QString::fromLatin1(name);
+        }
+    }
+
+    void escapeClosesItFromEveryControl()
+    {
+        QFETCH(QString, control);
+        PreviewUnderTest f(100);
+        f.window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&f.window));
+        auto* from = f.window.findChild<QWidget*>(control);
+        from->setFocus();
+        QTest::keyClick(from, Qt::Key_Escape);
+        QVERIFY(!f.window.isVisible());
+        QCOMPARE(f.host.closed, 1);
+    }
+
     void aNarrowWindowShowsEveryControlWhole_data()
     {
         QTest::addColumn<QSize>("size");
