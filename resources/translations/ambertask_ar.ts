@@ -840,6 +840,13 @@
     </message>
 </context>
 <context>
+    <name>Rest</name>
+    <message>
+        <source>Only the beginning is shown. The rest is kept as long as the &quot;…&quot; at its end stands.</source>
+        <translation>لا تظهر إلا البداية. تبقى البقية محفوظة ما دامت العلامة «…» في آخر النص.</translation>
+    </message>
+</context>
+<context>
     <name>ScreenErrorReport</name>
     <message>
         <source>Close &amp;program</source>

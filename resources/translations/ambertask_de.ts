@@ -816,6 +816,13 @@
     </message>
 </context>
 <context>
+    <name>Rest</name>
+    <message>
+        <source>Only the beginning is shown. The rest is kept as long as the &quot;…&quot; at its end stands.</source>
+        <translation>Nur der Anfang wird gezeigt. Der Rest bleibt erhalten, solange „…“ am Ende stehen bleibt.</translation>
+    </message>
+</context>
+<context>
     <name>ScreenErrorReport</name>
     <message>
         <source>Close &amp;program</source>

@@ -816,6 +816,13 @@
     </message>
 </context>
 <context>
+    <name>Rest</name>
+    <message>
+        <source>Only the beginning is shown. The rest is kept as long as the &quot;…&quot; at its end stands.</source>
+        <translation>Seul le début est affiché. Le reste est conservé tant que « … » reste à la fin.</translation>
+    </message>
+</context>
+<context>
     <name>ScreenErrorReport</name>
     <message>
         <source>Close &amp;program</source>

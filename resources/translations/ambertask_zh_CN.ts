@@ -810,6 +810,13 @@
     </message>
 </context>
 <context>
+    <name>Rest</name>
+    <message>
+        <source>Only the beginning is shown. The rest is kept as long as the &quot;…&quot; at its end stands.</source>
+        <translation>仅显示开头部分。只要末尾的“…”还在，其余内容就会保留。</translation>
+    </message>
+</context>
+<context>
     <name>ScreenErrorReport</name>
     <message>
         <source>Close &amp;program</source>

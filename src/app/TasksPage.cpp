@@ -14,7 +14,6 @@
 
 #include <QBoxLayout>
 #include <QDateEdit>
-#include <QFormLayout>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -95,10 +94,16 @@ TasksPage::TasksPage(const FormServices& services, std::function<TaskColumns()> 
 QWidget* TasksPage::makeFilterFrame()
 {
     auto* frame = named(new QGroupBox(tr("Show")), "framFilters");
-    auto* form = new QFormLayout(frame);
-    form->addRow(labelFor(m_categories, tr("Categor&y"), QStringLiteral("SCLabel1")), m_categories);
-    form->addRow(labelFor(m_status, tr("Stat&us"), QStringLiteral("SCLabel2")), m_status);
-    form->addRow(labelFor(m_sort, tr("S&ort by"), QStringLiteral("SCLabel3")), m_sort);
+    // Not a form layout: it puts a caption above the middle of its control.
+    auto* layout = new QGridLayout(frame);
+    const auto addRow = [&](int row, QLabel* label, QWidget* combo) {
+        layout->addWidget(label, row, 0);
+        layout->addWidget(combo, row, 1);
+    };
+    addRow(0, labelFor(m_categories, tr("Categor&y"), QStringLiteral("SCLabel1")), m_categories);
+    addRow(1, labelFor(m_status, tr("Stat&us"), QStringLiteral("SCLabel2")), m_status);
+    addRow(2, labelFor(m_sort, tr("S&ort by"), QStringLiteral("SCLabel3")), m_sort);
+    layout->setColumnStretch(1, 1);
     // The longest category is not to widen the page; the words of the program are to be seen whole.
     m_categories->keepNarrow(18);
     m_status->keepEntriesWhole();
@@ -120,8 +125,8 @@ QWidget* TasksPage::makeDueDateFrame()
     layout->addWidget(m_dateToLabel, 2, 0);
     layout->addWidget(m_dateTo, 2, 1);
     layout->setColumnStretch(1, 1);
-    setUpDatePicker(*m_dateFrom);
-    setUpDatePicker(*m_dateTo);
+    setUpDatePicker(*m_dateFrom, m_services.clock);
+    setUpDatePicker(*m_dateTo, m_services.clock);
     m_allDate->setChecked(true);
     setDatesEnabled(false);
     return frame;
@@ -258,8 +263,8 @@ void TasksPage::focusGrid()
 {
     if (window()->isVisible()) {
         activate(window());
-        m_grid->setFocus(Qt::OtherFocusReason);
     }
+    m_grid->setFocus(Qt::OtherFocusReason);
 }
 
 void TasksPage::filterList_Click()

@@ -4,6 +4,7 @@
 #include "categories/PicturePanel.h"
 #include "platform/LetterScale.h"
 #include "platform/ScrollFrame.h"
+#include "ui/LongText.h"
 #include "ui/PictureLabel.h"
 #include "ui/TaskPictures.h"
 
@@ -15,7 +16,6 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <limits>
 
 namespace
 {
@@ -72,8 +72,7 @@ CategoryDetailsControls::CategoryDetailsControls(QWidget& form)
 
 void CategoryDetailsControls::setUp(const QWidget& form)
 {
-    // An edit cuts at 32,767 characters unless told otherwise.
-    txtCatName->setMaxLength(std::numeric_limits<int>::max());
+    takeLongTexts(*txtCatName);
     txtCatName->setAccessibleName(tr("Category"));
     txtCatDesc->setTabChangesFocus(true);
     txtCatDesc->setAccessibleName(tr("Description"));

@@ -10,7 +10,7 @@
 #include "platform/MessageBoxes.h"
 #include "ui/CheckerTimer.h"
 #include "ui/CloseBox.h"
-#include "ui/ControlValue.h"
+#include "ui/LongText.h"
 #include "ui/PictureLabel.h"
 #include "ui/UnsavedInput.h"
 
@@ -80,8 +80,8 @@ CategoryInput frmCategoryDetails::input() const
 
 void frmCategoryDetails::EmptyForm()
 {
-    m_controls.txtCatName->clear();
-    m_controls.txtCatDesc->clear();
+    setWholeText(*m_controls.txtCatName, {});
+    setWholeText(*m_controls.txtCatDesc, {});
     m_controls.txtCatName->setEnabled(true);
     SelectIcon(0);
     m_controls.opnDefaultIcon->setChecked(true);
@@ -113,10 +113,10 @@ void frmCategoryDetails::forgetCategory()
 
 void frmCategoryDetails::fillFrom(const ClsCategory& category)
 {
-    m_controls.txtCatName->setText(category.CatName());
+    setWholeText(*m_controls.txtCatName, category.CatName());
     m_controls.txtCatName->setCursorPosition(0);
     m_controls.txtCatName->setEnabled(false);
-    m_controls.txtCatDesc->setPlainText(category.Description());
+    setWholeText(*m_controls.txtCatDesc, category.Description());
     if (!category.IsCustomIcon()) {
         SelectIcon(category.IconId());
         return;
@@ -258,8 +258,8 @@ bool frmCategoryDetails::refuses()
 ClsCategory frmCategoryDetails::enteredCategory() const
 {
     ClsCategory category(m_services.engine);
-    category.setCatName(m_controls.txtCatName->text());
-    category.setDescription(textOf(*m_controls.txtCatDesc));
+    category.setCatName(wholeText(*m_controls.txtCatName));
+    category.setDescription(wholeText(*m_controls.txtCatDesc));
     if (m_controls.opnCustomIcon->isChecked()) {
         category.setIsCustomIcon(true);
         category.setCustomIconName(storeCustomPicture());

@@ -68,7 +68,7 @@ AlertControls::AlertControls(QWidget& form, const Clock& clock)
 {
     band->setBuddy(grdTasks);
     grdTasks->setMinimumSize(SmallestGrid);
-    setUpDatePicker(*dtpReminderDate);
+    setUpDatePicker(*dtpReminderDate, clock);
     setUpTimePicker(*dtpReminderTime);
     btnHelp->setEnabled(false);
     layOut(form);

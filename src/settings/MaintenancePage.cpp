@@ -145,8 +145,8 @@ QGroupBox* MaintenancePage::makeDateRangeFrame()
 {
     m_dtpDateFrom = named("dtpDateFromMaintenance", new QDateEdit);
     m_dtpDateTo = named("dtpDateToMaintenance", new QDateEdit);
-    setUpDatePicker(*m_dtpDateFrom);
-    setUpDatePicker(*m_dtpDateTo);
+    setUpDatePicker(*m_dtpDateFrom, m_services.clock);
+    setUpDatePicker(*m_dtpDateTo, m_services.clock);
 
     auto* frame = new QGroupBox(tr("Date Range"));
     frame->setAccessibleName(frame->title());

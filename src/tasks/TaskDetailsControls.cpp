@@ -4,8 +4,8 @@
 #include "ui/CheckBox.h"
 #include "ui/ComboBox.h"
 #include "ui/Combos.h"
-#include "ui/ControlValue.h"
 #include "ui/DateComposition.h"
+#include "ui/LongText.h"
 #include "ui/Pickers.h"
 
 #include <QDateEdit>
@@ -18,7 +18,6 @@
 #include <QPushButton>
 #include <QTimeEdit>
 #include <QVBoxLayout>
-#include <limits>
 
 namespace
 {
@@ -42,7 +41,7 @@ QLabel* addLabel(QGridLayout& grid, int row, int column, QLabel* label, const QS
 
 } // namespace
 
-TaskDetailsControls::TaskDetailsControls(QWidget& form)
+TaskDetailsControls::TaskDetailsControls(QWidget& form, const Clock& clock)
     : txtTask(named<QLineEdit>("txtTask", form)), cmbCategories(named<ComboBox>("cmbCategories", form)),
       txtDescription(named<QPlainTextEdit>("txtDescription", form)),
       dtpDueDate(named<QDateEdit>("dtpDueDate", form)), dtpDueTime(named<QTimeEdit>("dtpDueTime", form)),
@@ -63,7 +62,7 @@ TaskDetailsControls::TaskDetailsControls(QWidget& form)
       btnFileBrowse(named<QPushButton>("btnFileBrowse", *framReminderLater)),
       btnOk(named<QPushButton>("btnOk", form)), btnCancel(named<QPushButton>("btnCancel", form))
 {
-    setUp();
+    setUp(clock);
     setAccessibleNames();
     layOut(form);
     const QList<QWidget*> order = inTabOrder();
@@ -95,26 +94,25 @@ TaskInput TaskDetailsControls::input() const
         picker->interpretText();
     }
     TaskInput entered;
-    entered.taskName = txtTask->text();
+    entered.taskName = wholeText(*txtTask);
     entered.categoryId = selectedCategory();
-    entered.description = textOf(*txtDescription);
+    entered.description = wholeText(*txtDescription);
     entered.due = composeMoment(dtpDueDate->date(), dtpDueTime->time());
     entered.status = selectedNumber(*cmbStatus, TaskStatus::NotStarted);
     entered.periority = selectedNumber(*cmbPeriorities, TaskPeriority::Normal);
     entered.reminderOn = chkEnableReminder->isChecked();
     entered.reminder = composeMoment(dtpReminderDate->date(), dtpReminderTime->time());
     entered.hasSound = chkReminderSound->isChecked();
-    entered.sound = txtReminderSound->text();
+    entered.sound = wholeText(*txtReminderSound);
     entered.hasFile = chkReminderFile->isChecked();
-    entered.file = txtReminderFile->text();
+    entered.file = wholeText(*txtReminderFile);
     return entered;
 }
 
-void TaskDetailsControls::setUp()
+void TaskDetailsControls::setUp(const Clock& clock)
 {
-    // An edit cuts at 32,767 characters unless told otherwise.
     for (QLineEdit* edit : {txtTask, txtReminderSound, txtReminderFile}) {
-        edit->setMaxLength(std::numeric_limits<int>::max());
+        takeLongTexts(*edit);
     }
     txtDescription->setTabChangesFocus(true);
     txtDescription->setMinimumHeight(txtDescription->fontMetrics().lineSpacing() * 5);
@@ -123,7 +121,7 @@ void TaskDetailsControls::setUp()
     cmbStatus->keepEntriesWhole();
     cmbPeriorities->keepEntriesWhole();
     for (QDateEdit* picker : {dtpDueDate, dtpReminderDate}) {
-        setUpDatePicker(*picker);
+        setUpDatePicker(*picker, clock);
     }
     for (QTimeEdit* picker : {dtpDueTime, dtpReminderTime}) {
         setUpTimePicker(*picker);

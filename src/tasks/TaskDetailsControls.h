@@ -6,6 +6,7 @@
 #include <QList>
 #include <optional>
 
+class Clock;
 class ComboBox;
 class QCheckBox;
 class QDateEdit;
@@ -24,7 +25,8 @@ class TaskDetailsControls
     Q_DECLARE_TR_FUNCTIONS(frmTaskDetails)
 
 public:
-    explicit TaskDetailsControls(QWidget& form);
+    /// `clock` outlives the controls.
+    TaskDetailsControls(QWidget& form, const Clock& clock);
 
     QLineEdit* txtTask;
     ComboBox* cmbCategories;
@@ -57,7 +59,7 @@ public:
     TaskInput input() const;
 
 private:
-    void setUp();
+    void setUp(const Clock& clock);
     void setAccessibleNames();
     void layOut(QWidget& form);
     void layOutReminder();

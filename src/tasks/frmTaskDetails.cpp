@@ -11,6 +11,7 @@
 #include "ui/ComboBox.h"
 #include "ui/Combos.h"
 #include "ui/ControlValue.h"
+#include "ui/LongText.h"
 #include "ui/Pickers.h"
 #include "ui/UnsavedInput.h"
 #include "ui/clsGuiLoader.h"
@@ -33,7 +34,7 @@ namespace
 void setPath(QCheckBox& box, QLineEdit& edit, const QString& path)
 {
     box.setChecked(!path.isEmpty());
-    edit.setText(path);
+    setWholeText(edit, path);
 }
 
 /// Selects the entry that carries `number`; without such an entry the selection stays.
@@ -49,7 +50,7 @@ void selectNumberIfListed(QComboBox& combo, qint32 number)
 } // namespace
 
 frmTaskDetails::frmTaskDetails(const FormServices& services, const TaskDetailsHost& host)
-    : QWidget(nullptr, Qt::Dialog), m_services(services), m_host(host), m_controls(*this)
+    : QWidget(nullptr, Qt::Dialog), m_services(services), m_host(host), m_controls(*this, services.clock)
 {
     setObjectName(QStringLiteral("frmTaskDetails"));
     setWindowTitle(tr("Task Details"));
@@ -111,9 +112,9 @@ bool frmTaskDetails::letGo()
 void frmTaskDetails::EmptyForm()
 {
     const Moment now = m_services.clock.now();
-    m_controls.txtTask->clear();
+    setWholeText(*m_controls.txtTask, {});
     m_controls.cmbCategories->setCurrentIndex(-1);
-    m_controls.txtDescription->clear();
+    setWholeText(*m_controls.txtDescription, {});
     setPickers(*m_controls.dtpDueDate, *m_controls.dtpDueTime, now);
     m_controls.cmbStatus->setCurrentIndex(0);
     m_controls.cmbPeriorities->setCurrentIndex(0);
@@ -141,10 +142,10 @@ void frmTaskDetails::SetTag(qint16 Id)
 
 void frmTaskDetails::fillFrom(const ClsTask& task)
 {
-    m_controls.txtTask->setText(task.TaskName());
+    setWholeText(*m_controls.txtTask, task.TaskName());
     m_controls.txtTask->setCursorPosition(0);
     selectCategory(task.CategoryId());
-    m_controls.txtDescription->setPlainText(task.Description());
+    setWholeText(*m_controls.txtDescription, task.Description());
     setPickers(*m_controls.dtpDueDate, *m_controls.dtpDueTime, toMinute(task.DueDateTime()));
     selectNumberIfListed(*m_controls.cmbStatus, task.status());
     selectNumberIfListed(*m_controls.cmbPeriorities, task.Periority());

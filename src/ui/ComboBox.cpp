@@ -9,6 +9,7 @@
 #include <QStyle>
 #include <QStyleHints>
 #include <QStyleOption>
+#include <QWheelEvent>
 #include <utility>
 
 namespace
@@ -25,6 +26,8 @@ bool writesLetter(const QKeyEvent& event)
 ComboBox::ComboBox(QWidget* parent) : QComboBox(parent)
 {
     installAccessibleControls();
+    // The wheel goes by on its way down the page, it gives no focus.
+    setFocusPolicy(Qt::StrongFocus);
 }
 
 void ComboBox::keepEntriesWhole()
@@ -135,6 +138,15 @@ bool ComboBox::goesOnWriting(const QKeyEvent& event) const
 {
     const auto patience = static_cast<quint64>(QGuiApplication::styleHints()->keyboardInputInterval());
     return m_lastLetter.has_value() && event.timestamp() - *m_lastLetter < patience;
+}
+
+void ComboBox::wheelEvent(QWheelEvent* event)
+{
+    if (hasFocus()) {
+        QComboBox::wheelEvent(event);
+    } else {
+        event->ignore();
+    }
 }
 
 void ComboBox::keyPressEvent(QKeyEvent* event)

@@ -5,7 +5,7 @@
 
 /// A combo box whose entries can be written in whole: a blank in the middle of a name goes on with the
 /// search, where the toolkit's own would open the list over it. Assistive technology can choose from its
-/// list.
+/// list. The wheel turns its entries only while it has the focus.
 class ComboBox : public QComboBox
 {
     Q_OBJECT
@@ -31,6 +31,7 @@ protected:
     void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
 
 private:
     enum class Width { ToolkitsOwn, OfEntries, OfLetters };

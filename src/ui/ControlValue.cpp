@@ -1,12 +1,13 @@
 #include "ui/ControlValue.h"
 
+#include "ui/LongText.h"
+
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateTimeEdit>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QTextDocument>
 
 QString valueOf(const QWidget* control)
 {
@@ -14,10 +15,10 @@ QString valueOf(const QWidget* control)
         return picker->text();
     }
     if (const auto* edit = qobject_cast<const QLineEdit*>(control)) {
-        return edit->text();
+        return wholeText(*edit);
     }
     if (const auto* edit = qobject_cast<const QPlainTextEdit*>(control)) {
-        return textOf(*edit);
+        return wholeText(*edit);
     }
     if (const auto* combo = qobject_cast<const QComboBox*>(control)) {
         return combo->currentText();
@@ -29,12 +30,4 @@ QString valueOf(const QWidget* control)
         return QStringLiteral("False");
     }
     return {};
-}
-
-QString textOf(const QPlainTextEdit& edit)
-{
-    QString text = edit.document()->toRawText();
-    text.replace(QChar::ParagraphSeparator, u'\n');
-    text.replace(QChar::LineSeparator, u'\n');
-    return text;
 }

@@ -7,6 +7,7 @@
 #include "report/PreviewWindow.h"
 #include "support/TestMain.h"
 #include "tasks/frmTaskDetails.h"
+#include "tests/app/DrawnWindow.h"
 #include "tests/app/EveryBox.h"
 #include "tests/app/FocusSight.h"
 #include "tests/app/Legibility.h"
@@ -23,6 +24,7 @@
 #include <QMenu>
 #include <QRadioButton>
 #include <QTabWidget>
+#include <QTableView>
 #include <QTimer>
 #include <QToolTip>
 
@@ -48,6 +50,8 @@ namespace
         QVERIFY2((reader).texts >= (leastTexts) && (reader).marks >= (leastMarks),                           \
             qPrintable(QStringLiteral("%1 texts, %2 marks").arg((reader).texts).arg((reader).marks)));       \
     } while (false)
+
+constexpr double OwedByMarks = 3;
 
 const QStringList Windows{"page Maintenance", "page Settings", "page Categories", "page Tasks",
     "page with dates", "new task", "task with a reminder", "new category", "category with a picture",
@@ -227,6 +231,23 @@ void SkinsOnWindowsTest::theCalendarCanBeRead()
     QTRY_VERIFY(QApplication::activePopupWidget() != nullptr);
     // Six weeks, their head, month and year; the arrows to the months beside it.
     EXPECT_LEGIBLE(*QApplication::activePopupWidget(), f.owed, 51, 2);
+    // Its frame, and the ring around the day of the clock, selected and not.
+    QWidget& popup = *QApplication::activePopupWidget();
+    auto* calendar = popup.findChild<QCalendarWidget*>();
+    auto* days = popup.findChild<QTableView*>();
+    QVERIFY(calendar != nullptr && days != nullptr);
+    const QImage picture = popup.grab().toImage();
+    const QPoint edge(picture.width() - 1, picture.height() * 2 / 3);
+    QVERIFY(contrastOf(picture.pixel(edge), picture.pixel(edge - QPoint(2, 0))) >= OwedByMarks);
+    const QDate today = toQDate(f.database.clock().now());
+    calendar->setSelectedDate(today);
+    const QRect cell = days->visualRect(days->selectionModel()->currentIndex());
+    const QRect side(cell.left(), cell.top() + 3, 6, cell.height() - 6);
+    QVERIFY(DrawnWindow(popup).strongestContrast(*days->viewport(), side) >= OwedByMarks);
+    calendar->setSelectedDate(today.addDays(today.day() == 1 ? 1 : -1));
+    QVERIFY(DrawnWindow(popup).strongestContrast(*days->viewport(), side) >= OwedByMarks);
+    f.database.clock().step(std::chrono::days(40));
+    QVERIFY(DrawnWindow(popup).strongestContrast(*days->viewport(), side) < OwedByMarks);
     QApplication::activePopupWidget()->close();
 }
 

@@ -1,7 +1,10 @@
+#include "data/ClsTask.h"
 #include "data/HardTexts.h"
 #include "support/TestMain.h"
 #include "tasks/TaskDialog.h"
 
+#include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QTimeEdit>
 
 class TestTaskDetailsTexts : public TestCase
@@ -12,6 +15,7 @@ private slots:
     void hardTextsAreStoredAsTheyAre();
     void aMegabyteOfDescriptionComesBackAsItWas();
     void aNameLongerThanAnEditsOwnLimitIsStoredWhole();
+    void textsWithoutEndAreStoredAsTheyWere();
     void aHalfTypedPickerCountsAsItWouldOnLeavingIt();
 };
 
@@ -73,6 +77,30 @@ void TestTaskDetailsTexts::aNameLongerThanAnEditsOwnLimitIsStoredWhole()
     for (const char* column : {"task_name", "reminder_sound", "reminder_file"}) {
         QCOMPARE(dialog.stored(QLatin1String(column)).toString().size(), text.size());
     }
+}
+
+void TestTaskDetailsTexts::textsWithoutEndAreStoredAsTheyWere()
+{
+    TaskDialog dialog;
+    dialog.showValid();
+    dialog.click("btnOk");
+    // Another program wrote it.
+    const QString endless(10'000'000, u'\u0628');
+    ClsTask task = ClsTask(dialog.services.services.engine).GetTaskById(1).value();
+    task.setTaskName(endless);
+    task.setDescription(endless);
+    task.Update();
+    dialog.form->SetTag(1);
+    dialog.show();
+    QVERIFY(dialog.control<QLineEdit>("txtTask")->text().size() < 20'000);
+    QVERIFY(dialog.control<QPlainTextEdit>("txtDescription")->toPlainText().size() < 20'000);
+    dialog.click("btnOk");
+    QVERIFY(!dialog.form->isVisible());
+    QVERIFY(dialog.stored(QStringLiteral("task_name")).toString() == endless);
+    QVERIFY(dialog.stored(QStringLiteral("task_desc")).toString() == endless);
+    // The next task has none of it.
+    dialog.form->EmptyForm();
+    QCOMPARE(dialog.text("txtTask"), QString());
 }
 
 void TestTaskDetailsTexts::aHalfTypedPickerCountsAsItWouldOnLeavingIt()

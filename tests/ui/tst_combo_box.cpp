@@ -1,4 +1,5 @@
 #include "support/TestMain.h"
+#include "support/WheelTurn.h"
 #include "ui/ComboBox.h"
 
 #include <QAbstractItemView>
@@ -61,6 +62,21 @@ private slots:
         combo.addItem(QString(60, u'm'));
         QCOMPARE(combo.sizeHint(), empty);
         QCOMPARE(combo.minimumSizeHint(), empty);
+    }
+
+    void theWheelTurnsItOnlyWithTheFocus()
+    {
+        ComboBox combo;
+        fill(combo);
+        combo.setCurrentIndex(2);
+        show(combo);
+        combo.clearFocus();
+        QVERIFY(!turnWheel(combo));
+        QCOMPARE(combo.currentIndex(), 2);
+        QVERIFY((combo.focusPolicy() & Qt::WheelFocus) != Qt::WheelFocus);
+        combo.setFocus();
+        QVERIFY(turnWheel(combo));
+        QCOMPARE(combo.currentIndex(), 1);
     }
 
     void aNameWithBlanksIsWrittenWithoutOpeningTheList()

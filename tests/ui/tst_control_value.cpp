@@ -1,5 +1,7 @@
+#include "support/SteppedClock.h"
 #include "support/TestMain.h"
 #include "ui/ControlValue.h"
+#include "ui/LongText.h"
 #include "ui/Pickers.h"
 
 #include <QCheckBox>
@@ -62,7 +64,8 @@ void TestControlValue::pickersAreWorthWhatTheyShow()
 {
     QDateEdit date;
     QTimeEdit time;
-    setUpDatePicker(date);
+    const SteppedClock clock{Moment()};
+    setUpDatePicker(date, clock);
     setUpTimePicker(time);
     setPickers(date, time, toMoment(QDate(2026, 1, 31), QTime(9, 5, 30)));
     QCOMPARE(valueOf(&date), QStringLiteral("1/31/2026"));
@@ -85,15 +88,15 @@ void TestControlValue::noControlIsWorthNothing()
 void TestControlValue::noBreakSpacesStayInAnEnteredText()
 {
     const QPlainTextEdit edit(QStringLiteral("10\u00a0\u20ac"));
-    QCOMPARE(textOf(edit), QStringLiteral("10\u00a0\u20ac"));
+    QCOMPARE(wholeText(edit), QStringLiteral("10\u00a0\u20ac"));
 }
 
 void TestControlValue::linesOfAnEnteredTextEndWithALineFeed()
 {
     QPlainTextEdit edit(QStringLiteral("one\r\ntwo\u2028three\n"));
-    QCOMPARE(textOf(edit), QStringLiteral("one\ntwo\nthree\n"));
+    QCOMPARE(wholeText(edit), QStringLiteral("one\ntwo\nthree\n"));
     edit.clear();
-    QCOMPARE(textOf(edit), QString());
+    QCOMPARE(wholeText(edit), QString());
 }
 
 AMBERTASK_TEST_MAIN(TestControlValue)

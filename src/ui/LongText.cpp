@@ -1,0 +1,118 @@
+#include "ui/LongText.h"
+
+#include "platform/PlainText.h"
+
+#include <QCoreApplication>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTextDocument>
+#include <QValidator>
+#include <limits>
+
+namespace
+{
+
+/// Paragraphs are shaped whole.
+constexpr qsizetype LongestParagraph = 20'000;
+constexpr qsizetype ShownOfParagraph = 10'000;
+constexpr qsizetype MostInAll = 1'200'000;
+/// An ellipsis and a joiner, which nobody types.
+const QString Mark = QStringLiteral("\u2026\u2060");
+
+qsizetype shownLength(const QString& text)
+{
+    for (qsizetype begin = 0; begin < qMin(text.size(), MostInAll);) {
+        const qsizetype found = text.indexOf(u'\n', begin);
+        const qsizetype end = found < 0 ? text.size() : found;
+        if (end - begin > LongestParagraph) {
+            return lengthOfPart(text, begin + ShownOfParagraph);
+        }
+        begin = end + 1;
+    }
+    return lengthOfPart(text, MostInAll);
+}
+
+/// What an edit does not show. A validator, as which it sees what is pasted before the edit shapes it.
+class Rest final : public QValidator
+{
+    Q_OBJECT
+
+public:
+    explicit Rest(QWidget& edit) : QValidator(&edit), m_edit(edit) { }
+
+    State validate(QString& text, int& position) const override
+    {
+        if (shownLength(text) < text.size()) {
+            text = cut(wholeOf(text));
+            position = static_cast<int>(qMin(qsizetype(position), text.size()));
+        }
+        return Acceptable;
+    }
+
+    QString cut(const QString& whole) const
+    {
+        const qsizetype length = shownLength(whole);
+        m_rest = whole.mid(length);
+        m_edit.setToolTip(m_rest.isEmpty()
+                ? QString()
+                : tr("Only the beginning is shown. The rest is kept as long as the \"\u2026\" at its end "
+                     "stands."));
+        return m_rest.isEmpty() ? whole : whole.left(length) + Mark;
+    }
+
+    QString wholeOf(const QString& shown) const
+    {
+        const bool standsForIt = !m_rest.isEmpty() && shown.endsWith(Mark);
+        return standsForIt ? shown.chopped(Mark.size()) + m_rest : shown;
+    }
+
+private:
+    QWidget& m_edit;
+    mutable QString m_rest;
+};
+
+Rest& restOf(QWidget& edit)
+{
+    auto* rest = edit.findChild<Rest*>(QString(), Qt::FindDirectChildrenOnly);
+    return rest == nullptr ? *new Rest(edit) : *rest;
+}
+
+QString withRest(const QWidget& edit, const QString& shown)
+{
+    const auto* rest = edit.findChild<Rest*>(QString(), Qt::FindDirectChildrenOnly);
+    return rest == nullptr ? shown : rest->wholeOf(shown);
+}
+
+} // namespace
+
+void takeLongTexts(QLineEdit& edit)
+{
+    // It cuts at 32,767 characters unless told otherwise.
+    edit.setMaxLength(std::numeric_limits<int>::max());
+    edit.setValidator(&restOf(edit));
+}
+
+void setWholeText(QLineEdit& edit, const QString& text)
+{
+    edit.setText(restOf(edit).cut(text));
+}
+
+void setWholeText(QPlainTextEdit& edit, const QString& text)
+{
+    edit.setPlainText(restOf(edit).cut(text));
+}
+
+QString wholeText(const QLineEdit& edit)
+{
+    return withRest(edit, edit.text());
+}
+
+QString wholeText(const QPlainTextEdit& edit)
+{
+    QString text = edit.document()->toRawText();
+    text.replace(QChar::ParagraphSeparator, u'\n');
+    text.replace(QChar::LineSeparator, u'\n');
+    return withRest(edit, text);
+}
+
+#include "LongText.moc"
