@@ -74,7 +74,7 @@ bool frmCategoryDetails::letGo()
 
 CategoryInput frmCategoryDetails::input() const
 {
-    return {m_controls.txtCatName->text(), textOf(*m_controls.txtCatDesc), GetSelectedIcon(),
+    return {wholeText(*m_controls.txtCatName), wholeText(*m_controls.txtCatDesc), GetSelectedIcon(),
         m_controls.opnCustomIcon->isChecked(), m_customIconSource};
 }
 
@@ -241,7 +241,7 @@ bool frmCategoryDetails::refuses()
 {
     QString refusal;
     QWidget* place = nullptr;
-    if (m_controls.txtCatName->text().trimmed().isEmpty()) {
+    if (wholeText(*m_controls.txtCatName).trimmed().isEmpty()) {
         refusal = tr("Please enter category name.");
         place = m_controls.txtCatName;
     } else if (m_controls.opnCustomIcon->isChecked() && m_customPicture.isNull()) {
