@@ -102,17 +102,6 @@ void Program::onFirstPainted()
     tellUnreadablePictures();
 }
 
-void Program::tellUnreadablePictures()
-{
-    if (!m_hasBeenSeen || m_main->categoriesPage()->isReadingPictures()) {
-        return;
-    }
-    const QStringList unreadable = m_main->categoriesPage()->takeUnreadablePictures();
-    if (!unreadable.isEmpty()) {
-        m_machine.messages.tell(m_main.get(), MessageBoxes::Icon::Exclamation, unreadable.join(u'\n'));
-    }
-}
-
 void Program::makeMainWindow()
 {
     auto* settingsPage = new SettingsPage(m_services, m_settings, m_machine.registry, m_skins, *this);

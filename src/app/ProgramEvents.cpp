@@ -1,6 +1,7 @@
 #include "app/Program.h"
 
 #include "app/TasksPage.h"
+#include "categories/CategoriesPage.h"
 #include "categories/frmCategoryDetails.h"
 #include "platform/GridView.h"
 #include "platform/MessageBoxes.h"
@@ -171,4 +172,15 @@ bool Program::owes(Duty duty)
         m_owed.push_back(duty);
     }
     return m_holdsBackground;
+}
+
+void Program::tellUnreadablePictures()
+{
+    if (!m_hasBeenSeen || m_main->categoriesPage()->isReadingPictures()) {
+        return;
+    }
+    const QStringList unreadable = m_main->categoriesPage()->takeUnreadablePictures();
+    if (!unreadable.isEmpty()) {
+        m_machine.messages.tell(m_main.get(), MessageBoxes::Icon::Exclamation, unreadable.join(u'\n'));
+    }
 }

@@ -302,8 +302,7 @@ void ClsTaskTest::aCategoryIdThatDoesNotFitIsAnOverflow()
     const ClsTask store(database.engine());
     const auto error = caught([&] { store.GetTaskById(1); });
     QVERIFY(error);
-    QVERIFY2(
-        error->text().contains(QLatin1String("Overflow: the cat_id 32768")), qPrintable(error->text()));
+    QVERIFY2(error->text().contains(QLatin1String("Overflow: the cat_id 32768")), qPrintable(error->text()));
     QVERIFY(caught([&] {
         store.GetTasks(CategoryFilter::All, TaskStatus::All, TaskSort::None, false, {}, {}, TaskType::All);
     }));
