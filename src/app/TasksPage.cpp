@@ -261,9 +261,7 @@ void TasksPage::setGridLines(bool shown)
 
 void TasksPage::focusGrid()
 {
-    if (window()->isVisible()) {
-        activate(window());
-    }
+    activate(window());
     m_grid->setFocus(Qt::OtherFocusReason);
 }
 

@@ -223,7 +223,7 @@ void frmMain::focusListOf(int page)
     const bool isInFront = m_tabs->currentIndex() == page;
     // A list that nobody sees would take keys meant for what is in front.
     if (!isInFront && m_tabs->currentWidget()->isAncestorOf(focusWidget())) {
-        activateWindow();
+        activate(this);
     } else {
         focusPage();
     }
@@ -239,7 +239,7 @@ void frmMain::focusPage()
         m_pages.categories->focusList();
         break;
     default:
-        activateWindow();
+        activate(this);
         focusFirstControl(*m_tabs->currentWidget());
         break;
     }

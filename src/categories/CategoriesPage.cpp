@@ -208,9 +208,7 @@ void CategoriesPage::pageOpened()
 
 void CategoriesPage::focusList()
 {
-    if (window()->isVisible()) {
-        window()->activateWindow();
-    }
+    activate(window());
     m_list->setFocus();
 }
 
