@@ -227,7 +227,7 @@ void bringToFront(QWidget* window)
 
 void activate(QWidget* window)
 {
-    if (window->isVisible()) {
+    if (window->isVisible() && !window->isMinimized()) {
         giveKeyboard(*nativeWindow(window));
     }
 }

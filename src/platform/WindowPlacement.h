@@ -34,7 +34,7 @@ bool isTopmost(const QWidget* window);
 /// Brings `window` to the front without activating it; nothing when it is hidden.
 void bringToFront(QWidget* window);
 /// Gives a window of the program the keyboard after the user has closed the one in front of it; nothing when
-/// it is hidden.
+/// it is hidden or minimized.
 void activate(QWidget* window);
 /// Makes `owner` the window that `window` stays above, without making it a child.
 void setOwner(QWidget* window, QWidget* owner);

@@ -5,7 +5,7 @@ from datetime import datetime
 
 import names
 from case import DesktopCase, main
-from polling import wait_until
+from polling import holds_for, wait_until
 
 HELP = "Ambertask Help"
 NO_PRINTER = "No printer is set up on this computer. Do you want to write this topic to a PDF file instead?"
@@ -45,7 +45,9 @@ class HelpCase(DesktopCase):
         self.user = self.start(self.desk.clock(NOW))
         alert = self.user.alert(1)
         self.user.wait_rows(["Call the bank"], alert)
-        self.user.window(ALERT).activate()
+        window = self.user.window(ALERT)
+        holds_for(lambda: window.mapped, "it is there while it takes no keyboard yet", 1)
+        window.activate()
         self.user.wait_active(ALERT)
         self.user.click_control(alert, ("button", "Help"))
         self.user.wait_active(HELP)
