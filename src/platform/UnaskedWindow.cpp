@@ -36,6 +36,7 @@ void UnaskedWindow::comeUp()
     }
     m_window.setAttribute(Qt::WA_ShowWithoutActivating, yields);
     m_window.winId();
+    m_window.windowHandle()->installEventFilter(this);
     // A native window that exists takes no notice of the attribute.
     m_window.windowHandle()->setProperty("_q_showWithoutActivating", yields);
     if (!m_window.isVisible()) {
@@ -82,6 +83,13 @@ void UnaskedWindow::tmrKeyRest_Timer()
 
 bool UnaskedWindow::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched == m_window.windowHandle()) {
+        // What the user clicks into has the keyboard.
+        if (event->type() == QEvent::MouseButtonPress && m_tmrKeyRest.isActive()) {
+            activate();
+        }
+        return false;
+    }
     if (watched != &m_window) {
         return isRestingFrom(*event);
     }

@@ -98,6 +98,8 @@ class AfterOkTest(OwnWindowsCase):
         self.user = self.start(self.desk.clock(NOW))
         alert = self.user.window(names.alert_title(1))
         main_window = self.user.window(names.MAIN)
+        self.wait_above(alert, main_window)
+        holds_for(lambda: alert.mapped, "the user sees it", A_MOMENT)
         self.user.click_control(self.user.alert(1), names.OPEN_ITEM)
         self.user.wait_active(names.TASK_DIALOG)
         self.user.click_control(self.user.dialog(), names.OK)

@@ -60,6 +60,18 @@ private slots:
         QVERIFY(QTest::qWaitForWindowActive(&window));
     }
 
+    void aClickIntoItActivatesItAtOnce()
+    {
+        QWidget other;
+        other.show();
+        Unasked window;
+        window.unasked.comeUp();
+        other.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+        QTest::mouseClick(window.windowHandle(), Qt::LeftButton);
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+    }
+
     void whatCanBeSeenAlreadyKeepsTheKeyboardThatItHas()
     {
         Unasked window;
