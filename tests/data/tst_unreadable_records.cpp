@@ -117,7 +117,7 @@ private slots:
         f.damageTask(set);
         for (const bool isForRestore : {false, true}) {
             const auto error = caught([&] {
-                isForRestore ? ClsTask(f.database.engine()).readAll()
+                isForRestore ? static_cast<void>(ClsTask(f.database.engine()).readAll())
                              : static_cast<void>(f.listed(f.database.engine()));
             });
             QVERIFY(error.has_value());
