@@ -45,8 +45,9 @@ bool LockFile::settle(bool waits)
         if (::flock(handle, waits ? LOCK_EX : LOCK_EX | LOCK_NB) != 0) {
             m_isHeldElsewhere = errno == EWOULDBLOCK;
             m_error = m_isHeldElsewhere ? 0 : errno;
-        } else if (::stat(name.constData(), &present) == 0 && present.st_ino == own.st_ino
-            && present.st_dev == own.st_dev) {
+        } else if (::stat(name.constData(), &present) != 0 && errno != ENOENT) {
+            m_error = errno;
+        } else if (present.st_ino == own.st_ino && present.st_dev == own.st_dev) {
             m_handle = handle;
             return true;
         } else {

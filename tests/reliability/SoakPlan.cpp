@@ -174,7 +174,7 @@ Step SoakWorld::plan(std::mt19937& chance) const
         }
         step.task = step.kind == Kind::EditTask
             ? anyTask(chance)
-            : *std::next(m_listed.begin(), below(chance, static_cast<int>(m_listed.size())));
+            : std::next(m_listed.begin(), below(chance, static_cast<int>(m_listed.size())))->first;
         const auto found = m_rows.tasks.find(step.task);
         if (found == m_rows.tasks.end()) {
             return passInstead();
@@ -197,7 +197,7 @@ Step SoakWorld::plan(std::mt19937& chance) const
         if (m_listed.empty() || !m_alertVisible) {
             return passInstead();
         }
-        step.task = *std::next(m_listed.begin(), below(chance, static_cast<int>(m_listed.size())));
+        step.task = std::next(m_listed.begin(), below(chance, static_cast<int>(m_listed.size())))->first;
         step.moment = toMinute(m_now) + std::chrono::minutes(1 + below(chance, 30));
         return step;
     case Kind::DismissAll:

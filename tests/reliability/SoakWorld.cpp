@@ -160,27 +160,45 @@ void SoakWorld::commit(Outcome& outcome, bool keepsBetween) const
     }
 }
 
-std::set<qint32> SoakWorld::due() const
+std::vector<qint32> SoakWorld::listed() const
 {
-    std::set<qint32> ids;
-    const QString now = text(m_now);
-    for (const auto& [id, row] : m_rows.tasks) {
-        if (row.reminderOn && !row.dismissed && row.reminder <= now) {
-            ids.insert(id);
-        }
+    std::vector<qint32> ids;
+    for (const auto& [id, moment] : m_listed) {
+        ids.push_back(id);
     }
     return ids;
 }
 
+std::map<qint32, QString> SoakWorld::due() const
+{
+    std::map<qint32, QString> reminders;
+    const QString now = text(m_now);
+    for (const auto& [id, row] : m_rows.tasks) {
+        if (row.reminderOn && !row.dismissed && row.reminder <= now) {
+            reminders[id] = row.reminder;
+        }
+    }
+    return reminders;
+}
+
+std::size_t SoakWorld::shownCount(const std::map<qint32, QString>& due) const
+{
+    // A hidden list that both holds what is no longer due and lacks what is counts as empty.
+    const bool isOvertaken = !m_alertVisible
+        && !std::includes(due.begin(), due.end(), m_listed.begin(), m_listed.end())
+        && !std::includes(m_listed.begin(), m_listed.end(), due.begin(), due.end());
+    return isOvertaken ? 0 : m_listed.size();
+}
+
 void SoakWorld::tick(Outcome& outcome, bool keepsBetween)
 {
-    const std::set<qint32> now = due();
-    const std::size_t shown = m_listed.size();
+    const std::map<qint32, QString> now = due();
+    const std::size_t shown = shownCount(now);
     if (now.size() == shown) {
         return;
     }
     m_listed = now;
-    for (const qint32 id : now) {
+    for (const auto& [id, moment] : now) {
         const TaskRow& row = m_rows.tasks.at(id);
         const auto fired = m_fired.find(id);
         if (row.played || (fired != m_fired.end() && fired->second == row.reminder)) {
@@ -199,7 +217,7 @@ void SoakWorld::tick(Outcome& outcome, bool keepsBetween)
     }
     if (now.size() > shown) {
         m_alertVisible = true;
-        for (const qint32 id : now) {
+        for (const auto& [id, moment] : now) {
             m_rows.tasks.at(id).played = true;
         }
         m_fired.clear();
@@ -277,7 +295,7 @@ SoakWorld::Outcome SoakWorld::apply(const Step& step, bool keepsBetween)
         removeListed(step.task);
         break;
     case Kind::DismissAll:
-        for (const qint32 id : due()) {
+        for (const auto& [id, moment] : due()) {
             m_rows.tasks.at(id).dismissed = true;
             m_rows.tasks.at(id).reminderOn = false;
         }

@@ -102,7 +102,7 @@ public:
     const DataRows& rows() const { return m_rows; }
     Moment now() const { return m_now; }
     /// What the alert window lists.
-    std::vector<qint32> listed() const { return {m_listed.begin(), m_listed.end()}; }
+    std::vector<qint32> listed() const;
     bool isAlertVisible() const { return m_alertVisible; }
     void addBackup(const QString& slot, DataRows rows) { m_backups[slot] = std::move(rows); }
     void removeBackup(const QString& slot) { m_backups.erase(slot); }
@@ -137,7 +137,8 @@ public:
 private:
     void commit(Outcome& outcome, bool keepsBetween) const;
     void tick(Outcome& outcome, bool keepsBetween);
-    std::set<qint32> due() const;
+    std::map<qint32, QString> due() const;
+    std::size_t shownCount(const std::map<qint32, QString>& due) const;
     bool isDueThisSecond(Moment moment) const;
     int anyWait(std::mt19937& chance) const; ///< in ticks
     bool bulkMatches(const TaskRow& row, const Step& step) const;
@@ -149,7 +150,7 @@ private:
     DataRows m_rows;
     Moment m_now;
     std::map<QString, DataRows> m_backups;
-    std::set<qint32> m_listed;
+    std::map<qint32, QString> m_listed; ///< with the moments that they were due at
     bool m_alertVisible = false;
     std::map<qint32, QString> m_fired; ///< sounded, but not marked
     std::map<qint32, QString> m_soundedSinceStart;
