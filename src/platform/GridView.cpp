@@ -92,10 +92,9 @@ void GridView::setGridModel(GridModel* model)
 {
     m_gridModel = model;
     setModel(model);
-    connect(model, &QAbstractItemModel::modelReset, this, [this] {
-        m_shares.clear();
-        layOutColumns();
-    });
+    // The header, told of a reset first, has the grid laid out: the old shares must be gone by then.
+    connect(model, &QAbstractItemModel::modelAboutToBeReset, this, [this] { m_shares.clear(); });
+    connect(model, &QAbstractItemModel::modelReset, this, &GridView::layOutColumns);
     layOutColumns();
 }
 

@@ -150,6 +150,20 @@ private slots:
         QVERIFY(shown.grid.isColumnHidden(0));
     }
 
+    void moreColumnsUnderAHigherHeaderFillTheGrid()
+    {
+        ShownGrid shown;
+        QList<GridColumn> more = columns();
+        more[1].header = QStringLiteral("Name\nand more");
+        more += more;
+        // The header has the grid laid out anew while it learns of the columns.
+        shown.model.setColumns(more);
+        QCOMPARE(widthOfAll(shown.grid), shown.grid.viewport()->width());
+        QVERIFY(shown.grid.columnWidth(4) > shown.grid.columnWidth(5));
+        shown.model.setColumns(columns());
+        QCOMPARE(widthOfAll(shown.grid), shown.grid.viewport()->width());
+    }
+
     void draggingLeavesNoGapAndPushesNoColumnOut()
     {
         ShownGrid shown;
