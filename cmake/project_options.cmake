@@ -53,4 +53,21 @@ function(ambertask_library name)
     PUBLIC ${ARG_PUBLIC}
     PRIVATE ambertask::options ${ARG_PRIVATE})
   set_target_properties(ambertask_${name} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+  ambertask_precompile(ambertask_${name} widgets)
+endfunction()
+
+# ambertask_precompile(<target> <header>)
+# The first target that asks for a header of cmake/precompiled has it compiled, the others take it from there: they must
+# have the same options and Qt modules.
+function(ambertask_precompile target header)
+  if(NOT AMBERTASK_PRECOMPILED)
+    return()
+  endif()
+  get_property(owner GLOBAL PROPERTY AMBERTASK_OWNER_OF_${header})
+  if(owner)
+    target_precompile_headers(${target} REUSE_FROM ${owner})
+  else()
+    target_precompile_headers(${target} PRIVATE "${PROJECT_SOURCE_DIR}/cmake/precompiled/${header}.h")
+    set_property(GLOBAL PROPERTY AMBERTASK_OWNER_OF_${header} ${target})
+  endif()
 endfunction()
