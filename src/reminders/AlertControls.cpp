@@ -61,9 +61,9 @@ AlertControls::AlertControls(QWidget& form, const Clock& clock)
       btnRemindMeLater(
           button(tr("Remind me later"), QStringLiteral("btnRemindMeLater"), Qt::CTRL | Qt::Key_R, form)),
       btnOpenItem(button(tr("Open Item"), QStringLiteral("btnOpenItem"), Qt::CTRL | Qt::Key_O, form)),
-      btnDismiss(button(tr("Dismiss"), QStringLiteral("btnDismiss"), Qt::CTRL | Qt::Key_D, form)),
+      btnDismiss(button(tr("Dismiss"), QStringLiteral("btnDismiss"), Qt::CTRL | Qt::Key_M, form)),
       btnDismissAll(
-          button(tr("Dismiss All"), QStringLiteral("btnDismissAll"), Qt::CTRL | Qt::SHIFT | Qt::Key_D, form)),
+          button(tr("Dismiss All"), QStringLiteral("btnDismissAll"), Qt::CTRL | Qt::SHIFT | Qt::Key_M, form)),
       btnHelp(button(tr("Help"), QStringLiteral("btnHelp"), Qt::Key_F1, form))
 {
     band->setBuddy(grdTasks);

@@ -71,7 +71,7 @@ class WhileTheUserWorksTest(OwnWindowsCase):
         self.user.wait_active(names.alert_title(1))
         # The window manager tells of it a little before the alert hears of it.
         wait_until(lambda: self.user.access.window(names.alert_title(1)).has("active"), "the alert knows that it is active")
-        self.desk.input.key("d", "Control_L")
+        self.desk.input.key("m", "Control_L")
         self.user.wait_hidden(names.alert_title(1))
         self.assertEqual(self.store.task_named("Due")["dismissed"], 1)
 

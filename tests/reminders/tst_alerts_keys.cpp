@@ -25,7 +25,7 @@ private slots:
         QTest::addColumn<int>("key");
         for (const int key : {int(Qt::Key_Return), int(Qt::Key_Enter), int(Qt::Key_Space),
                  int(Qt::Key_Escape), int(Qt::Key_Delete), int(Qt::Key_Backspace), int(Qt::Key_D),
-                 int(Qt::Key_A), int(Qt::Key_R)}) {
+                 int(Qt::Key_M), int(Qt::Key_A), int(Qt::Key_R)}) {
             QTest::newRow(qPrintable(QKeySequence(key).toString())) << key;
         }
     }
