@@ -24,6 +24,15 @@ public:
     }
 };
 
+bool listsAll(const FileDialogRequest& request)
+{
+#ifdef Q_OS_WIN
+    return request.anyName;
+#else
+    return request.anyName || request.executables;
+#endif
+}
+
 /// Qt 6.4.2 now and then leaves the list of a folder empty whose entries have been read (7 of 600 dialogs,
 /// more on a busy machine; cause unknown): once all are read, they are filtered again.
 void filterWhatWasRead(QFileDialog& dialog)
@@ -51,8 +60,8 @@ QString show(QWidget* owner, const FileDialogRequest& request, QFileDialog::Acce
     }
     const QStringList filters = nameFilters(request);
     dialog.setNameFilters(filters);
-    if (request.executables) {
-        // Where programs carry no extension, their own filter would show an empty folder.
+    if (listsAll(request)) {
+        // The filter of what carries no extension would show an empty folder.
         dialog.selectNameFilter(filters.constLast());
     }
     if (!request.fileName.isEmpty()) {
@@ -83,11 +92,9 @@ QStringList nameFilters(const FileDialogRequest& request)
         const QStringList patterns = parts[i + 1].split(u';', Qt::SkipEmptyParts);
         filters.append(QStringLiteral("%1 (%2)").arg(text.trimmed(), patterns.join(u' ')));
     }
-#ifndef Q_OS_WIN
-    if (request.executables) {
+    if (listsAll(request)) {
         filters.append(FileDialogs::tr("All Files (*)"));
     }
-#endif
     return filters;
 }
 

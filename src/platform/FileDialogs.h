@@ -14,11 +14,13 @@ struct FileDialogRequest {
     QString initialFolder; ///< empty for the dialog's own choice
     bool fileMustExist = false;
     bool promptBeforeOverwriting = false;
-    /// Adds "All Files (*)" where programs carry no extension.
+    /// Adds "All Files (*)" and begins with it where programs carry no extension.
     bool executables = false;
+    /// Adds "All Files (*)" and begins with it: the files may have been named without the extension.
+    bool anyName = false;
 };
 
-/// The name filters of a filter text, in the toolkit's form: "Wave Files (*.wav)|*.wav" gives "Wave Files
+/// The name filters of a filter text, in Qt's form: "Wave Files (*.wav)|*.wav" gives "Wave Files
 /// (*.wav)".
 QStringList nameFilters(const FileDialogRequest& request);
 

@@ -274,6 +274,9 @@ void DataFileCopies::refuseOpenOperation(const QString& file) const
 // Before anything is copied: the chosen file may be of any size.
 void DataFileCopies::refuseForeignFile(const QString& file) const
 {
+    if (!isPresent(file)) {
+        throw FileError(file, FileError::reason(ENOENT));
+    }
     if (!hasHead(file)) {
         throw FileError(tr("\"%1\" is no data file.").arg(file));
     }

@@ -264,6 +264,8 @@ void MaintenancePage::btnRestore_Click()
         request.name = QStringLiteral("cdBackupRestore");
         request.filter = backupFilter();
         request.promptBeforeOverwriting = true;
+        // The name that a backup is offered has no extension.
+        request.anyName = true;
         const QString file = m_services.fileDialogs.open(window(), request);
         if (file.isEmpty()) {
             return;

@@ -40,6 +40,15 @@ private slots:
             QStringList({QStringLiteral("Executable Files (*.exe *.bat)"), QStringLiteral("All Files (*)")}));
     }
 
+    void filesWithoutTheExtensionOfTheFilterAreListedToo()
+    {
+        FileDialogRequest request;
+        request.filter = QStringLiteral("Backup Files (*.abk)|*.abk");
+        request.anyName = true;
+        QCOMPARE(nameFilters(request),
+            QStringList({QStringLiteral("Backup Files (*.abk)"), QStringLiteral("All Files (*)")}));
+    }
+
     void programsAreListedAtOnce()
     {
         const QTemporaryDir folder;

@@ -111,6 +111,7 @@ void TestRestore::theDialogAsksForABackup()
         QVERIFY(!test.checkerTimer.enabled);
         QVERIFY(request.fileName.isEmpty());
         QCOMPARE(request.filter, QStringLiteral("Ambertaks Backup Files (*.abk)|*.abk"));
+        QVERIFY2(request.anyName, "the name that a backup is offered would not be seen");
     });
     test.press("btnRestore");
 }
@@ -151,6 +152,10 @@ void TestRestore::aRefusedFileIsToldWithItsReason()
     writeText(letter, "Dear Sir or Madam");
     test.restore(letter);
     QCOMPARE(test.said(), QStringLiteral("Nothing was restored: \"%1\" is no data file.").arg(letter));
+    const QString missing = test.elsewhere.filePath(QStringLiteral("missing.abk"));
+    test.restore(missing);
+    QCOMPARE(test.said(),
+        QStringLiteral("Nothing was restored: \"%1\": the file or its folder does not exist").arg(missing));
     test.dialogs.expectOpen({});
     test.find<QPushButton>("btnRestore")->click();
     QCOMPARE(test.said(), QString());
