@@ -1,6 +1,7 @@
 #pragma once
 
-// What nearly every test includes, parsed once. Sources include what they use all the same: see AMBERTASK_PRECOMPILED.
+// What nearly every test includes, parsed once. Sources include what they use all the same: see
+// AMBERTASK_PRECOMPILED.
 #include <QtTest>
 #include <QtWidgets>
 #include <algorithm>

@@ -3,7 +3,7 @@
 #include <QApplication>
 
 /// The application object: the session's wish to end the program becomes a signal, and no exception of a
-/// handler reaches the toolkit's event loop.
+/// handler reaches Qt's event loop.
 class Application : public QApplication
 {
     Q_OBJECT

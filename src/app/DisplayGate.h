@@ -2,8 +2,8 @@
 
 #include <functional>
 
-/// While it lives, a toolkit that cannot reach a display ends the process with a sentence and status 1; by
-/// itself it would abort. What else the toolkit says meanwhile is passed on at the end. One at a time, around
+/// While it lives, a Qt that cannot reach a display ends the process with a sentence and status 1; by
+/// itself it would abort. What else Qt says meanwhile is passed on at the end. One at a time, around
 /// the making of the application object.
 class DisplayGate
 {

@@ -24,7 +24,7 @@ RestingPage::RestingPage(QWidget* page, QList<const QWidget*> beside)
     : m_beside(std::move(beside)), m_place(new QWidget), m_page(page)
 {
     (new QVBoxLayout(m_place))->setContentsMargins({});
-    // Else the toolkit styles a widget as soon as events are handled, and at each change of the style.
+    // Else Qt styles a widget as soon as events are handled, and at each change of the style.
     forPageAndControls(*page, [](QWidget& widget) {
         QCoreApplication::removePostedEvents(&widget, QEvent::PolishRequest);
         widget.setAttribute(Qt::WA_SetStyle);

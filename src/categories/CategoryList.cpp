@@ -121,7 +121,7 @@ QListWidgetItem* CategoryList::selectedItem() const
 
 void CategoryList::focusInEvent(QFocusEvent* event)
 {
-    // The toolkit's list makes the first item the current one, and frames it: an item on which no key acts.
+    // Qt's list makes the first item the current one, and frames it: an item on which no key acts.
     QAbstractScrollArea::focusInEvent(event);
     setAttribute(Qt::WA_InputMethodEnabled, false);
     viewport()->update();

@@ -14,7 +14,7 @@ constexpr std::size_t MostCharacters = 256;
 QLocale localeOfReaders()
 {
     const QLocale locale = QLocale().collation();
-    // The toolkit would compare codes.
+    // Qt would compare codes.
     return locale.language() == QLocale::C ? QLocale(QLocale::English) : locale;
 }
 

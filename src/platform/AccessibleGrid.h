@@ -7,7 +7,7 @@
 
 class GridView;
 
-/// A grid for assistive technology: its visible columns, each with its caption, and its rows. The toolkit's
+/// A grid for assistive technology: its visible columns, each with its caption, and its rows. Qt's
 /// own tables count hidden columns and headers too. Children are the captions, then the cells row by row;
 /// columns are counted from 0 among the visible ones. Owns the cells and captions it has given out.
 class AccessibleGrid final : public QAccessibleWidget, public QAccessibleTableInterface

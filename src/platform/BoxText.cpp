@@ -10,7 +10,7 @@ namespace
 
 // More fits on no screen.
 constexpr qsizetype MostCharacters = 8000;
-// The toolkit breaks a long text at half of the screen's width, and the picture takes its share of that.
+// Qt breaks a long text at half of the screen's width, and the picture takes its share of that.
 constexpr int TextColumns = 3;
 constexpr double TextHeight = 0.6;
 constexpr double FewerEachTime = 0.8;

@@ -111,7 +111,7 @@ void GridView::selectOnly(int row)
         clearSelection();
         return;
     }
-    // The toolkit's selectRow() finds no column at the edge where it looks from right to left, and clears.
+    // Qt's selectRow() finds no column at the edge where it looks from right to left, and clears.
     moveTo(row, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
@@ -166,7 +166,7 @@ void GridView::currentChanged(const QModelIndex& current, const QModelIndex& pre
 
 void GridView::focusInEvent(QFocusEvent* event)
 {
-    // The toolkit's table makes the first row the current one, and frames it: a row on which no key acts.
+    // Qt's table makes the first row the current one, and frames it: a row on which no key acts.
     QAbstractScrollArea::focusInEvent(event);
     setAttribute(Qt::WA_InputMethodEnabled, false);
     viewport()->update();
@@ -195,7 +195,7 @@ void GridView::keyPressEvent(QKeyEvent* event)
     } else {
         QTableView::keyPressEvent(event);
         if (m_gridModel != nullptr && movesUpOrDown(*event) && isPlain(*event) && selectedRow() < 0) {
-            // At an end the toolkit neither moves nor selects.
+            // At an end Qt neither moves nor selects.
             selectOnly(currentIndex().row());
         }
     }

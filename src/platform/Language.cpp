@@ -48,17 +48,17 @@ QString Language::fileOf(const QString& catalogue)
 
 void Language::speak(const QString& catalogue)
 {
-    QCoreApplication::removeTranslator(&m_toolkit);
+    QCoreApplication::removeTranslator(&m_qtTexts);
     QCoreApplication::removeTranslator(&m_own);
     if (catalogue.isEmpty()) {
         QGuiApplication::setLayoutDirection(m_usual);
         return;
     }
-    // Distributions put them where the toolkit says; whoever brings the toolkit along, beside the program.
-    const QString toolkit = QLatin1String("qtbase_") + catalogue;
-    if (m_toolkit.load(toolkit, QLibraryInfo::path(QLibraryInfo::TranslationsPath))
-        || m_toolkit.load(toolkit, QCoreApplication::applicationDirPath() + QLatin1String("/translations"))) {
-        QCoreApplication::installTranslator(&m_toolkit);
+    // Distributions put them where Qt says; whoever brings Qt along, beside the program.
+    const QString ofQt = QLatin1String("qtbase_") + catalogue;
+    if (m_qtTexts.load(ofQt, QLibraryInfo::path(QLibraryInfo::TranslationsPath))
+        || m_qtTexts.load(ofQt, QCoreApplication::applicationDirPath() + QLatin1String("/translations"))) {
+        QCoreApplication::installTranslator(&m_qtTexts);
     }
     if (m_own.load(fileOf(catalogue))) {
         QCoreApplication::installTranslator(&m_own);

@@ -20,14 +20,14 @@ public:
     /// The file of a shipped catalogue.
     static QString fileOf(const QString& catalogue);
 
-    /// Makes the application speak the language of a shipped catalogue, English for an empty name: texts, the
-    /// toolkit's own texts where the system has them, and the direction of reading.
+    /// Makes the application speak the language of a shipped catalogue, English for an empty name: texts,
+    /// Qt's own texts where the system has them, and the direction of reading.
     void speak(const QString& catalogue);
     /// `speak` for the system's language.
     void speakAsTheSystem();
 
 private:
-    QTranslator m_toolkit;
+    QTranslator m_qtTexts;
     QTranslator m_own;
     /// Of what is not read from right to left by itself: the command line may turn it round (-reverse).
     Qt::LayoutDirection m_usual = QGuiApplication::layoutDirection();

@@ -20,7 +20,7 @@ QMessageBox::StandardButton show(QWidget* owner, QMessageBox::Icon icon, const Q
 {
     QMessageBox box(icon, QStringLiteral("Ambertask"), {}, buttons, owner);
     setBoxText(box, text);
-    // The toolkit's own captions follow a catalogue of the system that may be missing.
+    // Qt's own captions follow a catalogue of the system that may be missing.
     name(box, QMessageBox::Ok, MessageBoxes::tr("&OK"));
     name(box, QMessageBox::Yes, MessageBoxes::tr("&Yes"));
     name(box, QMessageBox::No, MessageBoxes::tr("&No"));

@@ -89,7 +89,7 @@ void ScrollFrame::reveal(const QWidget& shown)
     const bool hasPlace = place.toRect() != shown.QWidget::inputMethodQuery(Qt::ImCursorRectangle).toRect();
     QRect wanted = hasPlace ? place.toRect() : shown.rect();
     wanted.translate(shown.mapTo(widget(), QPoint()));
-    // The bar counts from the side on which reading begins, which the toolkit forgets.
+    // The bar counts from the side on which reading begins, which Qt forgets.
     wanted = QStyle::visualRect(layoutDirection(), widget()->rect(), wanted);
     const auto bring = [](QScrollBar* bar, int begin, int end, int room) {
         if (begin < bar->value() || end - begin > room) {

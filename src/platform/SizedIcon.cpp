@@ -28,7 +28,7 @@ QPixmap readPixels(const SizedPicture& picture)
     return QPixmap::fromImage(pixels.convertToFormat(QImage::Format_ARGB32_Premultiplied));
 }
 
-/// What was read, and the last that was scaled down from it. The toolkit would keep both in its cache, whose
+/// What was read, and the last that was scaled down from it. Qt would keep both in its cache, whose
 /// clean-up wakes the program half a minute later.
 struct Picture {
     QPixmap pixels;

@@ -23,13 +23,13 @@ template <typename Type> using Reply = std::unique_ptr<Type, Free>;
 /// Who wishes something of the window manager: as a task bar asks.
 constexpr uint32_t ByTheUser = 2;
 
-/// The X server, as far as the toolkit is connected to one.
+/// The X server, as far as Qt is connected to one.
 class Server
 {
 public:
     Server()
     {
-        // Other platforms of the toolkit offer the interface too, without a display behind it.
+        // Other platforms of Qt offer the interface too, without a display behind it.
         if (const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>()) {
             m_connection = x11->connection();
         }

@@ -2,7 +2,7 @@
 
 class QWindow;
 
-// What the toolkit neither tells nor asks of the window manager. Interface thread only.
+// What Qt neither tells nor asks of the window manager. Interface thread only.
 
 /// Whether a window of any program, this one included, has the keyboard now. Where the desktop does not tell
 /// of other programs: true.

@@ -10,6 +10,6 @@ class QString;
 bool hasJoinedLetters(QStringView text);
 
 /// Underlines the letter behind the "&" of `text`, which the painter has written into `written` without
-/// marking it, in the painter's font and colour. The toolkit's own way of underlining shapes the letter
+/// marking it, in the painter's font and colour. Qt's own way of underlining shapes the letter
 /// alone, which tears the word apart.
 void underlineMnemonic(QPainter& painter, const QRect& written, const QString& text);

@@ -9,10 +9,10 @@
 namespace
 {
 
-/// A limit of size, what the toolkit marks a widget with while a sheet sets it, and where its own one is
+/// A limit of size, what Qt marks a widget with while a sheet sets it, and where its own one is
 /// noted.
 struct Limit {
-    const char* markOfToolkit;
+    const char* markOfQt;
     const char* note;
     int (QWidget::*get)() const;
     void (QWidget::*set)(int);
@@ -46,7 +46,7 @@ void noteOwnSizes(QWidget& widget)
 {
     for (const Limit& limit : Limits) {
         const int own = (widget.*limit.get)();
-        if (own != limit.none && !widget.property(limit.markOfToolkit).toBool()) {
+        if (own != limit.none && !widget.property(limit.markOfQt).toBool()) {
             widget.setProperty(limit.note, own);
         }
     }
@@ -59,9 +59,9 @@ void removeSheetTraces(QWidget& widget)
         if (!notes.contains(limit.note)) {
             continue;
         }
-        if (widget.property(limit.markOfToolkit).toBool()) {
+        if (widget.property(limit.markOfQt).toBool()) {
             (widget.*limit.set)(widget.property(limit.note).toInt());
-            widget.setProperty(limit.markOfToolkit, {});
+            widget.setProperty(limit.markOfQt, {});
         }
         widget.setProperty(limit.note, {});
     }

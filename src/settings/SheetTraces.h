@@ -2,7 +2,7 @@
 
 class QWidget;
 
-// A style sheet that is taken off leaves traces on controls: the toolkit forgets the limits of size that a
+// A style sheet that is taken off leaves traces on controls: Qt forgets the limits of size that a
 // control had of its own, and leaves the font of a control on what the control is made of.
 
 /// Before a sheet styles `widget`: notes what the sheet may overwrite.

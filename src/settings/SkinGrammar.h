@@ -2,7 +2,7 @@
 
 #include <QStringView>
 
-// What a style sheet may be made of. The toolkit's own reader takes the whole sheet or, with a word on the
+// What a style sheet may be made of. Qt's own reader takes the whole sheet or, with a word on the
 // error stream, nothing of it; what is accepted here it can read. The texts are without comments, and strings
 // hold nothing but blanks between their quotation marks. No backtracking: the time grows with the length
 // alone.

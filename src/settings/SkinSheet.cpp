@@ -49,7 +49,7 @@ QString withColors(QStringView sheet, int firstLine, const SkinColors& colors)
     return expanded;
 }
 
-/// Within quotation marks the toolkit's reader knows escapes and no line breaks: what it took for the end of
+/// Within quotation marks Qt's reader knows escapes and no line breaks: what it took for the end of
 /// a text would be another place than here.
 void requirePlainText(QStringView text, int line)
 {

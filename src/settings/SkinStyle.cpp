@@ -314,7 +314,7 @@ int SkinStyle::styleHint(
         return static_cast<int>(option->palette.color(QPalette::Midlight).rgba());
     }
     if (hint == SH_MenuBar_AltKeyNavigation) {
-        // Alt closes no menu: with assistive technology the toolkit delivers keys late, and the Alt that
+        // Alt closes no menu: with assistive technology Qt delivers keys late, and the Alt that
         // opened a menu by a mnemonic would come after it.
         return 0;
     }

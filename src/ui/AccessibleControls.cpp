@@ -132,7 +132,7 @@ private:
     QPushButton& m_button;
 };
 
-/// A window of no class that the toolkit knows, which would pass it off as a mere container.
+/// A window of no class that Qt knows, which would pass it off as a mere container.
 class AccessibleWindow final : public QAccessibleWidget
 {
 public:

@@ -7,7 +7,7 @@ class ComboBox;
 class QAbstractItemView;
 
 /// The list of a combo box for assistive technology. Each entry has an action that chooses it, whether the
-/// list is open or not; the toolkit's own entries have none. Owns the entries it has given out.
+/// list is open or not; Qt's own entries have none. Owns the entries it has given out.
 class AccessibleEntries final : public QAccessibleWidget
 {
 public:

@@ -33,7 +33,7 @@ ComboBox::ComboBox(QWidget* parent) : QComboBox(parent)
 void ComboBox::keepEntriesWhole()
 {
     m_width = Width::OfEntries;
-    // The toolkit's policy of that name makes the list that opens, nine widgets, before anybody opens it.
+    // Qt's policy of that name makes the list that opens, nine widgets, before anybody opens it.
     setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
     const QAbstractItemModel* entries = model();
     connect(entries, &QAbstractItemModel::rowsInserted, this, &QWidget::updateGeometry);
@@ -52,17 +52,17 @@ void ComboBox::keepNarrow(int letters)
 
 QSize ComboBox::sizeHint() const
 {
-    return m_width == Width::ToolkitsOwn ? QComboBox::sizeHint() : ownSize();
+    return m_width == Width::QtsOwn ? QComboBox::sizeHint() : ownSize();
 }
 
 QSize ComboBox::minimumSizeHint() const
 {
-    return m_width == Width::ToolkitsOwn ? QComboBox::minimumSizeHint() : ownSize();
+    return m_width == Width::QtsOwn ? QComboBox::minimumSizeHint() : ownSize();
 }
 
 QSize ComboBox::ownSize() const
 {
-    constexpr int air = 2; // pixels above and below, as the toolkit reckons
+    constexpr int air = 2; // pixels above and below, as Qt reckons
     constexpr int besidePicture = 4;
     const QFontMetrics metrics = fontMetrics();
     QSize size(0, metrics.height() + air);
@@ -86,11 +86,11 @@ void ComboBox::changeEvent(QEvent* event)
         m_owesListColours = true;
     }
     if (event->type() == QEvent::PaletteChange) {
-        // The toolkit would make a menu and style it, to colour the list as one.
+        // Qt would make a menu and style it, to colour the list as one.
         update();
         return;
     }
-    // The toolkit would make the list that opens, to style it. Nobody can open it before it has been painted.
+    // Qt would make the list that opens, to style it. Nobody can open it before it has been painted.
     if (event->type() == QEvent::StyleChange && !m_painted) {
         m_owesStyle = true;
         update();
@@ -167,7 +167,7 @@ void ComboBox::keyPressEvent(QKeyEvent* event)
         QComboBox::keyPressEvent(event);
         return;
     }
-    // As a letter among others; the toolkit tells the key that opens the list by its code.
+    // As a letter among others; Qt tells the key that opens the list by its code.
     QKeyEvent blank(QEvent::KeyPress, Qt::Key_nobreakspace, event->modifiers(), event->text());
     QComboBox::keyPressEvent(&blank);
 }

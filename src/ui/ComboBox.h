@@ -4,7 +4,7 @@
 #include <optional>
 
 /// A combo box whose entries can be written in whole: a blank in the middle of a name goes on with the
-/// search, where the toolkit's own would open the list over it. Assistive technology can choose from its
+/// search, where Qt's own would open the list over it. Assistive technology can choose from its
 /// list. The wheel turns its entries only while it has the focus.
 class ComboBox : public QComboBox
 {
@@ -34,13 +34,13 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
-    enum class Width { ToolkitsOwn, OfEntries, OfLetters };
+    enum class Width { QtsOwn, OfEntries, OfLetters };
 
     bool goesOnWriting(const QKeyEvent& event) const;
     QSize ownSize() const;
     void takeStyle();
 
-    Width m_width = Width::ToolkitsOwn;
+    Width m_width = Width::QtsOwn;
     int m_letters = 0;
     bool m_painted = false;
     bool m_owesStyle = false;

@@ -104,7 +104,7 @@ bool PickerTyping::take(const QKeyEvent& key)
         return false;
     }
     if (isName(m_picker.sectionText(m_picker.currentSection()))) {
-        // Names of months are the toolkit's.
+        // Names of months are Qt's.
         return false;
     }
     const QChar letter = key.text().front();
@@ -158,7 +158,7 @@ QString PickerTyping::begunPart()
     const bool isAllSelected = m_edit.selectionLength() == m_edit.text().size();
     const bool isSelected = m_edit.hasSelectedText();
     const int cursor = m_edit.cursorPosition();
-    // As it was typed: the toolkit fills up what cannot go on in the month that is shown.
+    // As it was typed: Qt fills up what cannot go on in the month that is shown.
     const bool goesOn = !isSelected && cursor == m_cursor && m_edit.text() == m_written;
     select(isAllSelected ? 0 : m_picker.currentSectionIndex());
     if (isSelected || (!goesOn && cursor != m_edit.selectionEnd())) {

@@ -9,7 +9,7 @@ class QLineEdit;
 
 /// Takes the numbers that are typed into a picker, section by section, wherever the user has begun: a click
 /// selects the section under it, the digit that fills a section leads to the next, a separator does so
-/// before. Where all is selected digits begin at the first section. The toolkit's own picker takes a digit
+/// before. Where all is selected digits begin at the first section. Qt's own picker takes a digit
 /// only into a section that is selected or not full, and no 31st while another month is shown. The wheel
 /// turns a picker only while it has the focus.
 class PickerTyping final : public QObject

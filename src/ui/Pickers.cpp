@@ -13,8 +13,8 @@
 namespace
 {
 
-/// A date or time is read and typed from left to right, like its digits: in a right-to-left picker the
-/// toolkit turns the parts around, and who types 1047 gets ten minutes. Its place is that of the other texts.
+/// A date or time is read and typed from left to right, like its digits: in a right-to-left picker
+/// Qt turns the parts around, and who types 1047 gets ten minutes. Its place is that of the other texts.
 void setFormat(QDateTimeEdit& picker, const QString& format)
 {
     picker.setLayoutDirection(Qt::LeftToRight);
@@ -23,7 +23,7 @@ void setFormat(QDateTimeEdit& picker, const QString& format)
         QGuiApplication::layoutDirection() == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft);
 }
 
-/// The toolkit's picker has a calendar without a frame, and knows no other day than the one it shows.
+/// Qt's picker has a calendar without a frame, and knows no other day than the one it shows.
 class CalendarMaker final : public QObject
 {
 public:

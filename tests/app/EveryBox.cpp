@@ -164,7 +164,7 @@ void visitEveryBox(QWidget& owner, const Visit& visit)
     });
 }
 
-void visitToolkitBoxes(QWidget& owner, const Visit& visit)
+void visitQtBoxes(QWidget& owner, const Visit& visit)
 {
     const Folder folder;
     QVERIFY(folder.opened);

@@ -6,9 +6,9 @@
 /// messages with each picture, error reports, the box of a long operation.
 void visitEveryBox(QWidget& owner, const Visit& visit);
 
-/// The same with the boxes of the toolkit that the program opens: for opening and saving files and for
+/// The same with the boxes of Qt that the program opens: for opening and saving files and for
 /// printing.
-void visitToolkitBoxes(QWidget& owner, const Visit& visit);
+void visitQtBoxes(QWidget& owner, const Visit& visit);
 
 /// Opens what drops down from the windows of the program, and shows it to `visit`: the lists of all windows,
 /// the menu of usual moments, the menus that edit.

@@ -36,7 +36,7 @@ namespace
 
 const QString Planted = QStringLiteral("<b>x</b><img src=\"file:///x.png\">");
 
-/// What a user reads where the toolkit decides by itself whether a text is markup.
+/// What a user reads where Qt decides by itself whether a text is markup.
 QString asGuessed(const QString& text)
 {
     if (!Qt::mightBeRichText(text)) {

@@ -60,7 +60,7 @@ const QStringList Windows{"page Maintenance", "page Settings", "page Categories"
     "report of a failed start", "progress", "progress without Cancel", "help contents", "help index",
     "help search", "help topic with tables", "help without its file", "report"};
 
-const QStringList ToolkitBoxes{"dialog that opens a file", "dialog that saves a file", "dialog that prints",
+const QStringList QtBoxes{"dialog that opens a file", "dialog that saves a file", "dialog that prints",
     "dialog that prints, Copies", "dialog that prints, Options"};
 
 const QStringList PopUps{"list of cmbCategories", "list of cmbStatus", "list of cmbSort", "list of cmbSkins",
@@ -108,8 +108,8 @@ private slots:
 
     void everyWindowCanBeRead_data() { skins(); }
     void everyWindowCanBeRead();
-    void boxesOfTheToolkitCanBeRead_data() { skins(); }
-    void boxesOfTheToolkitCanBeRead();
+    void boxesOfQtCanBeRead_data() { skins(); }
+    void boxesOfQtCanBeRead();
     void whatDropsDownCanBeRead_data() { skins(); }
     void whatDropsDownCanBeRead();
     void theTrayMenuCanBeRead_data() { skins(); }
@@ -191,13 +191,13 @@ void SkinsOnWindowsTest::everyWindowCanBeRead()
     EXPECT_READ(reader, Windows, 480, 140);
 }
 
-void SkinsOnWindowsTest::boxesOfTheToolkitCanBeRead()
+void SkinsOnWindowsTest::boxesOfQtCanBeRead()
 {
     QFETCH(const QString, skin);
     SkinnedProgram f(skin);
     Reader reader(f.owed);
-    visitToolkitBoxes(f.main(), reader.visit());
-    EXPECT_READ(reader, ToolkitBoxes, 100, 40);
+    visitQtBoxes(f.main(), reader.visit());
+    EXPECT_READ(reader, QtBoxes, 100, 40);
 }
 
 void SkinsOnWindowsTest::whatDropsDownCanBeRead()

@@ -109,7 +109,7 @@ private slots:
         QVERIFY(!f.main().isShown());
     }
 
-    void aHiddenStartLeavesNothingThatTheToolkitWouldCleanUpLater()
+    void aHiddenStartLeavesNothingThatQtWouldCleanUpLater()
     {
         FullPixmapCache cache;
         ProgramFixture f;

@@ -1,6 +1,6 @@
 """What valgrind's helgrind says of code that two threads may reach.
 
-The checker cannot see the toolkit's locks, which are no pthread locks: of the libraries' own threads it reports a
+The checker cannot see Qt's locks, which are no pthread locks: of the libraries' own threads it reports a
 thousand races that are none. Here a report counts when code of the project runs in a thread beside the first one, on
 either side of the race.
 """
@@ -9,7 +9,7 @@ import re
 CHECKER = ["valgrind", "--tool=helgrind", "--error-limit=no", "--num-callers=40", "--fullpath-after="]
 FRAME = re.compile(r"\s+(?:at|by) 0x[0-9A-F]+: (.*) \((?:in )?([^()]*)\)$")
 STACK = re.compile(r".*\bby thread #(\d+)\b|Thread #(\d+)\b.*(?:lock|mutex|cond|rwlock|unlock)", re.IGNORECASE)
-# The toolkit hands the events of every thread to the application object, whose guard is ours. It touches nothing but
+# Qt hands the events of every thread to the application object, whose guard is ours. It touches nothing but
 # the exception that it catches, and tells of that by a signal across threads.
 CROSSING = re.compile(r"^Application::notify\(")
 

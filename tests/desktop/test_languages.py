@@ -1,4 +1,4 @@
-"""The program in the language of its user. No locale need be generated: the toolkit reads the names alone."""
+"""The program in the language of its user. No locale need be generated: Qt reads the names alone."""
 import names
 from case import DesktopCase, main
 from polling import wait_until
@@ -63,7 +63,7 @@ class LanguagesTest(DesktopCase):
         self.user.wait_active(names.MAIN)
         self.assertEqual(len(self.store.tasks()), 1)
 
-    def test_the_toolkits_own_dialogs_speak_the_language_too(self):
+    def test_qts_own_dialogs_speak_the_language_too(self):
         self.start_in("de", LANGUAGE="de")
         self.open_page("Maintenance")
         self.press("MaintenancePage", "&Backup")

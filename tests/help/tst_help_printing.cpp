@@ -143,8 +143,8 @@ private slots:
                                        "or its folder does not exist.")));
     }
 
-    // The dialog of the toolkit, driven as a user would; without a printer it knows files alone.
-    void withAPrinterTheDialogOfTheToolkitPrints()
+    // The dialog of Qt, driven as a user would; without a printer it knows files alone.
+    void withAPrinterTheDialogOfQtPrints()
     {
         Help help(true);
         help.window.showContext(4);

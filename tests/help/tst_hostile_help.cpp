@@ -142,7 +142,7 @@ private slots:
         QVERIFY(HelpBook::open(file(objects)) == nullptr);
     }
 
-    void aTopicThatTheToolkitWouldReadForHoursIsToldInstead_data()
+    void aTopicThatQtWouldReadForHoursIsToldInstead_data()
     {
         QTest::addColumn<QByteArray>("body");
         QTest::newRow("unclosed tags") << QByteArray("<b>").repeated(80000);
@@ -151,7 +151,7 @@ private slots:
         QTest::newRow("long") << QByteArray(300000, 'x');
     }
 
-    void aTopicThatTheToolkitWouldReadForHoursIsToldInstead()
+    void aTopicThatQtWouldReadForHoursIsToldInstead()
     {
         QFETCH(const QByteArray, body);
         const QString shown = shownFor(helpTopic(body));

@@ -188,7 +188,7 @@ private slots:
         QAccessibleInterface* cell = shown.table()->cellAt(1, 0);
         const QAccessible::Id removedId = QAccessible::uniqueId(removed);
         shown.model.removeWord(0);
-        // The toolkit tells of it when somebody listens.
+        // Qt tells of it when somebody listens.
         QAccessibleTableModelChangeEvent change(&shown.grid, QAccessibleTableModelChangeEvent::RowsRemoved);
         shown.table()->modelChange(&change);
         QCOMPARE(QAccessible::accessibleInterface(removedId), nullptr);

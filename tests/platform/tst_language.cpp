@@ -58,7 +58,7 @@ private slots:
         QCOMPARE(QGuiApplication::layoutDirection(), usual);
     }
 
-    void theToolkitsOwnTextsMayLieBesideTheProgram()
+    void textsOfQtItselfMayLieBesideTheProgram()
     {
         const QDir folder(QCoreApplication::applicationDirPath() + QStringLiteral("/translations"));
         QVERIFY(QDir().mkpath(folder.path()));

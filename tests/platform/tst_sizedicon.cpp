@@ -20,7 +20,7 @@ private slots:
     void noFileIsReadBeforeItsSizeIsPainted();
     void aFileThatWasReadOnceIsNotReadAgain();
     void theSizesAreKnownWithoutReading();
-    void whatIsPaintedLeavesTheCacheOfTheToolkitAlone();
+    void whatIsPaintedLeavesTheCacheOfQtAlone();
     void aDisabledPictureIsGrey();
     void aWidePictureKeepsItsShape();
     void aFileOfAnotherLengthIsNoPicture();
@@ -100,8 +100,8 @@ void SizedIconTest::theSizesAreKnownWithoutReading()
     QVERIFY(!icon.isNull());
 }
 
-// The toolkit sets a timer to clean its cache up, which wakes a program that is at rest.
-void SizedIconTest::whatIsPaintedLeavesTheCacheOfTheToolkitAlone()
+// Qt sets a timer to clean its cache up, which wakes a program that is at rest.
+void SizedIconTest::whatIsPaintedLeavesTheCacheOfQtAlone()
 {
     FullPixmapCache cache;
     const QIcon icon = this->icon();

@@ -35,7 +35,7 @@ QByteArray skinWith(const QByteArray& sheet)
     return "/*\n@name X\n@color ink #102030\n*/\n" + sheet;
 }
 
-/// The toolkit reads a style sheet only when a control asks for it.
+/// Qt reads a style sheet only when a control asks for it.
 struct SmallWindow {
     SmallWindow()
     {
@@ -47,7 +47,7 @@ struct SmallWindow {
     QWidget window;
 };
 
-/// As the skin engine does it. A sheet that the toolkit cannot read is a warning, which fails the test.
+/// As the skin engine does it. A sheet that Qt cannot read is a warning, which fails the test.
 void wear(const SkinFile& skin)
 {
     qApp->setStyleSheet({});
@@ -63,10 +63,10 @@ class DamagedSkinsTest : public TestCase
     Q_OBJECT
 
 private slots:
-    /// What the toolkit cannot read at all, it says in a warning; unknown properties it passes over.
+    /// What Qt cannot read at all, it says in a warning; unknown properties it passes over.
     void init() override { QTest::failOnWarning(QRegularExpression(QStringLiteral("parse|Could not"))); }
     void aDamagedSkinIsRefusedOrWorn();
-    void ofPiecesPutTogetherByChanceTheToolkitReadsWhatIsAccepted();
+    void ofPiecesPutTogetherByChanceQtReadsWhatIsAccepted();
     void aSkinMadeToKeepTheProgramBusyDoesNot_data();
     void aSkinMadeToKeepTheProgramBusyDoesNot();
     void cleanupTestCase() { qApp->setStyleSheet({}); }
@@ -99,7 +99,7 @@ void DamagedSkinsTest::aDamagedSkinIsRefusedOrWorn()
     qInfo("%d damaged skins, %d of them refused", tried, refused);
 }
 
-void DamagedSkinsTest::ofPiecesPutTogetherByChanceTheToolkitReadsWhatIsAccepted()
+void DamagedSkinsTest::ofPiecesPutTogetherByChanceQtReadsWhatIsAccepted()
 {
     constexpr std::array SelectorPieces{"QLabel", "*", "#", "a", ".", ":", "::", "!", "[", "]", "=",
         "~=", "\"x y\"", " ", ">", ",", "-", "1", "/**/", "\n", "_b", "hover"};

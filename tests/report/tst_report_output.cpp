@@ -23,7 +23,7 @@ class ReportOutputTest : public TestCase
     Q_OBJECT
 
 private slots:
-    // The dialog of the toolkit, driven as a user would; without a printer it knows files alone.
+    // The dialog of Qt, driven as a user would; without a printer it knows files alone.
     void theChosenPagesArePrinted()
     {
         PreviewUnderTest f(60, true);

@@ -63,7 +63,7 @@ private slots:
         QVERIFY(line.top() > word.center().y());
     }
 
-    void latinMnemonicsAreLeftToTheToolkit()
+    void latinMnemonicsAreLeftToQt()
     {
         const QRect line = difference(drawn(QStringLiteral("Help")), drawn(QStringLiteral("H&elp")));
         QVERIFY(!line.isEmpty() && line.height() <= 2);

@@ -124,8 +124,8 @@ private slots:
     void outlinesAndRingsStandOut();
     void rulesOfTheSheetKeepTextsReadable_data() { skins(); }
     void rulesOfTheSheetKeepTextsReadable();
-    void theToolkitTakesTheSheet_data() { skins(); }
-    void theToolkitTakesTheSheet();
+    void qtTakesTheSheet_data() { skins(); }
+    void qtTakesTheSheet();
     void picturesKeepTheirColoursInSelectedRows_data() { skins(); }
     void picturesKeepTheirColoursInSelectedRows();
     void checkMarksAreVisible_data() { skins(); }
@@ -260,7 +260,7 @@ void TestShippedSkins::rulesOfTheSheetKeepTextsReadable()
 }
 
 // A sheet that cannot be parsed is dropped with a warning, and a warning fails the test.
-void TestShippedSkins::theToolkitTakesTheSheet()
+void TestShippedSkins::qtTakesTheSheet()
 {
     QFETCH(const QString, skin);
     wear(skin);

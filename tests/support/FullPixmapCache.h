@@ -3,7 +3,7 @@
 #include <QPixmap>
 #include <QPixmapCache>
 
-/// For its life the toolkit's cache of pictures holds one that leaves no room for another.
+/// For its life Qt's cache of pictures holds one that leaves no room for another.
 class FullPixmapCache
 {
 public:

@@ -5,7 +5,7 @@
 class QTextDocument;
 
 /// What stands for a picture that the help file does not hold: a small frame with a cross in it, grey, to be
-/// seen on light and dark ground. For a null picture the toolkit would read the file of that name on the
+/// seen on light and dark ground. For a null picture Qt would read the file of that name on the
 /// disk.
 const QImage& noPicture();
 

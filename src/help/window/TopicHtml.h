@@ -13,7 +13,7 @@ inline constexpr qsizetype MostTags = 2000;
 /// The text of a topic. A letter with marks is one character where there is one, as keyboards type it.
 QString topicText(const QByteArray& bytes);
 
-/// A topic as a document that has no look yet and reads nothing from anywhere. Null for what the toolkit
+/// A topic as a document that has no look yet and reads nothing from anywhere. Null for what Qt
 /// would take very long for: too many tags (tags that are not closed cost it the square of their number),
 /// tables too deep in tables (each level doubles the time of laying them out).
 std::unique_ptr<QTextDocument> readTopic(const QString& html);

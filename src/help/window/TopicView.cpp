@@ -191,7 +191,7 @@ void TopicView::changeEvent(QEvent* event)
 void TopicView::complete(const QString& place)
 {
     if (std::exchange(m_justRead, false) && tellMissingPictures(*document()) && !place.isEmpty()) {
-        // The toolkit has scrolled there already, and then it moved.
+        // Qt has scrolled there already, and then it moved.
         scrollToAnchor(place);
     }
 }
