@@ -819,7 +819,7 @@
     <name>Rest</name>
     <message>
         <source>Only the beginning is shown. The rest is kept as long as the &quot;…&quot; at its end stands.</source>
-        <translation>Seul le début est affiché. Le reste est conservé tant que « … » reste à la fin.</translation>
+        <translation>Seul le début est affiché. Le reste est conservé tant que «&#xa0;…&#xa0;» reste à la fin.</translation>
     </message>
 </context>
 <context>

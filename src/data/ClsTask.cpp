@@ -197,24 +197,18 @@ std::vector<ClsTask> ClsTask::GetTasks(qint16 cat, qint32 status, qint32 sortBy,
 }
 
 // The join is asked for its columns alone: it would read the category with every task.
-qint64 ClsTask::readAll(const std::function<void(const RecordSet&)>& alsoSee) const
+qint64 ClsTask::readAll() const
 {
     Connection connection = ClsDatabase(*m_engine).Connect();
     connection.open();
     const TaskRows everyColumnIsThere(*m_engine, connection.execute(SelectJoin + QLatin1String(" limit 0")));
     RecordSet records = connection.execute(
-        QStringLiteral("select ifnull(cat_id in (select cat_id from categories), 0), * from tasks"));
-    constexpr int IsShown = 0;
+        QStringLiteral("select * from tasks where cat_id in (select cat_id from categories)"));
     const TaskFields columns(records);
     qint64 shown = 0;
     for (ClsTask task(*m_engine); !records.atEnd(); records.moveNext()) {
-        if (records.flag(IsShown)) {
-            ++shown;
-            columns.check(records, task);
-        }
-        if (alsoSee) {
-            alsoSee(records);
-        }
+        ++shown;
+        columns.check(records, task);
     }
     connection.close();
     return shown;

@@ -5,7 +5,6 @@
 #include "platform/database/DatabaseEngine.h"
 
 #include <QCoreApplication>
-#include <functional>
 #include <optional>
 #include <vector>
 
@@ -68,8 +67,7 @@ public:
         Moment toDate, qint32 taskType) const;
     /// Reads every task that has a category, and keeps none; one that does not convert is an
     /// UnreadableRecordError. How many they are.
-    /// `alsoSee` sees each row of the table with all its columns, those of tasks without a category too.
-    qint64 readAll(const std::function<void(const RecordSet&)>& alsoSee = {}) const;
+    qint64 readAll() const;
     /// Deletes the tasks due from `fromDate` to the end of `toDate` that match. How many there were.
     qint32 DeleteTasks(qint16 cat, qint32 status, Moment fromDate, Moment toDate, qint32 taskType) const;
     /// How many tasks `DeleteTasks` would delete.

@@ -4,10 +4,7 @@
 #include "data/ClsDatabase.h"
 #include "data/ClsTask.h"
 #include "platform/FileReplace.h"
-#include "platform/ProgramFolder.h"
 #include "platform/database/Connection.h"
-#include "platform/database/IndexPages.h"
-#include "platform/database/IndexProof.h"
 
 #include <QCoreApplication>
 #include <array>
@@ -41,7 +38,6 @@ public:
     Trial& operator=(const Trial&) = delete;
 
     RecordSet execute(const char* statement) { return m_connection.execute(QLatin1String(statement)); }
-    Connection& connection() { return m_connection; }
 
 private:
     Connection m_connection;
@@ -63,25 +59,18 @@ void requireReadableSettings(Trial& trial)
     }
 }
 
-/// That the file is sound and every record in it can be read. The tasks are read once for both; what the
-/// engine finds out about the indexes only at many times the cost is proven by them. The number of tasks.
+/// That the file is sound and every record in it can be read. The number of tasks.
 qint64 requireSoundAndReadable(const DatabaseEngine& engine)
 {
     Trial trial(engine);
-    IndexProof proof(trial.connection(), QStringLiteral("tasks"), QStringLiteral("task_id"));
-    requireOk(trial.execute("pragma quick_check"));
+    requireOk(trial.execute("pragma integrity_check"));
     requireReadableSettings(trial);
     // The names as the reminders ask for them, and the order of texts that the tables name: no row is needed.
     trial.execute(
         "select played,dismissed from tasks,categories where tasks.cat_id=categories.cat_id limit 0");
     trial.execute("select task_id from tasks order by task_name limit 0");
     ClsCategory(engine).GetAllCategories();
-    const qint64 tasks = ClsTask(engine).readAll([&proof](const RecordSet& row) { proof.add(row); });
-    IndexPages pages(pathIn(engine.programFolder, ClsDatabase(engine).FileName()), engine.progress);
-    if (!proof.succeeds(pages)) {
-        requireOk(trial.execute("pragma integrity_check"));
-    }
-    return tasks;
+    return ClsTask(engine).readAll();
 }
 
 void requireRoomForCategories(Trial& trial)

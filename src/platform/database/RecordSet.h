@@ -45,7 +45,6 @@ public:
 
 private:
     friend class Connection;
-    friend class IndexProof;
     /// Stands on the first row, if there is one.
     explicit RecordSet(std::unique_ptr<Cursor> cursor);
     sqlite3_value* value(int field) const;
