@@ -186,10 +186,15 @@ private:
 void TranslatedWindowsTest::languages()
 {
     QTest::addColumn<QString>("language");
+#ifdef __SANITIZE_ADDRESS__
+    // The sanitizers take five times as long, and see no words: one language from either side.
+    QTest::newRow("ar") << QStringLiteral("ar");
+#else
     QTest::newRow("en") << QString();
     for (const QString& name : Language::shipped()) {
         QTest::newRow(qPrintable(name)) << name;
     }
+#endif
     QTest::newRow(qPrintable(Pseudo)) << Pseudo;
 }
 
