@@ -66,7 +66,7 @@ struct Place {
     Operation restore() const
     {
         const std::string replaced = rowsIn(root.path().toStdString(), "program/data.dat");
-        const std::string kept = rowsIn(root.path().toStdString(), std::string("program/") + BeforeRestore);
+        const std::string kept = rowsIn(root.path().toStdString() + "/program", BeforeRestore);
         return {[this] {
                     return told(
                         [&] { DataFileCopies(engine).restoreFrom(path(QStringLiteral("elsewhere/b.abk"))); });
@@ -301,8 +301,7 @@ void TestReplacementFaults::aRestoreOverAnEmptyFileKeepsItsJournal()
          },
             [](const std::string& folder) {
                 const std::string beside = contentIn(folder, "program/data.dat-journal");
-                const std::string kept =
-                    contentIn(folder, std::string("program/") + BeforeRestore + "-journal");
+                const std::string kept = contentIn(folder, "program/data.dat.before-restore-journal");
                 if ((beside == "dead") == (kept == "dead")) {
                     throw std::runtime_error("the journal is lost or there twice");
                 }

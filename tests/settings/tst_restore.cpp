@@ -154,8 +154,7 @@ void TestRestore::aRefusedFileIsToldWithItsReason()
     QCOMPARE(test.said(), QStringLiteral("Nothing was restored: \"%1\" is no data file.").arg(letter));
     const QString missing = test.elsewhere.filePath(QStringLiteral("missing.abk"));
     test.restore(missing);
-    QCOMPARE(test.said(),
-        QStringLiteral("Nothing was restored: \"%1\": the file or its folder does not exist").arg(missing));
+    QCOMPARE(test.said(), QStringLiteral("Nothing was restored: the file or its folder does not exist"));
     test.dialogs.expectOpen({});
     test.find<QPushButton>("btnRestore")->click();
     QCOMPARE(test.said(), QString());
