@@ -165,7 +165,12 @@ void CategoriesPage::readPictures()
 void CategoriesPage::writeIconNumber(ClsCategory& category, int number)
 {
     try {
-        category.setIconId(narrowId(number - 1, QT_TRANSLATE_NOOP("OverflowError", "icon number")));
+        const qint16 id = narrowId(number - 1, QT_TRANSLATE_NOOP("OverflowError", "icon number"));
+        // As at every start but the first: sixty commits would take longer than all the rest of it.
+        if (id == category.IconId()) {
+            return;
+        }
+        category.setIconId(id);
     } catch (const OverflowError& error) {
         note(QStringLiteral("/overflow"), error.text());
         return;

@@ -19,6 +19,7 @@ private slots:
     void anItemCarriesItsIdDescriptionAndPicture();
     void loadingReadsOnceAndWritesNothingForBuiltInIcons();
     void aCustomPictureIsAppendedAndItsNumberWrittenBack();
+    void aNumberThatIsStoredAlreadyIsNotWrittenAgain();
     void reloadingTwiceAppendsTwoPicturesAndStoresTheLatest();
     void aReloadDecodesNoPictureAnew();
     void aReloadKeepsTheSelectedCategory();
@@ -109,6 +110,20 @@ void CategoriesListTest::aCustomPictureIsAppendedAndItsNumberWrittenBack()
             "Update categories set cat_name = 'It''s',cat_desc = '', cat_icon = 21,custom_icon = 1 "
             ",cat_icon_name = 'icon5.gif'  where cat_id =  %1")
             .arg(id));
+}
+
+void CategoriesListTest::aNumberThatIsStoredAlreadyIsNotWrittenAgain()
+{
+    PageUnderTest test;
+    writeFile(test.customIcons(), QStringLiteral("icon5.gif"), gifOf());
+    test.addCustom(QStringLiteral("Own"), QStringLiteral("icon5.gif"));
+    // As the last start has left it.
+    test.database.sql(QStringLiteral("update categories set cat_icon=21"));
+    test.page->LoadCategories();
+    QCOMPARE(test.images.count(), 22);
+    QCOMPARE(test.database.statements().take().size(), 1);
+    test.page->LoadCategories();
+    QCOMPARE(test.database.sql(QStringLiteral("select cat_icon from categories")).toInt(), 22);
 }
 
 void CategoriesListTest::reloadingTwiceAppendsTwoPicturesAndStoresTheLatest()
