@@ -89,8 +89,8 @@ def measure_pictures(desk):
     rig.fill(data_file, 10)
     shutil.copy(data_file, bare)
     add_pictures(desk.program)
-    shutil.copy(data_file, full)
     read_pictures_once(program, desk.environment)
+    shutil.copy(data_file, full)
     taken = {bare: [], full: []}
     for turn in range(STARTS + 1):
         for source, starts in taken.items():
