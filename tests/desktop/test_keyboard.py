@@ -188,14 +188,14 @@ class TypicalEventByKeysTest(KeyboardCase):
         self.ctrl("r")
         self.user.wait_rows(["Pay the gardener"], alert)
         self.wait_selected(0, alert)
-        self.ctrl("d")
+        self.ctrl("m")
         self.user.wait_hidden(names.alert_title(2))
         self.assertEqual(self.reminders(), {"Water the plants": ("2026-03-02 11:42:00", 1, 0, 0),
                                             "Pay the gardener": ("2026-03-02 10:31:00", 0, 1, 1)})
         self.user.wait_active(names.MAIN)
 
         self.wait_alert(datetime(2026, 3, 2, 11, 42, 10), ["Water the plants"])
-        self.ctrl("d")
+        self.ctrl("m")
         self.user.wait_hidden(names.alert_title(1))
         self.assertEqual(self.reminders()["Water the plants"], ("2026-03-02 11:42:00", 0, 1, 1))
         self.user.wait_active(names.MAIN)
@@ -264,7 +264,7 @@ class AlertByKeysTest(KeyboardCase):
         self.wait_grid_focus(alert)
         self.wait_selected(1, alert)
         self.assertEqual(self.store.tasks(), due)
-        self.ctrl("d", "Shift_L")
+        self.ctrl("m", "Shift_L")
         self.user.wait_hidden(names.alert_title(2))
         self.assertEqual(self.reminders(), {"Water the plants": ("2026-03-02 10:30:00", 0, 1, 1),
                                             "Pay the gardener": ("2026-03-02 10:31:00", 0, 1, 1)})
