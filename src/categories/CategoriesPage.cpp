@@ -122,7 +122,7 @@ void CategoriesPage::LoadCategories()
 QIcon CategoriesPage::customPicture(const ClsCategory& category)
 {
     try {
-        const QIcon known = m_customIcons.find(category.CustomIconName());
+        QIcon known = m_customIcons.find(category.CustomIconName());
         if (!known.isNull()) {
             return known;
         }

@@ -180,17 +180,21 @@ void GridView::selectionChanged(const QItemSelection& selected, const QItemSelec
 }
 // NOLINTEND(bugprone-parent-virtual-call)
 
+bool GridView::goesToFirstRow(const QKeyEvent& event) const
+{
+    return (isPlain(event) && event.key() == Qt::Key_Home)
+        || (movesUpOrDown(event) && !currentIndex().isValid());
+}
+
 void GridView::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Delete && isPlain(*event)) {
         emit deletePressed();
     } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         emit enterPressed();
-    } else if (m_gridModel != nullptr && isPlain(*event) && event->key() == Qt::Key_Home) {
-        selectOnly(0);
     } else if (m_gridModel != nullptr && isPlain(*event) && event->key() == Qt::Key_End) {
         selectOnly(m_gridModel->rowCount() - 1);
-    } else if (m_gridModel != nullptr && movesUpOrDown(*event) && !currentIndex().isValid()) {
+    } else if (m_gridModel != nullptr && goesToFirstRow(*event)) {
         selectOnly(0);
     } else {
         QTableView::keyPressEvent(event);

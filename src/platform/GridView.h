@@ -50,6 +50,7 @@ private:
     void layOutColumns();
     void takeUserWidth(int column, int oldSize, int newSize);
 
+    bool goesToFirstRow(const QKeyEvent& event) const;
     void moveTo(int row, QItemSelectionModel::SelectionFlags selection);
     double share(int column) const;
 

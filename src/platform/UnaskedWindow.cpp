@@ -5,7 +5,6 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
-#include <QPointer>
 #include <QWidget>
 #include <QWindow>
 #include <utility>
@@ -121,11 +120,14 @@ void UnaskedWindow::giveKeyboardToOwnerOfBox()
     // The box is still there. Once it is gone, xfwm4 gives the keyboard to the window that lies in front,
     // whether that accepts it or not.
     const QWindow* box = QGuiApplication::focusWindow();
-    const QPointer<QWindow> owner = box == nullptr ? nullptr : box->transientParent();
+    QWindow* owner = box == nullptr ? nullptr : box->transientParent();
+    if (owner == nullptr) {
+        return;
+    }
     const auto give = [owner] {
-        if (owner != nullptr && owner->isVisible()) {
+        if (owner->isVisible()) {
             giveKeyboard(*owner);
         }
     };
-    QMetaObject::invokeMethod(this, give, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(owner, give, Qt::QueuedConnection);
 }

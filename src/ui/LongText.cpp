@@ -35,7 +35,7 @@ qsizetype shownLength(const QString& text)
 /// What an edit does not show. A validator, as which it sees what is pasted before the edit shapes it.
 class Rest final : public QValidator
 {
-    Q_OBJECT
+    Q_DECLARE_TR_FUNCTIONS(Rest)
 
 public:
     explicit Rest(QWidget& edit) : QValidator(&edit), m_edit(edit) { }
@@ -71,15 +71,21 @@ private:
     mutable QString m_rest;
 };
 
+/// No edit of the program has another validator.
+Rest* foundRest(const QWidget& edit)
+{
+    return static_cast<Rest*>(edit.findChild<QValidator*>(QString(), Qt::FindDirectChildrenOnly));
+}
+
 Rest& restOf(QWidget& edit)
 {
-    auto* rest = edit.findChild<Rest*>(QString(), Qt::FindDirectChildrenOnly);
+    auto* rest = foundRest(edit);
     return rest == nullptr ? *new Rest(edit) : *rest;
 }
 
 QString withRest(const QWidget& edit, const QString& shown)
 {
-    const auto* rest = edit.findChild<Rest*>(QString(), Qt::FindDirectChildrenOnly);
+    const auto* rest = foundRest(edit);
     return rest == nullptr ? shown : rest->wholeOf(shown);
 }
 
@@ -114,5 +120,3 @@ QString wholeText(const QPlainTextEdit& edit)
     text.replace(QChar::LineSeparator, u'\n');
     return withRest(edit, text);
 }
-
-#include "LongText.moc"
