@@ -41,7 +41,7 @@ CustomIcons::CustomIcons(const QString& programFolder)
 
 QIcon CustomIcons::load(const QString& name) const
 {
-    if (const QIcon found = find(name); !found.isNull()) {
+    if (QIcon found = find(name); !found.isNull()) {
         return found;
     }
     const QString path = pathOf(name);
@@ -68,7 +68,7 @@ QIcon CustomIcons::find(const QString& name) const
 
 QIcon CustomIcons::keep(const QString& path, const QString& key, const QImage& picture) const
 {
-    const QIcon icon(QPixmap::fromImage(picture));
+    QIcon icon(QPixmap::fromImage(picture));
     const Stamp stamp(path);
     if (PictureCache::keyOf(path) != key) {
         return icon;

@@ -62,7 +62,7 @@ QFunctionPointer Modules::resolveAny(const QString& name, const char* symbol)
 
 QString Modules::program(const QString& name) const
 {
-    const QString path = pathIn(m_folder, name);
+    QString path = pathIn(m_folder, name);
 #ifdef Q_OS_LINUX
     const auto held = m_held.find(name);
     struct stat now = {};

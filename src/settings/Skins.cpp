@@ -118,7 +118,7 @@ bool Skins::wear(const QString& name, Asked asked)
 
 QString Skins::add(const QString& file) const
 {
-    const QString skin = SkinFile::read(file).info.name;
+    QString skin = SkinFile::read(file).info.name;
     QString name = file.section(u'/', -1);
     // The folder is searched for this ending, on a file system that minds small letters, too.
     if (name.endsWith(Ending, Qt::CaseInsensitive)) {
