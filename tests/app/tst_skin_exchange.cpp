@@ -166,7 +166,7 @@ void SkinExchangeTest::everyWindowIsStyledOnce()
 {
     SkinnedProgram program(QStringLiteral("Aqua"));
     visitEveryWindow(program, [](const QString&, QWidget&) {});
-    wear(QStringLiteral("Lemon"));
+    wear(QStringLiteral("Recast"));
     const StyleChanges changes;
     wear(QStringLiteral("Midnight"));
     int windows = 0;
