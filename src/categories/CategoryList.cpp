@@ -122,6 +122,7 @@ QListWidgetItem* CategoryList::selectedItem() const
 void CategoryList::focusInEvent(QFocusEvent* event)
 {
     // Qt's list makes the first item the current one, and frames it: an item on which no key acts.
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call)
     QAbstractScrollArea::focusInEvent(event);
     setAttribute(Qt::WA_InputMethodEnabled, false);
     viewport()->update();
