@@ -842,8 +842,8 @@
 <context>
     <name>Rest</name>
     <message>
-        <source>Only the beginning is shown. The rest is kept as long as the &quot;…&quot; at its end stands.</source>
-        <translation>لا تظهر إلا البداية. تبقى البقية محفوظة ما دامت العلامة «…» في آخر النص.</translation>
+        <source>Only the beginning is shown. The &quot;⋯&quot; stands for the rest.</source>
+        <translation>تظهر البداية فقط. علامة «⋯» تقوم مقام الباقي.</translation>
     </message>
 </context>
 <context>

@@ -818,8 +818,8 @@
 <context>
     <name>Rest</name>
     <message>
-        <source>Only the beginning is shown. The rest is kept as long as the &quot;…&quot; at its end stands.</source>
-        <translation>Nur der Anfang wird gezeigt. Der Rest bleibt erhalten, solange „…“ am Ende stehen bleibt.</translation>
+        <source>Only the beginning is shown. The &quot;⋯&quot; stands for the rest.</source>
+        <translation>Nur der Anfang ist zu sehen. Das „⋯“ steht für den Rest.</translation>
     </message>
 </context>
 <context>

@@ -818,8 +818,8 @@
 <context>
     <name>Rest</name>
     <message>
-        <source>Only the beginning is shown. The rest is kept as long as the &quot;…&quot; at its end stands.</source>
-        <translation>Solo se muestra el principio. El resto se conserva mientras «…» siga al final.</translation>
+        <source>Only the beginning is shown. The &quot;⋯&quot; stands for the rest.</source>
+        <translation>Solo se muestra el principio. El «⋯» representa el resto.</translation>
     </message>
 </context>
 <context>

@@ -818,8 +818,8 @@
 <context>
     <name>Rest</name>
     <message>
-        <source>Only the beginning is shown. The rest is kept as long as the &quot;…&quot; at its end stands.</source>
-        <translation>Seul le début est affiché. Le reste est conservé tant que «&#xa0;…&#xa0;» reste à la fin.</translation>
+        <source>Only the beginning is shown. The &quot;⋯&quot; stands for the rest.</source>
+        <translation>Seul le début est affiché. Le « ⋯ » représente la suite.</translation>
     </message>
 </context>
 <context>

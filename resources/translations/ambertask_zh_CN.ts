@@ -812,8 +812,8 @@
 <context>
     <name>Rest</name>
     <message>
-        <source>Only the beginning is shown. The rest is kept as long as the &quot;…&quot; at its end stands.</source>
-        <translation>仅显示开头部分。只要末尾的“…”还在，其余内容就会保留。</translation>
+        <source>Only the beginning is shown. The &quot;⋯&quot; stands for the rest.</source>
+        <translation>仅显示开头部分。“⋯”代表其余内容。</translation>
     </message>
 </context>
 <context>

@@ -16,8 +16,8 @@ namespace
 constexpr qsizetype LongestParagraph = 20'000;
 constexpr qsizetype ShownOfParagraph = 10'000;
 constexpr qsizetype MostInAll = 1'200'000;
-/// An ellipsis and a joiner, which nobody types.
-const QString Mark = QStringLiteral("\u2026\u2060");
+/// An ellipsis that no keyboard writes, and one character: no key can leave half of it.
+constexpr QChar Mark(0x22EF);
 
 qsizetype shownLength(const QString& text)
 {
@@ -55,15 +55,14 @@ public:
         m_rest = whole.mid(length);
         m_edit.setToolTip(m_rest.isEmpty()
                 ? QString()
-                : tr("Only the beginning is shown. The rest is kept as long as the \"\u2026\" at its end "
-                     "stands."));
+                : tr("Only the beginning is shown. The \"\u22ef\" stands for the rest."));
         return m_rest.isEmpty() ? whole : whole.left(length) + Mark;
     }
 
     QString wholeOf(const QString& shown) const
     {
-        const bool standsForIt = !m_rest.isEmpty() && shown.endsWith(Mark);
-        return standsForIt ? shown.chopped(Mark.size()) + m_rest : shown;
+        const qsizetype mark = m_rest.isEmpty() ? -1 : shown.lastIndexOf(Mark);
+        return mark < 0 ? shown : QString(shown).replace(mark, 1, m_rest);
     }
 
 private:

@@ -6,7 +6,7 @@ class QLineEdit;
 class QPlainTextEdit;
 
 // Texts without end in an edit, which would shape them whole: it shows their beginning and a mark for the
-// rest. The rest is kept and belongs to the text as long as the mark stands at its end.
+// rest. The rest is kept and stands in the text where the mark stands, until that is deleted.
 
 /// Lets a one-line edit take texts of any length, written or pasted.
 void takeLongTexts(QLineEdit& edit);

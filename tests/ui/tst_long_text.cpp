@@ -42,7 +42,7 @@ private slots:
         const QString text = QString(Endless, u'\u0628') + QStringLiteral(" end");
         setWholeText(f.edit, text);
         QVERIFY(f.edit.text().size() < 20'000);
-        QVERIFY(text.startsWith(f.edit.text().chopped(2)));
+        QVERIFY(text.startsWith(f.edit.text().chopped(1)));
         QVERIFY(!f.edit.toolTip().isEmpty());
         QVERIFY(wholeText(f.edit) == text);
         QVERIFY(valueOf(&f.edit) == text);
@@ -58,6 +58,34 @@ private slots:
         QVERIFY(wholeText(f.edit) == QStringLiteral("New ") + text);
         QTest::keyClick(&f.edit, Qt::Key_Z, Qt::ControlModifier);
         QVERIFY(wholeText(f.edit) == text);
+    }
+
+    void whatIsWrittenAtTheEndStandsBehindTheRest()
+    {
+        Edit f;
+        const QString text(Endless, u'w');
+        setWholeText(f.edit, text);
+        f.edit.end(false);
+        QTest::keyClicks(&f.edit, QStringLiteral(" more"));
+        QVERIFY(wholeText(f.edit) == text + QStringLiteral(" more"));
+
+        QPlainTextEdit description;
+        setWholeText(description, text);
+        description.moveCursor(QTextCursor::End);
+        QTest::keyClicks(&description, QStringLiteral(" more"));
+        QVERIFY(wholeText(description) == text + QStringLiteral(" more"));
+    }
+
+    void whoDeletesTheRestSeesItGo()
+    {
+        Edit f;
+        setWholeText(f.edit, QString(Endless, u'w'));
+        const QString shown = f.edit.text();
+        f.edit.end(false);
+        QTest::keyClick(&f.edit, Qt::Key_Backspace);
+        QCOMPARE(f.edit.text(), shown.chopped(1));
+        QCOMPARE(wholeText(f.edit), shown.chopped(1));
+        QVERIFY(QFontMetrics(f.edit.font()).horizontalAdvance(shown.back()) > 0);
     }
 
     void whoeverWritesAnotherTextIsRidOfTheRest()
