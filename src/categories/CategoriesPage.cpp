@@ -93,7 +93,7 @@ void CategoriesPage::LoadCategories()
     const int selectedId = selected == nullptr ? 0 : idOf(*selected);
 
     m_list->clear();
-    std::vector<std::pair<ClsCategory, int>> numbered;
+    std::vector<Numbered> numbered;
     for (const ClsCategory& category : categories) {
         int number = category.IconId() + 1;
         if (category.IsCustomIcon()) {
@@ -114,9 +114,7 @@ void CategoriesPage::LoadCategories()
     }
 
     // Last, so that a store that refuses leaves no half a list.
-    for (auto& [category, number] : numbered) {
-        writeIconNumber(category, number);
-    }
+    writeIconNumbers(numbered);
 }
 
 QIcon CategoriesPage::customPicture(const ClsCategory& category)
@@ -162,20 +160,21 @@ void CategoriesPage::readPictures()
     m_reader.begin();
 }
 
-void CategoriesPage::writeIconNumber(ClsCategory& category, int number)
+void CategoriesPage::writeIconNumbers(const std::vector<Numbered>& numbered)
 {
-    try {
-        const qint16 id = narrowId(number - 1, QT_TRANSLATE_NOOP("OverflowError", "icon number"));
-        // As at every start but the first: sixty commits would take longer than all the rest of it.
-        if (id == category.IconId()) {
-            return;
+    std::vector<ClsCategory> written;
+    for (const auto& [category, number] : numbered) {
+        try {
+            const qint16 id = narrowId(number - 1, QT_TRANSLATE_NOOP("OverflowError", "icon number"));
+            written.push_back(category);
+            written.back().setIconId(id);
+        } catch (const OverflowError& error) {
+            note(QStringLiteral("/overflow"), error.text());
         }
-        category.setIconId(id);
-    } catch (const OverflowError& error) {
-        note(QStringLiteral("/overflow"), error.text());
-        return;
     }
-    category.Update();
+    if (!written.empty()) {
+        ClsCategory::updateAll(m_services.engine, written);
+    }
 }
 
 void CategoriesPage::note(const QString& key, const QString& text)

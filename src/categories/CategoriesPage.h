@@ -3,6 +3,7 @@
 #include "categories/CustomIcons.h"
 #include "categories/LatePicture.h"
 #include "categories/PictureReader.h"
+#include "data/ClsCategory.h"
 #include "ui/FormServices.h"
 
 #include <QHash>
@@ -10,9 +11,10 @@
 #include <QStringList>
 #include <QWidget>
 #include <functional>
+#include <utility>
+#include <vector>
 
 class CategoryList;
-class ClsCategory;
 class QPushButton;
 class QString;
 class frmCategoryDetails;
@@ -67,11 +69,13 @@ private:
     void btnEditCat_Click();
     void btnDeleteCat_Click();
 
+    using Numbered = std::pair<ClsCategory, int>;
+
     void connectControls();
     void showDialog(frmCategoryDetails& dialog);
     /// The picture of the category, to be appended to the image list.
     QIcon customPicture(const ClsCategory& category);
-    void writeIconNumber(ClsCategory& category, int number);
+    void writeIconNumbers(const std::vector<Numbered>& numbered);
     void note(const QString& key, const QString& text);
     void reportNotes();
     /// Row of the category; -1 when it is not listed.

@@ -70,14 +70,26 @@ bool ClsCategory::Add() const
 
 void ClsCategory::Update() const
 {
-    Connection connection = ClsDatabase(*m_engine).Connect();
+    updateAll(*m_engine, {*this});
+}
+
+void ClsCategory::updateAll(const DatabaseEngine& engine, const std::vector<ClsCategory>& categories)
+{
+    Connection connection = ClsDatabase(engine).Connect();
     connection.open();
-    connection.execute(QLatin1String("Update categories set cat_name = '") + EscapeSqlText(m_name)
+    for (const ClsCategory& category : categories) {
+        connection.execute(category.updateStatement());
+    }
+    connection.close();
+}
+
+QString ClsCategory::updateStatement() const
+{
+    return QLatin1String("Update categories set cat_name = '") + EscapeSqlText(m_name)
         + QLatin1String("',cat_desc = '") + EscapeSqlText(m_description) + QLatin1String("', cat_icon = ")
         + QString::number(m_iconId) + QLatin1String(",custom_icon = ") + sqlFlag(m_isCustomIcon)
         + QLatin1String(" ,cat_icon_name = '") + EscapeSqlText(m_customIconName)
-        + QLatin1String("'  where cat_id =  ") + QString::number(m_id));
-    connection.close();
+        + QLatin1String("'  where cat_id =  ") + QString::number(m_id);
 }
 
 void ClsCategory::DeleteById(qint16 number) const

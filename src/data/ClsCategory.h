@@ -41,10 +41,14 @@ public:
     bool Add() const;
     /// Writes this category over the row of its id. Another category may have the same name.
     void Update() const;
+    /// Does that for each of them with one commit: sixty would take longer than all the rest of a start.
+    static void updateAll(const DatabaseEngine& engine, const std::vector<ClsCategory>& categories);
     /// Deletes the category and its tasks.
     void DeleteById(qint16 number) const;
 
 private:
+    QString updateStatement() const;
+
     const DatabaseEngine* m_engine;
     QString m_name;
     QString m_description;
