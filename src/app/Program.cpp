@@ -246,6 +246,10 @@ void Program::showAbout()
 void Program::addTask(qint16 category)
 {
     frmTaskDetails& dialog = taskDetails();
+    // Its question about what is not saved must not come up behind the main window either.
+    if (m_settings.always_on_top) {
+        makeTopmost(&dialog);
+    }
     if (!dialog.letGo()) {
         return;
     }
@@ -253,22 +257,19 @@ void Program::addTask(qint16 category)
     if (category != CategoryFilter::All) {
         dialog.selectCategory(category);
     }
-    if (m_settings.always_on_top) {
-        makeTopmost(&dialog);
-    }
     showOwned(&dialog, m_main.get());
 }
 
 void Program::editTask(qint16 id)
 {
     frmTaskDetails& dialog = taskDetails();
+    if (m_settings.always_on_top) {
+        makeTopmost(&dialog);
+    }
     if (!dialog.letGo()) {
         return;
     }
     dialog.SetTag(id);
-    if (m_settings.always_on_top) {
-        makeTopmost(&dialog);
-    }
     showOwned(&dialog, m_main.get());
 }
 

@@ -223,11 +223,10 @@ void CategoriesPage::setHelpEnabled(bool enabled)
 
 void CategoriesPage::btnAddCat_Click()
 {
-    frmCategoryDetails& dialog = m_categoryDetails();
-    if (dialog.letGo()) {
-        dialog.clearTag();
-        dialog.EmptyForm();
-        showDialog(dialog);
+    if (frmCategoryDetails* dialog = freeDialog()) {
+        dialog->clearTag();
+        dialog->EmptyForm();
+        showOwned(dialog, window());
     }
 }
 
@@ -238,19 +237,20 @@ void CategoriesPage::btnEditCat_Click()
         return;
     }
     const QString tag = QString::number(idOf(*item));
-    frmCategoryDetails& dialog = m_categoryDetails();
-    if (dialog.letGo()) {
-        dialog.SetTag(tag);
-        showDialog(dialog);
+    if (frmCategoryDetails* dialog = freeDialog()) {
+        dialog->SetTag(tag);
+        showOwned(dialog, window());
     }
 }
 
-void CategoriesPage::showDialog(frmCategoryDetails& dialog)
+frmCategoryDetails* CategoriesPage::freeDialog()
 {
+    frmCategoryDetails& dialog = m_categoryDetails();
+    // Its question about what is not saved must not come up behind the main window either.
     if (m_services.alwaysOnTop()) {
         makeTopmost(&dialog);
     }
-    showOwned(&dialog, window());
+    return dialog.letGo() ? &dialog : nullptr;
 }
 
 void CategoriesPage::btnDeleteCat_Click()

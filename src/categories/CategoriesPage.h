@@ -72,7 +72,8 @@ private:
     using Numbered = std::pair<ClsCategory, int>;
 
     void connectControls();
-    void showDialog(frmCategoryDetails& dialog);
+    /// The dialog, ready to be filled and shown; null when the user keeps what is in it.
+    frmCategoryDetails* freeDialog();
     /// The picture of the category, to be appended to the image list.
     QIcon customPicture(const ClsCategory& category);
     void writeIconNumbers(const std::vector<Numbered>& numbered);

@@ -123,6 +123,24 @@ private slots:
         }
     }
 
+    void theQuestionAboutUnsavedInputStaysAboveTheTopmostMainWindow()
+    {
+        ProgramFixture f;
+        f.setting(QStringLiteral("always_on_top"), 1);
+        aTask(f.database).remindingAt(f.database.clock().now() - 1min).add();
+        f.start();
+        f.program.loadDialogs();
+        openItem(f);
+        frmTaskDetails& dialog = f.program.taskDetails();
+        QVERIFY(!isTopmost(&dialog));
+        f.control<QLineEdit>(dialog, "txtTask")->setText(QStringLiteral("changed"));
+        f.dialogs.expectUnsaved(
+            QStringLiteral("The changes to 'changed' are not saved."), MessageBoxes::Unsaved::Keep);
+        f.press(f.main(), "btnTaskAdd");
+        QVERIFY(f.dialogs.allUsed());
+        QVERIFY(isTopmost(&dialog));
+    }
+
     void savedWithAlwaysOnTopTheAlertStaysTopmost()
     {
         ProgramFixture f;
