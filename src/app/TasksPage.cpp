@@ -79,7 +79,7 @@ TasksPage::TasksPage(const FormServices& services, std::function<TaskColumns()> 
         connectGuarded(combo, &QComboBox::activated, this, &TasksPage::filterList_Click, errors);
     }
     for (const QDateEdit* picker : {m_dateFrom, m_dateTo}) {
-        connectGuarded(picker, &QDateEdit::dateChanged, this, &TasksPage::LoadTasks, errors);
+        connectGuarded(picker, &QDateEdit::dateChanged, this, &TasksPage::filter_Changed, errors);
     }
     for (const QRadioButton* option : {m_allTasks, m_activeTasks, m_expiredTasks}) {
         connectGuarded(option, &QRadioButton::toggled, this, &TasksPage::opnTaskType_Click, errors);
@@ -262,13 +262,25 @@ void TasksPage::setGridLines(bool shown)
 void TasksPage::focusGrid()
 {
     activate(window());
+    focusList();
+}
+
+void TasksPage::focusList()
+{
     m_grid->setFocus(Qt::OtherFocusReason);
+}
+
+void TasksPage::filter_Changed()
+{
+    // The wheel and assistive technology get here without a key or a click, which the line sees itself.
+    m_quietLine->hush();
+    LoadTasks();
 }
 
 void TasksPage::filterList_Click()
 {
     if (window()->isVisible()) {
-        LoadTasks();
+        filter_Changed();
     }
 }
 
@@ -276,7 +288,7 @@ void TasksPage::opnAllDate_Click(bool selected)
 {
     if (selected) {
         setDatesEnabled(false);
-        LoadTasks();
+        filter_Changed();
     }
 }
 
@@ -284,14 +296,14 @@ void TasksPage::opnSpecificDate_Click(bool selected)
 {
     if (selected) {
         setDatesEnabled(true);
-        LoadTasks();
+        filter_Changed();
     }
 }
 
 void TasksPage::opnTaskType_Click(bool selected)
 {
     if (selected) {
-        LoadTasks();
+        filter_Changed();
     }
 }
 

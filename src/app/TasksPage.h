@@ -42,6 +42,8 @@ public:
     void setGridLines(bool shown);
     /// Gives the focus to the list and activates its window when that is visible, whichever page is in front.
     void focusGrid();
+    /// Leaves the keyboard with the window that has it.
+    void focusList();
     GridView* grid() const { return m_grid; }
     /// Says how an action ended.
     QuietLine& quietLine() const { return *m_quietLine; }
@@ -68,6 +70,7 @@ private:
     void opnAllDate_Click(bool selected);
     void opnSpecificDate_Click(bool selected);
     void opnTaskType_Click(bool selected);
+    void filter_Changed();
     void filterList_Click();
 
     void readTasks();

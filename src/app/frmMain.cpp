@@ -157,8 +157,10 @@ void frmMain::Form_Load()
     } else {
         stayReachable();
     }
+    // A wish that the window manager may refuse: the user may be writing elsewhere.
+    activateWindow();
     // Of a hidden window, too: it is to have the keys when it is shown.
-    m_pages.tasks->focusGrid();
+    m_pages.tasks->focusList();
 }
 
 void frmMain::fillPages()

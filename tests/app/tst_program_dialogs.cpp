@@ -114,6 +114,7 @@ private slots:
             line->said(), QStringLiteral("The task \"<b>hidden</b>\" was added; the filters do not show it"));
         // Who edits a task knows what he has changed.
         showStatus(1);
+        QCOMPARE(line->said(), QString());
         f.grid(f.main())->selectOnly(0);
         f.press(f.main(), "btnTaskEdit");
         f.control<QComboBox>(dialog, "cmbStatus")->setCurrentIndex(2);
