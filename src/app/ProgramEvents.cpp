@@ -96,6 +96,11 @@ void Program::tellUnreadableRecords()
     if (!m_hasBeenSeen || m_ending || owes(&Program::tellUnreadableRecords)) {
         return;
     }
+    if (m_unreadable.hasCategory()) {
+        // Another program has spoilt it meanwhile: nobody is to choose it.
+        m_main->LoadCategories();
+        onCategoriesChanged();
+    }
     if (const QString text = m_unreadable.takeText(); !text.isEmpty()) {
         m_machine.messages.tell(waitingWindow(), MessageBoxes::Icon::Exclamation, text);
     }

@@ -21,6 +21,8 @@ public:
     static constexpr qsizetype MostNamed = 8;
 
     void recordLeftOut(const UnreadableRecord& record) override;
+    /// A category has been left out since the last call of `takeText`.
+    bool hasCategory() const { return m_hasCategory; }
     /// What the user is to be told: the records that have come since the last call, and what to do about
     /// them. Empty when there are none.
     QString takeText();

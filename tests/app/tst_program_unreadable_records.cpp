@@ -138,6 +138,22 @@ private slots:
         QCoreApplication::processEvents();
     }
 
+    void aCategoryThatIsSpoiltLaterIsOfferedNowhere()
+    {
+        SpoiledProgram f;
+        f.start();
+        QVERIFY(QTest::qWaitForWindowExposed(&f.main()));
+        QCoreApplication::processEvents();
+        auto* categories = f.control<QComboBox>(f.main(), "cmbCategories");
+        const int offered = categories->count();
+        f.database.sql(QStringLiteral("update categories set cat_icon='abc' where cat_id=1"));
+        f.dialogs.expectExclamationWith(QStringLiteral("cat_icon"));
+        f.choose("cmbSort", 1);
+        QTRY_VERIFY(f.dialogs.allUsed());
+        QCOMPARE(categories->count(), offered - 1);
+        QCOMPARE(f.control<QListWidget>(f.main(), "lstViewCategories")->count(), offered - 2);
+    }
+
     void aHiddenStartWaitsForTheUser()
     {
         SpoiledProgram f;
