@@ -44,9 +44,10 @@ QString SingleInstance::failure() const
 namespace
 {
 
-bool isReadOnly(int error)
+/// A program that only reads its data is of use all the same.
+bool takesNoNewFile(int error)
 {
-    return error == EACCES || error == EROFS || error == EPERM;
+    return error == EACCES || error == EROFS || error == EPERM || error == ENOSPC || error == EDQUOT;
 }
 
 } // namespace
@@ -61,7 +62,7 @@ SingleInstance::SingleInstance(const QString& programFolder)
     if (error == ENOENT || error == ENOTDIR) {
         // The start finds no folder either, and tells it.
         m_lock.reset();
-    } else if (isReadOnly(error) && !QFileInfo(lock).isSymLink() && !QFileInfo::exists(lock)) {
+    } else if (takesNoNewFile(error) && !QFileInfo(lock).isSymLink() && !QFileInfo::exists(lock)) {
         m_lock.reset();
         m_handle = ::open(QFile::encodeName(data).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
         m_otherCopyRuns = m_handle >= 0 && ::flock(static_cast<int>(m_handle), LOCK_EX | LOCK_NB) != 0

@@ -17,36 +17,36 @@ class FileDialogsTest : public TestCase
     Q_OBJECT
 
 private slots:
-    void aFilterEntryBecomesANameFilter()
+    void aFilterBecomesNameFilters_data()
     {
-        FileDialogRequest request;
-        request.filter = QStringLiteral("Wave Files (*.wav)|*.wav");
-        QCOMPARE(nameFilters(request), QStringList{QStringLiteral("Wave Files (*.wav)")});
+        QTest::addColumn<QString>("filter");
+        QTest::addColumn<bool>("executables");
+        QTest::addColumn<bool>("anyName");
+        QTest::addColumn<QString>("nameFilters");
+        const auto row = [](const char* name, const char* filter, bool executables, bool anyName,
+                             const char* expected) {
+            QTest::newRow(name) << QString::fromLatin1(filter) << executables << anyName
+                                << QString::fromLatin1(expected);
+        };
+        row("one pattern", "Wave Files (*.wav)|*.wav", false, false, "Wave Files (*.wav)");
+        row("several patterns", "Image Files (*.gif;*.jpg;*.jpeg)|*.gif;*.jpg;*.jpeg", false, false,
+            "Image Files (*.gif *.jpg *.jpeg)");
+        row("programs carry no extension", "Executable Files (*.exe;*.bat;)|*.exe;*.bat", true, false,
+            "Executable Files (*.exe *.bat)+All Files (*)");
+        row("files without the extension too", "Backup Files (*.abk)|*.abk", false, true,
+            "Backup Files (*.abk)+All Files (*)");
     }
 
-    void patternsAreSeparatedBySemicolons()
+    void aFilterBecomesNameFilters()
     {
+        QFETCH(const QString, filter);
+        QFETCH(const bool, executables);
+        QFETCH(const bool, anyName);
         FileDialogRequest request;
-        request.filter = QStringLiteral("Image Files (*.gif;*.jpg;*.jpeg)|*.gif;*.jpg;*.jpeg");
-        QCOMPARE(nameFilters(request), QStringList{QStringLiteral("Image Files (*.gif *.jpg *.jpeg)")});
-    }
-
-    void programsMayHaveAnyNameWhereTheyCarryNoExtension()
-    {
-        FileDialogRequest request;
-        request.filter = QStringLiteral("Executable Files (*.exe;*.bat;)|*.exe;*.bat");
-        request.executables = true;
-        QCOMPARE(nameFilters(request),
-            QStringList({QStringLiteral("Executable Files (*.exe *.bat)"), QStringLiteral("All Files (*)")}));
-    }
-
-    void filesWithoutTheExtensionOfTheFilterAreListedToo()
-    {
-        FileDialogRequest request;
-        request.filter = QStringLiteral("Backup Files (*.abk)|*.abk");
-        request.anyName = true;
-        QCOMPARE(nameFilters(request),
-            QStringList({QStringLiteral("Backup Files (*.abk)"), QStringLiteral("All Files (*)")}));
+        request.filter = filter;
+        request.executables = executables;
+        request.anyName = anyName;
+        QTEST(nameFilters(request).join(u'+'), "nameFilters");
     }
 
     void programsAreListedAtOnce()
