@@ -11,7 +11,9 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QImage>
 #include <QLocale>
+#include <QPainter>
 #include <algorithm>
 #include <memory>
 
@@ -24,9 +26,8 @@ QString count(int tasks)
 }
 
 /// What the program hands to the report's window.
-std::shared_ptr<const ReportContent> contentOf(int tasks)
+std::shared_ptr<const ReportContent> contentOf(const TaskFile& file)
 {
-    const TaskFile file({tasks});
     TestServices world;
     FormServices services{file.engine(), *file.engine().clock, world.services.messages,
         world.services.fileDialogs, world.services.errors, world.services.shell, world.services.checkerTimer,
@@ -50,6 +51,18 @@ void exportAll(
     const ReportLayout layout(content, printableArea(page));
     if (writePdf({file, QStringLiteral("Tasks Report"), page}, layout, allPages(layout), progress)) {
         qFatal("the report could not be exported");
+    }
+}
+
+void paintFirstPages(const std::shared_ptr<const ReportContent>& content)
+{
+    const ReportLayout layout(
+        content, printableArea(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, {})));
+    QImage page(800, 1130, QImage::Format_RGB32);
+    QPainter painter(&page);
+    painter.scale(page.width() / layout.page().width(), page.width() / layout.page().width());
+    for (int number = 0; number < qMin(3, layout.pageCount()); ++number) {
+        layout.paintPage(painter, number);
     }
 }
 
@@ -87,18 +100,23 @@ int main(int argc, char** argv)
     const QTemporaryDir folder;
     const QString file = folder.filePath(QStringLiteral("report.pdf"));
     const int tasks = bench.size(10'000, 20);
-    const auto content = contentOf(tasks);
+    const auto content = contentOf(TaskFile({tasks}));
     const auto medians = bench.alternate(
         5, [&] { exportAll(content, file); },
         [&] { paintTextsToPdf(*content, folder.filePath(QStringLiteral("limit.pdf"))); });
     bench.ratio(
         QStringLiteral("Report of %1 tasks to PDF; the same texts painted").arg(count(tasks)), medians, 1.2);
 
-    const auto few = contentOf(tasks / 10);
+    const auto few = contentOf(TaskFile({tasks / 10}));
     const auto grown = bench.alternateValues(
         5, [&] { return growth(content, file); }, [&] { return growth(few, file); });
     bench.value(QStringLiteral("Memory that an export of %1 tasks takes more than one of %2")
                     .arg(count(tasks), count(tasks / 10)),
         grown.ours - grown.reference, 1, QStringLiteral("MB"));
+
+    const TaskFile foreign({20});
+    foreign.nameWithoutEnd(1, bench.size(5'000'000, 50'000));
+    bench.value(QStringLiteral("A name of 10 MB: the report read and its first pages painted"),
+        bench.median(5, [&] { paintFirstPages(contentOf(foreign)); }), 200, QStringLiteral("ms"));
     return 0;
 }

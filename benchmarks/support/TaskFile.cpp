@@ -50,3 +50,11 @@ void TaskFile::run(const QString& sql) const
         throw std::runtime_error("the data file of the benchmark could not be filled: " + why);
     }
 }
+
+void TaskFile::nameWithoutEnd(int task, int letters) const
+{
+    // Arabic letters, which are shaped.
+    run(QStringLiteral("update tasks set task_name=replace(hex(zeroblob(%1)),'00','\u0628') where task_id=%2")
+            .arg(letters)
+            .arg(task));
+}

@@ -26,6 +26,8 @@ public:
     const DatabaseEngine& engine() const { return m_engine; }
     /// Runs plain SQL beside the program's connections.
     void run(const QString& sql) const;
+    /// Gives one task a name of that many letters, as another program may have written it.
+    void nameWithoutEnd(int task, int letters) const;
 
     static Moment now()
     {

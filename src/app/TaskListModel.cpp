@@ -1,6 +1,7 @@
 #include "app/TaskListModel.h"
 
 #include "data/TaskCodes.h"
+#include "platform/PlainText.h"
 #include "ui/MomentTexts.h"
 #include "ui/TaskPictures.h"
 
@@ -73,7 +74,7 @@ QString TaskListModel::cellText(int row, int field) const
     case Id:
         return QString::number(task.Id());
     case Name:
-        return task.TaskName();
+        return beginningOf(task.taskNameUtf8());
     case DueDate:
         return dateAndLongTime(task.DueDateTime());
     default:

@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 #include <QTextBoundaryFinder>
+#include <algorithm>
 
 namespace
 {
@@ -9,6 +10,7 @@ namespace
 constexpr qsizetype LongestRun = 40;
 constexpr qsizetype LongestCharacter = 64;
 constexpr qsizetype ToolTipCharacters = 2000;
+constexpr std::size_t LongestShown = 16'384; // bytes
 const QChar ZeroWidthSpace(0x200B);
 const QChar FirstStrongIsolate(0x2068);
 const QChar PopIsolate(0x2069);
@@ -58,6 +60,17 @@ QString inOwnDirection(const QString& text)
 QString shownPart(const QString& text, qsizetype characters)
 {
     return text.size() <= characters ? text : text.left(lengthOfPart(text, characters)) + Ellipsis;
+}
+
+QString beginningOf(std::string_view utf8)
+{
+    std::size_t length = std::min(utf8.size(), LongestShown);
+    // Never within the bytes of a character.
+    while (
+        length < utf8.size() && length > 0 && (static_cast<unsigned char>(utf8[length]) & 0xC0U) == 0x80U) {
+        --length;
+    }
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(length));
 }
 
 qsizetype lengthOfPart(const QString& text, qsizetype characters)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <string_view>
 
 // What a user or a file wrote, made fit to be shown: it is never taken for markup, and it can be broken into
 // lines.
@@ -16,6 +17,9 @@ QString inOwnDirection(const QString& text);
 /// What is looked at of `text` where it is shown: of a longer one about so many characters, never part of
 /// one, and an ellipsis. A text without end is to be neither measured nor shaped.
 QString shownPart(const QString& text, qsizetype characters = 1000);
+/// The beginning of a text in UTF-8, longer than any part of it that is shown: what nobody sees of a text
+/// without end is not to be converted.
+QString beginningOf(std::string_view utf8);
 /// The length of that part, at most `characters`.
 qsizetype lengthOfPart(const QString& text, qsizetype characters);
 /// A tool tip that shows `text` letter for letter, in lines; what is longer than anybody reads is cut.

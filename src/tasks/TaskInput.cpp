@@ -1,6 +1,6 @@
 #include "tasks/TaskInput.h"
 
-#include <QRegularExpression>
+#include <algorithm>
 
 namespace
 {
@@ -10,12 +10,19 @@ bool isBlank(const QString& text)
     return text.trimmed().isEmpty();
 }
 
+bool isLineBreak(QChar c)
+{
+    return (c >= u'\n' && c <= u'\r') || c == QChar(0x85) || c == QChar::LineSeparator
+        || c == QChar::ParagraphSeparator;
+}
+
 /// A name is one line, but a single-line edit keeps the line breaks that were pasted into it.
 QString nameOf(const QString& text)
 {
-    static const QRegularExpression LineBreak(
-        QStringLiteral("\\r\\n|[\\r\\n\\v\\f\\x{85}\\x{2028}\\x{2029}]"));
-    return QString(text).replace(LineBreak, QStringLiteral(" ")).trimmed();
+    QString line = text;
+    line.replace(QLatin1String("\r\n"), QLatin1String(" "));
+    std::replace_if(line.begin(), line.end(), isLineBreak, QChar(u' '));
+    return line.trimmed();
 }
 
 /// Without the blanks around it; tabs and line breaks belong to a description's text.
@@ -81,9 +88,7 @@ std::optional<Refusal> TaskInput::refusal(const std::optional<EditedTask>& edite
 ClsTask TaskInput::toTask(const DatabaseEngine& engine, const std::optional<EditedTask>& edited) const
 {
     ClsTask task(engine);
-    task.setTaskName(nameOf(taskName));
     task.setCategoryId(categoryId.value());
-    task.setDescription(descriptionOf(description));
     task.setStatus(status);
     task.setDueDateTime(due);
     task.setPeriority(periority);
@@ -95,6 +100,9 @@ ClsTask TaskInput::toTask(const DatabaseEngine& engine, const std::optional<Edit
     if (hasSound) {
         task.setReminderSound(sound);
     }
+    // The long ones last: the texts of a task share one buffer, which each of them makes anew.
+    task.setDescription(descriptionOf(description));
+    task.setTaskName(nameOf(taskName));
     if (edited) {
         task.setId(edited->id);
         task.setDateChanged(reminder != edited->reminder);

@@ -75,6 +75,22 @@ private slots:
         QCOMPARE(breakable(text), text);
     }
 
+    void theBeginningOfATextIsEnoughForWhatIsShown()
+    {
+        const std::string usual = "Caf\xC3\xA9";
+        QCOMPARE(beginningOf(usual), QString::fromUtf8(usual.c_str()));
+        QCOMPARE(beginningOf({}), QString());
+        for (const char* before : {"", "x", "xx", "xxx"}) {
+            const QString endless =
+                QLatin1String(before) + QString::fromUcs4(U"\U0001F600").repeated(1'000'000);
+            const QString beginning = beginningOf(endless.toStdString());
+            QVERIFY(endless.startsWith(beginning));
+            QVERIFY(beginning.size() < 20'000);
+            QCOMPARE(shownPart(beginning), shownPart(endless));
+            QCOMPARE(plainToolTip(beginning), plainToolTip(endless));
+        }
+    }
+
     void noCharacterIsTornApart()
     {
         const QString smileys = QString::fromUcs4(U"\U0001F600").repeated(100);
