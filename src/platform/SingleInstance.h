@@ -7,8 +7,8 @@ class LockFile;
 
 /// The guard against two copies of the program on one program folder. Held until released or until the
 /// process ends, however it ends. It is a lock that only the owner of the folder can take: on a private file
-/// beside data.dat, which goes with the guard; in a folder that cannot be written, where nothing ever takes
-/// data.dat's place, on data.dat itself.
+/// beside data.dat, which goes with the guard; in a folder that takes no new file, being read-only or full,
+/// on data.dat itself. (Once a full one has room again, a second copy does not see that.)
 class SingleInstance
 {
 public:
