@@ -819,7 +819,7 @@
     <name>Rest</name>
     <message>
         <source>Only the beginning is shown. The &quot;⋯&quot; stands for the rest.</source>
-        <translation>Seul le début est affiché. Le « ⋯ » représente la suite.</translation>
+        <translation>Seul le début est affiché. Le «&#xa0;⋯&#xa0;» représente la suite.</translation>
     </message>
 </context>
 <context>

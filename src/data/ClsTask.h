@@ -78,7 +78,11 @@ private:
     friend class TaskFields;
     enum Text : std::size_t { NameText, DescriptionText, SoundText, FileText, TextCount };
     QString filled(const QString& pattern) const;
-    void setText(Text which, const QString& value) { m_texts.set(which, value.toStdString()); }
+    void setText(Text which, const QString& value)
+    {
+        const QByteArray utf8 = value.toUtf8();
+        m_texts.set(which, {utf8.constData(), static_cast<std::size_t>(utf8.size())});
+    }
 
     const DatabaseEngine* m_engine;
     PackedTexts<TextCount> m_texts;

@@ -231,7 +231,8 @@ std::unique_ptr<Cursor> Session::start(const QString& statement)
 
 sqlite3_stmt* Session::prepare(const QString& statement)
 {
-    const std::string sql = translateDialect(statement.toStdString());
+    const QByteArray utf8 = statement.toUtf8();
+    const std::string sql = translateDialect({utf8.constData(), static_cast<std::size_t>(utf8.size())});
     if (sql.size() >= static_cast<std::size_t>(sqlite3_limit(m_database, SQLITE_LIMIT_SQL_LENGTH, -1))) {
         throw DatabaseError(Kind::Statement,
             tr("The statement is too long (%1 bytes): %2").arg(sql.size()).arg(shortened(statement)));
