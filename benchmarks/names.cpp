@@ -11,6 +11,7 @@ namespace
 {
 
 constexpr qint16 Endless = 1;
+const QString Name = QStringLiteral("A name of 10 MB: ");
 
 void paint(QWidget& window)
 {
@@ -46,11 +47,15 @@ int main(int argc, char** argv)
         paint(shown.program.mainWindow());
     });
     row(QStringLiteral("the task opened"), [&] { open(dialog); });
-    row(QStringLiteral("OK"), [&] {
+    const auto store = [&] {
         open(dialog);
+        const double before = cpuSeconds();
         dialog.findChild<QAbstractButton*>(QStringLiteral("btnOk"))->click();
         paint(shown.program.mainWindow());
-    });
+        return (cpuSeconds() - before) * 1000;
+    };
+    bench.value(Name + QStringLiteral("stored by OK"),
+        bench.alternateValues(9, store, [] { return 0.0; }).ours, 200, QStringLiteral("ms"));
     frmAlerts& alert = shown.program.alerts();
     row(QStringLiteral("the alert that lists it"), [&] {
         alert.forgetReminders();
