@@ -1,5 +1,4 @@
-# Writes the skin file OUTPUT from COLORS, ROLES and SHEET.
+# Writes the skin file OUTPUT from COLORS and ROLES.
 file(READ "${COLORS}" colors)
 file(READ "${ROLES}" roles)
-file(READ "${SHEET}" sheet)
-file(WRITE "${OUTPUT}" "/*\n${colors}${roles}*/\n\n${sheet}")
+file(WRITE "${OUTPUT}" "/*\n${colors}${roles}*/\n")

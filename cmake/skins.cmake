@@ -1,4 +1,4 @@
-# The shipped skins: colours of their own, palette roles and style sheet in common. A skin file stands for itself.
+# The shipped skins: colours of their own, palette roles in common. A skin file stands for itself.
 set(AMBERTASK_SKINS Aqua Classic Contrast Lemon Midnight)
 
 set(skin_sources "${PROJECT_SOURCE_DIR}/resources/skins")
@@ -9,8 +9,8 @@ foreach(skin IN LISTS AMBERTASK_SKINS)
     OUTPUT "${skin_file}"
     COMMAND
       "${CMAKE_COMMAND}" "-DCOLORS=${skin_sources}/${skin}.colors" "-DROLES=${skin_sources}/roles.txt"
-      "-DSHEET=${skin_sources}/sheet.qss" "-DOUTPUT=${skin_file}" -P "${CMAKE_CURRENT_LIST_DIR}/make_skin.cmake"
-    DEPENDS "${skin_sources}/${skin}.colors" "${skin_sources}/roles.txt" "${skin_sources}/sheet.qss"
+      "-DOUTPUT=${skin_file}" -P "${CMAKE_CURRENT_LIST_DIR}/make_skin.cmake"
+    DEPENDS "${skin_sources}/${skin}.colors" "${skin_sources}/roles.txt"
             "${CMAKE_CURRENT_LIST_DIR}/make_skin.cmake"
     COMMENT "Making the skin ${skin}"
     VERBATIM)

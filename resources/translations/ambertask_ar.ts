@@ -1173,53 +1173,6 @@
     </message>
 </context>
 <context>
-    <name>SkinSheet</name>
-    <message>
-        <source>unknown colour &quot;$%1&quot;</source>
-        <translation>لون غير معروف «$%1»</translation>
-    </message>
-    <message>
-        <source>a comment has no end</source>
-        <translation>تعليق بلا نهاية</translation>
-    </message>
-    <message>
-        <source>a text in quotes has no end</source>
-        <translation>نص بين علامتي اقتباس بلا نهاية</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is drawn by the program</source>
-        <translation>«%1» يرسمه البرنامج</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not allowed</source>
-        <translation>«%1» غير مسموح به</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot;: a skin is one file and holds no pictures</source>
-        <translation>«%1»: المظهر ملف واحد ولا يحتوي على صور</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; would take the arrow of a list or picker away</source>
-        <translation>«%1» سيزيل سهم قائمة أو حقل تاريخ</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no property with a value</source>
-        <translation>«%1» ليست خاصية ذات قيمة</translation>
-    </message>
-    <message>
-        <source>expected a rule</source>
-        <translation>المتوقع قاعدة</translation>
-    </message>
-    <message>
-        <source>a rule has no selector or no end</source>
-        <translation>قاعدة بلا محدِّد أو بلا نهاية</translation>
-    </message>
-    <message>
-        <source>more than %1 properties</source>
-        <translation>أكثر من %1 خاصية</translation>
-    </message>
-</context>
-<context>
     <name>Skins</name>
     <message>
         <source>The skin could not be used.

@@ -1145,53 +1145,6 @@ ein Fehler auf: %3.</translation>
     </message>
 </context>
 <context>
-    <name>SkinSheet</name>
-    <message>
-        <source>unknown colour &quot;$%1&quot;</source>
-        <translation>unbekannte Farbe „$%1“</translation>
-    </message>
-    <message>
-        <source>a comment has no end</source>
-        <translation>ein Kommentar hat kein Ende</translation>
-    </message>
-    <message>
-        <source>a text in quotes has no end</source>
-        <translation>ein Text in Anführungszeichen hat kein Ende</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is drawn by the program</source>
-        <translation>„%1“ wird vom Programm gezeichnet</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not allowed</source>
-        <translation>„%1“ ist nicht zulässig</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot;: a skin is one file and holds no pictures</source>
-        <translation>„%1“: Ein Skin ist eine einzige Datei und enthält keine Bilder</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; would take the arrow of a list or picker away</source>
-        <translation>„%1“ würde den Pfeil einer Liste oder eines Datumsfelds entfernen</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no property with a value</source>
-        <translation>„%1“ ist keine Eigenschaft mit einem Wert</translation>
-    </message>
-    <message>
-        <source>expected a rule</source>
-        <translation>eine Regel wird erwartet</translation>
-    </message>
-    <message>
-        <source>a rule has no selector or no end</source>
-        <translation>eine Regel hat keinen Selektor oder kein Ende</translation>
-    </message>
-    <message>
-        <source>more than %1 properties</source>
-        <translation>mehr als %1 Eigenschaften</translation>
-    </message>
-</context>
-<context>
     <name>Skins</name>
     <message>
         <source>The skin could not be used.

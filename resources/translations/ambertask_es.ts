@@ -1145,53 +1145,6 @@
     </message>
 </context>
 <context>
-    <name>SkinSheet</name>
-    <message>
-        <source>unknown colour &quot;$%1&quot;</source>
-        <translation>color «$%1» desconocido</translation>
-    </message>
-    <message>
-        <source>a comment has no end</source>
-        <translation>un comentario no tiene fin</translation>
-    </message>
-    <message>
-        <source>a text in quotes has no end</source>
-        <translation>un texto entre comillas no tiene fin</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is drawn by the program</source>
-        <translation>«%1» lo dibuja el programa</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not allowed</source>
-        <translation>«%1» no está permitido</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot;: a skin is one file and holds no pictures</source>
-        <translation>«%1»: un tema es un solo archivo y no contiene imágenes</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; would take the arrow of a list or picker away</source>
-        <translation>«%1» quitaría la flecha de una lista o de un selector</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no property with a value</source>
-        <translation>«%1» no es una propiedad con un valor</translation>
-    </message>
-    <message>
-        <source>expected a rule</source>
-        <translation>se esperaba una regla</translation>
-    </message>
-    <message>
-        <source>a rule has no selector or no end</source>
-        <translation>una regla no tiene selector o no tiene fin</translation>
-    </message>
-    <message>
-        <source>more than %1 properties</source>
-        <translation>más de %1 propiedades</translation>
-    </message>
-</context>
-<context>
     <name>Skins</name>
     <message>
         <source>The skin could not be used.

@@ -1145,53 +1145,6 @@
     </message>
 </context>
 <context>
-    <name>SkinSheet</name>
-    <message>
-        <source>unknown colour &quot;$%1&quot;</source>
-        <translation>couleur «&#xa0;$%1&#xa0;» inconnue</translation>
-    </message>
-    <message>
-        <source>a comment has no end</source>
-        <translation>un commentaire n’a pas de fin</translation>
-    </message>
-    <message>
-        <source>a text in quotes has no end</source>
-        <translation>un texte entre guillemets n’a pas de fin</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is drawn by the program</source>
-        <translation>«&#xa0;%1&#xa0;» est dessiné par le programme</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not allowed</source>
-        <translation>«&#xa0;%1&#xa0;» n’est pas autorisé</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot;: a skin is one file and holds no pictures</source>
-        <translation>«&#xa0;%1&#xa0;»&#xa0;: un thème est un seul fichier et ne contient pas d’images</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; would take the arrow of a list or picker away</source>
-        <translation>«&#xa0;%1&#xa0;» ferait disparaître la flèche d’une liste ou d’un sélecteur</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no property with a value</source>
-        <translation>«&#xa0;%1&#xa0;» n’est pas une propriété avec une valeur</translation>
-    </message>
-    <message>
-        <source>expected a rule</source>
-        <translation>une règle est attendue</translation>
-    </message>
-    <message>
-        <source>a rule has no selector or no end</source>
-        <translation>une règle n’a pas de sélecteur ou pas de fin</translation>
-    </message>
-    <message>
-        <source>more than %1 properties</source>
-        <translation>plus de %1 propriétés</translation>
-    </message>
-</context>
-<context>
     <name>Skins</name>
     <message>
         <source>The skin could not be used.

@@ -1138,53 +1138,6 @@
     </message>
 </context>
 <context>
-    <name>SkinSheet</name>
-    <message>
-        <source>unknown colour &quot;$%1&quot;</source>
-        <translation>未知的颜色“$%1”</translation>
-    </message>
-    <message>
-        <source>a comment has no end</source>
-        <translation>注释没有结束</translation>
-    </message>
-    <message>
-        <source>a text in quotes has no end</source>
-        <translation>引号中的文本没有结束</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is drawn by the program</source>
-        <translation>“%1”由程序绘制</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not allowed</source>
-        <translation>不允许使用“%1”</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot;: a skin is one file and holds no pictures</source>
-        <translation>“%1”：皮肤是单个文件，不含图片</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; would take the arrow of a list or picker away</source>
-        <translation>“%1”会去掉列表或日期选择框的箭头</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is no property with a value</source>
-        <translation>“%1”不是带值的属性</translation>
-    </message>
-    <message>
-        <source>expected a rule</source>
-        <translation>应为一条规则</translation>
-    </message>
-    <message>
-        <source>a rule has no selector or no end</source>
-        <translation>规则没有选择器或没有结束</translation>
-    </message>
-    <message>
-        <source>more than %1 properties</source>
-        <translation>超过 %1 个属性</translation>
-    </message>
-</context>
-<context>
     <name>Skins</name>
     <message>
         <source>The skin could not be used.

@@ -28,7 +28,7 @@ void FlashBand::setInverted(bool inverted)
     }
 }
 
-// A skin's rules for labels would win over colour roles, and the inversion would not be seen.
+// A style sheet's rules for labels would win over colour roles, and the inversion would not be seen.
 void FlashBand::paintEvent(QPaintEvent*)
 {
     QColor paper = palette().color(QPalette::Highlight);

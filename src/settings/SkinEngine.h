@@ -2,9 +2,6 @@
 
 #include "settings/SkinFile.h"
 
-#include <QHash>
-#include <filesystem>
-
 /// Draws all windows of the application in the colours and shapes of a skin. One instance in a program.
 class SkinEngine
 {
@@ -12,8 +9,8 @@ public:
     /// Gives the application the style that draws indicators and fields in the colours of the palette.
     SkinEngine();
 
-    /// What the skin file at `path` says of itself. Throws SkinError for a file that could not be worn.
-    SkinInfo skinInfo(const QString& path);
+    /// The name of the skin in the file at `path`. Throws SkinError for a file that does not say it.
+    static QString skinName(const QString& path);
     /// Loads the skin file at `path`; it is not worn yet. Throws SkinError; then the skin loaded before
     /// stays.
     void loadSkinFile(const QString& path);
@@ -21,17 +18,6 @@ public:
     void applySkin();
 
 private:
-    struct ReadSkin {
-        std::filesystem::file_time_type changed;
-        qint64 size;
-        SkinFile skin;
-    };
-
-    /// A file is read anew only when it has changed: the list of skins and the skin in use come from the same
-    /// few.
-    const SkinFile& read(const QString& path);
-
-    QHash<QString, ReadSkin> m_read;
     SkinFile m_loaded;
     QPalette m_appliedPalette;
 };

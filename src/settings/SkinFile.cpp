@@ -1,7 +1,6 @@
 #include "settings/SkinFile.h"
 
 #include "settings/SkinHeader.h"
-#include "settings/SkinSheet.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -12,8 +11,32 @@ namespace
 
 constexpr qint64 LargestFile = qint64{1024} * 1024;
 
+QByteArray contentOf(const QString& path)
+{
+    const QFileInfo info(path);
+    const QString fileName = info.fileName();
+    if (!info.exists()) {
+        throw SkinError(SkinFile::tr("%1: the file does not exist").arg(fileName));
+    }
+    if (!info.isFile()) {
+        throw SkinError(SkinFile::tr("%1: it is not a file").arg(fileName));
+    }
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        throw SkinError(SkinFile::tr("%1: %2").arg(fileName, file.errorString()));
+    }
+    QByteArray content = file.read(LargestFile + 1);
+    if (file.error() != QFileDevice::NoError) {
+        throw SkinError(SkinFile::tr("%1: %2").arg(fileName, file.errorString()));
+    }
+    return content;
+}
+
 QString decoded(const QByteArray& content, const QString& fileName)
 {
+    if (content.size() > LargestFile) {
+        throw SkinError(SkinFile::tr("%1: the file is larger than 1 MiB").arg(fileName));
+    }
     // Stateless: a letter that is cut off at the end is an error, too.
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     QString text = decoder(content);
@@ -23,40 +46,30 @@ QString decoded(const QByteArray& content, const QString& fileName)
     return text;
 }
 
+SkinHeader headerIn(const QByteArray& content, const QString& fileName, SkinHeader::Part part)
+{
+    const QString text = decoded(content, fileName);
+    try {
+        return SkinHeader::parse(text, part);
+    } catch (const SkinLineError& error) {
+        throw SkinError(SkinFile::tr("%1, line %2: %3").arg(fileName).arg(error.line()).arg(error.text()));
+    }
+}
+
 } // namespace
 
 SkinFile SkinFile::read(const QString& path)
 {
-    const QFileInfo info(path);
-    const QString fileName = info.fileName();
-    if (!info.exists()) {
-        throw SkinError(tr("%1: the file does not exist").arg(fileName));
-    }
-    if (!info.isFile()) {
-        throw SkinError(tr("%1: it is not a file").arg(fileName));
-    }
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        throw SkinError(tr("%1: %2").arg(fileName, file.errorString()));
-    }
-    const QByteArray content = file.read(LargestFile + 1);
-    if (file.error() != QFileDevice::NoError) {
-        throw SkinError(tr("%1: %2").arg(fileName, file.errorString()));
-    }
-    return parse(content, fileName);
+    return parse(contentOf(path), QFileInfo(path).fileName());
 }
 
 SkinFile SkinFile::parse(const QByteArray& content, const QString& fileName)
 {
-    if (content.size() > LargestFile) {
-        throw SkinError(tr("%1: the file is larger than 1 MiB").arg(fileName));
-    }
-    const QString text = decoded(content, fileName);
-    try {
-        const SkinHeader header = SkinHeader::parse(text);
-        return {header.info(), header.palette(),
-            expandedSheet(QStringView(text).mid(header.end()), header.endLine(), header.colors())};
-    } catch (const SkinLineError& error) {
-        throw SkinError(tr("%1, line %2: %3").arg(fileName).arg(error.line()).arg(error.text()));
-    }
+    const SkinHeader header = headerIn(content, fileName, SkinHeader::Part::All);
+    return {header.name(), header.palette(), header.colors()};
+}
+
+QString SkinFile::nameIn(const QString& path)
+{
+    return headerIn(contentOf(path), QFileInfo(path).fileName(), SkinHeader::Part::NameAlone).name();
 }

@@ -3,6 +3,7 @@
 #include "platform/RuntimeError.h"
 
 #include <QCoreApplication>
+#include <QHash>
 #include <QPalette>
 #include <QString>
 
@@ -14,26 +15,21 @@ public:
     using RuntimeError::RuntimeError;
 };
 
-/// What a skin says of itself.
-struct SkinInfo {
-    QString name;
-    QString version;
-    QString author;
-    QString description;
-};
-
 /// The content of a skin file, checked; docs/skins.md describes the format.
 struct SkinFile {
     Q_DECLARE_TR_FUNCTIONS(SkinFile)
 
 public:
-    SkinInfo info;
+    QString name;
+    /// Roles that the skin leaves out have the colours of a plain light grey look.
     QPalette palette;
-    /// The style sheet, its tokens replaced by colours.
-    QString styleSheet;
+    /// By token.
+    QHash<QString, QColor> colors;
 
     /// Reads the skin file at `path`. Throws SkinError.
     static SkinFile read(const QString& path);
     /// The skin that `content` holds; `fileName` is for errors. Throws SkinError.
     static SkinFile parse(const QByteArray& content, const QString& fileName);
+    /// The name of the skin in the file at `path`. What stands behind it is not looked at. Throws SkinError.
+    static QString nameIn(const QString& path);
 };

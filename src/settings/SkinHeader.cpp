@@ -83,7 +83,7 @@ bool couldBeFileName(const QString& name)
 
 } // namespace
 
-SkinHeader SkinHeader::parse(QStringView text)
+SkinHeader SkinHeader::parse(QStringView text, Part part)
 {
     if (!text.startsWith(u"/*")) {
         throw SkinLineError(1, tr("the file does not begin with a comment block"));
@@ -96,9 +96,10 @@ SkinHeader SkinHeader::parse(QStringView text)
     int number = 0;
     for (const QStringView line : text.mid(2, close - 2).split(u'\n')) {
         header.takeLine(line.trimmed(), ++number);
+        if (part == Part::NameAlone && !header.name().isEmpty()) {
+            return header;
+        }
     }
-    header.m_end = close + 2;
-    header.m_endLine = number;
     header.check();
     return header;
 }
@@ -114,17 +115,9 @@ void SkinHeader::takeLine(QStringView line, int number)
     }
     const QStringView keyword = line.first(length);
     const QStringView value = line.mid(length).trimmed();
-    if (keyword == u"@name") {
-        takeText(m_info.name, keyword, value, number);
-        if (!couldBeFileName(m_info.name)) {
-            throw SkinLineError(number, tr("\"%1\" could not be the name of a file").arg(value));
-        }
-    } else if (keyword == u"@version") {
-        takeText(m_info.version, keyword, value, number);
-    } else if (keyword == u"@author") {
-        takeText(m_info.author, keyword, value, number);
-    } else if (keyword == u"@description") {
-        takeText(m_info.description, keyword, value, number);
+    if (keyword == u"@name" || keyword == u"@version" || keyword == u"@author"
+        || keyword == u"@description") {
+        takeText(keyword, value, number);
     } else if (keyword == u"@color") {
         takeColor(value, number);
     } else if (keyword == u"@palette" || keyword == u"@disabled") {
@@ -134,15 +127,18 @@ void SkinHeader::takeLine(QStringView line, int number)
     }
 }
 
-void SkinHeader::takeText(QString& field, QStringView keyword, QStringView value, int number)
+void SkinHeader::takeText(QStringView keyword, QStringView value, int number)
 {
-    if (!field.isEmpty()) {
+    if (m_texts.contains(keyword.toString())) {
         throw SkinLineError(number, tr("a second \"%1\"").arg(keyword));
     }
     if (value.isEmpty()) {
         throw SkinLineError(number, tr("\"%1\" says nothing").arg(keyword));
     }
-    field = value.toString();
+    m_texts.insert(keyword.toString(), value.toString());
+    if (keyword == u"@name" && !couldBeFileName(name())) {
+        throw SkinLineError(number, tr("\"%1\" could not be the name of a file").arg(value));
+    }
 }
 
 void SkinHeader::takeColor(QStringView value, int number)
@@ -176,7 +172,7 @@ void SkinHeader::takeRole(bool disabled, QStringView value, int number)
 
 void SkinHeader::check() const
 {
-    if (m_info.name.isEmpty()) {
+    if (name().isEmpty()) {
         throw SkinLineError(1, tr("the comment block has no \"@name\""));
     }
     for (const RoleLine& line : m_roles) {

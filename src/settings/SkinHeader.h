@@ -1,9 +1,11 @@
 #pragma once
 
-#include "settings/SkinFile.h"
+#include "platform/RuntimeError.h"
 
 #include <QColor>
+#include <QCoreApplication>
 #include <QHash>
+#include <QPalette>
 
 /// A fault in a line of a skin file, counted from 1.
 class SkinLineError : public RuntimeError
@@ -16,25 +18,23 @@ private:
     int m_line;
 };
 
-/// The colours of a skin by token.
-using SkinColors = QHash<QString, QColor>;
-
-/// The leading comment block of a skin file: what the skin says of itself, its colours and its palette.
+/// The leading comment block of a skin file: the skin's name, its colours and its palette.
 class SkinHeader
 {
     Q_DECLARE_TR_FUNCTIONS(SkinHeader)
 
 public:
-    /// Reads the comment block at the start of `text`. Throws SkinLineError.
-    static SkinHeader parse(QStringView text);
+    enum class Part { All, NameAlone };
 
-    const SkinInfo& info() const { return m_info; }
-    const SkinColors& colors() const { return m_colors; }
+    /// Reads the comment block at the start of `text`, or no more of it than the name takes. Throws
+    /// SkinLineError.
+    static SkinHeader parse(QStringView text, Part part);
+
+    QString name() const { return m_texts.value(QStringLiteral("@name")); }
+    /// By token.
+    const QHash<QString, QColor>& colors() const { return m_colors; }
     /// Roles that the skin leaves out have the colours of a plain light grey look.
     QPalette palette() const;
-    /// Where the comment block ends, and the number of that line.
-    qsizetype end() const { return m_end; }
-    int endLine() const { return m_endLine; }
 
 private:
     /// A line "@palette Role $token" or "@disabled Role $token".
@@ -46,14 +46,13 @@ private:
     };
 
     void takeLine(QStringView line, int number);
-    void takeText(QString& field, QStringView keyword, QStringView value, int number);
+    void takeText(QStringView keyword, QStringView value, int number);
     void takeColor(QStringView value, int number);
     void takeRole(bool disabled, QStringView value, int number);
     void check() const;
 
-    SkinInfo m_info;
-    SkinColors m_colors;
+    /// By keyword.
+    QHash<QString, QString> m_texts;
+    QHash<QString, QColor> m_colors;
     QList<RoleLine> m_roles;
-    qsizetype m_end = 0;
-    int m_endLine = 1;
 };

@@ -1,9 +1,7 @@
 #pragma once
 
-#include "settings/SkinHeader.h"
+class QString;
+struct SkinFile;
 
-/// The style sheet `sheet`, whose first line has the number `firstLine`, with its "$token"s replaced by
-/// colours. Refuses what the program cannot vouch for: an unclosed comment, string or rule, at-rules,
-/// pictures and other files, properties set on controls, and every rule by which a check mark, a radio dot or
-/// an arrow would vanish. Throws SkinLineError.
-QString expandedSheet(QStringView sheet, int firstLine, const SkinColors& colors);
+/// The style sheet of the program in the colours of `skin`, for letters of the application's font.
+QString skinSheet(const SkinFile& skin);

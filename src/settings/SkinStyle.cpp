@@ -3,7 +3,6 @@
 #include "platform/LetterScale.h"
 #include "platform/PlainText.h"
 #include "settings/JoinedText.h"
-#include "settings/SheetTraces.h"
 #include "settings/SkinPainting.h"
 #include "settings/SkinPictures.h"
 #include "settings/SkinProgress.h"
@@ -373,7 +372,6 @@ QIcon SkinStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, c
 void SkinStyle::polish(QWidget* widget)
 {
     QProxyStyle::polish(widget);
-    noteOwnSizes(*widget);
     if (auto* calendar = qobject_cast<QCalendarWidget*>(widget)) {
         // The calendar's own red is not readable on every ground.
         calendar->setWeekdayTextFormat(Qt::Saturday, {});
@@ -391,10 +389,4 @@ void SkinStyle::polish(QApplication* application)
         application->setStyleSheet(look->sheet);
         QApplication::setPalette(look->palette);
     }
-}
-
-void SkinStyle::unpolish(QWidget* widget)
-{
-    QProxyStyle::unpolish(widget);
-    removeSheetTraces(*widget);
 }

@@ -56,8 +56,6 @@ public:
     using QProxyStyle::polish;
     void polish(QWidget* widget) override;
     void polish(QApplication* application) override;
-    using QProxyStyle::unpolish;
-    void unpolish(QWidget* widget) override;
 
 private:
     void drawBusyBar(const QStyleOptionProgressBar& bar, QPainter& to, const QWidget* widget) const;

@@ -48,9 +48,9 @@ QStringList Skins::names()
     QStringList names;
     for (QDirIterator files = skinFiles(m_folder); files.hasNext();) {
         try {
-            names.append(engine().skinInfo(files.next()).name);
+            names.append(SkinEngine::skinName(files.next()));
         } catch (const SkinError&) {
-            // Not a skin that could be worn.
+            // Not a skin.
         }
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     }
@@ -69,7 +69,7 @@ QString Skins::otherFileOf(const QString& name)
 {
     for (QDirIterator files = skinFiles(m_folder); files.hasNext();) {
         try {
-            if (engine().skinInfo(files.next()).name == name) {
+            if (SkinEngine::skinName(files.next()) == name) {
                 return files.fileName();
             }
         } catch (const SkinError&) {
@@ -118,7 +118,7 @@ bool Skins::wear(const QString& name, Asked asked)
 
 QString Skins::add(const QString& file) const
 {
-    QString skin = SkinFile::read(file).info.name;
+    QString skin = SkinFile::read(file).name;
     QString name = file.section(u'/', -1);
     // The folder is searched for this ending, on a file system that minds small letters, too.
     if (name.endsWith(Ending, Qt::CaseInsensitive)) {

@@ -36,6 +36,5 @@ inline QByteArray contentOf(const QString& path)
 /// A small skin whose windows have that colour.
 inline QByteArray plainSkin(const QByteArray& name, const QByteArray& window = "#336699")
 {
-    return "/*\n@name " + name + "\n@color window " + window + "\n@palette Window $window\n*/\n"
-        + "QPushButton { color: $window; }\n";
+    return "/*\n@name " + name + "\n@color window " + window + "\n@palette Window $window\n*/\n";
 }

@@ -1,4 +1,5 @@
 #include "settings/SkinFolder.h"
+#include "settings/SkinSheet.h"
 #include "settings/Skins.h"
 #include "support/CaughtError.h"
 #include "support/ScriptedDialogs.h"
@@ -6,6 +7,9 @@
 
 #include <QApplication>
 #include <QMenu>
+#include <QMetaEnum>
+#include <QRegularExpression>
+#include <QSet>
 #include <QTemporaryDir>
 #include <QWidget>
 
@@ -75,6 +79,7 @@ class TestSkins : public TestCase
 private slots:
     void aSkinIsFoundByItsFileName();
     void wearingSetsPaletteAndSheetOfTheApplication();
+    void theSheetTakesColoursOfTheSkinAndOfRoles();
     void anUnreadableSkinLeavesTheLook();
     void wearingTheSameSkinAgainPolishesNothing();
     void anUnreadableSkinIsReportedOnceTheWindowIsOnTheScreen();
@@ -103,7 +108,31 @@ void TestSkins::wearingSetsPaletteAndSheetOfTheApplication()
     SkinsUnderTest test;
     QVERIFY(test.skins.wear(QStringLiteral("Good")));
     QCOMPARE(test.color(), QColor(1, 2, 3));
-    QVERIFY(qApp->styleSheet().trimmed().endsWith(QStringLiteral("\nQPushButton { color: #010203; }")));
+    QVERIFY(qApp->styleSheet().contains(QStringLiteral("background-color: #010203;")));
+}
+
+void TestSkins::theSheetTakesColoursOfTheSkinAndOfRoles()
+{
+    QByteArray roles = "/*\n@name X\n@color ink #123456\n";
+    for (int role = 0; role < QPalette::NColorRoles; ++role) {
+        const char* name = QMetaEnum::fromType<QPalette::ColorRole>().valueToKey(role);
+        roles += role == QPalette::NoRole ? QByteArray() : QByteArray("@palette ") + name + " $ink\n";
+    }
+    const auto coloursOf = [](const QByteArray& skin) {
+        static const QRegularExpression colour(QStringLiteral("#[0-9a-f]{6}"));
+        QStringList colours;
+        const QString sheet = skinSheet(SkinFile::parse(skin, {}));
+        for (auto found = colour.globalMatch(sheet); found.hasNext();) {
+            colours.append(found.next().captured());
+        }
+        return colours;
+    };
+    const QStringList ofRoles = coloursOf(roles + "*/");
+    QCOMPARE(QSet<QString>(ofRoles.begin(), ofRoles.end()), QSet<QString>({QStringLiteral("#123456")}));
+    const QStringList withOwn = coloursOf(roles + "@color selection #abcdef\n@color window #fedcba\n*/");
+    QCOMPARE(withOwn.size(), ofRoles.size());
+    QCOMPARE(withOwn.count(QStringLiteral("#abcdef")), 3);
+    QCOMPARE(withOwn.count(QStringLiteral("#fedcba")), 0);
 }
 
 void TestSkins::anUnreadableSkinLeavesTheLook()
