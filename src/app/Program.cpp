@@ -175,6 +175,8 @@ void Program::loadDialogs()
     errors.guard([this] { taskDetails(); });
     errors.guard([this] { categoryDetails(); });
     errors.guard([this] { alerts(); });
+    // Pending messages run between the files, and may open boxes.
+    m_main->settingsPage()->completeSkinsList();
     for (const QString& text : errors.texts()) {
         if (!m_ending) {
             m_machine.errors.report(text);

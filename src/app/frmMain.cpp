@@ -167,7 +167,7 @@ void frmMain::fillPages()
 {
     LoadCategories();
     m_pages.tasks->fillFilters();
-    m_pages.settings->LoadSkinsList();
+    m_pages.settings->startSkinsList();
     m_pages.settings->LoadSettingsPage();
     // Selecting the date option builds the list; nothing runs in between that could change it before the next
     // step of a load, which would build it again.

@@ -92,6 +92,7 @@ public:
 
     TasksPage* tasksPage() const { return m_pages.tasks; }
     CategoriesPage* categoriesPage() const { return m_pages.categories; }
+    SettingsPage* settingsPage() const { return m_pages.settings; }
 
 signals:
     /// The window, painted before, has become the active one.

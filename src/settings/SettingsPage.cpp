@@ -23,6 +23,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
+#include <utility>
 
 SettingsPage::SettingsPage(const FormServices& services, SettingsRecord& record, Registry& registry,
     Skins& skins, SettingsPageHost& host, QWidget* parent)
@@ -151,6 +152,25 @@ void SettingsPage::LoadSkinsList()
     m_cmbSkins->setCurrentIndex(names.isEmpty() ? -1 : 0);
 }
 
+void SettingsPage::startSkinsList()
+{
+    m_listIsOwed = m_skins.isLoaded(m_record.skin);
+    if (m_listIsOwed) {
+        m_cmbSkins->clear();
+        m_cmbSkins->addItem(m_record.skin);
+    } else {
+        LoadSkinsList();
+    }
+}
+
+void SettingsPage::completeSkinsList()
+{
+    if (std::exchange(m_listIsOwed, false)) {
+        LoadSkinsList();
+        selectSkin();
+    }
+}
+
 void SettingsPage::LoadSettingsPage()
 {
     m_chkOnTop->setChecked(m_record.always_on_top);
@@ -164,6 +184,11 @@ void SettingsPage::LoadSettingsPage()
     m_chkShowTodayTasksOnStart->setChecked(m_record.show_today_tasks);
     m_chkShowGrid->setChecked(m_record.show_grid);
     m_chkShowBallon->setChecked(m_record.show_ballon_icon);
+    selectSkin();
+}
+
+void SettingsPage::selectSkin()
+{
     for (int i = 0; i < m_cmbSkins->count(); ++i) {
         if (m_cmbSkins->itemText(i) == m_record.skin) {
             m_cmbSkins->setCurrentIndex(i);

@@ -28,6 +28,10 @@ public:
 
     /// Fills the list of skins from the folder and selects the first.
     void LoadSkinsList();
+    /// The same at a start. While the stored skin is the one that is loaded, the list holds it alone until
+    /// `completeSkinsList`: nobody sees the others before the first painting.
+    void startSkinsList();
+    void completeSkinsList();
     /// Copies the record into the controls.
     void LoadSettingsPage();
     /// Stores what the page shows and lets it take effect. Throws DatabaseError.
@@ -61,6 +65,7 @@ private:
     void btnBrowseNewSkin_Click();
     void lblDownloadSkins_Click();
 
+    void selectSkin();
     SettingsRecord shownSettings() const;
     void updateRunEntry() const;
 
@@ -71,6 +76,7 @@ private:
     SettingsPageHost& m_host;
     /// Another skin was chosen, or the list was rebuilt, and what it shows was not saved yet.
     bool m_skinChanged = false;
+    bool m_listIsOwed = false;
 
     QCheckBox* m_chkShowGrid = nullptr;
     QCheckBox* m_chkShowTodayTasksOnStart = nullptr;

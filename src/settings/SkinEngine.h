@@ -14,6 +14,8 @@ public:
     /// Loads the skin file at `path`; it is not worn yet. Throws SkinError; then the skin loaded before
     /// stays.
     void loadSkinFile(const QString& path);
+    /// The name of the skin that was loaded last; empty for none.
+    const QString& loadedName() const { return m_loaded.name; }
     /// The application's windows, present and future, wear the loaded skin. Cheap when they wear it already.
     void applySkin();
 

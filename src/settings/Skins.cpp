@@ -102,6 +102,11 @@ bool Skins::load(const QString& name, Asked asked)
     return true;
 }
 
+bool Skins::isLoaded(const QString& name) const
+{
+    return m_engine != nullptr && !name.isEmpty() && m_engine->loadedName() == name;
+}
+
 void Skins::apply()
 {
     engine().applySkin();

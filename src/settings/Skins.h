@@ -29,6 +29,8 @@ public:
     enum class Asked { AtStart, ByUser };
     /// Loads the skin of that name without applying it. False when it cannot be; what `wear` says holds.
     bool load(const QString& name, Asked asked);
+    /// Whether the skin that was loaded last has that name, and so is on the list.
+    bool isLoaded(const QString& name) const;
     /// All windows wear the skin that was loaded last.
     void apply();
     /// Loads and applies the skin of that name. False when it cannot be: the look stays as it was, and the

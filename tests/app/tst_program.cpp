@@ -4,9 +4,11 @@
 #include "reminders/frmAlerts.h"
 #include "support/ClosedWindow.h"
 #include "support/TestMain.h"
+#include "support/TestPictures.h"
 #include "tasks/frmTaskDetails.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QContextMenuEvent>
 #include <QDateEdit>
 #include <QLabel>
@@ -211,12 +213,27 @@ private slots:
     void aRequestToEndWhileTheProgramStartsIsKept()
     {
         ProgramFixture f;
-        // Arrives while the list of skins is filled, before there is an event loop to leave.
+        // Arrives while the list of skins is filled, which a skin that is gone makes do at once, before there
+        // is an event loop to leave.
+        f.database.sql(QStringLiteral("update settings set skin='Gone'"));
         QMetaObject::invokeMethod(&f.program, &Program::end, Qt::QueuedConnection);
         QVERIFY(!f.program.isEnding());
         f.start();
         QVERIFY(f.program.isEnding());
         QVERIFY(!f.main().isVisible());
+    }
+
+    void theSkinsAreListedWhenTheDialogsAreLoaded()
+    {
+        ProgramFixture f;
+        writeFile(f.database.folder(), QStringLiteral("Skins/Other.skf"), "/*\n@name Other\n*/");
+        f.start();
+        auto* list = f.control<QComboBox>(f.main(), "cmbSkins");
+        QCOMPARE(list->count(), 1);
+        QCOMPARE(list->currentText(), QStringLiteral("Aqua"));
+        f.program.loadDialogs();
+        QCOMPARE(list->count(), 2);
+        QCOMPARE(list->currentText(), QStringLiteral("Aqua"));
     }
 
     void theAlertIsThereEvenWhenTheDialogsCannotBeLoaded()

@@ -36,6 +36,9 @@ private slots:
     void unreadableFilesAreLeftOut();
     void aFolderWithoutSkinsLeavesTheListEmpty();
     void pendingEventsRunWhileTheListIsRead();
+    void atAStartTheListHoldsWhatIsWornAndTheOthersLater();
+    void atAStartWithoutTheStoredSkinTheListIsReadAtOnce();
+    void aFaultBehindTheNameIsToldToWhoChoosesIt();
 
     void anotherSkinIsWornOnlyWhenItIsSaved();
     void anUnchangedSkinIsNotLoadedBySaving();
@@ -113,6 +116,54 @@ void TestSettingsSkins::pendingEventsRunWhileTheListIsRead()
     QTimer::singleShot(0, &test.page, [&] { entriesSeen = test.cmbSkins()->count(); });
     test.page.LoadSkinsList();
     QCOMPARE(entriesSeen, 3);
+}
+
+void TestSettingsSkins::atAStartTheListHoldsWhatIsWornAndTheOthersLater()
+{
+    SettingsPageUnderTest test;
+    test.record.skin = QStringLiteral("Lemon");
+    QVERIFY(test.skins.load(QStringLiteral("Lemon"), Skins::Asked::AtStart));
+    test.page.startSkinsList();
+    test.page.LoadSettingsPage();
+    QCOMPARE(test.cmbSkins()->count(), 1);
+    QCOMPARE(test.cmbSkins()->currentText(), QStringLiteral("Lemon"));
+    test.page.completeSkinsList();
+    QCOMPARE(test.cmbSkins()->count(), 3);
+    QCOMPARE(test.cmbSkins()->currentText(), QStringLiteral("Lemon"));
+    // Once: later the selection is the user's.
+    test.cmbSkins()->setCurrentText(QStringLiteral("Classic"));
+    test.page.completeSkinsList();
+    QCOMPARE(test.cmbSkins()->currentText(), QStringLiteral("Classic"));
+}
+
+void TestSettingsSkins::atAStartWithoutTheStoredSkinTheListIsReadAtOnce()
+{
+    SettingsPageUnderTest test;
+    for (const char* skin : {"Gone", "Elsewhere", ""}) {
+        test.record.skin = QLatin1String(skin);
+        // Of another name than its file, so it is not on the list.
+        writeText(test.folderOfSkins() + QStringLiteral("/Elsewhere.skf"), plainSkin("Another"));
+        test.skins.load(test.record.skin, Skins::Asked::AtStart);
+        test.page.startSkinsList();
+        test.page.LoadSettingsPage();
+        QCOMPARE(test.cmbSkins()->count(), 4);
+        QCOMPARE(test.cmbSkins()->currentIndex(), 0);
+    }
+}
+
+void TestSettingsSkins::aFaultBehindTheNameIsToldToWhoChoosesIt()
+{
+    SettingsPageUnderTest test;
+    writeText(test.folderOfSkins() + QStringLiteral("/Faulty.skf"), "/*\n@name Faulty\n@colour ink\n*/");
+    test.skins.reportOn(&test.page);
+    test.page.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&test.page));
+    test.page.LoadSkinsList();
+    test.dialogs.expectTell(MessageBoxes::Icon::Exclamation,
+        QStringLiteral("The skin could not be used.\nFaulty.skf, line 3: unknown keyword \"@colour\""));
+    test.choose(QStringLiteral("Faulty"));
+    test.press("btnSave");
+    QVERIFY(QTest::qWaitFor([&] { return test.dialogs.allUsed(); }));
 }
 
 void TestSettingsSkins::anotherSkinIsWornOnlyWhenItIsSaved()
