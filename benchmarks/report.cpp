@@ -31,9 +31,7 @@ std::shared_ptr<const ReportContent> contentOf(const TaskFile& file)
     TestServices world;
     FormServices services{file.engine(), *file.engine().clock, world.services.messages,
         world.services.fileDialogs, world.services.errors, world.services.shell, world.services.checkerTimer,
-        world.images, world.services.longWork, [] {
-            return false;
-        }};
+        world.images, world.services.longWork, [] { return false; }, world.files};
     RecordedReportWindow* window = nullptr;
     drTasks report(services, [&window](ReportHost&) {
         auto made = std::make_unique<RecordedReportWindow>();

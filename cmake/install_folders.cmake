@@ -4,9 +4,9 @@ if(UNIX AND NOT APPLE)
   include(GNUInstallDirs)
   # Debian asks for the name of the package, which has no capital letters.
   set(AMBERTASK_INSTALL_DOC_FOLDER "${CMAKE_INSTALL_DATAROOTDIR}/doc/ambertask")
-  set(AMBERTASK_INSTALL_TEMPLATE_FOLDER "${CMAKE_INSTALL_DATADIR}/ambertask")
+  set(AMBERTASK_INSTALL_SHIPPED_FOLDER "${CMAKE_INSTALL_DATADIR}/ambertask")
   # A running copy must not load the modules of the version that has replaced it.
   set(AMBERTASK_INSTALL_MODULE_FOLDER "${CMAKE_INSTALL_LIBDIR}/ambertask/${PROJECT_VERSION}")
-  set(AMBERTASK_INSTALL_FULL_TEMPLATE_FOLDER "${CMAKE_INSTALL_FULL_DATADIR}/ambertask")
+  set(AMBERTASK_INSTALL_FULL_SHIPPED_FOLDER "${CMAKE_INSTALL_FULL_DATADIR}/ambertask")
   set(AMBERTASK_INSTALL_FULL_MODULE_FOLDER "${CMAKE_INSTALL_FULL_LIBDIR}/ambertask/${PROJECT_VERSION}")
 endif()

@@ -21,25 +21,7 @@ ambertask_data_file("${PROJECT_SOURCE_DIR}/src/data/schema.sql" "${AMBERTASK_SHI
 add_custom_target(shipped_data_file DEPENDS "${AMBERTASK_SHIPPED_DATA_FILE}")
 
 # ambertask_ship(<file>...)
-# Files of the program folder, named by their paths in it, that are shipped: into packages, and into the program folders
-# that an installed program makes and keeps up to date.
+# Files of the program folder, named by their paths in it, that are shipped in packages.
 function(ambertask_ship)
   set_property(GLOBAL APPEND PROPERTY AMBERTASK_SHIPPED_FILES ${ARGN})
-endfunction()
-
-# ambertask_shipped_list(<output>)
-# The list of these files with their sums, by which an installed program tells versions and the user's own files apart.
-# After the last ambertask_ship.
-function(ambertask_shipped_list output)
-  get_property(files GLOBAL PROPERTY AMBERTASK_SHIPPED_FILES)
-  list(SORT files)
-  list(TRANSFORM files PREPEND "${AMBERTASK_PROGRAM_FOLDER}/" OUTPUT_VARIABLE paths)
-  set(script "${PROJECT_SOURCE_DIR}/cmake/make_shipped_list.cmake")
-  add_custom_command(
-    OUTPUT "${output}"
-    COMMAND "${CMAKE_COMMAND}" "-DFOLDER=${AMBERTASK_PROGRAM_FOLDER}" "-DFILES=${files}" "-DOUTPUT=${output}" -P
-            "${script}"
-    DEPENDS ${paths} "${script}"
-    COMMENT "Listing what is shipped"
-    VERBATIM)
 endfunction()

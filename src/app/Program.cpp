@@ -11,7 +11,6 @@
 #include "platform/ErrorReport.h"
 #include "platform/GridView.h"
 #include "platform/MessageBoxes.h"
-#include "platform/ProgramFolder.h"
 #include "platform/Registry.h"
 #include "platform/WindowPlacement.h"
 #include "reminders/frmAlerts.h"
@@ -50,14 +49,11 @@ private:
 } // namespace
 
 Program::Program(const Machine& machine)
-    : m_machine(machine), m_longWork(*this, machine.longWorkTime),
-      m_engine(machine.engine), m_services{m_engine, *machine.engine.clock, machine.messages,
-                                    machine.fileDialogs, machine.errors, machine.shell, *this, m_images,
-                                    m_longWork,
-                                    [this] {
-                                        return m_settings.always_on_top;
-                                    }},
-      m_skins(machine.engine.programFolder, machine.messages), m_helpViewer(machine.helpWindow, m_services)
+    : m_machine(machine), m_longWork(*this, machine.longWorkTime), m_engine(machine.engine),
+      m_files(machine.engine.programFolder, machine.shippedFolder),
+      m_services{m_engine, *machine.engine.clock, machine.messages, machine.fileDialogs, machine.errors,
+          machine.shell, *this, m_images, m_longWork, [this] { return m_settings.always_on_top; }, m_files},
+      m_skins(m_files, machine.messages), m_helpViewer(machine.helpWindow, m_services)
 {
     m_engine.progress = &m_longWork;
     m_engine.unreadable = &m_unreadable;
@@ -84,7 +80,7 @@ void Program::start(const std::function<bool()>& noteFirstStart)
     m_isStarting = true;
     m_main->Form_Load();
     m_isStarting = false;
-    m_helpViewer.SetHelpFile(pathIn(m_machine.engine.programFolder, QStringLiteral("Ambertask1.1.chm")));
+    m_helpViewer.SetHelpFile(m_files.find(QStringLiteral("Ambertask1.1.chm")));
     // A program that starts hidden, or whose window is never activated, has to remind all the same. A window
     // that is about to appear comes first: mapped later, it would cover the alert.
     QTimer::singleShot(m_main->isShown() ? LongestWaitForThePaint : 0ms, this, &Program::loadDialogs);

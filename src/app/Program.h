@@ -7,6 +7,7 @@
 #include "platform/HelperProcess.h"
 #include "platform/ImageList.h"
 #include "platform/LongWork.h"
+#include "platform/ProgramFiles.h"
 #include "platform/WaveBackend.h"
 #include "reminders/AlertsHost.h"
 #include "report/ReportWindow.h"
@@ -44,6 +45,8 @@ struct Machine {
     LongWorkTime longWorkTime = LongWorkTime::real();
     /// What reads pictures; without it they are read between two events.
     ProgramPath pictureReader = {};
+    /// Where skins, sounds and help lie that are not in the program folder; empty where none lie elsewhere.
+    QString shippedFolder = {};
 };
 
 /// The program: its one instance of each form and of what they share, and how they are wired. Interface
@@ -138,6 +141,7 @@ private:
     LongWork m_longWork;
     UnreadableRecords m_unreadable;
     DatabaseEngine m_engine; ///< of the machine; it tells the long work and the unreadable records
+    ProgramFiles m_files;
     ImageList m_images;
     SettingsRecord m_settings;
     FormServices m_services;

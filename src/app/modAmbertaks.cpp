@@ -8,13 +8,13 @@
 #include "platform/Clock.h"
 #include "platform/FileDialogs.h"
 #include "platform/FileReplace.h"
+#include "platform/FormerCopies.h"
 #include "platform/Installation.h"
 #include "platform/Language.h"
 #include "platform/MMControl.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Modules.h"
 #include "platform/ProgramFolder.h"
-#include "platform/ProgramFolderTemplate.h"
 #include "platform/Registry.h"
 #include "platform/ScreenErrorReport.h"
 #include "platform/Shell.h"
@@ -32,9 +32,10 @@ namespace
 
 /// The real machine around the program.
 struct RealMachine {
-    RealMachine(const QString& moduleFolder, const QString& programFolder, ErrorReport& errorReport)
-        : modules(moduleFolder, {QLatin1String(HelpModule), QLatin1String(ReportModule)},
-            {QLatin1String(SoundProgram), QLatin1String(PictureProgram)}),
+    RealMachine(const Installation& installation, const QString& programFolder, ErrorReport& errorReport)
+        : shippedFolder(installation.shippedFolder),
+          modules(installation.moduleFolder, {QLatin1String(HelpModule), QLatin1String(ReportModule)},
+              {QLatin1String(SoundProgram), QLatin1String(PictureProgram)}),
           engine{programFolder, &clock, nullptr, nullptr, &dataFileIsSound}, errors(errorReport)
     {
     }
@@ -45,11 +46,10 @@ struct RealMachine {
             [this] { return makeWaveBackend(modules); }, TrayIcon::isAreaAvailable,
             [this](HelpHost& host) { return loadHelpWindow(modules, host); },
             [this](ReportHost& host) { return loadReportWindow(modules, host); }, LongWorkTime::real(),
-            [this] {
-                return modules.program(QLatin1String(PictureProgram));
-            }};
+            [this] { return modules.program(QLatin1String(PictureProgram)); }, shippedFolder};
     }
 
+    QString shippedFolder;
     Modules modules;
     SystemClock clock;
     bool dataFileIsSound = false;
@@ -78,7 +78,7 @@ int runInstance(Application& application, const Installation& installation, cons
 {
     Program* running = nullptr;
     ScreenErrorReport errors([&running] { running->end(); });
-    RealMachine real(installation.moduleFolder, programFolder, errors);
+    RealMachine real(installation, programFolder, errors);
     Program program(real.machine());
     running = &program;
 
@@ -134,7 +134,8 @@ int runAmbertask(int argc, char** argv)
         return 0;
     }
     if (guard.failure().isEmpty()) {
-        refreshProgramFolder(installation, programFolder);
+        pointToExecutable(installation, programFolder);
+        removeFormerCopies(installation, programFolder);
     }
     std::optional<DisplayGate> gate(std::in_place, [&guard] { guard.release(); });
     Application application(argc, argv);

@@ -2,10 +2,13 @@
 
 #include "platform/FileReplace.h"
 #include "platform/Installation.h"
+#include "platform/LockFile.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <filesystem>
+#include <system_error>
 
 namespace
 {
@@ -15,6 +18,22 @@ QString baseFolder(const char* variable, const QString& inHome)
 {
     const QString folder = qEnvironmentVariable(variable);
     return QDir::isAbsolutePath(folder) ? QDir::cleanPath(folder) : QDir::homePath() + u'/' + inHome;
+}
+
+std::filesystem::path native(const QString& path)
+{
+    return QFileInfo(path).filesystemFilePath();
+}
+
+void fillProgramFolder(const Installation& installation, const QString& folder)
+{
+    const QString data = QLatin1String(DataFileName);
+    makeFolder(folder);
+    copyToNewFile(pathIn(installation.shippedFolder, data), pathIn(folder, data), PrivateFile);
+    pointToExecutable(installation, folder);
+    if (!flushFolder(folder)) {
+        throw FileError(folder, qt_error_string());
+    }
 }
 
 } // namespace
@@ -33,6 +52,61 @@ QString programFolderOf(const Installation& installation, const QString& userDat
 {
     return installation.programFolder.isEmpty() ? pathIn(userData, QLatin1String(ProductName))
                                                 : installation.programFolder;
+}
+
+void makeProgramFolder(const Installation& installation, const QString& programFolder)
+{
+    if (installation.shippedFolder.isEmpty() || QFileInfo(programFolder).isSymLink()
+        || isPresent(programFolder)) {
+        return;
+    }
+    const QString userData = QFileInfo(programFolder).absolutePath();
+    makeFolder(userData);
+    // Of copies of the program that start at once, one makes the folder.
+    const LockFile lock(pathIn(userData, QStringLiteral(".Ambertask-lock")), LockFile::IfHeld::Wait);
+    if (!lock.isHeld()) {
+        throw FileError(lock.failure());
+    }
+    if (isPresent(programFolder)) {
+        return;
+    }
+    const QString unfinished = pathIn(userData, QStringLiteral(".Ambertask-new"));
+    // What a start left that was ended here.
+    QDir(unfinished).removeRecursively();
+    try {
+        fillProgramFolder(installation, unfinished);
+        std::error_code error;
+        std::filesystem::rename(native(unfinished), native(programFolder), error);
+        if (error) {
+            throw FileError(programFolder, QString::fromStdString(error.message()));
+        }
+    } catch (const FileError&) {
+        QDir(unfinished).removeRecursively();
+        throw;
+    }
+    flushFolder(userData);
+}
+
+void pointToExecutable(const Installation& installation, const QString& programFolder)
+{
+    const QString link = pathIn(programFolder, QLatin1String(ProductName));
+    const QFileInfo present(link);
+    // A folder without data.dat is no program folder: the start reports it, and nothing in it changes.
+    if (installation.shippedFolder.isEmpty()
+        || !QFileInfo(pathIn(programFolder, QLatin1String(DataFileName))).isFile()
+        || (present.exists() && !present.isSymLink()) || present.symLinkTarget() == installation.executable) {
+        return;
+    }
+    const QString beside = pathIn(programFolder, QStringLiteral(".Ambertask-link"));
+    // A start that was ended here has left its link.
+    QFile::remove(beside);
+    if (QFile::link(installation.executable, beside)) {
+        std::error_code error;
+        std::filesystem::rename(native(beside), native(link), error);
+        if (error) {
+            QFile::remove(beside);
+        }
+    }
 }
 
 QString pathIn(const QString& folder, const QString& name)

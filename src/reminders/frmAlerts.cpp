@@ -5,6 +5,7 @@
 #include "platform/GridView.h"
 #include "platform/LetterScale.h"
 #include "platform/MessageBoxes.h"
+#include "platform/ProgramFiles.h"
 #include "platform/Shell.h"
 #include "platform/WindowPlacement.h"
 #include "reminders/AlertsHost.h"
@@ -203,7 +204,7 @@ void frmAlerts::fire(const DueReminder& reminder)
         m_mmc.Wait = false;
         m_mmc.Shareable = false;
         m_mmc.DeviceType = QStringLiteral("WaveAudio");
-        m_mmc.FileName = reminder.sound;
+        m_mmc.FileName = m_services.files.sound(reminder.sound);
         m_mmc.Command(QStringLiteral("Open"));
         m_mmc.Command(QStringLiteral("Play"));
     }

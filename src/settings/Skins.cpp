@@ -9,6 +9,7 @@
 #include <QEvent>
 #include <QFileInfo>
 #include <QScopedValueRollback>
+#include <QSet>
 #include <QWidget>
 #include <QWindow>
 
@@ -17,10 +18,24 @@ namespace
 
 constexpr QLatin1String Ending(".skf");
 
-QDirIterator skinFiles(const QString& folder)
+constexpr QLatin1String Folder("Skins");
+
+QStringList skinFiles(const ProgramFiles& programFiles)
 {
-    return {
-        folder, {QStringLiteral("*.skf")}, QDir::Files | QDir::Hidden | QDir::System | QDir::CaseSensitive};
+    QStringList paths;
+    QSet<QString> names;
+    for (const QString& folder : programFiles.folders(Folder)) {
+        QDirIterator files(folder, {QStringLiteral("*.skf")},
+            QDir::Files | QDir::Hidden | QDir::System | QDir::CaseSensitive);
+        while (files.hasNext()) {
+            const QString path = files.next();
+            if (!names.contains(files.fileName())) {
+                names.insert(files.fileName());
+                paths.append(path);
+            }
+        }
+    }
+    return paths;
 }
 
 /// What is wrong with a skin in a file of another name: it is loaded by its own.
@@ -31,8 +46,8 @@ QString misnamed(const QString& fileName, const QString& skin)
 
 } // namespace
 
-Skins::Skins(const QString& programFolder, MessageBoxes& messages, QObject* parent)
-    : QObject(parent), m_folder(pathIn(programFolder, QStringLiteral("Skins"))), m_messages(messages)
+Skins::Skins(ProgramFiles files, MessageBoxes& messages, QObject* parent)
+    : QObject(parent), m_files(std::move(files)), m_messages(messages)
 {
 }
 
@@ -40,15 +55,15 @@ Skins::~Skins() = default;
 
 QString Skins::fileOf(const QString& name) const
 {
-    return m_folder + u'/' + name + Ending;
+    return m_files.find(pathIn(Folder, name + Ending));
 }
 
 QStringList Skins::names()
 {
     QStringList names;
-    for (QDirIterator files = skinFiles(m_folder); files.hasNext();) {
+    for (const QString& file : skinFiles(m_files)) {
         try {
-            names.append(SkinEngine::skinName(files.next()));
+            names.append(SkinEngine::skinName(file));
         } catch (const SkinError&) {
             // Not a skin.
         }
@@ -67,10 +82,10 @@ SkinEngine& Skins::engine()
 
 QString Skins::otherFileOf(const QString& name)
 {
-    for (QDirIterator files = skinFiles(m_folder); files.hasNext();) {
+    for (const QString& file : skinFiles(m_files)) {
         try {
-            if (SkinEngine::skinName(files.next()) == name) {
-                return files.fileName();
+            if (SkinEngine::skinName(file) == name) {
+                return QFileInfo(file).fileName();
             }
         } catch (const SkinError&) {
             // It holds no skin.
@@ -133,7 +148,8 @@ QString Skins::add(const QString& file) const
     if (name != skin + Ending) {
         throw SkinError(misnamed(name, skin));
     }
-    replaceByCopy(file, pathIn(m_folder, name), PublicFile);
+    makeFolder(m_files.own(Folder));
+    replaceByCopy(file, m_files.own(pathIn(Folder, name)), PublicFile);
     return skin;
 }
 

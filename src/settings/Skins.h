@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/ProgramFiles.h"
 #include "settings/SkinEngine.h"
 
 #include <QObject>
@@ -8,7 +9,7 @@
 
 class MessageBoxes;
 
-/// The skins of the program folder, the engine that wears them, and the report of those that cannot be worn.
+/// The skins of the program, the engine that wears them, and the report of those that cannot be worn.
 /// One instance in a program.
 class Skins : public QObject
 {
@@ -16,12 +17,13 @@ class Skins : public QObject
 
 public:
     /// `messages` outlives this object. The engine is made on the first use.
-    Skins(const QString& programFolder, MessageBoxes& messages, QObject* parent = nullptr);
+    Skins(ProgramFiles files, MessageBoxes& messages, QObject* parent = nullptr);
     ~Skins() override;
 
     /// The file of the skin of that name.
     QString fileOf(const QString& name) const;
-    /// The names of the skins in the folder, in the file system's order; unreadable files are left out.
+    /// The names of the skins, in the file system's order, the program folder's first; unreadable files are
+    /// left out, and those that a file of the same name in the program folder takes the place of.
     /// Pending messages other than user input run between the files.
     QStringList names();
     /// Who asks for a skin: the start of the program, for the one that is stored, or the user who has chosen
@@ -37,7 +39,7 @@ public:
     /// user is told once, by file name, when the window of `reportOn` is on the screen. No name is no fault.
     /// That the skin lies there in a file of another name is told to the user who chooses it, at no start.
     bool wear(const QString& name, Asked asked = Asked::ByUser);
-    /// Copies a skin file into the folder, over a file of that name. The name of the skin. Throws
+    /// Copies a skin file into the program folder, over a file of that name. The name of the skin. Throws
     /// RuntimeError for a file that is no skin, or that is not named after its skin: it could not be worn.
     QString add(const QString& file) const;
     /// The window over which the reports are shown; not owned.
@@ -52,7 +54,7 @@ private:
     void reportSoon();
     void reportPending();
 
-    QString m_folder;
+    ProgramFiles m_files;
     MessageBoxes& m_messages;
     std::unique_ptr<SkinEngine> m_engine;
     QPointer<QWidget> m_window;

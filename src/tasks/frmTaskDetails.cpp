@@ -5,6 +5,7 @@
 #include "platform/FileDialogs.h"
 #include "platform/LongWork.h"
 #include "platform/MessageBoxes.h"
+#include "platform/ProgramFiles.h"
 #include "tasks/TaskDetailsHost.h"
 #include "ui/CheckerTimer.h"
 #include "ui/CloseBox.h"
@@ -229,7 +230,7 @@ void frmTaskDetails::btnSoundBrowse_Click()
     try {
         FileDialogRequest request;
         request.filter = tr("Wave Files (*.wav)|*.wav");
-        request.initialFolder = m_services.engine.programFolder + QLatin1String("/sounds");
+        request.initialFolder = m_services.files.shipped(QStringLiteral("sounds"));
         request.fileMustExist = true;
         const QString file = m_services.fileDialogs.open(this, request);
         m_services.checkerTimer.setCheckerEnabled(true);

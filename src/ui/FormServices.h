@@ -9,6 +9,7 @@ class FileDialogs;
 class ImageList;
 class LongWork;
 class MessageBoxes;
+class ProgramFiles;
 class Shell;
 struct DatabaseEngine;
 
@@ -27,4 +28,5 @@ struct FormServices {
     LongWork& longWork;
     /// The setting `always_on_top`.
     std::function<bool()> alwaysOnTop;
+    const ProgramFiles& files;
 };

@@ -10,7 +10,7 @@
 
 /// The whole program over a data file of its own, on a machine that only remembers.
 struct ProgramFixture : RecordedMachine {
-    ProgramFixture() : program(machine()) { }
+    explicit ProgramFixture(const QString& shippedFolder = {}) : program(machine(shippedFolder)) { }
     ~ProgramFixture() { program.unload(); }
 
     void start(bool firstStart = false)

@@ -40,7 +40,8 @@ struct RecordedMachine {
             folder.filePath(QStringLiteral("Skins/Aqua.skf")));
     }
 
-    Machine machine()
+    /// `shippedFolder` is where an installed program looks up what is not in its program folder.
+    Machine machine(const QString& shippedFolder = {})
     {
         return {database.engine(), dialogs, dialogs, dialogs, shell, registry,
             [this] { return std::make_unique<RecordedWaves>(played, stops); },
@@ -56,7 +57,8 @@ struct RecordedMachine {
             },
             {[this] { return workTime += workStep; },
                 [](std::chrono::milliseconds) {
-                }}};
+                }},
+            {}, shippedFolder};
     }
     void setting(const QString& column, int value) const
     {

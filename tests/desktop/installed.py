@@ -1,5 +1,4 @@
 """A desk whose program is installed for everybody: below a prefix, the user's own folder made by the program."""
-import hashlib
 import os
 import shutil
 import subprocess
@@ -9,7 +8,6 @@ from store import Store
 
 # What packagers and users call their folders.
 PREFIX = "opt für alle 100%"
-LIST = "shipped.sha256"
 
 
 def build_folder():
@@ -43,27 +41,24 @@ class InstalledDesktop(Desktop):
         self.prefix = self.path(name)
         install(self.prefix)
         self.executable = os.path.join(self.prefix, "bin", PROGRAM_NAME)
-        self.template = os.path.join(self.prefix, "share", "ambertask")
+        self.shipped_folder = os.path.join(self.prefix, "share", "ambertask")
 
     def in_folder(self, *parts):
         return os.path.join(self.program, *parts)
 
     def ship(self, name, content):
         """What a later version does: from now on the installed one ships this."""
-        path = os.path.join(self.template, name)
-        with open(path, "wb") as file:
+        with open(os.path.join(self.shipped_folder, name), "wb") as file:
             file.write(content)
-        lines = {}
-        with open(os.path.join(self.template, LIST), encoding="utf-8") as text:
-            for line in text.read().splitlines():
-                lines[line[66:]] = line[:64]
-        lines[name] = hashlib.sha256(content).hexdigest()
-        with open(os.path.join(self.template, LIST), "w", encoding="utf-8") as text:
-            text.writelines(f"{digest}  {path}\n" for path, digest in lines.items())
 
     def shipped(self, *parts):
-        with open(os.path.join(self.template, *parts), "rb") as file:
+        with open(os.path.join(self.shipped_folder, *parts), "rb") as file:
             return file.read()
+
+    def bring_later_version(self):
+        """Another executable, modules in a folder of its own: those of this version are gone, what is shipped is not."""
+        os.remove(self.executable)
+        shutil.rmtree(os.path.join(self.prefix, "lib", "ambertask"))
 
     def uninstall(self):
         shutil.rmtree(self.prefix)

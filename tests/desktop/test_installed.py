@@ -1,4 +1,5 @@
 """The program installed below a prefix: each user has a program folder of their own."""
+import hashlib
 import os
 import shutil
 import signal
@@ -16,7 +17,6 @@ from polling import wait_until
 from test_start_and_stop import OTHER_USER, snapshot
 
 HELP = "Ambertask Help"
-LARGE = 2 << 30
 
 
 def mode(path):
@@ -65,7 +65,7 @@ class FirstStartTest(InstalledCase):
         before = snapshot(self.desk.prefix)
         self.run_once()
         self.assertEqual(os.listdir(self.user_data), [PROGRAM_NAME])
-        self.assertEqual(sorted(os.listdir(self.desk.program)), sorted(os.listdir(self.desk.template) + [PROGRAM_NAME]))
+        self.assertEqual(sorted(os.listdir(self.desk.program)), [PROGRAM_NAME, "data.dat"])
         self.assertEqual(os.readlink(self.desk.in_folder(PROGRAM_NAME)), self.desk.executable)
         self.assertEqual(mode(self.desk.program), 0o700)
         self.assertEqual(mode(self.desk.data_file), 0o600)
@@ -90,18 +90,6 @@ class FirstStartTest(InstalledCase):
         left = next(copy for copy in copies if copy.running())
         wait_until(lambda: self.desk.screen.client(names.MAIN, left.pid), "the last one shows its window", 30)
         self.assertEqual([copy.wait_end() for copy in copies if copy is not left], [0] * 9)
-        self.assertEqual(os.listdir(self.user_data), [PROGRAM_NAME])
-
-    def test_a_first_start_that_is_killed_leaves_nothing_that_passes_for_the_folder(self):
-        with open(os.path.join(self.desk.template, "sounds", "long.wav"), "wb") as file:
-            file.truncate(LARGE)
-        program = self.desk.start()
-        wait_until(lambda: os.path.isdir(self.user_data) and os.listdir(self.user_data), "the folder is being filled")
-        program.send(signal.SIGKILL)
-        program.wait_end()
-        self.assertFalse(os.path.exists(self.desk.program))
-        os.remove(os.path.join(self.desk.template, "sounds", "long.wav"))
-        self.run_once()
         self.assertEqual(os.listdir(self.user_data), [PROGRAM_NAME])
 
     def test_a_folder_that_cannot_be_made_is_reported(self):
@@ -154,7 +142,6 @@ class ReadOnlyTest(InstalledCase):
         self.assertEqual(program.wait_end(), 0)
         os.chmod(self.desk.data_file, 0o400)
         self.close_to_writing(*(path for path, _, _ in os.walk(self.desk.program)))
-        self.desk.ship("sounds/gong.wav", b"a later version")
         before = snapshot(self.desk.program)
         program = self.desk.start(command=self.command)
         wait_until(lambda: self.desk.screen.client(names.MAIN, program.pid), "the window is shown")
@@ -165,6 +152,8 @@ class ReadOnlyTest(InstalledCase):
 
 
 class UpgradeTest(InstalledCase):
+    sound = True
+
     def session_would_start(self):
         try:
             return bool(Gio.DesktopAppInfo.new_from_filename(self.entry))
@@ -172,26 +161,43 @@ class UpgradeTest(InstalledCase):
             # The binding's word for "there is no such program".
             return False
 
-    def test_a_later_version_brings_skins_sounds_and_help_and_leaves_what_is_the_users(self):
+    def skins(self, user):
+        return user.entries(user.open_page("Settings"), names.SKIN)
+
+    def test_skins_sounds_and_help_are_the_installed_ones_and_the_users_come_first(self):
         self.run_once()
         self.store.add_task("Alpha")
-        mine = self.read("Skins", "Lemon.skf") + b"\n/* as I like it */\n"
-        self.write(mine, "Skins", "Lemon.skf")
-        shutil.copy(self.desk.in_folder("Skins", "Aqua.skf"), self.desk.in_folder("Skins", "Mine.skf"))
         self.desk.ship("Skins/Copper.skf", self.desk.shipped("Skins", "Aqua.skf").replace(b"Aqua", b"Copper"))
-        self.desk.ship("Skins/Lemon.skf", self.desk.shipped("Skins", "Lemon.skf") + b"\n/* 2 */\n")
-        self.desk.ship("Skins/Classic.skf", self.desk.shipped("Skins", "Classic.skf") + b"\n/* 2 */\n")
-        self.desk.ship("sounds/gong.wav", self.desk.shipped("sounds", "bell.wav"))
+        os.mkdir(self.desk.in_folder("Skins"))
+        self.write(self.desk.shipped("Skins", "Lemon.skf").replace(b"@name Lemon", b"@name My Lemon"), "Skins", "Lemon.skf")
         user = self.start()
         user.wait_loaded()
         user.wait_rows(["Alpha"])
-        self.assertIn("Copper", user.entries(user.open_page("Settings"), names.SKIN))
-        for name in ("Copper.skf", "Classic.skf"):
-            self.assertEqual(self.read("Skins", name), self.desk.shipped("Skins", name))
-        self.assertEqual(self.read("Skins", "Lemon.skf"), mine)
-        self.assertTrue(os.path.exists(self.desk.in_folder("Skins", "Mine.skf")))
-        self.assertEqual(self.read("sounds", "gong.wav"), self.desk.shipped("sounds", "gong.wav"))
+        self.assertEqual(sorted(self.skins(user)), ["Aqua", "Classic", "Contrast", "Copper", "Midnight", "My Lemon"])
         self.assertEqual(user.exit(), 0)
+        self.assertEqual(sorted(os.listdir(self.desk.program)), [PROGRAM_NAME, "Skins", "data.dat"])
+
+    def test_the_copies_of_the_version_before_go_and_what_was_changed_stays(self):
+        self.run_once()
+        lines = []
+        for name in ("Ambertask1.1.chm", "Skins/Aqua.skf", "Skins/Lemon.skf", "sounds/bell.wav"):
+            content = self.desk.shipped(name) + b" of the version before"
+            os.makedirs(os.path.dirname(self.desk.in_folder(name)), exist_ok=True)
+            self.write(content, name)
+            lines.append(f"{hashlib.sha256(content).hexdigest()}  {name}\n")
+        self.write("".join(lines).encode(), "shipped.sha256")
+        mine = self.desk.shipped("Skins", "Lemon.skf") + b"\n/* as I like it */\n"
+        self.write(mine, "Skins", "Lemon.skf")
+        # Chosen from the copies, and it sounds all the same.
+        self.store.add_task("Alpha", reminder=datetime(2020, 1, 1), sound=self.desk.in_folder("sounds", "bell.wav"))
+        user = self.start()
+        user.alert(1)
+        wait_until(lambda: self.desk.sound.loud_seconds() > 0.5, "the sound is heard")
+        self.assertEqual(sorted(self.skins(user)), ["Aqua", "Classic", "Contrast", "Lemon", "Midnight"])
+        self.assertEqual(user.exit(), 0)
+        self.assertEqual(sorted(os.listdir(self.desk.program)), [PROGRAM_NAME, "Skins", "data.dat", "sounds"])
+        self.assertEqual(os.listdir(self.desk.in_folder("Skins")), ["Lemon.skf"])
+        self.assertEqual(self.read("Skins", "Lemon.skf"), mine)
 
     def test_the_session_starts_the_program_that_has_moved_to_another_prefix(self):
         self.run_once()
@@ -229,7 +235,7 @@ class ModulesTest(InstalledCase):
         user.wait_active(names.MAIN)
         self.desk.input.key("p", "Alt_L")
         user.window(names.REPORT)
-        self.store.add_task("Beta", reminder=datetime(2020, 1, 1), sound=self.desk.in_folder("sounds", "bell.wav"))
+        self.store.add_task("Beta", reminder=datetime(2020, 1, 1), sound=os.path.join(self.desk.shipped_folder, "sounds", "bell.wav"))
         user.alert(1)
         wait_until(lambda: self.desk.sound.loud_seconds() > 0.5, "the sound is heard")
 
@@ -242,8 +248,8 @@ class ModulesTest(InstalledCase):
         self.use_help_report_and_sound()
         self.assertEqual(self.loaded_modules(), {"ambertask_help.so", "ambertask_report.so"})
 
-    def test_a_copy_that_runs_on_while_its_installation_goes_still_has_them(self):
-        self.desk.uninstall()
+    def test_a_copy_that_runs_on_while_a_later_version_is_installed_still_has_them(self):
+        self.desk.bring_later_version()
         self.use_help_report_and_sound()
         self.assertEqual(self.loaded_modules(), {name + ".so (deleted)" for name in ("ambertask_help", "ambertask_report")})
 

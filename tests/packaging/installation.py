@@ -2,15 +2,13 @@
 import configparser
 import glob
 import gzip
-import hashlib
 import os
 import struct
 import subprocess
 import xml.etree.ElementTree as ElementTree
 
 PROGRAM = "bin/Ambertask"
-TEMPLATE = "share/ambertask/"
-LIST = TEMPLATE + "shipped.sha256"
+SHIPPED = "share/ambertask/"
 ENTRY = "share/applications/example.ambertask.ambertask.desktop"
 METAINFO = "share/metainfo/example.ambertask.ambertask.metainfo.xml"
 MAN_PAGE = "share/man/man1/Ambertask.1.gz"
@@ -31,9 +29,9 @@ def icon(size):
 EXPECTED = [PROGRAM, ENTRY, METAINFO, MAN_PAGE, CHANGELOG, "share/doc/ambertask/copyright", DRAWING,
             *(icon(size) for size in ICON_SIZES),
             *(f"lib/ambertask/*/ambertask_{module}.so" for module in ("help", "report")), "lib/ambertask/*/ambertask_sound", "lib/ambertask/*/ambertask_pictures",
-            LIST, TEMPLATE + "data.dat", TEMPLATE + "Ambertask1.1.chm", TEMPLATE + "custom icons",
-            *(f"{TEMPLATE}Skins/{name}.skf" for name in SKINS),
-            *(f"{TEMPLATE}sounds/{name}.wav" for name in SOUNDS)]
+            SHIPPED + "data.dat", SHIPPED + "Ambertask1.1.chm",
+            *(f"{SHIPPED}Skins/{name}.skf" for name in SKINS),
+            *(f"{SHIPPED}sounds/{name}.wav" for name in SOUNDS)]
 
 
 class Installation:
@@ -48,7 +46,7 @@ class Installation:
         if missing:
             return missing
         return [*self._icon_faults(), *self._entry_faults(), *self._metainfo_faults(), *self._text_faults(),
-                *self._shipped_faults(), *self._language_faults(), *self._validator_faults()]
+                *self._language_faults(), *self._validator_faults()]
 
     def _path(self, path):
         return os.path.join(self._prefix, path)
@@ -109,22 +107,8 @@ class Installation:
     def _text_faults(self):
         if not gzip.decompress(self._read(MAN_PAGE)).startswith(b".TH AMBERTASK 1 "):
             yield f"{MAN_PAGE} is no man page"
-        if self._read(TEMPLATE + "Ambertask1.1.chm")[:4] != b"ITSF":
+        if self._read(SHIPPED + "Ambertask1.1.chm")[:4] != b"ITSF":
             yield "the help is no help file"
-
-    def _shipped_faults(self):
-        """The list that brings skins, sounds and help to each user names all of them as they are."""
-        lines = self._read(LIST).decode().splitlines()
-        sums = {name: digest for digest, _, name in (line.partition("  ") for line in lines)}
-        for path in EXPECTED:
-            name = path.removeprefix(TEMPLATE)
-            if name.endswith((".skf", ".wav", ".chm")) and name not in sums:
-                yield f"{name} is not on the list"
-        for name, digest in sums.items():
-            if not self._found(glob.escape(TEMPLATE + name)):
-                yield f"{name} is missing"
-            elif hashlib.sha256(self._read(TEMPLATE + name)).hexdigest() != digest:
-                yield f"{name} has another sum"
 
     def _language_faults(self):
         """Catalogues are resources of the program; their names are stored in UTF-16."""

@@ -5,7 +5,6 @@
 Needs root, for the bare system, and the package mirror.
 """
 import glob
-import hashlib
 import os
 import shutil
 import signal
@@ -23,7 +22,6 @@ import names
 SYSTEM = BareSystem()
 # Below the prefix.
 SHIPPED = "share/ambertask"
-LIST = SHIPPED + "/shipped.sha256"
 MODULES = "lib/ambertask"
 LATER = b"\n/* of the later version */\n"
 MINE = b"\n/* as I like it */\n"
@@ -61,10 +59,6 @@ def make_later(prefix):
     write(read(skins, "Aqua.skf").replace(b"Aqua", b"Copper"), skins, "Copper.skf")
     for name in ("Aqua.skf", "Lemon.skf"):
         write(read(skins, name) + LATER, skins, name)
-    lines = read(prefix, LIST).decode().splitlines() + ["  Skins/Copper.skf"]
-    names_shipped = [line.partition("  ")[2] for line in lines]
-    write("".join(f"{hashlib.sha256(read(prefix, SHIPPED, name)).hexdigest()}  {name}\n"
-                  for name in names_shipped).encode(), prefix, LIST)
     modules = os.path.join(prefix, MODULES)
     (version,) = os.listdir(modules)
     later = "9" * len(version)
@@ -143,15 +137,24 @@ class PackageCase(unittest.TestCase):
             return {os.path.basename(line.strip()) for line in maps if f"/{MODULES}/" in line}
 
     def change_skin(self, name):
-        write(read(self.desk.program, "Skins", name) + MINE, self.desk.program, "Skins", name)
+        """As its user does it: a copy of the shipped one in the user's folder."""
+        folder = os.path.join(self.desk.program, "Skins")
+        os.makedirs(folder, exist_ok=True)
+        write(read(self.shipped_skins(), name) + MINE, folder, name)
+        for path in (folder, os.path.join(folder, name)):
+            os.chown(path, *SYSTEM.ids())
 
-    def assert_runs_and_has_brought(self, program, executable):
-        """It is the later version, has brought its skins and left the one that was changed, Aqua."""
+    def shipped_skins(self):
+        prefix = os.path.dirname(os.path.dirname(os.path.realpath(SYSTEM.path(self.desk.executable))))
+        return os.path.join(prefix, SHIPPED, "Skins")
+
+    def assert_runs(self, program, executable):
+        """It is the later version with its skins; in the user's folder lies the one that was changed, Aqua."""
         self.assertEqual(read(f"/proc/{program.pid}/exe"), executable)
-        skins = os.path.join(self.desk.program, "Skins")
-        self.assertTrue(read(skins, "Aqua.skf").endswith(MINE))
-        self.assertTrue(read(skins, "Lemon.skf").endswith(LATER))
-        self.assertIn(b"Copper", read(skins, "Copper.skf"))
+        self.assertTrue(read(self.shipped_skins(), "Lemon.skf").endswith(LATER))
+        self.assertIn(b"Copper", read(self.shipped_skins(), "Copper.skf"))
+        self.assertEqual(os.listdir(os.path.join(self.desk.program, "Skins")), ["Aqua.skf"])
+        self.assertTrue(read(self.desk.program, "Skins", "Aqua.skf").endswith(MINE))
 
     def end(self, program):
         program.send(signal.SIGTERM)
@@ -200,7 +203,7 @@ class DistributionPackageTest(PackageCase):
 
         program = self.start()
         self.wait_window(program, names.alert_title(2))
-        self.assert_runs_and_has_brought(program, executable)
+        self.assert_runs(program, executable)
         self.work(program)
         self.end(program)
         self.assertEqual([task["task_name"] for task in self.desk.store.tasks()], ["Alpha", "Beta"])
@@ -258,7 +261,7 @@ class UnpackedArchiveTest(PackageCase):
         executable = self.unpack_later()
         program = self.start()
         self.wait_window(program, names.alert_title(1))
-        self.assert_runs_and_has_brought(program, executable)
+        self.assert_runs(program, executable)
         self.work(program)
         self.end(program)
 
@@ -276,7 +279,7 @@ class UnpackedArchiveTest(PackageCase):
         executable = self.unpack_later()
         program = self.start()
         self.wait_window(program, names.alert_title(1))
-        self.assert_runs_and_has_brought(program, executable)
+        self.assert_runs(program, executable)
         self.work(program)
         self.end(program)
         self.assertFalse(os.path.exists(SYSTEM.path(OWN_FOLDER)))

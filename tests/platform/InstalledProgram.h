@@ -1,13 +1,13 @@
 #pragma once
 
+#include "platform/FormerCopies.h"
 #include "platform/Installation.h"
-#include "platform/ProgramFolderTemplate.h"
+#include "platform/ProgramFiles.h"
+#include "platform/ProgramFolder.h"
 
 #include <QCryptographicHash>
 #include <QDir>
-#include <QDirIterator>
 #include <QFile>
-#include <QMap>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -17,9 +17,8 @@ class InstalledProgram
 public:
     InstalledProgram()
     {
-        QDir().mkpath(filePath("usr/share/ambertask/custom icons"));
         write(filePath("usr/bin/Ambertask"), "the program");
-        write(filePath("usr/share/ambertask/data.dat"), "the data as shipped");
+        ship("data.dat", "the data as shipped");
         ship("Skins/Aqua.skf", "aqua 1");
         ship("sounds/bell.wav", "bell 1");
         ship("help.chm", "help 1");
@@ -36,29 +35,41 @@ public:
         return {
             filePath("usr/bin/Ambertask"), filePath("usr/lib"), filePath("usr/share/ambertask"), QString()};
     }
+    ProgramFiles files() const { return ProgramFiles(folder(), installation().shippedFolder); }
 
     /// From now on the installed version ships this.
-    void ship(const char* name, const QByteArray& content)
-    {
-        m_shipped[QByteArray(name)] = content;
-        write(filePath("usr/share/ambertask/") + QString::fromUtf8(name), content);
-        writeList();
-    }
+    void ship(const char* name, const QByteArray& content) const { write(shippedPath(name), content); }
     /// From now on the installed version ships no such file.
-    void drop(const char* name)
+    void drop(const char* name) const { QVERIFY(QFile::remove(shippedPath(name))); }
+    QString shippedPath(const char* name) const
     {
-        m_shipped.remove(QByteArray(name));
-        QFile::remove(filePath("usr/share/ambertask/") + QString::fromUtf8(name));
-        writeList();
+        return filePath("usr/share/ambertask/") + QString::fromUtf8(name);
     }
 
     /// What a start of the program does with its folder.
     void start() const
     {
         makeProgramFolder(installation(), folder());
-        refreshProgramFolder(installation(), folder());
+        pointToExecutable(installation(), folder());
+        removeFormerCopies(installation(), folder());
+    }
+    /// The folder as version 1.1.0 made it: with copies of what is shipped now, and a list of them.
+    void startAsBefore() const
+    {
+        start();
+        QVERIFY(QDir().mkpath(inFolder("custom icons")));
+        QByteArray list;
+        for (const char* name : {"Skins/Aqua.skf", "help.chm", "sounds/bell.wav"}) {
+            write(inFolder(name), contentOf(shippedPath(name)));
+            list += sumOf(contentOf(shippedPath(name))) + "  " + name + '\n';
+        }
+        write(inFolder("shipped.sha256"), list);
     }
 
+    static QByteArray sumOf(const QByteArray& content)
+    {
+        return QCryptographicHash::hash(content, QCryptographicHash::Sha256).toHex();
+    }
     void write(const QString& path, const QByteArray& content) const
     {
         QVERIFY(QDir().mkpath(QFileInfo(path).absolutePath()));
@@ -66,28 +77,21 @@ public:
         QVERIFY2(file.open(QIODevice::WriteOnly), qPrintable(path));
         QCOMPARE(file.write(content), content.size());
     }
-    QByteArray read(const char* name) const
+    void writeOwn(const char* name, const QByteArray& content) const { write(inFolder(name), content); }
+    static QByteArray contentOf(const QString& path)
     {
-        QFile file(inFolder(name));
+        QFile file(path);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("not there");
     }
-    QStringList namesIn(const QString& path) const
+    QByteArray read(const char* name) const { return contentOf(inFolder(name)); }
+    static QStringList namesIn(const QString& path)
     {
         return QDir(path).entryList(
             QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
     }
+    /// Sorted and with a blank between them.
+    QString namesInFolder() const { return namesIn(folder()).join(u' '); }
 
 private:
-    void writeList() const
-    {
-        QByteArray list;
-        for (auto file = m_shipped.cbegin(); file != m_shipped.cend(); ++file) {
-            list += QCryptographicHash::hash(file.value(), QCryptographicHash::Sha256).toHex() + "  "
-                + file.key() + '\n';
-        }
-        write(filePath("usr/share/ambertask/shipped.sha256"), list);
-    }
-
     QTemporaryDir m_place;
-    QMap<QByteArray, QByteArray> m_shipped;
 };

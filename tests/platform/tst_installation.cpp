@@ -18,10 +18,10 @@ class InstallationTest : public TestCase
     Q_OBJECT
 
 private slots:
-    void aProgramWithoutATemplateLivesInItsOwnFolder()
+    void aProgramThatShipsNothingElsewhereLivesInItsOwnFolder()
     {
         const Installation found = installationOf(path("Ambertask/Ambertask"));
-        QCOMPARE(found.templateFolder, QString());
+        QCOMPARE(found.shippedFolder, QString());
         QCOMPARE(found.moduleFolder, path("Ambertask"));
         QCOMPARE(programFolderOf(found, UserData), path("Ambertask"));
     }
@@ -31,7 +31,7 @@ private slots:
         makeFolder("usr/share/ambertask");
         const Installation found = installationOf(path("usr/bin/Ambertask"));
         QCOMPARE(found.executable, path("usr/bin/Ambertask"));
-        QCOMPARE(found.templateFolder, path("usr/share/ambertask"));
+        QCOMPARE(found.shippedFolder, path("usr/share/ambertask"));
         QVERIFY2(found.moduleFolder.startsWith(path("usr/lib")), qPrintable(found.moduleFolder));
         QCOMPARE(programFolderOf(found, UserData), UserData + QStringLiteral("/Ambertask"));
     }
@@ -40,7 +40,7 @@ private slots:
     {
         makeFolder("mein Büro/opt/share/ambertask");
         const Installation found = installationOf(path("mein Büro/opt/bin/Ambertask"));
-        QCOMPARE(found.templateFolder, path("mein Büro/opt/share/ambertask"));
+        QCOMPARE(found.shippedFolder, path("mein Büro/opt/share/ambertask"));
     }
 
     void aPrefixThatHoldsTheDataIsItsProgramFolder()
@@ -51,7 +51,7 @@ private slots:
             UserData + QStringLiteral("/Ambertask"));
         makeFile("stick/Ambertask/data.dat");
         const Installation found = installationOf(path("stick/Ambertask/bin/Ambertask"));
-        QCOMPARE(found.templateFolder, path("stick/Ambertask/share/ambertask"));
+        QCOMPARE(found.shippedFolder, path("stick/Ambertask/share/ambertask"));
         QCOMPARE(programFolderOf(found, UserData), path("stick/Ambertask"));
     }
 
@@ -62,19 +62,19 @@ private slots:
         QCOMPARE(installationOf(path("odd/bin/Ambertask")).programFolder, QString());
     }
 
-    void aProgramFolderBesideATemplateStaysWhatItIs()
+    void aProgramFolderBesideAFolderOfShippedFilesStaysWhatItIs()
     {
         makeFolder("usr/share/ambertask");
         const Installation found = installationOf(path("usr/Ambertask/Ambertask"));
-        QCOMPARE(found.templateFolder, QString());
+        QCOMPARE(found.shippedFolder, QString());
         QCOMPARE(programFolderOf(found, UserData), path("usr/Ambertask"));
     }
 
-    void aFileInThePlaceOfTheTemplateIsNone()
+    void aFileInThePlaceOfThatFolderIsNone()
     {
         makeFolder("local/share");
         makeFile("local/share/ambertask");
-        QCOMPARE(installationOf(path("local/bin/Ambertask")).templateFolder, QString());
+        QCOMPARE(installationOf(path("local/bin/Ambertask")).shippedFolder, QString());
     }
 
     void theRunningProgramIsFound()

@@ -248,7 +248,7 @@ void TestFormFaults::theSettingsPageKeepsItsInputUntilItIsStored()
     copySkins(services.database.folder(), {QStringLiteral("Aqua"), QStringLiteral("Lemon")});
     SettingsRecord record;
     MemoryRegistry registry;
-    Skins skins(services.database.folder(), services.user);
+    Skins skins(services.files, services.user);
     RecordedMainWindow host(record);
     std::unique_ptr<SettingsPage> page;
     const auto save = [&] {

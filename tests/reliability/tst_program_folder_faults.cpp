@@ -5,8 +5,6 @@
 
 #include <QTest>
 #include <filesystem>
-#include <set>
-#include <sstream>
 
 namespace
 {
@@ -20,17 +18,6 @@ DiskImage contentOf(const std::string& programFolder)
     DiskImage image = imageOf(programFolder);
     image.erase("Ambertask");
     return image;
-}
-
-/// The lines of the list of what was brought last.
-std::set<std::string> linesOf(const DiskImage& programFolder)
-{
-    std::istringstream list(programFolder.at(ShippedListName).value_or(""));
-    std::set<std::string> lines;
-    for (std::string line; std::getline(list, line);) {
-        lines.insert(line);
-    }
-    return lines;
 }
 
 /// Every name below the program folder with what it holds, or "none".
@@ -56,8 +43,7 @@ private slots:
     void theFirstStartMakesTheWholeFolderOrNone();
     void theFirstStartOfALoginMakesTheWholeFolderOrNone();
     void aFolderThatIsThereStaysAsItIs();
-    void anUpgradeBringsEveryFileWholeAndAllOfThemAtLast();
-    void anUpgradeThatWasCutOffIsFinishedByTheNextStart();
+    void copiesOfAnEarlierVersionGoAllAtLastAndNothingElse();
     void cleanupTestCase() { qInfo("all: %s", qPrintable(m_all.text())); }
 
 private:
@@ -77,53 +63,32 @@ private:
             [&program] { return told([&] { makeProgramFolder(program.installation(), program.folder()); }); },
             programFolderIn};
     }
-    /// An upgrade says nothing and may stop between two files; each of them is the earlier or the later one,
-    /// and so is each line of the list. The data and the user's own skin are as they were.
-    static Operation upgrade(const InstalledProgram& program, const DiskImage& before, const DiskImage& after)
+    /// It says nothing and may stop between two files. The list goes behind the last copy, and with it
+    /// nothing that is the user's.
+    static Operation cleaning(
+        const InstalledProgram& program, const DiskImage& before, const DiskImage& after)
     {
         return {[&program] {
-                    refreshProgramFolder(program.installation(), program.folder());
+                    removeFormerCopies(program.installation(), program.folder());
                     return Told::Nothing;
                 },
             [before, after](const std::string& root) {
                 const DiskImage now = contentOf(root + '/' + Folder);
-                for (const auto& [name, content] : before) {
-                    if (now.count(name) == 0) {
+                for (const auto& [name, content] : after) {
+                    if (now.count(name) == 0 || now.at(name) != content) {
                         throw std::runtime_error(name + " is lost");
                     }
                 }
                 for (const auto& [name, content] : now) {
-                    const bool isEarlier = before.count(name) != 0 && content == before.at(name);
-                    const bool isLater = after.count(name) != 0 && content == after.at(name);
-                    const bool isHidden = name.find("/.ambertask-") != name.npos || name.front() == '.';
-                    if (name != ShippedListName && !isHidden && !isEarlier && !isLater) {
-                        throw std::runtime_error(name + " is neither the earlier nor the later one");
+                    if (before.count(name) == 0 || before.at(name) != content) {
+                        throw std::runtime_error(name + " is new");
                     }
-                }
-                for (const std::string& line : linesOf(now)) {
-                    // A file that is still to be brought has no sum.
-                    if (linesOf(before).count(line) + linesOf(after).count(line) == 0
-                        && line.compare(0, 2, "  ") != 0) {
-                        throw std::runtime_error("the list says \"" + line + '"');
+                    if (now.count("shipped.sha256") == 0 && content && after.count(name) == 0) {
+                        throw std::runtime_error(name + " passes for the user's");
                     }
                 }
                 return std::string(now == after ? "later" : "earlier");
             }};
-    }
-    static DiskImage folderOf(const InstalledProgram& program)
-    {
-        return contentOf(program.folder().toStdString());
-    }
-    void tryUpgrade(InstalledProgram& program)
-    {
-        const DiskImage before = folderOf(program);
-        const DiskImage all = imageOf(program.root().toStdString());
-        refreshProgramFolder(program.installation(), program.folder());
-        const DiskImage after = folderOf(program);
-        QVERIFY(before != after);
-        QCOMPARE(before.at("data.dat"), after.at("data.dat"));
-        writeImage(all, program.root().toStdString());
-        trySweep(program, upgrade(program, before, after));
     }
 
     Sweep::Figures m_all;
@@ -151,31 +116,25 @@ void TestProgramFolderFaults::aFolderThatIsThereStaysAsItIs()
     trySweep(program, making(program));
 }
 
-void TestProgramFolderFaults::anUpgradeBringsEveryFileWholeAndAllOfThemAtLast()
+void TestProgramFolderFaults::copiesOfAnEarlierVersionGoAllAtLastAndNothingElse()
 {
-    InstalledProgram program;
+    const InstalledProgram program;
     program.ship("Skins/Coal.skf", "coal 1");
-    program.start();
-    program.write(program.inFolder("data.dat"), "what the user wrote");
-    program.write(program.inFolder("Skins/Coal.skf"), "the user's coal");
+    program.startAsBefore();
+    program.writeOwn("data.dat", "what the user wrote");
+    program.writeOwn("Skins/Coal.skf", "the user's coal");
+    program.writeOwn("custom icons/icon1.gif", "the user's picture");
+    // A later version has other skins, and brought its help before it was cut off.
     program.ship("Skins/Aqua.skf", QByteArray(5000, 'a'));
-    program.ship("Skins/Coal.skf", "coal 2");
-    program.ship("sounds/horn.wav", "horn 2");
     program.ship("help.chm", "help 2");
-    program.ship("words/de.qm", "words 2");
-    tryUpgrade(program);
-}
-
-void TestProgramFolderFaults::anUpgradeThatWasCutOffIsFinishedByTheNextStart()
-{
-    InstalledProgram program;
-    program.start();
-    program.write(program.inFolder("data.dat"), "what the user wrote");
-    // The second version brought the skin and was cut off before it could note that.
-    program.write(program.inFolder("Skins/Aqua.skf"), "aqua 2");
-    program.ship("Skins/Aqua.skf", "aqua 2");
-    program.ship("help.chm", "help 2");
-    tryUpgrade(program);
+    program.writeOwn("help.chm", "help 2");
+    const DiskImage all = imageOf(program.root().toStdString());
+    const DiskImage before = contentOf(program.folder().toStdString());
+    removeFormerCopies(program.installation(), program.folder());
+    const DiskImage after = contentOf(program.folder().toStdString());
+    QCOMPARE(after.size(), std::size_t(6)); // three of them are folders
+    writeImage(all, program.root().toStdString());
+    trySweep(program, cleaning(program, before, after));
 }
 
 AMBERTASK_TEST_MAIN(TestProgramFolderFaults)

@@ -320,7 +320,7 @@ void TestReplacementFaults::aSkinIsAddedWholeOrNotAtAll()
     QVERIFY(QFile::copy(QStringLiteral(AMBERTASK_SHIPPED_SKINS "/Lemon.skf"), skin));
     writeFile(place.path(QStringLiteral("program/Skins")), QStringLiteral("Lemon.skf"), "an older one");
     ScriptedDialogs dialogs;
-    const Skins skins(place.engine.programFolder, dialogs);
+    const Skins skins(ProgramFiles(place.engine.programFolder), dialogs);
     trySweep(place,
         {[&] { return told([&] { skins.add(skin); }); },
             [](const std::string& folder) {

@@ -46,7 +46,7 @@ private:
 
 /// The settings page over a fresh data file, three shipped skins and a registry that only remembers.
 struct SettingsPageUnderTest : TestServices {
-    SettingsPageUnderTest() : skins(database.folder(), dialogs), host(record)
+    SettingsPageUnderTest() : skins(files, dialogs), host(record)
     {
         copySkins(
             database.folder(), {QStringLiteral("Aqua"), QStringLiteral("Lemon"), QStringLiteral("Classic")});

@@ -273,7 +273,7 @@ void TestMaintenancePage::theCriteriaAreReadAgainAfterTheQuestion()
     });
     const FormServices services{own.services.engine, own.services.clock, boxes, own.services.fileDialogs,
         own.services.errors, own.services.shell, own.services.checkerTimer, own.services.imgLstCategories,
-        own.services.longWork, own.services.alwaysOnTop};
+        own.services.longWork, own.services.alwaysOnTop, own.services.files};
     MaintenancePage page(services);
     shown = &page;
     page.prepareFilters();

@@ -15,7 +15,8 @@
 
 /// A program folder with one good skin and one bad one, and a window that is not shown yet.
 struct SkinsUnderTest {
-    SkinsUnderTest() : skins(folder.path(), dialogs)
+    explicit SkinsUnderTest(const QString& shippedFolder = {})
+        : skins(ProgramFiles(folder.path(), shippedFolder), dialogs)
     {
         copySkins(folder.path(), {});
         write("Good", plainSkin("Good", "#010203"));
@@ -24,7 +25,7 @@ struct SkinsUnderTest {
     }
     void write(const QString& name, const QByteArray& content) const
     {
-        writeText(skins.fileOf(name), content);
+        writeText(folder.filePath(QStringLiteral("Skins/%1.skf").arg(name)), content);
     }
     static QColor color() { return QApplication::palette().color(QPalette::Window); }
     void expectReport(const QString& why)
@@ -91,6 +92,8 @@ private slots:
     void noNameIsNoFault();
     void aSkinInAFileOfAnotherNameIsToldToWhoChoosesItAndAtNoStart();
     void aSkinWhoseFileIsGoneIsToldAtTheStart();
+    void shippedSkinsAreFoundAndTheUsersOwnTakeTheirPlace();
+    void theFirstAddedSkinMakesItsFolder();
     void addedFilesAreReadableByOthers();
     void addingRefusesAPathThatIsNoFile();
     void aMenuStaysOpenWhenTheAltOfItsMnemonicComesLate();
@@ -210,7 +213,7 @@ void TestSkins::aFaultBeforeThereIsAWindowWaitsForIt()
 {
     const QTemporaryDir folder;
     ScriptedDialogs dialogs;
-    Skins skins(folder.path(), dialogs);
+    Skins skins(ProgramFiles(folder.path()), dialogs);
     QVERIFY(!skins.wear(QStringLiteral("Aqua")));
     QCoreApplication::processEvents();
     QWidget window;
@@ -237,7 +240,7 @@ void TestSkins::noReportOpensOverAnother()
     PaintingBoxes boxes;
     const QTemporaryDir folder;
     QWidget window;
-    Skins skins(folder.path(), boxes);
+    Skins skins(ProgramFiles(folder.path()), boxes);
     skins.reportOn(&window);
     skins.wear(QStringLiteral("Gone"));
     skins.wear(QStringLiteral("Away"));
@@ -281,6 +284,37 @@ void TestSkins::aSkinWhoseFileIsGoneIsToldAtTheStart()
     test.expectReport(QStringLiteral("Zebra.skf: the file does not exist"));
     QVERIFY(!test.skins.load(QStringLiteral("Zebra"), Skins::Asked::AtStart));
     QVERIFY(test.allReported());
+}
+
+void TestSkins::shippedSkinsAreFoundAndTheUsersOwnTakeTheirPlace()
+{
+    const QTemporaryDir shipped;
+    SkinsUnderTest test(shipped.path());
+    copySkins(shipped.path(), {});
+    const auto ship = [&shipped](const char* name, const QByteArray& content) {
+        writeText(shipped.filePath(QStringLiteral("Skins/%1.skf").arg(QLatin1String(name))), content);
+    };
+    ship("Amber", plainSkin("Amber", "#040506"));
+    ship("Good", plainSkin("Shadowed", "#070809"));
+    QStringList names = test.skins.names();
+    names.sort();
+    QCOMPARE(names.join(u','), QStringLiteral("Amber,Good"));
+    QVERIFY(test.skins.wear(QStringLiteral("Amber")));
+    QCOMPARE(test.color(), QColor(4, 5, 6));
+    QVERIFY(test.skins.wear(QStringLiteral("Good")));
+    QCOMPARE(test.color(), QColor(1, 2, 3));
+}
+
+void TestSkins::theFirstAddedSkinMakesItsFolder()
+{
+    const QTemporaryDir shipped;
+    SkinsUnderTest test(shipped.path());
+    const QString file = test.folder.filePath(QStringLiteral("New.skf"));
+    writeText(file, plainSkin("New"));
+    QVERIFY(QDir(test.folder.filePath(QStringLiteral("Skins"))).removeRecursively());
+    test.skins.add(file);
+    QCOMPARE(test.skins.names(), QStringList{QStringLiteral("New")});
+    QCOMPARE(test.skins.fileOf(QStringLiteral("New")), test.folder.filePath(QStringLiteral("Skins/New.skf")));
 }
 
 void TestSkins::addedFilesAreReadableByOthers()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/ImageList.h"
+#include "platform/ProgramFiles.h"
 #include "platform/Shell.h"
 #include "support/RecordedLongWork.h"
 #include "support/ScriptedDialogs.h"
@@ -57,5 +58,6 @@ struct TestServices {
     RecordedCheckerTimer checkerTimer;
     ImageList images; ///< 21 pictures, all different
     bool alwaysOnTop = false;
+    ProgramFiles files; ///< all in the folder of the database
     FormServices services;
 };

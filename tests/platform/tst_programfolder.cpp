@@ -27,29 +27,17 @@ QString failureOf(const InstalledProgram& program)
 
 } // namespace
 
-class ProgramFolderMadeTest : public TestCase
+class ProgramFolderTest : public TestCase
 {
     Q_OBJECT
 
 private slots:
-    void theFirstStartCopiesAllThatIsShipped()
+    void theFirstStartMakesItWithTheDataAndALink()
     {
         const InstalledProgram program;
         program.start();
-        QCOMPARE(program.namesIn(program.folder()),
-            QStringList({QStringLiteral("Ambertask"), QStringLiteral("Skins"), QStringLiteral("custom icons"),
-                QStringLiteral("data.dat"), QStringLiteral("help.chm"), QStringLiteral("shipped.sha256"),
-                QStringLiteral("sounds")}));
+        QCOMPARE(program.namesInFolder(), QStringLiteral("Ambertask data.dat"));
         QCOMPARE(program.read("data.dat"), QByteArray("the data as shipped"));
-        QCOMPARE(program.read("Skins/Aqua.skf"), QByteArray("aqua 1"));
-        QCOMPARE(program.read("sounds/bell.wav"), QByteArray("bell 1"));
-        QVERIFY(QFileInfo(program.inFolder("custom icons")).isDir());
-    }
-
-    void theFolderHoldsALinkToTheExecutable()
-    {
-        const InstalledProgram program;
-        program.start();
         QCOMPARE(QFile::symLinkTarget(program.inFolder("Ambertask")), program.installation().executable);
     }
 
@@ -64,16 +52,28 @@ private slots:
         QCOMPARE(QFile::permissions(program.userData()) & OfOthers, QFileDevice::Permissions());
     }
 
-    void aReadOnlyTemplateMakesAWritableFolder()
+    void dataThatAreOnlyReadBecomeWritable()
     {
         const InstalledProgram program;
-        for (const char* name : {"data.dat", "Skins/Aqua.skf"}) {
-            const QString file = program.filePath("usr/share/ambertask/") + QLatin1String(name);
-            QVERIFY(QFile::setPermissions(file, QFileDevice::ReadOwner | QFileDevice::ReadOther));
-        }
+        QVERIFY(QFile::setPermissions(
+            program.shippedPath("data.dat"), QFileDevice::ReadOwner | QFileDevice::ReadOther));
         program.start();
         QVERIFY(QFile::permissions(program.inFolder("data.dat")).testFlag(QFileDevice::WriteOwner));
-        QVERIFY(QFile::permissions(program.inFolder("Skins/Aqua.skf")).testFlag(QFileDevice::WriteOwner));
+    }
+
+    void aLaterVersionBringsAndTouchesNothing()
+    {
+        const InstalledProgram program;
+        program.start();
+        program.writeOwn("data.dat", "all my tasks");
+        program.writeOwn("Skins/Aqua.skf", "aqua as I like it");
+        program.ship("data.dat", "the data of version 2");
+        program.ship("Skins/Aqua.skf", "aqua 2");
+        program.ship("help.chm", "help 2");
+        program.start();
+        QCOMPARE(program.namesInFolder(), QStringLiteral("Ambertask Skins data.dat"));
+        QCOMPARE(program.read("data.dat"), QByteArray("all my tasks"));
+        QCOMPARE(program.read("Skins/Aqua.skf"), QByteArray("aqua as I like it"));
     }
 
     void aFolderThatIsThereIsNeverFilled()
@@ -89,11 +89,9 @@ private slots:
         const InstalledProgram program;
         program.start();
         QVERIFY(QFile::remove(program.inFolder("data.dat")));
-        QVERIFY(QFile::remove(program.inFolder("help.chm")));
-        QVERIFY(QFile::remove(program.inFolder("shipped.sha256")));
-        const QStringList before = program.namesIn(program.folder());
+        QVERIFY(QFile::remove(program.inFolder("Ambertask")));
         program.start();
-        QCOMPARE(program.namesIn(program.folder()), before);
+        QCOMPARE(program.namesInFolder(), QString());
     }
 
     void aLinkThatLeadsNowhereIsNotReplaced()
@@ -113,14 +111,14 @@ private slots:
         const InstalledProgram program;
         program.write(program.filePath("home/.local"), "a file where a folder should be");
         const QString failure = failureOf(program);
-        QVERIFY2(failure.contains(program.userData()), qPrintable(failure));
+        QVERIFY2(failure.contains(program.filePath("home/.local")), qPrintable(failure));
     }
 
-    void aTemplateWithoutDataIsReportedAndLeavesNothing()
+    void anInstallationWithoutDataIsReportedAndLeavesNothing()
     {
         const InstalledProgram program;
-        const QString shippedData = program.filePath("usr/share/ambertask/data.dat");
-        QVERIFY(QFile::remove(shippedData));
+        const QString shippedData = program.shippedPath("data.dat");
+        program.drop("data.dat");
         const QString failure = failureOf(program);
         QVERIFY2(failure.contains(shippedData), qPrintable(failure));
         QCOMPARE(program.namesIn(program.userData()), QStringList());
@@ -129,14 +127,12 @@ private slots:
     void whatAnInterruptedFillLeftIsRemoved()
     {
         const InstalledProgram program;
-        program.write(program.userData() + QStringLiteral("/.Ambertask-0123/Skins/Aqua.skf"), "aq");
-        program.write(program.userData() + QStringLiteral("/.Ambertask-file"), "not ours");
+        program.write(program.userData() + QStringLiteral("/.Ambertask-new/data.dat"), "the da");
         program.write(program.userData() + QStringLiteral("/other/file"), "not ours");
         program.start();
         QCOMPARE(program.namesIn(program.userData()),
-            QStringList(
-                {QStringLiteral(".Ambertask-file"), QStringLiteral("Ambertask"), QStringLiteral("other")}));
-        QCOMPARE(program.read("Skins/Aqua.skf"), QByteArray("aqua 1"));
+            QStringList({QStringLiteral("Ambertask"), QStringLiteral("other")}));
+        QCOMPARE(program.read("data.dat"), QByteArray("the data as shipped"));
     }
 
     void ofManyThatStartAtOnceOneFillsTheFolder()
@@ -173,15 +169,46 @@ private slots:
         ::close(handle);
     }
 
-    void withoutATemplateNothingIsMade()
+    void aProgramInItsOwnFolderMakesNone()
     {
         const InstalledProgram program;
         Installation unpacked = program.installation();
-        unpacked.templateFolder.clear();
+        unpacked.shippedFolder.clear();
         makeProgramFolder(unpacked, program.folder());
         QVERIFY(!QFileInfo::exists(program.userData()));
     }
+
+    void theLinkFollowsTheExecutable()
+    {
+        const InstalledProgram program;
+        program.start();
+        Installation moved = program.installation();
+        moved.executable = program.filePath("opt/bin/Ambertask");
+        pointToExecutable(moved, program.folder());
+        QCOMPARE(QFile::symLinkTarget(program.inFolder("Ambertask")), moved.executable);
+        QCOMPARE(program.namesInFolder(), QStringLiteral("Ambertask data.dat"));
+    }
+
+    void aLostLinkComesBackPastOneThatWasCutOff()
+    {
+        const InstalledProgram program;
+        program.start();
+        QVERIFY(QFile::rename(program.inFolder("Ambertask"), program.inFolder(".Ambertask-link")));
+        program.start();
+        QCOMPARE(QFile::symLinkTarget(program.inFolder("Ambertask")), program.installation().executable);
+        QCOMPARE(program.namesInFolder(), QStringLiteral("Ambertask data.dat"));
+    }
+
+    void aProgramThatTheUserPutThereStays()
+    {
+        const InstalledProgram program;
+        program.start();
+        QVERIFY(QFile::remove(program.inFolder("Ambertask")));
+        program.writeOwn("Ambertask", "a copy from an archive");
+        program.start();
+        QCOMPARE(program.read("Ambertask"), QByteArray("a copy from an archive"));
+    }
 };
 
-AMBERTASK_TEST_MAIN(ProgramFolderMadeTest)
-#include "tst_programfolder_made.moc"
+AMBERTASK_TEST_MAIN(ProgramFolderTest)
+#include "tst_programfolder.moc"
