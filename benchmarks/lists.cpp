@@ -20,10 +20,10 @@ QString count(int tasks)
     return QLocale(QLocale::English).toString(tasks);
 }
 
-void benchReading(Bench& bench, TaskFile& file, int tasks, int repetitions)
+void benchReading(Bench& bench, TaskFile& file, int tasks)
 {
     const auto medians = bench.alternate(
-        repetitions, [&] { TaskFilter().tasks(file.engine()); }, [&] { bareScan(file.path(), Join); });
+        11, [&] { TaskFilter().tasks(file.engine()); }, [&] { bareScan(file.path(), Join); });
     bench.ratio(QStringLiteral("GetTasks, all of %1 tasks; bare scan").arg(count(tasks)), medians, 1.15);
 }
 
@@ -122,7 +122,7 @@ void benchMemory(Bench& bench, TaskFile& file, int tasks)
         showWhole(shown);
         after = anonymousBytes();
     }
-    bench.value(QStringLiteral("Memory of %1 listed tasks").arg(count(tasks)), (after - before) / 1e6, 45,
+    bench.value(QStringLiteral("Memory of %1 listed tasks").arg(count(tasks)), (after - before) / 1e6, 15,
         QStringLiteral("MB"));
 }
 
@@ -153,7 +153,7 @@ private:
 
 void benchScrolling(Bench& bench)
 {
-    const int many = bench.size(1'000'000, 1000);
+    const int many = bench.size(32'767, 1000);
     const int few = bench.size(1000, 500);
     const int frames = bench.size(100, 4);
     FrameMaker ours(many);
@@ -172,18 +172,13 @@ int main(int argc, char** argv)
     const QApplication application(argc, argv);
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     Bench bench(argc, argv);
-    const int tasks = bench.size(100'000, 1000);
+    const int tasks = bench.size(32'767, 1000);
     TaskFile file({tasks, 50});
-    benchReading(bench, file, tasks, 11);
+    benchReading(bench, file, tasks);
     benchFilters(bench, file);
     benchNames(bench);
     benchShowing(bench, file, tasks);
     benchMemory(bench, file, tasks);
-    {
-        const int million = bench.size(1'000'000, 2000);
-        TaskFile largest({million});
-        benchReading(bench, largest, million, 5);
-    }
     benchScrolling(bench);
     return 0;
 }

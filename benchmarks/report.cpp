@@ -5,6 +5,7 @@
 #include "platform/printing/PageOutput.h"
 #include "report/ReportLayout.h"
 #include "support/Bench.h"
+#include "support/LongestStep.h"
 #include "support/RecordedReportWindow.h"
 #include "support/TaskFile.h"
 #include "support/TestServices.h"
@@ -31,7 +32,7 @@ std::shared_ptr<const ReportContent> contentOf(const TaskFile& file)
     TestServices world;
     FormServices services{file.engine(), *file.engine().clock, world.services.messages,
         world.services.fileDialogs, world.services.errors, world.services.shell, world.services.checkerTimer,
-        world.images, world.services.longWork, [] { return false; }, world.files};
+        world.images, [] { return false; }, world.files};
     RecordedReportWindow* window = nullptr;
     drTasks report(services, [&window](ReportHost&) {
         auto made = std::make_unique<RecordedReportWindow>();
@@ -79,6 +80,24 @@ public:
     double bytes = 0;
 };
 
+/// A report of a full house never holds up the windows for long.
+void benchSteps(Bench& bench, const QString& file)
+{
+    constexpr double Longest = 150; // ms
+    const auto content = contentOf(TaskFile({bench.size(32'767, 20)}));
+    LongestStep ofLayout;
+    const QPageLayout page(QPageSize(QPageSize::A4), QPageLayout::Portrait, {}, QPageLayout::Millimeter);
+    const ReportLayout layout(content, printableArea(page), Qt::LeftToRight, &ofLayout);
+    bench.value(QStringLiteral("32,767 tasks: longest step of the report's layout"), ofLayout.milliseconds(),
+        Longest, QStringLiteral("ms"));
+    LongestStep ofExport;
+    if (writePdf({file, QStringLiteral("Tasks Report"), page}, layout, allPages(layout), &ofExport)) {
+        qFatal("the report could not be exported");
+    }
+    bench.value(QStringLiteral("32,767 tasks: longest step of the report's printing and PDF"),
+        ofExport.milliseconds(), Longest, QStringLiteral("ms"));
+}
+
 /// By how much the memory grows in an export, where it is largest, in MB.
 double growth(const std::shared_ptr<const ReportContent>& content, const QString& file)
 {
@@ -116,5 +135,6 @@ int main(int argc, char** argv)
     foreign.nameWithoutEnd(1, bench.size(5'000'000, 50'000));
     bench.value(QStringLiteral("A name of 10 MB: the report read and its first pages painted"),
         bench.median(5, [&] { paintFirstPages(contentOf(foreign)); }), 200, QStringLiteral("ms"));
+    benchSteps(bench, file);
     return 0;
 }

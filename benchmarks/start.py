@@ -14,7 +14,7 @@ import zlib
 
 import rig
 
-TASKS = (10, 100) if rig.SMOKE else (10, 10_000)
+TASKS = (10, 100) if rig.SMOKE else (10, 32_767)
 STARTS = 1 if rig.SMOKE else 25
 PICTURES = 2 if rig.SMOKE else 60
 PICTURE_EDGE = 100 if rig.SMOKE else 1500

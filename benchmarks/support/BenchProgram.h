@@ -17,9 +17,9 @@
 /// The whole program over the data file of a benchmark, on a machine that only remembers, its window on the
 /// screen.
 struct BenchProgram {
-    explicit BenchProgram(TaskFile& file)
-        : program(Machine{
-            file.engine(), dialogs, dialogs, dialogs, shell, registry, {}, [] { return true; }, {}, {}})
+    explicit BenchProgram(TaskFile& file, ReportWindowFactory reportWindow = {})
+        : program(Machine{file.engine(), dialogs, dialogs, dialogs, shell, registry, {}, [] { return true; },
+            {}, std::move(reportWindow)})
     {
         QDir(file.folder()).mkpath(QStringLiteral("Skins"));
         for (const char* skin : {"Aqua", "Midnight"}) {
@@ -35,9 +35,10 @@ struct BenchProgram {
     BenchProgram(const BenchProgram&) = delete;
     BenchProgram& operator=(const BenchProgram&) = delete;
 
-    GridView* list()
+    GridView* list() { return control<GridView>(program.mainWindow(), "grdTasks"); }
+    template <typename Control> static Control* control(const QWidget& window, const char* name)
     {
-        return program.mainWindow().tasksPage()->findChild<GridView*>(QStringLiteral("grdTasks"));
+        return window.findChild<Control*>(QLatin1String(name));
     }
 
     ScriptedDialogs dialogs;

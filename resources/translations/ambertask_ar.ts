@@ -73,10 +73,6 @@
         <source>Are you sure you want to delete &apos;%1&apos; category, all tasks under this category will be deleted?</source>
         <translation>هل تريد بالتأكيد حذف الفئة «%1»؟ ستُحذف معها كل المهام التابعة لها.</translation>
     </message>
-    <message>
-        <source>Deleting the category...</source>
-        <translation>جارٍ حذف الفئة…</translation>
-    </message>
 </context>
 <context>
     <name>CategoryInput</name>
@@ -526,10 +522,6 @@
         <translation>جارٍ استعادة البيانات…</translation>
     </message>
     <message>
-        <source>Counting the tasks...</source>
-        <translation>جارٍ عدّ المهام…</translation>
-    </message>
-    <message>
         <source>Deleting the tasks...</source>
         <translation>جارٍ حذف المهام…</translation>
     </message>
@@ -762,6 +754,10 @@
         <source>PDF saved to &quot;%1&quot;</source>
         <translation>حُفظ ملف PDF في «%1»</translation>
     </message>
+    <message>
+        <source>Preparing the report...</source>
+        <translation>جارٍ تحضير التقرير…</translation>
+    </message>
 </context>
 <context>
     <name>Printing</name>
@@ -776,10 +772,6 @@
 </context>
 <context>
     <name>Program</name>
-    <message>
-        <source>Loading the tasks...</source>
-        <translation>جارٍ تحميل المهام…</translation>
-    </message>
     <message>
         <source>The task &quot;%1&quot; was added; the filters do not show it</source>
         <translation>أُضيفت المهمة «%1»؛ المرشّحات لا تعرضها</translation>
@@ -1071,10 +1063,6 @@
         <translation>أصبح المظهر الجديد متاحًا الآن في قائمة المظاهر.</translation>
     </message>
     <message>
-        <source>Saving the settings...</source>
-        <translation>جارٍ حفظ الإعدادات…</translation>
-    </message>
-    <message>
         <source>The skin was not added: %1</source>
         <translation>لم يُضف المظهر: %1</translation>
     </message>
@@ -1341,14 +1329,6 @@
         <source>Are you sure you want to delete this task?</source>
         <translation>هل تريد بالتأكيد حذف هذه المهمة؟</translation>
     </message>
-    <message>
-        <source>Loading the tasks...</source>
-        <translation>جارٍ تحميل المهام…</translation>
-    </message>
-    <message>
-        <source>Deleting the task...</source>
-        <translation>جارٍ حذف المهمة…</translation>
-    </message>
 </context>
 <context>
     <name>TopicView</name>
@@ -1533,10 +1513,6 @@
         <source>The report cannot be shown: the module &quot;ambertask_report&quot; is missing from the program&apos;s folder or damaged.</source>
         <translation>تعذّر عرض التقرير: الوحدة «ambertask_report» مفقودة من مجلد البرنامج أو تالفة.</translation>
     </message>
-    <message>
-        <source>Preparing the report...</source>
-        <translation>جارٍ تحضير التقرير…</translation>
-    </message>
 </context>
 <context>
     <name>frmAbout</name>
@@ -1658,10 +1634,6 @@
         <source>Fills in a usual moment; &quot;Remind me later&quot; then puts the reminder off</source>
         <translation>يملأ وقتًا معتادًا؛ ثم يؤجل «ذكّرني لاحقًا» التذكير</translation>
     </message>
-    <message>
-        <source>Saving the reminders...</source>
-        <translation>جارٍ حفظ التذكيرات…</translation>
-    </message>
 </context>
 <context>
     <name>frmCategoryDetails</name>
@@ -1749,10 +1721,6 @@
         <source>Please browse for a custom icon</source>
         <translation>يُرجى اختيار أيقونة مخصصة</translation>
     </message>
-    <message>
-        <source>Saving the category...</source>
-        <translation>جارٍ حفظ الفئة…</translation>
-    </message>
 </context>
 <context>
     <name>frmMain</name>
@@ -1811,10 +1779,6 @@
     <message>
         <source>Ambertaks is still running..</source>
         <translation>لا يزال Ambertask قيد التشغيل.</translation>
-    </message>
-    <message>
-        <source>Loading the tasks...</source>
-        <translation>جارٍ تحميل المهام…</translation>
     </message>
 </context>
 <context>
@@ -1982,10 +1946,6 @@
     <message>
         <source>Pro&amp;gram:</source>
         <translation>ال&amp;برنامج:</translation>
-    </message>
-    <message>
-        <source>Saving the task...</source>
-        <translation>جارٍ حفظ المهمة…</translation>
     </message>
 </context>
 <context>

@@ -73,10 +73,6 @@
         <source>Are you sure you want to delete &apos;%1&apos; category, all tasks under this category will be deleted?</source>
         <translation>Möchten Sie die Kategorie „%1“ wirklich löschen? Alle Aufgaben dieser Kategorie werden mitgelöscht.</translation>
     </message>
-    <message>
-        <source>Deleting the category...</source>
-        <translation>Die Kategorie wird gelöscht…</translation>
-    </message>
 </context>
 <context>
     <name>CategoryInput</name>
@@ -510,10 +506,6 @@
         <translation>Die Daten werden wiederhergestellt…</translation>
     </message>
     <message>
-        <source>Counting the tasks...</source>
-        <translation>Die Aufgaben werden gezählt…</translation>
-    </message>
-    <message>
         <source>Deleting the tasks...</source>
         <translation>Die Aufgaben werden gelöscht…</translation>
     </message>
@@ -738,6 +730,10 @@
         <source>PDF saved to &quot;%1&quot;</source>
         <translation>PDF gespeichert als „%1“</translation>
     </message>
+    <message>
+        <source>Preparing the report...</source>
+        <translation>Der Bericht wird vorbereitet…</translation>
+    </message>
 </context>
 <context>
     <name>Printing</name>
@@ -752,10 +748,6 @@
 </context>
 <context>
     <name>Program</name>
-    <message>
-        <source>Loading the tasks...</source>
-        <translation>Die Aufgaben werden geladen…</translation>
-    </message>
     <message>
         <source>The task &quot;%1&quot; was added; the filters do not show it</source>
         <translation>Die Aufgabe „%1“ wurde hinzugefügt; die Filter zeigen sie nicht</translation>
@@ -1043,10 +1035,6 @@ ein Fehler auf: %3.</translation>
         <translation>Der neue Skin steht jetzt in der Liste der Skins zur Verfügung.</translation>
     </message>
     <message>
-        <source>Saving the settings...</source>
-        <translation>Die Einstellungen werden gespeichert…</translation>
-    </message>
-    <message>
         <source>The skin was not added: %1</source>
         <translation>Der Skin wurde nicht hinzugefügt: %1</translation>
     </message>
@@ -1313,14 +1301,6 @@ ein Fehler auf: %3.</translation>
         <source>Are you sure you want to delete this task?</source>
         <translation>Möchten Sie diese Aufgabe wirklich löschen?</translation>
     </message>
-    <message>
-        <source>Loading the tasks...</source>
-        <translation>Die Aufgaben werden geladen…</translation>
-    </message>
-    <message>
-        <source>Deleting the task...</source>
-        <translation>Die Aufgabe wird gelöscht…</translation>
-    </message>
 </context>
 <context>
     <name>TopicView</name>
@@ -1501,10 +1481,6 @@ ein Fehler auf: %3.</translation>
         <source>The report cannot be shown: the module &quot;ambertask_report&quot; is missing from the program&apos;s folder or damaged.</source>
         <translation>Der Bericht kann nicht angezeigt werden: Das Modul „ambertask_report“ fehlt im Programmordner oder ist beschädigt.</translation>
     </message>
-    <message>
-        <source>Preparing the report...</source>
-        <translation>Der Bericht wird vorbereitet…</translation>
-    </message>
 </context>
 <context>
     <name>frmAbout</name>
@@ -1622,10 +1598,6 @@ ein Fehler auf: %3.</translation>
         <source>Fills in a usual moment; &quot;Remind me later&quot; then puts the reminder off</source>
         <translation>Trägt einen üblichen Zeitpunkt ein; „Später erinnern“ verschiebt dann die Erinnerung</translation>
     </message>
-    <message>
-        <source>Saving the reminders...</source>
-        <translation>Die Erinnerungen werden gespeichert…</translation>
-    </message>
 </context>
 <context>
     <name>frmCategoryDetails</name>
@@ -1713,10 +1685,6 @@ ein Fehler auf: %3.</translation>
         <source>Please browse for a custom icon</source>
         <translation>Bitte wählen Sie ein eigenes Symbol aus</translation>
     </message>
-    <message>
-        <source>Saving the category...</source>
-        <translation>Die Kategorie wird gespeichert…</translation>
-    </message>
 </context>
 <context>
     <name>frmMain</name>
@@ -1775,10 +1743,6 @@ ein Fehler auf: %3.</translation>
     <message>
         <source>Ambertaks is still running..</source>
         <translation>Ambertask läuft weiter.</translation>
-    </message>
-    <message>
-        <source>Loading the tasks...</source>
-        <translation>Die Aufgaben werden geladen…</translation>
     </message>
 </context>
 <context>
@@ -1946,10 +1910,6 @@ ein Fehler auf: %3.</translation>
     <message>
         <source>Pro&amp;gram:</source>
         <translation>P&amp;rogramm:</translation>
-    </message>
-    <message>
-        <source>Saving the task...</source>
-        <translation>Die Aufgabe wird gespeichert…</translation>
     </message>
 </context>
 <context>

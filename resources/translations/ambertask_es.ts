@@ -73,10 +73,6 @@
         <source>Are you sure you want to delete &apos;%1&apos; category, all tasks under this category will be deleted?</source>
         <translation>¿Seguro que desea eliminar la categoría «%1»? También se eliminarán todas sus tareas.</translation>
     </message>
-    <message>
-        <source>Deleting the category...</source>
-        <translation>Eliminando la categoría…</translation>
-    </message>
 </context>
 <context>
     <name>CategoryInput</name>
@@ -510,10 +506,6 @@
         <translation>Restaurando los datos…</translation>
     </message>
     <message>
-        <source>Counting the tasks...</source>
-        <translation>Contando las tareas…</translation>
-    </message>
-    <message>
         <source>Deleting the tasks...</source>
         <translation>Eliminando las tareas…</translation>
     </message>
@@ -738,6 +730,10 @@
         <source>PDF saved to &quot;%1&quot;</source>
         <translation>PDF guardado en «%1»</translation>
     </message>
+    <message>
+        <source>Preparing the report...</source>
+        <translation>Preparando el informe…</translation>
+    </message>
 </context>
 <context>
     <name>Printing</name>
@@ -752,10 +748,6 @@
 </context>
 <context>
     <name>Program</name>
-    <message>
-        <source>Loading the tasks...</source>
-        <translation>Cargando las tareas…</translation>
-    </message>
     <message>
         <source>The task &quot;%1&quot; was added; the filters do not show it</source>
         <translation>Se ha añadido la tarea «%1»; los filtros no la muestran</translation>
@@ -1043,10 +1035,6 @@
         <translation>El tema nuevo ya está disponible en la lista de temas.</translation>
     </message>
     <message>
-        <source>Saving the settings...</source>
-        <translation>Guardando la configuración…</translation>
-    </message>
-    <message>
         <source>The skin was not added: %1</source>
         <translation>No se ha añadido el tema: %1</translation>
     </message>
@@ -1313,14 +1301,6 @@
         <source>Are you sure you want to delete this task?</source>
         <translation>¿Seguro que desea eliminar esta tarea?</translation>
     </message>
-    <message>
-        <source>Loading the tasks...</source>
-        <translation>Cargando las tareas…</translation>
-    </message>
-    <message>
-        <source>Deleting the task...</source>
-        <translation>Eliminando la tarea…</translation>
-    </message>
 </context>
 <context>
     <name>TopicView</name>
@@ -1501,10 +1481,6 @@
         <source>The report cannot be shown: the module &quot;ambertask_report&quot; is missing from the program&apos;s folder or damaged.</source>
         <translation>No se puede mostrar el informe: el módulo «ambertask_report» falta en la carpeta del programa o está dañado.</translation>
     </message>
-    <message>
-        <source>Preparing the report...</source>
-        <translation>Preparando el informe…</translation>
-    </message>
 </context>
 <context>
     <name>frmAbout</name>
@@ -1622,10 +1598,6 @@
         <source>Fills in a usual moment; &quot;Remind me later&quot; then puts the reminder off</source>
         <translation>Rellena un momento habitual; «Recordar más tarde» aplaza después el recordatorio</translation>
     </message>
-    <message>
-        <source>Saving the reminders...</source>
-        <translation>Guardando los recordatorios…</translation>
-    </message>
 </context>
 <context>
     <name>frmCategoryDetails</name>
@@ -1713,10 +1685,6 @@
         <source>Please browse for a custom icon</source>
         <translation>Seleccione un icono personalizado</translation>
     </message>
-    <message>
-        <source>Saving the category...</source>
-        <translation>Guardando la categoría…</translation>
-    </message>
 </context>
 <context>
     <name>frmMain</name>
@@ -1775,10 +1743,6 @@
     <message>
         <source>Ambertaks is still running..</source>
         <translation>Ambertask sigue en ejecución.</translation>
-    </message>
-    <message>
-        <source>Loading the tasks...</source>
-        <translation>Cargando las tareas…</translation>
     </message>
 </context>
 <context>
@@ -1946,10 +1910,6 @@
     <message>
         <source>Pro&amp;gram:</source>
         <translation>Pro&amp;grama:</translation>
-    </message>
-    <message>
-        <source>Saving the task...</source>
-        <translation>Guardando la tarea…</translation>
     </message>
 </context>
 <context>

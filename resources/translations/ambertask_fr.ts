@@ -73,10 +73,6 @@
         <source>Are you sure you want to delete &apos;%1&apos; category, all tasks under this category will be deleted?</source>
         <translation>Voulez-vous vraiment supprimer la catégorie «&#xa0;%1&#xa0;»&#x202f;? Toutes ses tâches seront également supprimées.</translation>
     </message>
-    <message>
-        <source>Deleting the category...</source>
-        <translation>Suppression de la catégorie en cours…</translation>
-    </message>
 </context>
 <context>
     <name>CategoryInput</name>
@@ -510,10 +506,6 @@
         <translation>Restauration des données en cours…</translation>
     </message>
     <message>
-        <source>Counting the tasks...</source>
-        <translation>Comptage des tâches en cours…</translation>
-    </message>
-    <message>
         <source>Deleting the tasks...</source>
         <translation>Suppression des tâches en cours…</translation>
     </message>
@@ -738,6 +730,10 @@
         <source>PDF saved to &quot;%1&quot;</source>
         <translation>PDF enregistré dans «&#xa0;%1&#xa0;»</translation>
     </message>
+    <message>
+        <source>Preparing the report...</source>
+        <translation>Préparation du rapport en cours…</translation>
+    </message>
 </context>
 <context>
     <name>Printing</name>
@@ -752,10 +748,6 @@
 </context>
 <context>
     <name>Program</name>
-    <message>
-        <source>Loading the tasks...</source>
-        <translation>Chargement des tâches en cours…</translation>
-    </message>
     <message>
         <source>The task &quot;%1&quot; was added; the filters do not show it</source>
         <translation>La tâche «&#xa0;%1&#xa0;» a été ajoutée&#xa0;; les filtres ne l’affichent pas</translation>
@@ -1043,10 +1035,6 @@
         <translation>Le nouveau thème est maintenant disponible dans la liste des thèmes.</translation>
     </message>
     <message>
-        <source>Saving the settings...</source>
-        <translation>Enregistrement des paramètres en cours…</translation>
-    </message>
-    <message>
         <source>The skin was not added: %1</source>
         <translation>Le thème n’a pas été ajouté&#xa0;: %1</translation>
     </message>
@@ -1313,14 +1301,6 @@
         <source>Are you sure you want to delete this task?</source>
         <translation>Voulez-vous vraiment supprimer cette tâche&#x202f;?</translation>
     </message>
-    <message>
-        <source>Loading the tasks...</source>
-        <translation>Chargement des tâches en cours…</translation>
-    </message>
-    <message>
-        <source>Deleting the task...</source>
-        <translation>Suppression de la tâche en cours…</translation>
-    </message>
 </context>
 <context>
     <name>TopicView</name>
@@ -1501,10 +1481,6 @@
         <source>The report cannot be shown: the module &quot;ambertask_report&quot; is missing from the program&apos;s folder or damaged.</source>
         <translation>Le rapport ne peut pas être affiché&#xa0;: le module «&#xa0;ambertask_report&#xa0;» est absent du dossier du programme ou endommagé.</translation>
     </message>
-    <message>
-        <source>Preparing the report...</source>
-        <translation>Préparation du rapport en cours…</translation>
-    </message>
 </context>
 <context>
     <name>frmAbout</name>
@@ -1622,10 +1598,6 @@
         <source>Fills in a usual moment; &quot;Remind me later&quot; then puts the reminder off</source>
         <translation>Remplit un moment habituel&#x202f;; «&#xa0;Me le rappeler plus tard&#xa0;» reporte ensuite le rappel</translation>
     </message>
-    <message>
-        <source>Saving the reminders...</source>
-        <translation>Enregistrement des rappels en cours…</translation>
-    </message>
 </context>
 <context>
     <name>frmCategoryDetails</name>
@@ -1713,10 +1685,6 @@
         <source>Please browse for a custom icon</source>
         <translation>Veuillez choisir une icône personnalisée</translation>
     </message>
-    <message>
-        <source>Saving the category...</source>
-        <translation>Enregistrement de la catégorie en cours…</translation>
-    </message>
 </context>
 <context>
     <name>frmMain</name>
@@ -1775,10 +1743,6 @@
     <message>
         <source>Ambertaks is still running..</source>
         <translation>Ambertask est toujours en cours d’exécution.</translation>
-    </message>
-    <message>
-        <source>Loading the tasks...</source>
-        <translation>Chargement des tâches en cours…</translation>
     </message>
 </context>
 <context>
@@ -1946,10 +1910,6 @@
     <message>
         <source>Pro&amp;gram:</source>
         <translation>Pro&amp;gramme&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Saving the task...</source>
-        <translation>Enregistrement de la tâche en cours…</translation>
     </message>
 </context>
 <context>

@@ -73,10 +73,6 @@
         <source>Are you sure you want to delete &apos;%1&apos; category, all tasks under this category will be deleted?</source>
         <translation>确定要删除类别“%1”吗？该类别下的所有任务也将被删除。</translation>
     </message>
-    <message>
-        <source>Deleting the category...</source>
-        <translation>正在删除类别…</translation>
-    </message>
 </context>
 <context>
     <name>CategoryInput</name>
@@ -506,10 +502,6 @@
         <translation>正在还原数据…</translation>
     </message>
     <message>
-        <source>Counting the tasks...</source>
-        <translation>正在统计任务…</translation>
-    </message>
-    <message>
         <source>Deleting the tasks...</source>
         <translation>正在删除任务…</translation>
     </message>
@@ -732,6 +724,10 @@
         <source>PDF saved to &quot;%1&quot;</source>
         <translation>PDF 已保存到“%1”</translation>
     </message>
+    <message>
+        <source>Preparing the report...</source>
+        <translation>正在准备报表…</translation>
+    </message>
 </context>
 <context>
     <name>Printing</name>
@@ -746,10 +742,6 @@
 </context>
 <context>
     <name>Program</name>
-    <message>
-        <source>Loading the tasks...</source>
-        <translation>正在加载任务…</translation>
-    </message>
     <message>
         <source>The task &quot;%1&quot; was added; the filters do not show it</source>
         <translation>已添加任务“%1”；当前筛选条件不显示它</translation>
@@ -1036,10 +1028,6 @@
         <translation>新皮肤现在可以在皮肤列表中选用。</translation>
     </message>
     <message>
-        <source>Saving the settings...</source>
-        <translation>正在保存设置…</translation>
-    </message>
-    <message>
         <source>The skin was not added: %1</source>
         <translation>未添加皮肤：%1</translation>
     </message>
@@ -1306,14 +1294,6 @@
         <source>Are you sure you want to delete this task?</source>
         <translation>确定要删除此任务吗？</translation>
     </message>
-    <message>
-        <source>Loading the tasks...</source>
-        <translation>正在加载任务…</translation>
-    </message>
-    <message>
-        <source>Deleting the task...</source>
-        <translation>正在删除任务…</translation>
-    </message>
 </context>
 <context>
     <name>TopicView</name>
@@ -1493,10 +1473,6 @@
         <source>The report cannot be shown: the module &quot;ambertask_report&quot; is missing from the program&apos;s folder or damaged.</source>
         <translation>无法显示报表：程序文件夹中缺少模块“ambertask_report”，或该模块已损坏。</translation>
     </message>
-    <message>
-        <source>Preparing the report...</source>
-        <translation>正在准备报表…</translation>
-    </message>
 </context>
 <context>
     <name>frmAbout</name>
@@ -1613,10 +1589,6 @@
         <source>Fills in a usual moment; &quot;Remind me later&quot; then puts the reminder off</source>
         <translation>填入一个常用时间；再按“稍后提醒”即可推迟提醒</translation>
     </message>
-    <message>
-        <source>Saving the reminders...</source>
-        <translation>正在保存提醒…</translation>
-    </message>
 </context>
 <context>
     <name>frmCategoryDetails</name>
@@ -1704,10 +1676,6 @@
         <source>Please browse for a custom icon</source>
         <translation>请选择一个自定义图标</translation>
     </message>
-    <message>
-        <source>Saving the category...</source>
-        <translation>正在保存类别…</translation>
-    </message>
 </context>
 <context>
     <name>frmMain</name>
@@ -1766,10 +1734,6 @@
     <message>
         <source>Ambertaks is still running..</source>
         <translation>Ambertask 仍在运行。</translation>
-    </message>
-    <message>
-        <source>Loading the tasks...</source>
-        <translation>正在加载任务…</translation>
     </message>
 </context>
 <context>
@@ -1937,10 +1901,6 @@
     <message>
         <source>Pro&amp;gram:</source>
         <translation>程序(&amp;G)：</translation>
-    </message>
-    <message>
-        <source>Saving the task...</source>
-        <translation>正在保存任务…</translation>
     </message>
 </context>
 <context>

@@ -49,13 +49,12 @@ private:
 } // namespace
 
 Program::Program(const Machine& machine)
-    : m_machine(machine), m_longWork(*this, machine.longWorkTime), m_engine(machine.engine),
+    : m_machine(machine), m_engine(machine.engine),
       m_files(machine.engine.programFolder, machine.shippedFolder),
       m_services{m_engine, *machine.engine.clock, machine.messages, machine.fileDialogs, machine.errors,
-          machine.shell, *this, m_images, m_longWork, [this] { return m_settings.always_on_top; }, m_files},
+          machine.shell, *this, m_images, [this] { return m_settings.always_on_top; }, m_files},
       m_skins(m_files, machine.messages), m_helpViewer(machine.helpWindow, m_services)
 {
-    m_engine.progress = &m_longWork;
     m_engine.unreadable = &m_unreadable;
     appendFixedPictures(m_images);
 }
@@ -77,9 +76,7 @@ void Program::start(const std::function<bool()>& noteFirstStart)
     if (isSkinLoaded) {
         m_skins.apply();
     }
-    m_isStarting = true;
     m_main->Form_Load();
-    m_isStarting = false;
     m_helpViewer.SetHelpFile(m_files.find(QStringLiteral("Ambertask1.1.chm")));
     // A program that starts hidden, or whose window is never activated, has to remind all the same. A window
     // that is about to appear comes first: mapped later, it would cover the alert.
@@ -88,9 +85,6 @@ void Program::start(const std::function<bool()>& noteFirstStart)
 
 void Program::onFirstPainted()
 {
-    if (owes(&Program::onFirstPainted)) {
-        return;
-    }
     loadDialogs();
     // Behind the loading of the dialogs: an open box is not to hold back the checker.
     m_hasBeenSeen = true;
@@ -153,9 +147,6 @@ void Program::connectHelp(const MainWindowPages& pages)
 
 void Program::loadDialogs()
 {
-    if (owes(&Program::loadDialogs)) {
-        return;
-    }
     // Once: a dialog that fails now is loaded by its first use.
     if (std::exchange(m_dialogsLoaded, true)) {
         return;

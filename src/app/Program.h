@@ -6,7 +6,6 @@
 #include "platform/ElidedTextTips.h"
 #include "platform/HelperProcess.h"
 #include "platform/ImageList.h"
-#include "platform/LongWork.h"
 #include "platform/ProgramFiles.h"
 #include "platform/WaveBackend.h"
 #include "reminders/AlertsHost.h"
@@ -42,7 +41,6 @@ struct Machine {
     std::function<bool()> hasNotificationArea;
     HelpWindowFactory helpWindow;
     ReportWindowFactory reportWindow;
-    LongWorkTime longWorkTime = LongWorkTime::real();
     /// What reads pictures; without it they are read between two events.
     ProgramPath pictureReader = {};
     /// Where skins, sounds and help lie that are not in the program folder; empty where none lie elsewhere.
@@ -56,8 +54,7 @@ class Program final : public QObject,
                       private TaskDetailsHost,
                       private AlertsHost,
                       private SettingsPageHost,
-                      private CheckerTimer,
-                      private LongWorkHost
+                      private CheckerTimer
 {
     Q_OBJECT
 
@@ -66,13 +63,12 @@ public:
     ~Program() override;
 
     /// Reads the settings, applies the skin and loads the main window; registers the program with the session
-    /// when `noteFirstStart`, asked once the settings are read, answers true. Throws RuntimeError; Cancelled
-    /// when the program ends meanwhile.
+    /// when `noteFirstStart`, asked once the settings are read, answers true. Throws RuntimeError.
     void start(const std::function<bool()>& noteFirstStart);
     /// Removes the tray icon and asks to leave the event loop; open message boxes are cancelled by that.
     void end();
     /// `end()` has been called.
-    bool isEnding() const override { return m_ending; }
+    bool isEnding() const { return m_ending; }
     /// Unloads the forms in their order. After `end()` and outside of every handler.
     void unload();
 
@@ -111,6 +107,8 @@ private:
     void forgetRecords();
     /// Once somebody has seen the main window: names what has been left out of its lists since the last time.
     void tellUnreadableRecords();
+    /// The window at which somebody waits; null when none is on the screen.
+    QWidget* waitingWindow() const;
     void reloadCategoryCombos();
     void focusCategoryList();
 
@@ -129,18 +127,10 @@ private:
     void LoadTasks() override;
     // CheckerTimer
     void setCheckerEnabled(bool enabled) override;
-    // LongWorkHost
-    bool isWaitedFor() const override;
-    QWidget* waitingWindow() const override;
-    void setBackgroundHeld(bool held) override;
-    using Duty = void (Program::*)();
-    /// Whether events are handled in the midst of work: then `duty` is done after it.
-    bool owes(Duty duty);
 
     Machine m_machine;
-    LongWork m_longWork;
     UnreadableRecords m_unreadable;
-    DatabaseEngine m_engine; ///< of the machine; it tells the long work and the unreadable records
+    DatabaseEngine m_engine; ///< of the machine; it tells the unreadable records
     ProgramFiles m_files;
     ImageList m_images;
     SettingsRecord m_settings;
@@ -154,11 +144,8 @@ private:
     std::unique_ptr<frmAlerts> m_alerts;
     std::unique_ptr<frmAbout> m_about;
     std::unique_ptr<drTasks> m_report;
-    bool m_isStarting = false;
     bool m_hasBeenSeen = false;
     bool m_dialogsLoaded = false;
-    bool m_holdsBackground = false;
     bool m_taskDialogHasKeyboard = false; ///< as it was when its task was stored
-    std::vector<Duty> m_owed;
     bool m_ending = false;
 };

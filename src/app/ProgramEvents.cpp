@@ -13,8 +13,7 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
-#include <QTimer>
-#include <utility>
+#include <QSignalBlocker>
 
 // What one part of the program has to hear of another.
 
@@ -93,7 +92,7 @@ void Program::focusCategoryList()
 
 void Program::tellUnreadableRecords()
 {
-    if (!m_hasBeenSeen || m_ending || owes(&Program::tellUnreadableRecords)) {
+    if (!m_hasBeenSeen || m_ending) {
         return;
     }
     if (m_unreadable.hasCategory()) {
@@ -124,31 +123,24 @@ void Program::onDataRestored()
 {
     forgetRecords();
     try {
-        // The list is built anew more than once: one box for all of it.
-        m_longWork.run(tr("Loading the tasks..."), LongWork::Kind::Reading, [this] {
+        {
+            // What it has to leave out is told after the second loading, which follows.
+            const QSignalBlocker hushed(m_main->tasksPage());
             m_main->LoadTasks();
-            m_main->LoadCategories();
-            reloadCategoryCombos();
-            m_main->saveSettings();
-        });
+        }
+        m_main->LoadCategories();
+        reloadCategoryCombos();
+        // The two loadings of a long list are not to be one step.
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+        m_main->saveSettings();
     } catch (const RuntimeError&) {
         // What fails after the file has been replaced ends the operation without a word.
         return;
     }
 }
 
-// What long work asks.
-
-bool Program::isWaitedFor() const
-{
-    return m_isStarting ? !m_settings.minimize_on_start : waitingWindow() != nullptr;
-}
-
 QWidget* Program::waitingWindow() const
 {
-    if (m_isStarting) {
-        return nullptr;
-    }
     if (QWidget* active = QApplication::activeWindow(); active != nullptr) {
         return active;
     }
@@ -156,27 +148,6 @@ QWidget* Program::waitingWindow() const
         return m_main.get();
     }
     return m_alerts != nullptr && m_alerts->isVisible() ? m_alerts.get() : nullptr;
-}
-
-void Program::setBackgroundHeld(bool held)
-{
-    m_holdsBackground = held;
-    if (m_alerts != nullptr) {
-        m_alerts->holdChecks(held);
-    }
-    if (!held) {
-        for (const Duty duty : std::exchange(m_owed, {})) {
-            QTimer::singleShot(0, this, duty);
-        }
-    }
-}
-
-bool Program::owes(Duty duty)
-{
-    if (m_holdsBackground) {
-        m_owed.push_back(duty);
-    }
-    return m_holdsBackground;
 }
 
 void Program::tellUnreadablePictures()

@@ -3,7 +3,6 @@
 #include "platform/Clock.h"
 #include "platform/ErrorReport.h"
 #include "platform/GridView.h"
-#include "platform/LongWork.h"
 #include "platform/MessageBoxes.h"
 #include "platform/WindowPlacement.h"
 #include "ui/ComboBox.h"
@@ -19,7 +18,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <optional>
 
@@ -219,21 +217,6 @@ int TasksPage::selectedCategoryIndex() const
 
 void TasksPage::LoadTasks()
 {
-    if (m_isLoading) {
-        m_loadsAgain = true;
-        return;
-    }
-    const QScopedValueRollback loading(m_isLoading, true);
-    do {
-        m_loadsAgain = false;
-        // Not to be cancelled: the list would show other tasks than its filters say.
-        m_services.longWork.run(tr("Loading the tasks..."), LongWork::Kind::Reading, [this] { readTasks(); });
-    } while (m_loadsAgain);
-    emit tasksLoaded();
-}
-
-void TasksPage::readTasks()
-{
     // Read before the list is cleared: a store that cannot be read is not to look like an empty one.
     std::vector<ClsTask> tasks = filter().tasks(m_services.engine);
     const int row = m_grid->currentIndex().row();
@@ -243,6 +226,7 @@ void TasksPage::readTasks()
     if (current) {
         goToTask(*current);
     }
+    emit tasksLoaded();
 }
 
 bool TasksPage::goToTask(qint32 id)
@@ -347,9 +331,7 @@ void TasksPage::btnTaskDelete_Click()
     if (!m_services.messages.ask(this, tr("Are you sure you want to delete this task?"))) {
         return;
     }
-    m_services.longWork.run(tr("Deleting the task..."), LongWork::Kind::Storing, [&] {
-        ClsTask(m_services.engine).DeleteById(narrowId(id, QT_TRANSLATE_NOOP("OverflowError", "task id")));
-    });
+    ClsTask(m_services.engine).DeleteById(narrowId(id, QT_TRANSLATE_NOOP("OverflowError", "task id")));
     // The list may have been rebuilt while the question was open.
     if (const int row = m_model->rowOf(id); row >= 0) {
         m_model->removeTask(row);

@@ -34,7 +34,7 @@ public:
     /// Sets both due-date pickers to today, selects the specific dates or all dates and rebuilds the list.
     void startWith(bool todayOnly);
     /// Rebuilds the list from the filters; the current row stays on its task. Throws DatabaseError, and then
-    /// the list is as it was; Cancelled when the program ends meanwhile.
+    /// the list is as it was.
     void LoadTasks();
 
     /// Makes the task's row the current one and scrolls to it. False when the list does not show the task.
@@ -73,7 +73,6 @@ private:
     void filter_Changed();
     void filterList_Click();
 
-    void readTasks();
     QWidget* makeFilterFrame();
     QWidget* makeDueDateFrame();
     QWidget* makeTaskTypeFrame();
@@ -82,9 +81,6 @@ private:
 
     const FormServices& m_services;
     std::function<TaskColumns()> m_shownColumns;
-    bool m_isLoading = false;
-    /// Asked for while the list is read: the filters may have changed since.
-    bool m_loadsAgain = false;
     TaskListModel* m_model;
     GridView* m_grid;
     ComboBox* m_categories;

@@ -6,7 +6,6 @@
 #include "data/TaskOrder.h"
 #include "data/TaskRows.h"
 #include "platform/ErrorReport.h"
-#include "platform/LongWork.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Modules.h"
 #include "platform/PlainText.h"
@@ -99,7 +98,7 @@ void drTasks::DataReport_Initialize()
 
 void drTasks::printTasks(const TaskFilter& filter, QWidget* owner)
 {
-    work([&](Progress&) { readReport(filter); });
+    readReport(filter);
     if (m_services.alwaysOnTop()) {
         makeTopmost(m_window->widget());
     }
@@ -174,9 +173,7 @@ std::vector<std::vector<QString>> drTasks::readRecords(RecordSet& records, const
             }
         }
     }
-    putInOrder(
-        tasks, filter.sortBy, [](const ReportedTask& read) -> const ClsTask& { return read.task; },
-        m_services.engine.progress);
+    putInOrder(tasks, filter.sortBy, [](const ReportedTask& read) -> const ClsTask& { return read.task; });
     std::vector<std::vector<QString>> rows;
     rows.reserve(tasks.size());
     for (ReportedTask& task : tasks) {
@@ -222,11 +219,6 @@ QString drTasks::choosePdfFile(QWidget* owner)
 void drTasks::tellFailure(QWidget* owner, const QString& text)
 {
     m_services.messages.tell(owner, MessageBoxes::Icon::Exclamation, text);
-}
-
-void drTasks::work(const std::function<void(Progress&)>& work)
-{
-    m_services.longWork.run(tr("Preparing the report..."), LongWork::Kind::Cancellable, work);
 }
 
 void drTasks::windowClosed()

@@ -40,8 +40,6 @@ public:
 
     /// The sections from top to bottom.
     const std::vector<ReportSection>& sections() const { return m_sections; }
-    /// Whether a connection waits for the window to close.
-    bool holdsConnection() const { return m_connection.has_value(); }
     /// Null before the first run.
     QWidget* window() const { return m_window == nullptr ? nullptr : m_window->widget(); }
 
@@ -54,7 +52,6 @@ private:
 
     QString choosePdfFile(QWidget* owner) override;
     void tellFailure(QWidget* owner, const QString& text) override;
-    void work(const std::function<void(Progress&)>& work) override;
     void windowClosed() override;
 
     const FormServices& m_services;

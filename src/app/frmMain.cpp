@@ -7,7 +7,6 @@
 #include "categories/CategoriesPage.h"
 #include "platform/ErrorReport.h"
 #include "platform/LetterScale.h"
-#include "platform/LongWork.h"
 #include "platform/Shell.h"
 #include "platform/WindowPlacement.h"
 #include "settings/MaintenancePage.h"
@@ -140,7 +139,7 @@ void frmMain::wakePages()
 void frmMain::Form_Load()
 {
     wakePage(TasksIndex);
-    m_services.longWork.run(tr("Loading the tasks..."), LongWork::Kind::Reading, [this] { fillPages(); });
+    fillPages();
     m_pages.maintenance->prepareFilters();
     m_tabs->setCurrentIndex(TasksIndex);
     m_loaded = true;

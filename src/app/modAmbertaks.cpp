@@ -45,7 +45,7 @@ struct RealMachine {
         return {engine, messages, fileDialogs, errors, shell, *registry,
             [this] { return makeWaveBackend(modules); }, TrayIcon::isAreaAvailable,
             [this](HelpHost& host) { return loadHelpWindow(modules, host); },
-            [this](ReportHost& host) { return loadReportWindow(modules, host); }, LongWorkTime::real(),
+            [this](ReportHost& host) { return loadReportWindow(modules, host); },
             [this] { return modules.program(QLatin1String(PictureProgram)); }, shippedFolder};
     }
 
@@ -94,8 +94,6 @@ int runInstance(Application& application, const Installation& installation, cons
             throw RuntimeError(hindrance);
         }
         program.start(noteFirstStart);
-    } catch (const Cancelled&) {
-        // The program has been asked to end while it read a long list.
     } catch (const RuntimeError& error) {
         ScreenErrorReport::reportFailedStart(error.text());
         return 1;

@@ -6,7 +6,6 @@
 #include "data/ClsCategory.h"
 #include "platform/ErrorReport.h"
 #include "platform/ImageList.h"
-#include "platform/LongWork.h"
 #include "platform/MessageBoxes.h"
 #include "platform/PlainText.h"
 #include "platform/WindowPlacement.h"
@@ -267,10 +266,8 @@ void CategoriesPage::btnDeleteCat_Click()
     if (!m_services.messages.ask(window(), question)) {
         return;
     }
-    m_services.longWork.run(tr("Deleting the category..."), LongWork::Kind::Cancellable, [&] {
-        ClsCategory(m_services.engine)
-            .DeleteById(narrowId(id, QT_TRANSLATE_NOOP("OverflowError", "category id")));
-    });
+    ClsCategory(m_services.engine)
+        .DeleteById(narrowId(id, QT_TRANSLATE_NOOP("OverflowError", "category id")));
 
     // The list may have been rebuilt while the question was open.
     if (const int row = rowOf(id); row >= 0) {

@@ -6,7 +6,6 @@
 #include "platform/ErrorReport.h"
 #include "platform/FileDialogs.h"
 #include "platform/ImageList.h"
-#include "platform/LongWork.h"
 #include "platform/MessageBoxes.h"
 #include "ui/CheckerTimer.h"
 #include "ui/CloseBox.h"
@@ -209,10 +208,7 @@ bool frmCategoryDetails::save()
     if (refuses()) {
         return false;
     }
-    bool isStored = false;
-    m_services.longWork.run(
-        tr("Saving the category..."), LongWork::Kind::Storing, [&] { isStored = store(); });
-    if (!isStored) {
+    if (!store()) {
         m_services.messages.tell(
             this, MessageBoxes::Icon::Exclamation, tr("A category with the same name already exists"));
         m_controls.txtCatName->selectAll();

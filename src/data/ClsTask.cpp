@@ -191,8 +191,7 @@ std::vector<ClsTask> ClsTask::GetTasks(qint16 cat, qint32 status, qint32 sortBy,
         }
     }
     connection.close();
-    putInOrder(
-        tasks, sortBy, [](const ClsTask& task) -> const ClsTask& { return task; }, m_engine->progress);
+    putInOrder(tasks, sortBy, [](const ClsTask& task) -> const ClsTask& { return task; });
     return tasks;
 }
 

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "platform/Progress.h"
-
 #include <QCollator>
 #include <QLocale>
 #include <algorithm>
@@ -26,17 +24,12 @@ public:
     /// What decides on the place of `name`, which is UTF-8, however malformed.
     QCollatorSortKey key(std::string_view name) const;
 
-    /// Sorts what the engine has sorted by name; `nameOf` answers the name of an item. `progress` may be
-    /// null; what it throws leaves the items as they were.
-    template <typename Item, typename NameOf>
-    void sort(std::vector<Item>& items, NameOf nameOf, Progress* progress = nullptr) const
+    /// Sorts what the engine has sorted by name; `nameOf` answers the name of an item.
+    template <typename Item, typename NameOf> void sort(std::vector<Item>& items, NameOf nameOf) const
     {
         std::vector<std::pair<QCollatorSortKey, std::size_t>> order;
         order.reserve(items.size());
         for (const Item& item : items) {
-            if (progress != nullptr && order.size() % KeysOfProgress == 0) {
-                progress->advance(0, 0);
-            }
             order.emplace_back(key(nameOf(item)), order.size());
         }
         std::stable_sort(order.begin(), order.end(),
@@ -50,8 +43,5 @@ public:
     }
 
 private:
-    /// So many keys are made in about a millisecond.
-    static constexpr std::size_t KeysOfProgress = 1024;
-
     QCollator m_collator;
 };

@@ -5,16 +5,14 @@
 #include "data/TaskCodes.h"
 
 /// Puts tasks, just read by a statement that sorts by `sortBy`, where people look for them; `taskOf` answers
-/// the task of an item. One order for all that lists them. `progress` may be null; what it throws leaves the
-/// items as they were.
+/// the task of an item. One order for all that lists them.
 template <typename Item, typename TaskOf>
-void putInOrder(std::vector<Item>& items, qint32 sortBy, TaskOf taskOf, Progress* progress)
+void putInOrder(std::vector<Item>& items, qint32 sortBy, TaskOf taskOf)
 {
     switch (sortBy) {
     case TaskSort::Name:
         // The engine has sorted by codes of letters.
-        NameOrder().sort(
-            items, [&](const Item& item) { return taskOf(item).taskNameUtf8(); }, progress);
+        NameOrder().sort(items, [&](const Item& item) { return taskOf(item).taskNameUtf8(); });
         return;
     case TaskSort::Status:
     case TaskSort::DueDate:

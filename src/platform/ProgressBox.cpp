@@ -14,16 +14,11 @@ constexpr int BoxWidth = 360;
 
 } // namespace
 
-ProgressBox::ProgressBox(QWidget* owner, const QString& text, Offers offers)
-    : QDialog(owner), m_offers(offers), m_bar(new QProgressBar)
+ProgressBox::ProgressBox(QWidget* owner, const QString& text) : QDialog(owner), m_bar(new QProgressBar)
 {
     setObjectName(QStringLiteral("progress"));
     setWindowTitle(QStringLiteral("Ambertask"));
     setWindowModality(Qt::ApplicationModal);
-    if (offers == Offers::Nothing) {
-        // A close box would promise what it does not do.
-        setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
-    }
     if (owner != nullptr && owner->window()->windowFlags().testFlag(Qt::WindowStaysOnTopHint)) {
         setWindowFlag(Qt::WindowStaysOnTopHint);
     }
@@ -34,12 +29,10 @@ ProgressBox::ProgressBox(QWidget* owner, const QString& text, Offers offers)
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(label);
     layout->addWidget(m_bar);
-    if (offers == Offers::Cancel) {
-        auto* cancel = new QPushButton(tr("&Cancel"));
-        cancel->setObjectName(QStringLiteral("btnCancel"));
-        layout->addWidget(cancel, 0, Qt::AlignRight);
-        connect(cancel, &QPushButton::clicked, this, &ProgressBox::reject);
-    }
+    auto* cancel = new QPushButton(tr("&Cancel"));
+    cancel->setObjectName(QStringLiteral("btnCancel"));
+    layout->addWidget(cancel, 0, Qt::AlignRight);
+    connect(cancel, &QPushButton::clicked, this, &ProgressBox::reject);
     setMinimumWidth(BoxWidth);
 }
 
@@ -52,8 +45,6 @@ void ProgressBox::setProgress(qint64 done, qint64 total)
 // The close box and Escape reject a dialog, too.
 void ProgressBox::reject()
 {
-    if (m_offers == Offers::Cancel) {
-        m_cancelled = true;
-        QDialog::reject();
-    }
+    m_cancelled = true;
+    QDialog::reject();
 }

@@ -5,21 +5,16 @@
 
 class QProgressBar;
 
-/// A box that says what is being done and how far it is. Modal to the application: while it is shown, no
-/// other window takes input. Interface thread only.
+/// A box that says what is being done and how far it is, and offers to cancel it. Modal to the application:
+/// while it is shown, no other window takes input. Interface thread only.
 class ProgressBox final : public QDialog
 {
     Q_DECLARE_TR_FUNCTIONS(ProgressBox)
 
 public:
-    enum class Offers {
-        Nothing, ///< it goes when its work is done; neither Escape nor the window's close box ends it
-        Cancel
-    };
-
     /// Not shown yet. It belongs to the window of `owner`, which may be null, and says `text`, which is
     /// plain.
-    ProgressBox(QWidget* owner, const QString& text, Offers offers);
+    ProgressBox(QWidget* owner, const QString& text);
 
     /// `done` of `total`, in any unit; a `total` of 0 says that nobody knows.
     void setProgress(qint64 done, qint64 total);
@@ -29,7 +24,6 @@ public:
     void reject() override;
 
 private:
-    Offers m_offers;
     QProgressBar* m_bar;
     bool m_cancelled = false;
 };

@@ -45,12 +45,15 @@ void ScreenProgress::run(const std::function<void(Progress&)>& operation)
 
 void ScreenProgress::advance(qint64 done, qint64 total)
 {
+    if (!m_loop.isRunning()) {
+        throw Cancelled();
+    }
     const bool isBoxDue = m_box == nullptr && m_running.elapsed() >= m_patience.count();
     if (!isBoxDue && m_sincePaint.elapsed() < PaintInterval) {
         return;
     }
     if (isBoxDue) {
-        m_box = std::make_unique<ProgressBox>(m_owner.data(), m_text, ProgressBox::Offers::Cancel);
+        m_box = std::make_unique<ProgressBox>(m_owner.data(), m_text);
         m_box->show();
     }
     if (m_box != nullptr) {

@@ -17,9 +17,10 @@ class ProgressBox;
 class ScreenProgress final : public Progress
 {
 public:
+    static constexpr std::chrono::milliseconds Patience{1000};
+
     /// The box belongs to the window of `owner` and says `text`. It comes up after `patience`.
-    ScreenProgress(
-        QWidget* owner, QString text, std::chrono::milliseconds patience = std::chrono::seconds(1));
+    ScreenProgress(QWidget* owner, QString text, std::chrono::milliseconds patience = Patience);
     ~ScreenProgress() override;
 
     /// Runs the operation to its end. Throws what it throws: Cancelled, when the user has cancelled it or the

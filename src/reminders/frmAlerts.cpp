@@ -122,20 +122,8 @@ void frmAlerts::setHelpEnabled(bool enabled)
     m_controls.btnHelp->setEnabled(enabled);
 }
 
-void frmAlerts::holdChecks(bool held)
-{
-    m_holdsChecks = held;
-    if (!held && std::exchange(m_owesCheck, false)) {
-        QTimer::singleShot(0, this, &frmAlerts::tmrTasksChecker_Timer);
-    }
-}
-
 void frmAlerts::tmrTasksChecker_Timer()
 {
-    if (m_holdsChecks) {
-        m_owesCheck = true;
-        return;
-    }
     try {
         check();
     } catch (const std::exception&) {
@@ -228,7 +216,7 @@ void frmAlerts::btnDismiss_Click()
     const int row = m_controls.grdTasks->selectedRow();
     if (row >= 0) {
         Connection connection = openConnection();
-        store(connection, LongWork::Kind::Storing,
+        store(connection,
             QStringLiteral("update tasks set dismissed=1,reminder_on=0 where task_id = ")
                 + m_reminders.idText(row));
         removeReminder(row);
@@ -241,7 +229,7 @@ void frmAlerts::btnDismiss_Click()
 void frmAlerts::btnDismissAll_Click()
 {
     Connection connection = openConnection();
-    store(connection, LongWork::Kind::Cancellable,
+    store(connection,
         QStringLiteral("update  tasks set dismissed=1,reminder_on=0 where reminder_date_time <= now() and "
                        "dismissed =0 and reminder_on=true"));
     hide();
@@ -268,7 +256,7 @@ void frmAlerts::btnRemindMeLater_Click()
         return;
     }
     Connection connection = openConnection();
-    store(connection, LongWork::Kind::Storing,
+    store(connection,
         QStringLiteral("update tasks set played=0 ,reminder_date_time =#") + monthFirstText(date, time)
             + QStringLiteral("# where task_id = ") + m_reminders.idText(row));
     m_fired.remove(m_reminders.idText(row).toInt());
@@ -293,12 +281,10 @@ Connection frmAlerts::openConnection() const
     return connection;
 }
 
-void frmAlerts::store(Connection& connection, LongWork::Kind kind, const QString& statement)
+void frmAlerts::store(Connection& connection, const QString& statement)
 {
-    m_services.longWork.run(tr("Saving the reminders..."), kind, [&] {
-        connection.execute(statement);
-        connection.commit();
-    });
+    connection.execute(statement);
+    connection.commit();
 }
 
 void frmAlerts::removeReminder(int row)

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "data/ClsDatabase.h"
-#include "platform/LongWork.h"
 #include "platform/MMControl.h"
 #include "platform/UnaskedWindow.h"
 #include "reminders/AlertControls.h"
@@ -31,8 +30,6 @@ public:
     /// One check for due reminders. Never throws: a check that fails leaves the list as it was, and the next
     /// one tries again.
     void tmrTasksChecker_Timer();
-    /// While held, no check runs; one that came due meanwhile runs as soon as events are handled afterwards.
-    void holdChecks(bool held);
     /// Stops the checker's timer, or lets it run; switching on a running timer changes nothing.
     void setCheckerEnabled(bool enabled);
     /// The data file holds other tasks now: nothing is listed any more and the window is hidden. The next
@@ -79,7 +76,7 @@ private:
 
     Connection openConnection() const;
     /// Runs a statement that changes the data file and makes it durable.
-    void store(Connection& connection, LongWork::Kind kind, const QString& statement);
+    static void store(Connection& connection, const QString& statement);
     void removeReminder(int row);
 
     FormServices m_services;
@@ -92,8 +89,6 @@ private:
     AlertControls m_controls;
     UnaskedWindow m_unasked;
     bool m_isActive = false;
-    bool m_holdsChecks = false;
-    bool m_owesCheck = false;
     /// What is listed has sounded, but could not be marked as played.
     bool m_owesMark = false;
     /// What has sounded without being marked as played since, by task id: the reminder's moment. It is listed

@@ -1,12 +1,12 @@
 #include "report/PreviewWindow.h"
 
-#include "platform/Progress.h"
 #include "platform/WrappingRow.h"
 #include "platform/printing/PageOutput.h"
 #include "platform/printing/WindowPrinting.h"
 #include "ui/ComboBox.h"
 #include "ui/QuietLine.h"
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QCloseEvent>
 #include <QComboBox>
@@ -58,11 +58,12 @@ QString inDigits(int number)
 
 } // namespace
 
-PreviewWindow::PreviewWindow(ReportHost& host, std::function<bool()> hasPrinter)
+PreviewWindow::PreviewWindow(
+    ReportHost& host, std::function<bool()> hasPrinter, std::chrono::milliseconds patience)
     : QWidget(nullptr,
         Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinMaxButtonsHint
             | Qt::WindowCloseButtonHint),
-      m_host(host), m_hasPrinter(std::move(hasPrinter)),
+      m_host(host), m_hasPrinter(std::move(hasPrinter)), m_patience(patience),
       m_print(named(new QPushButton(tr("&Print...")), "btnPrint")),
       m_export(named(new QPushButton(tr("&Export PDF...")), "btnExport")),
       m_paper(named(new ComboBox, "cmbPaper")), m_orientation(named(new ComboBox, "cmbOrientation")),
@@ -87,7 +88,9 @@ PreviewWindow::PreviewWindow(ReportHost& host, std::function<bool()> hasPrinter)
     layout->addWidget(m_quietLine);
     makeShortcuts();
     resize(FirstSize * fontMetrics().height());
-    setContent({});
+    m_content = std::make_shared<const ReportContent>();
+    m_layout = std::make_shared<const ReportLayout>(m_content, printableArea(m_printer.pageLayout()));
+    showPage();
 
     connect(m_preview, &QPrintPreviewWidget::paintRequested, this, [this](QPrinter* printer) {
         QPainter painter(printer);
@@ -194,16 +197,18 @@ int PreviewWindow::pageCount() const
     return m_layout->pageCount();
 }
 
-std::shared_ptr<const ReportLayout> PreviewWindow::layOut(QSizeF area) const
+std::shared_ptr<const ReportLayout> PreviewWindow::layOut(QSizeF area)
 {
     return m_layout->page() == area ? m_layout : layOut(m_content, area);
 }
 
 std::shared_ptr<const ReportLayout> PreviewWindow::layOut(
-    const std::shared_ptr<const ReportContent>& content, QSizeF area) const
+    const std::shared_ptr<const ReportContent>& content, QSizeF area)
 {
     std::shared_ptr<const ReportLayout> laid;
-    m_host.work([&](Progress& progress) {
+    // At the first report this window is not on the screen yet.
+    QWidget* owner = isVisible() ? this : QApplication::activeWindow();
+    ScreenProgress(owner, tr("Preparing the report..."), m_patience).run([&](Progress& progress) {
         laid = std::make_shared<const ReportLayout>(content, area, layoutDirection(), &progress);
     });
     return laid;

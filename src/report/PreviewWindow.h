@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/ScreenProgress.h"
 #include "report/ReportLayout.h"
 #include "report/ReportWindow.h"
 
@@ -23,7 +24,9 @@ class PreviewWindow final : public QWidget, public ReportWindow
 
 public:
     /// `hasPrinter` answers whether there is a printer to print on; it is asked whenever the window appears.
-    PreviewWindow(ReportHost& host, std::function<bool()> hasPrinter);
+    /// A layout that takes longer than `patience` shows how far it is and can be cancelled.
+    PreviewWindow(ReportHost& host, std::function<bool()> hasPrinter,
+        std::chrono::milliseconds patience = ScreenProgress::Patience);
 
     QWidget* widget() override { return this; }
     void setContent(ReportContent content) override;
@@ -51,9 +54,9 @@ private:
     QLayout* makeCommandRow();
     QLayout* makePageRow();
     void makeShortcuts();
-    std::shared_ptr<const ReportLayout> layOut(QSizeF area) const;
+    std::shared_ptr<const ReportLayout> layOut(QSizeF area);
     std::shared_ptr<const ReportLayout> layOut(
-        const std::shared_ptr<const ReportContent>& content, QSizeF area) const;
+        const std::shared_ptr<const ReportContent>& content, QSizeF area);
     void showPage();
     void showPageFormat();
     /// A window that has not been shown yet gets the room for its controls in two rows.
@@ -63,6 +66,7 @@ private:
 
     ReportHost& m_host;
     std::function<bool()> m_hasPrinter;
+    std::chrono::milliseconds m_patience;
     std::shared_ptr<const ReportContent> m_content;
     QPrinter m_printer; ///< for the preview alone: it writes no file and needs no printer
     std::shared_ptr<const ReportLayout> m_layout;

@@ -7,6 +7,8 @@
 #include <map>
 #include <memory>
 
+class Progress;
+
 /// A report laid out for one size of page: where its pages start, and how each of them is painted. A record
 /// is kept whole on a page; one that is taller than a page begins on a page of its own and is split between
 /// lines.

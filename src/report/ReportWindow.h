@@ -6,7 +6,6 @@
 #include <memory>
 #include <vector>
 
-class Progress;
 class QWidget;
 
 /// A control of a report section.
@@ -46,9 +45,6 @@ public:
     virtual QString choosePdfFile(QWidget* owner) = 0;
     /// Tells the user what failed and why.
     virtual void tellFailure(QWidget* owner, const QString& text) = 0;
-    /// Runs work that may take long and tells how far it is; "Cancel" and the end of the program throw
-    /// Cancelled out of it.
-    virtual void work(const std::function<void(Progress&)>& work) = 0;
     /// The user has closed the window.
     virtual void windowClosed() = 0;
 };

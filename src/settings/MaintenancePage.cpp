@@ -6,7 +6,6 @@
 #include "platform/ErrorReport.h"
 #include "platform/FileDialogs.h"
 #include "platform/FileReplace.h"
-#include "platform/LongWork.h"
 #include "platform/MessageBoxes.h"
 #include "platform/ScreenProgress.h"
 #include "settings/DataFileCopies.h"
@@ -205,11 +204,8 @@ void MaintenancePage::btnDeleteTasksMaintenance_Click()
     m_quietLine->hush();
     const ClsTask store(m_services.engine);
     const Criteria counted = shownCriteria();
-    qint32 count = 0;
-    m_services.longWork.run(tr("Counting the tasks..."), LongWork::Kind::Cancellable, [&] {
-        count =
-            store.GetTasksCount(counted.category, counted.status, counted.from, counted.to, counted.taskType);
-    });
+    const qint32 count =
+        store.GetTasksCount(counted.category, counted.status, counted.from, counted.to, counted.taskType);
     if (count == 0) {
         m_services.messages.tell(window(), MessageBoxes::Icon::Exclamation,
             tr("There is no tasks according to the selected criteria!"));
@@ -221,8 +217,10 @@ void MaintenancePage::btnDeleteTasksMaintenance_Click()
     // The category lists may have been reloaded while the question was open.
     const Criteria confirmed = shownCriteria();
     qint32 deleted = 0;
-    m_services.longWork.run(tr("Deleting the tasks..."), LongWork::Kind::Cancellable, [&] {
-        deleted = store.DeleteTasks(
+    ScreenProgress(this, tr("Deleting the tasks...")).run([&](Progress& progress) {
+        DatabaseEngine engine = m_services.engine;
+        engine.progress = &progress;
+        deleted = ClsTask(engine).DeleteTasks(
             confirmed.category, confirmed.status, confirmed.from, confirmed.to, confirmed.taskType);
     });
     emit tasksDeleted();

@@ -3,7 +3,6 @@
 #include "platform/ErrorReport.h"
 #include "platform/FileDialogs.h"
 #include "platform/FileReplace.h"
-#include "platform/LongWork.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Registry.h"
 #include "platform/Shell.h"
@@ -215,8 +214,7 @@ SettingsRecord SettingsPage::shownSettings() const
 
 void SettingsPage::btnSave_Click()
 {
-    m_services.longWork.run(tr("Saving the settings..."), LongWork::Kind::Storing,
-        [this] { SettingsStore(m_services.engine).save(shownSettings(), m_record); });
+    SettingsStore(m_services.engine).save(shownSettings(), m_record);
     updateRunEntry();
     if (m_skinChanged) {
         m_skins.wear(m_cmbSkins->currentText());

@@ -3,7 +3,6 @@
 #include "platform/Clock.h"
 #include "platform/ErrorReport.h"
 #include "platform/FileDialogs.h"
-#include "platform/LongWork.h"
 #include "platform/MessageBoxes.h"
 #include "platform/ProgramFiles.h"
 #include "tasks/TaskDetailsHost.h"
@@ -252,8 +251,7 @@ bool frmTaskDetails::save()
         controlOf(refusal->field)->setFocus();
         return false;
     }
-    qint32 id = 0;
-    m_services.longWork.run(tr("Saving the task..."), LongWork::Kind::Storing, [&] { id = store(entered); });
+    const qint32 id = store(entered);
     emit taskStored();
     leave();
     emit taskSaved(id);

@@ -7,7 +7,6 @@ class Clock;
 class ErrorReport;
 class FileDialogs;
 class ImageList;
-class LongWork;
 class MessageBoxes;
 class ProgramFiles;
 class Shell;
@@ -24,8 +23,6 @@ struct FormServices {
     CheckerTimer& checkerTimer;
     /// The pictures of categories, statuses, priorities and reminders; `LoadCategories` appends custom ones.
     ImageList& imgLstCategories;
-    /// Told by every statement of the engine how it goes; for what takes long with very many tasks.
-    LongWork& longWork;
     /// The setting `always_on_top`.
     std::function<bool()> alwaysOnTop;
     const ProgramFiles& files;

@@ -5,7 +5,6 @@
 #include "help/window/TopicView.h"
 #include "platform/FileDialogs.h"
 #include "platform/MessageBoxes.h"
-#include "platform/ProgressBox.h"
 #include "platform/ScreenErrorReport.h"
 #include "platform/ScreenProgress.h"
 #include "platform/printing/WindowPrinting.h"
@@ -156,12 +155,6 @@ void visitEveryBox(QWidget& owner, const Visit& visit)
         cancelled = true;
     }
     QVERIFY(cancelled);
-    visitOpened(QStringLiteral("progress without Cancel"), visit, [&] {
-        ProgressBox box(&owner, QStringLiteral("Loading the tasks..."), ProgressBox::Offers::Nothing);
-        box.setProgress(3, 10);
-        box.show();
-        QCoreApplication::processEvents();
-    });
 }
 
 void visitQtBoxes(QWidget& owner, const Visit& visit)

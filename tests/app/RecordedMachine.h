@@ -55,9 +55,6 @@ struct RecordedMachine {
                 reportWindow = window.get();
                 return window;
             },
-            {[this] { return workTime += workStep; },
-                [](std::chrono::milliseconds) {
-                }},
             {}, shippedFolder};
     }
     void setting(const QString& column, int value) const
@@ -75,7 +72,4 @@ struct RecordedMachine {
     QStringList helpLog;
     QPointer<RecordedHelpWindow> helpWindow;
     QPointer<RecordedReportWindow> reportWindow;
-    /// The time of long work stands still, unless a test makes every look at it take so long.
-    std::chrono::milliseconds workStep{};
-    std::chrono::milliseconds workTime{};
 };

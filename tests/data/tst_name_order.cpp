@@ -3,7 +3,6 @@
 #include "data/NameOrder.h"
 #include "data/TaskCodes.h"
 #include "platform/database/UnicodeCollation.h"
-#include "support/CancellingProgress.h"
 #include "support/TestDatabase.h"
 #include "support/TestMain.h"
 
@@ -82,7 +81,6 @@ private slots:
     void theOrderIsTotalForWhateverNames();
     void whereAnIndexOfAnotherToolSortsNamesTheListIsTheSame();
     void anyLettersFoldAsTheEngineFolds();
-    void aSortThatIsCancelledLeavesTheNames();
     void onlyAListByNameIsSortedAnew();
 };
 
@@ -243,16 +241,6 @@ void NameOrderTest::anyLettersFoldAsTheEngineFolds()
         QStringLiteral("kb"));
     QCOMPARE(foldedBeginning("a\xC3", 10), QStringLiteral(u"a\uFFFD"));
     QCOMPARE(foldedBeginning("", 10), QString());
-}
-
-void NameOrderTest::aSortThatIsCancelledLeavesTheNames()
-{
-    std::vector<std::string> names{"b", "a"};
-    CancellingProgress progress(CancellingProgress::At::FirstStep);
-    QVERIFY_THROWS_EXCEPTION(Cancelled,
-        NameOrder().sort(
-            names, [](const std::string& name) -> std::string_view { return name; }, &progress));
-    QCOMPARE(names, (std::vector<std::string>{"b", "a"}));
 }
 
 void NameOrderTest::onlyAListByNameIsSortedAnew()

@@ -1,5 +1,6 @@
 """Backup, restore and bulk delete through the tool kit's own file dialogs."""
 import os
+import signal
 from datetime import datetime
 
 import names
@@ -11,6 +12,13 @@ PERIOD = 10
 SLACK = 5
 TODAY = ["Morning", "Afternoon", "Midnight"]
 ALL = TODAY + ["Tomorrow"]
+# To delete them takes seconds on a fast machine.
+MANY = 2_000_000
+FILL = """
+with recursive n(i) as (select 1 union all select i+1 from n where i<?)
+insert into tasks(task_name,task_desc,task_status,cat_id,task_due_date,task_periority,reminder_on,reminder_date_time)
+select 'Task '||i,'',i%2,1,'2026-03-02 12:00:00',1,0,'2030-01-01 10:00:00' from n
+"""
 
 
 class MaintenanceCase(DesktopCase):
@@ -111,6 +119,34 @@ class BulkDeleteTest(MaintenanceCase):
         # A question would block the way to the other page.
         self.wait_list(ALL)
         self.assertEqual(self.data(), before)
+
+
+class LongDeletionTest(MaintenanceCase):
+    def setUp(self):
+        super().setUp()
+        self.store.execute(FILL, (MANY,))
+        self.delete_by_criteria(MANY + len(TODAY))
+        # The question is modal, too, and gone by now.
+        wait_until(self.box_is_active, "the box of the deletion has the keyboard", 60)
+
+    def box_is_active(self):
+        active = self.desk.screen.active()
+        return active is not None and active.modal
+
+    def count(self):
+        return self.store.execute("select count(*) as found from tasks")[0]["found"]
+
+    def test_escape_cancels_it_and_nothing_is_deleted(self):
+        self.desk.input.key("Escape")
+        wait_until(lambda: not self.box_is_active(), "the box is gone", 60)
+        self.assertEqual(self.count(), MANY + len(ALL))
+        self.assertEqual(self.user.exit(), 0)
+
+    def test_the_program_ends_in_its_midst_and_nothing_is_deleted(self):
+        self.user.program.send(signal.SIGTERM)
+        self.assertEqual(self.user.program.wait_end(), 0)
+        self.assertEqual(self.user.program.errors(), "")
+        self.assertEqual(self.count(), MANY + len(ALL))
 
 
 class BackupTest(MaintenanceCase):

@@ -1,9 +1,35 @@
 #include "AlertsFixture.h"
+#include "data/ClsTask.h"
+#include "data/TaskCodes.h"
+#include "platform/Progress.h"
 #include "support/TestMain.h"
 
 #include <QTest>
 
 using namespace std::chrono_literals;
+
+namespace
+{
+
+/// Does something when it is told for the first time.
+class OnceToldProgress final : public Progress
+{
+public:
+    explicit OnceToldProgress(std::function<void()> act) : m_act(std::move(act)) { }
+    void advance(qint64 /*done*/, qint64 /*total*/) override
+    {
+        if (!std::exchange(m_told, true)) {
+            m_act();
+        }
+    }
+    bool wasTold() const { return m_told; }
+
+private:
+    std::function<void()> m_act;
+    bool m_told = false;
+};
+
+} // namespace
 
 class tst_alerts_tick : public TestCase
 {
@@ -29,28 +55,29 @@ private slots:
         QCOMPARE(alerts.database().statements().take(), QStringList({DueQuery, MarkPlayed}));
     }
 
-    void aCheckThatIsHeldRunsOnceAsSoonAsItMay()
+    void aTickInTheMidstOfABulkDeletionSoundsOnceAndTheNextMarksIt()
     {
         AlertsFixture alerts;
-        alerts.aDueTask(QStringLiteral("First")).add();
-        alerts.window.holdChecks(true);
+        const qint32 due = alerts.aDueTask(QStringLiteral("Due")).sounding(QStringLiteral("one.wav")).add();
+        alerts.database().sql(QStringLiteral(
+            "with recursive n(i) as (select 1 union all select i+1 from n where i<4000) "
+            "insert into tasks(task_name,task_desc,task_status,cat_id,task_due_date,task_periority,"
+            "reminder_on,reminder_date_time) select 'Task '||i,'',3,1,'2026-01-15 11:00:00',1,0,"
+            "'2099-01-01 00:00:00' from n"));
+        OnceToldProgress midst([&] { alerts.tick(); });
+        DatabaseEngine engine = alerts.database().engine();
+        engine.progress = &midst;
+        const Moment today = startOfDay(alerts.now());
+        QCOMPARE(ClsTask(engine).DeleteTasks(
+                     CategoryFilter::All, TaskStatus::Waiting, today, today, TaskType::All),
+            4000);
+        QVERIFY(midst.wasTold());
+        QCOMPARE(alerts.names(), QStringList(QStringLiteral("Due")));
+        QVERIFY2(!alerts.isPlayed(due), "the deletion holds the file");
         alerts.tick();
-        alerts.tick();
-        QCOMPARE(alerts.database().statements().take(), QStringList());
-        alerts.window.holdChecks(false);
-        QVERIFY2(!alerts.window.isVisible(), "not within what held it");
-        QCoreApplication::processEvents();
-        QVERIFY(alerts.window.isVisible());
-        QCOMPARE(alerts.database().statements().take(), QStringList({DueQuery, MarkPlayed}));
-    }
-
-    void withoutATickMeanwhileNoneRunsAfterHolding()
-    {
-        AlertsFixture alerts;
-        alerts.window.holdChecks(true);
-        alerts.window.holdChecks(false);
-        QCoreApplication::processEvents();
-        QCOMPARE(alerts.database().statements().take(), QStringList());
+        QVERIFY(alerts.isPlayed(due));
+        QCOMPARE(alerts.takeSounds(), QStringList(QStringLiteral("play one.wav")));
+        QCOMPARE(alerts.database().sql(QStringLiteral("select count(*) from tasks")).toInt(), 1);
     }
 
     void theNextTickWithTheSameTwoDoesNothing()

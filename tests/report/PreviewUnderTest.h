@@ -13,8 +13,10 @@
 
 /// The preview window on a report of so many records, on show.
 struct PreviewUnderTest {
-    explicit PreviewUnderTest(int records, bool hasPrinter = false)
-        : window(host, [hasPrinter] { return hasPrinter; })
+    explicit PreviewUnderTest(
+        int records, bool hasPrinter = false, std::chrono::milliseconds patience = ScreenProgress::Patience)
+        : window(
+            host, [hasPrinter] { return hasPrinter; }, patience)
     {
         window.setContent(contentOf(recordsOf(records)));
         window.show();

@@ -15,21 +15,38 @@
 #include <QTest>
 #include <QTimer>
 
+namespace
+{
+
+/// Does something with the first box that shows how far a layout is.
+struct BoxWatch : QTimer {
+    explicit BoxWatch(std::function<void(QDialog&)> act)
+    {
+        connect(this, &QTimer::timeout, this, [this, act = std::move(act)] {
+            if (auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+                stop();
+                act(*box);
+            }
+        });
+        start(0);
+    }
+};
+
+void cancel(const QDialog& box)
+{
+    box.findChild<QPushButton*>(QStringLiteral("btnCancel"))->click();
+}
+
+/// A preview to which every layout takes long.
+struct SlowPreview : PreviewUnderTest {
+    explicit SlowPreview(int records) : PreviewUnderTest(records, false, std::chrono::milliseconds(0)) { }
+};
+
+} // namespace
+
 class PreviewWindowTest : public TestCase
 {
     Q_OBJECT
-
-private:
-    /// What is laid out next takes long, and its box is cancelled.
-    void cancelNextBox(PreviewUnderTest& f)
-    {
-        f.host.workTakes = LongWork::Patience;
-        QTimer::singleShot(0, this, [] {
-            if (auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
-                box->findChild<QPushButton*>(QStringLiteral("btnCancel"))->click();
-            }
-        });
-    }
 
 private slots:
     void theWindowIsAResizableOneNamedAfterTheReport()
@@ -194,10 +211,10 @@ private slots:
 
     void aCancelledContentLeavesTheReportInView()
     {
-        PreviewUnderTest f(60);
+        SlowPreview f(60);
         f.window.goToPage(2);
         const QString before = f.pageText();
-        cancelNextBox(f);
+        const BoxWatch watch(cancel);
         QVERIFY_THROWS_EXCEPTION(Cancelled, f.window.setContent(contentOf(recordsOf(2))));
         QCOMPARE(f.pageText(), before);
         QCOMPARE(f.window.page(), 2);
@@ -205,32 +222,27 @@ private slots:
 
     void aCancelledPaperIsTakenBack()
     {
-        PreviewUnderTest f(60);
+        SlowPreview f(60);
         f.window.goToPage(2);
         const QString before = f.pageText();
         const QPageLayout layout = f.window.pageLayout();
         const auto* papers = f.control<QComboBox>("cmbPaper");
         const int paper = papers->currentIndex();
-        cancelNextBox(f);
+        const BoxWatch watch(cancel);
         f.choose("cmbPaper", papers->findText(QStringLiteral("A5")));
         QCOMPARE(papers->currentIndex(), paper);
         QCOMPARE(f.window.pageLayout(), layout);
         QCOMPARE(f.pageText(), before);
-        f.host.workTakes = {};
         f.choose("cmbPaper", papers->findText(QStringLiteral("A5")));
         QVERIFY(f.pageText() != before);
     }
 
     void aLongLayoutTellsHowFarItIs()
     {
-        PreviewUnderTest f(1);
-        f.host.workTakes = LongWork::Patience;
+        SlowPreview f(1);
         int seen = -1;
-        QTimer::singleShot(0, this, [&seen] {
-            if (const auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
-                seen = box->findChild<QProgressBar*>()->maximum();
-            }
-        });
+        const BoxWatch watch(
+            [&seen](const QDialog& box) { seen = box.findChild<QProgressBar*>()->maximum(); });
         f.window.setContent(contentOf(recordsOf(2000)));
         QVERIFY(seen > 0);
         QVERIFY(f.window.pageCount() > 100);

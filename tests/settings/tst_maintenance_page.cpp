@@ -4,6 +4,7 @@
 #include <QAccessible>
 #include <QGroupBox>
 #include <QLabel>
+#include <QTimer>
 
 using namespace std::chrono;
 
@@ -55,6 +56,7 @@ private slots:
     void theCriteriaAreReadAgainAfterTheQuestion();
     void aRangeThatEndsBeforeItBeginsMatchesNothing();
     void aDatabaseErrorIsReportedAndLeavesTheCheckerAlone();
+    void aDeletionThatTheEndOfTheProgramOvertakesDeletesNothing();
 };
 
 void TestMaintenancePage::everyControlHasItsNameAndCaption_data()
@@ -273,7 +275,7 @@ void TestMaintenancePage::theCriteriaAreReadAgainAfterTheQuestion()
     });
     const FormServices services{own.services.engine, own.services.clock, boxes, own.services.fileDialogs,
         own.services.errors, own.services.shell, own.services.checkerTimer, own.services.imgLstCategories,
-        own.services.longWork, own.services.alwaysOnTop, own.services.files};
+        own.services.alwaysOnTop, own.services.files};
     MaintenancePage page(services);
     shown = &page;
     page.prepareFilters();
@@ -305,6 +307,49 @@ void TestMaintenancePage::aDatabaseErrorIsReportedAndLeavesTheCheckerAlone()
     test.press("btnDeleteTasksMaintenance");
     QVERIFY(test.checkerTimer.switches.isEmpty());
     QCOMPARE(test.deleted.size(), 0);
+}
+
+/// Ends the program at the moment when the deletion is about to begin.
+class EndAtDeletion final : public StatementListener
+{
+public:
+    void connectionOpened(const QString&) override { }
+    void statementExecuted(QStringView statement) override
+    {
+        if (statement.startsWith(QLatin1String("delete"))) {
+            QCoreApplication::exit(0);
+        }
+    }
+    void connectionClosed() override { }
+};
+
+void TestMaintenancePage::aDeletionThatTheEndOfTheProgramOvertakesDeletesNothing()
+{
+    constexpr int Many = 4000; // so that the engine tells how it goes
+    TestServices own;
+    EndAtDeletion ending;
+    DatabaseEngine engine = own.database.engine();
+    engine.listener = &ending;
+    const FormServices services{engine, own.services.clock, own.services.messages, own.services.fileDialogs,
+        own.services.errors, own.services.shell, own.services.checkerTimer, own.services.imgLstCategories,
+        own.services.alwaysOnTop, own.services.files};
+    MaintenancePage page(services);
+    page.prepareFilters();
+    own.database.sql(QStringLiteral(
+        "with recursive n(i) as (select 1 union all select i+1 from n where i<%1) "
+        "insert into tasks(task_name,task_desc,task_status,cat_id,task_due_date,task_periority,"
+        "reminder_on,reminder_date_time) select 'Task '||i,'',0,1,'2026-01-15 11:00:00',1,0,"
+        "'2099-01-01 00:00:00' from n")
+                         .arg(Many));
+    own.dialogs.expectAsk(QStringLiteral("Are you sure you want to delete %1 tasks?").arg(Many), true);
+    const QSignalSpy deleted(&page, &MaintenancePage::tasksDeleted);
+    QTimer::singleShot(0, &page, [&page] {
+        QTest::mouseClick(
+            page.findChild<QPushButton*>(QStringLiteral("btnDeleteTasksMaintenance")), Qt::LeftButton);
+    });
+    QCOMPARE(QCoreApplication::exec(), 0);
+    QCOMPARE(own.database.sql(QStringLiteral("select count(*) from tasks")).toInt(), Many);
+    QCOMPARE(deleted.size(), 0);
 }
 
 AMBERTASK_TEST_MAIN(TestMaintenancePage)

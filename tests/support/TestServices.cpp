@@ -11,8 +11,7 @@ constexpr int FixedPictures = 21;
 
 TestServices::TestServices()
     : files(database.folder()), services{database.engine(), database.clock(), dialogs, dialogs, dialogs,
-                                    shell, checkerTimer, images, longWork.work,
-                                    [this] { return alwaysOnTop; }, files}
+                                    shell, checkerTimer, images, [this] { return alwaysOnTop; }, files}
 {
     for (int i = 0; i < FixedPictures; ++i) {
         QPixmap pixmap(16, 16);

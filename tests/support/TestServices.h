@@ -3,7 +3,6 @@
 #include "platform/ImageList.h"
 #include "platform/ProgramFiles.h"
 #include "platform/Shell.h"
-#include "support/RecordedLongWork.h"
 #include "support/ScriptedDialogs.h"
 #include "support/TestDatabase.h"
 #include "ui/CheckerTimer.h"
@@ -52,7 +51,6 @@ struct TestServices {
     TestServices();
 
     TestDatabase database;
-    RecordedLongWork longWork;
     ScriptedDialogs dialogs;
     RecordedShell shell;
     RecordedCheckerTimer checkerTimer;

@@ -47,7 +47,9 @@ struct DatabaseEngine {
     QString programFolder; ///< absolute path of the folder that holds the data file
     const Clock* clock = nullptr; ///< not owned; answers now() in statements
     StatementListener* listener = nullptr; ///< not owned; may be null
-    Progress* progress = nullptr; ///< not owned; told while statements run, as of unknown length; may be null
+    /// Not owned; null but for an operation that shows how far it is. Told in the midst of statements, as of
+    /// unknown length; what runs from there may find the data file locked.
+    Progress* progress = nullptr;
     /// Not owned; may be null. Where it is given and false, the first connection that writes looks through
     /// the file first: damage that reading does not notice could make the engine write over living records. A
     /// sound file sets it; a damaged one is not written to.

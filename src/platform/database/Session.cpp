@@ -6,6 +6,7 @@
 #include "platform/database/DatabaseError.h"
 #include "platform/database/Dialect.h"
 #include "platform/database/Hardening.h"
+#include "platform/database/UnicodeCollation.h"
 
 #include <QFileInfo>
 #include <algorithm>
@@ -146,7 +147,7 @@ void Session::harden()
 {
     check(hardenConnection(m_database));
     check(sqlite3_busy_timeout(m_database, BusyMilliseconds));
-    check(installUnicodeNoCase(m_database, m_comparing));
+    check(installUnicodeNoCase(m_database));
     check(sqlite3_create_function_v2(m_database, "now", 0,
         SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_DIRECTONLY, this, answerNow, nullptr, nullptr, nullptr));
     check(sqlite3_set_authorizer(m_database, authorize, this));
@@ -169,14 +170,6 @@ int Session::tellProgress(void* session)
     } catch (...) {
         self->m_thrownByProgress = std::current_exception();
         return 1;
-    }
-}
-
-void Session::tellComparing(void* session)
-{
-    auto* self = static_cast<Session*>(session);
-    if (self->m_progress != nullptr && tellProgress(session) != 0) {
-        sqlite3_interrupt(self->m_database);
     }
 }
 

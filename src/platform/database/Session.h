@@ -1,8 +1,7 @@
 #pragma once
 
-#include "platform/database/UnicodeCollation.h"
-
 #include <QCoreApplication>
+#include <exception>
 #include <memory>
 #include <string>
 #include <vector>
@@ -72,7 +71,6 @@ private:
     static int authorize(
         void* session, int action, const char* first, const char* second, const char*, const char*);
     static int tellProgress(void* session);
-    static void tellComparing(void* session);
     static void answerNow(sqlite3_context* context, int, sqlite3_value**);
 
     void openFile();
@@ -94,7 +92,6 @@ private:
     const Clock* m_clock;
     Progress* m_progress;
     std::exception_ptr m_thrownByProgress;
-    ComparisonWatch m_comparing{tellComparing, this};
     bool* m_knownSound;
     sqlite3* m_database = nullptr;
     std::vector<Cursor*> m_cursors;

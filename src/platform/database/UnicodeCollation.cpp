@@ -58,15 +58,8 @@ char32_t nextFolded(std::string_view text, std::size_t& position)
     return codePoint < FirstOfMalformed ? QChar::toCaseFolded(codePoint) : codePoint;
 }
 
-/// So many comparisons are done in about a millisecond.
-constexpr unsigned ComparisonsOfProgress = 16384;
-
-int compareColumn(void* watch, int leftSize, const void* left, int rightSize, const void* right)
+int compareColumn(void* /*context*/, int leftSize, const void* left, int rightSize, const void* right)
 {
-    if (auto& watched = *static_cast<ComparisonWatch*>(watch);
-        ++watched.compared % ComparisonsOfProgress == 0) {
-        watched.tell(watched.whom);
-    }
     return compareIgnoringCase({static_cast<const char*>(left), static_cast<std::size_t>(leftSize)},
         {static_cast<const char*>(right), static_cast<std::size_t>(rightSize)});
 }
@@ -110,7 +103,7 @@ QString foldedBeginning(std::string_view text, std::size_t most)
     return folded;
 }
 
-int installUnicodeNoCase(sqlite3* database, ComparisonWatch& watch)
+int installUnicodeNoCase(sqlite3* database)
 {
-    return sqlite3_create_collation_v2(database, "NOCASE", SQLITE_UTF8, &watch, compareColumn, nullptr);
+    return sqlite3_create_collation_v2(database, "NOCASE", SQLITE_UTF8, nullptr, compareColumn, nullptr);
 }

@@ -12,13 +12,6 @@ int compareIgnoringCase(std::string_view left, std::string_view right);
 /// What is malformed has become U+FFFD.
 QString foldedBeginning(std::string_view text, std::size_t most);
 
-/// Is told now and then while texts are compared: a long sort is one single step for the engine.
-struct ComparisonWatch {
-    void (*tell)(void* whom);
-    void* whom;
-    unsigned compared = 0;
-};
-
 /// Replaces the collation NOCASE of this connection, which folds A to Z alone, by `compareIgnoringCase`.
-/// `watch` is not owned and outlives the connection. Answers the engine's result code.
-int installUnicodeNoCase(sqlite3* database, ComparisonWatch& watch);
+/// Answers the engine's result code.
+int installUnicodeNoCase(sqlite3* database);
