@@ -13,7 +13,6 @@ public:
 
     /// Enables or disables the panel with all that is on it.
     void setUsable(bool usable);
-    QColor background() const { return m_background; }
 
 protected:
     void changeEvent(QEvent* event) override;

@@ -21,7 +21,6 @@ public:
     /// Nothing is read before.
     void begin();
     void request(const QString& path);
-    bool isBusy() const { return !m_paths.isEmpty(); }
 
 signals:
     /// Made to fit the square of a rendition.

@@ -49,7 +49,7 @@ public:
     qint16 IconId() const { return m_iconId; }
     void setIconId(qint16 iconId) { m_iconId = iconId; }
     /// Set when the reminder moment of a stored task was changed: makes `Update` arm the alert again.
-    bool DateChanged() const { return m_dateChanged; }
+    bool DateChanged() const { return m_dateChanged; } // Read by no caller: a part of the store's interface.
     void setDateChanged(bool changed) { m_dateChanged = changed; }
 
     /// Stores this task as a new one and answers its id; the object keeps the id that it has.

@@ -17,10 +17,10 @@ public:
     ~HTMLHelpViewer() override;
 
     /// Full path of the help file.
-    const QString& HelpFile() const { return m_helpFile; }
+    const QString& HelpFile() const { return m_helpFile; } // Part of the interface; without a caller.
     void SetHelpFile(const QString& file) { m_helpFile = file; }
 
-    void Show();
+    void Show(); // Show, ShowIndex, ShowSearch: part of the interface; the program itself has no caller.
     void ShowContents();
     void ShowIndex();
     void ShowSearch();

@@ -22,7 +22,8 @@ public:
     /// `services` and `registry` outlive the form.
     frmAbout(const FormServices& services, Registry& registry, const AboutPictures& pictures);
 
-    /// Starts the System Information tool, or says that it is not there.
+    /// Starts the System Information tool, or says that it is not there. Part of the form's interface; the
+    /// program itself has no caller.
     void StartSysInfo();
     /// Reads the value `SubKeyRef` of the key `KeyName` under the root key `KeyRoot`. True when it was read:
     /// `KeyVal` receives a text as it is and a double word as a decimal number; of any other type it is left

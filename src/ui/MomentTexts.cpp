@@ -21,11 +21,6 @@ QString shortDate(Moment moment)
     return QLocale().toString(toQDate(moment), shortDateFormat());
 }
 
-QString shortTime(Moment moment)
-{
-    return QLocale().toString(toQTime(moment), shortTimeFormat());
-}
-
 QString longTime(Moment moment)
 {
     // The format's "t" stands for the time zone; quoted text of the format stays.

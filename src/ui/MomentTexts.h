@@ -10,7 +10,6 @@ QString shortDateFormat();
 QString shortTimeFormat();
 /// The day as the system's short date.
 QString shortDate(Moment moment);
-QString shortTime(Moment moment);
 /// The time of day as the system's long time, without a zone name.
 QString longTime(Moment moment);
 /// Short date, a blank, long time: a due date in a list.

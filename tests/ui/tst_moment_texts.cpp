@@ -19,6 +19,11 @@ QString withPlainSpaces(QString text)
     return text.replace(QChar(0x202F), u' ');
 }
 
+QString shortTime(Moment moment)
+{
+    return QLocale().toString(toQTime(moment), shortTimeFormat());
+}
+
 } // namespace
 
 class TestMomentTexts : public TestCase
