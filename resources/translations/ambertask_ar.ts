@@ -330,10 +330,6 @@
         <translation>اسم الملف غير موجود</translation>
     </message>
     <message>
-        <source>it is missing from this installation</source>
-        <translation>غير موجود في هذا التثبيت</translation>
-    </message>
-    <message>
         <source>the disk is full</source>
         <translation>القرص ممتلئ</translation>
     </message>

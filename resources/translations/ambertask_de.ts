@@ -330,10 +330,6 @@
         <translation>der Dateiname fehlt</translation>
     </message>
     <message>
-        <source>it is missing from this installation</source>
-        <translation>es fehlt in dieser Installation</translation>
-    </message>
-    <message>
         <source>the disk is full</source>
         <translation>der Datenträger ist voll</translation>
     </message>

@@ -330,10 +330,6 @@
         <translation>falta el nombre del archivo</translation>
     </message>
     <message>
-        <source>it is missing from this installation</source>
-        <translation>falta en esta instalación</translation>
-    </message>
-    <message>
         <source>the disk is full</source>
         <translation>el disco está lleno</translation>
     </message>

@@ -330,10 +330,6 @@
         <translation>le nom du fichier est absent</translation>
     </message>
     <message>
-        <source>it is missing from this installation</source>
-        <translation>il est absent de cette installation</translation>
-    </message>
-    <message>
         <source>the disk is full</source>
         <translation>le disque est plein</translation>
     </message>

@@ -330,10 +330,6 @@
         <translation>没有文件名</translation>
     </message>
     <message>
-        <source>it is missing from this installation</source>
-        <translation>此安装中缺少该文件</translation>
-    </message>
-    <message>
         <source>the disk is full</source>
         <translation>磁盘已满</translation>
     </message>
