@@ -11,7 +11,8 @@ QByteArray outputOf(const QString& program, const QStringList& arguments)
 {
     QProcess reader;
     reader.start(program, arguments);
-    if (!reader.waitForFinished() || reader.exitCode() != 0) {
+    constexpr int Patience = 120'000; // in milliseconds; two thousand pages on a busy machine
+    if (!reader.waitForFinished(Patience) || reader.exitCode() != 0) {
         QTest::qFail(qPrintable(reader.errorString() + QString::fromLocal8Bit(reader.readAllStandardError())),
             __FILE__, __LINE__);
         return {};
