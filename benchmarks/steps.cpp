@@ -134,7 +134,7 @@ public:
                 QStringLiteral("Are you sure you want to delete %1 tasks?").arg(m_tasks), true);
             bulk.push_back(millisecondsOf([&] { house.press(house.main(), "btnDeleteTasksMaintenance"); }));
             House other(m_tasks);
-            auto* list = BenchProgram::control<QListWidget>(other.main(), "lstCategories");
+            auto* list = BenchProgram::control<QListWidget>(other.main(), "lstViewCategories");
             list->setCurrentRow(0);
             other.shown.dialogs.expectAsk(QStringLiteral("Are you sure you want to delete '%1' category, all "
                                                          "tasks under this category will be deleted?")
