@@ -57,8 +57,8 @@ const QStringList Windows{"page Maintenance", "page Settings", "page Categories"
     "page with dates", "new task", "task with a reminder", "new category", "category with a picture",
     "category whose name is locked", "alert", "alert with a selected row", "about", "question",
     "question about unsaved input", "message without a picture", "information", "exclamation", "error report",
-    "report of a failed start", "progress", "progress without Cancel", "help contents", "help index",
-    "help search", "help topic with tables", "help without its file", "report"};
+    "report of a failed start", "progress", "help contents", "help index", "help search",
+    "help topic with tables", "help without its file", "report"};
 
 const QStringList QtBoxes{"dialog that opens a file", "dialog that saves a file", "dialog that prints",
     "dialog that prints, Copies", "dialog that prints, Options"};
