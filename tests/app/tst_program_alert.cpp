@@ -41,7 +41,7 @@ private slots:
         f.program.loadDialogs();
         openItem(f);
         frmTaskDetails& dialog = f.program.taskDetails();
-        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        QTRY_COMPARE(QApplication::activeWindow(), &dialog);
         f.press(dialog, "btnOk");
         QVERIFY(!dialog.isVisible());
         QVERIFY(QTest::qWaitForWindowActive(&f.main()));
