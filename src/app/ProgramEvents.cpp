@@ -5,6 +5,7 @@
 #include "categories/frmCategoryDetails.h"
 #include "platform/GridView.h"
 #include "platform/MessageBoxes.h"
+#include "platform/PendingEvents.h"
 #include "platform/WindowPlacement.h"
 #include "reminders/frmAlerts.h"
 #include "settings/SettingsPage.h"
@@ -131,7 +132,7 @@ void Program::onDataRestored()
         m_main->LoadCategories();
         reloadCategoryCombos();
         // The two loadings of a long list are not to be one step.
-        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+        handlePendingEvents();
         m_main->saveSettings();
     } catch (const RuntimeError&) {
         // What fails after the file has been replaced ends the operation without a word.

@@ -1,7 +1,9 @@
 #include "platform/ScreenProgress.h"
 
+#include "platform/PendingEvents.h"
 #include "platform/ProgressBox.h"
 
+#include <QCoreApplication>
 #include <QTimer>
 #include <exception>
 
@@ -60,8 +62,11 @@ void ScreenProgress::advance(qint64 done, qint64 total)
         m_box->setProgress(done, total);
     }
     // Without a box nothing takes input; with it, nothing but the box does.
-    QCoreApplication::processEvents(
-        m_box == nullptr ? QEventLoop::ExcludeUserInputEvents : QEventLoop::AllEvents);
+    if (m_box == nullptr) {
+        handlePendingEvents();
+    } else {
+        QCoreApplication::processEvents();
+    }
     m_sincePaint.start();
     if ((m_box != nullptr && m_box->isCancelled()) || !m_loop.isRunning()) {
         throw Cancelled();

@@ -2,9 +2,9 @@
 
 #include "platform/FileReplace.h"
 #include "platform/MessageBoxes.h"
+#include "platform/PendingEvents.h"
 #include "platform/ProgramFolder.h"
 
-#include <QCoreApplication>
 #include <QDirIterator>
 #include <QEvent>
 #include <QFileInfo>
@@ -67,7 +67,7 @@ QStringList Skins::names()
         } catch (const SkinError&) {
             // Not a skin.
         }
-        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+        handlePendingEvents();
     }
     return names;
 }
