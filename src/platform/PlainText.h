@@ -17,11 +17,11 @@ QString inOwnDirection(const QString& text);
 /// What is looked at of `text` where it is shown: of a longer one about so many characters, never part of
 /// one, and an ellipsis. A text without end is to be neither measured nor shaped.
 QString shownPart(const QString& text, qsizetype characters = 1000);
+/// The length of that part, at most `characters`.
+qsizetype lengthOfPart(const QString& text, qsizetype characters);
 /// The beginning of a text in UTF-8, longer than any part of it that is shown: what nobody sees of a text
 /// without end is not to be converted.
 QString beginningOf(std::string_view utf8);
-/// The length of that part, at most `characters`.
-qsizetype lengthOfPart(const QString& text, qsizetype characters);
 /// A tool tip that shows `text` letter for letter, in lines; what is longer than anybody reads is cut.
 /// Empty for an empty text.
 QString plainToolTip(const QString& text);
