@@ -153,11 +153,11 @@ void frmMain::Form_Load()
         }
         putInPlace(this);
         show();
+        // A wish that the window manager may refuse: the user may be writing elsewhere.
+        activateWindow();
     } else {
         stayReachable();
     }
-    // A wish that the window manager may refuse: the user may be writing elsewhere.
-    activateWindow();
     // Of a hidden window, too: it is to have the keys when it is shown.
     m_pages.tasks->focusList();
 }
