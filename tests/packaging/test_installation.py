@@ -71,7 +71,7 @@ class StagedInstallationTest(unittest.TestCase):
                 (ENTRY, replaced(b"StartupNotify=false", b"StartupNotify=true"), "the desktop would wait"),
                 (METAINFO, replaced(b"<binary>A", b"<binary>U"), "the metainfo names another program"),
                 (METAINFO, replaced(b".desktop</launchable>", b"</launchable>"), "the metainfo launches another entry"),
-                (METAINFO, replaced(b"<metadata_license>FSFAP</metadata_license>", b""), "appstreamcli: "),
+                (METAINFO, replaced(b"<metadata_license>MIT</metadata_license>", b""), "appstreamcli: "),
                 (CHANGELOG, lambda content: gzip.compress(gzip.decompress(content).replace(b"## 1", b"## unreleased 1")),
                  "the changelog does not begin with"),
                 (MAN_PAGE, lambda content: gzip.compress(gzip.decompress(content)[1:]), f"{MAN_PAGE} is no man page"),
