@@ -19,7 +19,7 @@ QRect onScreen(const QWidget& viewport, const QRect& inside)
     return {viewport.mapToGlobal(inside.topLeft()), inside.size()};
 }
 
-/// What captions and cells have in common: they belong to a grid and are no widgets.
+/// Base of captions and cells: parts of a grid that are no widgets of their own.
 class AccessiblePart : public QAccessibleInterface
 {
 public:
@@ -381,7 +381,7 @@ bool AccessibleGrid::selectRow(int row)
 
 void AccessibleGrid::modelChange(QAccessibleTableModelChangeEvent* /*event*/)
 {
-    // A cell that is still there is found by its index, wherever that has moved to.
+    // Cells are kept by persistent index: one that has only moved stays the same object.
     m_cells.removeIf([](const auto& cell) {
         if (cell.key().isValid()) {
             return false;

@@ -7,16 +7,17 @@
 
 class GridView;
 
-/// A grid for assistive technology: its visible columns, each with its caption, and its rows. Qt's
-/// own tables count hidden columns and headers too. Children are the captions, then the cells row by row;
-/// columns are counted from 0 among the visible ones. Owns the cells and captions it has given out.
+/// A grid as assistive technology sees it: its visible columns, each with its caption, and its rows.
+/// Workaround: the tables of Qt 6.4.2 count hidden columns and headers, too (tst_qt_workarounds,
+/// aTableCountsHiddenColumnsAndHeaders). Children are the captions, then the cells row by row; columns are
+/// counted from 0 among the visible ones. Owns the cells and captions that it hands out.
 class AccessibleGrid final : public QAccessibleWidget, public QAccessibleTableInterface
 {
 public:
-    /// From then on grids are seen so. More calls do nothing.
+    /// Uses this class for every GridView from now on. Further calls do nothing.
     static void install();
-    /// Tells of an event at the cell of `index`, a hidden one for the first that is shown; nothing when
-    /// nobody listens or `index` is invalid.
+    /// Sends `event` for the cell of `index`, or for the first visible cell of its row where that column is
+    /// hidden. Does nothing when no assistive technology listens or `index` is invalid.
     static void announce(GridView& grid, QAccessible::Event event, const QModelIndex& index);
 
     explicit AccessibleGrid(GridView& grid);
@@ -50,19 +51,20 @@ public:
     bool isRowSelected(int row) const override;
     bool selectRow(int row) override;
     bool selectColumn(int /*column*/) override { return false; }
-    /// A selected row stays so until another one is: as with the mouse.
+    /// As with the mouse, a selected row stays selected until another one is.
     bool unselectRow(int /*row*/) override { return false; }
     bool unselectColumn(int /*column*/) override { return false; }
     void modelChange(QAccessibleTableModelChangeEvent* event) override;
 
-    /// The place of a section among the visible ones, -1 for a hidden one.
+    /// The position of a section among the visible ones; -1 for a hidden one.
     int columnOf(int section) const;
-    /// The cell of `index`, a hidden one for the first that is shown; nullptr for an invalid index.
+    /// The cell of `index`, or the first visible cell of its row where that column is hidden; nullptr for
+    /// an invalid index.
     QAccessibleInterface* cellOf(const QModelIndex& index) const;
     QAccessibleInterface* captionOf(int section) const;
 
 private:
-    /// The sections of the header that are shown.
+    /// The visible sections of the header.
     std::vector<int> sections() const;
 
     GridView& m_grid;

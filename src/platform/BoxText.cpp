@@ -8,9 +8,9 @@
 namespace
 {
 
-// More fits on no screen.
+// No screen has room for more.
 constexpr qsizetype MostCharacters = 8000;
-// Qt breaks a long text at half of the screen's width, and the picture takes its share of that.
+// QMessageBox breaks a long text at half the width of the screen, and its icon takes part of that.
 constexpr int TextColumns = 3;
 constexpr double TextHeight = 0.6;
 constexpr double FewerEachTime = 0.8;
@@ -29,7 +29,8 @@ bool fits(const QMessageBox& box, const QString& text)
 
 void setBoxText(QMessageBox& box, const QString& text)
 {
-    // A question ends with what will happen, and a path with the name of the file.
+    // Shortened in the middle: a question says at its end what will happen, a path ends with the file's
+    // name.
     QString shown = withoutMiddle(text, MostCharacters);
     for (qsizetype characters = shown.size(); characters > FewestCharacters && !fits(box, shown);) {
         characters = static_cast<qsizetype>(static_cast<double>(characters) * FewerEachTime);

@@ -32,7 +32,7 @@ Moment localMoment(std::chrono::sys_seconds instant)
     SystemTimeToTzSpecificLocalTime(nullptr, &utc, &local);
     return momentOf(local.wYear, local.wMonth, local.wDay, local.wHour, local.wMinute, local.wSecond);
 #else
-    // localtime_r alone may go on with the zone that was in force when the program started.
+    // localtime_r alone may keep using the time zone that was in force when the program started.
     tzset();
     const auto utc = static_cast<std::time_t>(sinceEpoch);
     std::tm local{};

@@ -2,8 +2,8 @@
 
 #include "platform/Moment.h"
 
-/// The one source of the current time. Everything that asks for the time is given a Clock; tests give a
-/// stepped one.
+/// The one source of the current time. Whatever needs the time is given a Clock; tests pass one that they
+/// step.
 class Clock
 {
 public:
@@ -12,11 +12,11 @@ public:
     Clock(const Clock&) = delete;
     Clock& operator=(const Clock&) = delete;
 
-    /// The current local date and time, to the second, in the time zone that is in force at the call.
+    /// The current local date and time, to the second, in the time zone in force at the call.
     virtual Moment now() const = 0;
 };
 
-/// The local date and time of an instant, in the time zone that is in force at the call.
+/// The local date and time of an instant, in the time zone in force at the call.
 Moment localMoment(std::chrono::sys_seconds instant);
 
 /// The machine's clock.

@@ -14,7 +14,7 @@
 namespace
 {
 
-/// What stands between a text and the edge of its field.
+/// Pixels between a text and the edge of its field.
 constexpr int EditMargin = 4;
 
 QString hiddenIn(const QComboBox& combo)

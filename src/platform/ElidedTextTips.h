@@ -2,9 +2,9 @@
 
 #include <QObject>
 
-/// Shows the whole text of a list, an edit or an entry whose text does not fit, as its tool tip. One instance
-/// in a program, made after the application object; it looks at all windows. A tool tip of the control's own
-/// comes first.
+/// Shows the whole text of a list, an edit or an entry as its tool tip where it does not fit. One instance
+/// in a program, made after the application object; it filters the events of all windows. A control's own
+/// tool tip takes precedence.
 class ElidedTextTips : public QObject
 {
     Q_OBJECT
@@ -12,8 +12,7 @@ class ElidedTextTips : public QObject
 public:
     explicit ElidedTextTips(QObject* parent = nullptr);
 
-    /// The whole text of what lies under `position` in `widget`, when not all of it can be seen; otherwise
-    /// empty.
+    /// The whole text at `position` in `widget` when part of it cannot be seen; otherwise empty.
     static QString hiddenText(const QWidget& widget, QPoint position);
 
 protected:

@@ -7,7 +7,7 @@
 #include <type_traits>
 #include <utility>
 
-/// Where a failure goes that nothing handles: the run-time error report. Used on the interface thread.
+/// The run-time error report, which shows failures that nothing else handles. Interface thread only.
 class ErrorReport
 {
 public:
@@ -19,7 +19,7 @@ public:
     /// Tells the user what failed and why; returns when the user has answered.
     virtual void report(const QString& text) = 0;
 
-    /// Runs `action`; a failure is reported, what was cancelled is none. True when it ran to its end.
+    /// Runs `action` and reports a failure; Cancelled is not a failure. True when `action` ran to its end.
     template <typename Action> bool guard(Action&& action)
     {
         try {
@@ -47,8 +47,8 @@ void callHandler(Receiver* receiver, Handler handler, Arguments&&... arguments)
     }
 }
 
-/// Connects as QObject::connect does, but no exception leaves the handler for the event loop: it is reported
-/// instead. `handler` is a member function of `receiver` that takes the signal's arguments or none.
+/// Connects as QObject::connect does, but reports an exception instead of letting it reach the event loop.
+/// `handler` is a member function of `receiver` that takes the signal's arguments or none.
 template <typename Sender, typename Signal, typename Receiver, typename Handler>
 QMetaObject::Connection connectGuarded(
     const Sender* sender, Signal signal, Receiver* receiver, Handler handler, ErrorReport& errors)

@@ -11,8 +11,8 @@
 namespace
 {
 
-/// Pictures by what a directory entry is, never by what a file holds: reading files to picture them would
-/// freeze the program on a slow or endless one.
+/// Icons by the kind of a directory entry only. Qt's own provider reads files to choose an icon, which
+/// would freeze the program on a slow or endless one.
 class PlainIcons final : public QFileIconProvider
 {
 public:
@@ -33,8 +33,9 @@ bool listsAll(const FileDialogRequest& request)
 #endif
 }
 
-/// Qt 6.4.2 now and then leaves the list of a folder empty whose entries have been read (7 of 600 dialogs,
-/// more on a busy machine; cause unknown): once all are read, they are filtered again.
+/// Workaround: in Qt 6.4.2 the list of a folder now and then stays empty although its entries have been
+/// read (7 of 600 dialogs, more on a busy machine; the cause is unknown, so no test shows it). Setting the
+/// filters again once the folder has been read fills the list.
 void filterWhatWasRead(QFileDialog& dialog)
 {
     for (auto* model : dialog.findChildren<QFileSystemModel*>()) {
@@ -61,7 +62,7 @@ QString show(QWidget* owner, const FileDialogRequest& request, QFileDialog::Acce
     const QStringList filters = nameFilters(request);
     dialog.setNameFilters(filters);
     if (listsAll(request)) {
-        // The filter of what carries no extension would show an empty folder.
+        // The filter for files without an extension would show an empty folder.
         dialog.selectNameFilter(filters.constLast());
     }
     if (!request.fileName.isEmpty()) {
@@ -83,8 +84,7 @@ QStringList nameFilters(const FileDialogRequest& request)
     QStringList filters;
     const QStringList parts = request.filter.split(u'|');
     for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
-        // The text carries the patterns for the eye in its last parentheses; the second half says which they
-        // are.
+        // The text shows the patterns in its last parentheses, for the eye; the second half is what counts.
         QString text = parts[i];
         if (const qsizetype parenthesis = text.lastIndexOf(u'('); parenthesis >= 0) {
             text.truncate(parenthesis);
@@ -100,7 +100,7 @@ QStringList nameFilters(const FileDialogRequest& request)
 
 QString userFolder(QStandardPaths::StandardLocation place)
 {
-    // A folder that does not exist would leave the dialog where the program was started.
+    // With a folder that does not exist the dialog would open in the current folder.
     const QString folder = QStandardPaths::writableLocation(place);
     return QFileInfo(folder).isDir() ? folder : QDir::homePath();
 }

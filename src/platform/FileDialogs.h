@@ -8,15 +8,15 @@ class QWidget;
 
 /// What a file dialog is asked to show.
 struct FileDialogRequest {
-    QString name; ///< the dialog's name among the controls
+    QString name; ///< objectName of the dialog
     QString fileName; ///< proposed name; empty for none
     QString filter; ///< entries "text|pattern;pattern", separated by "|"
     QString initialFolder; ///< empty for the dialog's own choice
     bool fileMustExist = false;
     bool promptBeforeOverwriting = false;
-    /// Adds "All Files (*)" and begins with it where programs carry no extension.
+    /// Adds "All Files (*)" and selects it where programs have no extension.
     bool executables = false;
-    /// Adds "All Files (*)" and begins with it: the files may have been named without the extension.
+    /// Adds "All Files (*)" and selects it: the files may have been saved without the extension.
     bool anyName = false;
 };
 
@@ -24,7 +24,7 @@ struct FileDialogRequest {
 /// (*.wav)".
 QStringList nameFilters(const FileDialogRequest& request);
 
-/// The user's folder for what is kept in that place; the home folder where there is none.
+/// The user's folder for files of that kind; the home folder where there is none.
 QString userFolder(QStandardPaths::StandardLocation place);
 
 /// The file dialogs of the program, modal to it.

@@ -70,8 +70,8 @@ QString unusedNameIn(const QString& folder)
     return folder + QStringLiteral("/.ambertask-") + QUuid::createUuid().toString(QUuid::Id128);
 }
 
-/// Gathers what is written to it in small pieces. No error passes through the code of whoever writes: it is
-/// kept until the end.
+/// Collects small writes into larger ones. A failure is kept until the end, so that no exception passes
+/// through the code that writes.
 class GatheringDevice final : public QIODevice
 {
 public:
@@ -82,7 +82,7 @@ public:
     }
 
     bool isSequential() const override { return true; }
-    /// Throws FileError when any of it could not be written.
+    /// Throws FileError when any write has failed.
     void finish()
     {
         pass();
@@ -125,7 +125,7 @@ private:
 
 void openSource(QFile& source)
 {
-    // A pipe or a device would never end.
+    // Reading a pipe or a device would never end.
     if (!QFileInfo(source).isFile()) {
         fail(source.fileName(), FileError::tr("it is not a file"));
     }
@@ -184,7 +184,7 @@ QString FileError::reason(const QFileDevice& file)
 #ifdef Q_OS_WIN
     return file.errorString();
 #else
-    Q_UNUSED(file); // its words are the system's own
+    Q_UNUSED(file); // the reason is in errno
     return reason(errno);
 #endif
 }
@@ -308,7 +308,7 @@ void keepAlso(
         QFile::remove(beside);
         throw;
     }
-    // Where both were names of one file before, the renaming has done nothing and left the new name.
+    // rename() does nothing when both names already are the same file, and leaves the new name behind.
     QFile::remove(beside);
 }
 
@@ -338,7 +338,7 @@ void makeFolder(const QString& path)
         return;
     }
     makeFolder(QFileInfo(path).absolutePath());
-    // Another process may be making it, too.
+    // Another process may be making it at the same time.
     if (!QDir().mkdir(path, PrivateFolder) && !QFileInfo(path).isDir()) {
         fail(path, qt_error_string());
     }

@@ -22,10 +22,10 @@ public:
 
     /// Why, without the name of the file. Empty when the text says it all.
     const QString& why() const { return m_why; }
-    /// Why the system refused something, by its error number and in words for whoever chose the file: "the
-    /// disk is full". For other numbers what the system says of them.
+    /// The reason for a system error number, in words for whoever chose the file: "the disk is full". For
+    /// other numbers the system's own message.
     static QString reason(int error);
-    /// The same of the call on `file` that has failed just now.
+    /// The same for the last failed call on `file`.
     static QString reason(const QFileDevice& file);
 
 private:
@@ -35,55 +35,54 @@ private:
 /// Why an operation on files failed, in words that follow a colon.
 QString reasonOf(const std::exception& error);
 
-/// Read and written by its owner alone.
+/// Readable and writable by the owner alone.
 inline constexpr QFileDevice::Permissions PrivateFile = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
 /// The same for a folder.
 inline constexpr QFileDevice::Permissions PrivateFolder = PrivateFile | QFileDevice::ExeOwner;
-/// Read by everyone as far as the user's mask allows it.
+/// Readable by everyone, as far as the umask allows.
 inline constexpr QFileDevice::Permissions PublicFile =
     PrivateFile | QFileDevice::ReadGroup | QFileDevice::ReadOther;
 
-// Files appear under their name complete or not at all, whenever the power fails, and what has been done is
-// on the disk at the return (as far as the file system can flush a folder). A private file is private
-// whatever the user's mask is. All functions throw FileError.
+// A file appears under its name complete or not at all, even if the power fails, and is on the disk when
+// the function returns (as far as the file system can flush a folder). A private file is private whatever
+// the umask is. All functions throw FileError.
 
-/// Copies the regular file `source`, byte for byte, to the new file `target`, whose name is not flushed.
+/// Copies the regular file `source`, byte for byte, to the new file `target`; the folder is not flushed.
 /// After an error there is no `target`.
 void copyToNewFile(const QString& source, const QString& target, QFileDevice::Permissions permissions,
     Progress* progress = nullptr);
-/// Gives `file` the name `target`, over a regular file of that name; both lie in one file system. Where
+/// Renames `file` to `target`, replacing a regular file of that name; both are on one file system. If
 /// `target` is a link, the file that it points to is replaced.
 void moveOver(const QString& file, const QString& target);
-/// Copies `source` over `target`, which keeps its content unless the copy is complete. Meanwhile the copy
-/// lies beside it; copies that a process left there when it died are removed.
+/// Copies `source` over `target`, which keeps its content unless the copy is complete. The copy is written
+/// beside it under a random hidden name; copies left there by processes that died are removed.
 void replaceByCopy(const QString& source, const QString& target, QFileDevice::Permissions permissions,
     Progress* progress = nullptr);
-/// Writes `bytes` over `target`, in the same way.
+/// The same with `bytes` as the new content.
 void replaceByBytes(const QByteArray& bytes, const QString& target, QFileDevice::Permissions permissions);
-/// Writes what `write` writes to a sequential device over `target`, in the same way. `target` keeps its
-/// content when `write` throws.
+/// The same with what `write` writes to a sequential device as the new content. `target` keeps its content
+/// when `write` throws.
 void replaceByWriting(const QString& target, QFileDevice::Permissions permissions,
     const std::function<void(QIODevice&)>& write);
-/// Gives `file` the second name `target`, in the same file system, over a regular file; where the
-/// file system knows no second names, copies it. Both names keep the content when one of them is then
-/// replaced.
+/// Gives `file` a second name `target` on the same file system, replacing a regular file; copies it where
+/// the file system has no hard links. When one of the names is replaced later, the other keeps the content.
 void keepAlso(const QString& file, const QString& target, QFileDevice::Permissions permissions,
     Progress* progress = nullptr);
-/// Removes the file; one that does not exist is none.
+/// Removes the file if it exists.
 void removeFile(const QString& path);
-/// Takes away what others than its owner may do with a file. Quietly does nothing where there is no regular
-/// file of that name (what a link points to is not meant) or where the system refuses.
+/// Removes the permissions of everyone but the owner. Quietly does nothing where there is no regular file
+/// of that name (links are not followed) or where the system refuses.
 void makePrivate(const QString& path);
-/// Makes the folder, and those above it that are missing, for its owner alone.
+/// Makes the folder and the missing ones above it, accessible to the owner alone.
 void makeFolder(const QString& path);
 
-/// Brings the names that `folder` holds to the disk. False when the disk failed to; some file systems cannot
-/// be asked for that, and then nothing happens.
+/// Flushes the entries of `folder` to the disk. False when that failed; does nothing on file systems that
+/// cannot flush a folder.
 bool flushFolder(const QString& folder);
 
-/// Whether there is anything of that name. Throws when the disk cannot tell: that is no "no".
+/// Whether anything of that name exists. Throws when the disk cannot tell: an error is not a "no".
 bool isPresent(const QString& path);
 /// The path with links resolved, as far as the file exists.
 QString resolvedPath(const QString& path);
-/// Whether both paths lead to one existing file, by whatever links.
+/// Whether both paths lead to the same existing file, through whatever links.
 bool isSameFile(const QString& left, const QString& right);

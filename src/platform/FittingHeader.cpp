@@ -8,9 +8,9 @@
 namespace
 {
 
-/// Letters get hard to read below it.
+/// Narrower letters are hard to read.
 constexpr qreal LeastSqueeze = 0.62;
-constexpr int CaptionMargin = 5; // pixels on either side
+constexpr int CaptionMargin = 5; // pixels on either side of a caption
 
 } // namespace
 
@@ -31,16 +31,16 @@ QString FittingHeader::captionOf(int logicalIndex) const
 
 qreal FittingHeader::squeezeOf(int logicalIndex) const
 {
-    // The advance is rounded, and may be rounded off.
+    // The advance is rounded to whole pixels, perhaps down.
     const int needed = fontMetrics().horizontalAdvance(captionOf(logicalIndex)) + 1;
     const int available = roomFor(logicalIndex);
     return needed <= available ? 1 : qMax(LeastSqueeze, qreal(available) / needed);
 }
 
-// The header itself reckons with bold letters: one more font to be found, for a caption that is never bold.
+// QHeaderView measures with a bold font, which would have to be loaded for captions that are never bold.
 QSize FittingHeader::sectionSizeFromContents(int logicalIndex) const
 {
-    // A window that closes asks for its size when its lists are gone.
+    // A closing window asks for its size after its models are gone.
     if (model() == nullptr) {
         return QHeaderView::sectionSizeFromContents(logicalIndex);
     }
@@ -65,7 +65,8 @@ void FittingHeader::paintSection(QPainter* painter, const QRect& rect, int logic
     painter->save();
     painter->setClipRect(rect);
     style()->drawControl(QStyle::CE_HeaderSection, &option, painter, this);
-    // Drawn narrower, not written in a narrower font: each width of a font has to be found by itself.
+    // Painted narrower instead of written in a narrower font: each stretch of a font has to be looked up by
+    // itself.
     const QRect label = style()->subElementRect(QStyle::SE_HeaderLabel, &option, this);
     painter->translate(label.left(), 0);
     painter->scale(squeeze, 1);
@@ -77,7 +78,7 @@ void FittingHeader::paintSection(QPainter* painter, const QRect& rect, int logic
 void FittingHeader::initStyleOptionForIndex(QStyleOptionHeader* option, int logicalIndex) const
 {
     QHeaderView::initStyleOptionForIndex(option, logicalIndex);
-    // The header itself would reckon with the letters as they are before they are squeezed.
+    // QHeaderView would elide for the width that the letters have before they are squeezed.
     const int room = qRound(roomFor(logicalIndex) / squeezeOf(logicalIndex));
     option->text = inOwnDirection(option->fontMetrics.elidedText(option->text, Qt::ElideRight, room));
 }

@@ -2,8 +2,8 @@
 
 #include <QHeaderView>
 
-/// A horizontal header that squeezes the letters of a caption that is a little too long for its column, so
-/// that a narrow column keeps its whole word. What is still too long is elided.
+/// A horizontal header that squeezes a caption a little too long for its column, so that a narrow column
+/// keeps its whole word. A caption that is still too long is elided.
 class FittingHeader : public QHeaderView
 {
     Q_OBJECT
@@ -18,8 +18,8 @@ protected:
 
 private:
     QString captionOf(int logicalIndex) const;
-    /// Pixels for the caption.
+    /// Pixels available for the caption.
     int roomFor(int logicalIndex) const;
-    /// How wide the letters are drawn, at most 1.
+    /// The factor by which the letters are narrowed, at most 1.
     qreal squeezeOf(int logicalIndex) const;
 };

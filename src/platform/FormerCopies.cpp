@@ -16,7 +16,7 @@ namespace
 
 using std::filesystem::file_type;
 
-/// A disk that cannot tell has not said that there is nothing.
+/// The type of the file; throws when the disk cannot tell, which does not mean that there is none.
 file_type known(const QString& path, const std::filesystem::file_status& status, const std::error_code& error)
 {
     if (status.type() == file_type::none) {
@@ -25,7 +25,7 @@ file_type known(const QString& path, const std::filesystem::file_status& status,
     return status.type();
 }
 
-/// Of what lies there itself, be it a link.
+/// The type of what is at `path` itself, links not followed.
 file_type kindOf(const QString& path)
 {
     std::error_code error;
@@ -50,8 +50,9 @@ QByteArray contentOf(const QString& path)
     return content;
 }
 
-/// Whether `copy` lies there as it was brought, by the sum that was noted then. An upgrade that was cut off
-/// brought files without noting it: those are as they are shipped. What a link leads to was not put here.
+/// Whether `copy` is an unchanged copy: it has the checksum noted when it was made, or (an upgrade that was
+/// cut off notes none) the content of the file as it is shipped. A file behind a link was not put here by
+/// the program.
 bool isFormerCopy(const QString& copy, const QByteArray& sumWhenBrought, const QString& shipped)
 {
     if (kindOf(copy) != file_type::regular || kindBehindLinks(shipped) != file_type::regular) {
@@ -62,10 +63,10 @@ bool isFormerCopy(const QString& copy, const QByteArray& sumWhenBrought, const Q
         || content == contentOf(shipped);
 }
 
-/// Removes what is unchanged of the files on the list; true when none has to be tried again.
+/// Removes the unchanged files on the list; true when nothing remains to be tried again.
 bool removeUnchanged(const QByteArray& list, const QString& folder, const QString& shippedFolder)
 {
-    // A line for each file: its SHA-256 sum in hexadecimal digits, two blanks, its path in the folder.
+    // Each line: SHA-256 sum in hexadecimal digits, two blanks, path in the folder.
     constexpr int SumLength = 64;
     bool isComplete = true;
     QSet<QString> folders;
@@ -84,7 +85,8 @@ bool removeUnchanged(const QByteArray& list, const QString& folder, const QStrin
         }
     }
     for (const QString& one : qAsConst(folders)) {
-        // Once the list is gone from the disk, copies that are not would pass for the user's own.
+        // On the disk before the list is removed: a copy that outlived the list would pass for the user's
+        // own.
         isComplete = flushFolder(one) && isComplete;
     }
     return isComplete;
@@ -95,7 +97,7 @@ bool removeUnchanged(const QByteArray& list, const QString& folder, const QStrin
 void removeFormerCopies(const Installation& installation, const QString& programFolder)
 {
     const QString list = pathIn(programFolder, QStringLiteral("shipped.sha256"));
-    // A folder that is only read, of which nothing can be removed, is not looked through at every start.
+    // Nothing can be removed from a read-only folder, so it is not searched at every start.
     if (installation.shippedFolder.isEmpty() || !QFileInfo(list).isFile()
         || !QFileInfo(programFolder).isWritable()) {
         return;

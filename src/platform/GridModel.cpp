@@ -63,7 +63,7 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
     case Qt::DisplayRole:
         return m_columns[section].header;
     case Qt::ToolTipRole:
-        // The whole of a caption that is too long for its column.
+        // The whole caption, for a column that is too narrow for it.
         return plainToolTip(m_columns[section].header);
     case Qt::UserRole:
         return m_columns[section].key;

@@ -6,17 +6,17 @@
 
 class ImageList;
 
-/// A column of a grid. Its width is the grid's width divided by `widthDivisor`, in a unit in which all
-/// columns together are as wide as the grid; a divisor of 0 hides the column.
+/// A column of a grid. Its width is the grid's width divided by `widthDivisor`, scaled so that all columns
+/// together fill the grid; a divisor of 0 hides the column.
 struct GridColumn {
-    int field = 0; ///< what the column shows, in the terms of the model
-    QString key; ///< unique name; lies in the header's Qt::UserRole
+    int field = 0; ///< which of the model's fields the column shows
+    QString key; ///< unique name, stored under Qt::UserRole in the header
     QString header;
     int widthDivisor = 0;
 };
 
-/// The columns and the picture list of a grid; what stands in a cell is asked of the derived class, only when
-/// the cell is painted or read.
+/// The columns and the image list of a grid. The derived class answers the content of a cell, only when
+/// that is painted or read.
 class GridModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -27,7 +27,7 @@ public:
     /// `images` is not owned and outlives the model.
     void setImageList(const ImageList* images) { m_images = images; }
     const QList<GridColumn>& columns() const { return m_columns; }
-    /// Replaces all columns. Emits a model reset.
+    /// Replaces all columns and emits a model reset.
     void setColumns(const QList<GridColumn>& columns);
 
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -37,17 +37,17 @@ public:
 protected:
     static constexpr int NoIcon = -1;
 
-    /// Replaces all columns without a reset of its own, for a model that is in the middle of one.
+    /// Replaces all columns without a reset, for a model that is resetting itself already.
     void replaceColumns(const QList<GridColumn>& columns) { m_columns = columns; }
 
     /// The text that a cell shows.
     virtual QString cellText(int row, int field) const = 0;
     /// The picture of a cell as an index into the image list, counted from 0, or NoIcon.
     virtual int cellIcon(int row, int field) const = 0;
-    /// The word for what a cell says by its picture alone, for tool tips and screen readers; empty for none.
+    /// The word for a cell that shows only a picture, for tool tips and screen readers; empty for none.
     virtual QString cellWord(int row, int field) const = 0;
-    /// What the tool tip of a cell says below its text or word, and screen readers say of it when asked for
-    /// more; empty for nothing.
+    /// What the tool tip of a cell adds below its text or word, and what screen readers say as its
+    /// description; empty for nothing.
     virtual QString cellNote(int /*row*/, int /*field*/) const { return {}; }
 
 private:

@@ -23,7 +23,7 @@ constexpr int LeastRows = 4;
 
 bool isPlain(const QKeyEvent& event)
 {
-    // The key of that name on the keypad is the same key.
+    // Keys on the keypad count as the same keys.
     return (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
 }
 
@@ -38,7 +38,7 @@ QModelIndex firstOf(const QItemSelection& selection)
     return selection.isEmpty() ? QModelIndex() : QModelIndex(selection.first().topLeft());
 }
 
-/// The widths that columns ask for, each as a part of the whole.
+/// The share of the grid's width that each column asks for.
 std::vector<double> sharesOf(const QList<GridColumn>& columns)
 {
     std::vector<double> shares;
@@ -92,7 +92,8 @@ void GridView::setGridModel(GridModel* model)
 {
     m_gridModel = model;
     setModel(model);
-    // The header, told of a reset first, has the grid laid out: the old shares must be gone by then.
+    // On a reset the header lays the grid out before modelReset() arrives here: drop the old shares before
+    // that.
     connect(model, &QAbstractItemModel::modelAboutToBeReset, this, [this] { m_shares.clear(); });
     connect(model, &QAbstractItemModel::modelReset, this, &GridView::layOutColumns);
     layOutColumns();
@@ -111,7 +112,8 @@ void GridView::selectOnly(int row)
         clearSelection();
         return;
     }
-    // Qt's selectRow() finds no column at the edge where it looks from right to left, and clears.
+    // Workaround: from right to left selectRow() of Qt 6.4.2 looks for a column at the wrong edge, finds
+    // none and clears the selection (tst_qt_workarounds, selectRowClearsFromRightToLeft).
     moveTo(row, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
@@ -154,7 +156,7 @@ void GridView::followLetters()
     verticalHeader()->setDefaultSectionSize(qMax(icon, fontMetrics().height()) + RowPadding);
 }
 
-// Both pass over QTableView, which tells of cells by numbers that count the hidden columns.
+// Both skip QTableView: its accessibility events count hidden columns (see AccessibleGrid).
 // NOLINTBEGIN(bugprone-parent-virtual-call)
 void GridView::currentChanged(const QModelIndex& current, const QModelIndex& previous)
 {
@@ -166,7 +168,9 @@ void GridView::currentChanged(const QModelIndex& current, const QModelIndex& pre
 
 void GridView::focusInEvent(QFocusEvent* event)
 {
-    // Qt's table makes the first row the current one, and frames it: a row on which no key acts.
+    // Skips QTableView and QAbstractItemView, which would make the first row current and frame it although
+    // nothing is selected and no key acts on it (Qt 6.4.2; tst_qt_workarounds,
+    // aTableThatGetsTheFocusMakesItsFirstRowCurrent).
     QAbstractScrollArea::focusInEvent(event);
     setAttribute(Qt::WA_InputMethodEnabled, false);
     viewport()->update();
@@ -199,7 +203,7 @@ void GridView::keyPressEvent(QKeyEvent* event)
     } else {
         QTableView::keyPressEvent(event);
         if (m_gridModel != nullptr && movesUpOrDown(*event) && isPlain(*event) && selectedRow() < 0) {
-            // At an end Qt neither moves nor selects.
+            // At the first and the last row Qt neither moves nor selects.
             selectOnly(currentIndex().row());
         }
     }
@@ -236,7 +240,7 @@ void GridView::layOutColumns()
             taken += columnWidth(i);
         }
     }
-    // The widest takes what the rounding leaves over.
+    // The widest column takes what rounding has left over.
     const auto widest = std::max_element(m_shares.cbegin(), m_shares.cend());
     if (taken > 0) {
         const int column = static_cast<int>(widest - m_shares.cbegin());
@@ -257,7 +261,8 @@ void GridView::takeUserWidth(int column, int /*oldSize*/, int newSize)
     const auto dragged = m_shares.begin() + column;
     const double before = std::accumulate(m_shares.begin(), dragged, 0.0);
     const double after = std::accumulate(dragged + 1, m_shares.end(), 0.0);
-    // The last one ends where the grid does. Those behind any other share what it leaves them as they did.
+    // The last column ends where the grid does. The columns behind any other one share the rest in the
+    // proportions that they had.
     if (after > 0) {
         const auto shown = std::count_if(dragged + 1, m_shares.end(), [](double share) { return share > 0; });
         const double least = double(horizontalHeader()->minimumSectionSize()) / viewport()->width();

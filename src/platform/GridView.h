@@ -6,8 +6,8 @@
 
 class GridModel;
 
-/// A grid of whole rows of one fixed height. The selection is one row or none; rows and columns come from a
-/// GridModel. When the selected row is removed, the row that takes its place is selected, else the last one.
+/// A grid of whole rows of one fixed height. At most one row is selected; rows and columns come from a
+/// GridModel. When the selected row is removed, the row that takes its place is selected, or the last one.
 class GridView : public QTableView
 {
     Q_OBJECT
@@ -15,18 +15,18 @@ class GridView : public QTableView
 public:
     explicit GridView(QWidget* parent = nullptr);
 
-    /// The grid does not own `model`; set once. After every reset of the model the columns get the widths
-    /// that they ask for and no row is selected. Together they fill the grid, whatever its width; those
-    /// behind a column that the user drags make room for it.
+    /// Set once; the grid does not own `model`. After every reset of the model no row is selected and the
+    /// columns get the widths that they ask for. Together they always fill the grid; columns behind one
+    /// that the user drags make room for it.
     void setGridModel(GridModel* model);
 
     /// The selected row, counted from 0; -1 for none.
     int selectedRow() const;
     /// Selects a row, makes it the current one and scrolls to it; -1 selects none.
     void selectOnly(int row);
-    /// Makes a row the current one, from which the keys go on, and scrolls to it, without selecting it.
+    /// Makes a row current without selecting it, and scrolls to it; keys go on from there.
     void goTo(int row);
-    /// A few rows below the header.
+    /// Has room for a few rows below the header.
     QSize minimumSizeHint() const override;
 
 signals:
@@ -45,7 +45,7 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    /// Pictures and rows take their size from the font.
+    /// Adapts the sizes of icons and rows to the font.
     void followLetters();
     void layOutColumns();
     void takeUserWidth(int column, int oldSize, int newSize);
@@ -55,8 +55,7 @@ private:
     double share(int column) const;
 
     GridModel* m_gridModel = nullptr;
-    /// For each column its part of the grid's visible width, 0 for a hidden one; none before the first
-    /// layout.
+    /// Each column's share of the visible width, 0 for a hidden one; empty before the first layout.
     std::vector<double> m_shares;
     bool m_layingOut = false;
 };

@@ -52,7 +52,8 @@ void HelperProcess::end()
     }
     process->disconnect(this);
     process->kill();
-    // It is waited for by the object's end, which must not come to pass in a handler of its own signal.
+    // Otherwise QProcess would wait in its destructor; deleteLater(), as this may run in a handler of its
+    // own signal.
     process->waitForFinished();
     process->deleteLater();
 }

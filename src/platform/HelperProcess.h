@@ -8,28 +8,28 @@ class QProcess;
 
 using ProgramPath = std::function<QString()>;
 
-/// A process of ours that does what could end or hold up the program. It runs while there is something to do:
-/// the first `write` starts it. Its errors go where the program's go. Interface thread only.
+/// A process of our own for work that could crash or block the program. The first `write` starts it; it
+/// runs while there is something to do. Its error output is the program's. Interface thread only.
 class HelperProcess final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// `program` answers the path of its executable; it is asked at each start.
+    /// `program` answers the path of the executable; it is called at each start.
     explicit HelperProcess(ProgramPath program, QObject* parent = nullptr);
     /// Ends the process.
     ~HelperProcess() override;
 
     bool isRunning() const { return m_process != nullptr; }
-    /// Passes `bytes` to it; never waits for it.
+    /// Sends `bytes` to the process without waiting.
     void write(const QByteArray& bytes);
-    /// Ends it at once. Nothing that it has answered is told any more.
+    /// Ends the process at once. Nothing that it has answered is emitted any more.
     void end();
 
 signals:
-    /// What it has written, in pieces of any size.
+    /// Output of the process, in pieces of any size.
     void answered(const QByteArray& bytes);
-    /// It could not be started, or has ended by itself; the next `write` starts another.
+    /// The process could not be started or has ended by itself; the next `write` starts another.
     void lost();
 
 private:

@@ -9,7 +9,7 @@ class ImageList
 {
 public:
     int count() const { return static_cast<int>(m_icons.size()); }
-    /// Appends a picture and answers its number, counted from 1.
+    /// Appends a picture and returns its number, counted from 1.
     int append(const QIcon& icon)
     {
         m_icons.append(icon);

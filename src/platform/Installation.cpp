@@ -38,7 +38,7 @@ Installation installationOf(const QString& executable)
 {
     const QDir folder = QFileInfo(executable).absoluteDir();
 #ifdef AMBERTASK_BIN_FOLDER
-    // The folder's name counts as well: a program folder may lie anywhere, beside a folder "share" too.
+    // The name of the folder counts as well: a program folder may happen to lie beside a folder "share".
     const QString files = QDir::cleanPath(folder.filePath(QStringLiteral(AMBERTASK_SHIPPED_FROM_BIN)));
     if (folder.dirName() == QLatin1String(AMBERTASK_BIN_FOLDER) && QFileInfo(files).isDir()) {
         const QString prefix = QDir::cleanPath(folder.filePath(QStringLiteral(AMBERTASK_PREFIX_FROM_BIN)));

@@ -2,23 +2,23 @@
 
 #include <QString>
 
-/// Where the files of a program lie. All paths are absolute.
+/// Where the files of the program are. All paths are absolute.
 struct Installation {
     QString executable; ///< with links resolved
-    QString moduleFolder; ///< of the modules that are loaded at their first use
-    /// Skins, sounds, help and the data.dat of a first start. Empty where they lie in the program folder,
+    QString moduleFolder; ///< of the modules that are loaded on first use
+    /// Skins, sounds, help and the data.dat of a first start. Empty where they lie in the program folder
     /// beside the executable (build tree).
     QString shippedFolder;
-    /// The program folder that the installation itself is: the executable's, or a prefix that holds data.dat.
-    /// Empty where each user has one of their own.
+    /// The program folder if it is part of the installation: the executable's folder, or a prefix that
+    /// holds data.dat. Empty where each user has a folder of their own.
     QString programFolder;
 
     bool operator==(const Installation&) const = default;
 };
 
-/// The installation that `executable` is part of: one below a prefix when its folder is the prefix's folder
-/// for executables and that of what is shipped is there.
+/// The installation that `executable` belongs to. It is an installed one when the executable lies in a
+/// prefix's folder for executables and the prefix has the folder of shipped files.
 Installation installationOf(const QString& executable);
 
-/// That of the running program. Needs no application object.
+/// The installation of the running program. Needs no application object.
 Installation runningInstallation();

@@ -12,7 +12,7 @@ constexpr int FirstRestart = 0xD0;
 constexpr int StartOfPicture = 0xD8;
 constexpr int PastEnd = -1;
 
-/// Markers without a length and a content.
+/// Markers that have no length and no content.
 bool standsAlone(int marker)
 {
     constexpr int temporary = 0x01;
@@ -23,11 +23,11 @@ bool standsAlone(int marker)
 
 JpegWalk::JpegWalk(QByteArrayView bytes) : m_bytes(bytes)
 {
-    int colours = PastEnd; ///< of a frame whose scans go from top to bottom
+    int colours = PastEnd; ///< components of a frame that is stored from top to bottom
     while (at(m_position) == MarkerBegin) {
         const int marker = at(++m_position);
         if (marker == MarkerBegin) {
-            continue; // any number of them may stand before a marker
+            continue; // any number of fill bytes may precede a marker
         }
         ++m_position;
         if (marker == EndOfPicture) {
@@ -64,8 +64,7 @@ int JpegWalk::at(qsizetype position) const
 
 void JpegWalk::skipScan()
 {
-    // A byte that looks like the begin of a marker is followed by 0; marks for starting anew belong to the
-    // scan.
+    // In coded data 0xFF is followed by 0; restart markers belong to the scan.
     for (; m_position < m_bytes.size(); ++m_position) {
         const int next = at(m_position) == MarkerBegin ? at(m_position + 1) : 0;
         if (next != 0 && (next < FirstRestart || next >= StartOfPicture)) {

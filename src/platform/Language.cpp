@@ -54,7 +54,7 @@ void Language::speak(const QString& catalogue)
         QGuiApplication::setLayoutDirection(m_usual);
         return;
     }
-    // Distributions put them where Qt says; whoever brings Qt along, beside the program.
+    // Distributions keep Qt's catalogues where Qt says; who ships Qt with the program puts them beside it.
     const QString ofQt = QLatin1String("qtbase_") + catalogue;
     if (m_qtTexts.load(ofQt, QLibraryInfo::path(QLibraryInfo::TranslationsPath))
         || m_qtTexts.load(ofQt, QCoreApplication::applicationDirPath() + QLatin1String("/translations"))) {

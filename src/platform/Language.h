@@ -4,14 +4,13 @@
 #include <QStringList>
 #include <QTranslator>
 
-/// The name among `shipped` (such as "de" or "zh_CN") of the catalogue for a user who reads `uiLanguages`
-/// (best first). Empty for English, which is what the texts in the code are and what everybody gets whose
-/// languages do not ship. Region does not matter, script does: no simplified Chinese for readers of
-/// traditional Chinese.
+/// Which of the `shipped` catalogues (names such as "de" or "zh_CN") suits a user whose languages are
+/// `uiLanguages`, best first. Empty for English, the language of the texts in the code, which is also used
+/// when none suits. The region does not matter, the script does: readers of traditional Chinese do not get
+/// simplified Chinese.
 QString catalogueFor(const QStringList& uiLanguages, const QStringList& shipped);
 
-/// The language that the program speaks. Lives as long as the application object and not longer; interface
-/// thread only.
+/// The language of the program's texts. Must not outlive the application object; interface thread only.
 class Language
 {
 public:
@@ -20,8 +19,8 @@ public:
     /// The file of a shipped catalogue.
     static QString fileOf(const QString& catalogue);
 
-    /// Makes the application speak the language of a shipped catalogue, English for an empty name: texts,
-    /// Qt's own texts where the system has them, and the direction of reading.
+    /// Switches the application to a shipped catalogue, or to English for an empty name: its texts, Qt's
+    /// own texts where the system has them, and the layout direction.
     void speak(const QString& catalogue);
     /// `speak` for the system's language.
     void speakAsTheSystem();
@@ -29,6 +28,6 @@ public:
 private:
     QTranslator m_qtTexts;
     QTranslator m_own;
-    /// Of what is not read from right to left by itself: the command line may turn it round (-reverse).
+    /// The direction for languages that read from left to right; the option -reverse may turn it around.
     Qt::LayoutDirection m_usual = QGuiApplication::layoutDirection();
 };

@@ -14,7 +14,7 @@
 
 LockFile::LockFile(const QString& path, IfHeld ifHeld) : m_path(path)
 {
-    // Whoever had it may have taken its file away between our opening and our locking that.
+    // The previous holder may have removed the file between our open() and flock(): try again then.
     while (!settle(ifHeld == IfHeld::Wait)) { }
 }
 
@@ -30,7 +30,7 @@ bool LockFile::settle(bool waits)
 {
     const QByteArray name = QFile::encodeName(m_path);
     constexpr mode_t Private = S_IRUSR | S_IWUSR;
-    // A pipe of that name must not keep the program waiting.
+    // Without O_NONBLOCK a pipe of that name would block.
     const int handle =
         ::open(name.constData(), O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, Private);
     if (handle < 0) {
@@ -61,7 +61,7 @@ bool LockFile::settle(bool waits)
 
 #else
 
-// Windows: nothing there needs one yet.
+// Windows: nothing uses it there yet.
 LockFile::LockFile(const QString& path, IfHeld) : m_path(path)
 {
 }

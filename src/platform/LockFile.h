@@ -2,25 +2,25 @@
 
 #include <QString>
 
-/// A lock between processes: on a private file that is made for it and is gone again with the lock. Nobody
-/// but its owner can open the file, so nobody else can take the lock. The system drops the lock of a process
-/// that dies; the file then stays, empty, for the next one. It does not pass on to started programs.
+/// A lock between processes, on a private file that is made for the lock and removed with it. Only its
+/// owner can open the file, so nobody else can take the lock. When a process dies the system drops its
+/// lock; the empty file stays for the next one. Started programs do not inherit the lock.
 class LockFile
 {
 public:
     enum class IfHeld { GiveUp, Wait };
 
     LockFile(const QString& path, IfHeld ifHeld);
-    /// Takes the file away.
+    /// Removes the file.
     ~LockFile();
     LockFile(const LockFile&) = delete;
     LockFile& operator=(const LockFile&) = delete;
 
     bool isHeld() const { return m_handle >= 0; }
     bool isHeldElsewhere() const { return m_isHeldElsewhere; }
-    /// What the system said when the file could not be opened or locked; 0 otherwise. See `failure`.
+    /// The system's error number when the file could not be opened or locked, otherwise 0. See `failure`.
     int error() const { return m_error; }
-    /// Why there is no lock, for the user; empty when it is held, here or elsewhere.
+    /// Why there is no lock, as a text for the user; empty when it is held by this or another process.
     QString failure() const;
 
 private:

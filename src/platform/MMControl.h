@@ -10,11 +10,11 @@ class Modules;
 
 inline constexpr char SoundProgram[] = "ambertask_sound";
 
-/// What plays waves on this machine; silent where its program is missing. `modules` outlives it.
+/// Plays waves on this machine; silent where the player program is missing. `modules` outlives it.
 std::unique_ptr<WaveBackend> makeWaveBackend(const Modules& modules);
 
 /// The multimedia control: set the properties, then send the commands "Open" and "Play". Each "Play" starts
-/// at once and may overlap the sound before; "Close" stops all. Interface thread only; nothing here blocks or
+/// at once and may overlap the sound before; "Close" stops all. Interface thread only; never blocks, never
 /// fails.
 class MMControl : public QObject
 {
@@ -34,7 +34,7 @@ public:
     void Command(const QString& command);
 
 signals:
-    /// Playback has come to its end by itself.
+    /// Playback has ended by itself.
     void Done();
 
 private:

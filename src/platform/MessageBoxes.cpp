@@ -20,7 +20,7 @@ QMessageBox::StandardButton show(QWidget* owner, QMessageBox::Icon icon, const Q
 {
     QMessageBox box(icon, QStringLiteral("Ambertask"), {}, buttons, owner);
     setBoxText(box, text);
-    // Qt's own captions follow a catalogue of the system that may be missing.
+    // Qt's own captions are translated only where the system has Qt's catalogue.
     name(box, QMessageBox::Ok, MessageBoxes::tr("&OK"));
     name(box, QMessageBox::Yes, MessageBoxes::tr("&Yes"));
     name(box, QMessageBox::No, MessageBoxes::tr("&No"));
@@ -28,7 +28,7 @@ QMessageBox::StandardButton show(QWidget* owner, QMessageBox::Icon icon, const Q
     name(box, QMessageBox::Discard, MessageBoxes::tr("&Discard"));
     name(box, QMessageBox::Cancel, MessageBoxes::tr("&Cancel"));
     box.setDefaultButton(byEnter);
-    // A message has to be seen above a topmost owner.
+    // So that it is not hidden by an owner that stays on top.
     if (owner != nullptr && owner->window()->windowFlags().testFlag(Qt::WindowStaysOnTopHint)) {
         box.setWindowFlag(Qt::WindowStaysOnTopHint);
     }
@@ -47,7 +47,7 @@ void ScreenMessageBoxes::tell(QWidget* owner, Icon icon, const QString& text)
 
 bool ScreenMessageBoxes::ask(QWidget* owner, const QString& question)
 {
-    // An Enter that is held or meant for another window is not to delete.
+    // The default is No: an Enter that is held down or meant for another window must not delete anything.
     return show(owner, QMessageBox::Question, question, QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
         == QMessageBox::Yes;
 }

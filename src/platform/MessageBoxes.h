@@ -4,14 +4,14 @@
 
 class QWidget;
 
-/// The message boxes of the program, titled with the application's title and modal to it. Texts are plain.
+/// The message boxes of the program, titled as the application and modal to it. Texts are plain.
 class MessageBoxes
 {
     Q_DECLARE_TR_FUNCTIONS(MessageBoxes)
 
 public:
     enum class Icon { None, Information, Exclamation };
-    /// What becomes of input that is not saved.
+    /// The user's answer to a question about unsaved input.
     enum class Unsaved { Save, Discard, Keep };
 
     MessageBoxes() = default;
@@ -19,12 +19,12 @@ public:
     MessageBoxes(const MessageBoxes&) = delete;
     MessageBoxes& operator=(const MessageBoxes&) = delete;
 
-    /// Shows `text` with an OK button and returns when it is closed. `owner` may be null.
+    /// Shows `text` with an OK button and returns when the box is closed. `owner` may be null.
     virtual void tell(QWidget* owner, Icon icon, const QString& text) = 0;
     /// Asks with the question icon and the buttons Yes and No. True only for Yes; Enter and Escape mean No.
     virtual bool ask(QWidget* owner, const QString& question) = 0;
-    /// Tells of input that is not saved, with the buttons Save, Discard and Cancel. Keep, which loses
-    /// nothing, for Cancel, Enter and Escape.
+    /// Asks about unsaved input, with the buttons Save, Discard and Cancel. Cancel, Enter and Escape mean
+    /// Keep, which loses nothing.
     virtual Unsaved askAboutUnsaved(QWidget* owner, const QString& text) = 0;
 };
 

@@ -40,7 +40,8 @@ Modules::~Modules()
 {
 #ifdef Q_OS_LINUX
     for (const Held& module : qAsConst(m_held)) {
-        // The loader knows a loaded one by the name of its handle, which must not become another file's.
+        // The dynamic loader knows a loaded module by this handle's path: its number must not be used
+        // again.
         if (!module.loaded) {
             ::close(module.handle);
         }
@@ -54,7 +55,7 @@ QFunctionPointer Modules::resolveAny(const QString& name, const char* symbol)
     if (held == m_held.end()) {
         return QLibrary(pathIn(m_folder, name)).resolve(symbol);
     }
-    // Not by its path, where another version may lie by now.
+    // By the handle, not by the path, where another version may lie by now.
     QLibrary module(QStringLiteral("/proc/self/fd/%1").arg(held->handle));
     held->loaded = module.load() || held->loaded;
     return module.resolve(symbol);

@@ -4,28 +4,27 @@
 #include <QString>
 #include <QStringList>
 
-/// The modules of the program, loaded at their first use, and the programs beside them that it starts. Their
-/// files are held open from the start on: a copy that runs on while another version takes their place uses
-/// its own all the same, and never that other version's. Interface thread only.
+/// The modules of the program, which are loaded on first use, and the helper programs beside them. Their
+/// files are held open from the start: when an upgrade replaces them, a running copy goes on with its own
+/// version. Interface thread only.
 class Modules
 {
 public:
-    /// Opens, where the platform can, the files of the modules `names` and of the `programs` in `folder`,
-    /// which costs a few microseconds; nothing is read yet. Names are without the ending that the platform
-    /// gives to files.
+    /// Opens the files of the modules `names` and of the `programs` in `folder`, where the platform can;
+    /// that takes a few microseconds and reads nothing. Names are without the platform's file ending.
     Modules(const QString& folder, const QStringList& names, const QStringList& programs = {});
     ~Modules();
     Modules(const Modules&) = delete;
     Modules& operator=(const Modules&) = delete;
 
-    /// The function `symbol` of a module, which stays loaded from then on; null when there is none. A module
-    /// that has not been there before is looked for again.
+    /// The function `symbol` of a module, which then stays loaded; null when there is none. A module that
+    /// was not there before is looked for again.
     template <typename Function> Function resolve(const QString& name, const char* symbol)
     {
         return reinterpret_cast<Function>(resolveAny(name, symbol));
     }
 
-    /// The path by which the program of that name is started, while this object lives.
+    /// The path under which that helper program is to be started, valid while this object lives.
     QString program(const QString& name) const;
 
 private:

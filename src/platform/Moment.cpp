@@ -50,7 +50,7 @@ Moment toMinute(Moment moment)
 Moment whenPassed(Moment from, seconds by)
 {
     const QDateTime start(toQDate(from), toQTime(from));
-    // A moment that the clock of this place never showed is taken as it stands.
+    // A local time that clocks skipped (start of summer time) is taken as it is.
     if (!start.isValid()) {
         return from + by;
     }

@@ -16,19 +16,20 @@ Moment startOfDay(Moment moment);
 /// The moment without its seconds.
 Moment toMinute(Moment moment);
 
-/// What the clock will show when `by` has passed since it showed `from`: on a day on which the clocks of this
-/// place are set, not the sum. Needs a look-up of the time zone.
+/// The local time when `by` has passed since `from`. Not the plain sum on a day on which clocks are set
+/// forward or back. Needs a time zone look-up.
 Moment whenPassed(Moment from, std::chrono::seconds by);
 
 std::chrono::year_month_day dayOf(Moment moment);
 std::chrono::seconds timeOfDayOf(Moment moment);
 
-/// The form in which the data file keeps a moment: "YYYY-MM-DD HH:MM:SS". Years 0 to 9999.
+/// A moment as the data file stores it: "YYYY-MM-DD HH:MM:SS". Years 0 to 9999.
 std::string storedText(Moment moment);
-/// The moment that a stored text says; none when the text has another form or names no existing day or time.
+/// The moment that a stored text denotes; none when the text has another form or no such day or time
+/// exists.
 std::optional<Moment> momentFromStoredText(std::string_view text);
 
-// The edge of a widget: pickers speak QDate and QTime.
+// For widgets: pickers use QDate and QTime.
 QDate toQDate(Moment moment);
 QTime toQTime(Moment moment);
 Moment toMoment(QDate date, QTime time = QTime(0, 0));

@@ -26,7 +26,7 @@ bool flushToDisk(const QFile& file)
 #endif
 }
 
-// Two processes may write into one folder: a file is abandoned when nobody holds its lock any more. The
+// Several processes may write into one folder. An unfinished file whose lock nobody holds is abandoned: the
 // system drops the lock of a process that dies.
 void lock(const QFile& file)
 {
@@ -37,8 +37,7 @@ void lock(const QFile& file)
 #endif
 }
 
-// What is copied goes to the disk on the way: at the end one flush of it all would hold up everything for
-// seconds.
+// Starts writing to the disk during the copy: one flush at the end would block for seconds.
 class Writeback
 {
 public:
@@ -78,7 +77,7 @@ NewFile::NewFile(const QString& path, QFileDevice::Permissions permissions) : m_
     }
     m_exists = true;
     lock(m_file);
-    // The mask must not take away what the owner needs.
+    // The umask must not take away the owner's permissions.
     if (permissions == PrivateFile && !m_file.setPermissions(permissions)) {
         const QString why = FileError::reason(m_file);
         discard();

@@ -4,14 +4,14 @@
 
 class Progress;
 
-/// A new file that is gone again unless it was finished and kept. Its process holds a lock on it meanwhile.
-/// All functions throw FileError.
+/// A new file that is removed again unless it was finished and kept. Locked by its process meanwhile. All
+/// functions throw FileError.
 class NewFile
 {
 public:
     static constexpr qint64 ChunkSize = qint64{1024} * 1024;
 
-    /// There must be no file of that name.
+    /// Throws when a file of that name exists.
     NewFile(const QString& path, QFileDevice::Permissions permissions);
     ~NewFile();
     NewFile(const NewFile&) = delete;
@@ -19,11 +19,12 @@ public:
 
     QString path() const { return m_file.fileName(); }
     void write(const char* bytes, qint64 size);
-    /// All that `from` holds from where it stands. `progress` may be null. Throws Cancelled, too.
+    /// Appends what `from` holds behind its current position. `progress` may be null; what it throws
+    /// (Cancelled) comes through.
     void copy(QFile& from, Progress* progress);
-    /// All of it is on the disk at the return, its name excepted.
+    /// Flushes the content to the disk; the folder entry is not flushed.
     void finish();
-    /// The file stays.
+    /// The file is not removed any more.
     void keep() { m_exists = false; }
 
 private:

@@ -15,7 +15,7 @@ constexpr qsizetype BytesAPixel = 4;
 
 QByteArray packedPicture(const QImage& picture)
 {
-    // Any bytes are a picture in this format; with the colours multiplied they would not be.
+    // In this format any bytes are a valid picture; with premultiplied colours they would not be.
     const QImage pixels = picture.convertToFormat(QImage::Format_RGBA8888);
     QByteArray bytes = Mark.toByteArray();
     bytes.resize(HeadSize);

@@ -6,7 +6,8 @@
 void handlePendingEvents()
 {
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-    // Qt 6.4.2 keeps what it has left out, but on X11 it looks there only when it is woken: a key would wait
-    // for the next event of the server.
+    // Workaround: Qt 6.4.2 queues the excluded input, but on X11 looks at that queue only when it is woken,
+    // so that a key would wait for the next event from the X server (tst_pending_events,
+    // theEventLoopGoesOnWithoutWaiting).
     QAbstractEventDispatcher::instance()->wakeUp();
 }

@@ -1,4 +1,5 @@
 #pragma once
 
-/// Handles the events that are pending, but no input: that stays for the event loop. Interface thread only.
+/// Handles pending events other than user input, which stays queued for the event loop. Interface thread
+/// only.
 void handlePendingEvents();

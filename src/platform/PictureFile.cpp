@@ -14,11 +14,11 @@ namespace
 
 constexpr qint64 MaximumBytes = 64LL * 1024 * 1024;
 constexpr int MaximumEdge = 4096;
-/// Of a JPEG that is made smaller while it is read: whole photographs of cameras, of which only an eighth of
-/// each edge is ever in memory.
+/// For a JPEG that is scaled down while it is read: whole photographs, of which only an eighth of each edge
+/// is ever in memory.
 constexpr int MaximumPhotographEdge = 12000;
-/// Each scan of a progressive JPEG passes over the whole picture, however few bytes it has: a file of many
-/// thousands would keep the program busy for hours. Encoders write about ten.
+/// Each scan of a progressive JPEG passes over the whole picture, however few bytes it has: thousands of
+/// them would keep the program busy for hours. Encoders write about ten.
 constexpr int MaximumJpegScans = 64;
 
 QByteArray formatOf(QByteArrayView bytes)
@@ -35,7 +35,7 @@ QByteArray formatOf(QByteArrayView bytes)
     return {};
 }
 
-/// Walks a GIF from block to block, to see whether its first picture is there to the end.
+/// Walks a GIF from block to block, to learn whether its first picture is complete.
 class GifWalk
 {
 public:
@@ -107,8 +107,8 @@ int maximumEdge(const QByteArray& bytes, const QByteArray& format)
     return format == "jpeg" && JpegWalk(bytes).isReadLineByLine() ? MaximumPhotographEdge : MaximumEdge;
 }
 
-/// The size that a GIF announces for the whole of its pictures. The decoder answers none for one that it
-/// finds too large.
+/// The size of the whole canvas in the GIF's header. Qt's decoder tells none for a size that it finds too
+/// large.
 QSize gifScreen(const QByteArray& bytes)
 {
     constexpr int width = 6;
@@ -117,8 +117,8 @@ QSize gifScreen(const QByteArray& bytes)
         qFromLittleEndian<quint16>(bytes.constData() + height)};
 }
 
-/// The decoders make a picture, partly grey, of what is cut off, and one passes over it as often as it is
-/// told.
+/// Checked here because the decoders fill a truncated picture with grey, and the JPEG decoder runs every
+/// scan that it finds.
 bool isComplete(const QByteArray& bytes, const QByteArray& format)
 {
     if (format == "gif") {
@@ -180,7 +180,7 @@ QByteArray PictureFile::read() const
     if (!info.exists()) {
         refuse(tr("there is no such file."));
     }
-    // A pipe or a device would keep the program waiting.
+    // A pipe or a device would block.
     if (!info.isFile()) {
         refuse(tr("it is not an ordinary file."));
     }

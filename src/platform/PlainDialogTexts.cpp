@@ -12,7 +12,7 @@
 namespace
 {
 
-/// The tool tip of the entry at `position`, when `widget` shows the entries of a list of a file dialog.
+/// The tool tip of the entry at `position` if `widget` shows a list of a file dialog.
 QString entryTip(const QWidget& widget, QPoint position)
 {
     const auto* view = qobject_cast<const QAbstractItemView*>(widget.parentWidget());

@@ -2,9 +2,9 @@
 
 #include <QObject>
 
-/// While one lives, dialogs of Qt show names of files and folders as they are: they put them into
-/// the questions that they ask and the tool tips of their lists, and leave it to those to guess whether that
-/// is markup. Whoever opens such a dialog holds one meanwhile.
+/// Workaround: dialogs of Qt 6.4.2 put names of files and folders into questions and tool tips that guess
+/// whether a text is markup. While an object of this class lives, these show the names as they are; whoever
+/// opens such a dialog holds one (tst_qt_workarounds, aFileNameInAQuestionIsTakenForMarkup).
 class PlainDialogTexts final : public QObject
 {
     Q_OBJECT

@@ -24,7 +24,7 @@ QString breakable(const QString& text)
     broken.reserve(text.size());
     qsizetype run = 0;
     for (const QChar c : text) {
-        // Never between the halves of a character, nor before what is drawn upon the one before it.
+        // Not between the halves of a surrogate pair, nor before a combining mark.
         if (run >= LongestRun && !c.isLowSurrogate() && !c.isMark()) {
             broken += ZeroWidthSpace;
             run = 0;
@@ -65,7 +65,7 @@ QString shownPart(const QString& text, qsizetype characters)
 QString beginningOf(std::string_view utf8)
 {
     std::size_t length = std::min(utf8.size(), LongestShown);
-    // Never within the bytes of a character.
+    // Not within the bytes of a character.
     while (
         length < utf8.size() && length > 0 && (static_cast<unsigned char>(utf8[length]) & 0xC0U) == 0x80U) {
         --length;
@@ -78,7 +78,7 @@ qsizetype lengthOfPart(const QString& text, qsizetype characters)
     if (text.size() <= characters) {
         return text.size();
     }
-    // What is drawn in one place may be of any length; it is looked for so far back.
+    // A character with combining marks may be of any length; search back no further than this.
     const qsizetype begin = qMax(qsizetype(0), characters - LongestCharacter);
     const QStringView around = QStringView(text).mid(begin, characters - begin + 1);
     QTextBoundaryFinder borders(QTextBoundaryFinder::Grapheme, around.data(), around.size());
@@ -94,7 +94,7 @@ QString plainToolTip(const QString& text)
     if (text.isEmpty()) {
         return {};
     }
-    // A tool tip that looks like markup would be shown as such.
+    // QToolTip guesses markup, so the text is passed as escaped markup.
     const QString shown = breakable(shownPart(text, ToolTipCharacters)).toHtmlEscaped();
     return QLatin1String("<qt>") + QString(shown).replace(u'\n', QLatin1String("<br>"))
         + QLatin1String("</qt>");

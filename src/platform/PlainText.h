@@ -3,25 +3,24 @@
 #include <QString>
 #include <string_view>
 
-// What a user or a file wrote, made fit to be shown: it is never taken for markup, and it can be broken into
-// lines.
+// For showing texts that a user or a file wrote: never taken for markup, and with places to break lines.
 
-/// `text` with places to break it wherever it runs on for long without one, as a path or a name without
-/// blanks does. Nothing is seen of them.
+/// `text` with invisible places to break it wherever it has none for long, as in a path or a name without
+/// blanks.
 QString breakable(const QString& text);
-/// `text` with an ellipsis in the place of its middle when it is longer than `characters`.
+/// `text` with an ellipsis instead of its middle when it is longer than `characters`.
 QString withoutMiddle(const QString& text, qsizetype characters);
-/// `text` read in the direction of its own script, where the program runs in the other one: a date or an
-/// English name is not to be turned around between right-to-left captions.
+/// `text` isolated so that it keeps its own direction where the program reads in the other one: a date or
+/// an English name between right-to-left captions.
 QString inOwnDirection(const QString& text);
-/// What is looked at of `text` where it is shown: of a longer one about so many characters, never part of
-/// one, and an ellipsis. A text without end is to be neither measured nor shaped.
+/// `text`, or of one longer than `characters` about so many, cut at the border of a character, and an
+/// ellipsis. A text of any length is never measured or shaped as a whole.
 QString shownPart(const QString& text, qsizetype characters = 1000);
 /// The length of that part, at most `characters`.
 qsizetype lengthOfPart(const QString& text, qsizetype characters);
-/// The beginning of a text in UTF-8, longer than any part of it that is shown: what nobody sees of a text
-/// without end is not to be converted.
+/// The beginning of a UTF-8 text, longer than any part that is shown: the rest of a very long text need not
+/// be converted.
 QString beginningOf(std::string_view utf8);
-/// A tool tip that shows `text` letter for letter, in lines; what is longer than anybody reads is cut.
+/// A tool tip that shows `text` letter for letter, wrapped, and cut when it is longer than anybody reads.
 /// Empty for an empty text.
 QString plainToolTip(const QString& text);

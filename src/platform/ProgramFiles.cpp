@@ -36,7 +36,7 @@ QString ProgramFiles::sound(const QString& path) const
     if (!name.startsWith(QLatin1String("sounds/"))) {
         return path;
     }
-    // Ours is looked at first: the path may lie on a disk that does not answer.
+    // First the file that we ship or keep: `path` may be on a disk that does not answer.
     const QString found = find(name);
     return QFileInfo::exists(found) && !QFileInfo::exists(path) ? found : path;
 }

@@ -13,7 +13,7 @@
 namespace
 {
 
-/// A base folder of the platform. Relative paths in the environment do not count.
+/// A base directory of the XDG specification. A relative path in the environment is ignored, as that asks.
 QString baseFolder(const char* variable, const QString& inHome)
 {
     const QString folder = qEnvironmentVariable(variable);
@@ -62,7 +62,7 @@ void makeProgramFolder(const Installation& installation, const QString& programF
     }
     const QString userData = QFileInfo(programFolder).absolutePath();
     makeFolder(userData);
-    // Of copies of the program that start at once, one makes the folder.
+    // Of several copies that start at once, one makes the folder.
     const LockFile lock(pathIn(userData, QStringLiteral(".Ambertask-lock")), LockFile::IfHeld::Wait);
     if (!lock.isHeld()) {
         throw FileError(lock.failure());
@@ -71,7 +71,7 @@ void makeProgramFolder(const Installation& installation, const QString& programF
         return;
     }
     const QString unfinished = pathIn(userData, QStringLiteral(".Ambertask-new"));
-    // What a start left that was ended here.
+    // Left by a start that was ended here.
     QDir(unfinished).removeRecursively();
     try {
         fillProgramFolder(installation, unfinished);
@@ -91,14 +91,14 @@ void pointToExecutable(const Installation& installation, const QString& programF
 {
     const QString link = pathIn(programFolder, QLatin1String(ProductName));
     const QFileInfo present(link);
-    // A folder without data.dat is no program folder: the start reports it, and nothing in it changes.
+    // A folder without data.dat is not a program folder: start-up reports that, and nothing in it changes.
     if (installation.shippedFolder.isEmpty()
         || !QFileInfo(pathIn(programFolder, QLatin1String(DataFileName))).isFile()
         || (present.exists() && !present.isSymLink()) || present.symLinkTarget() == installation.executable) {
         return;
     }
     const QString beside = pathIn(programFolder, QStringLiteral(".Ambertask-link"));
-    // A start that was ended here has left its link.
+    // Left by a start that was ended here.
     QFile::remove(beside);
     if (QFile::link(installation.executable, beside)) {
         std::error_code error;
@@ -119,8 +119,8 @@ bool noteFirstStart()
     const QString folder =
         pathIn(baseFolder("XDG_STATE_HOME", QStringLiteral(".local/state")), QStringLiteral("ambertask"));
     QFile marker(folder + QStringLiteral("/started"));
-    // Noted before anything is registered: a machine that cannot keep the note is not registered at every
-    // start.
+    // The note is written before anything is registered: a machine that cannot keep it must not be
+    // registered at every start.
     try {
         makeFolder(folder);
     } catch (const FileError&) {

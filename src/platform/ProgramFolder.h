@@ -4,32 +4,31 @@
 
 struct Installation;
 
-/// The product's name: of the executable, of the autostart entry, of the application's title.
+/// The product's name: of the executable, the autostart entry and the application's title.
 inline constexpr char ProductName[] = "Ambertask";
-/// The name, without its ending, of the desktop entry of an installed program: by it a desktop finds the icon
-/// of its windows.
+/// The base name of an installed program's desktop entry; desktops find the icon of the windows by it.
 inline constexpr char DesktopEntryName[] = "example.ambertask.ambertask";
-/// All tasks, categories and settings; what makes a folder a program folder.
+/// All tasks, categories and settings. A folder that holds it is a program folder.
 inline constexpr char DataFileName[] = "data.dat";
 
-/// The folder of the user's own data (XDG data home), below which an installed program keeps its folder.
+/// The folder for the user's data (XDG data home); an installed program keeps its folder in it.
 QString userDataFolder();
 
-/// The folder of what can be made anew at any time (XDG cache home).
+/// The folder for what can be made again at any time (XDG cache home).
 QString userCacheFolder();
 
-/// The folder that holds data.dat and what the user has added: the installation's, or one of the user's own
-/// in the folder `userData`.
+/// The folder that holds data.dat and what the user has added: the installation's own, or the user's in
+/// `userData`.
 QString programFolderOf(const Installation& installation, const QString& userData);
 
-/// Makes the user's program folder of an installed program: with the data.dat that is shipped and a link to
-/// the executable. It appears complete or not at all. Nothing happens when there is anything of that name, a
-/// link that leads nowhere included, nor where nothing is shipped elsewhere. Throws FileError.
+/// Makes the user's program folder for an installed program, with the shipped data.dat and a link to the
+/// executable. It appears complete or not at all. Does nothing when something of that name exists, even a
+/// broken link, or when nothing is shipped elsewhere. Throws FileError.
 void makeProgramFolder(const Installation& installation, const QString& programFolder);
 
-/// Points the link in the program folder of an installed program to the executable. Anything but a link that
-/// has its name stays. A file system without links goes without: it serves the start with the session alone.
-/// Only while no other copy runs.
+/// Points the link `Ambertask` in the user's program folder to the executable. Anything of that name that
+/// is not a link stays. On a file system without links there is none: only the start with the session uses
+/// it. Only while no other copy runs.
 void pointToExecutable(const Installation& installation, const QString& programFolder);
 
 /// `folder` and `name` with exactly one separator between them.

@@ -11,7 +11,7 @@ public:
     Cancelled() : RuntimeError(tr("The operation was cancelled.")) { }
 };
 
-/// Is told by a long operation how far it is.
+/// A long operation tells it how far it is.
 class Progress
 {
 public:
@@ -20,7 +20,7 @@ public:
     Progress(const Progress&) = delete;
     Progress& operator=(const Progress&) = delete;
 
-    /// `done` of `total`, in any unit; a `total` of 0 says that nobody knows. Called often, between two steps
-    /// of which neither takes long. Throws Cancelled.
+    /// `done` of `total`, in any unit; a `total` of 0 means unknown. To be called often, between short
+    /// steps. Throws Cancelled.
     virtual void advance(qint64 done, qint64 total) = 0;
 };

@@ -8,7 +8,7 @@
 namespace
 {
 
-/// The bar counts in these: a number of bytes may be too large for it.
+/// Range of the bar: a number of bytes may exceed an int.
 constexpr int Steps = 1000;
 constexpr int BoxWidth = 360;
 
@@ -42,7 +42,7 @@ void ProgressBox::setProgress(qint64 done, qint64 total)
     m_bar->setValue(total == 0 ? 0 : static_cast<int>(done * Steps / total));
 }
 
-// The close box and Escape reject a dialog, too.
+// The close box and Escape call reject(), too.
 void ProgressBox::reject()
 {
     m_cancelled = true;

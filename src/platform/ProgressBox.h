@@ -5,18 +5,17 @@
 
 class QProgressBar;
 
-/// A box that says what is being done and how far it is, and offers to cancel it. Modal to the application:
-/// while it is shown, no other window takes input. Interface thread only.
+/// A box that says what is being done and how far it is, with a button to cancel. Application-modal: while
+/// it is shown, no other window takes input. Interface thread only.
 class ProgressBox final : public QDialog
 {
     Q_DECLARE_TR_FUNCTIONS(ProgressBox)
 
 public:
-    /// Not shown yet. It belongs to the window of `owner`, which may be null, and says `text`, which is
-    /// plain.
+    /// Not shown yet. `owner` may be null; `text` is plain.
     ProgressBox(QWidget* owner, const QString& text);
 
-    /// `done` of `total`, in any unit; a `total` of 0 says that nobody knows.
+    /// `done` of `total`, in any unit; a `total` of 0 means unknown.
     void setProgress(qint64 done, qint64 total);
     /// The user has pressed "Cancel", Escape or the close box.
     bool isCancelled() const { return m_cancelled; }

@@ -113,13 +113,13 @@ std::unique_ptr<Registry> makeSystemRegistry()
 namespace
 {
 
-// A string value of the Desktop Entry format.
+// A value of type string in the Desktop Entry format.
 QString stringValue(QString text)
 {
     return text.replace(QStringLiteral("\\"), QStringLiteral("\\\\"));
 }
 
-// An argument of the Exec key of that format: in double quotes, four characters escaped, "%" doubled.
+// An argument of its Exec key: in double quotes, four characters escaped, "%" doubled.
 QString execArgument(const QString& text)
 {
     QString quoted;
@@ -138,7 +138,8 @@ QString execArgument(const QString& text)
 QString execValue(const QString& path)
 {
     QString command = execArgument(path);
-    // The first word may hold no "=", and common readers look for the program before they take "%%" for "%".
+    // The first word may hold no "=", and common readers look the program up before they turn "%%" into
+    // "%".
     if (path.contains(u'=') || path.contains(u'%')) {
         command.prepend(QStringLiteral("/bin/sh -c ") + execArgument(QStringLiteral("exec \"$0\"")) + u' ');
     }
@@ -152,12 +153,12 @@ public:
         const QByteArray& data) override
     {
         const QString path = QString::fromLocal8Bit(data);
-        // A line break cannot stand in a desktop entry.
+        // A desktop entry cannot hold a line break.
         if (!isRunKey(hive, keyPath) || path.contains(u'\n') || path.contains(u'\r')) {
             return;
         }
         const QString program = QString::fromLocal8Bit(name);
-        // With TryExec no desktop complains of a program that is gone.
+        // With TryExec no desktop complains about a program that was removed.
         const QString text = QStringLiteral("[Desktop Entry]\n"
                                             "Type=Application\n"
                                             "Version=1.0\n"
@@ -166,14 +167,14 @@ public:
                                             "TryExec=%3\n"
                                             "Terminal=false\n")
                                  .arg(program, execValue(path), stringValue(path));
-        // Where the icon is installed, settings of the session show it.
+        // Session settings show the icon where it is installed.
         const QString icon = QStringLiteral("Icon=%1\n").arg(program.toLower());
         try {
             const QString file = entryFile(name);
             makeFolder(QFileInfo(file).path());
             replaceByBytes((text + icon).toUtf8(), file, PublicFile);
         } catch (const FileError&) {
-            // Without the right to write there is no entry, and nobody is told.
+            // Without permission to write there is no entry, silently.
         }
     }
 

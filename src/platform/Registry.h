@@ -15,10 +15,10 @@ inline constexpr quint32 DoubleWord = 4; ///< REG_DWORD
 inline constexpr quint32 AllAccess = 0x2003f; ///< KEY_ALL_ACCESS
 } // namespace RegistryValues
 
-/// The key whose values start programs with the user's session.
+/// The key whose values start programs with the session.
 inline constexpr char RunKeyPath[] = "Software\\Microsoft\\Windows\\CurrentVersion\\Run";
 
-/// What a key holds under a name.
+/// A value and its type.
 struct RegistryValue {
     quint32 type = 0;
     QByteArray data;
@@ -34,11 +34,11 @@ public:
     RegistryKey(const RegistryKey&) = delete;
     RegistryKey& operator=(const RegistryKey&) = delete;
 
-    /// The value of that name; nothing when there is none, or when its data is longer than `capacity` bytes.
+    /// The value of that name; none when it does not exist or is longer than `capacity` bytes.
     virtual std::optional<RegistryValue> query(const QByteArray& name, qsizetype capacity) const = 0;
 };
 
-/// The store of settings of the machine: keys that hold named values. Nothing here reports an error.
+/// The machine's store of settings: keys with named values. No function reports an error.
 class Registry
 {
 public:
@@ -53,24 +53,24 @@ public:
         const QByteArray& data) = 0;
     /// Opens `keyPath` under `hive` and deletes the value.
     virtual void deleteValue(quint32 hive, const QString& keyPath, const QByteArray& name) = 0;
-    /// Opens `keyPath` under `hive` with the access rights asked for; null when there is no such key or it
-    /// may not be used so.
+    /// Opens `keyPath` under `hive` with the given access rights; null when it does not exist or access is
+    /// denied.
     virtual std::unique_ptr<RegistryKey> openKey(quint32 hive, const QString& keyPath, quint32 access) = 0;
 };
 
-/// Sets a plain text value, converted to the system's 8-bit code page; its terminating zero is not part of
-/// the data. Errors are ignored.
+/// Sets a text value, converted to the system's 8-bit code page, without a terminating zero. Errors are
+/// ignored.
 void WriteRegString(Registry& registry, quint32 hive, const QString& keyPath, const QString& valueName,
     const QString& valueText);
 /// Deletes a value. A missing key or value is not reported.
 void DeleteRegValue(Registry& registry, quint32 hive, const QString& keyPath, const QString& valueName);
 
-/// Starts the program with the user's session from now on: the value named after the product holds the
-/// executable's path, built from the product's name whatever the running file is called.
+/// Registers the program to start with the session: a value named after the product that holds the
+/// executable's path, made from the product's name whatever the running file is called.
 void writeRunEntry(Registry& registry, const QString& programFolder);
-/// No longer starts the program with the session.
+/// Removes that entry.
 void deleteRunEntry(Registry& registry);
 
-/// The registry of this machine: the real one on Windows; elsewhere the Run key alone, as desktop entries in
-/// the user's autostart folder (XDG Desktop Application Autostart), and no other key exists.
+/// The registry of this machine: the real one on Windows. Elsewhere only the Run key exists, as desktop
+/// entries in the user's autostart folder (XDG Desktop Application Autostart).
 std::unique_ptr<Registry> makeSystemRegistry();

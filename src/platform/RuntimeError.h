@@ -17,10 +17,9 @@ class OverflowError : public RuntimeError
     Q_DECLARE_TR_FUNCTIONS(OverflowError)
 
 public:
-    /// `what` names the number, such as "task id"; marked with QT_TRANSLATE_NOOP for this class.
+    /// `what` names the number, such as "task id"; mark it with QT_TRANSLATE_NOOP for this class.
     OverflowError(const char* what, qint64 value);
 };
 
-/// `id` as the 16-bit id that the program passes around.
-/// Throws OverflowError, which names the id by `what`, when it does not fit.
+/// `id` as a 16-bit id. Throws OverflowError, which names the id by `what`, when it does not fit.
 qint16 narrowId(qint64 id, const char* what);

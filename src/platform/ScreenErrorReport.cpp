@@ -25,8 +25,8 @@ void ScreenErrorReport::report(const QString& text)
         owner != nullptr && owner->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
     QPushButton* close = box.addButton(tr("Close &program"), QMessageBox::DestructiveRole);
     QPushButton* proceed = box.addButton(tr("&Continue"), QMessageBox::RejectRole);
-    // Not the other one: an Enter that is held or pressed twice would end the program and with it what has
-    // just been typed.
+    // The other button would let an Enter that is held or pressed twice end the program, with unsaved
+    // input.
     box.setDefaultButton(proceed);
     box.setEscapeButton(proceed);
     box.exec();

@@ -14,10 +14,10 @@ public:
     /// `closeProgram` is called when the user chooses to end the program.
     explicit ScreenErrorReport(std::function<void()> closeProgram);
 
-    /// While one report is open, further ones are dropped: the same fault may come back with every timer.
+    /// While a report is open, further ones are dropped: a timer may repeat the same fault.
     void report(const QString& text) override;
 
-    /// The report of a start that failed: an OK button only.
+    /// Reports a failed start, with an OK button only.
     static void reportFailedStart(const QString& text);
 
 private:

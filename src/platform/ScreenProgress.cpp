@@ -10,7 +10,7 @@
 namespace
 {
 
-/// How often the windows are painted and a press on "Cancel" is heard.
+/// How often windows are painted and the "Cancel" button is served.
 constexpr qint64 PaintInterval = 40; // ms
 
 } // namespace
@@ -24,9 +24,10 @@ ScreenProgress::~ScreenProgress() = default;
 
 void ScreenProgress::run(const std::function<void(Progress&)>& operation)
 {
-    // Stays when the operation never ran: a loop of a program that is about to end is left at once.
+    // Stays set when the operation never runs: once the program is ending, exec() returns at once.
     std::exception_ptr failure = std::make_exception_ptr(Cancelled());
-    // Inside of an event loop: the program ends by leaving all of them, and that is how it is noticed here.
+    // Run inside an event loop of its own: the program ends by leaving all event loops, and this one
+    // notices.
     QTimer::singleShot(0, &m_loop, [this, &operation, &failure] {
         failure = nullptr;
         m_running.start();
@@ -61,7 +62,7 @@ void ScreenProgress::advance(qint64 done, qint64 total)
     if (m_box != nullptr) {
         m_box->setProgress(done, total);
     }
-    // Without a box nothing takes input; with it, nothing but the box does.
+    // Without a box no input is handled; with it, the box takes all input.
     if (m_box == nullptr) {
         handlePendingEvents();
     } else {

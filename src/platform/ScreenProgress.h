@@ -12,20 +12,20 @@
 
 class ProgressBox;
 
-/// Keeps the windows painted during a long operation on the interface thread and takes no input meanwhile.
-/// Once the operation has taken longer than a second, a box shows how far it is and offers to cancel it.
+/// Keeps the windows painted during a long operation on the interface thread, without handling input. After
+/// a second a box shows how far the operation is and offers to cancel it.
 class ScreenProgress final : public Progress
 {
 public:
     static constexpr std::chrono::milliseconds Patience{1000};
 
-    /// The box belongs to the window of `owner` and says `text`. It comes up after `patience`.
+    /// The box belongs to the window of `owner`, says `text` and appears after `patience`.
     ScreenProgress(QWidget* owner, QString text, std::chrono::milliseconds patience = Patience);
     ~ScreenProgress() override;
 
-    /// Runs the operation to its end. Throws what it throws: Cancelled, when the user has cancelled it or the
-    /// program is to end and the operation has learnt of that by `advance`; also when the program was about
-    /// to end already, and the operation has not run at all.
+    /// Runs the operation to its end and throws what it throws: Cancelled when the user has cancelled it or
+    /// the program is ending, which `advance` tells the operation. Also throws Cancelled, without running
+    /// it, when the program was ending before.
     void run(const std::function<void(Progress&)>& operation);
 
     void advance(qint64 done, qint64 total) override;

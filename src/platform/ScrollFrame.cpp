@@ -12,9 +12,9 @@
 namespace
 {
 
-/// Lines and frames around what stands in a window.
+/// Pixels for lines and frames around the content of a window.
 constexpr int Lines = 8;
-/// What is seen around a control that is scrolled into view.
+/// Pixels to show around a control that is scrolled into view.
 constexpr int Margin = 50;
 
 } // namespace
@@ -42,7 +42,7 @@ ScrollFrame::ScrollFrame(QList<const QWidget*> beside) : m_beside(std::move(besi
 void ScrollFrame::hold(QWidget* content)
 {
     setWidget(content);
-    // The ground is the window's.
+    // The background is the window's.
     content->setAutoFillBackground(false);
     updateGeometry();
 }
@@ -72,7 +72,7 @@ QSize ScrollFrame::boundedToScreen(QSize size) const
     for (const QWidget* other : m_beside) {
         room.rheight() -= other->sizeHint().height() + spacing;
     }
-    // A bar takes its place from the other direction.
+    // A scroll bar takes room in the other direction.
     if (size.height() > room.height()) {
         size.rwidth() += verticalScrollBar()->sizeHint().width();
     }
@@ -84,12 +84,13 @@ QSize ScrollFrame::boundedToScreen(QSize size) const
 
 void ScrollFrame::reveal(const QWidget& shown)
 {
-    // Of a list or a text what the user is at, of any other control the whole.
+    // In a list or a text the place of the cursor, of any other control the whole.
     const QVariant place = shown.inputMethodQuery(Qt::ImCursorRectangle);
     const bool hasPlace = place.toRect() != shown.QWidget::inputMethodQuery(Qt::ImCursorRectangle).toRect();
     QRect wanted = hasPlace ? place.toRect() : shown.rect();
     wanted.translate(shown.mapTo(widget(), QPoint()));
-    // The bar counts from the side on which reading begins, which Qt forgets.
+    // Workaround: from right to left QScrollArea::ensureVisible() of Qt 6.4.2 counts from the wrong side
+    // (tst_qt_workarounds, aScrollAreaRevealsTheWrongSideFromRightToLeft).
     wanted = QStyle::visualRect(layoutDirection(), widget()->rect(), wanted);
     const auto bring = [](QScrollBar* bar, int begin, int end, int room) {
         if (begin < bar->value() || end - begin > room) {
@@ -113,7 +114,7 @@ bool ScrollFrame::event(QEvent* event)
 
 bool ScrollFrame::eventFilter(QObject* watched, QEvent* event)
 {
-    // The layout around asks again when what it holds wants another size.
+    // Makes the layout around this frame ask for the new size of the content.
     if (watched == widget() && event->type() == QEvent::LayoutRequest) {
         updateGeometry();
     }

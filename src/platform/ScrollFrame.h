@@ -3,20 +3,21 @@
 #include <QList>
 #include <QScrollArea>
 
-/// Lets a page or dialog be smaller than it needs where the screen is: it takes the size of what it holds as
-/// long as the window fits on the screen, and scrolls beyond. What gets the focus is scrolled into view.
+/// Lets a page or dialog be smaller than its content on a small screen: it has the size of its content
+/// while the window fits on the screen, and scrolls otherwise. A control that gets the focus is scrolled
+/// into view.
 class ScrollFrame : public QScrollArea
 {
     Q_OBJECT
 
 public:
-    /// Takes ownership of `content`. `beside` is what else stands above or below in the same window; not
+    /// Takes ownership of `content`. `beside` are the widgets above and below it in the same window; not
     /// owned.
     explicit ScrollFrame(QWidget* content, QList<const QWidget*> beside = {}, QWidget* parent = nullptr);
     /// Without content it takes no room.
     explicit ScrollFrame(QList<const QWidget*> beside);
 
-    /// Takes ownership of `content`, for a frame that has none.
+    /// Takes ownership of `content`, for a frame without one.
     void hold(QWidget* content);
 
     QSize sizeHint() const override;
@@ -27,9 +28,9 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    /// Scrolls what has the focus into view, as little as needed.
+    /// Scrolls `shown` into view, as little as needed.
     void reveal(const QWidget& shown);
-    /// `size`, and where it exceeds the screen, what there is room for.
+    /// `size`, limited to the room that the screen has.
     QSize boundedToScreen(QSize size) const;
 
     QList<const QWidget*> m_beside;

@@ -44,7 +44,7 @@ QString SingleInstance::failure() const
 namespace
 {
 
-/// A program that only reads its data is of use all the same.
+/// Errors of a folder that takes no new file; the program can still be used to read its data.
 bool takesNoNewFile(int error)
 {
     return error == EACCES || error == EROFS || error == EPERM || error == ENOSPC || error == EDQUOT;
@@ -60,7 +60,7 @@ SingleInstance::SingleInstance(const QString& programFolder)
     m_otherCopyRuns = m_lock->isHeldElsewhere();
     const int error = m_lock->error();
     if (error == ENOENT || error == ENOTDIR) {
-        // The start finds no folder either, and tells it.
+        // There is no such folder; start-up reports that.
         m_lock.reset();
     } else if (takesNoNewFile(error) && !QFileInfo(lock).isSymLink() && !QFileInfo::exists(lock)) {
         m_lock.reset();

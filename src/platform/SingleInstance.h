@@ -5,10 +5,11 @@
 
 class LockFile;
 
-/// The guard against two copies of the program on one program folder. Held until released or until the
-/// process ends, however it ends. It is a lock that only the owner of the folder can take: on a private file
-/// beside data.dat, which goes with the guard; in a folder that takes no new file, being read-only or full,
-/// on data.dat itself. (Once a full one has room again, a second copy does not see that.)
+/// Guards against two copies of the program on one program folder, until it is released or the process ends
+/// in whatever way. Only the owner of the folder can take it: it is a lock on a private file beside
+/// data.dat, removed with the guard. In a folder that takes no new file, because it is read-only or full,
+/// it is a lock on data.dat itself. (Once a full folder has room again, a second copy does not notice that
+/// lock.)
 class SingleInstance
 {
 public:
@@ -19,8 +20,8 @@ public:
 
     /// True when another copy holds the guard.
     bool otherCopyRuns() const { return m_otherCopyRuns; }
-    /// Why the guard cannot be had although no other copy runs, for the user; empty when it is held, and
-    /// where there is no program folder.
+    /// Why there is no guard although no other copy runs, as a text for the user; empty when it is held or
+    /// there is no program folder.
     QString failure() const;
     /// Gives the guard up.
     void release();

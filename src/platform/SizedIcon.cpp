@@ -28,8 +28,8 @@ QPixmap readPixels(const SizedPicture& picture)
     return QPixmap::fromImage(pixels.convertToFormat(QImage::Format_ARGB32_Premultiplied));
 }
 
-/// What was read, and the last that was scaled down from it. Qt would keep both in its cache, whose
-/// clean-up wakes the program half a minute later.
+/// What was read, and the last scaled version of it. Not in QPixmapCache, whose clean-up timer would wake
+/// the idle program half a minute later.
 struct Picture {
     QPixmap pixels;
     QPixmap scaled;
@@ -90,7 +90,7 @@ private:
         std::vector<Picture> read;
     };
 
-    /// The smallest picture that need not be enlarged, else the largest one.
+    /// The smallest picture that need not be enlarged, or the largest one.
     Picture& fitting(const QSize& size) const
     {
         const auto found = std::find_if(
@@ -105,7 +105,7 @@ private:
         return picture;
     }
 
-    // Copies of an icon share what has been read.
+    // Shared by all copies of an icon.
     std::shared_ptr<Shared> m_shared;
 };
 

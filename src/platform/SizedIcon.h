@@ -3,13 +3,13 @@
 #include <QIcon>
 #include <QList>
 
-/// One picture in a file of its own for each size: rows of red, green, blue and alpha, one byte each, the
-/// colours multiplied with the alpha. For a format with a name Qt loads all the readers that it has.
+/// One picture as a file for each size: rows of red, green, blue and alpha, one byte each, premultiplied.
+/// For an image format Qt would load all of its image plugins.
 struct SizedPicture {
     QString file;
     QSize size;
 };
 
-/// An icon of a picture that comes in several sizes, the smallest first, none of them empty. A file is read
-/// when the picture is first painted in about that size: Qt's own icons read all of them at once.
+/// An icon of a picture in several sizes, smallest first, none empty. A file is read when the icon is first
+/// painted in about that size; QIcon would read all of them at once.
 QIcon sizedIcon(const QList<SizedPicture>& pictures);

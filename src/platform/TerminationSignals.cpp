@@ -12,7 +12,7 @@
 namespace
 {
 
-// A signal handler can reach nothing but what is static.
+// Static, because a signal handler can reach nothing else.
 std::array<int, 2> signalPipe{-1, -1};
 
 constexpr std::array endingSignals{SIGTERM, SIGINT, SIGHUP};
@@ -20,10 +20,10 @@ std::array<struct sigaction, endingSignals.size()> previousActions{};
 
 void passOn(int)
 {
-    // What this interrupts may be about to ask why a call has failed.
+    // The interrupted code may be about to read errno.
     const int error = errno;
     const char byte = 1;
-    // The pipe does not block; when it is full, a request is already under way.
+    // The pipe does not block; if it is full, a request is pending already.
     [[maybe_unused]] const ssize_t written = ::write(signalPipe[1], &byte, 1);
     errno = error;
 }
@@ -51,7 +51,7 @@ TerminationSignals::TerminationSignals(QObject* parent) : QObject(parent)
     sigemptyset(&action.sa_mask);
     for (std::size_t i = 0; i < endingSignals.size(); ++i) {
         sigaction(endingSignals[i], nullptr, &previousActions[i]);
-        // Such a program was started to outlive its terminal (nohup).
+        // An ignored SIGHUP means that the program is to outlive its terminal (nohup).
         if (endingSignals[i] != SIGHUP || previousActions[i].sa_handler != SIG_IGN) {
             sigaction(endingSignals[i], &action, nullptr);
         }

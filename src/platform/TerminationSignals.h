@@ -2,9 +2,8 @@
 
 #include <QObject>
 
-/// Turns the system's requests to end the process (SIGTERM, SIGINT, SIGHUP) into a signal of the event loop.
-/// SIGHUP stays ignored where it was. One instance in a process; when it goes, the requests do what they did
-/// before.
+/// Turns requests to end the process (SIGTERM, SIGINT, SIGHUP) into a Qt signal. SIGHUP stays ignored if it
+/// was. One instance in a process; its destructor restores the previous handlers.
 class TerminationSignals : public QObject
 {
     Q_OBJECT

@@ -15,8 +15,8 @@ void TrayIcon::add(const QIcon& icon, const QString& toolTip, QMenu* menu)
     m_icon->setToolTip(toolTip);
     m_icon->setContextMenu(menu);
     connect(m_icon, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
-        // A host that draws the icon itself (StatusNotifierItem) tells neither the icon's place nor double
-        // clicks.
+        // A StatusNotifierItem host draws the icon itself and reports neither its geometry nor double
+        // clicks (that protocol has none).
         const bool drawnByHost = m_icon->geometry().isEmpty();
         if (reason == QSystemTrayIcon::DoubleClick || (drawnByHost && reason == QSystemTrayIcon::Trigger)) {
             emit activated();

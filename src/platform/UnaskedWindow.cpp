@@ -28,7 +28,7 @@ void UnaskedWindow::comeUp()
 {
     const bool yields = isKeyboardTaken();
     m_cameUpUnderABox = QApplication::activeModalWidget() != nullptr;
-    // Window managers activate what is restored, whatever it asks for.
+    // Window managers activate a window that is restored, whatever it asks for.
     if (m_window.isMinimized()) {
         m_window.hide();
         m_window.setWindowState(m_window.windowState() & ~Qt::WindowMinimized);
@@ -36,7 +36,8 @@ void UnaskedWindow::comeUp()
     m_window.setAttribute(Qt::WA_ShowWithoutActivating, yields);
     m_window.winId();
     m_window.windowHandle()->installEventFilter(this);
-    // A native window that exists takes no notice of the attribute.
+    // Workaround: a native window that exists ignores later changes of WA_ShowWithoutActivating (Qt 6.4.2;
+    // tests/desktop/test_focus.py).
     m_window.windowHandle()->setProperty("_q_showWithoutActivating", yields);
     if (!m_window.isVisible()) {
         acceptKeyboard(*m_window.windowHandle(), !yields);
@@ -45,7 +46,8 @@ void UnaskedWindow::comeUp()
     m_window.raise();
     m_isNoticed = false;
     m_tmrKeyRest.start();
-    // Counted from when keys are read again: what follows may keep the program busy for a while.
+    // Counted from the return to the event loop, where keys are handled again: what follows may take a
+    // while.
     QMetaObject::invokeMethod(&m_tmrKeyRest, qOverload<>(&QTimer::start), Qt::QueuedConnection);
 }
 
@@ -66,15 +68,15 @@ void UnaskedWindow::tmrKeyRest_Timer()
         m_tmrKeyRest.start();
         return;
     }
-    // As long as a box is open: some window managers (openbox, icewm) would give the keyboard to this
-    // window, which lies in front, and not to the one that the box belongs to.
+    // Not while a box is open: some window managers (openbox, icewm) would give the keyboard to this window
+    // in front instead of to the window that the box belongs to.
     if (!m_cameUpUnderABox) {
         acceptKeyboard(*m_window.windowHandle(), true);
     }
-    // Only now: of a window that is not yet in its care a window manager takes no wish.
+    // Not before: a window manager ignores wishes of a window that it does not manage yet.
     QApplication::alert(&m_window);
-    // Window managers (metacity) put a new window behind the active one, however it asked to be raised
-    // before, and what a box belonged to comes in front when that is closed.
+    // metacity puts a new window behind the active one even if it asked to be raised, and the owner of a
+    // box comes to the front when the box is closed.
     if (!m_isNoticed) {
         putInFront(*m_window.windowHandle());
     }
@@ -83,7 +85,7 @@ void UnaskedWindow::tmrKeyRest_Timer()
 bool UnaskedWindow::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == m_window.windowHandle()) {
-        // What the user clicks into has the keyboard.
+        // A window that the user clicks into gets the keyboard.
         if (event->type() == QEvent::MouseButtonPress && m_tmrKeyRest.isActive()) {
             activate();
         }
@@ -98,8 +100,8 @@ bool UnaskedWindow::eventFilter(QObject* watched, QEvent* event)
     } else if (event->type() == QEvent::WindowActivate) {
         m_isNoticed = true;
     } else if (event->type() == QEvent::Hide && !event->spontaneous()) {
-        // Qt 6.4.2 would take the window for one that still asks for attention when it comes up the next
-        // time.
+        // Workaround: Qt 6.4.2 keeps the alert of a hidden window and would not ask for attention the next
+        // time it comes up (tests/desktop/test_alert_manners.py).
         QMetaObject::invokeMethod(m_window.windowHandle(), "_q_clearAlert");
     }
     return false;
@@ -110,15 +112,15 @@ bool UnaskedWindow::isRestingFrom(const QEvent& event) const
     if (!m_tmrKeyRest.isActive() || event.type() != QEvent::KeyPress) {
         return m_tmrKeyRest.isActive() && event.type() == QEvent::Shortcut;
     }
-    // To pass a button is not to press it.
+    // Moving the focus past a button does not press it.
     const int key = static_cast<const QKeyEvent&>(event).key();
     return key != Qt::Key_Tab && key != Qt::Key_Backtab;
 }
 
 void UnaskedWindow::giveKeyboardToOwnerOfBox()
 {
-    // The box is still there. Once it is gone, xfwm4 gives the keyboard to the window that lies in front,
-    // whether that accepts it or not.
+    // The box is still there. When it is gone, xfwm4 gives the keyboard to the window in front, whether
+    // that accepts it or not.
     const QWindow* box = QGuiApplication::focusWindow();
     QWindow* owner = box == nullptr ? nullptr : box->transientParent();
     if (owner == nullptr) {

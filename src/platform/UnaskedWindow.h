@@ -5,22 +5,21 @@
 
 class QWidget;
 
-/// Brings a window up that nobody has asked for. It comes in front and asks for attention; the keyboard it
-/// gets only when no window of any program has it: what is being typed must not land in it. Its buttons act
-/// on no key for half a second afterwards, which the mouse does not feel. When it came up while a message box
-/// or a file dialog was open, it comes in front once more after the last of them is closed. Interface thread
-/// only.
+/// Brings up a window that nobody has asked for. It comes to the front and asks for attention, but gets the
+/// keyboard only when no window of any program has it: what is being typed must not land in it. For half a
+/// second its buttons ignore the keyboard, not the mouse. If it came up while a message box or file dialog
+/// was open, it comes to the front once more when the last of them is closed. Interface thread only.
 class UnaskedWindow final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// `window`, a top-level window with its buttons in place, owns this.
+    /// `window`, a top-level window that has its buttons already, owns this object.
     explicit UnaskedWindow(QWidget* window);
 
-    /// Shows the window, restores it when it is minimized.
+    /// Shows the window; restores it when it is minimized.
     void comeUp();
-    /// Activates the window, at the wish of the user, when it is visible.
+    /// Activates the window, if it is visible, because the user wants it.
     void activate();
 
 protected:
@@ -34,5 +33,5 @@ private:
     QWidget& m_window;
     QTimer m_tmrKeyRest;
     bool m_cameUpUnderABox = false;
-    bool m_isNoticed = false; ///< has been active since it came up: where it lies then is the user's choice
+    bool m_isNoticed = false; ///< has been active since it came up: the user decides where it lies
 };

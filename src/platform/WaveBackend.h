@@ -13,12 +13,12 @@ public:
     WaveBackend(const WaveBackend&) = delete;
     WaveBackend& operator=(const WaveBackend&) = delete;
 
-    /// Starts playing at once; sounds may overlap. A file that cannot be played is passed over silently.
+    /// Starts playing at once; sounds may overlap. A file that cannot be played is skipped silently.
     virtual void play(const QString& file) = 0;
     virtual void stopAll() = 0;
-    /// Called when the last sound that was playing has come to its end by itself.
+    /// Called when the last playing sound has ended by itself.
     std::function<void()> onDone;
 };
 
-/// Makes the backend, or nothing where sounds cannot be played.
+/// Makes the backend; null where sounds cannot be played.
 using WaveBackendFactory = std::function<std::unique_ptr<WaveBackend>()>;

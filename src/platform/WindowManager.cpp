@@ -20,16 +20,16 @@ struct Free {
 };
 template <typename Type> using Reply = std::unique_ptr<Type, Free>;
 
-/// Who wishes something of the window manager: as a task bar asks.
+/// Source indication of a request: "made by the user", as a task bar does.
 constexpr uint32_t ByTheUser = 2;
 
-/// The X server, as far as Qt is connected to one.
+/// The X server, if Qt is connected to one.
 class Server
 {
 public:
     Server()
     {
-        // Other platforms of Qt offer the interface too, without a display behind it.
+        // Other platform plugins offer the interface, too, but without a display.
         if (const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>()) {
             m_connection = x11->connection();
         }
@@ -91,7 +91,7 @@ public:
     }
 
 private:
-    /// The window on the root window that holds `window`: its frame; none when it is gone.
+    /// The child of the root window that holds `window`, its frame; none when it is gone.
     xcb_window_t frameOf(xcb_window_t window) const
     {
         while (window != XCB_WINDOW_NONE) {
@@ -104,7 +104,7 @@ private:
         return XCB_WINDOW_NONE;
     }
 
-    /// Of two frames the one that lies lower; none when neither is there any more.
+    /// The lower one of two frames; none when both are gone.
     xcb_window_t lowerOf(xcb_window_t one, xcb_window_t other) const
     {
         const Reply<xcb_query_tree_reply_t> tree = treeOf(root());
@@ -146,7 +146,7 @@ bool isKeyboardTaken()
     }
 #if defined(Q_OS_UNIX) && QT_CONFIG(xcb)
     if (const Server server; server.isThere()) {
-        // Openbox goes on to name a window that has been hidden.
+        // openbox still names a window here that has been hidden.
         return server.isOnScreen(server.number(server.root(), "_NET_ACTIVE_WINDOW"));
     }
 #endif
@@ -190,13 +190,13 @@ void putInFront(QWindow& window)
 #if defined(Q_OS_UNIX) && QT_CONFIG(xcb)
     if (const Server server; server.isThere()) {
         const auto id = static_cast<xcb_window_t>(window.winId());
-        // Behind the active window fluxbox leaves it where it is, but for a change of its layer.
+        // fluxbox leaves it behind the active window unless its layer changes.
         if (!window.flags().testFlag(Qt::WindowStaysOnTopHint) && server.isBehindActive(id)) {
             server.setAbove(id, true);
             server.setAbove(id, false);
         }
         window.raise();
-        // Metacity does not hear a program whose user is busy elsewhere.
+        // metacity ignores a program while its user is busy elsewhere.
         xcb_client_message_data_t wish{};
         wish.data32[0] = ByTheUser;
         wish.data32[2] = XCB_STACK_MODE_ABOVE;

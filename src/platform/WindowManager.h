@@ -2,20 +2,21 @@
 
 class QWindow;
 
-// What Qt neither tells nor asks of the window manager. Interface thread only.
+// What Qt offers no call for. Interface thread only.
 
-/// Whether a window of any program, this one included, has the keyboard now. Where the desktop does not tell
-/// of other programs: true.
+/// Whether a window of any program, this one included, has the keyboard. True where the desktop does not
+/// tell.
 bool isKeyboardTaken();
-/// Whether the window manager has taken `window`, which has been shown, into its care: what it wanted to know
-/// of a new window it has read. Where there is none, or none that tells: true.
+/// Whether the window manager manages `window`, which has been shown: it has read the properties of the new
+/// window. True where there is no window manager or it does not tell.
 bool isManaged(const QWindow& window);
-/// Whether the window manager may give `window`, which has a native window, the keyboard at all. Some (icewm,
-/// fluxbox) activate every new window that takes it, whatever else is asked of them.
+/// Whether the window manager may give the keyboard to `window`, which has a native window. icewm and
+/// fluxbox activate every new window that accepts it.
 void acceptKeyboard(QWindow& window, bool accepts);
-/// Activates `window`, which is on the screen, because the user has closed the window in front of it. Some
-/// (xfwm4) refuse that to a program when they have given the keyboard to another of its windows meanwhile.
+/// Activates `window`, which is on the screen, because the user has closed the window in front of it. A
+/// plain request would fail with xfwm4 when it has given the keyboard to another window of the program
+/// meanwhile.
 void giveKeyboard(QWindow& window);
-/// Puts `window`, which is shown, in front of all others, those of other programs too, without the keyboard.
-/// Window managers that take that for an intrusion let the plain wish of a program pass unheard.
+/// Puts `window`, which is shown, in front of the windows of all programs, without the keyboard. A plain
+/// request is ignored by window managers that take it for an intrusion.
 void putInFront(QWindow& window);

@@ -14,11 +14,11 @@
 namespace
 {
 
-/// A frame that no window system has told of yet.
+/// Assumed while the window system has not told the size of the frame.
 constexpr QMargins LikelyFrame(6, 32, 6, 8);
-/// The piece of a title bar by which a window can be dragged.
+/// The width of title bar that is enough to drag a window by.
 constexpr int Handle = 80;
-/// Property of a window that has come up once: where it was when it was last seen.
+/// Property of a window that has been shown: its geometry when it was last seen.
 constexpr const char* LastPlace = "ambertask-place";
 
 QRect movedInside(QRect frame, const QRect& area)
@@ -45,9 +45,9 @@ QMargins frameOf(const QWidget& window)
     return known.isNull() ? LikelyFrame : known;
 }
 
-/// Notes where a window is hidden: a window manager may move a window that it has let go. Gives the keyboard
-/// of a window that is hidden to its owner. Keeps a window on its screen that grows because what it holds
-/// needs more room.
+/// Notes the place of a window that is hidden, as a window manager may move it afterwards. Gives the
+/// keyboard of a window that is closed to its owner. Keeps a window on its screen when its content makes it
+/// grow.
 class PlaceKeeper final : public QObject
 {
 public:
@@ -72,8 +72,8 @@ public:
     }
 
 private:
-    // Left to themselves, some window managers (openbox, icewm, xfwm4) give the keyboard to any window that
-    // lies in front. A form that hides itself at the end of an action says itself who gets it.
+    // Otherwise openbox, icewm and xfwm4 give the keyboard to any window in front. A form that hides itself
+    // after an action says itself which window gets it.
     void giveKeyboardToOwner() const
     {
         const QWindow* native = m_window.windowHandle();
@@ -90,7 +90,7 @@ private:
         const QMargins frame = frameOf(m_window);
         const QRect grown = m_window.geometry().marginsAdded(frame);
         const bool wasInside = area.contains(QRect(grown.topLeft(), before.grownBy(frame)));
-        // A window that reached beyond the screen before stays where the user has it.
+        // A window that was partly off the screen stays where the user put it.
         if (wasInside && !area.contains(grown)) {
             m_window.setGeometry(movedInside(grown, area).marginsRemoved(frame));
         }
@@ -100,7 +100,7 @@ private:
     bool m_isClosed = false;
 };
 
-/// The size that a window has been given, else the one that it asks for.
+/// The size that the window was given, or the one that it asks for.
 QSize wantedSize(const QWidget& window)
 {
     if (window.layout() != nullptr) {
@@ -112,8 +112,8 @@ QSize wantedSize(const QWidget& window)
         .boundedTo(window.maximumSize());
 }
 
-// QWidget::setWindowFlag hides and re-creates a visible window; the flag of the native window can be changed
-// in place.
+// Workaround: QWidget::setWindowFlag() of Qt 6.4.2 hides a visible window and makes it anew; the flag of
+// the native window can be changed in place (tst_qt_workarounds, aFlagHidesAVisibleWindow).
 void setStaysOnTop(QWidget* window, bool on)
 {
     Qt::WindowFlags flags = window->windowFlags();
@@ -161,8 +161,8 @@ QRect nextPlace(const QRect& frame, int titleHeight, const QList<QRect>& areas)
 
 QSize roomFor(const QWidget& window)
 {
-    // The same before and after the frame is known, unless that is too large: a window is not to grow in
-    // between.
+    // The same before and after the size of the frame is known, unless the frame is larger than assumed:
+    // the window must not grow in between.
     return window.screen()->availableGeometry().marginsRemoved(frameOf(window) | LikelyFrame).size();
 }
 
@@ -181,7 +181,7 @@ void putInPlace(QWidget* window, const QWidget* owner)
         }
         const QRect before = (window->isVisible() ? window->geometry() : last).marginsAdded(frame);
         place = nextPlace(before, frame.top(), areas);
-        // A window that can be seen stays where the user has it.
+        // A window that can be reached stays where the user put it.
         if (window->isVisible() && place == before) {
             return;
         }
@@ -243,7 +243,7 @@ void showOwned(QWidget* window, QWidget* owner)
         setOwner(window, owner);
     }
     putInPlace(window, owner);
-    // showNormal() would take the maximized state away as well.
+    // showNormal() would also end the maximized state.
     window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
     window->show();
     window->raise();

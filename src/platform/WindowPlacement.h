@@ -6,38 +6,38 @@
 
 class QWidget;
 
-// Where a top-level window stands on the screens. Rectangles and sizes hold the frame with the title bar.
+// The place of a top-level window on the screens. Rectangles and sizes include the frame.
 
-/// Where a window that wants `size` comes up for the first time: centred on `around`, moved and cut to lie
-/// within `available`.
+/// Where a window of `size` first appears: centred on `around`, moved and cut to lie within `available`.
 QRect firstPlace(QSize size, const QRect& around, const QRect& available);
-/// Where a window that was last at `frame` comes up again on screens with these available areas, of which
-/// there is at least one: there, as long as enough of its title bar can be seen to take hold of it,
-/// `titleHeight` is its height; otherwise whole within the nearest area.
+/// Where a window last seen at `frame` appears again on screens with the available `areas` (at least one):
+/// at the same place if enough of its title bar (`titleHeight` high) can be seen to drag it, otherwise
+/// whole within the nearest area.
 QRect nextPlace(const QRect& frame, int titleHeight, const QList<QRect>& areas);
-/// The largest size of `window`, without its frame, with which it fits on its screen.
+/// The largest size of `window`, without its frame, that fits on its screen.
 QSize roomFor(const QWidget& window);
-/// Brings a window that is about to be shown to its place: the first time over `owner` when that is visible,
-/// else in the middle of the screen; later where it was, unless nobody could reach it there. When what it
-/// holds makes it grow afterwards, it is moved so that it stays on its screen. When it is hidden while it has
-/// the keyboard, its owner gets that, unless it is hidden or minimized.
+/// Puts a window that is about to be shown in its place: the first time over `owner` if that is visible,
+/// else in the middle of the screen; later where it was, unless it could not be reached there. From then on
+/// the window is kept on its screen when its content makes it grow, and its owner, unless hidden or
+/// minimized, gets the keyboard when it is closed while it has it.
 void putInPlace(QWidget* window, const QWidget* owner = nullptr);
 
-// Where a top-level window stands among the others. None of these but the last shows, hides, moves or resizes
-// a window.
+// The place of a top-level window among others. None of these but the last shows, hides, moves or resizes
+// it.
 
-/// Asks the window system to keep `window` above all others; a hidden window comes up so when it is shown.
+/// Keeps `window` above all others; for a hidden window that takes effect when it is shown.
 void makeTopmost(QWidget* window);
-/// Takes the topmost state back: below the others first, then to the front of the ordinary windows.
+/// Ends the topmost state: puts the window below the others, then in front of the ordinary windows.
 void leaveTopmost(QWidget* window);
 bool isTopmost(const QWidget* window);
-/// Brings `window` to the front without activating it; nothing when it is hidden.
+/// Brings `window` to the front without activating it; does nothing when it is hidden.
 void bringToFront(QWidget* window);
-/// Gives a window of the program the keyboard after the user has closed the one in front of it; nothing when
-/// it is hidden or minimized.
+/// Gives a window of the program the keyboard after the user has closed the one in front of it; does
+/// nothing when it is hidden or minimized.
 void activate(QWidget* window);
-/// Makes `owner` the window that `window` stays above, without making it a child.
+/// Makes `owner` the transient parent of `window`, which stays above it, without making it the QObject
+/// parent.
 void setOwner(QWidget* window, QWidget* owner);
-/// Puts `window` in place and shows it modeless above its owner, in front and active; restores it when it is
-/// minimized.
+/// Puts `window` in its place and shows it modeless above its owner, in front and active; restores it when
+/// it is minimized.
 void showOwned(QWidget* window, QWidget* owner);

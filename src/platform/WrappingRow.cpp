@@ -8,7 +8,7 @@
 
 WrappingRow::~WrappingRow()
 {
-    // A layout among them takes itself out of its parent when it ends: it must not be found here any more.
+    // A nested layout removes itself from its parent when it is destroyed, and must not find itself here.
     while (!m_items.empty()) {
         const std::unique_ptr<QLayoutItem> last = std::move(m_items.back());
         m_items.pop_back();

@@ -4,8 +4,8 @@
 #include <memory>
 #include <vector>
 
-/// A row of controls that goes on in a further line where it is too wide. What is added behind the gap stands
-/// at the far end of its line.
+/// A row of controls that continues in a further line where it is too narrow. Controls added behind the gap
+/// are aligned to the far end of their line.
 class WrappingRow final : public QLayout
 {
     Q_OBJECT
@@ -14,7 +14,7 @@ public:
     using QLayout::QLayout;
     ~WrappingRow() override;
 
-    /// Adds a control, its label before it: the two are never parted.
+    /// Adds a control with its label; they stay together on a line.
     void addLabelled(QWidget* label, QWidget* control);
     void addGap() { m_gap = m_items.size(); }
 

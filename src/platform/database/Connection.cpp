@@ -37,7 +37,7 @@ Connection::~Connection()
     try {
         close();
     } catch (const DatabaseError&) {
-        // Whoever wants to know closes before.
+        // Callers that need to know have called close() before.
     }
 }
 

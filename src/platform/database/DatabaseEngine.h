@@ -6,7 +6,7 @@
 class Clock;
 class Progress;
 
-/// Sees what the program asks of its data file. Called on the thread that uses the connection.
+/// Sees every statement of the program. Called on the thread that uses the connection.
 class StatementListener
 {
 public:
@@ -21,15 +21,15 @@ public:
     virtual void connectionClosed() = 0;
 };
 
-/// A record that is not shown, because a value in it does not convert.
+/// A record that is not shown because one of its values does not convert.
 struct UnreadableRecord {
     QString table;
-    QString id; ///< as it is stored, whatever that is
+    QString id; ///< as stored, of whatever type
     QString name; ///< empty where there is none
     QString reason; ///< a sentence that names the column
 };
 
-/// Is told which records a query of many has left out. Called on the thread that uses the connection.
+/// Learns which records a query has left out. Called on the thread that uses the connection.
 class UnreadableRecordListener
 {
 public:
@@ -38,22 +38,22 @@ public:
     UnreadableRecordListener(const UnreadableRecordListener&) = delete;
     UnreadableRecordListener& operator=(const UnreadableRecordListener&) = delete;
 
-    /// Told anew by every query that would have had the record.
+    /// Called again by every query that would have returned the record.
     virtual void recordLeftOut(const UnreadableRecord& record) = 0;
 };
 
-/// What every connection needs to know; one for the program, it outlives all that uses it.
+/// What every connection needs to know. One in the program; outlives everything that uses it.
 struct DatabaseEngine {
     QString programFolder; ///< absolute path of the folder that holds the data file
     const Clock* clock = nullptr; ///< not owned; answers now() in statements
     StatementListener* listener = nullptr; ///< not owned; may be null
-    /// Not owned; null but for an operation that shows how far it is. Told in the midst of statements, as of
-    /// unknown length; what runs from there may find the data file locked.
+    /// Not owned; null except for an operation that shows how far it is. Called during statements, with
+    /// unknown length; code that it runs may find the data file locked.
     Progress* progress = nullptr;
-    /// Not owned; may be null. Where it is given and false, the first connection that writes looks through
-    /// the file first: damage that reading does not notice could make the engine write over living records. A
-    /// sound file sets it; a damaged one is not written to.
+    /// Not owned; may be null. Where it points to false, the first connection that writes checks the file
+    /// first, as SQLite could write over living records of a file with damage that reading does not notice.
+    /// The check sets it to true; a damaged file is not written to.
     bool* knownSound = nullptr;
-    /// Not owned; may be null: then a record that does not convert ends the query of many, too.
+    /// Not owned; may be null: then a record that does not convert makes its query fail.
     UnreadableRecordListener* unreadable = nullptr;
 };

@@ -7,8 +7,8 @@ class DatabaseError : public RuntimeError
 {
 public:
     enum class Kind {
-        Statement, ///< the statement itself: malformed, refused by a constraint
-        Storage, ///< the file: missing, locked, full, damaged, unreadable
+        Statement, ///< the statement is malformed or a constraint refuses it
+        Storage, ///< the file is missing, locked, full, damaged or unreadable
         Conversion ///< a value that does not fit the type it is read as, a field that does not exist
     };
     DatabaseError(Kind kind, const QString& text) : RuntimeError(text), m_kind(kind) { }

@@ -15,7 +15,7 @@ struct Dialect {
 
 constexpr std::size_t ShownLiteralLength = 60;
 
-/// `sentence` has a place for the literal.
+/// `sentence` has a placeholder for the literal.
 [[noreturn]] void refuseLiteral(std::string_view literal, const QString& sentence)
 {
     const bool isLong = literal.size() > ShownLiteralLength;
@@ -27,7 +27,7 @@ constexpr std::size_t ShownLiteralLength = 60;
     throw DatabaseError(DatabaseError::Kind::Statement, sentence.arg(text));
 }
 
-/// Reads a literal from left to right; every step answers whether the text goes on as asked.
+/// Reads a literal from left to right; every function returns whether the text continues as asked.
 class LiteralReader
 {
 public:
@@ -59,7 +59,7 @@ private:
     std::string_view m_rest;
 };
 
-/// `literal` with its two "#".
+/// `literal` includes both "#".
 Moment literalMoment(std::string_view literal)
 {
     LiteralReader reader(literal.substr(1, literal.size() - 2));
@@ -86,15 +86,15 @@ Moment literalMoment(std::string_view literal)
     return makeMoment(date, std::chrono::hours(hours) + std::chrono::minutes(minutes));
 }
 
-/// The position behind the first `terminator` from `from` on; the end of the statement when it is not closed.
+/// The position behind the first `terminator` from `from` on, or the end of the statement.
 std::size_t endBehind(std::string_view statement, std::string_view terminator, std::size_t from)
 {
     const std::size_t found = statement.find(terminator, from);
     return found == std::string_view::npos ? statement.size() : found + terminator.size();
 }
 
-/// The position behind the string, quoted name or comment that begins at `begin`; `begin` itself when none
-/// does. A doubled quote needs no care: it ends one string and begins the next.
+/// The position behind the string, quoted name or comment that begins at `begin`, or `begin` if none does.
+/// A doubled quote needs no special case: it ends one string and begins the next.
 std::size_t endOfOpaque(std::string_view statement, std::size_t begin)
 {
     switch (statement[begin]) {

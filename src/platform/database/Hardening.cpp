@@ -22,7 +22,7 @@ constexpr std::array<std::pair<int, int>, 9> Limits{{{SQLITE_LIMIT_LENGTH, Large
     {SQLITE_LIMIT_EXPR_DEPTH, 100}, {SQLITE_LIMIT_COMPOUND_SELECT, 10}, {SQLITE_LIMIT_VDBE_OP, 25000},
     {SQLITE_LIMIT_LIKE_PATTERN_LENGTH, 1000}, {SQLITE_LIMIT_TRIGGER_DEPTH, 1}}};
 
-/// Whether the query has a row. `failure` is set to the engine's result code; after an error there is none.
+/// Whether the query returns a row. After an error `failure` is SQLite's result code and the answer false.
 bool yieldsRow(sqlite3* database, const char* query, std::string_view argument, int& failure)
 {
     sqlite3_stmt* statement = nullptr;
@@ -62,10 +62,10 @@ int hardenConnection(sqlite3* database)
 
 bool mayDropRecords(sqlite3* database, const std::string& table, int& failure)
 {
-    // Only a constraint of the table itself says what becomes of records that are alike; an index that was
-    // made apart refuses them. The index of such a constraint has no definition, or the table is kept in it.
-    // In a file without either, as ours are, the engine need not be asked what it makes of the table, which
-    // takes as long as the rest of an insert.
+    // Only a constraint of the table itself can say what happens to duplicates; a separate index just
+    // refuses them. The index of such a constraint has no SQL text (or the table is WITHOUT ROWID). Where
+    // the schema holds neither, as in our files, pragma_index_list need not be asked, which takes as long
+    // as the rest of an insert.
     if (!yieldsRow(database,
             "SELECT 1 FROM sqlite_schema WHERE typeof(sql) <> 'text' OR sql LIKE '%without%rowid%'", {},
             failure)) {

@@ -66,7 +66,7 @@ RecordSet::~RecordSet() = default;
 RecordSet::RecordSet(std::unique_ptr<Cursor> cursor) : m_cursor(std::move(cursor))
 {
     m_atEnd = !m_cursor->step();
-    // Known only now: the engine may have compiled the statement anew for its first row.
+    // Not before the first step: SQLite may have compiled the statement anew for it.
     m_fieldCount = sqlite3_column_count(m_cursor->statement());
 }
 
@@ -98,8 +98,8 @@ int RecordSet::field(std::string_view name) const
     return found;
 }
 
-// Fetched from the statement once and then asked for its type and its content: to ask the statement each time
-// takes three times as long. On a connection without mutexes such a value can be read like any other.
+// sqlite3_column_value() once, then its type and content: three calls to sqlite3_column_...() take three
+// times as long. On a connection without mutexes that is safe.
 sqlite3_value* RecordSet::value(int field) const
 {
     sqlite3_stmt* statement = m_atEnd ? nullptr : m_cursor->statement();

@@ -9,14 +9,14 @@
 class Cursor;
 struct sqlite3_value;
 
-/// The rows of a query, read once from the first to the last. Movable. At its end, and from the close of its
-/// connection on, it holds no lock on the data file; what it had not read by the close is gone.
+/// The rows of a query, read once from first to last. Movable. At the end, or when its connection is
+/// closed, it holds no lock on the data file any more; rows not read until then are lost.
 ///
-/// A field is named by its column name; where two tables of the query share a name, by `table.column`. Names
-/// are resolved once: ask `field()` before the loop. All reading functions throw DatabaseError of kind
-/// Conversion, which names the column, for a value that does not convert (a null, a number out of range, a
-/// text that is no moment), and when there is no current record. Moving on throws DatabaseError when the next
-/// row cannot be read.
+/// A field is named by its column; where two tables of the query share a column name, by `table.column`.
+/// Look fields up with `field()` before the loop. All reading functions throw DatabaseError (Conversion),
+/// which names the column, for a value that does not convert (a null, a number out of range, a text that is
+/// no moment) and when there is no current record. Moving on throws DatabaseError when the next row cannot
+/// be read.
 class RecordSet
 {
     Q_DECLARE_TR_FUNCTIONS(RecordSet)
@@ -30,7 +30,7 @@ public:
     bool atEnd() const { return m_atEnd; }
     void moveNext();
 
-    /// The position of the named field; throws DatabaseError, naming it, when there is none or when it is
+    /// The position of that field. Throws DatabaseError, which names it, when there is none or it is
     /// ambiguous.
     int field(std::string_view name) const;
 
@@ -45,7 +45,7 @@ public:
 
 private:
     friend class Connection;
-    /// Stands on the first row, if there is one.
+    /// Stands on the first row, if any.
     explicit RecordSet(std::unique_ptr<Cursor> cursor);
     sqlite3_value* value(int field) const;
     qint64 integer(int field, qint64 min, qint64 max) const;

@@ -13,7 +13,7 @@
 namespace
 {
 
-/// Runs statements of the engine on a file, by a connection of its own, and `done` before that is closed.
+/// Runs statements of SQLite itself on a file, on a connection of its own, and `done` before closing it.
 void run(const QString& file, const char* statements, const std::function<void()>& done = {})
 {
     sqlite3* opened = nullptr;
@@ -40,11 +40,11 @@ void run(const QString& file, const char* statements, const std::function<void()
 bool isInWriteAheadMode(const QString& file)
 {
     constexpr QByteArrayView Head("SQLite format 3\0", 16);
-    // The format for readers decides.
+    // Of the two format bytes the one for readers decides.
     constexpr qsizetype ReadFormat = 19;
     constexpr char WriteAhead = 2;
     QFile source(file);
-    // A pipe would keep the program waiting.
+    // A pipe would block.
     if (!QFileInfo(file).isFile() || !source.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
         return false;
     }
@@ -54,9 +54,10 @@ bool isInWriteAheadMode(const QString& file)
 
 void useRollbackJournal(const QString& file)
 {
-    // Alone with the file, the engine shares no memory beside it.
+    // In exclusive locking mode SQLite uses no shared memory file.
     run(file, "PRAGMA locking_mode=EXCLUSIVE; PRAGMA synchronous=EXTRA; PRAGMA journal_mode=DELETE", [&file] {
-        // Nor does it remove what others have left of that. Still locked: nobody can be using it.
+        // Nor does it remove the one that another program has left. The file is still locked, so nobody
+        // uses it.
         QFile::remove(file + QLatin1String("-shm"));
     });
 }

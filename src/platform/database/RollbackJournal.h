@@ -2,16 +2,15 @@
 
 class QString;
 
-/// Whether `file` is a database in write-ahead mode, in which changes lie in a second file beside it at
-/// first. Only its head is read; false when that cannot be.
+/// Whether `file` is a database in write-ahead mode, which keeps changes in a second file at first. Reads
+/// the header only; false when that fails.
 bool isInWriteAheadMode(const QString& file);
 
-/// Turns the database `file` from write-ahead mode, in which it can come from another program, to
-/// rollback-journal mode, and flushes that to the disk; a file in that mode is not touched. Throws
-/// DatabaseError (Storage), at once when somebody else has the file open, and then it is as it was.
+/// Turns the database `file` from write-ahead mode, which another program may have set, to rollback-journal
+/// mode, and flushes it; does nothing to a file in that mode. Throws DatabaseError (Storage) at once when
+/// another process has the file open, and then the file is unchanged.
 void useRollbackJournal(const QString& file);
 
-/// Brings the changes that lie beside the database `file`, which is in write-ahead mode, into it, flushes
-/// that to the disk, and leaves nothing beside it, as far as those let it who have the file open. Throws
-/// DatabaseError (Storage).
+/// Moves the changes that lie beside the database `file`, which is in write-ahead mode, into it, flushes it
+/// and leaves nothing beside it, as far as other users of the file let it. Throws DatabaseError (Storage).
 void takeInWriteAheadLog(const QString& file);

@@ -19,7 +19,7 @@ namespace
 
 using Kind = DatabaseError::Kind;
 
-/// So many steps of the engine's machine are done in well under a millisecond.
+/// SQLite runs so many virtual machine instructions in well under a millisecond.
 constexpr int StepsOfProgress = 20000;
 constexpr int BusyMilliseconds = 250;
 
@@ -29,7 +29,7 @@ QString shortened(const QString& statement)
     return statement.size() <= Shown ? statement : statement.left(Shown) + QStringLiteral("...");
 }
 
-/// Errors that say something about the statement alone; all others are about the file or the machine.
+/// Errors of the statement alone; all others concern the file or the machine.
 bool isStatementError(int code)
 {
     constexpr std::array Codes{SQLITE_ERROR, SQLITE_CONSTRAINT, SQLITE_MISMATCH, SQLITE_TOOBIG, SQLITE_RANGE,
@@ -37,9 +37,8 @@ bool isStatementError(int code)
     return std::find(Codes.begin(), Codes.end(), code & 0xff) != Codes.end();
 }
 
-/// Errors that a commit meets when it is done: the change is in the file and its journal is gone. Some file
-/// systems cannot flush a folder; there a power cut in the next moments may still take the change back as a
-/// whole.
+/// Errors that a commit meets when it is done: the change is in the file and the journal is gone. Some file
+/// systems cannot flush a folder; there a power cut in the next moments may still undo the whole change.
 bool comesAfterTheCommit(int extendedCode)
 {
     return extendedCode == SQLITE_IOERR_DIR_FSYNC || extendedCode == SQLITE_IOERR_RDLOCK
@@ -101,7 +100,7 @@ Session::~Session()
 
 void Session::openFile()
 {
-    // The engine itself would take an empty file for a new database and report the others less clearly.
+    // SQLite itself would take an empty file for a new database and report the other cases less clearly.
     const QFileInfo file(m_path);
     if (!file.exists()) {
         failToOpen(tr("it does not exist"));
@@ -109,7 +108,7 @@ void Session::openFile()
     if (file.isDir()) {
         failToOpen(tr("it is a folder"));
     }
-    // The engine would wait for the writer of a pipe, and no signal would end that.
+    // SQLite would wait for the writer of a pipe, and no signal would end that.
     if (!file.isFile()) {
         failToOpen(FileError::tr("it is not a file"));
     }
@@ -154,13 +153,13 @@ void Session::harden()
     if (m_progress != nullptr) {
         sqlite3_progress_handler(m_database, StepsOfProgress, tellProgress, this);
     }
-    // Large sorts hold the user's texts: they stay in memory and out of the folder for temporary files. The
-    // other pragma makes the engine read the schema, so what is no database, and what died inside an
-    // operation, shows here.
+    // Large sorts hold the user's texts: they stay in memory, out of the folder for temporary files. The
+    // second pragma makes SQLite read the schema, so that a file that is no database is noticed here and an
+    // interrupted operation is rolled back.
     check(executeOwn("PRAGMA temp_store=MEMORY; PRAGMA synchronous=EXTRA"));
 }
 
-// Exceptions do not pass through the engine: the statement is interrupted, and `fail` throws what was thrown.
+// An exception must not pass through SQLite: interrupt the statement, and `fail` rethrows it.
 int Session::tellProgress(void* session)
 {
     auto* self = static_cast<Session*>(session);
@@ -275,8 +274,8 @@ void Session::begin()
 
 void Session::requireSound()
 {
-    // What concerns the file as a whole; an odd value in a record does not keep the others from being
-    // written.
+    // Only damage of the file as a whole ("*** in ..."): an odd value in one record does not prevent
+    // writing others.
     bool damaged = false;
     const auto note = [](void* found, int, char** texts, char**) {
         if (std::string_view(texts[0]).starts_with("*** in")) {

@@ -14,11 +14,11 @@ struct sqlite3_context;
 struct sqlite3_stmt;
 struct sqlite3_value;
 
-/// One running statement of a session. It may outlive the session: then it has no statement any more.
+/// A running statement of a session. It may outlive the session; then it has no statement any more.
 class Cursor
 {
 public:
-    /// Takes the statement over.
+    /// Takes ownership of the statement.
     Cursor(Session& session, sqlite3_stmt* statement);
     ~Cursor();
     Cursor(const Cursor&) = delete;
@@ -37,31 +37,31 @@ private:
     sqlite3_stmt* m_statement;
 };
 
-/// One open, hardened handle on the data file with the deferred commit; what a Connection is made of. One
-/// thread.
+/// An open, hardened SQLite handle on the data file with the deferred commit; the inside of a Connection.
+/// One thread.
 class Session
 {
     Q_DECLARE_TR_FUNCTIONS(Session)
 
 public:
-    /// Opens an existing file and reads its header. `clock`, `progress` and `knownSound` (see DatabaseEngine)
-    /// outlive the session; what `progress` throws ends the statement that runs. Throws DatabaseError
-    /// (Storage).
+    /// Opens an existing file and reads its schema. `clock`, `progress` and `knownSound` (see
+    /// DatabaseEngine) outlive the session; an exception of `progress` ends the running statement. Throws
+    /// DatabaseError (Storage).
     Session(QString path, const Clock& clock, Progress* progress, bool* knownSound);
-    /// Gives up what was not committed.
+    /// Undoes what was not committed.
     ~Session();
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 
-    /// Starts a statement of the dialect; the cursor is not yet on a row. Throws DatabaseError.
+    /// Starts a statement of the dialect; the cursor is not on a row yet. Throws DatabaseError.
     std::unique_ptr<Cursor> start(const QString& statement);
-    /// Ends the write transaction, if one is open. Throws DatabaseError (Storage); then it is undone.
+    /// Commits the open transaction, if any. Throws DatabaseError (Storage); then it is undone.
     void commit();
     /// Ends all cursors, so that none of them holds a lock any more.
     void releaseCursors();
-    /// The id of the record that was inserted last; 0 before the first.
+    /// The id of the record inserted last; 0 before the first.
     qint64 insertedId() const;
-    /// How many rows the last insert, update or delete that ran to its end has changed.
+    /// The number of rows that the last completed insert, update or delete has changed.
     qint64 changedRows() const;
     /// A storage error has undone the operation.
     bool isUndone() const { return m_undone; }

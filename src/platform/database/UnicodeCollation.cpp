@@ -16,8 +16,8 @@ Byte byteAt(std::string_view text, std::size_t position)
     return static_cast<Byte>(text[position]);
 }
 
-/// The code point at `position`, which moves behind it. A byte that begins no well-formed sequence stands for
-/// itself, above all code points, so that different texts never become equal.
+/// The code point at `position`, which is moved behind it. A byte that begins no valid sequence stands for
+/// itself, above all code points, so that different texts never compare equal.
 char32_t nextCodePoint(std::string_view text, std::size_t& position)
 {
     const Byte first = byteAt(text, position++);

@@ -100,7 +100,7 @@ std::optional<QString> writePdf(
 {
     const QFileInfo present(target.file);
     if (present.isFile() && !present.isWritable()) {
-        // It could be replaced all the same, but whoever protected it did not mean that.
+        // replaceByWriting() could replace it nevertheless, but that is not what write protection means.
         return FileError::reason(EACCES);
     }
     const auto permissions = present.isFile() ? present.permissions() : PublicFile;

@@ -16,7 +16,7 @@
 namespace
 {
 
-/// Takes back what was painted for a printer when the user cancels.
+/// Withdraws the print job when the user cancels.
 class PrinterProgress final : public Progress
 {
 public:
@@ -39,7 +39,7 @@ private:
     std::optional<WithheldPrinting> m_withheld;
 };
 
-/// `putOut` answers why it failed, if it did.
+/// `putOut` returns the reason of a failure, if any.
 PrintResult putOutWithProgress(QWidget& window, const QString& text, const QString& file,
     const std::function<std::optional<QString>(Progress&)>& putOut)
 {
@@ -89,14 +89,15 @@ PrintResult printThroughDialog(QWidget& window, const PrintRequest& request)
     dialog.setOption(QAbstractPrintDialog::PrintCurrentPage);
     dialog.setMinMax(1, request.pageCount);
     if (auto* file = dialog.findChild<QLineEdit*>(QStringLiteral("filename"))) {
-        // It proposes a file where the program was started, and has no call that says otherwise (Qt 6.4.2).
+        // Workaround: QPrintDialog proposes a file in the current folder or the home folder and has no call
+        // to change that (Qt 6.4.2; tst_qt_workarounds, aPrintDoesNotGoToTheDocuments).
         file->setText(
             QDir(userFolder(QStandardPaths::DocumentsLocation)).filePath(QFileInfo(file->text()).fileName()));
     }
     if (dialog.exec() != QDialog::Accepted) {
         return {};
     }
-    // The dialog may have chosen another paper.
+    // The user may have chosen another paper in the dialog.
     const auto pages = request.layOut(printableArea(printer.pageLayout()));
     const std::vector<int> order = chosenPages(printer, pages->pageCount(), request.currentPage);
     if (order.empty()) {

@@ -7,27 +7,27 @@
 
 class QWidget;
 
-// Printing from a window, with a box that shows how far it is and offers to cancel it once it takes long.
+// Printing from a window. A box shows how far it is and offers to cancel it when it takes long.
 
 /// What is to be printed.
 struct PrintRequest {
     QString title; ///< of the job, in the queue of the printer
-    QPageLayout page; ///< proposed to the user
+    QPageLayout page; ///< paper to begin with
     int pageCount = 1; ///< on that page
     int currentPage = 0; ///< counted from 0
-    /// Lays it out for a printable area of that size, in units.
+    /// Lays the pages out for a printable area of that size, in units.
     std::function<std::shared_ptr<const PrintedPages>(QSizeF area)> layOut;
 };
 
-/// Whether there is a printer to print on. The first question loads what the system has for printing.
+/// Whether there is a printer. The first call loads the system's printing libraries.
 bool hasPrinter();
 
 /// How a request ended.
 struct PrintResult {
-    /// Who cancels a dialog or the printing has nothing printed, and that is no failure.
+    /// Cancelled: nothing was printed, which is not a failure.
     enum class Kind { Done, Cancelled, Failed };
     Kind kind = Kind::Cancelled;
-    QString file; ///< that was written, or was to be, in place of a printer; empty for a printer
+    QString file; ///< that was written instead of printing, or failed to be; empty for a printer
     QString reason; ///< why the file could not be written
 };
 

@@ -7,10 +7,10 @@
 namespace
 {
 
-/// Sets the print server that jobs go to, null for the usual one.
+/// Sets the print server for jobs; null for the usual one.
 void setPrintServer(const char* address)
 {
-    // The library that printing has loaded; without printers there may be none.
+    // The library that Qt's printing has loaded; without printers it may be missing.
     QLibrary cups(QStringLiteral("cups"), 2);
     using Set = void (*)(const char*);
     if (const auto set = reinterpret_cast<Set>(cups.resolve("cupsSetServer"))) {
@@ -22,7 +22,7 @@ void setPrintServer(const char* address)
 
 WithheldPrinting::WithheldPrinting()
 {
-    // Nobody listens there.
+    // Nothing listens there.
     setPrintServer("127.0.0.1:1");
 }
 

@@ -1,6 +1,6 @@
-// A process of its own, beside the program, that plays waves: what the sound libraries do there ends or holds
-// up nothing else. It reads names of files, each followed by a zero byte, plays every one at once, and writes
-// a line break for each sound that has ended. It ends with its input.
+// A process beside the program that plays waves, so that a sound library that crashes or hangs harms
+// nothing else. It reads file names, each followed by a zero byte, plays every one at once and writes a
+// line break for each sound that has ended. It ends with its input.
 
 #include <QCoreApplication>
 #include <QFile>
@@ -79,8 +79,9 @@ int main(int argc, char** argv)
                 qApp, [&player, name] { player.play(QFile::decodeName(name.c_str())); },
                 Qt::QueuedConnection);
         }
-        // At once, whatever the sound library is busy with; its own end can hang and abort (Qt 6.4.2 takes
-        // leave of the sound server beside the thread that serves it).
+        // Workaround: no destructors, as Qt Multimedia 6.4.2 disconnects from the sound server beside the
+        // thread that serves it, which can abort or hang (tst_soundprocess,
+        // thePlayerOfThisBuildEndsWithItsInputWhateverItDoes).
         std::_Exit(0);
     }).detach();
     return QCoreApplication::exec();

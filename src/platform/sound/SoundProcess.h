@@ -5,9 +5,8 @@
 
 #include <QTimer>
 
-/// Plays waves in a process of its own, which runs only while something sounds: a sound library that aborts
-/// or hangs, as they do without their server, ends a sound and nothing else. A file that is no wave never
-/// gets there.
+/// Plays waves in a separate process, which runs only while something sounds. Sound libraries abort or hang
+/// without their server; that ends a sound and nothing else. A file that is no wave is never passed on.
 class SoundProcess final : public WaveBackend
 {
 public:
@@ -22,6 +21,6 @@ private:
 
     HelperProcess m_player;
     qsizetype m_sounding = 0;
-    /// Without a sound server a sound never ends: runs out when the last one should have ended long ago.
+    /// Without a sound server a sound never ends: fires when the last one should have ended long ago.
     QTimer m_overdue;
 };

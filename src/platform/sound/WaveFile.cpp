@@ -13,7 +13,7 @@ constexpr qint64 LargestFile = qint64{64} * 1024 * 1024;
 constexpr qint64 RiffHeaderSize = 12;
 constexpr qint64 ChunkHeaderSize = 8;
 constexpr qint64 FormatSize = 16;
-// No sensible file has more chunks in front of its samples.
+// No sensible file has more chunks before its samples.
 constexpr int MostChunks = 1000;
 
 quint32 number32(const QByteArray& bytes, qsizetype position)
@@ -21,7 +21,8 @@ quint32 number32(const QByteArray& bytes, qsizetype position)
     return qFromLittleEndian<quint32>(bytes.constData() + position);
 }
 
-/// The bytes a second of a format chunk; 0 when its samples are compressed or make no sense.
+/// Bytes per second according to a format chunk; 0 when the samples are compressed or the numbers make no
+/// sense.
 quint32 bytesPerSecond(const QByteArray& format)
 {
     constexpr std::array<quint16, 3> PlainSamples{0x0001, 0x0003, 0xfffe};
@@ -58,7 +59,7 @@ std::optional<std::chrono::milliseconds> waveLength(const QString& file)
             const QByteArray format = wave.read(FormatSize);
             rate = format.size() == FormatSize ? bytesPerSecond(format) : 0;
         } else if (header.startsWith("data")) {
-            // A recorder that was cut off leaves a size beyond the end of the file.
+            // An interrupted recording leaves a size beyond the end of the file.
             const qint64 samples = std::min(size, wave.size() - begin);
             if (rate == 0 || samples == 0) {
                 return std::nullopt;

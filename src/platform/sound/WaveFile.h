@@ -4,6 +4,6 @@
 #include <chrono>
 #include <optional>
 
-/// How long a wave file plays, from its header. None for what is not to be played: no file, no wave of plain
-/// samples, a broken header, nothing in it, or more than 64 MiB (it would be read into memory as a whole).
+/// The playing time of a wave file, from its header. None for a file that is not to be played: missing,
+/// compressed, broken, empty, or larger than 64 MiB (it would be read into memory as a whole).
 std::optional<std::chrono::milliseconds> waveLength(const QString& file);
