@@ -18,7 +18,7 @@ qint16 CategoryRows::id(const RecordSet& records) const
 
 qint16 CategoryRows::narrowedId(const RecordSet& records) const
 {
-    // By the name of its column, as with every other value that does not convert.
+    // Names the column, as other values do that do not convert.
     return narrowId(records.int32(m_naming.id), "cat_id");
 }
 

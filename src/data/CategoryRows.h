@@ -4,7 +4,7 @@
 
 class ClsCategory;
 
-/// Reads categories off the rows of a query that has all columns of their table.
+/// Reads categories from the rows of a query that has all columns of their table.
 class CategoryRows
 {
 public:

@@ -8,7 +8,7 @@
 
 class RecordSet;
 
-/// The record of one category, and the store of the table `categories`. Copyable. Every operation opens a
+/// The record of one category and the store of the table `categories`. Copyable. Every operation opens a
 /// connection of its own and closes it; all throw DatabaseError.
 class ClsCategory
 {
@@ -30,18 +30,18 @@ public:
     QString CustomIconName() const { return m_customIconName; }
     void setCustomIconName(const QString& name) { m_customIconName = name; }
 
-    /// The stored category of that id; none when there is no such row. One that does not convert is an
-    /// UnreadableRecordError.
+    /// The stored category of that id; none when there is no such row. Throws UnreadableRecordError for a
+    /// row that does not convert.
     std::optional<ClsCategory> GetCatById(qint16 Id) const;
-    /// All categories in the order of their creation; one that does not convert is left out
+    /// All categories in the order in which they were made. Rows that do not convert are left out
     /// (DatabaseEngine::unreadable).
     std::vector<ClsCategory> GetAllCategories() const;
-    /// Stores this category as a new one. False (0) when it was inserted, true (-1) when a category of that
-    /// name, in whatever letter case, exists already; then nothing is inserted. The new id is not read back.
+    /// Inserts this category. False (0) when it was inserted; true (-1) when a category of that name exists
+    /// already, in whatever letter case, and then nothing is inserted. The new id is not read back.
     bool Add() const;
-    /// Writes this category over the row of its id. Another category may have the same name.
+    /// Updates the row of its id. Does not check whether another category has the same name.
     void Update() const;
-    /// Does that for each of them with one commit: sixty would take longer than all the rest of a start.
+    /// Updates all of them with one commit: sixty commits would take longer than the rest of a start.
     static void updateAll(const DatabaseEngine& engine, const std::vector<ClsCategory>& categories);
     /// Deletes the category and its tasks.
     void DeleteById(qint16 number) const;

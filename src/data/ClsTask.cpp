@@ -13,7 +13,7 @@ namespace
 
 const QLatin1String SelectJoin("select * from tasks inner join categories on tasks.cat_id=categories.cat_id");
 
-/// A statement whose filters are added one after the other.
+/// A statement to which filters are added one by one.
 class FilteredStatement
 {
 public:
@@ -43,7 +43,7 @@ public:
         } else if (taskType == TaskType::Expired) {
             m_text += QLatin1String(" <now()");
         } else {
-            // The engine would take the unfinished clause for a condition that every task meets.
+            // SQLite would take the unfinished clause for a condition that every task meets.
             throw DatabaseError(
                 DatabaseError::Kind::Statement, ClsTask::tr("The statement is unfinished: %1").arg(m_text));
         }
@@ -85,7 +85,7 @@ private:
     QString m_text;
 };
 
-/// The filters that counting and deleting share, always with a date range.
+/// The filters common to counting and deleting, which always have a date range.
 QString rangeStatement(
     QLatin1String start, qint16 cat, qint32 status, Moment fromDate, Moment toDate, qint32 taskType)
 {
@@ -97,7 +97,7 @@ QString rangeStatement(
     return statement.text();
 }
 
-/// Answers the id of the record that the statement has inserted, if it was to insert one.
+/// Returns the id of the inserted record, if the statement inserts one.
 qint64 runAlone(const DatabaseEngine& engine, const QString& statement)
 {
     Connection connection = ClsDatabase(engine).Connect();
@@ -195,7 +195,7 @@ std::vector<ClsTask> ClsTask::GetTasks(qint16 cat, qint32 status, qint32 sortBy,
     return tasks;
 }
 
-// The join is asked for its columns alone: it would read the category with every task.
+// Selects only the columns of tasks: the join would also read the category for every task.
 qint64 ClsTask::readAll() const
 {
     Connection connection = ClsDatabase(*m_engine).Connect();

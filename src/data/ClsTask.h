@@ -10,8 +10,8 @@
 
 class RecordSet;
 
-/// The record of one task, and the store of the table `tasks`. Copyable. Every operation opens a connection
-/// of its own and closes it; all throw DatabaseError. The codes stand in TaskCodes.h.
+/// The record of one task and the store of the table `tasks`. Copyable. Every operation opens a connection
+/// of its own and closes it; all throw DatabaseError. The codes are in TaskCodes.h.
 class ClsTask
 {
     Q_DECLARE_TR_FUNCTIONS(ClsTask)
@@ -45,30 +45,30 @@ public:
     void setReminderSound(const QString& path) { setText(SoundText, path); }
     QString ReminderFile() const { return m_texts.text(FileText); }
     void setReminderFile(const QString& path) { setText(FileText, path); }
-    /// The icon of the task's category; filled by the queries, never written.
+    /// The icon of the task's category; filled by queries, never written.
     qint16 IconId() const { return m_iconId; }
     void setIconId(qint16 iconId) { m_iconId = iconId; }
-    /// Set when the reminder moment of a stored task was changed: makes `Update` arm the alert again.
-    bool DateChanged() const { return m_dateChanged; } // Read by no caller: a part of the store's interface.
+    /// Set when the reminder moment of a stored task was changed: `Update` then arms the alert again.
+    bool DateChanged() const { return m_dateChanged; } // Without a caller: part of the interface.
     void setDateChanged(bool changed) { m_dateChanged = changed; }
 
-    /// Stores this task as a new one and answers its id; the object keeps the id that it has.
+    /// Inserts this task and returns its id; the object keeps its own id.
     qint32 Add() const;
-    /// Writes this task over the row of its id.
+    /// Updates the row of its id.
     void Update() const;
-    /// The stored task of that id; none when there is no such row or its category is gone. A row that does
-    /// not convert is an UnreadableRecordError.
+    /// The stored task of that id; none when there is no such row or its category is gone. Throws
+    /// UnreadableRecordError for a row that does not convert.
     std::optional<ClsTask> GetTaskById(qint16 Id) const;
-    /// The tasks that match, in the order of `sortBy`, names as readers of the system's language look them up
-    /// (NameOrder); an unknown `taskType` is an error, here and below.
-    /// `fromDate` and `toDate` count as whole days and only when `isDateRange` is set. A task whose row, or
-    /// that of its category, does not convert is left out (DatabaseEngine::unreadable).
+    /// The matching tasks in the order of `sortBy`; names in the order of the user's language (NameOrder).
+    /// An unknown `taskType` is an error, here and below. `fromDate` and `toDate` are whole days and count
+    /// only when `isDateRange` is set. A task is left out when its row or its category's does not convert
+    /// (DatabaseEngine::unreadable).
     std::vector<ClsTask> GetTasks(qint16 cat, qint32 status, qint32 sortBy, bool isDateRange, Moment fromDate,
         Moment toDate, qint32 taskType) const;
-    /// Reads every task that has a category, and keeps none; one that does not convert is an
-    /// UnreadableRecordError. How many they are.
+    /// Reads every task that has a category, without keeping any, and returns their number. Throws
+    /// UnreadableRecordError for one that does not convert.
     qint64 readAll() const;
-    /// Deletes the tasks due from `fromDate` to the end of `toDate` that match. How many there were.
+    /// Deletes the matching tasks due from `fromDate` to the end of `toDate` and returns their number.
     qint32 DeleteTasks(qint16 cat, qint32 status, Moment fromDate, Moment toDate, qint32 taskType) const;
     /// How many tasks `DeleteTasks` would delete.
     qint32 GetTasksCount(qint16 cat, qint32 status, Moment fromDate, Moment toDate, qint32 taskType) const;

@@ -5,8 +5,7 @@
 namespace
 {
 
-/// Nobody looks further into a name for its place in a list: names that are alike so far stay as the engine
-/// has them.
+/// Names that are equal so far stay in SQLite's order: nobody looks further for a name's place in a list.
 constexpr std::size_t MostCharacters = 256;
 
 } // namespace
@@ -14,7 +13,7 @@ constexpr std::size_t MostCharacters = 256;
 QLocale localeOfReaders()
 {
     const QLocale locale = QLocale().collation();
-    // Qt would compare codes.
+    // In the C locale Qt compares code points.
     return locale.language() == QLocale::C ? QLocale(QLocale::English) : locale;
 }
 

@@ -7,24 +7,24 @@
 #include <string_view>
 #include <vector>
 
-/// The locale by which the user looks names up: the one that the system sorts by, English where that is none.
+/// The locale that the system sorts by; English where that is the C locale.
 QLocale localeOfReaders();
 
-/// The order in which readers of a language look names up: by its alphabet, without regard to letter case,
-/// numbers by their value. It is an order among the names that the engine has sorted already: those that it
-/// takes for the same stay as they stand. Not thread-safe.
+/// The order in which speakers of a language look names up: by its alphabet, without regard to case,
+/// numbers by their value. It refines SQLite's order: names that it takes for equal stay as they are. Not
+/// thread-safe.
 ///
-/// The engine knows nothing of it, for what two texts are equal for it, and the order of its indexes, must
-/// be the same for every user of a data file.
+/// SQLite is not given this order: which texts are equal, and the order of the indexes, must be the same
+/// for every user of a data file.
 class NameOrder
 {
 public:
     explicit NameOrder(const QLocale& locale = localeOfReaders());
 
-    /// What decides on the place of `name`, which is UTF-8, however malformed.
+    /// The sort key of `name`, which is UTF-8 but may be malformed.
     QCollatorSortKey key(std::string_view name) const;
 
-    /// Sorts what the engine has sorted by name; `nameOf` answers the name of an item.
+    /// Sorts items that SQLite has sorted by name already; `nameOf` returns an item's name.
     template <typename Item, typename NameOf> void sort(std::vector<Item>& items, NameOf nameOf) const
     {
         std::vector<std::pair<QCollatorSortKey, std::size_t>> order;

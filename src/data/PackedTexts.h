@@ -6,8 +6,8 @@
 #include <memory>
 #include <string_view>
 
-/// `Count` texts in one buffer: a record of a long list costs one allocation, not one a field, and a pointer.
-/// UTF-8 inside. Copyable; of texts that were moved from, all are empty.
+/// `Count` UTF-8 texts in one buffer, so that a record of a long list needs one allocation instead of one
+/// for each field. Copyable; after a move all texts are empty.
 template <std::size_t Count> class PackedTexts
 {
 public:
@@ -43,14 +43,14 @@ public:
         values[index] = value;
         assign(values);
     }
-    /// Replaces all texts at once, with one allocation. They may be texts of this object.
+    /// Replaces all texts with one allocation. `values` may refer to texts of this object.
     void assign(const std::array<std::string_view, Count>& values)
     {
         std::size_t size = 0;
         for (const std::string_view value : values) {
             size += value.size();
         }
-        // The ends of the texts, then the texts.
+        // The buffer holds the ends of the texts, then the texts.
         std::unique_ptr<std::uint32_t[]> buffer(new std::uint32_t[Count + (size + WordSize - 1) / WordSize]);
         char* texts = reinterpret_cast<char*>(&buffer[Count]);
         std::uint32_t end = 0;
@@ -74,5 +74,5 @@ private:
         return values;
     }
 
-    std::unique_ptr<std::uint32_t[]> m_buffer; ///< null for empty texts
+    std::unique_ptr<std::uint32_t[]> m_buffer; ///< null when all texts are empty
 };

@@ -6,10 +6,10 @@ namespace
 {
 
 constexpr qsizetype LongestName = 40;
-/// As many characters at least, and never a text of megabytes.
+/// Enough bytes for that many characters; never a text of megabytes.
 constexpr std::size_t MostBytes = 4 * LongestName;
 
-/// The beginning of the text of a field, whatever it holds; empty where it has none.
+/// The beginning of a field as text, whatever it holds; empty where it is null.
 QString beginningOf(const RecordSet& records, int field)
 {
     std::string_view stored;

@@ -4,9 +4,9 @@
 #include "platform/database/DatabaseError.h"
 #include "platform/database/RecordSet.h"
 
-// Reading one record as a whole: it converts, or it is an error that names it.
+// Reads a record as a whole: all its values convert, or an error names the record.
 
-/// The record of which a value does not convert, as an error of kind Conversion.
+/// An error of kind Conversion that names the record.
 class UnreadableRecordError final : public DatabaseError
 {
 public:
@@ -17,17 +17,17 @@ private:
     UnreadableRecord m_record;
 };
 
-/// Where a record set has what a record is known by.
+/// The columns by which a record is named to the user.
 struct RecordNaming {
     QLatin1String table;
     int id;
     int name;
 
-    /// The current record, of which a value does not convert for that reason.
+    /// Describes the current record, in which a value does not convert for `reason`.
     UnreadableRecord unreadable(const RecordSet& records, const QString& reason) const;
 };
 
-/// Reads the current record by `read`; one that does not convert is an UnreadableRecordError.
+/// Reads the current record by `read`; throws UnreadableRecordError when a value does not convert.
 template <typename Read> void readRecord(const RecordSet& records, const RecordNaming& naming, Read&& read)
 {
     try {
@@ -42,8 +42,8 @@ template <typename Read> void readRecord(const RecordSet& records, const RecordN
     }
 }
 
-/// Reads one record of many by `read`. False for one that does not convert, of which the listener of `engine`
-/// has been told; without a listener it is an UnreadableRecordError.
+/// Reads one record of many by `read`. False when it does not convert, after telling the listener of
+/// `engine`; without a listener it throws UnreadableRecordError.
 template <typename Read> bool readOrLeaveOut(const DatabaseEngine& engine, Read&& read)
 {
     try {

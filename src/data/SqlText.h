@@ -22,6 +22,6 @@ struct Marker {
     QString value;
 };
 
-/// `pattern` with every occurrence of every marker replaced. The pattern is walked once: a value that itself
-/// holds marker text is inserted as it is. Case-sensitive.
+/// `pattern` with every occurrence of every marker replaced. The pattern is scanned once: marker text
+/// within a value is inserted as it is. Case-sensitive.
 QString fillMarkers(QStringView pattern, std::initializer_list<Marker> markers);

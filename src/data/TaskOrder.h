@@ -4,14 +4,14 @@
 #include "data/NameOrder.h"
 #include "data/TaskCodes.h"
 
-/// Puts tasks, just read by a statement that sorts by `sortBy`, where people look for them; `taskOf` answers
-/// the task of an item. One order for all that lists them.
+/// Sorts tasks just read by a statement that sorts by `sortBy` into the order that users expect; `taskOf`
+/// returns the task of an item. All lists share this order.
 template <typename Item, typename TaskOf>
 void putInOrder(std::vector<Item>& items, qint32 sortBy, TaskOf taskOf)
 {
     switch (sortBy) {
     case TaskSort::Name:
-        // The engine has sorted by codes of letters.
+        // SQLite has sorted by code points.
         NameOrder().sort(items, [&](const Item& item) { return taskOf(item).taskNameUtf8(); });
         return;
     case TaskSort::Status:
@@ -21,7 +21,8 @@ void putInOrder(std::vector<Item>& items, qint32 sortBy, TaskOf taskOf)
     default:
         break;
     }
-    // In the order of making. The engine reads them so, unless another tool left statistics in the file.
+    // By id, the order in which they were made. SQLite does so, too, unless another tool has left
+    // statistics in the file.
     const auto isEarlier = [&](const Item& one, const Item& other) {
         return taskOf(one).Id() < taskOf(other).Id();
     };

@@ -26,7 +26,7 @@ void TaskFields::readNumbers(const RecordSet& records, ClsTask& task) const
     task.setPeriority(records.int32(m_periority));
     task.setReminderDateTime(records.moment(m_reminder));
     task.setReminderOn(records.flag(m_reminderOn));
-    // Of no use to a task, but to the reminders: one that they cannot read is not to be missed unnoticed.
+    // Read only to check it: a reminder that cannot be read must not be missed unnoticed.
     records.flag(m_played);
     records.flag(m_dismissed);
 }

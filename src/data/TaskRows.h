@@ -7,17 +7,17 @@
 #include <string_view>
 #include <unordered_set>
 
-/// The rows of the table of tasks. Throws UnreadableRecordError for a row that does not convert as a whole,
-/// whichever of its values the caller wants: all that show a task show the same ones.
+/// Reads rows of the table of tasks. Throws UnreadableRecordError when any value of the row does not
+/// convert, even one that the caller does not use: so all views show the same tasks.
 class TaskFields
 {
 public:
     /// Looks the columns up; throws DatabaseError when one is missing.
     explicit TaskFields(const RecordSet& records);
 
-    /// Reads the current row into `task`, but for what belongs to its category.
+    /// Reads the current row into `task`, except what belongs to its category.
     void read(const RecordSet& records, ClsTask& task) const;
-    /// The same, but keeps no texts.
+    /// The same without keeping the texts.
     void check(const RecordSet& records, ClsTask& scratch) const;
 
 private:
@@ -38,8 +38,8 @@ private:
     int m_dismissed;
 };
 
-/// The rows of the tasks joined with their categories. A task is shown where its row converts and that of its
-/// category does, so that a list never holds a task of a category that no filter offers.
+/// Reads rows of tasks joined with their categories. Throws also when the category does not convert, so
+/// that no list holds a task of a category that no filter offers.
 class TaskRows
 {
 public:
@@ -54,5 +54,5 @@ private:
     TaskFields m_columns;
     CategoryRows m_categories;
     int m_icon;
-    std::unordered_set<qint16> m_readable; ///< categories
+    std::unordered_set<qint16> m_readable; ///< ids of categories that have been read without an error
 };

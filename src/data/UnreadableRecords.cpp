@@ -15,7 +15,7 @@ QString sentenceOf(const UnreadableRecord& record)
     if (record.table == Settings) {
         return record.reason;
     }
-    // A name that is read from right to left is not to turn the sentence around.
+    // A name that is read from right to left must not turn the sentence around.
     constexpr QChar FirstStrongIsolate(0x2068);
     constexpr QChar PopIsolate(0x2069);
     const QString name = FirstStrongIsolate + record.name + PopIsolate;

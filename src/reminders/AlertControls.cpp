@@ -25,7 +25,7 @@ template <typename Control> Control* named(Control* control, const QString& name
     return control;
 }
 
-// No mnemonics: with Alt a letter works the main window, and the alert may come up just as it is struck.
+// No mnemonics: the alert may come up just as the user presses Alt and a letter in the main window.
 template <typename Button> Button* workedBy(const QKeySequence& keys, Button* button)
 {
     button->setShortcut(keys);

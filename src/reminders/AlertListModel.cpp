@@ -12,7 +12,7 @@
 namespace
 {
 
-/// Whether all of `some` are among `all`. A task that was given another moment is another reminder.
+/// Whether all of `some` are among `all`. A task with another moment is another reminder.
 bool areAmong(const std::vector<DueReminder>& all, const std::vector<DueReminder>& some)
 {
     QHash<qint32, QString> moments;

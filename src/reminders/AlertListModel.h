@@ -5,7 +5,7 @@
 
 #include <vector>
 
-/// The due reminders that the alert window lists, in the order of the query.
+/// The due reminders in the alert window, in the order of the query.
 class AlertListModel : public GridModel
 {
     Q_OBJECT
@@ -13,23 +13,23 @@ class AlertListModel : public GridModel
 public:
     enum Field { Id, Name, Periority, DueDate };
 
-    /// `clock` outlives the model; how late a reminder is follows it.
+    /// `clock` outlives the model; it decides how late a reminder is.
     explicit AlertListModel(const Clock& clock, QObject* parent = nullptr);
 
     void createColumns();
-    /// Replaces all rows. The columns and the widths that the user has given them stay.
+    /// Replaces all rows; the columns and their widths stay.
     void setReminders(const std::vector<DueReminder>& reminders);
     void removeReminder(int row);
-    /// Whether these very tasks are listed, in this order.
+    /// Whether exactly these reminders are listed, in this order.
     bool lists(const std::vector<DueReminder>& reminders) const;
-    /// How many of them the user has been shown, for a check that finds these reminders due: the number of
-    /// rows. None when the list is hidden (`visible` is false) and has been overtaken: some of what it lists
-    /// is no longer due, and some of what is due it does not list.
+    /// How many reminders the user has been shown, for a check that finds `due`: the number of rows. 0 when
+    /// the list is hidden (`visible` is false) and out of date: something that it lists is no longer due,
+    /// and something due is not listed.
     int shownCount(const std::vector<DueReminder>& due, bool visible) const;
     /// The row of that task; -1 when it is not listed.
     int rowOf(qint32 id) const;
     qint32 id(int row) const { return at(row).id; }
-    /// The task id of a row as the text of its cell.
+    /// The task id of a row as text.
     QString idText(int row) const { return cellText(row, Id); }
 
     int rowCount(const QModelIndex& parent = {}) const override;

@@ -28,7 +28,8 @@ void FlashBand::setInverted(bool inverted)
     }
 }
 
-// A style sheet's rules for labels would win over colour roles, and the inversion would not be seen.
+// Painted by hand: a style sheet's rules for labels would override palette colours, and the inversion would
+// not be seen.
 void FlashBand::paintEvent(QPaintEvent*)
 {
     QColor paper = palette().color(QPalette::Highlight);

@@ -2,8 +2,8 @@
 
 #include <QLabel>
 
-/// A caption inside the window whose colours can be inverted: what the title bar of a window does when it
-/// flashes. Takes its colours from the palette's highlight.
+/// A caption inside the window whose colours can be inverted, in place of a flashing title bar. Uses the
+/// palette's highlight colours.
 class FlashBand : public QLabel
 {
     Q_OBJECT

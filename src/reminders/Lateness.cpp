@@ -19,7 +19,7 @@ QString latenessText(Moment reminder, Moment now)
     if (late < 1min) {
         return Lateness::tr("due now");
     }
-    // The singular is a text of its own: the untranslated program needs both forms.
+    // English is not translated, so the singular needs a text of its own.
     if (late < 1h) {
         const int n = static_cast<int>(late / 1min);
         return n == 1 ? Lateness::tr("1 minute late") : Lateness::tr("%n minutes late", nullptr, n);

@@ -4,6 +4,6 @@
 
 #include <QString>
 
-/// How late a reminder is, in the largest unit that has passed in full: "12 minutes late". Within the first
-/// minute, and for a moment that lies ahead (the clock was set back), it is "due now".
+/// How late a reminder is, in the largest unit that has passed in full: "12 minutes late". "due now" within
+/// the first minute and for a moment ahead of `now` (the clock was set back).
 QString latenessText(Moment reminder, Moment now);

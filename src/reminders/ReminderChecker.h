@@ -6,7 +6,7 @@
 #include <QString>
 #include <vector>
 
-/// A task whose reminder moment has come and that the user has not dismissed.
+/// A task whose reminder moment has come and that was not dismissed.
 struct DueReminder {
     qint32 id = 0;
     QString name;
@@ -24,10 +24,10 @@ struct DueReminder {
     bool startsFile() const { return !file.isEmpty() && !played; }
 };
 
-/// One check for due reminders, made for one tick and gone with it: one connection, one moment. The moment is
-/// that of the making, so that no reminder can fall due between the reading and the marking and be marked
-/// without ever having been listed. Nothing but "due <= now" is trusted: a machine that slept or a clock that
-/// was set delays a reminder by one tick at worst.
+/// One check for due reminders, made by a tick and discarded with it: one connection and one moment, that
+/// of its construction. So no reminder can fall due between reading and marking and be marked without
+/// having been listed. Relies on "due <= now" alone: after sleep or a change of the clock a reminder is
+/// late by one tick at most.
 class ReminderChecker
 {
 public:
@@ -35,22 +35,22 @@ public:
     enum class Outcome {
         Nothing,
         BringUp, ///< more are due than are shown: redraw, raise, mark as played
-        Redraw, ///< fewer, but some
+        Redraw, ///< fewer are due, but some
         Hide ///< none are due any more: empty the list and hide
     };
 
-    /// Opens the connection and reads all due reminders to the end. A record of which a value that is asked
-    /// for does not convert is left out (DatabaseEngine::unreadable); without a listener, too. `engine`
-    /// outlives the check. Throws DatabaseError.
+    /// Opens the connection and reads all due reminders. A record that does not convert is left out
+    /// (DatabaseEngine::unreadable), even without a listener. `engine` outlives the check. Throws
+    /// DatabaseError.
     explicit ReminderChecker(const DatabaseEngine& engine);
     ReminderChecker(const ReminderChecker&) = delete;
     ReminderChecker& operator=(const ReminderChecker&) = delete;
 
     /// In the order of the query.
     const std::vector<DueReminder>& due() const { return m_due; }
-    /// What follows when `shownRows` reminders are listed.
+    /// What to do when `shownRows` reminders are listed.
     Outcome outcome(int shownRows) const;
-    /// Marks every due reminder as played, durable once `close()` has returned. Throws DatabaseError.
+    /// Marks every due reminder as played; durable when `close()` has returned. Throws DatabaseError.
     void markPlayed();
     /// Ends the check. Throws DatabaseError when the marks could not be stored.
     void close();

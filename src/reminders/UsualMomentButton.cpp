@@ -18,7 +18,7 @@ UsualMomentButton::UsualMomentButton(const QString& caption, const Clock& clock,
     }
     connect(menu, &QMenu::aboutToShow, this, &UsualMomentButton::leaveOutPassed);
     setMenu(menu);
-    // Last: assistive technology, told of the caption, decides what kind of button this is.
+    // Last: this is when assistive technology learns what kind of button it is.
     setText(caption);
 }
 
@@ -32,7 +32,7 @@ void UsualMomentButton::leaveOutPassed()
 
 void UsualMomentButton::choose(UsualMoment which)
 {
-    // Time may have gone on while the menu was open.
+    // Time may have passed while the menu was open.
     if (const std::optional<Moment> moment = momentOf(which, m_clock.now())) {
         emit momentChosen(*moment);
     }

@@ -6,7 +6,7 @@
 
 class Clock;
 
-/// A button that opens a menu of usual moments; those that are over for today are left out.
+/// A button with a menu of usual moments; those that are over for today are left out.
 class UsualMomentButton : public QPushButton
 {
     Q_OBJECT

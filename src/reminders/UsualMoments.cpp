@@ -15,7 +15,7 @@ struct UsualMoments {
     Q_DECLARE_TR_FUNCTIONS(UsualMoments)
 };
 
-/// Where clocks are set back, the repeated hour cannot be told from the first one: the later reading counts.
+/// When clocks are set back an hour occurs twice; the second one is meant.
 Moment later(Moment now, std::chrono::minutes by)
 {
     return std::max(toMinute(now) + by, toMinute(whenPassed(now, by)));

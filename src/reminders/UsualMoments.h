@@ -12,10 +12,10 @@ enum class UsualMoment { In5Minutes, In15Minutes, In1Hour, ThisEvening, Tomorrow
 inline constexpr std::array AllUsualMoments{UsualMoment::In5Minutes, UsualMoment::In15Minutes,
     UsualMoment::In1Hour, UsualMoment::ThisEvening, UsualMoment::TomorrowMorning, UsualMoment::NextWeek};
 
-/// That moment as it is seen at `now`, in whole minutes. The evening is 18:00 of the same day; from then on
-/// there is none. The morning is 9:00 of the next calendar day; next week begins on Monday at 9:00. Minutes
-/// and hours are counted by the clock, and where clocks are set forward meanwhile as long as they last: never
-/// a time of day that does not exist, never one that comes too early.
+/// That moment as of `now`, in whole minutes. The evening is 18:00 of the same day, none from then on; the
+/// morning is 9:00 of the next day; next week begins on Monday at 9:00. Minutes and hours are counted on
+/// the clock; when clocks are set forward meanwhile, in real time. Never a time that does not exist, never
+/// one that is too early.
 std::optional<Moment> momentOf(UsualMoment which, Moment now);
 
 /// The entry of a menu for it, with its mnemonic.

@@ -37,7 +37,7 @@ QString titleFor(int count)
     return count == 1 ? frmAlerts::tr("1 Reminder") : frmAlerts::tr("%n Reminders", nullptr, count);
 }
 
-/// A message box or a pop-up of the program takes the activation for a while without being another window.
+/// A message box or pop-up of the program takes the activation without being another window for the user.
 bool isOwnBoxOpen()
 {
     return QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr;
@@ -47,8 +47,8 @@ bool isOwnBoxOpen()
 
 frmAlerts::frmAlerts(
     const FormServices& services, AlertsHost& host, WaveBackendFactory waveBackend, QWidget* parent)
-    // No dialog: one without an owner is kept above all windows of its program by some window managers
-    // (metacity, xfwm4), and the main window could not come in front of it.
+    // A plain window: metacity and xfwm4 keep a dialog without an owner above all windows of its program,
+    // so that the main window could not come in front of it.
     : QWidget(parent, Qt::Window), m_services(services), m_host(host), m_database(services.engine),
       m_mmc(std::move(waveBackend), this), m_reminders(services.clock), m_tmrTasksChecker(this),
       m_tmrFlasher(this), m_controls(*this, services.clock), m_unasked(this)
@@ -151,7 +151,8 @@ void frmAlerts::check()
         hide();
         m_owesMark = false;
     }
-    // A mark that failed is made up for only while exactly what has sounded is due.
+    // A failed mark is made up for only while the reminders that have sounded are exactly those that are
+    // due.
     const bool marks = m_owesMark && outcome != Outcome::Redraw && m_reminders.lists(checker.due());
     if (marks) {
         checker.markPlayed();
@@ -175,7 +176,8 @@ void frmAlerts::redraw(const std::vector<DueReminder>& due)
     }
 }
 
-// A redraw of fewer marks nothing, and a mark can fail: the data file alone does not tell what has sounded.
+// Remembered here, because a redraw with fewer rows marks nothing and marking can fail: the data file alone
+// does not tell which reminders have sounded.
 void frmAlerts::fireOnce(const DueReminder& reminder)
 {
     const auto fired = m_fired.constFind(reminder.id);
@@ -244,7 +246,8 @@ void frmAlerts::btnRemindMeLater_Click()
     if (row < 0) {
         return;
     }
-    // What is half typed counts as it would on leaving the picker: a mnemonic does not move the focus.
+    // A half-typed date counts as it would when the picker loses the focus; a mnemonic does not move the
+    // focus.
     m_controls.dtpReminderDate->interpretText();
     m_controls.dtpReminderTime->interpretText();
     const QDate date = m_controls.dtpReminderDate->date();
@@ -336,7 +339,7 @@ void frmAlerts::stopFlashing()
 
 void frmAlerts::tmrFlasher_Timer()
 {
-    // A box of the program was closed and the activation went on to another window.
+    // A box of the program was closed and another window was activated.
     if (!isActiveWindow() && !isOwnBoxOpen()) {
         stopFlashing();
         return;
@@ -368,7 +371,7 @@ void frmAlerts::showEvent(QShowEvent* event)
 
 void frmAlerts::closeEvent(QCloseEvent* event)
 {
-    // Only the close box hides; a log-out and the end of the program unload the window.
+    // Only the close box hides the window; a log-out and the end of the program unload it.
     if (isCloseByUser(*event)) {
         event->ignore();
         hide();

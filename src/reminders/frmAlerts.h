@@ -13,8 +13,8 @@
 
 class AlertsHost;
 
-/// The alert window: lists the due reminders, looks for new ones every ten seconds, sounds and starts what
-/// they name, and offers what can be done with them. It comes up by itself and has no owner; the close box
+/// The alert window: checks for due reminders every ten seconds, lists them, plays their sounds, starts
+/// their files and offers what can be done with them. It comes up by itself and has no owner; the close box
 /// only hides it. Interface thread only.
 class frmAlerts final : public QWidget
 {
@@ -27,24 +27,24 @@ public:
 
     /// Runs one check at once and starts the checker's timer.
     void load();
-    /// One check for due reminders. Never throws: a check that fails leaves the list as it was, and the next
+    /// One check for due reminders. Never throws: a failed check leaves the list as it was, and the next
     /// one tries again.
     void tmrTasksChecker_Timer();
-    /// Stops the checker's timer, or lets it run; switching on a running timer changes nothing.
+    /// Stops or starts the checker's timer; starting a running timer changes nothing.
     void setCheckerEnabled(bool enabled);
-    /// The data file holds other tasks now: nothing is listed any more and the window is hidden. The next
+    /// To be called when the data file has been replaced: empties the list and hides the window. The next
     /// check lists what is due.
     void forgetReminders();
-    /// Gives the focus to the list of reminders; activates the window when it is visible, never shows it.
+    /// Gives the focus to the list; activates the window if it is visible, but never shows it.
     void focusGrid();
-    /// The help button works; disabled at first.
+    /// Enables the help button, which is disabled at first.
     void setHelpEnabled(bool enabled);
 
 signals:
     /// One or all reminders were dismissed and the data file is closed again.
     void remindersDismissed();
     void helpRequested();
-    /// A check has run, whatever came of it.
+    /// A check has run, with or without success.
     void checked();
 
 protected:
@@ -75,7 +75,7 @@ private:
     void setPickersTo(Moment moment);
 
     Connection openConnection() const;
-    /// Runs a statement that changes the data file and makes it durable.
+    /// Runs a statement that changes the data file, and commits it.
     static void store(Connection& connection, const QString& statement);
     void removeReminder(int row);
 
@@ -89,9 +89,9 @@ private:
     AlertControls m_controls;
     UnaskedWindow m_unasked;
     bool m_isActive = false;
-    /// What is listed has sounded, but could not be marked as played.
+    /// The listed reminders have sounded but could not be marked as played.
     bool m_owesMark = false;
-    /// What has sounded without being marked as played since, by task id: the reminder's moment. It is listed
-    /// again, but does not sound again.
+    /// Reminders that have sounded but are not marked as played: task id and reminder moment. They are
+    /// listed again, but do not sound again.
     QHash<qint32, QString> m_fired;
 };

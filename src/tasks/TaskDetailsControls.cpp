@@ -29,7 +29,7 @@ template <typename Control> Control* named(const char* name, QWidget& parent)
     return control;
 }
 
-/// Adds a caption whose mnemonic leads to `control`.
+/// Adds a caption with `control` as its buddy.
 QLabel* addLabel(QGridLayout& grid, int row, int column, QLabel* label, const QString& text, QWidget* control)
 {
     label->setTextFormat(Qt::PlainText);
@@ -88,7 +88,8 @@ std::optional<qint16> TaskDetailsControls::selectedCategory() const
 
 TaskInput TaskDetailsControls::input() const
 {
-    // Enter saves without taking the focus: what is half typed in a picker counts as it would on leaving it.
+    // Enter saves without moving the focus: a half-typed date or time counts as it would when the picker
+    // loses it.
     for (QDateTimeEdit* picker :
         std::initializer_list<QDateTimeEdit*>{dtpDueDate, dtpDueTime, dtpReminderDate, dtpReminderTime}) {
         picker->interpretText();
@@ -116,7 +117,7 @@ void TaskDetailsControls::setUp(const Clock& clock)
     }
     txtDescription->setTabChangesFocus(true);
     txtDescription->setMinimumHeight(txtDescription->fontMetrics().lineSpacing() * 5);
-    // The longest category is not to widen the dialog.
+    // A long category name must not widen the dialog.
     cmbCategories->keepNarrow(20);
     cmbStatus->keepEntriesWhole();
     cmbPeriorities->keepEntriesWhole();
@@ -191,7 +192,7 @@ void TaskDetailsControls::layOut(QWidget& form)
     layOutReminder();
     grid->addWidget(framReminderLater, 5, 0, 1, 4);
 
-    // A window of their own until they are added: so they come behind the content in the tab order.
+    // Without a parent until they are added: so they come after the content in the tab order.
     auto* bar = new QWidget;
     auto* buttons = new QHBoxLayout(bar);
     buttons->setContentsMargins({});
@@ -204,7 +205,7 @@ void TaskDetailsControls::layOut(QWidget& form)
     auto* all = new QVBoxLayout(&form);
     all->addWidget(new ScrollFrame(content, {btnOk}), 1);
     all->addWidget(bar);
-    // Room for a path, and for a few lines more than the least.
+    // Room for a path and for a few lines more than the minimum.
     const QSize least = all->minimumSize();
     form.resize(least.width() * 5 / 4, least.height() + txtDescription->fontMetrics().lineSpacing() * 3);
 }

@@ -19,7 +19,7 @@ class QPushButton;
 class QTimeEdit;
 class QWidget;
 
-/// The controls of the task dialog and their places. They are children of `form`, which owns them.
+/// The controls of the task dialog and their layout. They are children of `form`, which owns them.
 class TaskDetailsControls
 {
     Q_DECLARE_TR_FUNCTIONS(frmTaskDetails)
@@ -55,7 +55,7 @@ public:
     /// All controls that take the focus, in the order of the Tab key.
     QList<QWidget*> inTabOrder() const;
     std::optional<qint16> selectedCategory() const;
-    /// What is entered. Text that is half typed into a picker is completed.
+    /// What is entered. Interprets half-typed text in the pickers first.
     TaskInput input() const;
 
 private:

@@ -16,7 +16,7 @@ bool isLineBreak(QChar c)
         || c == QChar::ParagraphSeparator;
 }
 
-/// A name is one line, but a single-line edit keeps the line breaks that were pasted into it.
+/// A name is one line, but QLineEdit keeps line breaks that were pasted.
 QString nameOf(const QString& text)
 {
     QString line = text;
@@ -25,7 +25,7 @@ QString nameOf(const QString& text)
     return line.trimmed();
 }
 
-/// Without the blanks around it; tabs and line breaks belong to a description's text.
+/// Without blanks around it; tabs and line breaks belong to the text.
 QString descriptionOf(const QString& text)
 {
     qsizetype begin = 0;
@@ -100,7 +100,7 @@ ClsTask TaskInput::toTask(const DatabaseEngine& engine, const std::optional<Edit
     if (hasSound) {
         task.setReminderSound(sound);
     }
-    // The long ones last: the texts of a task share one buffer, which each of them makes anew.
+    // Long texts last: the texts of a task share one buffer, which every setter makes anew.
     task.setDescription(descriptionOf(description));
     task.setTaskName(nameOf(taskName));
     if (edited) {

@@ -7,14 +7,14 @@
 #include <QCoreApplication>
 #include <optional>
 
-/// What the dialog remembers of the task that it edits.
+/// What the dialog knows of the task that is being edited.
 struct EditedTask {
     qint32 id = 0;
     bool reminderOn = false; ///< as loaded
     Moment reminder{}; ///< as loaded, with its seconds
 };
 
-/// Where the user is led after a refusal.
+/// The control that gets the focus after a refusal.
 enum class TaskField { ReminderDate, TaskName, Category, SoundBrowse, FileBrowse };
 
 struct Refusal {
@@ -22,7 +22,7 @@ struct Refusal {
     QString message;
 };
 
-/// What the user has entered into the task dialog, and what follows from it; knows no window.
+/// What the user has entered into the task dialog, and the decisions about it; knows no window.
 struct TaskInput {
     QString taskName;
     std::optional<qint16> categoryId; ///< none when no category is selected
@@ -39,17 +39,17 @@ struct TaskInput {
 
     bool operator==(const TaskInput&) const = default;
 
-    /// What is told before this input is given up; `filled` is what the user found in the dialog.
+    /// The question before this input is discarded; `filled` is what the dialog was filled with.
     QString unsavedText(const TaskInput& filled) const;
-    /// Where the user has left the reminder as it was loaded, what the alert has done to the stored one since
-    /// is taken over, in `edited` too: it is no change of the user's.
+    /// If the user has left the reminder as it was loaded, takes over what the alert has done to the stored
+    /// one since, in `edited` as well: that is no change by the user.
     void followReminder(EditedTask& edited, const ClsTask& stored);
 
-    /// The first objection to this input, if any. `edited` is none for a new task.
+    /// The first objection to this input, if any. `edited` is empty for a new task.
     std::optional<Refusal> refusal(const std::optional<EditedTask>& edited, Moment now) const;
 
-    /// The task to store, of an input without objection. `DateChanged` is set when the reminder moment of an
-    /// edited task is another one now.
+    /// The task to store; the input must have no objection. `DateChanged` is set when an edited task has
+    /// another reminder moment.
     ClsTask toTask(const DatabaseEngine& engine, const std::optional<EditedTask>& edited) const;
 
 private:

@@ -30,14 +30,14 @@
 namespace
 {
 
-/// An optional path: checked exactly when there is one.
+/// An optional path; the box is checked when there is one.
 void setPath(QCheckBox& box, QLineEdit& edit, const QString& path)
 {
     box.setChecked(!path.isEmpty());
     setWholeText(edit, path);
 }
 
-/// Selects the entry that carries `number`; without such an entry the selection stays.
+/// Selects the entry of `number`; keeps the selection when there is none.
 void selectNumberIfListed(QComboBox& combo, qint32 number)
 {
     const int selected = combo.currentIndex();
@@ -93,7 +93,7 @@ void frmTaskDetails::connectControls()
     connectGuarded(
         m_controls.btnCancel, &QPushButton::clicked, this, &frmTaskDetails::btnCancel_Click, errors);
 
-    // The form sees the keys before the control that has the focus.
+    // The form filters the keys before the focused control gets them.
     for (QWidget* control : m_controls.inTabOrder()) {
         control->installEventFilter(this);
     }
@@ -155,7 +155,7 @@ void frmTaskDetails::fillFrom(const ClsTask& task)
     m_loadedReminderOn = task.ReminderOn();
     m_controls.chkEnableReminder->setChecked(m_loadedReminderOn);
     chkEnableReminder_Click();
-    // After the click, which has copied the due moment over the reminder.
+    // After setting the check box, whose handler copies the due moment into the reminder.
     m_loadedReminder = task.reminderDateTime();
     setPickers(*m_controls.dtpReminderDate, *m_controls.dtpReminderTime, toMinute(m_loadedReminder));
     noteFilled();
@@ -176,7 +176,7 @@ void frmTaskDetails::reloadCategories()
 {
     const std::optional<qint16> before = m_controls.selectedCategory();
     clsGuiLoader(m_services.engine).reloadCategoriesComboWithoutAll(*m_controls.cmbCategories);
-    // A category that is gone was not taken away by the user.
+    // The category was deleted elsewhere: that is no change by the user.
     if (m_filled && m_filled->categoryId == before) {
         m_filled->categoryId = m_controls.selectedCategory();
     }
@@ -225,7 +225,7 @@ void frmTaskDetails::btnFileBrowse_Click()
 
 void frmTaskDetails::btnSoundBrowse_Click()
 {
-    // The checker runs on while the sound is chosen; a failure leaves the path as it was and is not reported.
+    // The checker is not paused here. A failure leaves the path as it was and is not reported.
     try {
         FileDialogRequest request;
         request.filter = tr("Wave Files (*.wav)|*.wav");
@@ -287,7 +287,7 @@ qint32 frmTaskDetails::store(TaskInput entered) const
     }
     const std::optional<ClsTask> stored = ClsTask(engine).GetTaskById(static_cast<qint16>(task->id));
     if (!stored) {
-        // An update would write nothing and lose the input unnoticed.
+        // An update would change no row, and the input would be lost unnoticed.
         throw RuntimeError(tr("The task no longer exists."));
     }
     entered.followReminder(*task, *stored);
@@ -314,7 +314,7 @@ QWidget* frmTaskDetails::controlOf(TaskField field) const
 
 bool frmTaskDetails::Form_KeyPress(const QKeyEvent& event)
 {
-    // With these the key is another character.
+    // With these modifiers it is another shortcut.
     if (event.modifiers().testAnyFlags(Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) {
         return false;
     }
@@ -336,7 +336,8 @@ bool frmTaskDetails::Form_KeyPress(const QKeyEvent& event)
 
 void frmTaskDetails::Form_Escape()
 {
-    // Pressed by mistake, or for a list that was closed already; the button is pressed on purpose.
+    // Escape is easily pressed by mistake, or meant for a list that has just closed: ask. The button is
+    // pressed on purpose.
     m_services.errors.guard([this] {
         if (letGo() && isVisible()) {
             m_controls.btnCancel->click();

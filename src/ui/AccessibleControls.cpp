@@ -19,7 +19,7 @@ QString withoutMnemonic(const QString& caption)
 {
     QString text;
     for (qsizetype i = 0; i < caption.size(); ++i) {
-        // A doubled mark stands for the letter itself.
+        // A doubled "&" stands for the letter itself.
         if (caption[i] == u'&' && ++i == caption.size()) {
             break;
         }
@@ -28,7 +28,7 @@ QString withoutMnemonic(const QString& caption)
     return text;
 }
 
-/// A button with one action besides that of taking the focus.
+/// A button with one action besides setting the focus.
 class AccessibleButton : public QAccessibleWidget
 {
 public:
@@ -124,7 +124,8 @@ public:
 protected:
     void act() override
     {
-        // The button's own call returns when the menu is closed: so long the asker would wait for an answer.
+        // Queued: QPushButton::showMenu() returns when the menu is closed, and assistive technology would
+        // wait so long.
         QMetaObject::invokeMethod(&m_button, &QPushButton::showMenu, Qt::QueuedConnection);
     }
 
@@ -132,7 +133,7 @@ private:
     QPushButton& m_button;
 };
 
-/// A window of no class that Qt knows, which would pass it off as a mere container.
+/// A plain QWidget as a window: Qt would call it a mere container.
 class AccessibleWindow final : public QAccessibleWidget
 {
 public:
@@ -178,7 +179,7 @@ private:
     LinkLabel& m_link;
 };
 
-/// Screen readers read a notification out when it is told to show.
+/// Screen readers read a notification out when it is shown.
 class AccessibleQuietLine final : public QAccessibleWidget
 {
 public:
@@ -204,13 +205,13 @@ private:
     QuietLine& m_line;
 };
 
-/// The combo box whose list `view` is; its window is the frame that opens below the box.
+/// The combo box that owns the list `view`, whose window is the frame that opens below the box.
 ComboBox* comboOf(const QAbstractItemView& view)
 {
     return qobject_cast<ComboBox*>(view.window()->parentWidget());
 }
 
-/// Asked for each class of the object, from its own up.
+/// Qt calls this for each class of the object, the most derived one first.
 QAccessibleInterface* accessibleOf(const QString& className, QObject* object)
 {
     if (auto* box = qobject_cast<CheckBox*>(object)) {

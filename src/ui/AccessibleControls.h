@@ -1,7 +1,8 @@
 #pragma once
 
-/// Lets assistive technology see and work windows and controls as what they are: pressing a link, toggling a
-/// check box and choosing an entry of a combo box count as the user's own click, a menu opens without keeping
-/// the asker waiting, and a window says that it is one. The program calls it before its first window; the
-/// controls of this folder that depend on it do so too. Once is enough.
+/// Workaround for what assistive technology cannot do with controls of Qt 6.4.2: toggling a check box sends
+/// no `clicked`, no entry of a combo box can be chosen, the action of a menu button returns when the menu
+/// is closed, and a plain window is a mere container (tst_qt_workarounds). Links are pressed and the quiet
+/// line is read out here, too. Called before the first window and by the controls in this folder that
+/// depend on it; further calls do nothing.
 void installAccessibleControls();

@@ -6,8 +6,9 @@
 class ComboBox;
 class QAbstractItemView;
 
-/// The list of a combo box for assistive technology. Each entry has an action that chooses it, whether the
-/// list is open or not; Qt's own entries have none. Owns the entries it has given out.
+/// The list of a combo box for assistive technology, whether it is open or not. Each entry has an action
+/// that chooses it; none of Qt's own does (tst_qt_workarounds, noActionOfAComboEntryChoosesIt). Owns the
+/// entries that it hands out.
 class AccessibleEntries final : public QAccessibleWidget
 {
 public:
@@ -17,7 +18,7 @@ public:
     ~AccessibleEntries() override;
 
     int childCount() const override;
-    /// The entry of a row; nullptr when there is no such row.
+    /// The entry of a row; nullptr when there is none.
     QAccessibleInterface* child(int index) const override;
     int indexOfChild(const QAccessibleInterface* child) const override;
     QAccessibleInterface* childAt(int x, int y) const override;

@@ -5,8 +5,8 @@
 class Clock;
 class QAbstractItemView;
 
-/// The calendar that opens below a date picker: framed, as it covers a page of the same colour, with a ring
-/// around the day of `clock`, which outlives it.
+/// The calendar of a date picker: framed, because the page below has the same colour, and with a ring
+/// around today by `clock`, which outlives it.
 class Calendar : public QCalendarWidget
 {
     Q_OBJECT

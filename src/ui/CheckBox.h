@@ -2,8 +2,8 @@
 
 #include <QCheckBox>
 
-/// A check box with two states that sends `clicked` whenever the user changes it, be it through assistive
-/// technology, and never when the program does.
+/// A two-state check box that sends `clicked` when the user changes it, also through assistive technology,
+/// and never when the program does.
 class CheckBox : public QCheckBox
 {
     Q_OBJECT

@@ -1,7 +1,7 @@
 #pragma once
 
-/// The switch of the reminder checker's timer, for whoever shows a file dialog: no alert is to pop up over
-/// it.
+/// The switch of the reminder checker's timer, for windows that show a file dialog: no alert is to pop up
+/// over it.
 class CheckerTimer
 {
 public:

@@ -2,6 +2,6 @@
 
 class QCloseEvent;
 
-/// Whether the user closes a window by its close box, by the menu of its frame or by the keys that do the
-/// same. False when the program closes it, and in a log-out. Interface thread only.
+/// Whether the user closes a window by its close box, its window menu or the corresponding keys. False when
+/// the program closes it and at a log-out. Interface thread only.
 bool isCloseByUser(const QCloseEvent& event);

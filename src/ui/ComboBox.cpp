@@ -26,14 +26,14 @@ bool writesLetter(const QKeyEvent& event)
 ComboBox::ComboBox(QWidget* parent) : QComboBox(parent)
 {
     installAccessibleControls();
-    // The wheel goes by on its way down the page, it gives no focus.
+    // No focus by the wheel, which passes over the box when the page is scrolled.
     setFocusPolicy(Qt::StrongFocus);
 }
 
 void ComboBox::keepEntriesWhole()
 {
     m_width = Width::OfEntries;
-    // Qt's policy of that name makes the list that opens, nine widgets, before anybody opens it.
+    // Not by QComboBox::AdjustToContents, which makes the list (nine widgets) before anybody opens it.
     setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
     const QAbstractItemModel* entries = model();
     connect(entries, &QAbstractItemModel::rowsInserted, this, &QWidget::updateGeometry);
@@ -62,7 +62,7 @@ QSize ComboBox::minimumSizeHint() const
 
 QSize ComboBox::ownSize() const
 {
-    constexpr int air = 2; // pixels above and below, as Qt reckons
+    constexpr int air = 2; // pixels above and below the text, as QComboBox adds
     constexpr int besidePicture = 4;
     const QFontMetrics metrics = fontMetrics();
     QSize size(0, metrics.height() + air);
@@ -86,11 +86,12 @@ void ComboBox::changeEvent(QEvent* event)
         m_owesListColours = true;
     }
     if (event->type() == QEvent::PaletteChange) {
-        // Qt would make a menu and style it, to colour the list as one.
+        // Qt 6.4.2 would make a menu and style it to get the colours of the list; postponed until it opens.
         update();
         return;
     }
-    // Qt would make the list that opens, to style it. Nobody can open it before it has been painted.
+    // Workaround: Qt 6.4.2 would make the list to style it (tst_qt_workarounds,
+    // aComboMakesItsListToStyleIt). Postponed until after the first painting; nobody can open it before.
     if (event->type() == QEvent::StyleChange && !m_painted) {
         m_owesStyle = true;
         update();
@@ -167,7 +168,7 @@ void ComboBox::keyPressEvent(QKeyEvent* event)
         QComboBox::keyPressEvent(event);
         return;
     }
-    // As a letter among others; Qt tells the key that opens the list by its code.
+    // As another character: QComboBox recognizes by its code the key that opens the list.
     QKeyEvent blank(QEvent::KeyPress, Qt::Key_nobreakspace, event->modifiers(), event->text());
     QComboBox::keyPressEvent(&blank);
 }

@@ -3,9 +3,9 @@
 #include <QComboBox>
 #include <optional>
 
-/// A combo box whose entries can be written in whole: a blank in the middle of a name goes on with the
-/// search, where Qt's own would open the list over it. Assistive technology can choose from its
-/// list. The wheel turns its entries only while it has the focus.
+/// A combo box in which a name with blanks can be typed: QComboBox of Qt 6.4.2 opens its list at a blank
+/// (tst_qt_workarounds, aBlankInTheMiddleOfANameOpensTheList). Assistive technology can choose from its
+/// list. The wheel changes it only while it has the focus.
 class ComboBox : public QComboBox
 {
     Q_OBJECT
@@ -13,14 +13,13 @@ class ComboBox : public QComboBox
 public:
     explicit ComboBox(QWidget* parent = nullptr);
 
-    /// Makes `row` the current entry as the user does who picks it from the list, which closes: `activated`
-    /// is sent even when it was the current one. Does nothing while the box is disabled, and without such a
-    /// row.
+    /// Selects `row` as the user would by choosing it: closes the list and sends `activated` even if the
+    /// row was current before. Does nothing while the box is disabled or without such a row.
     void choose(int row);
 
-    /// As wide as its widest entry: for words of the program, not of the user.
+    /// Makes the box as wide as its widest entry: for the program's words, not the user's.
     void keepEntriesWhole();
-    /// As wide as `letters` letters and a picture, however long the entries are.
+    /// Makes the box as wide as `letters` letters and a picture, however long the entries are.
     void keepNarrow(int letters);
 
     QSize sizeHint() const override;
@@ -46,6 +45,6 @@ private:
     bool m_owesStyle = false;
     bool m_owesListColours = false;
 
-    /// When the last letter of a name was struck, as input events tell it.
+    /// Event time of the last letter of a name that is being typed.
     std::optional<quint64> m_lastLetter;
 };

@@ -4,6 +4,6 @@
 
 class QWidget;
 
-/// The value of a control as a text: the text of an edit, the current text of a combo, "0" or "1" of a check
-/// box, the shown date or time of a picker, "False" of a button. Empty for no control and for any other kind.
+/// The value of a control as text: of an edit its text, of a combo its current text, of a check box "0" or
+/// "1", of a picker the shown date or time, of a button "False". Empty for null and for other kinds.
 QString valueOf(const QWidget* control);

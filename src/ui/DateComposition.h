@@ -4,7 +4,7 @@
 
 #include <QString>
 
-/// Month, "/", day, "/", year, a blank and the 24-hour time to the minute: month first whatever the locale.
+/// Month/day/year, a blank and the 24-hour time to the minute, month first whatever the locale.
 QString monthFirstText(QDate date, QTime time);
-/// The moment of a picker's day and another picker's time of day; seconds are dropped.
+/// The moment of one picker's day and another one's time; seconds are dropped.
 Moment composeMoment(QDate date, QTime time);

@@ -12,7 +12,7 @@ class ProgramFiles;
 class Shell;
 struct DatabaseEngine;
 
-/// What the windows ask of the rest of the program. Nothing here is owned; all of it outlives the windows.
+/// What windows need from the rest of the program. Nothing is owned; everything outlives the windows.
 struct FormServices {
     const DatabaseEngine& engine;
     const Clock& clock;
@@ -21,7 +21,8 @@ struct FormServices {
     ErrorReport& errors;
     Shell& shell;
     CheckerTimer& checkerTimer;
-    /// The pictures of categories, statuses, priorities and reminders; `LoadCategories` appends custom ones.
+    /// The pictures of categories, statuses, priorities and reminders; `LoadCategories` appends custom
+    /// ones.
     ImageList& imgLstCategories;
     /// The setting `always_on_top`.
     std::function<bool()> alwaysOnTop;

@@ -10,7 +10,7 @@
 namespace
 {
 
-/// Between the letters and the ring of the focus.
+/// Pixels between the text and the focus ring.
 constexpr int RingAir = 3;
 
 } // namespace

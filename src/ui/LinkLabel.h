@@ -2,7 +2,7 @@
 
 #include <QLabel>
 
-/// A label that is pressed like a link, by mouse or by keyboard (Space, Enter).
+/// A label that acts as a link, by mouse or keyboard (Space, Enter).
 class LinkLabel : public QLabel
 {
     Q_OBJECT
@@ -10,7 +10,7 @@ class LinkLabel : public QLabel
 public:
     explicit LinkLabel(const QString& text, QWidget* parent = nullptr);
 
-    /// Presses it, as a click of the user does.
+    /// Acts as if the user had clicked it.
     void click();
 
 signals:

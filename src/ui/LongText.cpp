@@ -12,11 +12,11 @@
 namespace
 {
 
-/// Paragraphs are shaped whole.
+/// QPlainTextEdit shapes a paragraph as a whole.
 constexpr qsizetype LongestParagraph = 20'000;
 constexpr qsizetype ShownOfParagraph = 10'000;
 constexpr qsizetype MostInAll = 1'200'000;
-/// An ellipsis that no keyboard writes, and one character: no key can leave half of it.
+/// An ellipsis that no keyboard types. One character: no key can delete half of it.
 constexpr QChar Mark(0x22EF);
 
 qsizetype shownLength(const QString& text)
@@ -32,7 +32,8 @@ qsizetype shownLength(const QString& text)
     return lengthOfPart(text, MostInAll);
 }
 
-/// What an edit does not show. A validator, as which it sees what is pasted before the edit shapes it.
+/// The part of the text that an edit does not show. A validator, because that sees pasted text before the
+/// edit shapes it.
 class Rest final : public QValidator
 {
     Q_DECLARE_TR_FUNCTIONS(Rest)
@@ -70,7 +71,7 @@ private:
     mutable QString m_rest;
 };
 
-/// No edit of the program has another validator.
+/// No other edit of the program has a validator.
 Rest* foundRest(const QWidget& edit)
 {
     return static_cast<Rest*>(edit.findChild<QValidator*>(QString(), Qt::FindDirectChildrenOnly));
@@ -92,7 +93,7 @@ QString withRest(const QWidget& edit, const QString& shown)
 
 void takeLongTexts(QLineEdit& edit)
 {
-    // It cuts at 32,767 characters unless told otherwise.
+    // QLineEdit cuts at 32,767 characters otherwise.
     edit.setMaxLength(std::numeric_limits<int>::max());
     edit.setValidator(&restOf(edit));
 }

@@ -5,16 +5,16 @@
 class QLineEdit;
 class QPlainTextEdit;
 
-// Texts without end in an edit, which would shape them whole: it shows their beginning and a mark for the
-// rest. The rest is kept and stands in the text where the mark stands, until that is deleted.
+// For texts of any length in edits, which would shape them whole: an edit shows the beginning and a mark
+// that stands for the rest. The rest is kept as part of the text until the mark is deleted.
 
-/// Lets a one-line edit take texts of any length, written or pasted.
+/// Lets a one-line edit take texts of any length, typed or pasted.
 void takeLongTexts(QLineEdit& edit);
-/// The edit shows `text`, or its beginning.
+/// Shows `text`, or its beginning and the mark.
 void setWholeText(QLineEdit& edit, const QString& text);
 void setWholeText(QPlainTextEdit& edit, const QString& text);
-/// The text with the rest that the edit does not show.
+/// The text including the part that the edit does not show.
 QString wholeText(const QLineEdit& edit);
-/// The same, lines ended by a line feed. (The edit's own plain text turns no-break spaces into ordinary
-/// ones.)
+/// The same, lines separated by line feeds. (QPlainTextEdit::toPlainText() turns no-break spaces into
+/// ordinary ones.)
 QString wholeText(const QPlainTextEdit& edit);

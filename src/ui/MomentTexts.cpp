@@ -23,7 +23,7 @@ QString shortDate(Moment moment)
 
 QString longTime(Moment moment)
 {
-    // The format's "t" stands for the time zone; quoted text of the format stays.
+    // In the format "t" stands for the time zone; quoted text stays.
     QString format;
     bool quoted = false;
     for (const QChar c : QLocale().timeFormat(QLocale::LongFormat)) {
@@ -34,7 +34,7 @@ QString longTime(Moment moment)
             format += c;
         }
     }
-    // The zone may have stood in brackets.
+    // The zone may have been in brackets.
     format.remove(QStringLiteral("()")).remove(QStringLiteral("[]"));
     return QLocale().toString(toQTime(moment), format.trimmed());
 }

@@ -4,7 +4,7 @@
 
 #include <QString>
 
-/// The format of the system's short date, its year with four digits.
+/// The system's short date format with a four-digit year.
 QString shortDateFormat();
 /// 24-hour hours:minutes.
 QString shortTimeFormat();

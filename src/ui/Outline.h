@@ -4,6 +4,5 @@ class QColor;
 class QPainter;
 class QRect;
 
-/// Draws a frame of `width` along the inside of `rect`. Every side is there on every screen: a drawn
-/// rectangle loses one at a scale that is no whole number.
+/// Draws a frame of `width` inside of `rect`. QPainter::drawRect() loses a side at fractional scales.
 void paintOutline(QPainter& painter, const QRect& rect, int width, const QColor& color);

@@ -21,7 +21,7 @@ QString choosePdfFile(const FormServices& services, QWidget* owner, const QStrin
         return file;
     }
     file += QStringLiteral(".pdf");
-    // The dialog has asked about the name without its ending.
+    // The dialog has asked about the name before the ending was added.
     const bool replaces = QFileInfo::exists(file);
     const QString question =
         QCoreApplication::translate("PdfFileChoice", "\"%1\" already exists. Do you want to replace it?")

@@ -5,7 +5,7 @@
 class QWidget;
 struct FormServices;
 
-/// Asks for the PDF file to write, `name` proposed, in the user's documents; the checker's timer rests
-/// meanwhile. A name without an ending gets ".pdf". Empty when the user has cancelled, or does not want an
-/// existing file replaced.
+/// Asks for a PDF file to write, proposing `name` in the user's documents; the checker's timer is paused
+/// meanwhile. A name without an ending gets ".pdf". Empty when the user cancels or does not want to replace
+/// an existing file.
 QString choosePdfFile(const FormServices& services, QWidget* owner, const QString& name);

@@ -10,7 +10,7 @@
 namespace
 {
 
-/// What a section can hold.
+/// The range of a section.
 struct Numbers {
     int least;
     int most;
@@ -33,7 +33,7 @@ Numbers numbersOf(QDateTimeEdit::Section section)
     }
 }
 
-/// The same number in digits that a number is reckoned from.
+/// The same number in ASCII digits.
 QString plainDigits(const QString& text)
 {
     QString digits;
@@ -68,7 +68,7 @@ PickerTyping::PickerTyping(QDateTimeEdit& picker)
 {
     picker.installEventFilter(this);
     m_edit.installEventFilter(this);
-    // The wheel goes by on its way down the page, it gives no focus.
+    // No focus by the wheel, which passes over the picker when the page is scrolled.
     picker.setFocusPolicy(Qt::StrongFocus);
 }
 
@@ -104,7 +104,7 @@ bool PickerTyping::take(const QKeyEvent& key)
         return false;
     }
     if (isName(m_picker.sectionText(m_picker.currentSection()))) {
-        // Names of months are Qt's.
+        // Qt handles names of months.
         return false;
     }
     const QChar letter = key.text().front();
@@ -123,7 +123,7 @@ void PickerTyping::takeDigit(int digit)
     const QString part = before + QString::number(digit);
     const Numbers numbers = numbersOf(m_picker.currentSection());
     if (part.toInt() > numbers.most) {
-        // The number before it was whole, like the month of "1 5".
+        // The number before was complete, like the month of "1 5".
         if (before.toInt() >= numbers.least && !isLast()) {
             finish(before.toInt());
             takeDigit(digit);
@@ -158,7 +158,7 @@ QString PickerTyping::begunPart()
     const bool isAllSelected = m_edit.selectionLength() == m_edit.text().size();
     const bool isSelected = m_edit.hasSelectedText();
     const int cursor = m_edit.cursorPosition();
-    // As it was typed: Qt fills up what cannot go on in the month that is shown.
+    // Compared with what was typed, as Qt changes a number that cannot occur in the shown month.
     const bool goesOn = !isSelected && cursor == m_cursor && m_edit.text() == m_written;
     select(isAllSelected ? 0 : m_picker.currentSectionIndex());
     if (isSelected || (!goesOn && cursor != m_edit.selectionEnd())) {
@@ -168,7 +168,7 @@ QString PickerTyping::begunPart()
     if (part.size() < numbersOf(m_picker.currentSection()).digits) {
         return part;
     }
-    // Behind a full section the next one is meant.
+    // Behind a complete section the next one is meant.
     select(m_picker.currentSectionIndex() + (isLast() ? 0 : 1));
     return {};
 }
@@ -221,7 +221,7 @@ QDate PickerTyping::dateWith(int number) const
     const QDate first(isYear ? number : shown.year(), isMonth ? number : shown.month(), 1);
     const int day = m_typedDay > 0 ? m_typedDay : shown.day();
     const QDate date(first.year(), first.month(), std::min(day, first.daysInMonth()));
-    // No year that the picker does not know.
+    // Not before the first date that the picker can show.
     return date < m_picker.minimumDate() ? shown : date;
 }
 

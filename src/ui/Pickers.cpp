@@ -13,8 +13,9 @@
 namespace
 {
 
-/// A date or time is read and typed from left to right, like its digits: in a right-to-left picker
-/// Qt turns the parts around, and who types 1047 gets ten minutes. Its place is that of the other texts.
+/// Dates and times are read and typed from left to right in every language. Workaround: right-to-left,
+/// QDateTimeEdit of Qt 6.4.2 reverses the sections, so that typing 1047 sets ten minutes
+/// (tst_qt_workarounds, aTimeIsTurnedAroundFromRightToLeft). Aligned as other texts.
 void setFormat(QDateTimeEdit& picker, const QString& format)
 {
     picker.setLayoutDirection(Qt::LeftToRight);
@@ -23,7 +24,7 @@ void setFormat(QDateTimeEdit& picker, const QString& format)
         QGuiApplication::layoutDirection() == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft);
 }
 
-/// Qt's picker has a calendar without a frame, and knows no other day than the one it shows.
+/// QDateEdit's own calendar has no frame and marks no day but the selected one.
 class CalendarMaker final : public QObject
 {
 public:
@@ -34,7 +35,7 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        // Only the mouse opens it. Not before: it is a dozen widgets.
+        // Only the mouse opens the calendar. Made then, as it is a dozen widgets.
         if (event->type() == QEvent::MouseButtonPress) {
             m_picker.removeEventFilter(this);
             m_picker.setCalendarWidget(new Calendar(m_clock));

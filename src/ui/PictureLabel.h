@@ -3,14 +3,14 @@
 #include <QIcon>
 #include <QLabel>
 
-/// Shows a picture in a size that follows the letters and the scale of the screen. No picture leaves its
-/// place empty.
+/// Shows a picture in a size that follows the font and the scale of the screen. Without a picture it stays
+/// empty.
 class PictureLabel : public QLabel
 {
     Q_OBJECT
 
 public:
-    /// `size` is that beside letters of the usual size, in pixels.
+    /// `size` is in pixels, for a font of the usual size.
     explicit PictureLabel(QSize size, QWidget* parent = nullptr);
 
     void setPicture(const QIcon& picture);

@@ -11,7 +11,7 @@
 namespace
 {
 
-/// More is not read in one line; a name in it may be of any length.
+/// Longer texts are cut: nobody reads more in one line.
 constexpr qsizetype MostCharacters = 1000;
 
 bool isModifier(const QKeyEvent& event)
@@ -30,7 +30,7 @@ bool isModifier(const QKeyEvent& event)
     }
 }
 
-/// Of a key that is a shortcut, only the question who takes it comes by.
+/// For keys that are shortcuts only the ShortcutOverride event arrives.
 bool isAction(const QEvent& event)
 {
     switch (event.type()) {
@@ -51,9 +51,9 @@ QuietLine::QuietLine(const QString& name, QWidget* parent) : QLabel(parent)
 {
     setObjectName(name);
     setTextFormat(Qt::PlainText);
-    // To click at the line is to read it: that is no press on the page.
+    // A click on the line is no click on the page, which would clear it.
     setAttribute(Qt::WA_NoMousePropagation);
-    // However much it says, it makes no page wider.
+    // A long text does not widen the page.
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     installAccessibleControls();
 }
@@ -97,7 +97,7 @@ QSize QuietLine::minimumSizeHint() const
 
 void QuietLine::fit()
 {
-    // A label would follow the script of its text, which may begin with a name.
+    // QLabel would align by the direction of its text, which may begin with a name.
     setAlignment(Qt::AlignAbsolute | Qt::AlignVCenter | (isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft));
     const QString shown = fontMetrics().elidedText(m_said, Qt::ElideMiddle, width());
     setText(shown);
@@ -132,7 +132,7 @@ void QuietLine::changeEvent(QEvent* event)
 void QuietLine::hideEvent(QHideEvent* event)
 {
     QLabel::hideEvent(event);
-    // A window that is minimized is not left.
+    // Minimizing the window does not leave the page.
     if (!event->spontaneous()) {
         hush();
     }

@@ -2,10 +2,10 @@
 
 #include <QLabel>
 
-/// The line at the foot of a page that says how an action ended, where no box is to ask for an answer. Its
-/// parent is the page. Plain text, shortened in its middle where it does not fit and whole in the tool tip;
-/// it takes no focus, keeps its room while it is empty and is announced to assistive technology. What it
-/// says is gone with the user's next key or press on the page, and when the page is left.
+/// The line at the bottom of a page that says how an action ended, where no box is needed. Its parent is
+/// the page. Plain text, elided in the middle, whole in the tool tip. It takes no focus, keeps its room
+/// while it is empty and is announced to assistive technology. It is cleared by the next key or click on
+/// the page and when the page is left.
 class QuietLine : public QLabel
 {
     Q_OBJECT
@@ -13,10 +13,10 @@ class QuietLine : public QLabel
 public:
     explicit QuietLine(const QString& name, QWidget* parent = nullptr);
 
-    /// Says `text` in the place of what was said before. Empty to say nothing.
+    /// Shows `text` instead of the present one. Empty to clear the line.
     void say(const QString& text);
     void hush() { say({}); }
-    /// What is said now, whole.
+    /// The whole text shown now.
     QString said() const { return m_said; }
 
     QSize sizeHint() const override;

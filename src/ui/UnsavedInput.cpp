@@ -7,7 +7,7 @@
 bool letGoOfInput(
     const FormServices& services, QWidget& form, const QString& text, const std::function<bool()>& save)
 {
-    // It may lie behind other windows, and hidden with the main window.
+    // The form may be behind other windows, or hidden together with the main window.
     showOwned(&form, nullptr);
     switch (services.messages.askAboutUnsaved(&form, text)) {
     case MessageBoxes::Unsaved::Save:

@@ -6,8 +6,7 @@
 
 class QComboBox;
 
-/// Fills the lists of choices. Every entry carries its number as data. The user's choice is not reported
-/// while a list is filled (the combos act on `activated`).
+/// Fills lists of choices; every entry has its number as data. Filling sends no `activated`.
 class clsGuiLoader
 {
     Q_DECLARE_TR_FUNCTIONS(clsGuiLoader)
@@ -20,16 +19,16 @@ public:
     void LoadSortByCombo(QComboBox& combo) const;
     /// "All" and the statuses; selects the first.
     void LoadStatusCombo(QComboBox& combo) const;
-    /// "All" and the stored categories; selects the entry at `index`. Throws DatabaseError, and then the list
-    /// is as it was.
+    /// "All" and the stored categories; selects the entry at `index`. Throws DatabaseError, and then the
+    /// list is as it was.
     void LoadCategoriesCombo(QComboBox& combo, int index = 0) const;
     /// The priorities; selects none.
     void LoadPeriorityCombo(QComboBox& combo) const;
 
-    /// `LoadCategoriesCombo` after a change of categories: the selected category stays selected when it still
+    /// `LoadCategoriesCombo` after a change of categories: the selected category stays selected if it still
     /// exists, otherwise "All" is.
     void reloadCategoriesCombo(QComboBox& combo) const;
-    /// The same for a list without "All"; otherwise nothing is selected.
+    /// The same for a list without "All", where otherwise nothing is selected.
     void reloadCategoriesComboWithoutAll(QComboBox& combo) const;
 
 private:
