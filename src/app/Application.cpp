@@ -18,7 +18,7 @@ bool Application::notify(QObject* receiver, QEvent* event)
 
 bool Application::event(QEvent* event)
 {
-    // Qt's own way of quitting closes the windows first, and the main window answers that by hiding.
+    // QApplication would close the windows first, and the main window answers a close by hiding.
     if (event->type() == QEvent::Quit) {
         emit endRequested();
         return true;

@@ -2,8 +2,8 @@
 
 #include <QApplication>
 
-/// The application object: the session's wish to end the program becomes a signal, and no exception of a
-/// handler reaches Qt's event loop.
+/// The application object. A request of the session to end the program becomes a signal, and no exception
+/// of a handler reaches Qt's event loop.
 class Application : public QApplication
 {
     Q_OBJECT

@@ -19,11 +19,11 @@ struct Message {
     QString text;
 };
 
-// A message handler can reach nothing but what is static.
+// Static, because a message handler can reach nothing else.
 std::function<void()> leaveProcess;
 QList<Message> gathered;
 
-/// No translator can be installed yet.
+/// Before there is an application object no translator can be installed.
 QString inTheUsersLanguage(const char* text)
 {
     QTranslator catalogue;

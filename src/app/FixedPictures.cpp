@@ -8,7 +8,7 @@
 namespace
 {
 
-// One name a picture, in the order of the list.
+// One name for each picture, in the order of the list.
 constexpr std::array pictureNames{"00-home", "01-work", "02-shopping", "03-calendar", "04-phone", "05-mail",
     "06-finance", "07-health", "08-travel", "09-study", "10-family", "11-ideas", "12-reminder",
     "13-status-waiting", "14-status-deferred", "15-status-completed", "16-status-not-started",
@@ -16,7 +16,7 @@ constexpr std::array pictureNames{"00-home", "01-work", "02-shopping", "03-calen
 
 constexpr int LogoProportion = 3;
 
-/// `sizes` are the heights; a picture is `proportion` times as wide.
+/// `sizes` are heights; a picture is `proportion` times as wide as high.
 template <std::size_t Count>
 QIcon iconOf(const QString& folder, const char* name, const std::array<int, Count>& sizes, int proportion = 1)
 {

@@ -4,14 +4,14 @@
 
 class ImageList;
 
-/// Appends the fixed pictures of the main image list in their order: twelve categories, the reminder bell,
-/// five statuses and three priorities (indexes 0 to 20).
+/// Appends the fixed pictures of the main image list: twelve categories, the reminder bell, five statuses
+/// and three priorities (indexes 0 to 20).
 void appendFixedPictures(ImageList& images);
 
 /// The program's own icon, in all sizes.
 QIcon programIcon();
 
-/// The same for the title bars: without the sizes that only the about box shows.
+/// The same for title bars, without the sizes that only the about box shows.
 QIcon programWindowIcon();
 
 /// The mark of the about box, three times as wide as high.

@@ -10,7 +10,7 @@ void HeaderFrame::contextMenuEvent(QContextMenuEvent* event)
 
 void HeaderFrame::keyPressEvent(QKeyEvent* event)
 {
-    // Qt asks for a menu by the menu key; by Shift+F10 not on every platform.
+    // Qt sends a context menu event for the menu key, but for Shift+F10 not on every platform.
     if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
         const QWidget* link = focusWidget() == nullptr ? this : focusWidget();
         emit menuRequested(link->mapToGlobal(link->rect().center()), true);

@@ -2,8 +2,8 @@
 
 #include <QWidget>
 
-/// The header of the main window. It says when its menu is asked for, and whether by keys: on one of its
-/// links the menu key or Shift+F10.
+/// The header of the main window. It reports requests for its context menu, by mouse or, on one of its
+/// links, by the menu key or Shift+F10.
 class HeaderFrame : public QWidget
 {
     Q_OBJECT
@@ -12,7 +12,7 @@ public:
     using QWidget::QWidget;
 
 signals:
-    /// `place` is on the screen.
+    /// `place` is in screen coordinates.
     void menuRequested(const QPoint& place, bool byKeys);
 
 protected:

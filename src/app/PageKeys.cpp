@@ -6,7 +6,7 @@
 void addPageKeys(QTabWidget& tabs)
 {
     const auto add = [&tabs](const QKeySequence& keys, auto&& page) {
-        // Keys of the window, not of a control: a combo box takes some of them for itself.
+        // Shortcuts of the window: a combo box would take some of these keys for itself.
         QObject::connect(new QShortcut(keys, tabs.window()), &QShortcut::activated, &tabs,
             [&tabs, page] { tabs.setCurrentIndex(page()); });
     };

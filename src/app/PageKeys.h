@@ -3,10 +3,10 @@
 class QTabWidget;
 class QWidget;
 
-/// Gives the window of `tabs` the keys that turn its pages, from whichever control has the focus: Alt with
-/// the number of a page, Ctrl+Tab and Ctrl+Page Down to the next, Ctrl+Shift+Tab and Ctrl+Page Up to the one
-/// before.
+/// Adds shortcuts to the window of `tabs` that turn its pages, whichever control has the focus: Alt and the
+/// number of a page; Ctrl+Tab and Ctrl+Page Down for the next, Ctrl+Shift+Tab and Ctrl+Page Up for the
+/// previous one.
 void addPageKeys(QTabWidget& tabs);
 
-/// Gives the focus to the first control of a page that takes it; nothing when there is none.
+/// Gives the focus to the first control of `page` that accepts it.
 void focusFirstControl(QWidget& page);

@@ -35,7 +35,7 @@ constexpr std::chrono::milliseconds LongestWaitForThePaint = 1s;
 /// The context numbers of the help file's topics.
 enum HelpContext { TasksHelp, CategoriesHelp, SettingsHelp, MaintenanceHelp, AlertHelp };
 
-/// Keeps what failed, to be told later.
+/// Collects failures, to be reported later.
 class CollectedErrors final : public ErrorReport
 {
 public:
@@ -72,21 +72,21 @@ void Program::start(const std::function<bool()>& noteFirstStart)
         writeRunEntry(m_machine.registry, m_machine.engine.programFolder);
     }
     makeMainWindow();
-    // A control that is made under a style sheet is laid out anew for every parent that it gets.
+    // Last: under a style sheet a control is laid out again for every parent that it gets.
     if (isSkinLoaded) {
         m_skins.apply();
     }
     m_main->Form_Load();
     m_helpViewer.SetHelpFile(m_files.find(QStringLiteral("Ambertask1.1.chm")));
-    // A program that starts hidden, or whose window is never activated, has to remind all the same. A window
-    // that is about to appear comes first: mapped later, it would cover the alert.
+    // Also when the program starts hidden or its window is never activated: reminders must come. If the
+    // window is about to appear, it comes first; mapped later it would cover the alert.
     QTimer::singleShot(m_main->isShown() ? LongestWaitForThePaint : 0ms, this, &Program::loadDialogs);
 }
 
 void Program::onFirstPainted()
 {
     loadDialogs();
-    // Behind the loading of the dialogs: an open box is not to hold back the checker.
+    // After the dialogs are loaded: an open box must not hold up the checker.
     m_hasBeenSeen = true;
     tellUnreadableRecords();
     tellUnreadablePictures();
@@ -115,12 +115,12 @@ void Program::makeMainWindow()
         pages.categories, &CategoriesPage::categoriesChanged, this, &Program::onCategoriesChanged, errors);
     connect(pages.categories, &CategoriesPage::pictureCame, this, &Program::onPictureCame);
     connect(pages.categories, &CategoriesPage::picturesRead, this, &Program::tellUnreadablePictures);
-    // A failed reload ends a restore silently; Program::onDataRestored lets nothing out.
+    // Not guarded: a failed reload ends a restore silently, and onDataRestored() lets no exception out.
     connect(pages.maintenance, &MaintenancePage::dataRestored, this, &Program::onDataRestored);
     connectGuarded(pages.maintenance, &MaintenancePage::tasksDeleted, this, &Program::LoadTasks, errors);
     connectGuarded(pages.tasks, &TasksPage::addRequested, this, &Program::addTask, errors);
     connectGuarded(pages.tasks, &TasksPage::editRequested, this, &Program::editTask, errors);
-    // Behind all that follows a load: the other lists are not to wait for the user's answer.
+    // Queued behind everything that follows a load: the other lists must not wait for the user's answer.
     connect(
         pages.tasks, &TasksPage::tasksLoaded, this, &Program::tellUnreadableRecords, Qt::QueuedConnection);
     connectGuarded(pages.tasks, &TasksPage::printRequested, this, &Program::printTasks, errors);
@@ -147,22 +147,22 @@ void Program::connectHelp(const MainWindowPages& pages)
 
 void Program::loadDialogs()
 {
-    // Once: a dialog that fails now is loaded by its first use.
+    // Only once: a dialog that fails now is loaded on first use.
     if (std::exchange(m_dialogsLoaded, true)) {
         return;
     }
     m_main->addTrayIcon();
-    // Now that the main window is on the screen: the pictures of a window's icon are many, and large.
+    // Not before the main window is on the screen: a window icon has many pictures, some of them large.
     QApplication::setWindowIcon(programWindowIcon());
     m_main->wakePages();
     m_main->categoriesPage()->readPictures();
-    // The alert window has to be there even when a dialog cannot be loaded, and before anybody has read why:
-    // without it nothing reminds.
+    // The alert window must exist even if a dialog cannot be loaded, and before the user has read why:
+    // without it there are no reminders.
     CollectedErrors errors;
     errors.guard([this] { taskDetails(); });
     errors.guard([this] { categoryDetails(); });
     errors.guard([this] { alerts(); });
-    // Pending messages run between the files, and may open boxes.
+    // Pending events run between the files and may open boxes.
     m_main->settingsPage()->completeSkinsList();
     for (const QString& text : errors.texts()) {
         if (!m_ending) {
@@ -209,7 +209,7 @@ frmAlerts& Program::alerts()
         connect(
             m_alerts.get(), &frmAlerts::helpRequested, this, [this] { m_helpViewer.ShowContext(AlertHelp); });
         m_alerts->setHelpEnabled(true);
-        // A notification area can go while the window is hidden in it; the ticks are there anyway.
+        // The notification area can vanish while the window is hidden in it; a tick is a moment to notice.
         connect(m_alerts.get(), &frmAlerts::checked, m_main.get(), &frmMain::stayReachable);
         m_alerts->load();
     }
@@ -222,7 +222,7 @@ void Program::showAbout()
         m_about = std::make_unique<frmAbout>(
             m_services, m_machine.registry, AboutPictures{programIcon(), logoIcon()});
         connect(m_about.get(), &frmAbout::unloadRequested, this, [this] {
-            // It is still in the handler of its own button.
+            // It is still running the handler of its own button.
             m_about.release()->deleteLater();
         });
     }
@@ -235,7 +235,7 @@ void Program::showAbout()
 void Program::addTask(qint16 category)
 {
     frmTaskDetails& dialog = taskDetails();
-    // Its question about what is not saved must not come up behind the main window either.
+    // So that the question about unsaved input does not come up behind the main window.
     if (m_settings.always_on_top) {
         makeTopmost(&dialog);
     }
@@ -320,7 +320,7 @@ void Program::placeMainWindow(bool topmost)
 {
     m_main->place(topmost);
     if (topmost) {
-        // A window that is open beside it is not to vanish behind it.
+        // Windows open beside the main window must not vanish behind it.
         for (QWidget* window :
             std::initializer_list<QWidget*>{m_about.get(), m_report == nullptr ? nullptr : m_report->window(),
                 m_helpViewer.viewerWindow(), m_alerts.get()}) {
@@ -330,8 +330,8 @@ void Program::placeMainWindow(bool topmost)
         }
         return;
     }
-    // What came up topmost would stay above the windows of other programs for good. In front of the main
-    // window all the same: a reminder is not to vanish behind it.
+    // Windows that came up topmost would stay above those of other programs for good. leaveTopmost() keeps
+    // them in front of the main window: a reminder must not vanish behind it.
     for (QWidget* window : std::initializer_list<QWidget*>{m_taskDetails.get(), m_categoryDetails.get(),
              m_about.get(), m_report == nullptr ? nullptr : m_report->window(), m_helpViewer.viewerWindow(),
              m_alerts.get()}) {

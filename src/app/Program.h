@@ -28,7 +28,7 @@ class frmCategoryDetails;
 class frmTaskDetails;
 struct TaskFilter;
 
-/// The world around the program. Nothing is owned; all of it outlives the program.
+/// What the program needs of its surroundings. Nothing is owned; everything outlives the program.
 struct Machine {
     const DatabaseEngine& engine;
     MessageBoxes& messages;
@@ -41,13 +41,13 @@ struct Machine {
     std::function<bool()> hasNotificationArea;
     HelpWindowFactory helpWindow;
     ReportWindowFactory reportWindow;
-    /// What reads pictures; without it they are read between two events.
+    /// The program that reads pictures; without one they are read between events.
     ProgramPath pictureReader = {};
-    /// Where skins, sounds and help lie that are not in the program folder; empty where none lie elsewhere.
+    /// The folder of shipped skins, sounds and help; empty where they are in the program folder.
     QString shippedFolder = {};
 };
 
-/// The program: its one instance of each form and of what they share, and how they are wired. Interface
+/// The program: the one instance of each form and of what they share, and their connections. Interface
 /// thread only.
 class Program final : public QObject,
                       private MainWindowHost,
@@ -62,18 +62,19 @@ public:
     explicit Program(const Machine& machine);
     ~Program() override;
 
-    /// Reads the settings, applies the skin and loads the main window; registers the program with the session
-    /// when `noteFirstStart`, asked once the settings are read, answers true. Throws RuntimeError.
+    /// Reads the settings, applies the skin and loads the main window. Calls `noteFirstStart` once the
+    /// settings are read; when it answers true, registers the program with the session. Throws
+    /// RuntimeError.
     void start(const std::function<bool()>& noteFirstStart);
-    /// Removes the tray icon and asks to leave the event loop; open message boxes are cancelled by that.
+    /// Removes the tray icon and leaves all event loops, which cancels open boxes.
     void end();
     /// `end()` has been called.
     bool isEnding() const { return m_ending; }
-    /// Unloads the forms in their order. After `end()` and outside of every handler.
+    /// Unloads the forms in their order. To be called after `end()`, outside of every handler.
     void unload();
 
-    /// Loads, without showing, the task dialog, the category dialog and the alert window, in this order;
-    /// nothing for those that are loaded.
+    /// Loads the task dialog, the category dialog and the alert window in this order, without showing them;
+    /// does nothing for those that are loaded.
     void loadDialogs();
 
     frmMain& mainWindow() { return *m_main; }
@@ -103,11 +104,11 @@ private:
     void onCategorySaved();
     void onCategoriesChanged();
     void onDataRestored();
-    /// Ids of the replaced data file mean other records in the new one.
+    /// After a restore: the ids that windows remember mean other records in the new data file.
     void forgetRecords();
-    /// Once somebody has seen the main window: names what has been left out of its lists since the last time.
+    /// Names the records that lists have left out since the last call, once the main window has been seen.
     void tellUnreadableRecords();
-    /// The window at which somebody waits; null when none is on the screen.
+    /// The window on which the user is waiting; null when none is on the screen.
     QWidget* waitingWindow() const;
     void reloadCategoryCombos();
     void focusCategoryList();
@@ -130,7 +131,7 @@ private:
 
     Machine m_machine;
     UnreadableRecords m_unreadable;
-    DatabaseEngine m_engine; ///< of the machine; it tells the unreadable records
+    DatabaseEngine m_engine; ///< a copy of the machine's, with the listener for unreadable records
     ProgramFiles m_files;
     ImageList m_images;
     SettingsRecord m_settings;
@@ -146,6 +147,6 @@ private:
     std::unique_ptr<drTasks> m_report;
     bool m_hasBeenSeen = false;
     bool m_dialogsLoaded = false;
-    bool m_taskDialogHasKeyboard = false; ///< as it was when its task was stored
+    bool m_taskDialogHasKeyboard = false; ///< when its task was stored
     bool m_ending = false;
 };

@@ -16,7 +16,7 @@
 #include <QApplication>
 #include <QSignalBlocker>
 
-// What one part of the program has to hear of another.
+// What parts of the program need to know of each other.
 
 void Program::onTaskStored()
 {
@@ -29,7 +29,7 @@ void Program::onTaskStored()
 void Program::onTaskSaved(qint32 id)
 {
     bringToFront(m_main.get());
-    // The keys are to go to the window that lies in front, not to an alert behind it.
+    // The window in front gets the keyboard, not an alert behind it.
     if (m_taskDialogHasKeyboard && m_main->isShown()) {
         activate(m_main.get());
     }
@@ -97,7 +97,7 @@ void Program::tellUnreadableRecords()
         return;
     }
     if (m_unreadable.hasCategory()) {
-        // Another program has spoilt it meanwhile: nobody is to choose it.
+        // Another program has damaged a category: it must not be offered any more.
         m_main->LoadCategories();
         onCategoriesChanged();
     }
@@ -125,17 +125,17 @@ void Program::onDataRestored()
     forgetRecords();
     try {
         {
-            // What it has to leave out is told after the second loading, which follows.
+            // Records that it leaves out are told after the second load, which follows.
             const QSignalBlocker hushed(m_main->tasksPage());
             m_main->LoadTasks();
         }
         m_main->LoadCategories();
         reloadCategoryCombos();
-        // The two loadings of a long list are not to be one step.
+        // Between the two loads of a long list, which would be too long as one step.
         handlePendingEvents();
         m_main->saveSettings();
     } catch (const RuntimeError&) {
-        // What fails after the file has been replaced ends the operation without a word.
+        // A failure after the file was replaced ends the restore silently.
         return;
     }
 }

@@ -24,7 +24,7 @@ RestingPage::RestingPage(QWidget* page, QList<const QWidget*> beside)
     : m_beside(std::move(beside)), m_place(new QWidget), m_page(page)
 {
     (new QVBoxLayout(m_place))->setContentsMargins({});
-    // Else Qt styles a widget as soon as events are handled, and at each change of the style.
+    // WA_SetStyle keeps Qt from styling these widgets on the next events and at every change of the style.
     forPageAndControls(*page, [](QWidget& widget) {
         QCoreApplication::removePostedEvents(&widget, QEvent::PolishRequest);
         widget.setAttribute(Qt::WA_SetStyle);
@@ -36,7 +36,7 @@ ScrollFrame& RestingPage::frame()
     if (m_frame == nullptr) {
         m_frame = new ScrollFrame(m_beside);
         m_place->layout()->addWidget(m_frame);
-        // A layout would show it with the next events only.
+        // Otherwise the layout would show it only with the next events.
         m_frame->show();
     }
     return *m_frame;

@@ -6,19 +6,19 @@
 
 class ScrollFrame;
 
-/// A page of a window that nobody has seen yet. It rests until it wakes: no style reaches it, and it is laid
-/// out nowhere.
+/// A page of a window that nobody has seen yet. It rests until `wake`: until then it is neither styled nor
+/// laid out.
 class RestingPage
 {
 public:
-    /// Owns `page` until that wakes. `beside` are the controls that take of the window's height.
+    /// Owns `page` until `wake`. `beside` are the controls that take height from the window.
     RestingPage(QWidget* page, QList<const QWidget*> beside);
 
-    /// Where the page will be seen, for the window to take.
+    /// The widget for the window's layout, into which the page is put.
     QWidget* place() const { return m_place; }
-    /// Makes the page a part of the window ahead, so that it takes its style but once when it wakes.
+    /// Makes the page a child of the window early, so that it is styled only once, by `wake`.
     void join();
-    /// Puts the page into its place. Nothing when it is there.
+    /// Puts the page in its place; does nothing if it is there.
     void wake();
 
 private:
@@ -26,8 +26,8 @@ private:
 
     QList<const QWidget*> m_beside;
     QWidget* m_place;
-    /// None before the page is to be seen.
+    /// Null until `join` or `wake`.
     ScrollFrame* m_frame = nullptr;
-    /// None once the frame holds it.
+    /// Null once the frame owns it.
     std::unique_ptr<QWidget> m_page;
 };

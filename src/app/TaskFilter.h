@@ -5,7 +5,7 @@
 
 #include <vector>
 
-/// What the filter controls of the task list say, in the codes of the task store.
+/// The state of the task list's filter controls, in the codes of the task store.
 struct TaskFilter {
     qint16 category = CategoryFilter::All;
     qint32 status = TaskStatus::All;

@@ -12,7 +12,7 @@ namespace
 
 QList<GridColumn> columnsFor(const TaskColumns& shown)
 {
-    // A key starts with the number of columns that the grid has after it was cleared.
+    // A column's key begins with the number of columns before it.
     const auto column = [](int field, const QString& word, const QString& header, int divisor) {
         return GridColumn{field, QStringLiteral("0") + word, header, divisor};
     };

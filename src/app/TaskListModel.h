@@ -24,11 +24,11 @@ public:
 
     using GridModel::GridModel;
 
-    /// How the name of a category is found, empty for an unknown one; asked when a cell is looked at.
+    /// Sets how a category's name is found, empty for an unknown one; called when a cell is looked at.
     void setCategoryNames(std::function<QString(qint16 id)> nameOf) { m_categoryName = std::move(nameOf); }
     /// Replaces all rows and columns.
     void setTasks(std::vector<ClsTask> tasks, const TaskColumns& shown);
-    /// Removes one row; the others keep their places.
+    /// Removes one row; the others keep their order.
     void removeTask(int row);
     /// The row of a task; -1 when it is not in the list.
     int rowOf(qint32 id) const;

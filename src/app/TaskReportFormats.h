@@ -3,7 +3,7 @@
 #include <QString>
 #include <functional>
 
-/// A format object: its event rewrites the value of a field before it is shown.
+/// A format object: its event changes the value of a field before it is shown.
 struct DataFormat {
     std::function<void(QString& value)> Format;
 };

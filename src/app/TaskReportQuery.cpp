@@ -5,7 +5,7 @@
 namespace
 {
 
-/// The word that joins a further condition to the query so far.
+/// The word that joins a further condition to the query.
 QLatin1String joinTo(const QString& query)
 {
     return query.contains(QLatin1String("where"), Qt::CaseInsensitive) ? QLatin1String(" and ")

@@ -92,7 +92,7 @@ TasksPage::TasksPage(const FormServices& services, std::function<TaskColumns()> 
 QWidget* TasksPage::makeFilterFrame()
 {
     auto* frame = named(new QGroupBox(tr("Show")), "framFilters");
-    // Not a form layout: it puts a caption above the middle of its control.
+    // A form layout would put a caption above the middle of its control.
     auto* layout = new QGridLayout(frame);
     const auto addRow = [&](int row, QLabel* label, QWidget* combo) {
         layout->addWidget(label, row, 0);
@@ -102,7 +102,7 @@ QWidget* TasksPage::makeFilterFrame()
     addRow(1, labelFor(m_status, tr("Stat&us"), QStringLiteral("SCLabel2")), m_status);
     addRow(2, labelFor(m_sort, tr("S&ort by"), QStringLiteral("SCLabel3")), m_sort);
     layout->setColumnStretch(1, 1);
-    // The longest category is not to widen the page; the words of the program are to be seen whole.
+    // A long category name must not widen the page; the program's own words must be seen whole.
     m_categories->keepNarrow(18);
     m_status->keepEntriesWhole();
     m_sort->keepEntriesWhole();
@@ -186,7 +186,7 @@ void TasksPage::startWith(bool todayOnly)
     }
     QRadioButton* option = todayOnly ? m_specificDate : m_allDate;
     {
-        // The handler is to run even when the option was selected already.
+        // So that the handler runs even if the option was selected before.
         const QSignalBlocker allBlocker(m_allDate);
         const QSignalBlocker specificBlocker(m_specificDate);
         option->setChecked(true);
@@ -217,7 +217,7 @@ int TasksPage::selectedCategoryIndex() const
 
 void TasksPage::LoadTasks()
 {
-    // Read before the list is cleared: a store that cannot be read is not to look like an empty one.
+    // Read before the list is cleared: a store that cannot be read must not look like an empty one.
     std::vector<ClsTask> tasks = filter().tasks(m_services.engine);
     const int row = m_grid->currentIndex().row();
     const std::optional<qint32> current = row < 0 ? std::nullopt : std::optional(m_model->idAt(row));
@@ -256,7 +256,7 @@ void TasksPage::focusList()
 
 void TasksPage::filter_Changed()
 {
-    // The wheel and assistive technology get here without a key or a click, which the line sees itself.
+    // The wheel and assistive technology get here without the key or click that clears the line.
     m_quietLine->hush();
     LoadTasks();
 }

@@ -16,50 +16,48 @@ class QPushButton;
 class QRadioButton;
 class QuietLine;
 
-/// The page "Tasks": the filters, the list and its buttons. Every filter rebuilds the list as soon as it
-/// changes.
+/// The page "Tasks": filters, list and buttons. A change of any filter rebuilds the list at once.
 class TasksPage : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// `shownColumns` answers which optional columns the settings page has checked.
+    /// `shownColumns` returns the optional columns that are checked on the settings page.
     TasksPage(
         const FormServices& services, std::function<TaskColumns()> shownColumns, QWidget* parent = nullptr);
 
     /// Fills the three filter lists and selects their first entries.
     void fillFilters();
-    /// Fills the category list anew; the selected category stays selected while it exists.
+    /// Reloads the category list; the selected category stays selected while it exists.
     void reloadCategories();
-    /// Sets both due-date pickers to today, selects the specific dates or all dates and rebuilds the list.
+    /// Sets both date pickers to today, selects specific dates or all dates, and rebuilds the list.
     void startWith(bool todayOnly);
-    /// Rebuilds the list from the filters; the current row stays on its task. Throws DatabaseError, and then
-    /// the list is as it was.
+    /// Rebuilds the list from the filters; the current row stays on its task. Throws DatabaseError, and
+    /// then the list is as it was.
     void LoadTasks();
 
     /// Makes the task's row the current one and scrolls to it. False when the list does not show the task.
     bool goToTask(qint32 id);
     void setGridLines(bool shown);
-    /// Gives the focus to the list and activates its window when that is visible, whichever page is in front.
+    /// Gives the focus to the list, and activates its window if it is visible, whichever page is in front.
     void focusGrid();
-    /// Leaves the keyboard with the window that has it.
+    /// The same without activating the window.
     void focusList();
     GridView* grid() const { return m_grid; }
-    /// Says how an action ended.
+    /// The line that says how an action ended.
     QuietLine& quietLine() const { return *m_quietLine; }
     TaskFilter filter() const;
     /// The index of the selected entry of the category filter.
     int selectedCategoryIndex() const;
 
 signals:
-    /// "Add" was pressed and there is a category to add to; `category` is the one that the list shows, or
-    /// All.
+    /// "Add" was pressed and there is a category; `category` is the one that the filter shows, or All.
     void addRequested(qint16 category);
     void editRequested(qint16 id);
     /// The list has been rebuilt.
     void tasksLoaded();
     void helpRequested();
-    /// "Print" was pressed; the report is to show what the filters select.
+    /// "Print" was pressed; the report shows what the filters select.
     void printRequested(const TaskFilter& filter);
 
 private:

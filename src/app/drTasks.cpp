@@ -24,11 +24,10 @@ using Kind = ReportControl::Kind;
 
 const QLatin1String Detail("cmdTasks_Detail");
 constexpr QSize LogoSize(288, 96);
-// What follows the marker of the language is the format of the date.
+// Behind the language code stands the format of the date.
 const QLatin1String DueDateFormat("$l$dd/MM/yyyy");
 
-/// A text without end is not to be laid out: of a name some lines are printed, of a description some thirty
-/// pages.
+/// A very long text is not printed as a whole: some lines of a name, some thirty pages of a description.
 constexpr qsizetype MostOfName = 1000;
 constexpr qsizetype MostOfDescription = 100'000;
 
@@ -42,7 +41,7 @@ constexpr std::array Bindings{Binding{"txtCatName", "cat_name"}, Binding{"txtTas
 
 ReportControl control(Kind kind, const char* name, const QString& caption = {})
 {
-    // The report is arranged from left to right: a caption of another direction would leave its place.
+    // The report is arranged from left to right; a caption of the other direction would leave its place.
     constexpr QChar LeftToRightMark(0x200E);
     return {kind, QLatin1String(name), caption.isRightToLeft() ? LeftToRightMark + caption : caption, {}};
 }
@@ -69,7 +68,7 @@ std::vector<ReportSection> makeSections()
 QString dateText(Moment moment)
 {
     static const QString format = QString(DueDateFormat).section(u'$', -1);
-    // In the digits of the list, where a language has its own.
+    // In the digits that the list uses, where a language has its own.
     return QLocale().toString(toQDate(moment), format);
 }
 
@@ -112,7 +111,7 @@ void drTasks::readReport(const TaskFilter& filter)
     RecordSet records = connection.execute(taskReportQuery(filter));
     ReportWindow& window = loadedWindow();
     bindFields();
-    // A report may stay open for long: read to its end, the record set holds no lock on the data.
+    // A report may stay open for long; read to the end, the record set holds no lock on the data file.
     ReportContent content{tr("Tasks Report"), logoIcon().pixmap(LogoSize, 1).toImage(), m_sections,
         readRecords(records, filter)};
     window.setContent(std::move(content));

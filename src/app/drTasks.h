@@ -17,7 +17,7 @@ inline constexpr char ReportModule[] = "ambertask_report";
 /// Loads the report module; nothing when there is none.
 std::unique_ptr<ReportWindow> loadReportWindow(Modules& modules, ReportHost& host);
 
-/// The report of tasks. One instance serves all print runs: a further run shows its tasks in the same window.
+/// The report of tasks. One instance for all print runs: each shows its tasks in the same window.
 class drTasks final : private ReportHost
 {
     Q_DECLARE_TR_FUNCTIONS(drTasks)
@@ -26,14 +26,14 @@ public:
     drTasks(const FormServices& services, ReportWindowFactory makeWindow);
     ~drTasks() override;
 
-    /// Runs the filter's query on a connection of its own, binds the fields to its columns and shows the
-    /// report above `owner`. Throws RuntimeError, Cancelled with it, and then the report shows what it showed
+    /// Runs the query of `filter` on a connection of its own, binds the fields to its columns and shows the
+    /// report above `owner`. Throws RuntimeError, also Cancelled, and then the report shows what it showed
     /// before.
     void printTasks(const TaskFilter& filter, QWidget* owner);
 
     /// Creates the two format objects and attaches them to their controls.
     void DataReport_Initialize();
-    /// Takes over what `DataReport_QueryClose` is to close, and closes what an earlier run has left.
+    /// Keeps what `DataReport_QueryClose` is to close, and closes what an earlier run has left.
     void forFinalizing(Connection connection, RecordSet records);
     /// Closes the connection if it is open and drops it and its record set.
     void DataReport_QueryClose();
@@ -46,7 +46,7 @@ public:
 private:
     void readReport(const TaskFilter& filter);
     void bindFields();
-    /// Reads of the record set what the list shows, to its end, in the order of the list.
+    /// Reads the record set to its end: the records that the list shows, in its order.
     std::vector<std::vector<QString>> readRecords(RecordSet& records, const TaskFilter& filter) const;
     ReportWindow& loadedWindow();
 
@@ -57,7 +57,7 @@ private:
     const FormServices& m_services;
     ReportWindowFactory m_makeWindow;
     std::vector<ReportSection> m_sections;
-    std::map<QString, DataFormat> m_formats; ///< by control
+    std::map<QString, DataFormat> m_formats; ///< by control name
     std::optional<Connection> m_connection;
     std::optional<RecordSet> m_records;
     std::unique_ptr<ReportWindow> m_window;

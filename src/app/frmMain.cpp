@@ -52,7 +52,7 @@ frmMain::frmMain(
     addPage(m_pages.categories, tr("Categories"));
     addPage(m_pages.settings, tr("Settings"));
     addPage(m_pages.maintenance, tr("Maintenance"));
-    // It is the first to be seen.
+    // It is the page that is seen first.
     m_resting[TasksIndex].join();
     m_trayMenu = makeTrayMenu();
     auto* layout = new QVBoxLayout(this);
@@ -61,7 +61,7 @@ frmMain::frmMain(
     addPageKeys(*m_tabs);
     resize(withLetters(FirstSize, font()));
     connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, &frmMain::helpRequested);
-    // Only now: adding pages switches to the first one.
+    // After the pages are added, which switches to the first one.
     connectGuarded(m_tabs, &QTabWidget::currentChanged, this, &frmMain::tabMain_Switch, services.errors);
     connectGuarded(&m_trayIcon, &TrayIcon::activated, this, &frmMain::toggle, services.errors);
 }
@@ -72,7 +72,7 @@ QWidget* frmMain::makeHeader()
     header->setObjectName(QStringLiteral("framHeader"));
     auto* layout = new QHBoxLayout(header);
     layout->setContentsMargins(0, 0, 0, 0);
-    // The product's name is read from left to right, whatever the direction of the program.
+    // The product's name reads from left to right in every language.
     auto* product = new QWidget;
     product->setLayoutDirection(Qt::LeftToRight);
     auto* name = new QHBoxLayout(product);
@@ -143,7 +143,7 @@ void frmMain::Form_Load()
     m_pages.maintenance->prepareFilters();
     m_tabs->setCurrentIndex(TasksIndex);
     m_loaded = true;
-    // Filling the list of skins lets messages run, and one of them may have ended the program.
+    // Filling the list of skins handles events, one of which may have ended the program.
     if (m_ending) {
         return;
     }
@@ -153,12 +153,12 @@ void frmMain::Form_Load()
         }
         putInPlace(this);
         show();
-        // A wish that the window manager may refuse: the user may be writing elsewhere.
+        // The window manager may refuse: the user may be typing elsewhere.
         activateWindow();
     } else {
         stayReachable();
     }
-    // Of a hidden window, too: it is to have the keys when it is shown.
+    // Also in a hidden window, for when it is shown.
     m_pages.tasks->focusList();
 }
 
@@ -168,8 +168,8 @@ void frmMain::fillPages()
     m_pages.tasks->fillFilters();
     m_pages.settings->startSkinsList();
     m_pages.settings->LoadSettingsPage();
-    // Selecting the date option builds the list; nothing runs in between that could change it before the next
-    // step of a load, which would build it again.
+    // Builds the list by selecting the date option. Nothing runs in between that could change it before the
+    // next step of loading, which would build it again.
     ApplyChanges();
 }
 
@@ -222,7 +222,7 @@ void frmMain::focusCategoryList()
 void frmMain::focusListOf(int page)
 {
     const bool isInFront = m_tabs->currentIndex() == page;
-    // A list that nobody sees would take keys meant for what is in front.
+    // A list that is not seen would take keys meant for the page in front.
     if (!isInFront && m_tabs->currentWidget()->isAncestorOf(focusWidget())) {
         activate(this);
     } else {
@@ -308,7 +308,7 @@ void frmMain::syncTrayCaption()
 
 bool frmMain::event(QEvent* event)
 {
-    // A window that becomes active before it is on the screen gets there first.
+    // A window that is activated before its first painting is reported by firstPainted().
     if (event->type() == QEvent::WindowActivate && m_painted) {
         emit activated();
     }
@@ -366,13 +366,13 @@ void frmMain::tabMain_Switch(int page)
     } else if (page == SettingsIndex) {
         m_pages.settings->LoadSettingsPage();
     }
-    // Whichever page is in front, the question is whether the task grid is visible.
+    // Whether the list is visible counts, whichever page is in front.
     if (page == TasksIndex && isVisible()) {
         m_pages.tasks->focusGrid();
     } else if (page == CategoriesIndex && isVisible()) {
         m_pages.categories->focusList();
     } else if (const QWidget* focus = focusWidget(); !m_tabs->isAncestorOf(focus)) {
-        // From the links above.
+        // The focus was on the links above.
         focusFirstControl(*m_tabs->currentWidget());
     }
 }
@@ -384,7 +384,8 @@ void frmMain::mnuFeedBack_Click()
 
 void frmMain::header_Menu(const QPoint& place, bool byKeys)
 {
-    // An icon in the notification area may take no key, so for keys the menu is always here.
+    // An icon in the notification area may be out of reach for the keyboard, so keys always open the menu
+    // here.
     if (byKeys || !m_host.hasNotificationArea()) {
         m_trayMenu->popup(place);
         m_trayMenu->setActiveAction(byKeys ? m_mnuShow : nullptr);

@@ -17,7 +17,7 @@ class SettingsPage;
 class TasksPage;
 struct SettingsRecord;
 
-/// What the main window asks of the rest of the program.
+/// What the main window needs from the rest of the program.
 class MainWindowHost
 {
 public:
@@ -33,7 +33,7 @@ public:
     virtual bool hasNotificationArea() const = 0;
 };
 
-/// The pages of the main window, made by whoever puts the program together; the main window takes ownership.
+/// The pages of the main window, made by the composition root; the main window takes ownership.
 struct MainWindowPages {
     TasksPage* tasks = nullptr;
     CategoriesPage* categories = nullptr;
@@ -41,8 +41,8 @@ struct MainWindowPages {
     MaintenancePage* maintenance = nullptr;
 };
 
-/// The main window: header, four pages, tray icon and tray menu. It lives until the program ends; its close
-/// box only hides it (where the desktop has no notification area, it minimizes).
+/// The main window: header, four pages, tray icon and tray menu. It lives until the program ends. Its close
+/// box hides it, or minimizes it where the desktop has no notification area.
 class frmMain : public QWidget
 {
     Q_OBJECT
@@ -53,41 +53,41 @@ public:
     ~frmMain() override;
 
     /// Fills the pages, applies the settings and shows the window unless it is to start hidden. Throws
-    /// DatabaseError; Cancelled when the program ends meanwhile.
+    /// DatabaseError, and Cancelled when the program ends meanwhile.
     void Form_Load();
-    /// The settings take effect on the window.
+    /// Applies the settings to the window.
     void ApplyChanges();
     void LoadTasks();
     void LoadCategories();
     void refresh() { LoadTasks(); }
-    /// Fills the category lists of the task filter and of the maintenance page anew.
+    /// Reloads the category lists of the task filter and of the maintenance page.
     void reloadCategoryCombos();
-    /// Stores what the settings page shows and lets it take effect.
+    /// Stores the content of the settings page and applies it.
     void saveSettings();
-    /// Gives the keys to the task grid, to the category list; with another page in front to that page, where
-    /// they stay with the control that has them.
+    /// Give the keyboard focus to the task list, to the category list. If another page is in front, that
+    /// page gets it, where the control that has it keeps it.
     void focusTaskGrid();
     void focusCategoryList();
 
     /// Whether the window is on the screen; minimized counts as hidden.
     bool isShown() const;
-    /// Puts the pages that nobody has seen yet into the window. Until the first painting, which does not wait
-    /// for them, they are styled by nothing and laid out nowhere.
+    /// Puts the pages that have not been seen yet into the window. The first painting does not wait for
+    /// them; until then they are neither styled nor laid out.
     void wakePages();
-    /// Puts the icon into the notification area, which takes a dozen answers of the screen's server: not
-    /// before the first painting. Nothing once the program ends.
+    /// Shows the icon in the notification area, which takes a dozen round trips to the X server: not before
+    /// the first painting. Does nothing once the program ends.
     void addTrayIcon();
-    /// Shows the window, or hides it together with the dialogs. Nothing while the task dialog is open over a
-    /// hidden window.
+    /// Shows the window, or hides it together with the dialogs. Does nothing while the task dialog is open
+    /// over a hidden window.
     void toggle();
-    /// Topmost as the setting says.
+    /// Makes the window topmost or ends that state.
     void place(bool topmost);
-    /// Only while the window loads; afterwards the caption follows the window alone.
+    /// Has an effect only while the window loads; afterwards the caption follows the window.
     void setTrayCaption(const QString& caption);
     void removeTrayIcon() { m_trayIcon.remove(); }
-    /// From now on a close request is let through.
+    /// From now on the window accepts close requests.
     void setEnding() { m_ending = true; }
-    /// A window that is hidden while the desktop has no notification area becomes a minimized one.
+    /// Minimizes a window that is hidden while the desktop has no notification area.
     void stayReachable();
 
     TasksPage* tasksPage() const { return m_pages.tasks; }
@@ -95,9 +95,9 @@ public:
     SettingsPage* settingsPage() const { return m_pages.settings; }
 
 signals:
-    /// The window, painted before, has become the active one.
+    /// The window was activated after its first painting.
     void activated();
-    /// The window has appeared on the screen for the first time.
+    /// The window was painted for the first time.
     void firstPainted();
     /// "About" was chosen.
     void aboutRequested();

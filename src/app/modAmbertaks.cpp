@@ -30,7 +30,7 @@
 namespace
 {
 
-/// The real machine around the program.
+/// The real machine on which the program runs.
 struct RealMachine {
     RealMachine(const Installation& installation, const QString& programFolder, ErrorReport& errorReport)
         : shippedFolder(installation.shippedFolder),
@@ -61,7 +61,7 @@ struct RealMachine {
     ErrorReport& errors;
 };
 
-/// Why the program folder could not be made; empty when it is there.
+/// Why the program folder could not be made; empty when it exists.
 QString prepareProgramFolder(const Installation& installation, const QString& programFolder)
 {
     try {
@@ -72,7 +72,7 @@ QString prepareProgramFolder(const Installation& installation, const QString& pr
     return {};
 }
 
-/// `hindrance` is why there can be no start; empty when nothing hinders it.
+/// `hindrance` is the reason not to start; empty for none.
 int runInstance(Application& application, const Installation& installation, const QString& programFolder,
     const QString& hindrance)
 {
@@ -98,13 +98,13 @@ int runInstance(Application& application, const Installation& installation, cons
         ScreenErrorReport::reportFailedStart(error.text());
         return 1;
     }
-    // A request to end the program may have come while it started; there was no event loop to leave yet.
+    // The program may have been asked to end during its start, when there was no event loop to leave yet.
     const int status = program.isEnding() ? 0 : QCoreApplication::exec();
     program.unload();
     return status;
 }
 
-/// Why there can be no start, in the user's language; empty when nothing hinders it.
+/// The reason not to start, in the user's language; empty for none.
 QString hindranceOf(const QString& folderFailure, const SingleInstance& guard)
 {
     if (!folderFailure.isEmpty()) {
@@ -126,7 +126,7 @@ int runAmbertask(int argc, char** argv)
     const Installation installation = runningInstallation();
     const QString programFolder = programFolderOf(installation, userDataFolder());
     const QString folderFailure = prepareProgramFolder(installation, programFolder);
-    // Before anything else exists: a second copy is to leave without a sign.
+    // Before anything else exists: a second copy must leave without a trace.
     SingleInstance guard(programFolder);
     if (guard.otherCopyRuns()) {
         return 0;
@@ -142,10 +142,10 @@ int runAmbertask(int argc, char** argv)
     installAccessibleControls();
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QGuiApplication::setDesktopFileName(QLatin1String(DesktopEntryName));
-    // Only the entry that the settings page writes starts the program with the session.
+    // Only the entry that the settings page writes starts the program with the session; no session restore.
     QObject::connect(&application, &QGuiApplication::saveStateRequest, &application,
         [](QSessionManager& session) { session.setRestartHint(QSessionManager::RestartNever); });
-    // The program ends by "Exit" alone.
+    // Only "Exit" ends the program.
     QApplication::setQuitOnLastWindowClosed(false);
     Language language;
     language.speakAsTheSystem();

@@ -1,6 +1,6 @@
 #pragma once
 
 /// The start-up routine: refuses to run twice on one program folder, reads the settings, loads the main
-/// window and runs until the program is ended. Answers the process's exit status: 0 when it ran or a copy
-/// runs already, 1 when the start failed.
+/// window and runs until the program is ended. Returns the exit status: 0 when it ran or another copy was
+/// running, 1 when the start failed.
 int runAmbertask(int argc, char** argv);

@@ -112,7 +112,7 @@ void CategoriesPage::LoadCategories()
         m_list->selectOnly(row);
     }
 
-    // Last, so that a store that refuses leaves no half a list.
+    // Last, so that a failing store leaves a complete list.
     writeIconNumbers(numbered);
 }
 
@@ -184,7 +184,8 @@ void CategoriesPage::note(const QString& key, const QString& text)
     m_noted.insert(key);
     m_notes.append(text);
     if (m_notes.size() == 1 && window()->isVisible() && !m_isReading) {
-        // After all that follows the load: the other lists are not to wait for the user's answer.
+        // Queued behind everything that follows a load: the other lists must not wait for the user's
+        // answer.
         QMetaObject::invokeMethod(this, &CategoriesPage::reportNotes, Qt::QueuedConnection);
     }
 }
@@ -245,7 +246,7 @@ void CategoriesPage::btnEditCat_Click()
 frmCategoryDetails* CategoriesPage::freeDialog()
 {
     frmCategoryDetails& dialog = m_categoryDetails();
-    // Its question about what is not saved must not come up behind the main window either.
+    // So that the question about unsaved input does not come up behind the main window.
     if (m_services.alwaysOnTop()) {
         makeTopmost(&dialog);
     }

@@ -19,49 +19,46 @@ class QPushButton;
 class QString;
 class frmCategoryDetails;
 
-/// The page "Categories": every category as an icon with its name, and the buttons to add, edit and delete
-/// one.
+/// The page "Categories": every category as an icon with its name, and buttons to add, edit and delete.
 class CategoriesPage : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// `pictureReader` answers the path of the program that reads pictures; without one they are read between
-    /// two events. `services` outlives the page. `categoryDetails` answers the program's one category dialog
-    /// and loads it first when that has not happened yet.
+    /// `pictureReader` returns the path of the program that reads pictures; without one they are read
+    /// between events. `services` outlives the page. `categoryDetails` returns the one category dialog, and
+    /// loads it if necessary.
     CategoriesPage(const FormServices& services, std::function<frmCategoryDetails&()> categoryDetails,
         const ProgramPath& pictureReader = {}, QWidget* parent = nullptr);
 
-    /// Rebuilds the list; the selected category stays selected while it exists. Appends the picture of each
-    /// category with a custom icon to the image list once more and writes its number back to the store. A
-    /// picture that is not known yet has a stand-in there until it has been read. One that is missing or
-    /// unreadable is replaced and noted (see `takeUnreadablePictures`). Throws DatabaseError: when the
-    /// categories cannot be read, the list is as it was; when a number cannot be written, the list is
-    /// complete.
+    /// Rebuilds the list; the selected category stays selected while it exists. The picture of each
+    /// category with a custom icon is appended to the image list again and its new number written to the
+    /// store. A picture that has not been read yet has a stand-in until it is; a missing or unreadable one
+    /// keeps it and is noted (see `takeUnreadablePictures`). Throws DatabaseError: when categories cannot
+    /// be read, the list is as it was; when a number cannot be written, the list is complete.
     void LoadCategories();
-    /// From now on pictures that are not known yet are read: the start has something better to do.
+    /// Starts reading pictures; not called before the first painting.
     void readPictures();
     bool isReadingPictures() const { return m_isReading; }
     /// The user has switched to the page.
     void pageOpened();
-    /// Gives the focus to the list, and activates its window when that is visible.
+    /// Gives the focus to the list, and activates its window if it is visible.
     void focusList();
     void setHelpEnabled(bool enabled);
 
-    /// The texts of what LoadCategories could not do and nobody has been told yet: pictures that are missing
-    /// or unreadable, each file once in a run, and an icon number that does not fit. Ask after the main
-    /// window has come up and the first pictures are read; then, while that is visible, the page reports them
-    /// by itself.
+    /// What LoadCategories could not do and has not been told yet: pictures that are missing or unreadable
+    /// (each file once in a run) and icon numbers that do not fit. To be called after the main window has
+    /// come up and the first pictures have been read; later the visible page reports by itself.
     QStringList takeUnreadablePictures();
 
 signals:
-    /// A category and its tasks have been deleted and the list is rebuilt: the category combos and the task
-    /// list are to follow.
+    /// A category and its tasks have been deleted and this list is rebuilt: the category combos and the
+    /// task list need a reload.
     void categoriesChanged();
     void helpRequested();
-    /// A picture has come: whoever shows it is to be painted anew.
+    /// A picture has been read: views that show it need a repaint.
     void pictureCame();
-    /// All pictures that were waited for have been read, or refused.
+    /// All pictures waited for have been read or refused.
     void picturesRead();
 
 private:
@@ -72,9 +69,9 @@ private:
     using Numbered = std::pair<ClsCategory, int>;
 
     void connectControls();
-    /// The dialog, ready to be filled and shown; null when the user keeps what is in it.
+    /// The dialog, ready to be filled and shown; null when the user keeps its input.
     frmCategoryDetails* freeDialog();
-    /// The picture of the category, to be appended to the image list.
+    /// The picture for the category, to be appended to the image list.
     QIcon customPicture(const ClsCategory& category);
     void writeIconNumbers(const std::vector<Numbered>& numbered);
     void note(const QString& key, const QString& text);
@@ -94,7 +91,7 @@ private:
     void takePicture(const QString& path, const QImage& picture);
 
     struct Awaited {
-        QString key; ///< of the picture when it was asked for
+        QString key; ///< of the picture at the time of the request
         QList<LatePicture> pictures;
     };
 

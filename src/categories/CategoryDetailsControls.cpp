@@ -87,8 +87,8 @@ void CategoryDetailsControls::setUp(const QWidget& form)
     imgCustomIcon->setAccessibleName(tr("Custom icon preview"));
     lblIconSize->setTextFormat(Qt::PlainText);
     lblIconSize->setText(tr("Prefered size 24*24 pixels"));
-    // Skins colour labels and buttons for their own background; these stand on white or light grey under
-    // every skin. Shapes and sizes stay the skin's.
+    // Skins colour labels and buttons for their own background, but these stand on white or light grey
+    // under every skin. Shapes and sizes are the skin's.
     imgCustomIcon->setStyleSheet(
         QStringLiteral("QLabel { background: transparent; border: 1px solid #b0b0b0; }"));
     lblIconSize->setStyleSheet(QStringLiteral(
@@ -130,7 +130,7 @@ void CategoryDetailsControls::layOut(QWidget& form)
     grid->addWidget(picIcons, row++, 0, 1, 2);
     grid->addWidget(opnCustomIcon, row++, 0, 1, 2);
     grid->addWidget(picCustomIcon, row, 0, 1, 2);
-    // A window of their own until they are added: so they come behind the content in the tab order.
+    // Without a parent until they are added: so they come after the content in the tab order.
     auto* bar = new QWidget;
     auto* buttons = new QHBoxLayout(bar);
     buttons->setContentsMargins({});

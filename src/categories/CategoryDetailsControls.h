@@ -14,7 +14,7 @@ class QPushButton;
 class QRadioButton;
 class QWidget;
 
-/// The controls of the category dialog and their places. They are children of `form`, which owns them.
+/// The controls of the category dialog and their layout. They are children of `form`, which owns them.
 class CategoryDetailsControls
 {
     Q_DECLARE_TR_FUNCTIONS(frmCategoryDetails)

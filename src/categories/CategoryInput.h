@@ -13,7 +13,7 @@ struct CategoryInput {
 
     bool operator==(const CategoryInput&) const = default;
 
-    /// What is told before this input is given up.
+    /// The question before this input is discarded.
     QString unsavedText() const;
 
 private:

@@ -17,7 +17,7 @@ namespace
 constexpr int IconEdge = 32;
 constexpr int LabelLines = 2;
 constexpr int LabelCharacters = 16;
-/// More than two lines can show: a name without end is not laid out.
+/// More than two lines can show; a longer name is not laid out.
 constexpr qsizetype LaidOutCharacters = 64;
 const QChar Ellipsis(0x2026);
 constexpr int Padding = 16;
@@ -30,7 +30,7 @@ bool moves(const QKeyEvent& event)
     return std::find(Keys.begin(), Keys.end(), event.key()) != Keys.end();
 }
 
-/// `text` in as many lines as a label has, none of them wider than `width`; what is left over is elided.
+/// `text` broken into as many lines as a label has, none wider than `width`; the rest is elided.
 QString wrapped(const QString& text, const QFont& font, int width)
 {
     QTextOption option;
@@ -56,7 +56,7 @@ QString wrapped(const QString& text, const QFont& font, int width)
     return lines.join(QChar::LineSeparator);
 }
 
-/// Gives every item the size of its cell, whatever the size of its picture and the length of its name.
+/// Gives all items the same size, whatever their pictures and names.
 class CellDelegate final : public QStyledItemDelegate
 {
 public:
@@ -121,7 +121,8 @@ QListWidgetItem* CategoryList::selectedItem() const
 
 void CategoryList::focusInEvent(QFocusEvent* event)
 {
-    // Qt's list makes the first item the current one, and frames it: an item on which no key acts.
+    // Workaround, as in GridView::focusInEvent(): QAbstractItemView of Qt 6.4.2 would make the first item
+    // current (tst_qt_workarounds, aListThatGetsTheFocusMakesItsFirstItemCurrent).
     // NOLINTNEXTLINE(bugprone-parent-virtual-call)
     QAbstractScrollArea::focusInEvent(event);
     setAttribute(Qt::WA_InputMethodEnabled, false);
@@ -130,13 +131,13 @@ void CategoryList::focusInEvent(QFocusEvent* event)
 
 void CategoryList::keyPressEvent(QKeyEvent* event)
 {
-    // The key of that name on the keypad is the same key.
+    // Delete on the keypad counts as the same key.
     if (event->key() == Qt::Key_Delete && (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier) {
         emit deletePressed();
     } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         emit enterPressed();
     } else if (moves(*event) && selectedItem() == nullptr && count() > 0) {
-        // The item that has the focus would be passed over, and the only one could not be reached.
+        // QListWidget would move on from the current item, and a single item could not be reached.
         selectOnly(event->key() == Qt::Key_End ? count() - 1 : std::max(0, currentRow()));
     } else {
         QListWidget::keyPressEvent(event);

@@ -2,9 +2,8 @@
 
 #include <QListWidget>
 
-/// The categories as large icons in cells of one size: long names are wrapped and then elided. One is
-/// selected or none; names cannot be edited in place and nothing can be dragged. Tool tips are shown as plain
-/// text.
+/// The categories as large icons in cells of one size: long names are wrapped, then elided. At most one is
+/// selected; names cannot be edited in place and nothing can be dragged. Tool tips are plain text.
 class CategoryList : public QListWidget
 {
     Q_OBJECT
@@ -14,9 +13,9 @@ public:
 
     /// Selects the item in `row` alone, makes it the current one and scrolls to it.
     void selectOnly(int row);
-    /// None when nothing is selected.
+    /// Null when nothing is selected.
     QListWidgetItem* selectedItem() const;
-    /// Pixels that a line of a name may be wide.
+    /// The width of a line of a name, in pixels.
     int labelWidth() const;
 
 signals:
@@ -30,7 +29,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    /// The item's tool tip, headed by its name when not all of that can be seen.
+    /// The item's tool tip, headed by its name if that cannot be seen whole.
     QString tipOf(const QListWidgetItem& item) const;
     void setCellSize();
 };

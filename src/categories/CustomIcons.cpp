@@ -13,7 +13,7 @@ namespace
 {
 
 constexpr qsizetype BytesAPixel = 4;
-/// Some hundred pictures.
+/// Enough for some hundred pictures.
 constexpr qsizetype MostBytes = qsizetype{16} * 1024 * 1024;
 
 bool isPlainFileName(const QString& name)
@@ -45,7 +45,7 @@ QIcon CustomIcons::load(const QString& name) const
         return found;
     }
     const QString path = pathOf(name);
-    // Before it is read: a change in between is found at the next call.
+    // Taken before reading: a change in between is noticed at the next call.
     const QString key = PictureCache::keyOf(path);
     return keep(path, key, PictureFile(path).load(RenditionEdge));
 }
@@ -54,7 +54,7 @@ QIcon CustomIcons::find(const QString& name) const
 {
     const QString path = pathOf(name);
     if (!QFileInfo(path).isFile()) {
-        // It says why.
+        // It throws the reason.
         PictureFile(path).load(RenditionEdge);
     }
     const Stamp stamp(path);
@@ -95,7 +95,7 @@ void CustomIcons::store(
     const QString destination = pathOf(name);
     makeFolder(m_folder);
     replaceByCopy(source, destination, PublicFile);
-    // The disk's clock is too coarse to tell what follows at once.
+    // The file time is too coarse to notice a change right after.
     m_decoded.remove(destination);
     const QString key = PictureCache::keyOf(destination);
     m_renditions.remove(key);

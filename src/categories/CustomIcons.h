@@ -8,8 +8,8 @@
 #include <QIcon>
 #include <QString>
 
-/// The folder "custom icons" with the pictures that users chose for their categories. What lies there, and
-/// the names that the data file gives, may come from anyone.
+/// The folder "custom icons" with the pictures that users chose for categories. Its files, and the names in
+/// the data file, are untrusted.
 class CustomIcons
 {
     Q_DECLARE_TR_FUNCTIONS(CustomIcons)
@@ -17,29 +17,30 @@ class CustomIcons
 public:
     explicit CustomIcons(const QString& programFolder);
 
-    /// The picture of that name, never null; decoded at the first call and when its file has changed. Throws
-    /// RuntimeError that names it when it is missing or unreadable, or when the name is no plain file name.
+    /// The picture of that name, never null; decoded at the first call and after a change of its file.
+    /// Throws RuntimeError that names it when it is missing or unreadable, or when the name is no plain
+    /// file name.
     QIcon load(const QString& name) const;
     /// The same without decoding: a null icon for a picture that has to be read first. Throws RuntimeError
     /// when it is missing or the name is no plain file name.
     QIcon find(const QString& name) const;
-    /// The picture that was read from the file at `path`, which was that of `key` before.
+    /// Keeps the picture that was read from the file at `path` when its key was `key`.
     QIcon keep(const QString& path, const QString& key, const QImage& picture) const;
-    /// Where the picture of that name lies. Throws RuntimeError when the name is no plain file name.
+    /// The path of the picture of that name. Throws RuntimeError when the name is no plain file name.
     QString pathOf(const QString& name) const;
     /// The picture in any file, never null. Throws RuntimeError that names the file.
     static QIcon loadFile(const QString& path);
-    /// Copies `source` unchanged into the folder under that name, over what has the name already. `picture`
-    /// is that of `source`, as it was when it had the key `sourceKey` (see PictureCache). Throws
+    /// Copies `source` unchanged into the folder under that name, replacing a file of that name. `picture`
+    /// is the content of `source` at the time when its key was `sourceKey` (see PictureCache). Throws
     /// RuntimeError.
     void store(
         const QString& source, const QString& name, const QIcon& picture, const QString& sourceKey) const;
-    /// Forgets the oldest renditions where there are too many.
+    /// Removes the oldest renditions when there are too many.
     void tidy() const { m_renditions.tidy(); }
 
 private:
-    /// What tells a file from what it was: a file that is copied or unpacked over it can bring its own age,
-    /// but not the moment at which that was done.
+    /// Tells whether a file has changed. Includes the time of the status change: a file that is copied or
+    /// unpacked over another one may bring its own modification time.
     struct Stamp {
         explicit Stamp(const QString& path);
         bool operator==(const Stamp& other) const = default;
@@ -57,6 +58,6 @@ private:
 
     QString m_folder;
     PictureCache m_renditions;
-    /// By path; the cost is the bytes of the pixels.
+    /// By path; the cost is the size of the pixels in bytes.
     mutable QCache<QString, Decoded> m_decoded;
 };

@@ -13,7 +13,7 @@ constexpr int PictureEdge = 32;
 constexpr int Margin = 5;
 constexpr int BorderWidth = 1;
 constexpr int FocusWidth = 2;
-/// Stands out from the panel's white under every skin.
+/// Visible on the white panel under every skin.
 const QColor FocusInk(0x0B, 0x5F, 0xC4);
 
 } // namespace
@@ -66,7 +66,7 @@ void IconBox::mouseReleaseEvent(QMouseEvent* event)
 
 void IconBox::paintEvent(QPaintEvent* /*event*/)
 {
-    // By hand, in the panel's colours: a skin's radio button has no place here.
+    // Painted by hand in the panel's colours: a skin's radio button does not fit here.
     QPainter painter(this);
     const QRect picture = rect().adjusted(Margin, Margin, -Margin, -Margin);
     icon().paint(&painter, picture, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);

@@ -2,9 +2,8 @@
 
 #include <QRadioButton>
 
-/// A picture of which one in a group is selected: the selected one has a single-line border. Pressing any
-/// mouse button on it selects; within an exclusive button group the arrow keys go from one to the next and
-/// select it.
+/// A picture that can be selected; the selected one has a single-line border. Any mouse button selects it;
+/// in an exclusive button group the arrow keys move the selection.
 class IconBox : public QRadioButton
 {
     Q_OBJECT

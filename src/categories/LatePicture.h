@@ -3,8 +3,8 @@
 #include <QIcon>
 #include <memory>
 
-/// A picture that may still be on its way: its icon, and every copy of that, shows the stand-in until the
-/// picture is there. Whoever shows the icon is to be painted anew then.
+/// A picture that may not have been read yet: its icon and all copies of that show a stand-in until it has.
+/// Views that show the icon need a repaint then.
 class LatePicture
 {
 public:

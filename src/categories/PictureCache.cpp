@@ -30,8 +30,8 @@ QString PictureCache::usersFolder()
 QString PictureCache::keyOf(const QString& path)
 {
     const QFileInfo file(path);
-    // A file that is copied or unpacked over another can bring its own age, but not the moment at which that
-    // was done.
+    // With the time of the status change: a file that is copied or unpacked over another one may bring its
+    // own modification time.
     const QString picture = QStringLiteral("%1\n%2\n%3\n%4")
                                 .arg(file.absoluteFilePath())
                                 .arg(file.size())
@@ -49,7 +49,7 @@ QString PictureCache::fileOf(const QString& key) const
 QImage PictureCache::load(const QString& key) const
 {
     QFile file(fileOf(key));
-    // A pipe would keep the program waiting.
+    // A pipe would block.
     if (!QFileInfo(file).isFile() || file.size() > LargestPackedPicture || !file.open(QIODevice::ReadOnly)) {
         return {};
     }
@@ -63,7 +63,7 @@ void PictureCache::store(const QString& key, const QImage& picture) const
     } catch (const FileError&) {
         return;
     }
-    // Not flushed to the disk: one that was cut off by a power cut is seen to be damaged.
+    // Not flushed: a file that a power cut has truncated is recognized as damaged.
     QFile file(fileOf(key));
     file.remove();
     if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly, PrivateFile)) {

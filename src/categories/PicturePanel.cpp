@@ -43,15 +43,14 @@ void PicturePanel::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::StyleChange) {
-        // Another skin has put on the colours of its style sheet, or those that were there before the last
-        // one.
+        // The style sheet of another skin may have changed the palette, or taken its own colours back.
         takeColours();
     }
 }
 
 void PicturePanel::paintEvent(QPaintEvent* /*event*/)
 {
-    // A skin's style sheet may replace the palette, so the colours do not come from there.
+    // Not from the palette, which a skin's style sheet may replace.
     QPainter painter(this);
     painter.fillRect(rect(), m_background);
     paintOutline(painter, rect(), EdgeWidth, Edge);

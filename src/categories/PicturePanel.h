@@ -2,8 +2,8 @@
 
 #include <QWidget>
 
-/// A panel that is white while it can be used and light grey otherwise, under every skin; what stands on it
-/// takes its dark text colour from the panel's palette.
+/// A panel that is white when enabled and light grey otherwise, under every skin; its palette gives what
+/// stands on it a dark text colour.
 class PicturePanel : public QWidget
 {
     Q_OBJECT
@@ -11,7 +11,7 @@ class PicturePanel : public QWidget
 public:
     explicit PicturePanel(QWidget* parent = nullptr);
 
-    /// Enables or disables the panel with all that is on it.
+    /// Enables or disables the panel and everything on it.
     void setUsable(bool usable);
 
 protected:

@@ -86,7 +86,7 @@ void PictureReader::lose()
         return;
     }
     if (m_isGreeted) {
-        // The picture has ended its reader; it is not to end the program.
+        // The picture has crashed its reader; do not read it in this process.
         take({}, PictureFile::refusal(m_paths.constFirst()));
     } else {
         m_hasProcess = false;

@@ -7,27 +7,27 @@
 
 inline constexpr char PictureProgram[] = "ambertask_pictures";
 
-/// Reads picture files one after the other without holding up the interface: in a process of its own, which
-/// runs while there is something to read, and where that cannot be, one picture at a time between two events.
+/// Reads picture files one after the other without blocking the interface: in a separate process that runs
+/// while there is something to read, or, where that is not possible, one picture at a time between events.
 /// Interface thread only.
 class PictureReader final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// `program` answers the path of the reading executable; empty for none.
+    /// `program` returns the path of the reader program; empty for none.
     explicit PictureReader(const ProgramPath& program, QObject* parent = nullptr);
 
-    /// Nothing is read before.
+    /// Nothing is read before this call.
     void begin();
     void request(const QString& path);
 
 signals:
-    /// Made to fit the square of a rendition.
+    /// `picture` fits the square of a rendition.
     void read(const QString& path, const QImage& picture);
     /// `why` is a sentence that names the file.
     void refused(const QString& path, const QString& why);
-    /// Nothing more is to be read. Sent after `begin` in any case.
+    /// There is nothing left to read. Also sent after `begin` when there was nothing.
     void finished();
 
 private:
@@ -38,10 +38,10 @@ private:
     void lose();
 
     bool m_hasProcess;
-    bool m_isGreeted = false; ///< the process works
+    bool m_isGreeted = false; ///< the process has answered
     HelperProcess m_process;
     bool m_hasBegun = false;
-    bool m_isAsked = false; ///< the first of the paths
+    bool m_isAsked = false; ///< the first of the paths has been sent
     QStringList m_paths;
     QByteArray m_answer;
 };

@@ -1,7 +1,7 @@
-// A process of its own, beside the program, that reads pictures from anywhere and answers small renditions.
-// It greets by an empty answer, reads names of files, each followed by a zero byte, and answers each by the
-// length of what follows (four bytes, the lowest first) and that: a packed picture, or a sentence that says
-// why there is none. It ends with its input.
+// A process beside the program that reads untrusted pictures and returns small renditions. It greets with
+// an empty answer, then reads file names, each followed by a zero byte. Each answer is a length (four
+// bytes, lowest first) and so many bytes: a packed picture, or a sentence that says why there is none. It
+// ends with its input.
 
 #include "platform/Language.h"
 #include "platform/PackedPicture.h"

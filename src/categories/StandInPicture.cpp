@@ -8,7 +8,7 @@ QIcon standInPicture()
     constexpr int edge = 96;
     constexpr int margin = 9;
     constexpr int penWidth = 6;
-    const QColor mark(0x80, 0x80, 0x80); // seen on white and on black
+    const QColor mark(0x80, 0x80, 0x80); // visible on white and on black
 
     QPixmap pixmap(edge, edge);
     pixmap.fill(Qt::transparent);

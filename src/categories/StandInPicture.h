@@ -2,5 +2,5 @@
 
 #include <QIcon>
 
-/// Takes the place of a category's picture that is missing or unreadable.
+/// Shown for a category whose picture is missing or unreadable.
 QIcon standInPicture();

@@ -24,9 +24,9 @@
 namespace
 {
 
-/// In the place of a source path: the stored picture stays.
+/// Instead of a source path: the stored picture stays.
 const QLatin1String KeepStoredPicture("-1");
-/// Property of the preview that holds the name of the stored picture.
+/// Property of the preview: the name of the stored picture.
 constexpr const char* PictureTag = "tag";
 
 } // namespace
@@ -38,7 +38,8 @@ frmCategoryDetails::frmCategoryDetails(const FormServices& services, std::functi
     setObjectName(QStringLiteral("frmCategoryDetails"));
     setWindowTitle(tr("Category Details"));
     if (!m_draw) {
-        // The system's generator, not one seeded from a clock: two names drawn within a second are to differ.
+        // The system's generator instead of one seeded with the time: two names drawn within a second must
+        // differ.
         m_draw = [] {
             return QRandomGenerator::global()->generateDouble();
         };
@@ -129,7 +130,7 @@ void frmCategoryDetails::fillFrom(const ClsCategory& category)
 void frmCategoryDetails::SelectIcon(int Id)
 {
     const bool exists = Id >= 0 && Id < CategoryDetailsControls::IconCount;
-    // The others lose their border with that: one of the group is checked.
+    // The group is exclusive, so the other boxes lose their border.
     m_controls.imgIcon.at(exists ? static_cast<std::size_t>(Id) : 0)->setChecked(true);
 }
 
@@ -183,7 +184,7 @@ void frmCategoryDetails::btnBrowse_Click()
         const CheckerPause pause(m_services.checkerTimer);
         path = m_services.fileDialogs.open(this, request);
     }
-    // Loaded first: a file that is no picture changes neither the path nor the preview.
+    // Loaded first: a file that is no picture must change neither path nor preview.
     const QString key = PictureCache::keyOf(path);
     QIcon picture;
     try {
@@ -277,7 +278,7 @@ QString frmCategoryDetails::storeCustomPicture() const
 
 void frmCategoryDetails::requireEditedCategory() const
 {
-    // An update of a category that is gone writes nothing and would lose the input unnoticed.
+    // Updating a category that is gone would change no row, and the input would be lost unnoticed.
     const qint16 id = narrowId(m_tag.toLongLong(), QT_TRANSLATE_NOOP("OverflowError", "category id"));
     if (!ClsCategory(m_services.engine).GetCatById(id)) {
         throw RuntimeError(tr("The category no longer exists."));
@@ -298,7 +299,7 @@ void frmCategoryDetails::leave()
 
 void frmCategoryDetails::Form_Escape()
 {
-    // Pressed by mistake; the button is pressed on purpose.
+    // Escape is easily pressed by mistake: ask. The button is pressed on purpose.
     m_services.errors.guard([this] {
         if (letGo() && isVisible()) {
             m_controls.btnCancel->click();
@@ -308,7 +309,7 @@ void frmCategoryDetails::Form_Escape()
 
 void frmCategoryDetails::keyPressEvent(QKeyEvent* event)
 {
-    // With these the key is another one.
+    // With these modifiers it is another shortcut.
     const bool modified =
         event->modifiers().testAnyFlags(Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
     if (event->key() == Qt::Key_Escape && !modified) {

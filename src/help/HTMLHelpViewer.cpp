@@ -44,7 +44,7 @@ template <typename Operation> void HTMLHelpViewer::show(Operation operation)
     } else {
         leaveTopmost(m_window.get());
     }
-    // The desktop owns it: it may go behind the main window, and stays when that is hidden.
+    // Without an owner: it may go behind the main window, and stays when that is hidden.
     showOwned(m_window.get(), nullptr);
 }
 

@@ -6,7 +6,7 @@
 
 struct FormServices;
 
-/// Opens the program's help file in the one help window. What the window cannot show it says itself; the
+/// Opens the program's help file in the one help window. What cannot be shown the window says itself; the
 /// program goes on. Interface thread only.
 class HTMLHelpViewer final : private HelpHost
 {
@@ -17,10 +17,10 @@ public:
     ~HTMLHelpViewer() override;
 
     /// Full path of the help file.
-    const QString& HelpFile() const { return m_helpFile; } // Part of the interface; without a caller.
+    const QString& HelpFile() const { return m_helpFile; } // Without a caller: part of the interface.
     void SetHelpFile(const QString& file) { m_helpFile = file; }
 
-    void Show(); // Show, ShowIndex, ShowSearch: part of the interface; the program itself has no caller.
+    void Show(); // Show, ShowIndex, ShowSearch: without a caller in the program, part of the interface.
     void ShowContents();
     void ShowIndex();
     void ShowSearch();
@@ -28,8 +28,8 @@ public:
     /// Closes the viewer's window; nothing when none is open.
     void Unload();
 
-    /// The window that the last show operation answered with, also when the user has closed it since; null
-    /// when there is none.
+    /// The window that the last show operation returned, even if the user has closed it since; null when
+    /// there is none.
     HelpWindow* viewerWindow() const { return m_window.get(); }
 
 private:

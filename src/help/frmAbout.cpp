@@ -49,7 +49,7 @@ QLabel* picture(const char* name, const QIcon& icon, QSize size)
     auto* made = new PictureLabel(size);
     made->setObjectName(QLatin1String(name));
     made->setPicture(icon);
-    // The product's name stands beside it.
+    // The product's name is read from the label beside it.
     made->setAccessibleName(QStringLiteral("Ambertask"));
     return made;
 }
@@ -62,14 +62,14 @@ QLabel* paragraph(const char* name, const QString& text)
     return made;
 }
 
-/// What a query of that size keeps: the terminating zero is no part of the value.
+/// The bytes that a query keeps; the terminating zero is not part of the value.
 QByteArray keptBytes(const QByteArray& data)
 {
     return data.endsWith('\0') ? data.chopped(1) : data;
 }
 
-/// The decimal number of a double word. Its bytes are joined from the last to the first, each in hexadecimal
-/// without leading zeros, so 01 02 and 12 yield the same. Empty when that is no number.
+/// The decimal value of a double word. Its bytes are joined from last to first, each in hexadecimal without
+/// a leading zero, so that 01 02 and 12 give the same. Empty when the result is no number.
 QString decimalText(const QByteArray& bytes)
 {
     QString hexadecimal;
@@ -95,7 +95,7 @@ frmAbout::frmAbout(const FormServices& services, Registry& registry, const About
 
 void frmAbout::layOut(const AboutPictures& pictures)
 {
-    // One word in two labels, read from left to right whatever the direction of the program.
+    // One word in two labels, which read from left to right in every language.
     auto* product = new QWidget;
     product->setLayoutDirection(Qt::LeftToRight);
     auto* name = new QHBoxLayout(product);
@@ -124,7 +124,7 @@ void frmAbout::layOut(const AboutPictures& pictures)
 
     auto* ok = new QPushButton(tr("&OK"));
     ok->setObjectName(QStringLiteral("cmdOK"));
-    // Enter presses it as Space does while it has the focus.
+    // Enter presses the button as Space does while it has the focus.
     ok->setAutoDefault(true);
     connectGuarded(ok, &QPushButton::clicked, this, &frmAbout::cmdOK_Click, m_services.errors);
 
@@ -197,7 +197,7 @@ bool frmAbout::GetKeyValue(
         KeyVal = QString::fromLocal8Bit(kept);
     } else if (value->type == RegistryValues::DoubleWord) {
         const QString number = decimalText(kept);
-        // Bytes that are no number were read all the same.
+        // The value was read even if its bytes are no number.
         KeyVal = number.isEmpty() ? KeyVal : number;
     }
     return true;

@@ -12,8 +12,8 @@ struct AboutPictures {
     QIcon logo; ///< `Picture2`, three times as wide as high
 };
 
-/// The about box: product, version, what the program is, and the look-up that starts the platform's System
-/// Information tool. Whoever loads it destroys it when it asks to be unloaded.
+/// The about box: product, version, description, and the look-up that starts the system's information tool.
+/// Whoever loads it destroys it when it asks to be unloaded.
 class frmAbout : public QWidget
 {
     Q_OBJECT
@@ -22,12 +22,12 @@ public:
     /// `services` and `registry` outlive the form.
     frmAbout(const FormServices& services, Registry& registry, const AboutPictures& pictures);
 
-    /// Starts the System Information tool, or says that it is not there. Part of the form's interface; the
-    /// program itself has no caller.
+    /// Starts the system information tool, or says that it is not available. Without a caller in the
+    /// program: part of the form's interface.
     void StartSysInfo();
-    /// Reads the value `SubKeyRef` of the key `KeyName` under the root key `KeyRoot`. True when it was read:
-    /// `KeyVal` receives a text as it is and a double word as a decimal number; of any other type it is left
-    /// as it was.
+    /// Reads the value `SubKeyRef` of the key `KeyName` under the root key `KeyRoot`. True when it was
+    /// read: `KeyVal` is then the text, or the decimal number of a double word; for other types it stays as
+    /// it was.
     bool GetKeyValue(
         quint32 KeyRoot, const QString& KeyName, const QString& SubKeyRef, QString& KeyVal) const;
 

@@ -25,11 +25,11 @@
 namespace
 {
 
-// In lines of text, so that it follows the letters.
+// In characters and lines, so that the size follows the font.
 constexpr QSize FirstSize(58, 58);
 constexpr std::array PaperSizes{
     QPageSize::A3, QPageSize::A4, QPageSize::A5, QPageSize::Letter, QPageSize::Legal};
-// The first two entries of the zoom list fit the page; those after them are percentages.
+// The first two entries of the zoom list fit the page; the others are percentages.
 constexpr int FitPage = 0;
 constexpr int FitWidth = 1;
 constexpr std::array ZoomPercentages{25, 50, 75, 100, 125, 150, 200, 300, 400};
@@ -48,7 +48,7 @@ QLabel* labelFor(QWidget* buddy, const QString& text)
     return label;
 }
 
-/// As the number of the page writes its own.
+/// In the digits that the spin box uses for the page number.
 QString inDigits(int number)
 {
     QLocale locale;
@@ -206,7 +206,7 @@ std::shared_ptr<const ReportLayout> PreviewWindow::layOut(
     const std::shared_ptr<const ReportContent>& content, QSizeF area)
 {
     std::shared_ptr<const ReportLayout> laid;
-    // At the first report this window is not on the screen yet.
+    // At the first report this window is not shown yet.
     QWidget* owner = isVisible() ? this : QApplication::activeWindow();
     ScreenProgress(owner, tr("Preparing the report..."), m_patience).run([&](Progress& progress) {
         laid = std::make_shared<const ReportLayout>(content, area, layoutDirection(), &progress);
@@ -238,7 +238,7 @@ void PreviewWindow::showPage()
     m_last->setEnabled(m_page + 1 < count);
     m_preview->updatePreview();
     if (auto* view = m_preview->findChild<QGraphicsView*>()) {
-        // The part of the preview that takes the focus.
+        // The part of the preview that gets the focus.
         view->setAccessibleName(place);
         view->verticalScrollBar()->setValue(view->verticalScrollBar()->minimum());
     }
@@ -264,7 +264,7 @@ void PreviewWindow::pageFormat_Click()
     QPageLayout page = m_printer.pageLayout();
     page.setPageSize(QPageSize(static_cast<QPageSize::PageSizeId>(m_paper->currentData().toInt())));
     page.setOrientation(static_cast<QPageLayout::Orientation>(m_orientation->currentData().toInt()));
-    // What stood at the top of the page in view stays in view.
+    // The record at the top of the view stays in view.
     const std::size_t record = m_layout->firstRecord(m_page);
     try {
         m_layout = layOut(printableArea(page));
@@ -334,7 +334,7 @@ void PreviewWindow::btnPrint_Click()
     try {
         tellHowItEnded(printThroughDialog(*this, request));
     } catch (const Cancelled&) {
-        // While the pages were laid out for another paper.
+        // Another paper was chosen while the pages were laid out.
     }
 }
 
@@ -349,7 +349,7 @@ void PreviewWindow::btnExport_Click()
 
 void PreviewWindow::exportTo(const QString& file)
 {
-    // Stays while it is written, whatever the window shows by then.
+    // Keeps the pages while they are written, even if the window shows others by then.
     const std::shared_ptr<const ReportLayout> pages = m_layout;
     tellHowItEnded(writePdfFrom(*this, {file, windowTitle(), m_printer.pageLayout()}, *pages));
 }

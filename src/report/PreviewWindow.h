@@ -17,14 +17,15 @@ class QSpinBox;
 class QuietLine;
 struct PrintResult;
 
-/// The preview of a report, one page at a time: only the page in view is painted, however long the report is.
+/// The preview of a report, one page at a time: only the visible page is painted, however long the report
+/// is.
 class PreviewWindow final : public QWidget, public ReportWindow
 {
     Q_OBJECT
 
 public:
-    /// `hasPrinter` answers whether there is a printer to print on; it is asked whenever the window appears.
-    /// A layout that takes longer than `patience` shows how far it is and can be cancelled.
+    /// `hasPrinter` returns whether there is a printer; it is called whenever the window appears. A layout
+    /// that takes longer than `patience` shows how far it is and can be cancelled.
     PreviewWindow(ReportHost& host, std::function<bool()> hasPrinter,
         std::chrono::milliseconds patience = ScreenProgress::Patience);
 
@@ -36,8 +37,8 @@ public:
     int page() const { return m_page; }
     void goToPage(int page);
     QPageLayout pageLayout() const { return m_printer.pageLayout(); }
-    /// Exports the report as it is in view and returns when that is done or cancelled; how it ended is told
-    /// to the user. Another report may be set meanwhile.
+    /// Exports the report that is shown. Returns when that is done or cancelled; how it ended is told to
+    /// the user. Another report may be set meanwhile.
     void exportTo(const QString& file);
 
 protected:
@@ -59,7 +60,7 @@ private:
         const std::shared_ptr<const ReportContent>& content, QSizeF area);
     void showPage();
     void showPageFormat();
-    /// A window that has not been shown yet gets the room for its controls in two rows.
+    /// Gives a window that has not been shown yet the width for its controls in two rows.
     void widenForRows();
     void showZoom();
     void tellHowItEnded(const PrintResult& result);
@@ -68,7 +69,7 @@ private:
     std::function<bool()> m_hasPrinter;
     std::chrono::milliseconds m_patience;
     std::shared_ptr<const ReportContent> m_content;
-    QPrinter m_printer; ///< for the preview alone: it writes no file and needs no printer
+    QPrinter m_printer; ///< for page sizes only: it writes no file and needs no real printer
     std::shared_ptr<const ReportLayout> m_layout;
     int m_page = 0;
     QPrintPreviewWidget* m_preview;

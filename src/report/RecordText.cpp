@@ -14,10 +14,10 @@ namespace
 {
 
 constexpr qreal PointsPerInch = 72;
-// Pairs of letters may stand farther apart than their own widths say.
+// Kerning may place pairs of letters farther apart than their own widths say.
 constexpr qreal KerningReserve = 1.03;
 constexpr int TabBlanks = 8;
-// Latin, Greek and Cyrillic letters end here.
+// The end of Latin, Greek and Cyrillic letters.
 constexpr std::size_t EndOfSimple = 0x530;
 constexpr qreal NotMeasured = -1;
 constexpr std::size_t MostKept = 64;
@@ -36,7 +36,7 @@ bool isParagraphEnd(QChar c)
     return c == u'\n' || c == u'\r' || c == QChar::LineSeparator || c == QChar::ParagraphSeparator;
 }
 
-/// The paragraphs of a text; what is no character to look at becomes a blank.
+/// The paragraphs of a text; control characters become blanks.
 std::vector<QString> paragraphsOf(const QString& text)
 {
     const auto isUsual = [](QChar c) {
@@ -69,8 +69,8 @@ bool runsBothWays(const QString& text)
         [](QChar c) { return c.direction() == QChar::DirR || c.direction() == QChar::DirAL; });
 }
 
-// A picture keeps texts, not glyphs, and breaks the blanks between runs of different directions when it is
-// played.
+// Outlines instead of text: QPicture records texts, not glyphs, and misplaces the blanks between runs of
+// different directions when it is replayed.
 void paintOutlines(QPainter& painter, const QTextLine& line, QPointF position)
 {
     painter.save();
@@ -130,7 +130,8 @@ BrokenText::BrokenText(const QString& text, const TextStyle& style, qreal width,
         if (!breakSimple(number, width)) {
             layOut(number, width);
         } else if (use == Use::Often && m_lines.size() == line + 1) {
-            // The same line; only one of several could be broken elsewhere.
+            // Laid out instead; the line is the same, as only paragraphs of several lines could break
+            // elsewhere.
             m_lines.pop_back();
             layOut(number, width);
             m_lines.back().height = style.lineHeight();
@@ -138,7 +139,7 @@ BrokenText::BrokenText(const QString& text, const TextStyle& style, qreal width,
     }
 }
 
-/// Breaks at blanks, and inside a word only when it is longer than a line. False when the paragraph is not
+/// Breaks at blanks, and within a word only when it is longer than a line. False when the paragraph is not
 /// simple.
 bool BrokenText::breakSimple(std::size_t paragraph, qreal width)
 {
@@ -148,9 +149,9 @@ bool BrokenText::breakSimple(std::size_t paragraph, qreal width)
         m_lines.push_back({paragraph, begin, end - begin, m_style->lineHeight(), 0});
     };
     qsizetype begin = 0;
-    qsizetype wordBegin = 0; ///< of the word that is being read
-    qreal lineWidth = 0; ///< from the begin of the line
-    qreal wordWidth = 0; ///< from the begin of the word
+    qsizetype wordBegin = 0; ///< start of the word that is being read
+    qreal lineWidth = 0; ///< from the start of the line
+    qreal wordWidth = 0; ///< from the start of the word
     for (qsizetype i = 0; i < text.size(); ++i) {
         const qreal advance = m_style->simpleAdvance(text[i]);
         if (advance <= 0) {
@@ -158,7 +159,7 @@ bool BrokenText::breakSimple(std::size_t paragraph, qreal width)
             return false;
         }
         if (text[i] == u' ') {
-            // Blanks may stand beyond the end of a line.
+            // Blanks may extend beyond the end of a line.
             lineWidth += advance;
             wordWidth = 0;
             wordBegin = i + 1;
@@ -189,14 +190,14 @@ void BrokenText::layOut(std::size_t paragraph, qreal width)
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     option.setTabStopDistance(TabBlanks * m_style->widthOf(QStringLiteral(" ")));
     layout->setTextOption(option);
-    // Painting would shape the text once more.
+    // Otherwise painting would shape the text again.
     layout->setCacheEnabled(true);
     layout->beginLayout();
     qsizetype number = 0;
     for (QTextLine line = layout->createLine(); line.isValid(); line = layout->createLine()) {
         line.setLineWidth(width);
         line.setPosition(QPointF(0, 0));
-        // A line of another font may be higher; its letters stand on the same base all the same.
+        // A line of a fallback font may be taller; its base line stays that of the style.
         const qreal top = std::max(0.0, m_style->ascent() - line.ascent());
         const qreal height = std::max(m_style->lineHeight(), top + line.height());
         m_lines.push_back({paragraph, number++, 0, height, top});

@@ -13,7 +13,7 @@
 
 class QPainter;
 
-/// How a text is written: font, colour and line height, with what is needed to break a simple text cheaply.
+/// How a text is written: font, colour and line height, and widths for breaking simple texts quickly.
 class TextStyle
 {
 public:
@@ -21,13 +21,13 @@ public:
 
     const QFont& font() const { return m_font; }
     QColor colour() const { return m_colour; }
-    /// The least height of a line; scripts from other fonts may need more.
+    /// The minimum height of a line; fallback fonts may need more.
     qreal lineHeight() const { return m_lineHeight; }
     qreal ascent() const { return m_ascent; }
     /// The width of `text` on one line.
     qreal widthOf(const QString& text) const;
-    /// No less than what a simple character takes in a text: one of this font that stands for itself, from
-    /// left to right. 0 for any other.
+    /// At least the width that a simple character takes within a text. Simple are characters of this font
+    /// that are not shaped and run from left to right; 0 for others.
     qreal simpleAdvance(QChar character) const;
 
 private:
@@ -38,7 +38,7 @@ private:
     QFontMetricsF m_metrics;
     qreal m_lineHeight;
     qreal m_ascent;
-    /// By character; negative until it is asked for.
+    /// By character; negative when not measured yet.
     mutable std::vector<qreal> m_advances;
 };
 
@@ -46,7 +46,7 @@ private:
 class BrokenText
 {
 public:
-    /// For a text that is painted often the letters are kept as they are shaped.
+    /// For a text that is painted often the shaped letters are kept.
     enum class Use { Once, Often };
 
     BrokenText(const QString& text, const TextStyle& style, qreal width, Use use = Use::Once);
@@ -57,17 +57,18 @@ public:
     void paintLine(QPainter& painter, int line, QPointF position) const;
 
 private:
-    /// One of simple characters that is painted once is broken here, which takes a tenth of the time.
+    /// A paragraph of simple characters that is painted once is broken by this class, in a tenth of the
+    /// time.
     struct Paragraph {
         QString text;
-        std::unique_ptr<QTextLayout> layout; ///< null when it is broken here
+        std::unique_ptr<QTextLayout> layout; ///< null when the paragraph was broken by this class
     };
     struct Line {
         std::size_t paragraph;
         qsizetype begin; ///< in the text, or the number of the line in the layout
         qsizetype length;
         qreal height;
-        qreal top; ///< from the line's place down to the text
+        qreal top; ///< from the top of the line to its text
     };
     bool breakSimple(std::size_t paragraph, qreal width);
     void layOut(std::size_t paragraph, qreal width);
@@ -77,7 +78,7 @@ private:
     std::vector<Line> m_lines;
 };
 
-/// Texts that come again on most records, each broken once. Holds a few dozen.
+/// Texts that occur in most records, each broken once. Holds a few dozen.
 class KeptTexts
 {
 public:
@@ -87,5 +88,5 @@ private:
     std::map<std::tuple<const TextStyle*, qreal, QString>, std::shared_ptr<const BrokenText>> m_texts;
 };
 
-/// Appends the heights of the lines that a BrokenText of these arguments has, in order, without keeping it.
+/// Appends the heights of the lines of such a BrokenText, in order, without keeping it.
 void appendLineHeights(const QString& text, const TextStyle& style, qreal width, std::vector<qreal>& heights);

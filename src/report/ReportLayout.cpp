@@ -16,10 +16,10 @@ constexpr qreal LineGap = millimetres(3);
 constexpr qreal LineThickness = millimetres(0.25);
 constexpr qreal LabelGap = millimetres(3);
 constexpr qreal LogoGap = millimetres(4);
-constexpr qreal TitleWordGap = 0.5; ///< of a blank
-/// So many are measured in about a millisecond.
+constexpr qreal TitleWordGap = 0.5; ///< in widths of a blank
+/// So many records are measured in about a millisecond.
 constexpr std::size_t RecordsOfProgress = 512;
-constexpr qreal TitleBase = 0.7; ///< of the header's height
+constexpr qreal TitleBase = 0.7; ///< as a part of the header's height
 
 const QColor Ink(0x1c, 0x1c, 0x1c);
 const QColor Faint(0x5a, 0x5a, 0x5a);
@@ -30,7 +30,7 @@ struct LabelledText {
     const char* label;
     const char* text;
 };
-// The row of short values, side by side, and the part of the page's width that each of them has.
+// The short values, side by side, and the part of the page's width that each gets.
 constexpr std::array Codes{LabelledText{"Label2", "txtTaskPeriority"},
     LabelledText{"Label3", "txtTaskStatus"}, LabelledText{"Label4", "txtTaskDueDate"}};
 constexpr std::array CodeParts{0.30, 0.42, 0.28};
@@ -50,14 +50,14 @@ struct ReportLayout::LaidRecord {
     struct Piece {
         Text text;
         int line;
-        QPointF position; ///< from the top left corner of the band
+        QPointF position; ///< relative to the top left corner of the band
     };
     struct Band {
         qreal height = 0;
         std::vector<Piece> pieces;
     };
 
-    /// One band a line of the text.
+    /// Adds one band for each line of the text.
     void addLines(const Text& text, qreal left)
     {
         for (int line = 0; line < text->lineCount(); ++line) {
@@ -139,7 +139,7 @@ qreal ReportLayout::mirroredText(const QString& text, const TextStyle& style, qr
     if (m_direction == Qt::LeftToRight) {
         return left;
     }
-    // One that runs from right to left begins at the right edge of its room by itself.
+    // A right-to-left text begins at the right edge of its room by itself.
     return mirrored(left, text.isRightToLeft() ? width : std::min(width, style.widthOf(text)));
 }
 
@@ -189,7 +189,7 @@ std::unique_ptr<ReportLayout::LaidRecord> ReportLayout::layOut(std::size_t recor
     laid->record = record;
     const qreal beside = m_page.width() - m_labelWidth;
     const auto addLabel = [&](const QString& name, std::size_t band, qreal left) {
-        // Small letters stand on the line of the big ones beside them.
+        // Smaller letters stand on the base line of the larger ones beside them.
         const QString caption = captionOf(name);
         const qreal width = m_page.width();
         laid->bands[band].pieces.push_back({m_kept.text(caption, m_label, width), 0,
@@ -293,7 +293,7 @@ void ReportLayout::paintHeader(QPainter& painter) const
     const auto draw = [&](const QString& text, const TextStyle& style, QPointF position) {
         BrokenText(text, style, m_page.width()).paintLine(painter, 0, position);
     };
-    // The title is a name of two words, which stay in their order.
+    // The title is a name of two words, whose order is fixed.
     const QString amber = captionOf(QStringLiteral("Label7"));
     const QString organizer = captionOf(QStringLiteral("Label8"));
     const qreal toOrganizer = m_title.widthOf(amber) + m_title.widthOf(QStringLiteral(" ")) * TitleWordGap;
@@ -303,7 +303,7 @@ void ReportLayout::paintHeader(QPainter& painter) const
     draw(organizer, m_subtitle, QPointF(titleLeft + toOrganizer, base - m_subtitle.ascent()));
     const QString address = captionOf(QStringLiteral("Label1"));
     const qreal addressWidth = m_label.widthOf(address);
-    // A narrow page has room for it below the title.
+    // On a narrow page it goes below the title.
     const bool isBeside = left + titleWidth + LabelGap < m_page.width() - addressWidth;
     draw(address, m_label,
         QPointF(mirrored(std::max(0.0, m_page.width() - addressWidth), addressWidth),
@@ -334,7 +334,7 @@ void ReportLayout::paintPage(QPainter& painter, int page) const
             y += laid.bands[band].height;
         }
         if (last == laid.bands.size()) {
-            // A line, not a box: it is at least a pixel thick at every zoom.
+            // As a line, not a rectangle, it is at least a pixel thick at every zoom.
             painter.setPen(QPen(Rule, LineThickness));
             painter.drawLine(
                 QPointF(0, y - LineThickness / 2), QPointF(m_page.width(), y - LineThickness / 2));

@@ -9,22 +9,21 @@
 
 class Progress;
 
-/// A report laid out for one size of page: where its pages start, and how each of them is painted. A record
-/// is kept whole on a page; one that is taller than a page begins on a page of its own and is split between
-/// lines.
+/// A report laid out for one page size: where the pages start and how to paint them. A record is kept on
+/// one page; one that is taller than a page starts on a new page and is split between lines.
 class ReportLayout final : public PrintedPages
 {
 public:
-    /// `page` is the printable area, in units. Read from right to left, labels and logo stand at the right; a
-    /// text itself runs in its own direction either way.
-    /// `progress`, which may be null, is told of the records as they are measured. Throws Cancelled.
+    /// `page` is the printable area, in units. Right-to-left, labels and logo are on the right; each text
+    /// keeps its own direction. `progress` may be null and is told of the records that are measured. Throws
+    /// Cancelled.
     ReportLayout(std::shared_ptr<const ReportContent> content, QSizeF page,
         Qt::LayoutDirection direction = Qt::LeftToRight, Progress* progress = nullptr);
     ~ReportLayout() override;
 
     QSizeF page() const { return m_page; }
     int pageCount() const override { return static_cast<int>(m_pages.size()); }
-    /// The number of the first record that stands on that page; pages count from 0.
+    /// The number of the first record on that page; pages count from 0.
     std::size_t firstRecord(int page) const { return m_pages[static_cast<std::size_t>(page)].record; }
     /// The page on which that record begins.
     int pageOf(std::size_t record) const;
@@ -35,11 +34,11 @@ private:
         std::size_t record;
         std::size_t band; ///< of the record: a strip that is not split
     };
-    /// Where one of the short values of a record stands.
+    /// Where a short value of a record is placed.
     struct CodePlace {
         qreal label; ///< where its label begins, from the edge at which reading begins
         qreal value; ///< where the value begins, from that edge
-        qreal width; ///< what the value has
+        qreal width; ///< width of the value
     };
     struct LaidRecord;
 
@@ -47,13 +46,14 @@ private:
     const QString& value(std::size_t record, const QString& control) const;
     CodePlace placeOf(std::size_t code) const;
     void placeCodes();
-    /// The left edge of what has `width` from `left` on, counted from the edge at which reading begins.
+    /// The left edge of something `width` wide whose distance from the edge at which reading begins is
+    /// `left`.
     qreal mirrored(qreal left, qreal width) const;
-    /// The same for a text of the row of short values or a label: it stands next to what precedes it.
+    /// The same for a text in the row of short values: it stands next to the text before it.
     qreal mirroredText(const QString& text, const TextStyle& style, qreal left, qreal width) const;
-    /// Whether the short values all fit beside each other.
+    /// Whether the short values fit side by side.
     bool hasRoomSideBySide() const;
-    /// Heights of the bands of a record, from its top to its line.
+    /// The heights of the bands of a record, from its top to its closing line.
     void measure(std::size_t record, std::vector<qreal>& bands) const;
     void findPageStarts(Progress* progress);
     const LaidRecord& laidRecord(std::size_t record) const;
@@ -71,10 +71,10 @@ private:
     std::map<QString, std::size_t> m_columns;
     std::map<QString, QString> m_captions;
     qreal m_labelWidth = 0;
-    bool m_stacked = false; ///< the short values stand below each other
-    std::vector<CodePlace> m_places; ///< one a short value
+    bool m_stacked = false; ///< the short values are below each other
+    std::vector<CodePlace> m_places; ///< one for each short value
     std::vector<PageStart> m_pages;
-    /// The record that was laid out last: one that goes on for pages is laid out once.
+    /// The record laid out last: one that continues for pages is laid out once.
     mutable std::unique_ptr<LaidRecord> m_laid;
     mutable KeptTexts m_kept;
 };

@@ -14,7 +14,7 @@ struct ReportControl {
     Kind kind = Kind::Label;
     QString name;
     QString caption; ///< of a label
-    QString dataField; ///< of a text: the column it shows
+    QString dataField; ///< the column that a text shows
 };
 
 struct ReportSection {
@@ -25,14 +25,13 @@ struct ReportSection {
 /// All that a report shows. Texts are plain.
 struct ReportContent {
     QString caption;
-    QImage image; ///< what the image control of the page header shows
+    QImage image; ///< shown by the image control of the page header
     std::vector<ReportSection> sections;
-    /// One entry a record: the values of the text controls of the detail section, in the order of the
-    /// controls.
+    /// For each record the values of the text controls of the detail section, in their order.
     std::vector<std::vector<QString>> records;
 };
 
-/// What the report window asks of the program around it.
+/// What the report window needs from the program.
 class ReportHost
 {
 public:
@@ -49,8 +48,7 @@ public:
     virtual void windowClosed() = 0;
 };
 
-/// The preview window of a report; a module of its own, loaded when the first report is shown. Interface
-/// thread only.
+/// The preview window of a report, in a module that the first report loads. Interface thread only.
 class ReportWindow
 {
 public:
@@ -59,12 +57,12 @@ public:
     ReportWindow(const ReportWindow&) = delete;
     ReportWindow& operator=(const ReportWindow&) = delete;
 
-    /// The top-level window, named "drTasks"; it lives as long as this object, which owns it.
+    /// The top-level window, named "drTasks"; owned by this object.
     virtual QWidget* widget() = 0;
-    /// Replaces what the window shows and turns to the first page. Throws Cancelled, and then the window
-    /// shows what it showed before.
+    /// Replaces the content and goes to the first page. Throws Cancelled, and then the window shows what it
+    /// showed before.
     virtual void setContent(ReportContent content) = 0;
 };
 
-/// Makes the window, or nothing where reports cannot be shown. The host outlives the window.
+/// Makes the window, or returns null where reports cannot be shown. The host outlives the window.
 using ReportWindowFactory = std::function<std::unique_ptr<ReportWindow>(ReportHost&)>;

@@ -15,7 +15,7 @@ namespace
 constexpr std::array SettingsFlags{"always_on_top", "start_with_windows", "minimize_on_start",
     "show_task_status", "show_task_due_date", "show_task_periority", "show_task_reminder", "show_today_tasks",
     "show_grid", "show_ballon_icon"};
-/// A text that a column of another type would not give back as it was.
+/// A numeric column would not return this text unchanged.
 const QLatin1String Probe("007");
 
 void require(bool condition)
@@ -25,7 +25,7 @@ void require(bool condition)
     }
 }
 
-/// A connection whose writing is given up, whatever happens.
+/// A connection that never commits what it writes.
 class Trial
 {
 public:
@@ -50,7 +50,7 @@ void requireOk(const RecordSet& verdict)
 
 void requireReadableSettings(Trial& trial)
 {
-    // A file without the row can serve: a restore writes the settings that are in force.
+    // A file without that row will do: a restore writes the present settings.
     for (RecordSet row = trial.execute("select * from settings"); !row.atEnd(); row.moveNext()) {
         row.text(row.field("skin"));
         for (const char* flag : SettingsFlags) {
@@ -59,13 +59,13 @@ void requireReadableSettings(Trial& trial)
     }
 }
 
-/// That the file is sound and every record in it can be read. The number of tasks.
+/// Checks that the file is sound and every record can be read; returns the number of tasks.
 qint64 requireSoundAndReadable(const DatabaseEngine& engine)
 {
     Trial trial(engine);
     requireOk(trial.execute("pragma integrity_check"));
     requireReadableSettings(trial);
-    // The names as the reminders ask for them, and the order of texts that the tables name: no row is needed.
+    // Checks the columns that the reminders use and the collation of names; needs no row.
     trial.execute(
         "select played,dismissed from tasks,categories where tasks.cat_id=categories.cat_id limit 0");
     trial.execute("select task_id from tasks order by task_name limit 0");

@@ -4,8 +4,7 @@
 
 struct DatabaseEngine;
 
-/// Makes sure that `data.dat` in the folder of `engine` can serve as the program's data file: it is sound and
-/// holds the program's tables, every record is one that the program can read, and it takes new records as the
-/// program writes them. Changes nothing in it. How many tasks it holds. Throws RuntimeError that says what is
-/// wrong.
+/// Checks that `data.dat` in the folder of `engine` can serve as the data file: it is sound, has the
+/// program's tables, every record can be read and new records can be written. Changes nothing in it.
+/// Returns the number of tasks. Throws RuntimeError that says what is wrong.
 qint64 requireServiceableDataFile(const DatabaseEngine& engine);

@@ -20,8 +20,8 @@ constexpr std::array Companions{"-journal", "-wal"};
 constexpr char ReplacedSuffix[] = ".before-restore";
 constexpr char EarlierName[] = "earlier";
 
-/// The folder in which a file is checked before it takes the place of the data file; private, gone with this
-/// object. Its name is fixed, so that what a process left there when it died goes with the next restore.
+/// The folder in which a file is checked before it replaces the data file; private, removed with this
+/// object. Its name is fixed, so that the next restore removes what a process left there when it died.
 class CheckingFolder
 {
 public:
@@ -29,7 +29,7 @@ public:
         : m_path(QFileInfo(dataFile).absolutePath() + QStringLiteral("/.restore"))
     {
         remove();
-        // The user's mask must not take away what the owner needs.
+        // The umask must not take away the owner's permissions.
         if (!QDir().mkdir(m_path, PrivateFolder) || !QFile::setPermissions(m_path, PrivateFolder)) {
             throw FileError(m_path, FileError::reason(errno));
         }
@@ -42,7 +42,7 @@ public:
 private:
     void remove() const
     {
-        // What a link points to is not ours.
+        // The target of a link is not ours.
         if (QFileInfo(m_path).isSymLink()) {
             QFile::remove(m_path);
         } else {
@@ -53,8 +53,8 @@ private:
     QString m_path;
 };
 
-/// Whether the engine would take something back from that journal: not from one that is empty or whose head
-/// has been wiped.
+/// Whether SQLite would roll back from that journal; it does not when the journal is empty or its header is
+/// wiped.
 bool isUnfinished(const QString& journal)
 {
     QFile file(journal);
@@ -62,12 +62,12 @@ bool isUnfinished(const QString& journal)
         return false;
     }
     char first = '\0';
-    // A pipe of that name would keep the program waiting.
+    // A pipe would block.
     return !QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly) || file.read(&first, 1) < 0
         || first != '\0';
 }
 
-/// Whether the engine would take `file` for a database at all.
+/// Whether SQLite would take `file` for a database at all.
 bool hasHead(const QString& file)
 {
     constexpr QByteArrayView Head("SQLite format 3\0", 16);
@@ -89,15 +89,14 @@ bool holdTheSame(const QString& left, const QString& right)
     return same;
 }
 
-/// Whether a restore that died or failed has come so far: then the journal beside `replaced` is the one of
+/// Whether an interrupted or failed restore has come so far: then the journal beside `replaced` belongs to
 /// `place`.
 bool isKeptAlready(const QString& place, const QString& replaced)
 {
     return isSameFile(place, replaced) || (!hasHead(place) && holdTheSame(place, replaced));
 }
 
-/// Gives what the engine would take back from beside `file` the names with which it does so from beside
-/// `target`.
+/// Moves unfinished journals beside `file` to where SQLite finds them for `target`.
 void moveUnfinished(const QString& file, const QString& target)
 {
     for (const char* companion : Companions) {
@@ -142,7 +141,7 @@ RestoredData DataFileCopies::restoreFrom(const QString& file, Progress* progress
     refuseOpenOperation(file);
     refuseForeignFile(file);
     const QString place = resolvedPath(m_dataFile);
-    // Beside the data file: what has been checked is what takes its place, by a mere renaming.
+    // Beside the data file, so that the checked file replaces it by a rename.
     const CheckingFolder folder(place);
     const QString checked = pathIn(folder.path(), ClsDatabase(*m_engine).FileName());
     copyToNewFile(file, checked, PrivateFile, progress);
@@ -155,8 +154,8 @@ RestoredData DataFileCopies::restoreFrom(const QString& file, Progress* progress
         moveOver(checked, place);
         return {tasks, {}};
     }
-    // What lies beside a file that is no database any more belongs to no operation that somebody could
-    // finish, and the engine would throw it away.
+    // A journal beside a file that is no database cannot be rolled back any more, and SQLite would delete
+    // it; it is kept.
     if (hasHead(place)) {
         settleIfSound();
         refuseOpenOperation(m_dataFile);
@@ -182,7 +181,7 @@ void DataFileCopies::leaveWriteAheadMode() const
     try {
         useRollbackJournal(place);
     } catch (const DatabaseError&) {
-        // It serves as it is.
+        // The file can be used as it is.
     }
 }
 
@@ -200,8 +199,8 @@ void DataFileCopies::keepPrivate() const
     }
 }
 
-// No bytes are copied: the restored file takes the name, and the old one keeps its second one. The file of an
-// earlier restore waits until the new one is in place.
+// Copies nothing: the old file gets a second name, then the restored file takes its first one. The file of
+// an earlier restore is set aside until the new one is in place.
 void DataFileCopies::keepReplaced(const QString& place, const QString& folder, Progress* progress)
 {
     const QString replaced = place + QLatin1String(ReplacedSuffix);
@@ -210,7 +209,7 @@ void DataFileCopies::keepReplaced(const QString& place, const QString& folder, P
         return;
     }
     try {
-        // Before the file that it belongs to, and never beside another of that name.
+        // The journal before the file that it belongs to, and never beside another file of that name.
         moveUnfinished(replaced, earlier);
         if (isPresent(replaced)) {
             keepAlso(replaced, earlier, PrivateFile, progress);
@@ -220,7 +219,7 @@ void DataFileCopies::keepReplaced(const QString& place, const QString& folder, P
         try {
             moveUnfinished(earlier, replaced);
         } catch (const FileError&) {
-            // The first failure is what is told.
+            // The first failure is reported.
         }
         throw;
     }
@@ -236,16 +235,16 @@ void DataFileCopies::putBackEarlier(const QString& place, const QString& folder)
             moveOver(earlier, replaced);
             moveUnfinished(earlier, replaced);
         } else {
-            // The data file is not to be known by two names.
+            // The data file must not have two names.
             removeFile(replaced);
         }
     } catch (const FileError&) {
-        // Then it is, and its journal with it; nothing is lost by that.
+        // Then it has two names, and so has its journal; nothing is lost.
     }
 }
 
-// A process that died inside an operation has left its journal; the engine rolls it back when the file is
-// opened. Without that, the copy would be wrong data that passes every check.
+// SQLite rolls back the journal of a process that died in an operation when the file is opened. Without
+// that the copy would have wrong data that pass every check.
 void DataFileCopies::settle() const
 {
     Connection connection = ClsDatabase(*m_engine).Connect();

@@ -6,15 +6,15 @@
 class Progress;
 struct DatabaseEngine;
 
-/// What a restore has brought.
+/// The result of a restore.
 struct RestoredData {
-    qint64 tasks = 0; ///< how many the file holds
-    QString replaced; ///< the file beside the data file that holds what was there; empty when nothing was
+    qint64 tasks = 0; ///< in the file
+    QString replaced; ///< the file beside the data file with the previous data; empty for none
 };
 
-/// Copies of the data file: backups, and the way back from one. No connection to the data file may be open
-/// meanwhile. All operations throw RuntimeError, or what `progress` throws, and then the data
-/// file and the backups are as they were.
+/// Backups of the data file and restores. No connection to the data file may be open meanwhile. All
+/// operations throw RuntimeError, or what `progress` throws, and then data file and backups are as they
+/// were.
 class DataFileCopies
 {
     Q_DECLARE_TR_FUNCTIONS(DataFileCopies)
@@ -23,23 +23,22 @@ public:
     /// `engine` outlives this object.
     explicit DataFileCopies(const DatabaseEngine& engine);
 
-    /// Copies the data file, byte for byte, to `file`, over a file of that name. At the return the copy is on
-    /// the disk. A data file in write-ahead mode is turned back first, or, where somebody has it open, gets
-    /// all that lies beside it.
+    /// Copies the data file, byte for byte, to `file`, replacing a file of that name; the copy is on the
+    /// disk on return. A data file in write-ahead mode is turned back before, or, if another process has it
+    /// open, everything beside it is moved into it.
     void backUpTo(const QString& file, Progress* progress = nullptr) const;
-    /// Replaces the data file by `file`, which has to be a sound data file of this program. What was replaced
-    /// stays beside it as data.dat.before-restore, with the journal of an operation that died in it, if any;
-    /// `file` becomes private to its owner, where that can be. A copy in write-ahead mode is turned to
-    /// rollback-journal mode, in which the data file is kept; any other is restored byte for byte.
+    /// Replaces the data file by `file`, which must be a sound data file of this program. The previous file
+    /// stays beside it as data.dat.before-restore, together with the journal of an interrupted operation;
+    /// `file` becomes private to its owner, where possible. A copy in write-ahead mode is turned to
+    /// rollback-journal mode; any other is restored byte for byte.
     RestoredData restoreFrom(const QString& file, Progress* progress = nullptr) const;
 
-    /// Turns a data file that another program has left in write-ahead mode back to rollback-journal mode: in
-    /// the other, changes lie in a second file, which a copy of the data file alone would miss. Where that
-    /// cannot be, because somebody has it open or it may not be written, it stays as it is and nothing is
-    /// said.
+    /// Turns a data file that another program has left in write-ahead mode back to rollback-journal mode:
+    /// otherwise recent changes are in a second file, which a copy of the data file would miss. Silently
+    /// leaves it as it is when another process has it open or it cannot be written.
     void leaveWriteAheadMode() const;
-    /// Takes away what others than the owner may do with the data file and with what lies beside it. Where
-    /// that cannot be, all stays as it is and nothing is said.
+    /// Removes the permissions of others on the data file and the files that belong to it; silently leaves
+    /// what cannot be changed.
     void keepPrivate() const;
 
 private:

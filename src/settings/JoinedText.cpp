@@ -7,7 +7,7 @@
 namespace
 {
 
-/// `text` without the marks of mnemonics, and where in it the letter of the first one stands; -1 for none.
+/// `text` without mnemonic marks, and the position of the first mnemonic in it; -1 for none.
 struct Unmarked {
     explicit Unmarked(const QString& text)
     {
@@ -52,7 +52,7 @@ void underlineMnemonic(QPainter& painter, const QRect& written, const QString& t
         line.cursorToX(static_cast<int>(unmarked.mnemonic) + 1)});
     const QFontMetricsF metrics(painter.font());
     const qreal thickness = std::max(1.0, metrics.lineWidth());
-    // Below the letters' own strokes, which run along the base line.
+    // Below the strokes of joined letters, which run along the base line.
     const qreal top = written.top() + metrics.ascent() + metrics.descent() - thickness;
     painter.fillRect(QRectF(written.left() + from, top, to - from, thickness), painter.pen().color());
 }

@@ -9,7 +9,8 @@ class QString;
 /// Whether letters of `text` join with their neighbours, as Arabic ones do.
 bool hasJoinedLetters(QStringView text);
 
-/// Underlines the letter behind the "&" of `text`, which the painter has written into `written` without
-/// marking it, in the painter's font and colour. Qt's own way of underlining shapes the letter
-/// alone, which tears the word apart.
+/// Workaround: Qt 6.4.2 shapes the letter of a mnemonic by itself to underline it, which tears a joined
+/// word apart (tst_qt_workarounds, theUnderlineOfAMnemonicTearsJoinedLetters). Underlines the letter behind
+/// the "&" of `text`, which has been painted into `written` without the underline, in the painter's font
+/// and colour.
 void underlineMnemonic(QPainter& painter, const QRect& written, const QString& text);

@@ -26,7 +26,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 
-/// What the controls of the bulk delete say.
+/// The state of the controls for bulk deletion.
 struct MaintenancePage::Criteria {
     qint16 category;
     qint32 status;
@@ -106,7 +106,7 @@ QGroupBox* MaintenancePage::makeDeleteFrame()
 {
     m_cmbCategories = named("cmbCategoriesMaintenance", new ComboBox);
     m_cmbStatus = named("cmbStatusMaintenance", new ComboBox);
-    // The longest category is not to widen the page; the statuses are to be seen whole.
+    // A long category name must not widen the page; statuses must be seen whole.
     m_cmbCategories->keepNarrow(22);
     m_cmbStatus->keepEntriesWhole();
     m_btnDeleteTasks = named("btnDeleteTasksMaintenance", new QPushButton(tr("&Delete")));
@@ -247,7 +247,7 @@ void MaintenancePage::btnBackup_Click()
         });
         m_quietLine->say(tr("Backup saved to \"%1\"").arg(QDir::toNativeSeparators(file)));
     } catch (const Cancelled&) {
-        // Who cancels knows.
+        // The user who cancelled needs no message.
     } catch (const std::exception& error) {
         m_quietLine->say(tr("The backup could not be written: %1").arg(reasonOf(error)));
     }
@@ -262,7 +262,7 @@ void MaintenancePage::btnRestore_Click()
         request.name = QStringLiteral("cdBackupRestore");
         request.filter = backupFilter();
         request.promptBeforeOverwriting = true;
-        // The name that a backup is offered has no extension.
+        // The name proposed for a backup has no extension.
         request.anyName = true;
         const QString file = m_services.fileDialogs.open(window(), request);
         if (file.isEmpty()) {
@@ -275,7 +275,7 @@ void MaintenancePage::btnRestore_Click()
         emit dataRestored();
         m_quietLine->say(restoredNote(restored, QDir::toNativeSeparators(file)));
     } catch (const Cancelled&) {
-        // Who cancels knows; nothing has changed.
+        // The user who cancelled needs no message; nothing has changed.
     } catch (const std::exception& error) {
         m_quietLine->say(tr("Nothing was restored: %1").arg(reasonOf(error)));
     }

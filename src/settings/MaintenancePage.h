@@ -28,12 +28,12 @@ public:
     /// The category list, for reloads after a change of categories.
     QComboBox& cmbCategoriesMaintenance() const;
 
-    /// The help button is disabled until there is a help to open.
+    /// Enables the help button, which is disabled at first.
     void setHelpEnabled(bool enabled);
 
 signals:
-    /// The data file has been replaced. Everything shown is to be reloaded, then the settings page is to be
-    /// saved; it is over when the slots have returned. They let no exception out: what fails in them ends the
+    /// The data file has been replaced. Everything shown must be reloaded, then the settings page saved;
+    /// the restore is over when the slots have returned. They must not throw: a failure in them ends the
     /// restore silently.
     void dataRestored();
     /// Tasks have been deleted in bulk.

@@ -100,7 +100,7 @@ QGroupBox* SettingsPage::makeSkinsFrame()
     m_cmbSkins = new ComboBox;
     m_cmbSkins->setObjectName(QStringLiteral("cmbSkins"));
     m_cmbSkins->addItems({QStringLiteral("Aqua"), QStringLiteral("Lemon"), QStringLiteral("Classic")});
-    // The longest name is not to widen the page.
+    // A long name must not widen the page.
     m_cmbSkins->keepNarrow(20);
     auto* currentSkin = new QLabel(tr("Current s&kin"));
     currentSkin->setTextFormat(Qt::PlainText);
@@ -144,7 +144,7 @@ void SettingsPage::connectControls()
 
 void SettingsPage::LoadSkinsList()
 {
-    // The names first: other events may run between the files, and they find the list as it was.
+    // Read before the list is cleared: events run between the files and find the list as it was.
     const QStringList names = m_skins.names();
     m_cmbSkins->clear();
     m_cmbSkins->addItems(names);
@@ -267,7 +267,7 @@ void SettingsPage::btnBrowseNewSkin_Click()
         m_quietLine->say(tr("The skin was not added: %1").arg(reasonOf(error)));
         return;
     }
-    // The list shows its first entry now, whatever is worn: what is saved is to be what is seen.
+    // The list shows its first entry now, whatever skin is worn: what is seen must be what is saved.
     m_skinChanged = true;
     m_services.messages.tell(
         window(), MessageBoxes::Icon::Information, tr("The new skin is now available in the skins list."));

@@ -15,8 +15,8 @@ class SettingsPageHost;
 class Skins;
 struct FormServices;
 
-/// The page "Settings". Its controls are a working copy of the settings record: nothing takes effect until it
-/// is saved, except that the main window asks some of the boxes directly.
+/// The page "Settings". Its controls are a working copy of the settings record: nothing takes effect until
+/// it is saved, except that the main window reads some of the boxes directly.
 class SettingsPage : public QWidget
 {
     Q_OBJECT
@@ -26,20 +26,20 @@ public:
     SettingsPage(const FormServices& services, SettingsRecord& record, Registry& registry, Skins& skins,
         SettingsPageHost& host, QWidget* parent = nullptr);
 
-    /// Fills the list of skins from the folder and selects the first.
+    /// Fills the list of skins from the folders and selects the first.
     void LoadSkinsList();
-    /// The same at a start. While the stored skin is the one that is loaded, the list holds it alone until
-    /// `completeSkinsList`: nobody sees the others before the first painting.
+    /// The same during a start: if the stored skin is loaded, lists only that one until
+    /// `completeSkinsList`, as nobody sees the others before the first painting.
     void startSkinsList();
     void completeSkinsList();
-    /// Copies the record into the controls.
+    /// Copies the settings record into the controls.
     void LoadSettingsPage();
-    /// Stores what the page shows and lets it take effect. Throws DatabaseError.
+    /// Stores the content of the page and applies it. Throws DatabaseError.
     void btnSave_Click();
-    /// Wears the skin that the list shows when the program starts.
+    /// During a start, applies the skin that the list shows.
     void applySkin();
 
-    // What the boxes say, saved or not.
+    // The state of the boxes, saved or not.
     bool showTodayTasksChecked() const;
     bool showGridChecked() const;
     bool showBallonChecked() const;
@@ -48,7 +48,7 @@ public:
     bool showPeriorityChecked() const;
     bool showReminderChecked() const;
 
-    /// The help button is disabled until there is a help to open.
+    /// Enables the help button, which is disabled at first.
     void setHelpEnabled(bool enabled);
 
 signals:
@@ -74,7 +74,7 @@ private:
     Registry& m_registry;
     Skins& m_skins;
     SettingsPageHost& m_host;
-    /// Another skin was chosen, or the list was rebuilt, and what it shows was not saved yet.
+    /// Another skin was chosen or the list was rebuilt, and the selection has not been saved yet.
     bool m_skinChanged = false;
     bool m_listIsOwed = false;
 

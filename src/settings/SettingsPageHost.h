@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// What the settings page asks of the main window.
+/// What the settings page needs from the main window.
 class SettingsPageHost
 {
 public:
@@ -11,10 +11,10 @@ public:
     SettingsPageHost(const SettingsPageHost&) = delete;
     SettingsPageHost& operator=(const SettingsPageHost&) = delete;
 
-    /// The caption that the start calls for: "Show" or "Hide". Asked for every time the page is filled; it
-    /// counts only while the main window loads.
+    /// Sets the caption that a start needs: "Show" or "Hide". Called whenever the page is filled; has an
+    /// effect only while the main window loads.
     virtual void setTrayCaption(const QString& caption) = 0;
-    /// Makes the main window topmost; otherwise takes that back and brings it to the front of the ordinary
+    /// Makes the main window topmost, or ends that state and brings it to the front of the ordinary
     /// windows.
     virtual void placeMainWindow(bool topmost) = 0;
     virtual void setGridLines(bool shown) = 0;

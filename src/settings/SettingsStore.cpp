@@ -74,7 +74,7 @@ void SettingsStore::save(const SettingsRecord& settings, SettingsRecord& record)
     connection.open();
     connection.execute(QStringLiteral("delete from settings"));
     connection.execute(insertStatement(settings));
-    // The record may say only what the disk holds.
+    // Before `record` is changed: it may hold only what is on the disk.
     connection.commit();
     record = settings;
     connection.close();

@@ -15,12 +15,12 @@ public:
     /// `engine` outlives this object.
     explicit SettingsStore(const DatabaseEngine& engine) : m_engine(&engine) { }
 
-    /// The first row; a table without one is an error. A value that does not convert is left out
-    /// (DatabaseEngine::unreadable), and that of a shipped data file stands for it.
+    /// The first row; throws when there is none. A value that does not convert is reported
+    /// (DatabaseEngine::unreadable) and replaced by the one in a shipped data file.
     SettingsRecord read() const;
-    /// Replaces the row by `settings`, then, once that is on the disk, `record` by `settings`. The skin's
-    /// name goes into the statement as it stands: one with a single quote breaks it, and then the table is
-    /// left without a row and `record` as it was.
+    /// Replaces the row by `settings` and, once that is on the disk, assigns it to `record`. The skin's
+    /// name is not escaped: with a single quote in it the insert fails, the table has no row and `record`
+    /// is as it was.
     void save(const SettingsRecord& settings, SettingsRecord& record) const;
 
 private:

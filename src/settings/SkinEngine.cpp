@@ -7,7 +7,7 @@
 
 SkinEngine::SkinEngine()
 {
-    // The application takes ownership.
+    // Takes ownership.
     QApplication::setStyle(new SkinStyle);
 }
 
@@ -24,7 +24,7 @@ void SkinEngine::loadSkinFile(const QString& path)
 void SkinEngine::applySkin()
 {
     const QString sheet = skinSheet(m_loaded);
-    // Every widget is polished anew by what follows.
+    // Setting a style polishes every widget again: not for nothing.
     if (qApp->styleSheet() == sheet && m_appliedPalette == m_loaded.palette) {
         return;
     }
@@ -32,7 +32,9 @@ void SkinEngine::applySkin()
         QApplication::setPalette(m_loaded.palette);
         qApp->setStyleSheet(sheet);
     } else {
-        // A palette set under a sheet does not reach widgets that the sheet has polished.
+        // Workaround: under a style sheet QApplication::setPalette() of Qt 6.4.2 does not reach widgets
+        // that the sheet has polished (QTBUG-112966; tst_qt_workarounds,
+        // aPaletteDoesNotReachWhatASheetHasPolished).
         QApplication::setStyle(new SkinStyle({m_loaded.palette, sheet}));
     }
     m_appliedPalette = m_loaded.palette;

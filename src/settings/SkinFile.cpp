@@ -37,7 +37,7 @@ QString decoded(const QByteArray& content, const QString& fileName)
     if (content.size() > LargestFile) {
         throw SkinError(SkinFile::tr("%1: the file is larger than 1 MiB").arg(fileName));
     }
-    // Stateless: a letter that is cut off at the end is an error, too.
+    // Stateless: a character truncated at the end is an error, too.
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     QString text = decoder(content);
     if (decoder.hasError() || text.contains(QChar::Null)) {

@@ -7,8 +7,7 @@
 #include <QPalette>
 #include <QString>
 
-/// A skin file that is missing, unreadable or malformed. The text names the file and, where there is one, the
-/// line.
+/// A skin file that is missing, unreadable or malformed. The text names the file and, if known, the line.
 class SkinError : public RuntimeError
 {
 public:
@@ -21,15 +20,15 @@ struct SkinFile {
 
 public:
     QString name;
-    /// Roles that the skin leaves out have the colours of a plain light grey look.
+    /// Roles that the skin does not set have the colours of a plain light grey look.
     QPalette palette;
     /// By token.
     QHash<QString, QColor> colors;
 
     /// Reads the skin file at `path`. Throws SkinError.
     static SkinFile read(const QString& path);
-    /// The skin that `content` holds; `fileName` is for errors. Throws SkinError.
+    /// Parses `content`; `fileName` is for error texts. Throws SkinError.
     static SkinFile parse(const QByteArray& content, const QString& fileName);
-    /// The name of the skin in the file at `path`. What stands behind it is not looked at. Throws SkinError.
+    /// The name of the skin in the file at `path`; the rest of the file is not looked at. Throws SkinError.
     static QString nameIn(const QString& path);
 };

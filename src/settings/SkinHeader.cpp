@@ -7,7 +7,7 @@ namespace
 {
 
 constexpr qsizetype LongestName = 100;
-// In bytes; no usual file system takes more, the ending included.
+// In bytes, less the ending: the limit of common file systems.
 constexpr qsizetype LongestFileName = 255 - 4;
 
 struct NamedRole {
@@ -39,7 +39,7 @@ bool isWord(QStringView text)
     });
 }
 
-/// Small letters, digits and hyphens, a letter first.
+/// Lower-case letters, digits and hyphens, beginning with a letter.
 bool isToken(QStringView text)
 {
     return !text.isEmpty() && isLower(text.front()) && std::all_of(text.begin(), text.end(), [](QChar c) {
@@ -55,7 +55,7 @@ bool isColor(QStringView text)
     });
 }
 
-/// The text up to the first blanks, and what follows them.
+/// The text up to the first blank, and what follows the blanks.
 std::pair<QStringView, QStringView> firstWord(QStringView text)
 {
     const auto* end = std::find_if(text.begin(), text.end(), [](QChar c) { return c.isSpace(); });
@@ -71,8 +71,8 @@ bool isUnseen(QChar c)
         || category == QChar::Separator_Line || category == QChar::Separator_Paragraph;
 }
 
-// The name of a skin is the base name of its file, on every system. It is also written into the settings as
-// it stands, where a quote would end it.
+// A skin's name is the base name of its file on every system. It is also written into a statement
+// unescaped, where a quote would end it.
 bool couldBeFileName(const QString& name)
 {
     const bool isAllowed = std::none_of(name.begin(), name.end(),

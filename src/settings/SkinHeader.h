@@ -7,7 +7,7 @@
 #include <QHash>
 #include <QPalette>
 
-/// A fault in a line of a skin file, counted from 1.
+/// An error in a line, counted from 1, of a skin file.
 class SkinLineError : public RuntimeError
 {
 public:
@@ -18,7 +18,7 @@ private:
     int m_line;
 };
 
-/// The leading comment block of a skin file: the skin's name, its colours and its palette.
+/// The comment block at the start of a skin file: name, colours and palette of the skin.
 class SkinHeader
 {
     Q_DECLARE_TR_FUNCTIONS(SkinHeader)
@@ -26,14 +26,13 @@ class SkinHeader
 public:
     enum class Part { All, NameAlone };
 
-    /// Reads the comment block at the start of `text`, or no more of it than the name takes. Throws
-    /// SkinLineError.
+    /// Parses the comment block at the start of `text`, or only as far as the name. Throws SkinLineError.
     static SkinHeader parse(QStringView text, Part part);
 
     QString name() const { return m_texts.value(QStringLiteral("@name")); }
     /// By token.
     const QHash<QString, QColor>& colors() const { return m_colors; }
-    /// Roles that the skin leaves out have the colours of a plain light grey look.
+    /// Roles that the skin does not set have the colours of a plain light grey look.
     QPalette palette() const;
 
 private:

@@ -16,11 +16,11 @@ namespace
 constexpr qreal FieldRadius = 5;
 constexpr qreal BoxRadius = 4;
 constexpr qreal RingWidth = 2;
-/// Between the edge of a button and the ring inside it.
+/// Pixels between the edge of a button and the focus ring inside it.
 constexpr int ButtonInset = 2;
 constexpr double LeastContrast = 3;
 
-/// Restores the painter at the end of a shape.
+/// Restores the painter when a shape is done.
 class Canvas
 {
 public:
@@ -53,8 +53,8 @@ bool isFocused(const QStyleOption& option)
     return has(option, QStyle::State_HasFocus) && has(option, QStyle::State_Enabled);
 }
 
-// The application's, not the control's: a sheet may give the selection of a list a colour of its own, too
-// soft for this.
+// The application's colour instead of the control's: the sheet may give the selection of a list a colour
+// too faint for the ring.
 QColor ringColor()
 {
     return QGuiApplication::palette().color(QPalette::Highlight);
@@ -68,7 +68,7 @@ double luminance(const QColor& color)
     return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
 }
 
-/// From 1, the same, to 21, black and white.
+/// Contrast ratio: 1 for equal colours, 21 for black and white.
 double contrast(const QColor& one, const QColor& other)
 {
     const double first = luminance(one);
@@ -85,7 +85,7 @@ QPen outline(const QStyleOption& option)
     return {color(option, hovered ? QPalette::Dark : QPalette::Mid), 1};
 }
 
-/// The empty box of a disabled control stays visible: it has no text of its own to be known by.
+/// The empty box of a disabled control stays visible, as it has no text in it.
 QPen boxOutline(const QStyleOption& option)
 {
     return has(option, QStyle::State_Enabled) ? outline(option) : QPen(color(option, QPalette::Text), 1);

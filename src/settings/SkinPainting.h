@@ -8,12 +8,12 @@ class QPalette;
 class QRect;
 class QStyleOption;
 
-// The shapes that a skin's style draws. The colours come from the option's palette; the painter is left as it
+// The shapes that a skin's style draws, in the colours of the option's palette. The painter is left as it
 // was.
 
-/// The rounded ground and outline of a field, with the ring when it has the focus.
+/// The rounded background and outline of a field, with the ring when it has the focus.
 void paintField(QPainter& painter, const QRect& rect, const QStyleOption& option);
-/// The outline alone, for a frame around something that paints its own ground.
+/// The outline alone, for a frame around something that paints its own background.
 void paintFieldFrame(QPainter& painter, const QRect& rect, const QStyleOption& option);
 /// A chevron of that colour in the middle of `rect`.
 void paintArrow(QPainter& painter, const QRect& rect, Qt::ArrowType direction, const QColor& ink);
@@ -21,6 +21,6 @@ void paintArrow(QPainter& painter, const QRect& rect, Qt::ArrowType direction, c
 void paintCheckBox(QPainter& painter, const QRect& rect, const QStyleOption& option);
 void paintRadioButton(QPainter& painter, const QRect& rect, const QStyleOption& option);
 void paintFocusRing(QPainter& painter, const QRect& rect);
-/// A ring inside the edge of a button, in the colour of the accent or, where that does not stand out from the
-/// button, of its text.
+/// A ring inside the edge of a button, in the accent colour or, where that is too close to the button's, in
+/// its text colour.
 void paintButtonFocus(QPainter& painter, const QRect& rect, const QPalette& palette);

@@ -14,13 +14,13 @@ namespace
 const QColor Warning(0xE3, 0x9A, 0x1C);
 const QColor WarningInk(0x2B, 0x1A, 0x00);
 const QColor Failure(0xC6, 0x28, 0x28);
-/// About as far from white as from black.
+/// About equally far from white and from black.
 constexpr int FadedInk = 0x76;
-/// How much of the ground shows through white.
+/// The transparency that white gets.
 constexpr double FadedWhite = 0.75;
 constexpr double FullTone = 255;
 
-/// Draws anew for each size.
+/// Draws the icon anew for each size.
 class DrawnIconEngine final : public QIconEngine
 {
 public:
@@ -131,7 +131,7 @@ QPixmap fadedPicture(const QPixmap& picture)
         auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
         for (int x = 0; x < image.width(); ++x) {
             const double light = qGray(line[x]) / FullTone;
-            // Colours of middle tone stay whole; the letters and lines in them go.
+            // Medium tones stay opaque; light letters and lines become transparent.
             const double shining = FadedWhite * light * light * light * light;
             const int alpha = qRound(qAlpha(line[x]) * (1 - shining));
             line[x] = qRgba(FadedInk, FadedInk, FadedInk, alpha);

@@ -10,7 +10,7 @@
 namespace
 {
 
-/// A colour that the sheet names, and a role that has it.
+/// A colour that the sheet names and the palette role that provides it.
 struct SheetColor {
     const char* token;
     QPalette::ColorRole role;
@@ -32,7 +32,7 @@ constexpr SheetColor ColorsOfRoles[] = {
     {"on-tip", QPalette::ToolTipText},
 };
 
-/// For which a skin has colours of its own; the role serves in a skin that leaves one out.
+/// Colours that a skin may define; otherwise the role provides them.
 constexpr SheetColor OwnColors[] = {
     {"button-hover", QPalette::Button},
     {"button-pressed", QPalette::Window},
@@ -60,7 +60,7 @@ QHash<QString, QColor> sheetColors(const SkinFile& skin)
     return colors;
 }
 
-/// `sheet` with a colour in the place of each "$token;".
+/// `sheet` with each "$token;" replaced by its colour.
 QString filled(QStringView sheet, const QHash<QString, QColor>& colors)
 {
     const QList<QStringView> parts = sheet.split(u'$');
@@ -81,8 +81,8 @@ QString skinSheet(const SkinFile& skin)
     QFile file(QStringLiteral(":/skins/sheet.qss"));
     file.open(QIODevice::ReadOnly);
     const QString sheet = filled(QString::fromUtf8(file.readAll()), sheetColors(skin));
-    // Under a style sheet the style is not asked how large a number, date or time wants to be: as high as the
-    // lists and edits beside it.
+    // Under a style sheet Qt does not ask the style for the height of number, date and time fields: make
+    // them as high as lists and edits.
     return sheet
         + QStringLiteral("QAbstractSpinBox { min-height: %1px; }\n")
               .arg(QFontMetrics(QApplication::font()).height() + SkinStyle::SpinBoxAir);

@@ -3,5 +3,5 @@
 class QString;
 struct SkinFile;
 
-/// The style sheet of the program in the colours of `skin`, for letters of the application's font.
+/// The program's style sheet in the colours of `skin`, for the size of the application's font.
 QString skinSheet(const SkinFile& skin);

@@ -24,19 +24,19 @@ namespace
 {
 
 constexpr int IndicatorSide = 18;
-/// Above and below the text of a one-line field.
+/// Pixels above and below the text of a one-line field.
 constexpr int FieldPadding = 7;
-/// Of the buttons of a time or number.
+/// Width of the buttons of a time or number field.
 constexpr int ButtonsWidth = 18;
 constexpr int LeastButtonsWidth = 14;
-/// Of the arrow of a list or date.
+/// Width of the arrow of a list or date field.
 constexpr int ArrowWidth = 20;
-/// Around what is written in a list, time or number.
+/// Pixels around the text of a list, time or number field.
 constexpr int FieldFrame = 3;
-/// On either side of the text of a list, together.
+/// Pixels beside the text of a list, both sides together.
 constexpr int LabelMargin = 4;
 constexpr int CursorWidth = 2;
-/// Between the caption of a tab and the ring around it.
+/// Pixels between the caption of a tab and the focus ring.
 constexpr int TabAir = 12;
 constexpr int SmallPicture = 16;
 constexpr int LargePicture = 32;
@@ -62,7 +62,7 @@ int buttonsWidth(const QWidget* widget)
     return qMax(ButtonsWidth, withLetters(LeastButtonsWidth, letters(widget)));
 }
 
-/// Where a field has its arrows. A picker reads from left to right whatever its form does.
+/// The side on which a field has its arrows. A picker reads from left to right, whatever its form does.
 Qt::LayoutDirection sideOfArrows(const QStyleOption& option, const QWidget* widget)
 {
     const auto* picker = qobject_cast<const QDateTimeEdit*>(widget);
@@ -144,7 +144,7 @@ void SkinStyle::drawFocus(const QStyleOption& option, QPainter& painter, const Q
     if (qobject_cast<const QPushButton*>(widget) != nullptr) {
         paintButtonFocus(painter, widget->rect(), option.palette);
     } else if (qobject_cast<const QTabBar*>(widget) != nullptr) {
-        // It is asked for close around the caption, through its letters.
+        // Qt asks for it close around the caption, where it would cross the letters.
         paintFocusRing(painter, option.rect.adjusted(-TabAir, -TabAir / 2, TabAir, TabAir / 2));
     } else {
         paintFocusRing(painter, option.rect);
@@ -158,7 +158,7 @@ void SkinStyle::drawComplexControl(
     if (control == CC_ComboBox) {
         drawComboBox(*option, *painter, widget);
     } else if (control == CC_ToolButton && button != nullptr && isMonthButton(widget)) {
-        // The mark of its menu would lie upon the name of the month.
+        // The menu indicator would cover the name of the month.
         QStyleOptionToolButton unmarked = *button;
         unmarked.features.setFlag(QStyleOptionToolButton::HasMenu, false);
         QProxyStyle::drawComplexControl(control, &unmarked, painter, widget);
@@ -215,7 +215,7 @@ void SkinStyle::drawItemText(QPainter* painter, const QRect& rect, int flags, co
 
 void SkinStyle::drawBusyBar(const QStyleOptionProgressBar& bar, QPainter& to, const QWidget* widget) const
 {
-    // Painted nowhere: it keeps the bar painted again and again, but its stripes can hardly be seen.
+    // Painted nowhere, to keep Qt's animation running; its stripes can hardly be seen.
     QPixmap nowhere(1, 1);
     QPainter unseen(&nowhere);
     QProxyStyle::drawControl(CE_ProgressBarContents, &bar, &unseen, widget);
@@ -313,8 +313,8 @@ int SkinStyle::styleHint(
         return static_cast<int>(option->palette.color(QPalette::Midlight).rgba());
     }
     if (hint == SH_MenuBar_AltKeyNavigation) {
-        // Alt closes no menu: with assistive technology Qt delivers keys late, and the Alt that
-        // opened a menu by a mnemonic would come after it.
+        // With assistive technology Qt delivers keys late: the Alt of the mnemonic that opened a menu
+        // arrives after the menu is open, and must not close it.
         return 0;
     }
     if (hint == SH_EtchDisabledText || hint == SH_DitherDisabledText
@@ -373,10 +373,10 @@ void SkinStyle::polish(QWidget* widget)
 {
     QProxyStyle::polish(widget);
     if (auto* calendar = qobject_cast<QCalendarWidget*>(widget)) {
-        // The calendar's own red is not readable on every ground.
+        // The calendar's red is not readable on every background.
         calendar->setWeekdayTextFormat(Qt::Saturday, {});
         calendar->setWeekdayTextFormat(Qt::Sunday, {});
-        // It would take the direction of its picker.
+        // Otherwise it would take the direction of its picker.
         calendar->setLayoutDirection(QGuiApplication::layoutDirection());
     }
 }
@@ -385,7 +385,7 @@ void SkinStyle::polish(QApplication* application)
 {
     QProxyStyle::polish(application);
     if (const std::optional<Look> look = std::exchange(m_look, std::nullopt)) {
-        // The sheet first: a widget that asks for its style when the palette changes is to find the new one.
+        // The sheet first: a widget that asks for its style when the palette changes must find the new one.
         application->setStyleSheet(look->sheet);
         QApplication::setPalette(look->palette);
     }

@@ -6,21 +6,21 @@
 
 class QStyleOptionProgressBar;
 
-/// Fusion, with fields, indicators and arrows drawn in the colours of the palette, so that no style sheet can
-/// lose them.
+/// Fusion with fields, indicators and arrows drawn in the colours of the palette, so that no style sheet
+/// can lose them.
 ///
-/// Roles: Base is the ground of a field, Text what is written and the arrows, Mid the outline, Highlight the
-/// focus ring and the ground of what is checked, HighlightedText the mark on it.
+/// Roles: Base is the background of a field, Text its text and arrows, Mid the outline, Highlight the focus
+/// ring and the background of checked indicators, HighlightedText the mark on it.
 class SkinStyle final : public QProxyStyle
 {
     Q_OBJECT
 
 public:
-    /// What a style sheet's height of a number, date or time leaves out above and below the text, for one
-    /// that is as high as a list or an edit.
+    /// Pixels that a number, date or time field needs in addition to the height in the style sheet to be as
+    /// high as a list or an edit.
     static constexpr int SpinBoxAir = 8;
 
-    /// What the application takes over together with a style.
+    /// What the application gets together with a style.
     struct Look {
         QPalette palette;
         /// Not empty.
@@ -28,9 +28,9 @@ public:
     };
 
     SkinStyle();
-    /// A style that brings `look` along when it takes the place of another one under a sheet: the application
-    /// asks it in between, when no widget wears a style. So the palette reaches them all, and each is styled
-    /// once.
+    /// A style that brings `look` along when it replaces another one under a style sheet: Qt asks it for
+    /// the look at a moment when no widget has a style. So the palette reaches all widgets, and each is
+    /// styled once.
     explicit SkinStyle(Look look);
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
@@ -48,8 +48,8 @@ public:
         QStyleHintReturn* returned) const override;
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
         const QWidget* widget) const override;
-    /// A picture in a selected row keeps its colours: they tell a status or a category. A disabled one is
-    /// grey, and can be seen on the ground of every skin.
+    /// A picture in a selected row keeps its colours, which stand for a status or a category. A disabled
+    /// one is grey and visible on the background of every skin.
     QPixmap generatedIconPixmap(
         QIcon::Mode mode, const QPixmap& pixmap, const QStyleOption* option) const override;
     QIcon standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const override;
@@ -63,6 +63,6 @@ private:
     void drawSpinBox(const QStyleOptionComplex& option, QPainter& painter, const QWidget* widget) const;
     void drawComboBox(const QStyleOptionComplex& option, QPainter& painter, const QWidget* widget) const;
 
-    /// Until it is put on.
+    /// Until it has been applied.
     std::optional<Look> m_look;
 };

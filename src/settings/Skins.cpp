@@ -38,7 +38,7 @@ QStringList skinFiles(const ProgramFiles& programFiles)
     return paths;
 }
 
-/// What is wrong with a skin in a file of another name: it is loaded by its own.
+/// What is wrong with a skin in a file of another name: skins are loaded by file name.
 QString misnamed(const QString& fileName, const QString& skin)
 {
     return Skins::tr("%1: the file has to be named \"%2\", as its skin is").arg(fileName, skin + Ending);
@@ -65,7 +65,7 @@ QStringList Skins::names()
         try {
             names.append(SkinEngine::skinName(file));
         } catch (const SkinError&) {
-            // Not a skin.
+            // The file is not a skin.
         }
         handlePendingEvents();
     }
@@ -88,7 +88,7 @@ QString Skins::otherFileOf(const QString& name)
                 return QFileInfo(file).fileName();
             }
         } catch (const SkinError&) {
-            // It holds no skin.
+            // The file is not a skin.
         }
     }
     return {};
@@ -96,7 +96,7 @@ QString Skins::otherFileOf(const QString& name)
 
 bool Skins::load(const QString& name, Asked asked)
 {
-    // A list without skins names none.
+    // An empty list has no name.
     if (name.isEmpty()) {
         return false;
     }
@@ -140,7 +140,7 @@ QString Skins::add(const QString& file) const
 {
     QString skin = SkinFile::read(file).name;
     QString name = file.section(u'/', -1);
-    // The folder is searched for this ending, on a file system that minds small letters, too.
+    // The search for skins matches this ending in lower case, which matters on most file systems.
     if (name.endsWith(Ending, Qt::CaseInsensitive)) {
         name.chop(Ending.size());
         name += Ending;
@@ -175,7 +175,7 @@ void Skins::reportOn(QWidget* window)
     reportSoon();
 }
 
-// A box that comes before its window is on the screen opens behind it.
+// Queued: a box that comes up before its window is on the screen would open behind it.
 void Skins::reportSoon()
 {
     const QWindow* window = m_window == nullptr ? nullptr : m_window->windowHandle();
@@ -195,7 +195,7 @@ bool Skins::eventFilter(QObject* watched, QEvent* event)
 
 void Skins::reportPending()
 {
-    // The window is painted again under an open report.
+    // The window is repainted under an open report.
     if (m_reporting) {
         return;
     }

@@ -9,38 +9,39 @@
 
 class MessageBoxes;
 
-/// The skins of the program, the engine that wears them, and the report of those that cannot be worn.
+/// The skins of the program, the engine that applies them, and the report of those that cannot be applied.
 /// One instance in a program.
 class Skins : public QObject
 {
     Q_OBJECT
 
 public:
-    /// `messages` outlives this object. The engine is made on the first use.
+    /// `messages` outlives this object. The engine is made on first use.
     Skins(ProgramFiles files, MessageBoxes& messages, QObject* parent = nullptr);
     ~Skins() override;
 
     /// The file of the skin of that name.
     QString fileOf(const QString& name) const;
-    /// The names of the skins, in the file system's order, the program folder's first; unreadable files are
-    /// left out, and those that a file of the same name in the program folder takes the place of.
-    /// Pending messages other than user input run between the files.
+    /// The names of the skins in the file system's order, those in the program folder first. Unreadable
+    /// files are left out, and so are shipped skins that a file of the same name in the program folder
+    /// replaces. Pending events other than user input are handled between the files.
     QStringList names();
-    /// Who asks for a skin: the start of the program, for the one that is stored, or the user who has chosen
-    /// it just now.
+    /// Who asks for a skin: the start of the program, for the stored one, or the user, who has just chosen
+    /// it.
     enum class Asked { AtStart, ByUser };
-    /// Loads the skin of that name without applying it. False when it cannot be; what `wear` says holds.
+    /// Loads the skin of that name without applying it. False when that fails; reports as `wear` does.
     bool load(const QString& name, Asked asked);
-    /// Whether the skin that was loaded last has that name, and so is on the list.
+    /// Whether the skin loaded last has that name, and so is on the list.
     bool isLoaded(const QString& name) const;
-    /// All windows wear the skin that was loaded last.
+    /// Applies the skin loaded last to all windows.
     void apply();
-    /// Loads and applies the skin of that name. False when it cannot be: the look stays as it was, and the
-    /// user is told once, by file name, when the window of `reportOn` is on the screen. No name is no fault.
-    /// That the skin lies there in a file of another name is told to the user who chooses it, at no start.
+    /// Loads and applies the skin of that name. False when that fails: the look stays, and the user is told
+    /// once, by file name, when the window of `reportOn` is on the screen. An empty name is not a failure.
+    /// That the skin is in a file of another name is told only to a user who chooses it, not at a start.
     bool wear(const QString& name, Asked asked = Asked::ByUser);
-    /// Copies a skin file into the program folder, over a file of that name. The name of the skin. Throws
-    /// RuntimeError for a file that is no skin, or that is not named after its skin: it could not be worn.
+    /// Copies a skin file into the program folder, replacing a file of that name, and returns the skin's
+    /// name. Throws RuntimeError for a file that is no skin or is not named after its skin and so could not
+    /// be loaded.
     QString add(const QString& file) const;
     /// The window over which the reports are shown; not owned.
     void reportOn(QWidget* window);

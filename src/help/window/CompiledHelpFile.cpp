@@ -10,12 +10,12 @@
 namespace
 {
 
-// What the library holds at any time: the directory, a chunk of it, the window of the decompression.
+// For what libmspack holds at a time: the directory, a chunk of it, the decompression window.
 constexpr std::size_t MostMemory = std::size_t{8} * 1024 * 1024;
-// A compressed object is reached by decompressing all that lies before it.
+// To reach a compressed object everything before it has to be decompressed.
 constexpr qint64 FarthestObject = qint64{64} * 1024 * 1024;
 
-/// Either a file that is read or a buffer that is written.
+/// A file that is read or a buffer that is written.
 struct Stream : mspack_file {
     QFile input;
     QByteArray* output = nullptr;
@@ -67,7 +67,7 @@ void ignoreMessage(mspack_file* /*file*/, const char* /*format*/, ...)
 {
 }
 
-/// Lies before what the library was given.
+/// Header in front of each block of memory given to libmspack.
 struct alignas(std::max_align_t) Allocation {
     std::size_t* taken;
     std::size_t bytes;
@@ -122,7 +122,7 @@ struct CompiledHelpFile::System : mspack_system {
         null_ptr = nullptr;
     }
 
-    // The one file is read and one buffer is written, whatever name is asked for.
+    // libmspack reads the one file and writes to one buffer, whatever name it asks for.
     static mspack_file* openStream(mspack_system* system, const char* /*name*/, int mode)
     {
         auto* self = static_cast<System*>(system);
@@ -220,7 +220,7 @@ std::optional<QByteArray> CompiledHelpFile::read(const QString& name, qint64 lar
     const int failure = m_decompressor->extract(m_decompressor, file, "");
     QByteArray bytes;
     bytes.swap(m_system->output);
-    // A file that was cut off yields less without a failure of its own.
+    // A truncated file yields fewer bytes without an error.
     if (failure != MSPACK_ERR_OK || bytes.size() != file->length) {
         return std::nullopt;
     }

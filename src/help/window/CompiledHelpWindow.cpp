@@ -25,11 +25,11 @@ enum Tab { ContentsTab, IndexTab, SearchTab };
 
 constexpr int SmallestText = -3;
 constexpr int LargestText = 12;
-// In lines of text, so that they follow the letters.
+// In characters and lines, so that the size follows the font.
 constexpr QSize FirstSize(68, 45);
 constexpr int PaneWidth = 19;
 
-/// A title as the name of a file: what is no letter or digit becomes a blank.
+/// A title as a file name: what is neither letter nor digit becomes a blank.
 QString fileNameOf(QString title)
 {
     std::replace_if(
@@ -103,7 +103,7 @@ QWidget* CompiledHelpWindow::makeBar()
 QWidget* CompiledHelpWindow::makeTabs()
 {
     m_tabs->setObjectName(QStringLiteral("tabHelp"));
-    // The pane is as wide as its tabs rather.
+    // The pane is wide enough for its tabs instead.
     m_tabs->setUsesScrollButtons(false);
     m_tabs->addTab(m_contents, tr("&Contents"));
     m_tabs->addTab(m_index, tr("&Index"));

@@ -22,8 +22,8 @@ class CompiledHelpWindow final : public HelpWindow
     Q_OBJECT
 
 public:
-    /// `host` outlives the window. `hasPrinter` answers whether there is a printer to print on; it is asked
-    /// by the first print.
+    /// `host` outlives the window. `hasPrinter` returns whether there is a printer; the first print calls
+    /// it.
     CompiledHelpWindow(HelpHost& host, std::function<bool()> hasPrinter);
     ~CompiledHelpWindow() override;
 

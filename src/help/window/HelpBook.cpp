@@ -9,14 +9,14 @@
 namespace
 {
 
-// Entries of /#SYSTEM.
+// Entries of the object /#SYSTEM.
 enum SystemEntry : quint16 { ContentsFile = 0, IndexFile = 1, DefaultTopic = 2, Title = 3 };
 
 constexpr qsizetype ContextSize = 8;
 constexpr int MostContexts = 4096;
 constexpr qsizetype LongestString = 512;
 constexpr qint64 LargestTable = qint64{1024} * 1024;
-// Of all topics together, for a search.
+// Text of all topics together that a search reads.
 constexpr qint64 MostText = qint64{2} * 1024 * 1024;
 constexpr qint64 MostTagsOfAll = 10000;
 constexpr qint64 MostEffort = qint64{64} * 1024 * 1024;
@@ -83,7 +83,7 @@ QByteArray HelpBook::table(const QString& name)
 std::vector<HelpEntry> HelpBook::sitemap(const QString& name)
 {
     const QString object = objectPath(name);
-    // The file names it, so it has to be there.
+    // The file names this object, so it must exist.
     m_isWhole = m_isWhole && (name.isEmpty() || m_file->contains(object));
     return parseSitemap(htmlText(table(object)));
 }

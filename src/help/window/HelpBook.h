@@ -11,10 +11,9 @@ struct HelpHit {
     QString title;
 };
 
-/// What a help file says of itself: contents, index, context numbers, and its topics as plain texts. Tables
-/// of more than 1 MiB are taken for empty ones, contexts beyond the 4,096th and those with names of more than
-/// 512 bytes are passed over; a search reads 2 MiB of topics with 10,000 tags in them and leaves out what
-/// comes after.
+/// The structure of a help file: contents, index, context numbers, and the topics as plain text. Limits:
+/// tables of more than 1 MiB count as empty; contexts beyond the 4,096th or with names of more than 512
+/// bytes are ignored; a search reads 2 MiB of topics with 10,000 tags and ignores the rest.
 class HelpBook
 {
 public:
@@ -22,22 +21,22 @@ public:
     static std::unique_ptr<HelpBook> open(const QString& path);
 
     const QString& title() const { return m_title; }
-    /// The name of the topic that opens first, with its leading "/".
+    /// The name of the topic that is shown first, with its leading "/".
     const QString& defaultTopic() const { return m_defaultTopic; }
     const std::vector<HelpEntry>& contents() const { return m_contents; }
     /// Sorted by name.
     const std::vector<HelpEntry>& index() const { return m_index; }
-    /// The topic of a context number; nothing when the file does not know the number.
+    /// The topic of a context number; none when the file does not know the number.
     std::optional<QString> topicOf(qint32 context) const;
     const QMap<qint32, QString>& contexts() const { return m_contexts; }
-    /// Whether contents, index and context numbers could be read, as far as the file says that it has them.
+    /// Whether contents, index and context numbers could be read, if the file says that it has them.
     bool isWhole() const { return m_isWhole; }
     /// The names of all topics.
     QStringList topics() const;
     const CompiledHelpFile& file() const { return *m_file; }
 
-    /// The topics that contain every word of `query` in whatever letter case, those with a word in their
-    /// title first, however letters with marks are typed. None for an empty query.
+    /// The topics that contain every word of `query`, regardless of case and of how marked letters are
+    /// typed; those with a word in their title first. None for an empty query.
     std::vector<HelpHit> find(const QString& query) const;
     static QStringList wordsOf(const QString& query);
 
@@ -51,7 +50,7 @@ private:
     explicit HelpBook(std::unique_ptr<CompiledHelpFile> file);
     void readSystem();
     void readContexts();
-    /// Empty, and the book not whole, when it cannot be read.
+    /// Empty when it cannot be read, and then the book is not whole.
     QByteArray table(const QString& name);
     std::vector<HelpEntry> sitemap(const QString& name);
     const std::vector<TopicText>& texts() const;

@@ -152,7 +152,7 @@ bool IndexPane::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == m_input && event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();
-        // The list follows the keys while the input keeps the focus.
+        // These keys work the list while the input keeps the focus.
         if (key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_Return || key == Qt::Key_Enter) {
             QCoreApplication::sendEvent(m_list, event);
             return true;

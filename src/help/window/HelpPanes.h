@@ -9,7 +9,7 @@ class QLineEdit;
 class QPushButton;
 struct HelpEntry;
 
-/// A list whose entries are chosen by a click or by Enter, whatever the desktop's habits.
+/// A list whose entries are chosen by a click or by Enter on every desktop.
 class ChoiceList : public QListWidget
 {
     Q_OBJECT
@@ -25,7 +25,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 };
 
-/// The contents of a help file as a tree; the entry that is selected is the topic on show.
+/// The contents of a help file as a tree; the selected entry is the topic that is shown.
 class ContentsPane : public QTreeWidget
 {
     Q_OBJECT
@@ -40,7 +40,7 @@ signals:
     void topicChosen(const QString& topic);
 };
 
-/// The index of a help file: typing selects the first entry that begins so, Enter opens it.
+/// The index of a help file: typing selects the first entry that begins with it, Enter opens that.
 class IndexPane : public QWidget
 {
     Q_OBJECT

@@ -21,7 +21,7 @@ QString withoutEntities(QString text)
     return text.replace(QLatin1String("&amp;"), QLatin1String("&"));
 }
 
-/// The attributes of a tag, by lower-case name.
+/// The attributes of a tag, by name in lower case.
 QHash<QString, QString> attributesOf(const QString& tag)
 {
     static const QRegularExpression attribute(
@@ -65,7 +65,7 @@ private:
     void deeper()
     {
         std::vector<HelpEntry>* level = m_levels.back();
-        // Too deep, or a list that belongs to no entry: its entries join the level around it.
+        // Too deep, or a list without an entry before it: its entries join the level around it.
         const bool belongs = !level->empty() && m_levels.size() < DeepestLevel;
         m_levels.push_back(belongs ? &level->back().children : level);
     }
@@ -74,7 +74,7 @@ private:
     {
         const QString name = attributes.value(QStringLiteral("name")).toLower();
         const QString value = attributes.value(QStringLiteral("value"));
-        // An index entry may go on with further topics; the first is the one that it opens.
+        // An index entry may name further topics; it opens the first one.
         if (name == QLatin1String("name") && m_entry.name.isEmpty()) {
             m_entry.name = value;
         } else if (name == QLatin1String("local") && m_entry.topic.isEmpty()) {
@@ -92,7 +92,7 @@ private:
     }
 
     std::vector<HelpEntry> m_entries;
-    // A level grows only while it is the last one, so the pointers below it stay good.
+    // Only the last level grows, so the pointers below it stay valid.
     std::vector<std::vector<HelpEntry>*> m_levels;
     HelpEntry m_entry;
     int m_count = 0;

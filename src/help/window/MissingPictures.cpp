@@ -43,7 +43,7 @@ std::vector<Picture> missingIn(const QTextDocument& topic)
             }
             const auto image =
                 topic.resource(QTextDocument::ImageResource, QUrl(format.name())).value<QImage>();
-            // Alike pictures in a row are one part.
+            // Equal pictures in a row are one fragment.
             for (int i = 0; image.cacheKey() == noPicture().cacheKey() && i < fragment.length(); ++i) {
                 missing.push_back({fragment.position() + i, format});
             }
@@ -52,7 +52,7 @@ std::vector<Picture> missingIn(const QTextDocument& topic)
     return missing;
 }
 
-/// That of the text around the picture, within its link.
+/// The format of the text around the picture, including its link.
 QTextCharFormat textFormat(QTextCharFormat format)
 {
     format.setObjectType(QTextFormat::NoObject);
@@ -76,7 +76,7 @@ bool tellMissingPictures(QTextDocument& topic)
     const std::vector<Picture> missing = missingIn(topic);
     QTextCursor cursor(&topic);
     cursor.beginEditBlock();
-    // From the end, so that the places of the others stay.
+    // From last to first, so that the positions of the others stay valid.
     for (auto picture = missing.rbegin(); picture != missing.rend(); ++picture) {
         QTextImageFormat format = picture->format;
         const QString text = format.stringProperty(QTextFormat::ImageAltText).simplified();

@@ -4,12 +4,12 @@
 
 class QTextDocument;
 
-/// What stands for a picture that the help file does not hold: a small frame with a cross in it, grey, to be
-/// seen on light and dark ground. For a null picture Qt would read the file of that name on the
-/// disk.
+/// Shown for a picture that the help file does not hold: a small grey frame with a cross, visible on light
+/// and dark backgrounds. Workaround: for a null image Qt 6.4.2 reads the file of that name from the disk
+/// (tst_qt_workarounds, aPictureThatIsNotThereIsReadFromTheDisk).
 const QImage& noPicture();
 
-/// Lets the alternative text follow each picture of `topic` that is missing, for which noPicture() is the
-/// resource, and gives that its own size. To be done once, when the topic has been read. Answers whether
-/// there were any.
+/// Adds the alternative text behind each missing picture of `topic`, whose resource must be noPicture(),
+/// and gives that its own size. To be called once, after the topic was read. Returns whether any picture
+/// was missing.
 bool tellMissingPictures(QTextDocument& topic);

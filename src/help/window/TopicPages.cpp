@@ -16,10 +16,10 @@ namespace
 {
 
 constexpr qreal TextPoints = 10;
-constexpr qreal PointsPerInch = 96; ///< of a picture
+constexpr qreal PointsPerInch = 96; ///< in which pictures are measured
 constexpr qreal InchesPerMetre = 1 / 0.0254;
 
-/// A device as fine as the pages.
+/// A device with the resolution of the pages.
 QImage unitDevice()
 {
     QImage device(1, 1, QImage::Format_RGB32);
@@ -34,7 +34,7 @@ struct PartPlace {
     QTextCharFormat format;
 };
 
-/// The parts of a document that are formatted alike.
+/// The parts of a document that share a format.
 std::vector<PartPlace> partsOf(const QTextDocument& document)
 {
     std::vector<PartPlace> parts;
@@ -48,15 +48,14 @@ std::vector<PartPlace> partsOf(const QTextDocument& document)
     return parts;
 }
 
-/// The picture of that name; a small frame when there is none: a null picture would be looked for on the
-/// disk.
+/// The picture of that name, or noPicture(): Qt would look for a null image on the disk.
 QImage pictureOf(const QTextDocument& document, const QString& name)
 {
     const auto picture = document.resource(QTextDocument::ImageResource, QUrl(name)).value<QImage>();
     return picture.isNull() ? noPicture() : picture;
 }
 
-/// The size that a picture asks for, made to fit into `largest`.
+/// The size that a picture asks for, scaled down to fit into `largest`.
 QSizeF sizeOf(const QTextImageFormat& format, const QImage& picture, QSizeF largest)
 {
     QSizeF size(format.width() > 0 ? format.width() : picture.width(),
@@ -67,7 +66,7 @@ QSizeF sizeOf(const QTextImageFormat& format, const QImage& picture, QSizeF larg
     return size;
 }
 
-/// What is to stay on one page.
+/// A range of heights that should stay on one page.
 struct Strip {
     qreal top;
     qreal bottom;
@@ -119,7 +118,7 @@ std::vector<Strip> stripsOf(const QTextDocument& document)
     return strips;
 }
 
-/// The last place between `first` and `limit` where no strip is cut; `limit` when there is none.
+/// The last position between `first` and `limit` that cuts no strip; `limit` when there is none.
 qreal lastCut(const std::vector<Strip>& strips, qreal first, qreal limit)
 {
     qreal cut = limit;
@@ -146,7 +145,7 @@ TopicPages::TopicPages(const QTextDocument& topic, QSizeF area)
 
 TopicPages::~TopicPages() = default;
 
-/// All of them: the document would look for one that it does not have on the disk.
+/// All of them: Qt would look on the disk for one that the document does not have.
 void TopicPages::copyPictures(const QTextDocument& topic)
 {
     for (const PartPlace& part : partsOf(topic)) {
@@ -157,14 +156,14 @@ void TopicPages::copyPictures(const QTextDocument& topic)
     }
 }
 
-/// Inks the links and sizes the pictures: one of their points is 1/96 inch, but none is larger than the page.
+/// Makes links black and sizes the pictures: their pixels are 1/96 inch, and none is larger than the page.
 void TopicPages::dress()
 {
     QFont font(QGuiApplication::font().family());
     font.setPointSizeF(TextPoints);
     m_document->setDefaultFont(font);
     const QSizeF largest = m_area * PointsPerInch / UnitsPerInch;
-    // The document takes sizes as points of the screen.
+    // The document takes sizes in pixels of the screen.
     const qreal screen = QImage(1, 1, QImage::Format_RGB32).logicalDpiX() / PointsPerInch;
     QTextCursor cursor(m_document.get());
     for (const PartPlace& part : partsOf(*m_document)) {

@@ -9,9 +9,9 @@
 
 class QTextDocument;
 
-/// A help topic on paper: its text and pictures in black on white, whatever skin it is read in and however
-/// large its letters are there. Lines, pictures and rows of tables are split between pages only where they
-/// are taller than one. Reads nothing but `topic`, which it copies.
+/// A help topic on paper: text and pictures in black on white, whatever the skin and text size on the
+/// screen. Lines, pictures and table rows are split between pages only when they are taller than a page.
+/// Copies what it needs from `topic`.
 class TopicPages final : public PrintedPages
 {
 public:
@@ -28,8 +28,8 @@ private:
     void findPageStarts();
 
     QSizeF m_area;
-    QImage m_device; ///< says how many units an inch has
+    QImage m_device; ///< with so many dots per inch as there are units
     std::unique_ptr<QTextDocument> m_document;
-    /// Where the pages begin in the document, and below them where it ends.
+    /// Where the pages begin in the document, and at the end where it ends.
     std::vector<qreal> m_cuts;
 };

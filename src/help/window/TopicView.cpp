@@ -15,7 +15,7 @@ namespace
 {
 
 constexpr char Scheme[] = "help";
-// Of one topic. A pixel takes four bytes.
+// For the pictures of one topic. A pixel takes four bytes.
 constexpr qint64 MostPixels = qint64{8} * 1024 * 1024;
 constexpr qint64 LongestStyle = qint64{64} * 1000;
 constexpr int MostMarks = 1000;
@@ -65,7 +65,7 @@ void TopicView::openTopic(const QString& topic, const QStringList& markedWords)
 {
     m_markedWords = markedWords;
     if (m_stale && !source().isEmpty()) {
-        // The history's last page would not be read again.
+        // The topic shown last would not be read again.
         reload();
     }
     const QUrl url = urlOf(topic);
@@ -113,7 +113,7 @@ void TopicView::openLink(const QUrl& link)
 
 QVariant TopicView::loadResource(int type, const QUrl& name)
 {
-    // Never the base class: it would read any file of the disk.
+    // Never the base class, which reads any file from the disk.
     const QUrl url = m_page.resolved(name);
     switch (type) {
     case QTextDocument::HtmlResource:
@@ -178,7 +178,7 @@ void TopicView::setTextSize(int steps)
 void TopicView::changeEvent(QEvent* event)
 {
     QTextBrowser::changeEvent(event);
-    // The colour of a link becomes part of the document when it is read.
+    // The document takes the colour of links from the palette when it is read.
     if (event->type() == QEvent::PaletteChange && !m_stale && !m_reloading) {
         m_reloading = true;
         const int scrolled = verticalScrollBar()->value();
@@ -191,7 +191,7 @@ void TopicView::changeEvent(QEvent* event)
 void TopicView::complete(const QString& place)
 {
     if (std::exchange(m_justRead, false) && tellMissingPictures(*document()) && !place.isEmpty()) {
-        // Qt has scrolled there already, and then it moved.
+        // Qt has scrolled there before the alternative texts were added.
         scrollToAnchor(place);
     }
 }

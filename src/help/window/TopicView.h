@@ -7,9 +7,9 @@
 
 class HelpBook;
 
-/// Shows topics of a help file. Pictures and style sheets come from the file alone, never from the disk or
-/// the net. The pictures of one topic take 32 MiB together, its style sheets 64 kB; what comes after is left
-/// out. Where a picture is missing stand a small frame and its alternative text.
+/// Shows topics of a help file. Pictures and style sheets come only from that file, never from the disk or
+/// the net. The pictures of a topic take 32 MiB together, its style sheets 64 kB; the rest is left out. A
+/// missing picture is shown as a small frame and its alternative text.
 class TopicView : public QTextBrowser
 {
     Q_OBJECT
@@ -17,15 +17,15 @@ class TopicView : public QTextBrowser
 public:
     explicit TopicView(QWidget* parent = nullptr);
 
-    /// The file that topics come from, null for none; it outlives the view or the next call. Forgets the
-    /// history.
+    /// The file of the topics, null for none; must outlive the view or the next call. Clears the history.
     void setBook(const HelpBook* book);
-    /// `topic` is the name of an object, perhaps with "#" and a place in it. The words are shown marked; the
-    /// first of them, else the place, else the top is scrolled to, in the topic on show, too.
+    /// `topic` is the name of an object, possibly with "#" and an anchor. `markedWords` are highlighted;
+    /// scrolls to the first of them, else to the anchor, else to the top, also if the topic is shown
+    /// already.
     void openTopic(const QString& topic, const QStringList& markedWords = {});
-    /// Shows a message of the program's own, as plain text, until a topic is opened.
+    /// Shows a message of the program as plain text until a topic is opened.
     void showMessage(const QString& title, const QString& text);
-    /// The name of the object on show; empty for a message.
+    /// The name of the object shown; empty for a message.
     QString topic() const;
 
     void setTextSize(int steps);
@@ -43,25 +43,25 @@ private:
     QString page(const QUrl& url) const;
     QImage picture(const QUrl& url);
     QString styleSheet(const QUrl& url);
-    /// Nothing when the file has no such object or one of more bytes.
+    /// None when the file has no such object or it has more bytes.
     std::optional<QByteArray> object(const QUrl& url, qint64 largest) const;
     void openLink(const QUrl& link);
-    /// The top when `place` is empty.
+    /// To the top when `place` is empty.
     void scrollTo(const QString& place);
     void markWords();
-    /// Completes a page that has been read; `place` is empty for its top.
+    /// Completes a page that has just been read; `place` is empty for its top.
     void complete(const QString& place);
 
     const HelpBook* m_book = nullptr;
-    /// The page that is being read or shown; what it refers to is relative to it.
+    /// The page that is being read or shown; links in it are relative to it.
     QUrl m_page;
-    /// What the page may still load.
+    /// What the present page may still load.
     qint64 m_pixelsLeft = 0;
     qint64 m_styleLeft = 0;
     QStringList m_markedWords;
-    /// The page has been read and what it refers to has not.
+    /// The page has been read, but not what it refers to.
     bool m_justRead = false;
-    /// What is on show is not the topic that the history has last.
+    /// What is shown is not the last topic of the history.
     bool m_stale = true;
     int m_textSize = 0;
     bool m_reloading = false;
