@@ -69,8 +69,9 @@ bool runsBothWays(const QString& text)
         [](QChar c) { return c.direction() == QChar::DirR || c.direction() == QChar::DirAL; });
 }
 
-// Outlines instead of text: QPicture records texts, not glyphs, and misplaces the blanks between runs of
-// different directions when it is replayed.
+// Workaround: outlines instead of text for QPrintPreviewWidget, which records pages in a QPicture. That
+// keeps texts, not glyphs, and misplaces the blanks between runs of different directions when it is
+// replayed (Qt 6.4.2; seen, not tested).
 void paintOutlines(QPainter& painter, const QTextLine& line, QPointF position)
 {
     painter.save();

@@ -313,8 +313,9 @@ int SkinStyle::styleHint(
         return static_cast<int>(option->palette.color(QPalette::Midlight).rgba());
     }
     if (hint == SH_MenuBar_AltKeyNavigation) {
-        // With assistive technology Qt delivers keys late: the Alt of the mnemonic that opened a menu
-        // arrives after the menu is open, and must not close it.
+        // Workaround: with assistive technology Qt 6.4.2 delivers keys late. The Alt of the mnemonic that
+        // opened a menu arrives after the menu is open, and must not close it (tst_skins,
+        // aMenuStaysOpenWhenTheAltOfItsMnemonicComesLate).
         return 0;
     }
     if (hint == SH_EtchDisabledText || hint == SH_DitherDisabledText

@@ -14,6 +14,7 @@ inline constexpr qsizetype MostTags = 2000;
 QString topicText(const QByteArray& bytes);
 
 /// A topic as a document without colours and fonts, which reads nothing from anywhere. Null for what would
-/// take Qt very long: too many tags (unclosed tags take quadratic time) or tables nested too deeply (each
-/// level doubles the time of the layout).
+/// take Qt 6.4.2 very long: too many tags (unclosed tags take quadratic time) or tables nested too deeply
+/// (each level doubles the time of the layout); tst_hostile_help,
+/// aTopicThatQtWouldReadForHoursIsToldInstead.
 std::unique_ptr<QTextDocument> readTopic(const QString& html);
