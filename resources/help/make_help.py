@@ -6,7 +6,7 @@
 SOURCE_FOLDER holds the topics (*.html), the folder pictures, help.css, Ambertask.hhc (contents), Ambertask.hhk (index) and contexts.txt
 (a context number and its topic a line). Fails when a link, a picture or a context leads nowhere, or when a topic is
 missing in the contents. The same sources make the same bytes. Nothing is compressed: the file is small, and every
-reader takes it.
+reader takes it. The usual free compiler is not used: it loses the context number 0.
 """
 import html.parser
 import os

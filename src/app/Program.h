@@ -104,7 +104,8 @@ private:
     void onCategorySaved();
     void onCategoriesChanged();
     void onDataRestored();
-    /// After a restore: the ids that windows remember mean other records in the new data file.
+    /// After a restore the ids that windows remember mean other records: an open dialog keeps its input and
+    /// stores it as a new record, the alert empties its list and the next tick fills it.
     void forgetRecords();
     /// Names the records that lists have left out since the last call, once the main window has been seen.
     void tellUnreadableRecords();

@@ -9,7 +9,8 @@ inline constexpr char PictureProgram[] = "ambertask_pictures";
 
 /// Reads picture files one after the other without blocking the interface: in a separate process that runs
 /// while there is something to read, or, where that is not possible, one picture at a time between events.
-/// Interface thread only.
+/// Twenty large pictures would hold up a start for half a minute; a thread would be the only one of the
+/// program, and a hostile picture would crash it. Interface thread only.
 class PictureReader final : public QObject
 {
     Q_OBJECT

@@ -6,9 +6,10 @@
 
 class Modules;
 
-/// The window that shows a compiled help file: contents, index, search and topics. It is in a module that
-/// the first request for help loads. A file that cannot be read is not an error: the window says so.
-/// Interface thread only.
+/// The window that shows a compiled help file: contents, index, search and topics. Our own on every
+/// platform: it behaves, searches and is tested alike everywhere, and wears the skin, which the viewer of
+/// Windows does not. It is in a module that the first request for help loads. A file that cannot be read is
+/// not an error: the window says so. Interface thread only.
 class HelpWindow : public QWidget
 {
 public:

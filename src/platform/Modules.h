@@ -6,7 +6,8 @@
 
 /// The modules of the program, which are loaded on first use, and the helper programs beside them. Their
 /// files are held open from the start: when an upgrade replaces them, a running copy goes on with its own
-/// version. Interface thread only.
+/// version, whose interfaces fit. They lie in a folder of their version, so that a start during an upgrade
+/// finds none rather than another version's. Interface thread only.
 class Modules
 {
 public:

@@ -7,9 +7,10 @@ class LockFile;
 
 /// Guards against two copies of the program on one program folder, until it is released or the process ends
 /// in whatever way. Only the owner of the folder can take it: it is a lock on a private file beside
-/// data.dat, removed with the guard. In a folder that takes no new file, because it is read-only or full,
-/// it is a lock on data.dat itself. (Once a full folder has room again, a second copy does not notice that
-/// lock.)
+/// data.dat, removed with the guard. (Whoever may read the folder could lock the folder itself; a lock on
+/// data.dat would stay on the old file after a restore.) In a folder that takes no new file, because it is
+/// read-only or full, it is a lock on data.dat, which is never restored there. (Once a full folder has room
+/// again, a second copy does not notice that lock.)
 class SingleInstance
 {
 public:

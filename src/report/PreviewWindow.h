@@ -69,7 +69,9 @@ private:
     std::function<bool()> m_hasPrinter;
     std::chrono::milliseconds m_patience;
     std::shared_ptr<const ReportContent> m_content;
-    QPrinter m_printer; ///< for page sizes only: it writes no file and needs no real printer
+    /// For page sizes only. In PDF format, which needs no real printer (QPageSetupDialog would need one); it
+    /// writes no file.
+    QPrinter m_printer;
     std::shared_ptr<const ReportLayout> m_layout;
     int m_page = 0;
     QPrintPreviewWidget* m_preview;

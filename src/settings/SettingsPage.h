@@ -29,7 +29,8 @@ public:
     /// Fills the list of skins from the folders and selects the first.
     void LoadSkinsList();
     /// The same during a start: if the stored skin is loaded, lists only that one until
-    /// `completeSkinsList`, as nobody sees the others before the first painting.
+    /// `completeSkinsList`, as nobody sees the others before the first painting. If it cannot be loaded all
+    /// files are read at once, and the first of the list is applied.
     void startSkinsList();
     void completeSkinsList();
     /// Copies the settings record into the controls.

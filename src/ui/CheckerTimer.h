@@ -1,7 +1,8 @@
 #pragma once
 
 /// The switch of the reminder checker's timer, for windows that show a file dialog: no alert is to pop up
-/// over it.
+/// over it. Only for file dialogs: a reminder that comes up under another box is seen and heard, and
+/// answered after the box; pausing would silence it as long as the box is open.
 class CheckerTimer
 {
 public:

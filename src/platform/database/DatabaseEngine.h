@@ -47,8 +47,9 @@ struct DatabaseEngine {
     QString programFolder; ///< absolute path of the folder that holds the data file
     const Clock* clock = nullptr; ///< not owned; answers now() in statements
     StatementListener* listener = nullptr; ///< not owned; may be null
-    /// Not owned; null except for an operation that shows how far it is. Called during statements, with
-    /// unknown length; code that it runs may find the data file locked.
+    /// Not owned; null except for a bulk deletion and the check of a restore. Called during statements,
+    /// with unknown length; code that it runs may find the data file locked. A tick during a bulk deletion
+    /// sees the file as it was; its mark is refused and made up for by the next tick.
     Progress* progress = nullptr;
     /// Not owned; may be null. Where it points to false, the first connection that writes checks the file
     /// first, as SQLite could write over living records of a file with damage that reading does not notice.

@@ -155,7 +155,10 @@ void Session::harden()
     }
     // Large sorts hold the user's texts: they stay in memory, out of the folder for temporary files. The
     // second pragma makes SQLite read the schema, so that a file that is no database is noticed here and an
-    // interrupted operation is rolled back.
+    // interrupted operation is rolled back. EXTRA, not FULL: a commit ends with the removal of the journal,
+    // and until the folder is flushed, as EXTRA does, a power cut would bring the journal back and undo an
+    // operation that was reported as done (measured: 6.0 instead of 3.7 ms for an insert on a new
+    // connection).
     check(executeOwn("PRAGMA temp_store=MEMORY; PRAGMA synchronous=EXTRA"));
 }
 
