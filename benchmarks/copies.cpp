@@ -17,7 +17,7 @@ int main(int argc, char** argv)
     const DataFileCopies copies(file.engine());
     const QString backup = file.folder() + QStringLiteral("/backup.abk");
     const QString plain = file.folder() + QStringLiteral("/plain");
-    // To a new file each time: where one is replaced, the memory of the old one serves the new one.
+    // To a new file each time: replacing one would reuse the memory of the old one.
     const auto copy = [&] {
         QFile::remove(plain);
         plainCopy(file.path(), plain);
@@ -28,7 +28,7 @@ int main(int argc, char** argv)
     };
     bench.ratio(QStringLiteral("Backup of %1 MB; plain copy with a flush").arg(size, 0, 'f', 0),
         bench.alternate(9, backUp, copy), 1.1);
-    // As many as the ids have room for.
+    // As many as there are ids.
     const TaskFile full({bench.size(32'767, 100)});
     const DataFileCopies store(full.engine());
     const QString toRestore = full.folder() + QStringLiteral("/backup.abk");

@@ -27,7 +27,7 @@ void benchReading(Bench& bench, TaskFile& file, int tasks)
     bench.ratio(QStringLiteral("GetTasks, all of %1 tasks; bare scan").arg(count(tasks)), medians, 1.15);
 }
 
-/// What the list by name took before readers' order: the engine's order of the same tasks, as records.
+/// The time of the list by name without the readers' order: SQLite's order of the same tasks, as records.
 void readInOrderOfTheEngine(const TaskFile& file)
 {
     Connection connection = ClsDatabase(file.engine()).Connect();
@@ -45,7 +45,7 @@ void benchNames(Bench& bench)
 {
     const int tasks = bench.size(10'000, 200);
     TaskFile file({tasks});
-    // In no order, one in eight with a letter beyond ASCII, one in two with a number.
+    // Unsorted; one in eight with a letter beyond ASCII, every second one with a number.
     file.run(QStringLiteral(
         "update tasks set task_name = substr(printf('%08X', task_id*2654435761%4294967296),1,5)"
         "||case task_id%8 when 0 then ' \u00e4\u00df' else ' of the list' end"
@@ -126,7 +126,8 @@ void benchMemory(Bench& bench, TaskFile& file, int tasks)
         QStringLiteral("MB"));
 }
 
-/// A list in the middle of which frames are made: one row on, selected or scrolled to, and painted.
+/// A list scrolled to its middle, for measuring single frames: one row on, selected or scrolled to, and
+/// painted.
 class FrameMaker
 {
 public:

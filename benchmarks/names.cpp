@@ -1,4 +1,4 @@
-// One task whose name has no end, as another program may have written it, in a list of ordinary ones.
+// One task with an extremely long name, as another program may have written it, in a list of ordinary ones.
 #include "reminders/frmAlerts.h"
 #include "support/Bench.h"
 #include "support/BenchProgram.h"

@@ -26,7 +26,7 @@ QString count(int tasks)
     return QLocale(QLocale::English).toString(tasks);
 }
 
-/// What the program hands to the report's window.
+/// What the program passes to the report's window.
 std::shared_ptr<const ReportContent> contentOf(const TaskFile& file)
 {
     TestServices world;
@@ -65,7 +65,7 @@ void paintFirstPages(const std::shared_ptr<const ReportContent>& content)
     }
 }
 
-/// Looks at the memory now and then: a look takes as long as half a page.
+/// Looks at the memory only now and then: one look takes as long as half a page.
 class MemoryPeak final : public Progress
 {
 public:
@@ -80,7 +80,7 @@ public:
     double bytes = 0;
 };
 
-/// A report of a full house never holds up the windows for long.
+/// A report of a full house must not block the windows for long.
 void benchSteps(Bench& bench, const QString& file)
 {
     constexpr double Longest = 150; // ms
@@ -98,7 +98,7 @@ void benchSteps(Bench& bench, const QString& file)
         ofExport.milliseconds(), Longest, QStringLiteral("ms"));
 }
 
-/// By how much the memory grows in an export, where it is largest, in MB.
+/// The largest growth of memory during an export, in MB.
 double growth(const std::shared_ptr<const ReportContent>& content, const QString& file)
 {
     returnFreedMemory();

@@ -19,7 +19,7 @@
 namespace
 {
 
-/// As many as the ids have room for.
+/// As many as there are ids.
 constexpr int Full = 32'767;
 constexpr double Longest = 150; // ms
 constexpr int Repetitions = 9;
@@ -68,7 +68,7 @@ public:
         sorted(QStringLiteral("by status"), TaskSort::Status);
         sorted(QStringLiteral("by due date"), TaskSort::DueDate);
         sorted(QStringLiteral("by priority"), TaskSort::Periority);
-        // The order that takes longest stays, for all that follows loads the list.
+        // Sorted by the slowest order, for everything that follows loads the list.
         house.choose("cmbSort", TaskSort::DueDate);
         tell(QStringLiteral("saved settings, the list by due date"),
             m_bench.median(Repetitions, [&] { house.press(house.main(), "btnSave"); }));
@@ -190,7 +190,7 @@ private:
         action();
         return (cpuSeconds() - before) * 1000;
     }
-    /// The median of what `action` takes after a `preparation` that does not count.
+    /// The median time of `action`; `preparation` runs before each and is not counted.
     double timesOf(const Bench::Action& preparation, const Bench::Action& action) const
     {
         std::vector<double> taken;

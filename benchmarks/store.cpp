@@ -130,7 +130,7 @@ void benchSaving(Bench& bench)
 
 } // namespace
 
-// The engine's calls come here: flushes are counted, and made.
+// Stands in for the C library's calls that SQLite makes: counts flushes, and makes them.
 extern "C" int fsync(int file)
 {
     ++flushes;

@@ -45,7 +45,7 @@ Statement prepared(sqlite3* database, const QString& sql)
     return {statement, sqlite3_finalize};
 }
 
-/// Somewhere for what was read to go, so that the reading is not optimized away.
+/// A sink for what was read, so that the reading is not optimized away.
 volatile qint64 readSoFar = 0;
 
 void readRow(sqlite3_stmt* statement, int columns)

@@ -7,16 +7,16 @@
 
 /// User and system CPU time that this process has taken so far, in all threads; seconds.
 double cpuSeconds();
-/// The memory of this process that stands for no file, so that what other processes share or give up does not
+/// Memory of this process that is backed by no file, so that what other processes share or give up does not
 /// count; bytes.
 double anonymousBytes();
-/// Gives freed memory back to the system, so that what is measured next is what is in use.
+/// Gives freed memory back to the system, so that the next measurement shows memory in use.
 void returnFreedMemory();
 
-/// One benchmark program: measures, and prints one line a result for script/bench, an object in JSON.
+/// One benchmark program: measures, and prints one JSON object a line for script/bench.
 ///
-/// With `--smoke` every size is tiny and every repetition is made once: that proves that the benchmark still
-/// runs, and its numbers say nothing.
+/// With `--smoke` every size is tiny and everything runs once: that proves that the benchmark still runs;
+/// its numbers mean nothing.
 class Bench
 {
 public:
@@ -28,7 +28,7 @@ public:
     /// `full`, or `tiny` for a smoke test.
     int size(int full, int tiny) const { return m_smoke ? tiny : full; }
 
-    /// Of CPU time in milliseconds, where nothing else is said.
+    /// In milliseconds of CPU time, unless the title says otherwise.
     struct Medians {
         double ours = 0;
         double reference = 0;
@@ -36,7 +36,8 @@ public:
     /// Runs both actions alternately, `repetitions` times each, after a first run that is not counted.
     Medians alternate(int repetitions, const Action& ours, const Action& reference) const;
     using Measurement = std::function<double()>;
-    /// Medians of what two measurements answer, made alternately, after a first of each that is not counted.
+    /// Medians of what two measurements return, made alternately after a first run of each that is not
+    /// counted.
     Medians alternateValues(int repetitions, const Measurement& ours, const Measurement& reference) const;
     /// The median of CPU time of an action, in milliseconds.
     double median(int repetitions, const Action& action) const;

@@ -14,8 +14,7 @@
 #include <QFile>
 #include <QStyleFactory>
 
-/// The whole program over the data file of a benchmark, on a machine that only remembers, its window on the
-/// screen.
+/// The whole program on the data file of a benchmark, with a recording machine, its window on the screen.
 struct BenchProgram {
     explicit BenchProgram(TaskFile& file, ReportWindowFactory reportWindow = {})
         : program(Machine{file.engine(), dialogs, dialogs, dialogs, shell, registry, {}, [] { return true; },

@@ -1,7 +1,6 @@
-// Loaded into a program from outside (LD_PRELOAD): ends it as soon as its window "frmMain" has been painted
-// and says on the descriptor AMBERTASK_FIRST_PAINT what that took: CPU time in seconds, proportional memory
-// and peak of the resident memory in kB, how many libraries for sound, printing, help and network it has
-// loaded.
+// Preloaded into a program (LD_PRELOAD): ends it as soon as its window "frmMain" has been painted and
+// writes to the file descriptor AMBERTASK_FIRST_PAINT what that took: CPU time in seconds, proportional and
+// peak resident memory in kB, number of loaded libraries for sound, printing, help and network.
 #include <QCoreApplication>
 #include <QEvent>
 #include <QFile>
@@ -50,7 +49,7 @@ public:
     {
         if (event->type() == QEvent::Paint && watched->objectName() == QLatin1String("frmMain")) {
             qApp->removeEventFilter(this);
-            // All of the window is painted and handed to the screen in one go; nothing comes between that and
+            // The whole window is painted and sent to the screen at once; nothing happens between that and
             // this.
             QCoreApplication::postEvent(this, new QEvent(QEvent::User), Qt::HighEventPriority);
         }

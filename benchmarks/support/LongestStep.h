@@ -6,8 +6,8 @@
 #include <QTimer>
 #include <algorithm>
 
-/// The longest time that an operation takes between two tellings, so long no event is handled; or between two
-/// rounds of the event loop, where it watches those.
+/// The longest time between two calls of `advance` of an operation, when no event is handled; or between
+/// two rounds of the event loop, if that is watched.
 class LongestStep final : public Progress
 {
 public:
@@ -23,7 +23,7 @@ public:
         m_last = now;
     }
 
-    /// Of CPU time, once the operation has ended; it began with this object.
+    /// In CPU time; valid when the operation has ended, which began with this object.
     double milliseconds()
     {
         advance(0, 0);

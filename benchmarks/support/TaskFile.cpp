@@ -13,7 +13,7 @@ TaskFile::TaskFile(const TaskFileContent& content)
     }
     m_engine.programFolder = folder();
     m_engine.clock = &m_clock;
-    // 50 tasks are due on a day, in no order; the multiplier is prime to every size used.
+    // 50 tasks are due on each day, in mixed order; the multiplier is coprime to every size used.
     QString fill = QStringLiteral(
         "with recursive n(i) as (select 0 union all select i+1 from n where i+1<:tasks) "
         "insert into tasks(task_name,task_desc,task_status,cat_id,task_due_date,task_periority,reminder_on,"

@@ -5,15 +5,14 @@
 
 #include <QTemporaryDir>
 
-/// What a data file of a benchmark holds.
+/// The content of a benchmark's data file.
 struct TaskFileContent {
     int tasks = 0; ///< names of 30 characters, descriptions of 120
     int rare = 0; ///< how many of them are in the fourth category, and as many others are deferred
     int due = 0; ///< how many of them have a reminder that is due; of the rest every third has one to come
 };
 
-/// A program folder of its own with a copy of the shipped data file, filled with tasks, at a time that stands
-/// still.
+/// A temporary program folder with a copy of the shipped data file, filled with tasks, and a stopped clock.
 class TaskFile
 {
 public:
@@ -24,9 +23,9 @@ public:
     QString folder() const { return m_folder.path(); }
     QString path() const { return m_folder.filePath(QStringLiteral("data.dat")); }
     const DatabaseEngine& engine() const { return m_engine; }
-    /// Runs plain SQL beside the program's connections.
+    /// Runs plain SQL on a connection of its own.
     void run(const QString& sql) const;
-    /// Gives one task a name of that many letters, as another program may have written it.
+    /// Gives one task a name of that length, as another program may have written it.
     void nameWithoutEnd(int task, int letters) const;
 
     static Moment now()

@@ -32,7 +32,7 @@ template <typename... Kinds> bool isOneOf(const QWidget* widget)
     return ((qobject_cast<const Kinds*>(widget) != nullptr) || ...);
 }
 
-/// Something made of parts that have no life of their own.
+/// A control whose inner parts are not controls of their own.
 bool isComposite(const QWidget* widget)
 {
     return isOneOf<QComboBox, QAbstractSpinBox, QAbstractItemView, QTabBar, QCalendarWidget>(widget);
@@ -98,8 +98,8 @@ QList<QLabel*> labelsOf(QWidget& window)
     return shown;
 }
 
-/// The name that a screen reader says. On some platforms that of a combo box is its value, and its label is
-/// read before it.
+/// The name that a screen reader says. On some platforms a combo box has its value as its name, and its
+/// label is read before it.
 QString spokenName(QWidget* control, QWidget& window)
 {
     if (isOneOf<QComboBox>(control)) {
@@ -112,7 +112,7 @@ QString spokenName(QWidget* control, QWidget& window)
     return seen == nullptr ? QString() : seen->text(QAccessible::Name).trimmed();
 }
 
-/// Mnemonics are in a window throughout or, where they could be taken for those of another, not at all.
+/// A window has mnemonics throughout or, where they could be mistaken for another window's, none at all.
 bool hasMnemonics(QWidget& window)
 {
     const QList<QLabel*> labels = labelsOf(window);
@@ -133,7 +133,7 @@ bool hasLeadingLabel(const QWidget* control, QWidget& window)
     });
 }
 
-/// Of options that exclude each other the Tab key visits one; the arrow keys go to the others.
+/// The Tab key visits one of a group of exclusive options; the arrow keys go to the others.
 bool areOptionsOfOneGroup(const QWidget* one, const QWidget* other)
 {
     return isOneOf<QRadioButton>(one) && isOneOf<QRadioButton>(other)
@@ -191,7 +191,7 @@ void checkLabels(const Controls& controls, QWidget& window, QStringList& faults)
     }
 }
 
-/// Assistive technology chooses from a list by the action of an entry.
+/// Assistive technology chooses from a list through the actions of its entries.
 void checkEntries(const Controls& controls, QStringList& faults)
 {
     for (QWidget* control : controls) {
@@ -242,7 +242,7 @@ void checkMnemonics(const Controls& controls, QWidget& window, QStringList& faul
     }
 }
 
-/// Reading goes from the leading to the trailing edge and from the top to the bottom; columns are allowed.
+/// Reading goes from the leading to the trailing edge and from top to bottom; columns are allowed.
 bool goesBackwards(const QRect& from, const QRect& to)
 {
     const bool sameRow = from.top() < to.bottom() && to.top() < from.bottom();
@@ -250,7 +250,7 @@ bool goesBackwards(const QRect& from, const QRect& to)
     return (sameRow && to.right() <= from.left()) || (sameColumn && to.bottom() <= from.top());
 }
 
-/// The direction in which two controls are read: that of what holds both.
+/// The reading direction between two controls: that of their common parent.
 Qt::LayoutDirection directionOf(const QWidget* one, const QWidget* other)
 {
     const QWidget* both = one->parentWidget();
@@ -289,7 +289,7 @@ void checkOrder(const Controls& controls, QWidget& window, QStringList& faults)
     }
 }
 
-/// The control that the focus lies in.
+/// The control that contains the focus.
 QWidget* focusedControl(const Controls& controls)
 {
     for (QWidget* widget = QApplication::focusWidget(); widget != nullptr; widget = widget->parentWidget()) {
@@ -308,7 +308,7 @@ bool isVisitedByArrows(const QWidget* control, const QSet<QWidget*>& visited)
 
 void walk(const Controls& controls, QStringList& faults)
 {
-    // A picker has several parts, a topic of the help many links.
+    // A picker has several sections, a help topic many links.
     constexpr int MostSteps = 300;
     QSet<QWidget*> visited;
     for (int step = 0; step < MostSteps && visited.size() < controls.size(); ++step) {

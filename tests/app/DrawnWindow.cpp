@@ -22,13 +22,13 @@ double luminance(QRgb color)
     return 0.2126 * linear(qRed(color)) + 0.7152 * linear(qGreen(color)) + 0.0722 * linear(qBlue(color));
 }
 
-/// How often each colour occurs.
+/// The number of pixels of each colour.
 QHash<QRgb, int> colorsIn(const QImage& picture, const QRect& area)
 {
     QHash<QRgb, int> counts;
     for (int y = area.top(); y <= area.bottom(); ++y) {
         const auto* line = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
-        // Most neighbours are alike: one look-up a run.
+        // Neighbouring pixels are mostly equal: one look-up for each run.
         for (int x = area.left(); x <= area.right();) {
             int end = x + 1;
             while (end <= area.right() && line[end] == line[x]) {
@@ -98,7 +98,7 @@ double DrawnWindow::strongestContrast(const QWidget& control, const QRect& place
     for (auto it = counts.cbegin(); it != counts.cend(); ++it) {
         contrasts.emplace_back(contrastOf(it.key(), ground), it.value());
     }
-    // Smoothed strokes have many colours: they count together.
+    // Antialiased strokes have many colours, which count together.
     std::sort(contrasts.begin(), contrasts.end(), std::greater<>());
     int covered = 0;
     const auto strongest =

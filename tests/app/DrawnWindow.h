@@ -8,16 +8,16 @@ class QWidget;
 /// The contrast of two colours, 1 to 21.
 double contrastOf(QRgb left, QRgb right);
 
-/// A picture of a window, drawn so large that the strokes of its letters have pixels of their full colour.
+/// A picture of a window, enlarged so that the strokes of its letters have pixels of their full colour.
 class DrawnWindow
 {
 public:
     /// `window` outlives this object.
     explicit DrawnWindow(QWidget& window);
 
-    /// Whether more than half of `place`, in coordinates of a control of the window, can be seen.
+    /// Whether more than half of `place`, in coordinates of a control of the window, is visible.
     bool isInSight(const QWidget& control, const QRect& place) const;
-    /// The contrast there, 1 to 21, that more than a speck has with the most frequent colour.
+    /// The highest contrast, 1 to 21, of more than a few pixels there with the most frequent colour.
     double strongestContrast(const QWidget& control, const QRect& place) const;
     /// The most frequent colour there.
     QRgb ground(const QWidget& control, const QRect& place) const;

@@ -32,7 +32,7 @@ constexpr double OwedByMarks = 3;
 constexpr double LargeText = 24;
 constexpr double LargeBoldText = 18.66;
 
-/// Letters of that size can be read with less contrast.
+/// Letters of that size are readable with less contrast.
 bool isLarge(const QFont& font)
 {
     const QFontInfo info(font);
@@ -213,7 +213,7 @@ void Look::lookAtPushButton(const QPushButton& button)
     }
 }
 
-/// Letters that are faint on purpose are lost where their ground stands out more than they do.
+/// Deliberately faint letters are unreadable where their background stands out more than they do.
 void Look::lookAtGroundOf(const QPushButton& button)
 {
     constexpr int Beside = 6;

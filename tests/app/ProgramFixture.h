@@ -8,7 +8,7 @@
 #include <QPushButton>
 #include <QTest>
 
-/// The whole program over a data file of its own, on a machine that only remembers.
+/// The whole program on a temporary data file and a recording machine.
 struct ProgramFixture : RecordedMachine {
     explicit ProgramFixture(const QString& shippedFolder = {}) : program(machine(shippedFolder)) { }
     ~ProgramFixture() { program.unload(); }
@@ -16,7 +16,7 @@ struct ProgramFixture : RecordedMachine {
     void start(bool firstStart = false)
     {
         program.start([firstStart] { return firstStart; });
-        // The first painting would; a test reaches for controls of all pages.
+        // As the first painting would: tests reach for controls of all pages.
         main().wakePages();
     }
     frmMain& main() { return program.mainWindow(); }

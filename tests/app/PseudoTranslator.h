@@ -2,8 +2,8 @@
 
 #include <QTranslator>
 
-/// A language that nobody speaks: every text with accents, in brackets and twice as long. What shows without
-/// brackets has not come through translation; what is cut off would be so in some real language.
+/// A made-up language: every text with accents, in brackets and twice as long. A text without brackets was
+/// not translated; a text that is cut off would be cut off in some real language.
 class PseudoTranslator final : public QTranslator
 {
 public:
@@ -11,6 +11,6 @@ public:
     QString translate(
         const char* context, const char* source, const char* disambiguation, int number) const override;
 
-    /// Whether `text` has come through this translator.
+    /// Whether `text` was translated by this translator.
     static bool isPseudo(const QString& text) { return text.startsWith(u'['); }
 };

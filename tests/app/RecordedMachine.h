@@ -26,10 +26,11 @@ private:
     int& m_stops;
 };
 
-/// A machine that only remembers, with a program folder of its own. It outlives the programs that run on it.
+/// A machine that only records what it is asked for, with a temporary program folder. It outlives the
+/// programs that run on it.
 struct RecordedMachine {
     RecordedMachine() { addSkin(); }
-    /// On a program folder that is there already and stays.
+    /// With an existing program folder, which is not removed.
     explicit RecordedMachine(const QString& programFolder) : database(programFolder) { addSkin(); }
 
     void addSkin() const
@@ -40,7 +41,7 @@ struct RecordedMachine {
             folder.filePath(QStringLiteral("Skins/Aqua.skf")));
     }
 
-    /// `shippedFolder` is where an installed program looks up what is not in its program folder.
+    /// `shippedFolder` is where an installed program finds what is not in its program folder.
     Machine machine(const QString& shippedFolder = {})
     {
         return {database.engine(), dialogs, dialogs, dialogs, shell, registry,

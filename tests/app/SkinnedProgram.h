@@ -9,7 +9,7 @@
 inline QStringList shippedSkins()
 {
 #ifdef __SANITIZE_ADDRESS__
-    // The sanitizers take five times as long, and another skin shows them nothing new.
+    // The sanitizers are five times slower, and another skin shows them nothing new.
     return {QStringLiteral("Aqua"), QStringLiteral("Midnight")};
 #else
     QStringList skins;
@@ -49,7 +49,7 @@ struct SkinnedProgram : ProgramFixture {
     double owed;
 };
 
-/// The window of that class which is shown now; null for none.
+/// The visible window of that class; null for none.
 template <typename Window> Window* openWindow()
 {
     for (QWidget* window : QApplication::topLevelWidgets()) {

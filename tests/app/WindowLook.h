@@ -7,8 +7,7 @@
 
 class QWidget;
 
-/// What a window looks like, and in which palettes and fonts its controls, hidden ones included, would be
-/// drawn.
+/// The appearance of a window, and the palettes and fonts of its controls, hidden ones included.
 class WindowLook
 {
 public:
@@ -17,7 +16,7 @@ public:
 
     QSize size() const { return m_picture.size(); }
     qsizetype controls() const { return m_controls.size(); }
-    /// What is different in `other`, as far as there are the same controls; empty for nothing.
+    /// The differences in `other`, for controls that both have; empty for none.
     QStringList differences(const WindowLook& other) const;
 
 private:
@@ -27,6 +26,6 @@ private:
     };
 
     QImage m_picture;
-    /// By the way to the control.
+    /// By the path to the control.
     QHash<QString, Control> m_controls;
 };

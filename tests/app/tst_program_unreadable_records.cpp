@@ -31,7 +31,7 @@ struct SpoiledProgram : ProgramFixture {
     {
         database.sql(QStringLiteral("update tasks set %1 where task_id=%2").arg(set).arg(spoiled));
     }
-    /// Until the window has been seen and what follows that is done.
+    /// Waits until the window has been seen and what follows from that is done.
     void startSeen()
     {
         start();
@@ -68,7 +68,7 @@ struct SpoiledProgram : ProgramFixture {
     qint32 spoiled = 0;
 };
 
-/// Due, but not today, which is what the list shows.
+/// Due, but not today, so the list does not show it.
 const QString ReminderThatCannotRing =
     QStringLiteral("reminder_on=1, reminder_date_time='2026-01-15 09:00:00', played=null, "
                    "task_due_date='2026-01-20 09:00:00'");
@@ -253,7 +253,7 @@ private slots:
         f.dialogs.expectOpen(f.backup());
         f.press(f.main(), "btnRestore");
         QCOMPARE(f.listed().size(), 3);
-        // The same record of what is now the data file is another one.
+        // A record of the same id in another data file is another record.
         f.spoil(QStringLiteral("task_due_date='0000-00-00'"));
         f.dialogs.expectExclamationWith(QStringLiteral("Call Bob"));
         f.program.mainWindow().LoadTasks();

@@ -26,14 +26,14 @@ using Walk = std::function<void(SkinnedProgram&, const Visit&)>;
 WindowLook lookOf(QWidget& window)
 {
     if (auto* skins = window.findChild<QComboBox*>(QStringLiteral("cmbSkins"))) {
-        // It names the skin that the program began with.
+        // It names the skin with which the program started.
         skins->setCurrentIndex(-1);
     }
     settleWindows();
     return WindowLook(window);
 }
 
-/// The user's size stays at an exchange, and the skin before may have asked for more.
+/// A window keeps its size at an exchange, and the skin before may have needed more.
 void resizeTo(const QSize& size, QWidget& window)
 {
     if (window.size() != size) {
@@ -192,7 +192,7 @@ void SkinExchangeTest::openWindowsLookAsAfterAStart()
     visitEveryWindow(program, [&](const QString& name, QWidget& window) {
         const qsizetype place = visited++;
         if (window.isModal()) {
-            // Nobody gets past it to the list of skins.
+            // No box may keep the test from the list of skins.
             return;
         }
         exchangeAll([&](const QString& skin) {

@@ -257,7 +257,7 @@ void CategoryDialogCustomIconTest::aFolderThatCannotBeWrittenIsReported()
     DialogUnderTest test;
     test.draws = {0.000001};
     QVERIFY(test.show());
-    // A file of that name: nothing can be made in it, whoever runs the test.
+    // A file in the place of the folder: nothing can be created in it, even by root.
     writeFile(test.database.folder(), QStringLiteral("custom icons"), "in the way");
     test.name()->setText(QStringLiteral("Own"));
     browse(test, source(test));

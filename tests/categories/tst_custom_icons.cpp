@@ -18,7 +18,7 @@ struct Folder {
     {
         return writeFile(pictures(), name, bytes);
     }
-    /// Two loads with the same number were one decoding.
+    /// Equal numbers mean that both loads come from one decoding.
     qint64 decoding(const QString& name) const { return icons.load(name).cacheKey(); }
     QColor colour(const QString& name) const
     {
@@ -56,7 +56,7 @@ private slots:
         const QString path = f.write(QStringLiteral("icon1.gif"), red.leftJustified(length, '\0'));
         const QDateTime age = QFileInfo(path).lastModified();
         QCOMPARE(f.colour(QStringLiteral("icon1.gif")), QColor(Qt::red));
-        // Until the disk's clock has gone on: it ticks every few milliseconds.
+        // Waits until the file system's clock has advanced: it ticks every few milliseconds.
         QDateTime changed = QFileInfo(path).metadataChangeTime();
         while (QFileInfo(path).metadataChangeTime() == changed) {
             f.write(QStringLiteral("icon1.gif"), green.leftJustified(length, '\0'));

@@ -93,7 +93,7 @@ private slots:
         }
     }
 
-    void aProgramThatCannotRunIsNone()
+    void aReaderThatCannotRunCountsAsMissing()
     {
         QString program;
         Reader f([&program] { return program; });

@@ -152,7 +152,7 @@ void ListOrderTest::indexesChangeNoListNoCountAndNoDelete()
 
 void ListOrderTest::statisticsInTheFileDoNotChangeTheOrderOfMaking()
 {
-    // With statistics the engine goes from category to category.
+    // With statistics SQLite goes from category to category.
     const TestDatabase analyzed;
     analyzed.sql(
         QStringLiteral("with recursive n(i) as (select 1 union all select i+1 from n where i<200) "

@@ -22,7 +22,7 @@ public:
     UsedLocale& operator=(const UsedLocale&) = delete;
 };
 
-/// As the engine hands them over, then as readers look them up.
+/// In SQLite's order, then in the readers' order.
 std::vector<std::string> sorted(std::vector<std::string> names, const NameOrder& order)
 {
     std::sort(names.begin(), names.end(),
@@ -182,7 +182,7 @@ void NameOrderTest::theOrderIsTotalForWhateverNames()
     names.push_back(std::string(300, '7') + 'a');
     names.push_back(std::string(300, '7') + 'b');
     const std::vector<std::string> once = sorted(names, order);
-    // Neither where they stood nor a second sort makes a difference.
+    // Neither the original order nor a second sort makes a difference.
     std::shuffle(names.begin(), names.end(), chance);
     const std::vector<std::string> again = sorted(names, order);
     QCOMPARE(again.size(), once.size());
@@ -197,7 +197,7 @@ void NameOrderTest::theOrderIsTotalForWhateverNames()
         for (std::size_t k = i; k < once.size(); ++k) {
             const int byKey = keys[i].compare(keys[k]);
             const int byEngine = compareIgnoringCase(once[i], once[k]);
-            // Every pair says the same: so the order is transitive, and what is equal stands together.
+            // Every pair agrees, so the order is transitive and equal names are adjacent.
             QVERIFY(byKey < 0 || (byKey == 0 && byEngine <= 0));
             QVERIFY(byEngine != 0 || byKey == 0);
             QCOMPARE(keys[k].compare(keys[i]) > 0, byKey < 0);
@@ -228,7 +228,7 @@ void NameOrderTest::whereAnIndexOfAnotherToolSortsNamesTheListIsTheSame()
 
 void NameOrderTest::anyLettersFoldAsTheEngineFolds()
 {
-    // Equal for the engine, however many bytes they take.
+    // Equal for SQLite, however many bytes they have.
     QCOMPARE(foldedBeginning("\xE2\x84\xAA"
                              "ey",
                  10),

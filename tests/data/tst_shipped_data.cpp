@@ -15,7 +15,7 @@ const QLatin1String DueReminders("select * from tasks,categories  where tasks.ca
 const QLatin1String MarkPlayed(
     "update  tasks set played=1 where reminder_date_time <= now() and dismissed =0 and reminder_on=true");
 
-/// The engine's plan of a statement, one step a line.
+/// SQLite's query plan of a statement, one step a line.
 QString plan(const TestDatabase& database, const QString& statement)
 {
     Connection connection = ClsDatabase(database.engine()).Connect();

@@ -66,7 +66,7 @@ private:
     std::mt19937 m_generator{seed()};
 };
 
-/// A piece of a statement, and what the engine is to be given for it.
+/// A piece of a statement, and what SQLite is to get for it.
 struct Piece {
     QString written;
     QString translated;
@@ -124,7 +124,7 @@ void StatementPropertiesTest::onlyDateLiteralsAreTranslatedWhereverTheyStand()
         QString expected;
         for (int left = chance.below(12); left > 0; --left) {
             const Piece piece = anyPiece(chance);
-            // A word must not make the beginning of a comment with what follows.
+            // A word and what follows must not form the beginning of a comment.
             written += piece.written + u' ';
             expected += piece.translated + u' ';
         }

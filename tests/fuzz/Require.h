@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-/// Ends the process when something that has to hold does not.
+/// Ends the process when a condition that must hold does not.
 inline void require(bool holds, const char* what)
 {
     if (!holds) {

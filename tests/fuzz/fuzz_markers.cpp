@@ -31,8 +31,8 @@ QStringList stringsOf(const QString& statement)
 
 } // namespace
 
-// Three texts, parted by zero bytes, as the values of a statement: whatever they hold, markers, quotes or
-// literals among it, they come out of it as they went in, and the statement around them stays.
+// Three texts, separated by zero bytes, as values of a statement: whatever markers, quotes or literals they
+// hold, they can be read back unchanged, and the rest of the statement is unchanged.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const QList<QByteArray> parts =

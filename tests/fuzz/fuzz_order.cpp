@@ -14,8 +14,8 @@ int sign(int value)
 
 } // namespace
 
-// Any bytes as three texts, parted by zero bytes: the order of texts is one, or the index of the data file
-// would be damaged by its own rows.
+// Any bytes as three texts, separated by zero bytes: the order must be consistent, or an index of the data
+// file would be corrupted by its own rows.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     std::string_view rest(reinterpret_cast<const char*>(data), size);
@@ -32,7 +32,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (compareIgnoringCase(a, b) <= 0 && compareIgnoringCase(b, c) <= 0) {
         require(compareIgnoringCase(a, c) <= 0, "what comes before stays before");
     }
-    // Names that the engine takes for the same have one place in a list.
+    // Names that SQLite takes for equal have one place in a list.
     static const NameOrder order;
     if (compareIgnoringCase(a, b) == 0) {
         require(order.key(a).compare(order.key(b)) == 0, "equal names have one place");

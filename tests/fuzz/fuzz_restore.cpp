@@ -22,8 +22,8 @@ public:
 
 } // namespace
 
-// Any bytes as a file to be restored: refused with an error, or everything in it reads and new records are
-// taken. The check itself changes nothing.
+// Any bytes as a file to restore: refused with an error, or everything in it can be read and new records
+// can be written. The check itself changes nothing.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     static const TemporaryFile file(QStringLiteral("data.dat"));

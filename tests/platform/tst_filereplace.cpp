@@ -51,7 +51,7 @@ private slots:
     void aMissingFileIsAsGoodAsRemoved();
     void foldersAreMadeWithThoseAboveThem();
     void foldersArePrivateWhateverTheMaskIs();
-    void whatTheDiskCannotTellIsNoNo();
+    void anErrorOfTheDiskIsNotTakenForAMissingFile();
 
 private:
     QString write(const QString& name, const QByteArray& bytes) const
@@ -302,7 +302,7 @@ void TestFileReplace::foldersAreMadeWithThoseAboveThem()
     QVERIFY(caught<FileError>([&] { makeFolder(path(QStringLiteral("file/d"))); }).has_value());
 }
 
-void TestFileReplace::whatTheDiskCannotTellIsNoNo()
+void TestFileReplace::anErrorOfTheDiskIsNotTakenForAMissingFile()
 {
     const QString file = write(QStringLiteral("file"), "x");
     QVERIFY(isPresent(file));

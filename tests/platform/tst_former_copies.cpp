@@ -31,7 +31,7 @@ private slots:
         QCOMPARE(m_program->contentOf(m_program->files().find(QStringLiteral("help.chm"))), "help 2");
     }
 
-    void whatAnUpgradeBroughtThatWasCutOffGoes()
+    void copiesOfAnInterruptedUpgradeGo()
     {
         m_program->writeOwn("Skins/Aqua.skf", "aqua 2");
         m_program->ship("Skins/Aqua.skf", "aqua 2");
@@ -59,7 +59,7 @@ private slots:
             m_program->namesIn(m_program->inFolder("sounds")), QStringList{QStringLiteral(".hidden.wav")});
     }
 
-    void whatIsShippedNoMoreStays()
+    void aCopyOfWhatIsNoLongerShippedStays()
     {
         m_program->drop("Skins/Aqua.skf");
         m_program->start();
@@ -109,7 +109,7 @@ private slots:
         QCOMPARE(m_program->read("Skins/Aqua.skf"), QByteArray("aqua 1"));
     }
 
-    void aListThatIsNoneTouchesNothingElse()
+    void anInvalidListTouchesNothingElse()
     {
         m_program->writeOwn("shipped.sha256", "no list\n\n" + QByteArray(70, '/') + "\n");
         m_program->start();

@@ -21,7 +21,7 @@ struct ModuleFolder {
 
     QString path() const { return folder.path(); }
     QString file() const { return folder.filePath(Name + QStringLiteral(".so")); }
-    /// Puts a module in place as packages are unpacked: what was there is another file.
+    /// Installs a module as packages do: as a new file that replaces the one there.
     void bring(const QString& module) const
     {
         const QString beside = folder.filePath(QStringLiteral("unfinished"));
@@ -156,7 +156,7 @@ private:
         QSet<int> handles;
         for (const QString& name :
             QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::AllEntries | QDir::System)) {
-            // The listing's own is closed by now.
+            // The one of the listing itself is closed by now.
             if (::fcntl(name.toInt(), F_GETFD) != -1) {
                 handles.insert(name.toInt());
             }

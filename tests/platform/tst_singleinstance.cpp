@@ -74,7 +74,7 @@ private slots:
         QCOMPARE(status.st_mode & 07777, mode_t{0600});
     }
 
-    void whatACopyLeftThatWasKilledIsNoGuard()
+    void theFileOfAKilledCopyIsNoGuard()
     {
         const QTemporaryDir folder;
         QVERIFY(QFile(folder.filePath(LockName)).open(QIODevice::WriteOnly));

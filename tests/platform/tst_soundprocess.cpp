@@ -23,7 +23,7 @@ QByteArray wave()
     return head + samples;
 }
 
-/// A player that is a script, with what it is asked for beside it.
+/// A player that is a script, and a folder with a record of what it was asked for.
 class Player
 {
 public:
@@ -72,7 +72,7 @@ const QByteArray NotesItsId = "echo $$ > $d/new; mv $d/new $d/pid; ";
 
 } // namespace
 
-/// A sound system can do to its process what it likes.
+/// A sound library may do anything to its process.
 class SoundProcessTest : public TestCase
 {
     Q_OBJECT

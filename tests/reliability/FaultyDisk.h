@@ -41,7 +41,7 @@ public:
         ForThisKind, ///< from then on, all calls of the kind that was refused first
         ForAll ///< from then on, all calls
     };
-    /// In the place of an error number: the process ends there.
+    /// Instead of an error number: the process ends at that call.
     static constexpr int Death = -1;
     struct Fault {
         std::size_t atCall = 0; ///< counted from 1; 0 for none

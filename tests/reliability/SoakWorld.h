@@ -47,8 +47,8 @@ struct DataRows {
     qint16 lastCategory = 0;
 
     bool operator==(const DataRows&) const = default;
-    /// Reads a file with the plain engine, which takes back what an unfinished operation left. Throws
-    /// std::runtime_error for a file that is not sound.
+    /// Reads a file with plain SQLite, which rolls back an unfinished operation. Throws std::runtime_error
+    /// for a file that is not sound.
     static DataRows read(const QString& file);
     /// Where the two differ first; empty when they do not.
     QString differenceTo(const DataRows& other) const;

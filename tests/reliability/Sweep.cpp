@@ -11,8 +11,8 @@
 namespace
 {
 
-// The sanitizers take five times as long: they see every tenth call fail and every tenth change cut off, the
-// optimized build every one.
+// The sanitizers are five times slower: with them every tenth call fails and every tenth change is cut off,
+// in the optimized build every one.
 #ifdef __SANITIZE_ADDRESS__
 constexpr std::size_t CallsApart = 10;
 #else

@@ -43,7 +43,7 @@ QString tasksWith(const QString& name, const QString& category, const QString& a
     return TasksAnew.arg(name, category, atTheEnd);
 }
 
-/// The engine would not make such an index.
+/// SQLite would not make such an index.
 QString indexOf(QString expression)
 {
     return QStringLiteral("create index x on tasks(abs(task_id)); pragma writable_schema=1;"

@@ -73,7 +73,7 @@ private slots:
 
     void withoutAnOrderTheTasksStandInTheOrderOfTheirMaking()
     {
-        // With statistics in the file the engine goes from category to category.
+        // With statistics in the file SQLite goes from category to category.
         Fixture f;
         QStringList made;
         for (int i = 0; i < 12; ++i) {

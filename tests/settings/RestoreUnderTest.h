@@ -5,7 +5,7 @@
 
 #include <sqlite3.h>
 
-/// Runs statements of the engine on a file.
+/// Runs plain SQL on a file.
 inline void execute(const QString& file, const char* sql)
 {
     sqlite3* opened = nullptr;

@@ -28,7 +28,7 @@ private slots:
     void aFullDiskLeavesTheOlderBackup();
     void aCancelledCopyLeavesTheOlderBackup();
     void theJournalOfADeadProcessIsRolledBackFirst();
-    void aJournalThatNothingIsTakenBackFromHoldsNoBackupUp();
+    void aJournalWithoutContentHoldsUpNoBackup();
     void noStatementIsSent();
     void noHandleToTheDataFileStaysOpen();
 };
@@ -223,7 +223,7 @@ void TestBackup::theJournalOfADeadProcessIsRolledBackFirst()
     QVERIFY(!QFileInfo::exists(dead.filePath(QStringLiteral("data.dat-journal"))));
 }
 
-void TestBackup::aJournalThatNothingIsTakenBackFromHoldsNoBackupUp()
+void TestBackup::aJournalWithoutContentHoldsUpNoBackup()
 {
     MaintenancePageUnderTest test;
     const QString backup = test.pathOf(QStringLiteral("b.abk"));

@@ -325,7 +325,7 @@ public:
 
 void TestMaintenancePage::aDeletionThatTheEndOfTheProgramOvertakesDeletesNothing()
 {
-    constexpr int Many = 4000; // so that the engine tells how it goes
+    constexpr int Many = 4000; // so that SQLite calls the progress handler
     TestServices own;
     EndAtDeletion ending;
     DatabaseEngine engine = own.database.engine();

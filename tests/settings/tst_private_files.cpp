@@ -91,7 +91,7 @@ private slots:
         QCOMPARE(modeOf(other), 0644);
     }
 
-    void nothingIsSaidWhereThereIsNothing()
+    void aMissingFileIsNoError()
     {
         const TestDatabase database;
         QVERIFY(QFile::remove(database.dataFile()));

@@ -197,7 +197,7 @@ void TestRestoreCheck::aBackupWithADamagedPageIsRefused()
     QCOMPARE(test.restored.size(), 1);
 }
 
-// The engine alone can tell whether it is sound.
+// Only SQLite can tell whether it is sound.
 void TestRestoreCheck::aBackupWithAnIndexOfItsOwnIsRestored_data()
 {
     QTest::addColumn<QByteArray>("sql");

@@ -26,7 +26,7 @@ struct WriteAheadBackup : RestoreUnderTest {
 
 } // namespace
 
-/// What lies beside a data file, and how the engine keeps it.
+/// What lies beside a data file, and how SQLite keeps it.
 class TestRestoreJournals : public TestCase
 {
     Q_OBJECT
@@ -39,8 +39,8 @@ private slots:
     void afterwardsAnOpenConnectionHindersNoBackup();
     void aPipeBesideTheChosenFileIsNeverWaitedFor();
     void aPipeInThePlaceOfTheReplacedFileIsNeverWaitedFor();
-    void theJournalOfAFileThatIsNoneIsKeptBeside_data();
-    void theJournalOfAFileThatIsNoneIsKeptBeside();
+    void theJournalOfAFileThatIsNoDatabaseIsKept_data();
+    void theJournalOfAFileThatIsNoDatabaseIsKept();
     void theKeptJournalGoesWithItsFile();
     void aFileThatIsKeptWithAJournalIsNoBackup();
     void anOperationThatIsNotFinishedHoldsARestore();
@@ -130,7 +130,7 @@ void TestRestoreJournals::aPipeInThePlaceOfTheReplacedFileIsNeverWaitedFor()
     QCOMPARE(test.restored.size(), 0);
 }
 
-void TestRestoreJournals::theJournalOfAFileThatIsNoneIsKeptBeside_data()
+void TestRestoreJournals::theJournalOfAFileThatIsNoDatabaseIsKept_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QString>("companion");
@@ -143,7 +143,7 @@ void TestRestoreJournals::theJournalOfAFileThatIsNoneIsKeptBeside_data()
     QTest::newRow("overwritten, with a journal") << QByteArray(8192, '\x55') << QStringLiteral("-journal");
 }
 
-void TestRestoreJournals::theJournalOfAFileThatIsNoneIsKeptBeside()
+void TestRestoreJournals::theJournalOfAFileThatIsNoDatabaseIsKept()
 {
     QFETCH(const QByteArray, content);
     QFETCH(const QString, companion);

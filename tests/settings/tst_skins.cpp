@@ -90,7 +90,7 @@ private slots:
     void twoFaultsAreReportedOneAfterTheOther();
     void noReportOpensOverAnother();
     void noNameIsNoFault();
-    void aSkinInAFileOfAnotherNameIsToldToWhoChoosesItAndAtNoStart();
+    void aMisnamedSkinIsToldToWhoChoosesItAndAtNoStart();
     void aSkinWhoseFileIsGoneIsToldAtTheStart();
     void shippedSkinsAreFoundAndTheUsersOwnTakeTheirPlace();
     void theFirstAddedSkinMakesItsFolder();
@@ -260,7 +260,7 @@ void TestSkins::noNameIsNoFault()
     QVERIFY(test.allReported());
 }
 
-void TestSkins::aSkinInAFileOfAnotherNameIsToldToWhoChoosesItAndAtNoStart()
+void TestSkins::aMisnamedSkinIsToldToWhoChoosesItAndAtNoStart()
 {
     SkinsUnderTest test;
     test.write("stripes", plainSkin("Zebra"));

@@ -69,7 +69,7 @@ struct DeadProgram {
     {
         return tried([this] { DataFileCopies(engine).restoreFrom(path("b.abk")); });
     }
-    /// The number of tasks in a file of the folder, with what the engine takes back from beside it.
+    /// The number of tasks in a file of the folder, after SQLite has rolled back the journal beside it.
     int tasksIn(const QString& name) const
     {
         const QTemporaryDir copy;

@@ -2,7 +2,7 @@
 
 #include "platform/Progress.h"
 
-/// Cancels an operation: at once, or when it tells a step of unknown length.
+/// Cancels an operation: at once, or at the first step of unknown length.
 class CancellingProgress final : public Progress
 {
 public:

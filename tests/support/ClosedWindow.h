@@ -5,7 +5,7 @@
 #include <QTest>
 #include <QWidget>
 
-/// Closes the window as the close box of its frame does; whether it let that happen.
+/// Closes the window as the close box of its frame does. Returns whether the window accepted it.
 inline bool closeBySystem(QWidget& window)
 {
     QCloseEvent event;

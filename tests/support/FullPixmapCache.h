@@ -3,7 +3,7 @@
 #include <QPixmap>
 #include <QPixmapCache>
 
-/// For its life Qt's cache of pictures holds one that leaves no room for another.
+/// While it lives, QPixmapCache holds a pixmap that leaves no room for others.
 class FullPixmapCache
 {
 public:

@@ -43,7 +43,7 @@ public:
 
     /// The access rights that this account has.
     quint32 allowedAccess = RegistryValues::AllAccess;
-    /// What was asked to be opened, each key with the access rights in hexadecimal.
+    /// The keys that were opened, each with the access rights in hexadecimal.
     QStringList opened;
     /// How many keys are open now.
     int openKeys = 0;

@@ -5,8 +5,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-/// The exit status of `action` in a process whose user is not the owner of all files; a superuser becomes
-/// somebody else for it.
+/// Runs `action` in a process that does not have root's rights on files, and returns its exit status; root
+/// becomes another user for it.
 inline int asAnOrdinaryUser(const std::function<bool()>& action)
 {
     constexpr uid_t nobody = 65534;

@@ -3,9 +3,10 @@
 #include <QImage>
 #include <QStringList>
 
-/// The text of each page of a PDF file, as a reader of PDF files sees it; fails the test when it is none.
+/// The text of each page of a PDF file, read by an independent program; fails the test when that cannot
+/// read it.
 QStringList pagesOfPdf(const QString& file);
 
-/// A page of a PDF file, counted from 1, as a reader of PDF files paints it, 100 points an inch; fails the
-/// test when it is none.
+/// A page of a PDF file, counted from 1, rendered by an independent program at 100 dots an inch; fails the
+/// test when that cannot read it.
 QImage pictureOfPdf(const QString& file, int page);

@@ -8,8 +8,8 @@
 #include <QStringList>
 #include <functional>
 
-/// Message boxes, file dialogs and error reports that answer as a test has announced. Strict: one that was
-/// not announced fails the test at once, an announcement that was not used fails it at the end (destructor).
+/// Message boxes, file dialogs and error reports that answer as a test has announced. Strict: an
+/// unannounced one fails the test at once, an unused announcement fails it at the end (destructor).
 class ScriptedDialogs final : public MessageBoxes, public FileDialogs, public ErrorReport
 {
 public:

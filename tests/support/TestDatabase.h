@@ -15,7 +15,7 @@ class TestDatabase
 {
 public:
     TestDatabase();
-    /// Over a program folder that is there already and stays.
+    /// On an existing program folder, which is not removed.
     explicit TestDatabase(const QString& folder);
 
     QString folder() const { return m_folder; }
@@ -24,8 +24,8 @@ public:
     SteppedClock& clock() { return m_clock; }
     RecordedStatements& statements() { return m_statements; }
 
-    /// Runs plain SQL of the engine beside the program's connections; not recorded. Fails the test on an
-    /// error. The first column of the first row, if any.
+    /// Runs plain SQL on a connection of its own, unrecorded; fails the test on an error. Returns the first
+    /// column of the first row, if any.
     QVariant sql(const QString& statement) const;
     /// All rows of a query.
     QList<QVariantList> rows(const QString& statement) const;
@@ -60,7 +60,7 @@ public:
     TaskBuilder& starting(const QString& file);
     TaskBuilder& played();
     TaskBuilder& dismissed();
-    /// Stores the task and answers its id; leaves no trace among the recorded statements.
+    /// Stores the task and returns its id, without a trace among the recorded statements.
     qint32 add();
 
 private:

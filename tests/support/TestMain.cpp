@@ -11,8 +11,8 @@
 
 void TestCase::init()
 {
-    // The offscreen platform has no stacking order, no keyboard to grab, no notification area and nobody to
-    // tell of sizes, and says so.
+    // Known messages of the offscreen platform, which has no stacking order, keyboard grab, notification
+    // area and size hints.
     QTest::failOnWarning(QRegularExpression(QStringLiteral(
         "^(?!This plugin does not support |QObject::connect: No such signal QPlatformNativeInterface::).?")));
 }
@@ -20,7 +20,7 @@ void TestCase::init()
 int runTest(QObject& test, int argc, char** argv)
 {
     QStandardPaths::setTestModeEnabled(true);
-    // What a file dialog remembers would be met by the dialogs of the next test.
+    // Otherwise dialogs of the next test would find what this one's remembered.
     const QTemporaryDir settings;
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
     const QTemporaryDir cache;

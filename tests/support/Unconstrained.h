@@ -2,7 +2,7 @@
 
 #include "support/TestDatabase.h"
 
-/// Makes the tables of tasks and categories as other tools make them: any value fits into any column.
+/// Makes the tables of tasks and categories as other tools do: any column takes any value.
 inline void dropConstraints(const TestDatabase& database)
 {
     for (const char* table : {"tasks", "categories"}) {
@@ -12,7 +12,7 @@ inline void dropConstraints(const TestDatabase& database)
     }
 }
 
-/// Values that do not convert: what is set, and the column that is to be named.
+/// Values that do not convert: the assignment, and the column that the error must name.
 struct Damage {
     const char* what;
     const char* set;

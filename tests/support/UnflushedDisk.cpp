@@ -1,7 +1,7 @@
 #include <unistd.h>
 
-// A test that writes much and asks nothing of a disk would wait for it most of its time: the executable that
-// these functions are linked into flushes nothing. Power cuts have tests of their own.
+// Makes flushing do nothing in the executable that it is linked into: a test that writes much would mostly
+// wait for the disk. Power cuts have tests of their own.
 
 extern "C" int fsync(int)
 {

@@ -4,7 +4,7 @@
 #include <QWheelEvent>
 #include <QWidget>
 
-/// Turns the wheel upwards over a widget. Whether the widget takes it; else it goes on to what is behind.
+/// Turns the wheel upwards over a widget. Returns whether the widget used it; otherwise its parent gets it.
 inline bool turnWheel(QWidget& widget)
 {
     const QPoint place = widget.rect().center();

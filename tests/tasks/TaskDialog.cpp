@@ -47,7 +47,7 @@ void TaskDialog::click(const char* name) const
 {
     auto* button = control<QAbstractButton>(name);
     QVERIFY2(button->isEnabled(), name);
-    // A check box takes clicks on its mark and its text only.
+    // A check box reacts to clicks on its mark and its text only.
     QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(10, button->height() / 2));
 }
 

@@ -68,7 +68,7 @@ private slots:
     void whatIsUnsavedIsNamedAsTypedElseAsLoaded();
     void aReminderLeftAloneFollowsAPostponement();
     void aReminderLeftAloneFollowsADismissal();
-    void aReminderMovedByTheUserIsHis();
+    void aReminderMovedByTheUserIsKept();
     void aReminderSwitchedByTheUserStaysSoAndKeepsTheStoredMoment();
 
 private:
@@ -409,7 +409,7 @@ void TestTaskInput::aReminderLeftAloneFollowsADismissal()
     QVERIFY(!task.DateChanged());
 }
 
-void TestTaskInput::aReminderMovedByTheUserIsHis()
+void TestTaskInput::aReminderMovedByTheUserIsKept()
 {
     TaskInput input = validInput();
     input.reminderOn = true;

@@ -76,7 +76,7 @@ private slots:
         QVERIFY(wholeText(description) == text + QStringLiteral(" more"));
     }
 
-    void whoDeletesTheRestSeesItGo()
+    void deletingTheMarkDeletesTheRest()
     {
         Edit f;
         setWholeText(f.edit, QString(Endless, u'w'));
@@ -88,7 +88,7 @@ private slots:
         QVERIFY(QFontMetrics(f.edit.font()).horizontalAdvance(shown.back()) > 0);
     }
 
-    void whoeverWritesAnotherTextIsRidOfTheRest()
+    void anotherTextReplacesTheRest()
     {
         Edit f;
         setWholeText(f.edit, QString(Endless, u'w'));
@@ -99,7 +99,7 @@ private slots:
         QCOMPARE(wholeText(f.edit), QStringLiteral("Milk\u2026"));
     }
 
-    void theRestOfOneTextIsNoneOfTheNext()
+    void theNextTextHasNothingOfTheRest()
     {
         Edit f;
         setWholeText(f.edit, QString(Endless, u'w'));

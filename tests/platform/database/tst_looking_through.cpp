@@ -12,7 +12,7 @@ namespace
 const QString DeleteSettings = QStringLiteral("delete from settings");
 const QString CountSettings = QStringLiteral("select count(*) from settings");
 
-/// A data file, and an engine to which it is not known whether the file is sound.
+/// A data file, and a DatabaseEngine that does not know yet whether the file is sound.
 struct UnknownFile {
     Connection opened()
     {

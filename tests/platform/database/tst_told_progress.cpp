@@ -10,7 +10,7 @@ namespace
 
 constexpr int Tasks = 3000;
 
-/// Counts what it is told, and cancels from the telling of that number on.
+/// Counts the calls, and cancels from a given one on.
 class Counter final : public Progress
 {
 public:
@@ -25,7 +25,7 @@ public:
     int cancelsAt = std::numeric_limits<int>::max();
 };
 
-/// A data file with many tasks, whose names are in no order, and an engine that tells a counter.
+/// A data file with many unsorted tasks, and a DatabaseEngine whose progress is counted.
 struct ToldFile {
     ToldFile()
     {
@@ -43,7 +43,7 @@ struct ToldFile {
         connection.open();
         return connection;
     }
-    /// How often the statement tells, until its last row is read.
+    /// How often progress is told until the last row is read.
     int tellingsOf(const QString& statement)
     {
         progress.told = 0;
@@ -61,7 +61,7 @@ struct ToldFile {
 
 } // namespace
 
-/// What the engine tells while a statement takes long.
+/// Progress during statements that take long.
 class ToldProgressTest : public TestCase
 {
     Q_OBJECT
