@@ -12,8 +12,8 @@ endfunction()
 
 # ambertask_render_icons(<target> PREFIX <resource prefix> SIZES <n>... SVGS <file>...)
 # Adds the pixels of every file in every size, <size>/<name>.pixels, to <target> as Qt resources below <resource prefix>.
-# A folder for each size, for what is in one folder lies together: a start reads the small ones, and what lies around
-# them comes into memory with them.
+# A resource folder for each size, because files of one folder are neighbours in the executable: a start reads the small
+# ones, and their neighbours come into memory with them.
 function(ambertask_render_icons target)
   cmake_parse_arguments(ARG "" "PREFIX" "SIZES;SVGS" ${ARGN})
   string(MAKE_C_IDENTIFIER "${target}${ARG_PREFIX}" resource_name)

@@ -1,8 +1,8 @@
-# Where an installation below a prefix puts its files. Elsewhere than on Linux and its kin the program stays in one folder.
+# Where an installation below a prefix puts its files. On Windows and macOS the program stays in one folder.
 if(UNIX AND NOT APPLE)
   set(AMBERTASK_INSTALLS_TO_PREFIX ON)
   include(GNUInstallDirs)
-  # Debian asks for the name of the package, which has no capital letters.
+  # Debian wants the name of the package, in lower case.
   set(AMBERTASK_INSTALL_DOC_FOLDER "${CMAKE_INSTALL_DATAROOTDIR}/doc/ambertask")
   set(AMBERTASK_INSTALL_SHIPPED_FOLDER "${CMAKE_INSTALL_DATADIR}/ambertask")
   # A running copy must not load the modules of the version that has replaced it.

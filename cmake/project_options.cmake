@@ -30,8 +30,8 @@ if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
                                                        -fno-omit-frame-pointer)
     target_link_options(ambertask_options INTERFACE -fsanitize=address,undefined)
   elseif(CMAKE_BUILD_TYPE STREQUAL "Release")
-    # What reads files and texts of others ends at once where it would be led astray, and what is linked is read-only
-    # by the time that it runs.
+    # Hardening: the program reads files and texts of others. Overflows end it at once, and the tables of the linker are
+    # read-only when it runs.
     target_compile_options(ambertask_options INTERFACE -fstack-protector-strong
                                                        $<$<STREQUAL:${CMAKE_SYSTEM_PROCESSOR},x86_64>:-fcf-protection>)
     target_compile_definitions(ambertask_options INTERFACE _FORTIFY_SOURCE=3 _GLIBCXX_ASSERTIONS)

@@ -1,4 +1,4 @@
-# The shipped skins: colours of their own, palette roles in common. A skin file stands for itself.
+# The shipped skins: each has its own colours, all share the palette roles. The skin files made of them are complete.
 set(AMBERTASK_SKINS Aqua Classic Contrast Lemon Midnight)
 
 set(skin_sources "${PROJECT_SOURCE_DIR}/resources/skins")

@@ -17,8 +17,8 @@ set(CPACK_DEBIAN_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_HOMEPAGE "https://www.ambertask.example")
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# Web pages are opened by what the first brings; the second are the letters of a system that has none yet, the third
-# Qt's own texts (file dialogs, calendar) in other languages than English.
+# For opening web pages, for a system without fonts, and for Qt's own texts (file dialogs, calendar) in other languages
+# than English.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "xdg-utils, fonts-dejavu-core, qt6-translations-l10n")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "qt6-wayland")
 set(CPACK_PACKAGE_DESCRIPTION
