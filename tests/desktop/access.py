@@ -187,7 +187,7 @@ class Node:
             wait_until(lambda: self.checked == checked, f"{self!r} is {'checked' if checked else 'unchecked'}")
 
 
-# One role has several names across tool kit versions.
+# Versions of Qt have different names for one role.
 ROLES = {
     "button": ("push button", "button"),
     "menu button": ("button menu", "push button menu"),
@@ -236,7 +236,7 @@ class Access:
         self._told = []
         self._connection.signal_subscribe(None, "org.a11y.atspi.Event.Object", "StateChanged", None, None,
                                           Gio.DBusSignalFlags.NONE, self._state_changed)
-        # The tool kit sends no event that nobody has asked the registry for.
+        # Qt sends only the events that somebody has asked the registry for.
         for kind in ("showing", "focused", "selected"):
             wait_until(lambda kind=kind: self._ask_for_events(kind), "the accessibility registry answers")
 

@@ -1,4 +1,4 @@
-"""Backup, restore and bulk delete through the tool kit's own file dialogs."""
+"""Backup, restore and bulk delete through Qt's own file dialogs."""
 import os
 import signal
 from datetime import datetime

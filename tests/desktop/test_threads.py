@@ -15,8 +15,8 @@ SOURCES = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file
 # What a binary that starts a thread asks other libraries for.
 STARTS_A_THREAD = re.compile(r"pthread_create|thrd_create|_M_start_thread|_ZN7QThread|QThreadPool|QtConcurrent"
                              r"|QFutureInterface|_ZN9QRunnable|_ZNSt13__future|clone3?$", re.MULTILINE)
-# As the system shows their names, which it cuts. The X connection's and the message bus's; the one that looks into folders
-# for a file dialog.
+# The names of Qt's threads as the system shows them, truncated: of the X connection, of the message bus, and of the one
+# that reads folders for a file dialog.
 AT_REST = {"QXcbEventQueue", "QDBusConnection"}
 OF_A_FILE_DIALOG = {"QFileInfoGather"}
 LONG_AGO = datetime(2026, 1, 2, 9, 0)

@@ -141,7 +141,7 @@ class User:
         wait_until(lambda: box not in self.access.windows(), f"the box '{text}' closes")
 
     def file_dialog(self, title):
-        """The tool kit's own file dialog, once it can be typed into."""
+        """Qt's own file dialog, once it can be typed into."""
         self.wait_active(title)
         return self.access.window(title)
 

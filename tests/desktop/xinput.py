@@ -7,7 +7,7 @@ from Xlib.ext import xtest
 from polling import wait_until
 
 LEFT, MIDDLE, RIGHT = 1, 2, 3
-# A little more than the tool kit's own limits.
+# A little more than Qt's own limits.
 DOUBLE_CLICK_SECONDS = 0.5
 DOUBLE_CLICK_DISTANCE = 10
 FINGER_SECONDS = 0.06

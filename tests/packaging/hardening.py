@@ -1,7 +1,7 @@
 """How a binary is protected against what it reads, as far as the file tells."""
 import subprocess
 
-# What control-flow protection puts at every place that is jumped to from afar, on x86-64.
+# The instruction (endbr64) that control-flow protection puts at the target of every indirect jump, on x86-64.
 LANDING = bytes.fromhex("f30f1efa")
 X86_64 = "Advanced Micro Devices X86-64"
 
