@@ -81,8 +81,9 @@ QString skinSheet(const SkinFile& skin)
     QFile file(QStringLiteral(":/skins/sheet.qss"));
     file.open(QIODevice::ReadOnly);
     const QString sheet = filled(QString::fromUtf8(file.readAll()), sheetColors(skin));
-    // Under a style sheet Qt does not ask the style for the height of number, date and time fields: make
-    // them as high as lists and edits.
+    // Workaround: under a style sheet Qt 6.4.2 does not ask the style for the height of number, date and
+    // time fields (tst_qt_workarounds, aSheetAsksNoStyleForTheHeightOfATime). They get that of lists and
+    // edits.
     return sheet
         + QStringLiteral("QAbstractSpinBox { min-height: %1px; }\n")
               .arg(QFontMetrics(QApplication::font()).height() + SkinStyle::SpinBoxAir);

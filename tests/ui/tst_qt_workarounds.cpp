@@ -15,6 +15,7 @@
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QProxyStyle>
 #include <QPushButton>
 #include <QScopeGuard>
 #include <QScrollArea>
@@ -67,6 +68,20 @@ class BrowserWithoutPictures final : public QTextBrowser
 {
 public:
     QVariant loadResource(int /*type*/, const QUrl& /*name*/) override { return {}; }
+};
+
+/// Makes number, date and time fields higher than all others.
+class HighFields final : public QProxyStyle
+{
+public:
+    HighFields() : QProxyStyle(QStringLiteral("fusion")) { }
+
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+        const QWidget* widget) const override
+    {
+        const QSize usual = QProxyStyle::sizeFromContents(type, option, size, widget);
+        return type == CT_SpinBox ? usual.grownBy(QMargins(0, 50, 0, 50)) : usual;
+    }
 };
 
 QImage drawn(const QString& text)
@@ -314,6 +329,16 @@ private slots:
         other.setColor(QPalette::Text, QColor(Red));
         QApplication::setPalette(other);
         QVERIFY(edit.palette().color(QPalette::Text) != QColor(Red));
+    }
+
+    void aSheetAsksNoStyleForTheHeightOfATime()
+    {
+        HighFields style;
+        QTimeEdit time;
+        time.setStyle(&style);
+        QVERIFY(time.sizeHint().height() > 100);
+        time.setStyleSheet(QStringLiteral("QAbstractSpinBox { border: 1px solid; }"));
+        QVERIFY(time.sizeHint().height() < 100);
     }
 
     void aPictureThatIsNotThereIsReadFromTheDisk()
