@@ -43,7 +43,7 @@ void ReminderChecker::readDue()
     const int played = records.field("played");
     const int reminderOn = records.field("reminder_on");
     for (; !records.atEnd(); records.moveNext()) {
-        // Not reported, as it would be every ten seconds; the other reminders must still reach the user.
+        // Left out even without a listener: one bad record must not keep the other reminders from the user.
         try {
             readRecord(records, {QLatin1String("tasks"), id, name}, [&] {
                 m_due.push_back({records.int32(id), records.text(name), records.int32(icon),
