@@ -1,6 +1,6 @@
 // Backup and restore of a large data file.
+#include "data/DataFileCopies.h"
 #include "limits/PlainCopy.h"
-#include "settings/DataFileCopies.h"
 #include "support/Bench.h"
 #include "support/TaskFile.h"
 

@@ -1,6 +1,6 @@
 // The task list: reading, showing, filtering, scrolling, and the memory that it takes.
-#include "app/TaskFilter.h"
 #include "data/ClsDatabase.h"
+#include "data/TaskFilter.h"
 #include "data/TaskRows.h"
 #include "limits/BareEngine.h"
 #include "support/Bench.h"

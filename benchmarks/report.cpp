@@ -1,14 +1,14 @@
 // The printed report.
 #include "app/drTasks.h"
 #include "limits/PaintedTexts.h"
-#include "platform/Progress.h"
-#include "platform/printing/PageOutput.h"
 #include "report/ReportLayout.h"
 #include "support/Bench.h"
 #include "support/LongestStep.h"
 #include "support/RecordedReportWindow.h"
 #include "support/TaskFile.h"
 #include "support/TestServices.h"
+#include "system/Progress.h"
+#include "widgets/printing/PageOutput.h"
 
 #include <QApplication>
 #include <QFileInfo>

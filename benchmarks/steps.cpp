@@ -1,8 +1,8 @@
 // A full house: how long the windows stand still at each thing that a user does.
+#include "data/DataFileCopies.h"
 #include "data/TaskCodes.h"
 #include "reminders/frmAlerts.h"
 #include "report/PreviewWindow.h"
-#include "settings/DataFileCopies.h"
 #include "settings/MaintenancePage.h"
 #include "support/Bench.h"
 #include "support/BenchProgram.h"

@@ -1,7 +1,7 @@
 // What happens every ten seconds, and at the OK of the task dialog.
 #include "data/ClsTask.h"
+#include "data/ReminderChecker.h"
 #include "limits/BareEngine.h"
-#include "reminders/ReminderChecker.h"
 #include "support/Bench.h"
 #include "support/TaskFile.h"
 

@@ -43,8 +43,12 @@ elseif(MSVC)
 endif()
 
 # One library a folder of src/: ambertask_<name>, alias ambertask::<name>; its headers are reached as <name>/X.h.
+# PRECOMPILED is the header of cmake/precompiled that it takes: core where no window is known, otherwise widgets.
 function(ambertask_library name)
-  cmake_parse_arguments(ARG "" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
+  cmake_parse_arguments(ARG "" "PRECOMPILED" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
+  if(NOT ARG_PRECOMPILED)
+    set(ARG_PRECOMPILED widgets)
+  endif()
   add_library(ambertask_${name} STATIC ${ARG_SOURCES})
   add_library(ambertask::${name} ALIAS ambertask_${name})
   target_include_directories(ambertask_${name} PUBLIC "${PROJECT_SOURCE_DIR}/src")
@@ -53,7 +57,7 @@ function(ambertask_library name)
     PUBLIC ${ARG_PUBLIC}
     PRIVATE ambertask::options ${ARG_PRIVATE})
   set_target_properties(ambertask_${name} PROPERTIES POSITION_INDEPENDENT_CODE ON)
-  ambertask_precompile(ambertask_${name} widgets)
+  ambertask_precompile(ambertask_${name} ${ARG_PRECOMPILED})
 endfunction()
 
 # ambertask_precompile(<target> <header>)

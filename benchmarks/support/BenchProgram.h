@@ -2,11 +2,11 @@
 
 #include "app/Program.h"
 #include "app/TasksPage.h"
-#include "platform/GridView.h"
 #include "support/MemoryRegistry.h"
 #include "support/ScriptedDialogs.h"
 #include "support/TaskFile.h"
 #include "support/TestServices.h"
+#include "widgets/GridView.h"
 
 #include <QApplication>
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Progress.h"
 #include "support/Bench.h"
+#include "system/Progress.h"
 
 #include <QTimer>
 #include <algorithm>

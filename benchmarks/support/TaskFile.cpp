@@ -1,6 +1,6 @@
 #include "support/TaskFile.h"
 
-#include "platform/database/Hardening.h"
+#include "store/Hardening.h"
 
 #include <QFile>
 #include <sqlite3.h>

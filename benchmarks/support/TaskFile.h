@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Clock.h"
-#include "platform/database/DatabaseEngine.h"
+#include "store/DatabaseEngine.h"
+#include "system/Clock.h"
 
 #include <QTemporaryDir>
 

@@ -1,6 +1,6 @@
 #include "app/Application.h"
 
-#include "platform/RuntimeError.h"
+#include "system/RuntimeError.h"
 
 #include <QEvent>
 

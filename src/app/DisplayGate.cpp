@@ -1,6 +1,6 @@
 #include "app/DisplayGate.h"
 
-#include "platform/Language.h"
+#include "system/Language.h"
 
 #include <QByteArray>
 #include <QList>

@@ -1,7 +1,7 @@
 #include "app/FixedPictures.h"
 
-#include "platform/ImageList.h"
-#include "platform/SizedIcon.h"
+#include "widgets/ImageList.h"
+#include "widgets/SizedIcon.h"
 
 #include <array>
 

@@ -1,21 +1,21 @@
 #pragma once
 
 #include "app/frmMain.h"
+#include "data/SettingsRecord.h"
 #include "data/UnreadableRecords.h"
 #include "help/HTMLHelpViewer.h"
-#include "platform/ElidedTextTips.h"
-#include "platform/HelperProcess.h"
-#include "platform/ImageList.h"
-#include "platform/ProgramFiles.h"
-#include "platform/WaveBackend.h"
 #include "reminders/AlertsHost.h"
 #include "report/ReportWindow.h"
 #include "settings/SettingsPageHost.h"
-#include "settings/SettingsRecord.h"
 #include "settings/Skins.h"
+#include "system/HelperProcess.h"
+#include "system/ProgramFiles.h"
+#include "system/WaveBackend.h"
 #include "tasks/TaskDetailsHost.h"
-#include "ui/CheckerTimer.h"
-#include "ui/FormServices.h"
+#include "widgets/CheckerTimer.h"
+#include "widgets/ElidedTextTips.h"
+#include "widgets/FormServices.h"
+#include "widgets/ImageList.h"
 
 #include <QObject>
 #include <memory>

@@ -3,14 +3,14 @@
 #include "app/TasksPage.h"
 #include "categories/CategoriesPage.h"
 #include "categories/frmCategoryDetails.h"
-#include "platform/GridView.h"
-#include "platform/MessageBoxes.h"
-#include "platform/PendingEvents.h"
-#include "platform/WindowPlacement.h"
 #include "reminders/frmAlerts.h"
 #include "settings/SettingsPage.h"
+#include "system/PendingEvents.h"
 #include "tasks/frmTaskDetails.h"
-#include "ui/QuietLine.h"
+#include "widgets/GridView.h"
+#include "widgets/MessageBoxes.h"
+#include "widgets/QuietLine.h"
+#include "widgets/WindowPlacement.h"
 
 #include <QAbstractItemView>
 #include <QApplication>

@@ -1,6 +1,6 @@
 #include "app/RestingPage.h"
 
-#include "platform/ScrollFrame.h"
+#include "widgets/ScrollFrame.h"
 
 #include <QBoxLayout>
 #include <QCoreApplication>

@@ -1,9 +1,9 @@
 #include "app/TaskListModel.h"
 
 #include "data/TaskCodes.h"
-#include "platform/PlainText.h"
-#include "ui/MomentTexts.h"
-#include "ui/TaskPictures.h"
+#include "widgets/MomentTexts.h"
+#include "widgets/PlainText.h"
+#include "widgets/TaskPictures.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "data/ClsTask.h"
-#include "platform/GridModel.h"
+#include "widgets/GridModel.h"
 
 #include <functional>
 #include <vector>

@@ -1,7 +1,7 @@
 #include "app/TaskReportFormats.h"
 
 #include "data/TaskCodes.h"
-#include "ui/TaskPictures.h"
+#include "widgets/TaskPictures.h"
 
 namespace
 {

@@ -1,15 +1,15 @@
 #include "app/TasksPage.h"
 
-#include "platform/Clock.h"
-#include "platform/ErrorReport.h"
-#include "platform/GridView.h"
-#include "platform/MessageBoxes.h"
-#include "platform/WindowPlacement.h"
-#include "ui/ComboBox.h"
-#include "ui/Combos.h"
-#include "ui/Pickers.h"
-#include "ui/QuietLine.h"
-#include "ui/clsGuiLoader.h"
+#include "system/Clock.h"
+#include "system/ErrorReport.h"
+#include "widgets/ComboBox.h"
+#include "widgets/Combos.h"
+#include "widgets/GridView.h"
+#include "widgets/MessageBoxes.h"
+#include "widgets/Pickers.h"
+#include "widgets/QuietLine.h"
+#include "widgets/WindowPlacement.h"
+#include "widgets/clsGuiLoader.h"
 
 #include <QBoxLayout>
 #include <QDateEdit>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "app/TaskFilter.h"
 #include "app/TaskListModel.h"
-#include "ui/FormServices.h"
+#include "data/TaskFilter.h"
+#include "widgets/FormServices.h"
 
 #include <QWidget>
 #include <functional>

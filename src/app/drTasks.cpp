@@ -1,17 +1,17 @@
 #include "app/drTasks.h"
 
 #include "app/FixedPictures.h"
-#include "app/TaskReportQuery.h"
 #include "data/ClsDatabase.h"
 #include "data/TaskOrder.h"
+#include "data/TaskReportQuery.h"
 #include "data/TaskRows.h"
-#include "platform/ErrorReport.h"
-#include "platform/MessageBoxes.h"
-#include "platform/Modules.h"
-#include "platform/PlainText.h"
-#include "platform/Shell.h"
-#include "platform/WindowPlacement.h"
-#include "ui/PdfFileChoice.h"
+#include "system/ErrorReport.h"
+#include "system/Modules.h"
+#include "system/Shell.h"
+#include "widgets/MessageBoxes.h"
+#include "widgets/PdfFileChoice.h"
+#include "widgets/PlainText.h"
+#include "widgets/WindowPlacement.h"
 
 #include <QCoreApplication>
 #include <QLocale>

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "app/TaskFilter.h"
 #include "app/TaskReportFormats.h"
-#include "platform/database/Connection.h"
+#include "data/TaskFilter.h"
 #include "report/ReportWindow.h"
-#include "ui/FormServices.h"
+#include "store/Connection.h"
+#include "widgets/FormServices.h"
 
 #include <QCoreApplication>
 #include <map>

@@ -2,8 +2,8 @@
 
 #include "app/RestingPage.h"
 #include "app/TaskListModel.h"
-#include "platform/TrayIcon.h"
-#include "ui/FormServices.h"
+#include "widgets/FormServices.h"
+#include "widgets/TrayIcon.h"
 
 #include <QWidget>
 #include <vector>

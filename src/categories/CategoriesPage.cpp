@@ -4,11 +4,11 @@
 #include "categories/StandInPicture.h"
 #include "categories/frmCategoryDetails.h"
 #include "data/ClsCategory.h"
-#include "platform/ErrorReport.h"
-#include "platform/ImageList.h"
-#include "platform/MessageBoxes.h"
-#include "platform/PlainText.h"
-#include "platform/WindowPlacement.h"
+#include "system/ErrorReport.h"
+#include "widgets/ImageList.h"
+#include "widgets/MessageBoxes.h"
+#include "widgets/PlainText.h"
+#include "widgets/WindowPlacement.h"
 
 #include <QBoxLayout>
 #include <QFileInfo>

@@ -4,7 +4,7 @@
 #include "categories/LatePicture.h"
 #include "categories/PictureReader.h"
 #include "data/ClsCategory.h"
-#include "ui/FormServices.h"
+#include "widgets/FormServices.h"
 
 #include <QHash>
 #include <QSet>

@@ -2,11 +2,11 @@
 
 #include "categories/IconBox.h"
 #include "categories/PicturePanel.h"
-#include "platform/LetterScale.h"
-#include "platform/ScrollFrame.h"
-#include "ui/LongText.h"
-#include "ui/PictureLabel.h"
-#include "ui/TaskPictures.h"
+#include "widgets/LetterScale.h"
+#include "widgets/LongText.h"
+#include "widgets/PictureLabel.h"
+#include "widgets/ScrollFrame.h"
+#include "widgets/TaskPictures.h"
 
 #include <QBoxLayout>
 #include <QButtonGroup>

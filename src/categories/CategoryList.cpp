@@ -1,7 +1,7 @@
 #include "categories/CategoryList.h"
 
-#include "platform/LetterScale.h"
-#include "platform/PlainText.h"
+#include "widgets/LetterScale.h"
+#include "widgets/PlainText.h"
 
 #include <QHelpEvent>
 #include <QKeyEvent>

@@ -1,9 +1,9 @@
 #include "categories/CustomIcons.h"
 
-#include "platform/FileReplace.h"
-#include "platform/PackedPicture.h"
-#include "platform/PictureFile.h"
-#include "platform/RuntimeError.h"
+#include "categories/PackedPicture.h"
+#include "categories/PictureFile.h"
+#include "system/FileReplace.h"
+#include "system/RuntimeError.h"
 
 #include <QFileInfo>
 #include <QPixmap>

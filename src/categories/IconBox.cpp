@@ -1,7 +1,7 @@
 #include "categories/IconBox.h"
 
-#include "platform/LetterScale.h"
-#include "ui/Outline.h"
+#include "widgets/LetterScale.h"
+#include "widgets/Outline.h"
 
 #include <QMouseEvent>
 #include <QPainter>

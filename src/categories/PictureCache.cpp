@@ -1,8 +1,8 @@
 #include "categories/PictureCache.h"
 
-#include "platform/FileReplace.h"
-#include "platform/PackedPicture.h"
-#include "platform/ProgramFolder.h"
+#include "categories/PackedPicture.h"
+#include "system/FileReplace.h"
+#include "system/ProgramFolder.h"
 
 #include <QCryptographicHash>
 #include <QDateTime>

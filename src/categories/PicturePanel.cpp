@@ -1,6 +1,6 @@
 #include "categories/PicturePanel.h"
 
-#include "ui/Outline.h"
+#include "widgets/Outline.h"
 
 #include <QEvent>
 #include <QPainter>

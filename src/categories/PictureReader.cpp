@@ -1,8 +1,8 @@
 #include "categories/PictureReader.h"
 
-#include "platform/PackedPicture.h"
-#include "platform/PictureFile.h"
-#include "platform/RuntimeError.h"
+#include "categories/PackedPicture.h"
+#include "categories/PictureFile.h"
+#include "system/RuntimeError.h"
 
 #include <QFile>
 #include <QTimer>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/HelperProcess.h"
+#include "system/HelperProcess.h"
 
 #include <QImage>
 #include <QStringList>

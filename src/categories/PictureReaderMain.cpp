@@ -3,10 +3,10 @@
 // bytes, lowest first) and so many bytes: a packed picture, or a sentence that says why there is none. It
 // ends with its input.
 
-#include "platform/Language.h"
-#include "platform/PackedPicture.h"
-#include "platform/PictureFile.h"
-#include "platform/RuntimeError.h"
+#include "categories/PackedPicture.h"
+#include "categories/PictureFile.h"
+#include "system/Language.h"
+#include "system/RuntimeError.h"
 
 #include <QCoreApplication>
 #include <QFile>

@@ -3,7 +3,7 @@
 #include "categories/CategoryDetailsControls.h"
 #include "categories/CategoryInput.h"
 #include "categories/CustomIcons.h"
-#include "ui/FormServices.h"
+#include "widgets/FormServices.h"
 
 #include <QIcon>
 #include <QWidget>

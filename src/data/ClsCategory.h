@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/database/DatabaseEngine.h"
+#include "store/DatabaseEngine.h"
 
 #include <QString>
 #include <optional>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/database/Connection.h"
+#include "store/Connection.h"
 
 /// Knows the name of the data file and hands out connections to it.
 class ClsDatabase

@@ -5,8 +5,8 @@
 #include "data/TaskCodes.h"
 #include "data/TaskOrder.h"
 #include "data/TaskRows.h"
-#include "platform/RuntimeError.h"
-#include "platform/database/DatabaseError.h"
+#include "store/DatabaseError.h"
+#include "system/RuntimeError.h"
 
 namespace
 {

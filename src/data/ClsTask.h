@@ -1,8 +1,8 @@
 #pragma once
 
 #include "data/PackedTexts.h"
-#include "platform/Moment.h"
-#include "platform/database/DatabaseEngine.h"
+#include "store/DatabaseEngine.h"
+#include "system/Moment.h"
 
 #include <QCoreApplication>
 #include <optional>

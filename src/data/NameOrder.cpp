@@ -1,6 +1,6 @@
 #include "data/NameOrder.h"
 
-#include "platform/database/UnicodeCollation.h"
+#include "store/UnicodeCollation.h"
 
 namespace
 {

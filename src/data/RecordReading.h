@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/database/DatabaseEngine.h"
-#include "platform/database/DatabaseError.h"
-#include "platform/database/RecordSet.h"
+#include "store/DatabaseEngine.h"
+#include "store/DatabaseError.h"
+#include "store/RecordSet.h"
 
 // Reads a record as a whole: all its values convert, or an error names the record.
 

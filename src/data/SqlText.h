@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Moment.h"
+#include "system/Moment.h"
 
 #include <QString>
 #include <initializer_list>

@@ -1,11 +1,11 @@
 #include "help/HTMLHelpViewer.h"
 
-#include "platform/MessageBoxes.h"
-#include "platform/Modules.h"
-#include "platform/Shell.h"
-#include "platform/WindowPlacement.h"
-#include "ui/FormServices.h"
-#include "ui/PdfFileChoice.h"
+#include "system/Modules.h"
+#include "system/Shell.h"
+#include "widgets/FormServices.h"
+#include "widgets/MessageBoxes.h"
+#include "widgets/PdfFileChoice.h"
+#include "widgets/WindowPlacement.h"
 
 #include <QCoreApplication>
 

@@ -1,13 +1,13 @@
 #include "help/frmAbout.h"
 
-#include "platform/ErrorReport.h"
-#include "platform/LetterScale.h"
-#include "platform/MessageBoxes.h"
-#include "platform/ProgramFolder.h"
-#include "platform/Registry.h"
-#include "platform/Shell.h"
-#include "ui/FormServices.h"
-#include "ui/PictureLabel.h"
+#include "system/ErrorReport.h"
+#include "system/ProgramFolder.h"
+#include "system/Registry.h"
+#include "system/Shell.h"
+#include "widgets/FormServices.h"
+#include "widgets/LetterScale.h"
+#include "widgets/MessageBoxes.h"
+#include "widgets/PictureLabel.h"
 
 #include <QBoxLayout>
 #include <QCloseEvent>

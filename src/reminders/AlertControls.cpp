@@ -1,10 +1,10 @@
 #include "reminders/AlertControls.h"
 
-#include "platform/GridView.h"
-#include "platform/ScrollFrame.h"
 #include "reminders/FlashBand.h"
 #include "reminders/UsualMomentButton.h"
-#include "ui/Pickers.h"
+#include "widgets/GridView.h"
+#include "widgets/Pickers.h"
+#include "widgets/ScrollFrame.h"
 
 #include <QDateEdit>
 #include <QGroupBox>

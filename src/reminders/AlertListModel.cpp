@@ -1,10 +1,10 @@
 #include "reminders/AlertListModel.h"
 
-#include "platform/Clock.h"
-#include "platform/PlainText.h"
 #include "reminders/Lateness.h"
-#include "ui/MomentTexts.h"
-#include "ui/TaskPictures.h"
+#include "system/Clock.h"
+#include "widgets/MomentTexts.h"
+#include "widgets/PlainText.h"
+#include "widgets/TaskPictures.h"
 
 #include <QHash>
 #include <algorithm>

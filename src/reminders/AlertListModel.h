@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/GridModel.h"
-#include "reminders/ReminderChecker.h"
+#include "data/ReminderChecker.h"
+#include "widgets/GridModel.h"
 
 #include <vector>
 

@@ -1,7 +1,7 @@
 #include "reminders/UsualMomentButton.h"
 
-#include "platform/Clock.h"
-#include "ui/AccessibleControls.h"
+#include "system/Clock.h"
+#include "widgets/AccessibleControls.h"
 
 #include <QAction>
 #include <QMenu>

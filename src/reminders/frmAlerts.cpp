@@ -1,19 +1,19 @@
 #include "reminders/frmAlerts.h"
 
-#include "platform/Clock.h"
-#include "platform/ErrorReport.h"
-#include "platform/GridView.h"
-#include "platform/LetterScale.h"
-#include "platform/MessageBoxes.h"
-#include "platform/ProgramFiles.h"
-#include "platform/Shell.h"
-#include "platform/WindowPlacement.h"
+#include "data/ReminderStatements.h"
 #include "reminders/AlertsHost.h"
 #include "reminders/FlashBand.h"
 #include "reminders/UsualMomentButton.h"
-#include "ui/CloseBox.h"
-#include "ui/DateComposition.h"
-#include "ui/Pickers.h"
+#include "system/Clock.h"
+#include "system/ErrorReport.h"
+#include "system/ProgramFiles.h"
+#include "system/Shell.h"
+#include "widgets/CloseBox.h"
+#include "widgets/GridView.h"
+#include "widgets/LetterScale.h"
+#include "widgets/MessageBoxes.h"
+#include "widgets/Pickers.h"
+#include "widgets/WindowPlacement.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -218,9 +218,7 @@ void frmAlerts::btnDismiss_Click()
     const int row = m_controls.grdTasks->selectedRow();
     if (row >= 0) {
         Connection connection = openConnection();
-        store(connection,
-            QStringLiteral("update tasks set dismissed=1,reminder_on=0 where task_id = ")
-                + m_reminders.idText(row));
+        store(connection, ReminderStatements::dismiss(m_reminders.idText(row)));
         removeReminder(row);
         connection.close();
         emit remindersDismissed();
@@ -231,9 +229,7 @@ void frmAlerts::btnDismiss_Click()
 void frmAlerts::btnDismissAll_Click()
 {
     Connection connection = openConnection();
-    store(connection,
-        QStringLiteral("update  tasks set dismissed=1,reminder_on=0 where reminder_date_time <= now() and "
-                       "dismissed =0 and reminder_on=true"));
+    store(connection, ReminderStatements::dismissDue());
     hide();
     connection.close();
     emit remindersDismissed();
@@ -250,18 +246,16 @@ void frmAlerts::btnRemindMeLater_Click()
     // focus.
     m_controls.dtpReminderDate->interpretText();
     m_controls.dtpReminderTime->interpretText();
-    const QDate date = m_controls.dtpReminderDate->date();
-    const QTime time = m_controls.dtpReminderTime->time();
-    if (composeMoment(date, time) < m_services.clock.now()) {
+    const Moment moment =
+        composeMoment(m_controls.dtpReminderDate->date(), m_controls.dtpReminderTime->time());
+    if (moment < m_services.clock.now()) {
         m_services.messages.tell(this, MessageBoxes::Icon::Exclamation,
             tr("Reminder date and time should not be earlier than current system date and time"));
         m_controls.dtpReminderDate->setFocus();
         return;
     }
     Connection connection = openConnection();
-    store(connection,
-        QStringLiteral("update tasks set played=0 ,reminder_date_time =#") + monthFirstText(date, time)
-            + QStringLiteral("# where task_id = ") + m_reminders.idText(row));
+    store(connection, ReminderStatements::postpone(m_reminders.idText(row), moment));
     m_fired.remove(m_reminders.idText(row).toInt());
     removeReminder(row);
     connection.close();

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "data/ClsDatabase.h"
-#include "platform/MMControl.h"
-#include "platform/UnaskedWindow.h"
 #include "reminders/AlertControls.h"
 #include "reminders/AlertListModel.h"
-#include "ui/FormServices.h"
+#include "system/MMControl.h"
+#include "widgets/FormServices.h"
+#include "widgets/UnaskedWindow.h"
 
 #include <QHash>
 #include <QTimer>

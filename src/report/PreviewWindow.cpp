@@ -1,10 +1,10 @@
 #include "report/PreviewWindow.h"
 
-#include "platform/WrappingRow.h"
-#include "platform/printing/PageOutput.h"
-#include "platform/printing/WindowPrinting.h"
-#include "ui/ComboBox.h"
-#include "ui/QuietLine.h"
+#include "widgets/ComboBox.h"
+#include "widgets/QuietLine.h"
+#include "widgets/WrappingRow.h"
+#include "widgets/printing/PageOutput.h"
+#include "widgets/printing/WindowPrinting.h"
 
 #include <QApplication>
 #include <QBoxLayout>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/ScreenProgress.h"
 #include "report/ReportLayout.h"
 #include "report/ReportWindow.h"
+#include "widgets/ScreenProgress.h"
 
 #include <QPageLayout>
 #include <QPrinter>

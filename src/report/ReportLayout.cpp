@@ -1,6 +1,6 @@
 #include "report/ReportLayout.h"
 
-#include "platform/Progress.h"
+#include "system/Progress.h"
 
 #include <QPainter>
 #include <algorithm>

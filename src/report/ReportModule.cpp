@@ -1,5 +1,5 @@
-#include "platform/printing/WindowPrinting.h"
 #include "report/PreviewWindow.h"
+#include "widgets/printing/WindowPrinting.h"
 
 extern "C" Q_DECL_EXPORT ReportWindow* ambertaskMakeReportWindow(ReportHost& host)
 {

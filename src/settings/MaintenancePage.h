@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/clsGuiLoader.h"
+#include "widgets/clsGuiLoader.h"
 
 #include <QWidget>
 

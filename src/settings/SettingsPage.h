@@ -1,6 +1,6 @@
 #pragma once
 
-#include "settings/SettingsRecord.h"
+#include "data/SettingsRecord.h"
 
 #include <QWidget>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/RuntimeError.h"
+#include "system/RuntimeError.h"
 
 #include <QCoreApplication>
 #include <QHash>

@@ -1,6 +1,6 @@
 #include "settings/SkinPainting.h"
 
-#include "platform/LetterScale.h"
+#include "widgets/LetterScale.h"
 
 #include <QGuiApplication>
 #include <QPainter>

@@ -1,11 +1,11 @@
 #include "settings/SkinStyle.h"
 
-#include "platform/LetterScale.h"
-#include "platform/PlainText.h"
 #include "settings/JoinedText.h"
 #include "settings/SkinPainting.h"
 #include "settings/SkinPictures.h"
 #include "settings/SkinProgress.h"
+#include "widgets/LetterScale.h"
+#include "widgets/PlainText.h"
 
 #include <QAbstractScrollArea>
 #include <QApplication>

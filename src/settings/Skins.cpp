@@ -1,9 +1,9 @@
 #include "settings/Skins.h"
 
-#include "platform/FileReplace.h"
-#include "platform/MessageBoxes.h"
-#include "platform/PendingEvents.h"
-#include "platform/ProgramFolder.h"
+#include "system/FileReplace.h"
+#include "system/PendingEvents.h"
+#include "system/ProgramFolder.h"
+#include "widgets/MessageBoxes.h"
 
 #include <QDirIterator>
 #include <QEvent>

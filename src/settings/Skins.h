@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/ProgramFiles.h"
 #include "settings/SkinEngine.h"
+#include "system/ProgramFiles.h"
 
 #include <QObject>
 #include <QPointer>

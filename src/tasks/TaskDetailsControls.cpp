@@ -1,12 +1,11 @@
 #include "tasks/TaskDetailsControls.h"
 
-#include "platform/ScrollFrame.h"
-#include "ui/CheckBox.h"
-#include "ui/ComboBox.h"
-#include "ui/Combos.h"
-#include "ui/DateComposition.h"
-#include "ui/LongText.h"
-#include "ui/Pickers.h"
+#include "widgets/CheckBox.h"
+#include "widgets/ComboBox.h"
+#include "widgets/Combos.h"
+#include "widgets/LongText.h"
+#include "widgets/Pickers.h"
+#include "widgets/ScrollFrame.h"
 
 #include <QDateEdit>
 #include <QGridLayout>

@@ -2,7 +2,7 @@
 
 #include "data/ClsTask.h"
 #include "data/TaskCodes.h"
-#include "platform/Moment.h"
+#include "system/Moment.h"
 
 #include <QCoreApplication>
 #include <optional>

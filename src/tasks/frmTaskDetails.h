@@ -2,7 +2,7 @@
 
 #include "tasks/TaskDetailsControls.h"
 #include "tasks/TaskInput.h"
-#include "ui/FormServices.h"
+#include "widgets/FormServices.h"
 
 #include <QWidget>
 

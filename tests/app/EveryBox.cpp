@@ -3,17 +3,17 @@
 #include "categories/frmCategoryDetails.h"
 #include "help/window/CompiledHelpWindow.h"
 #include "help/window/TopicView.h"
-#include "platform/FileDialogs.h"
-#include "platform/MessageBoxes.h"
-#include "platform/ScreenErrorReport.h"
-#include "platform/ScreenProgress.h"
-#include "platform/printing/WindowPrinting.h"
 #include "reminders/frmAlerts.h"
 #include "report/PreviewWindow.h"
 #include "tasks/frmTaskDetails.h"
 #include "tests/help/RecordedHelpHost.h"
 #include "tests/report/RecordedReportHost.h"
 #include "tests/report/ReportSamples.h"
+#include "widgets/FileDialogs.h"
+#include "widgets/MessageBoxes.h"
+#include "widgets/ScreenErrorReport.h"
+#include "widgets/ScreenProgress.h"
+#include "widgets/printing/WindowPrinting.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>

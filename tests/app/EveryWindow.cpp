@@ -3,7 +3,6 @@
 #include "categories/frmCategoryDetails.h"
 #include "help/frmAbout.h"
 #include "help/window/CompiledHelpWindow.h"
-#include "platform/WindowPlacement.h"
 #include "reminders/frmAlerts.h"
 #include "report/PreviewWindow.h"
 #include "tasks/frmTaskDetails.h"
@@ -11,7 +10,8 @@
 #include "tests/help/RecordedHelpHost.h"
 #include "tests/report/RecordedReportHost.h"
 #include "tests/report/ReportSamples.h"
-#include "ui/QuietLine.h"
+#include "widgets/QuietLine.h"
+#include "widgets/WindowPlacement.h"
 
 #include <QCheckBox>
 #include <QListView>

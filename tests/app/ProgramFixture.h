@@ -2,7 +2,7 @@
 
 #include "app/RecordedMachine.h"
 #include "app/frmMain.h"
-#include "platform/GridView.h"
+#include "widgets/GridView.h"
 
 #include <QAction>
 #include <QPushButton>

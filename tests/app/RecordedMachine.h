@@ -1,13 +1,13 @@
 #pragma once
 
 #include "app/Program.h"
-#include "platform/WaveBackend.h"
 #include "support/MemoryRegistry.h"
 #include "support/RecordedHelpWindow.h"
 #include "support/RecordedReportWindow.h"
 #include "support/ScriptedDialogs.h"
 #include "support/TestDatabase.h"
 #include "support/TestServices.h"
+#include "system/WaveBackend.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Language.h"
+#include "system/Language.h"
 #include "tests/app/PseudoTranslator.h"
 
 #include <QCoreApplication>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "app/TasksPage.h"
-#include "platform/GridView.h"
 #include "support/TestServices.h"
+#include "widgets/GridView.h"
 
 #include <QComboBox>
 #include <QPushButton>

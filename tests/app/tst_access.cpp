@@ -1,8 +1,8 @@
-#include "platform/Language.h"
 #include "support/TestMain.h"
+#include "system/Language.h"
 #include "tests/app/AccessAudit.h"
 #include "tests/app/EveryWindow.h"
-#include "ui/ComboBox.h"
+#include "widgets/ComboBox.h"
 
 #include <QComboBox>
 #include <QFormLayout>

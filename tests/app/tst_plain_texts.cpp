@@ -1,8 +1,6 @@
 #include "categories/frmCategoryDetails.h"
 #include "help/frmAbout.h"
 #include "help/window/CompiledHelpWindow.h"
-#include "platform/MessageBoxes.h"
-#include "platform/ScreenErrorReport.h"
 #include "reminders/frmAlerts.h"
 #include "report/PreviewWindow.h"
 #include "support/TestMain.h"
@@ -12,6 +10,8 @@
 #include "tests/help/RecordedHelpHost.h"
 #include "tests/report/RecordedReportHost.h"
 #include "tests/report/ReportSamples.h"
+#include "widgets/MessageBoxes.h"
+#include "widgets/ScreenErrorReport.h"
 
 #include <QAccessible>
 #include <QComboBox>

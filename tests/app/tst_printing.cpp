@@ -1,5 +1,5 @@
-#include "app/TaskReportQuery.h"
 #include "app/TasksPage.h"
+#include "data/TaskReportQuery.h"
 #include "support/TestMain.h"
 #include "tests/app/ProgramFixture.h"
 

@@ -1,11 +1,11 @@
 #include "ProgramFixture.h"
 #include "categories/frmCategoryDetails.h"
-#include "platform/WindowPlacement.h"
 #include "reminders/frmAlerts.h"
 #include "support/ClosedWindow.h"
 #include "support/TestMain.h"
 #include "support/TestPictures.h"
 #include "tasks/frmTaskDetails.h"
+#include "widgets/WindowPlacement.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -1,8 +1,8 @@
 #include "ProgramFixture.h"
-#include "platform/WindowPlacement.h"
 #include "reminders/frmAlerts.h"
 #include "support/TestMain.h"
 #include "tasks/frmTaskDetails.h"
+#include "widgets/WindowPlacement.h"
 
 #include <QCheckBox>
 #include <QComboBox>

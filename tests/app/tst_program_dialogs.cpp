@@ -1,10 +1,10 @@
 #include "ProgramFixture.h"
 #include "categories/frmCategoryDetails.h"
-#include "platform/WindowPlacement.h"
 #include "reminders/frmAlerts.h"
 #include "support/TestMain.h"
 #include "tasks/frmTaskDetails.h"
-#include "ui/QuietLine.h"
+#include "widgets/QuietLine.h"
+#include "widgets/WindowPlacement.h"
 
 #include <QCheckBox>
 #include <QComboBox>

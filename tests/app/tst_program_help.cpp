@@ -1,10 +1,10 @@
 #include "categories/frmCategoryDetails.h"
 #include "help/frmAbout.h"
-#include "platform/WindowPlacement.h"
 #include "reminders/frmAlerts.h"
 #include "support/TestMain.h"
 #include "tasks/frmTaskDetails.h"
 #include "tests/app/ProgramFixture.h"
+#include "widgets/WindowPlacement.h"
 
 #include <QApplication>
 #include <QTabWidget>

@@ -1,5 +1,5 @@
+#include "data/DataFileCopies.h"
 #include "reminders/frmAlerts.h"
-#include "settings/DataFileCopies.h"
 #include "support/TestMain.h"
 #include "tasks/frmTaskDetails.h"
 #include "tests/app/ProgramFixture.h"

@@ -1,6 +1,6 @@
 #include "ProgramFixture.h"
-#include "platform/WindowPlacement.h"
 #include "support/TestMain.h"
+#include "widgets/WindowPlacement.h"
 
 #include <QCheckBox>
 #include <QRadioButton>

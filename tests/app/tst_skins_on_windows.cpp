@@ -2,7 +2,6 @@
 #include "help/frmAbout.h"
 #include "help/window/CompiledHelpWindow.h"
 #include "help/window/TopicView.h"
-#include "platform/MessageBoxes.h"
 #include "reminders/frmAlerts.h"
 #include "report/PreviewWindow.h"
 #include "support/TestMain.h"
@@ -14,6 +13,7 @@
 #include "tests/help/RecordedHelpHost.h"
 #include "tests/report/RecordedReportHost.h"
 #include "tests/report/ReportSamples.h"
+#include "widgets/MessageBoxes.h"
 
 #include <QCalendarWidget>
 #include <QCheckBox>

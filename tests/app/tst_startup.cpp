@@ -1,8 +1,8 @@
 #include "ProgramFixture.h"
 #include "app/FixedPictures.h"
-#include "platform/ImageList.h"
 #include "support/FullPixmapCache.h"
 #include "support/TestMain.h"
+#include "widgets/ImageList.h"
 
 #include <QApplication>
 #include <QEvent>

@@ -2,10 +2,6 @@
 #include "categories/frmCategoryDetails.h"
 #include "help/frmAbout.h"
 #include "help/window/CompiledHelpWindow.h"
-#include "platform/MessageBoxes.h"
-#include "platform/ScreenErrorReport.h"
-#include "platform/ScreenProgress.h"
-#include "platform/WindowPlacement.h"
 #include "reminders/frmAlerts.h"
 #include "report/PreviewWindow.h"
 #include "support/TestMain.h"
@@ -16,6 +12,10 @@
 #include "tests/app/WindowTexts.h"
 #include "tests/help/RecordedHelpHost.h"
 #include "tests/report/RecordedReportHost.h"
+#include "widgets/MessageBoxes.h"
+#include "widgets/ScreenErrorReport.h"
+#include "widgets/ScreenProgress.h"
+#include "widgets/WindowPlacement.h"
 
 #include <QCheckBox>
 #include <QComboBox>

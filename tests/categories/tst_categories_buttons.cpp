@@ -1,6 +1,6 @@
 #include "categories/PageUnderTest.h"
-#include "platform/WindowPlacement.h"
 #include "support/TestMain.h"
+#include "widgets/WindowPlacement.h"
 
 #include <QFile>
 #include <QLineEdit>

@@ -1,5 +1,5 @@
 #include "categories/PageUnderTest.h"
-#include "platform/database/DatabaseError.h"
+#include "store/DatabaseError.h"
 #include "support/CaughtError.h"
 #include "support/TestMain.h"
 #include "support/TestPictures.h"

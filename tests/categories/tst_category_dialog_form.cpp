@@ -1,9 +1,9 @@
 #include "categories/DialogUnderTest.h"
-#include "platform/RuntimeError.h"
 #include "support/CaughtError.h"
 #include "support/ClosedWindow.h"
 #include "support/TestMain.h"
 #include "support/TestPictures.h"
+#include "system/RuntimeError.h"
 
 #include <QAccessible>
 #include <QSet>

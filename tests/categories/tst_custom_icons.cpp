@@ -1,8 +1,8 @@
 #include "categories/CustomIcons.h"
-#include "platform/RuntimeError.h"
 #include "support/CaughtError.h"
 #include "support/TestMain.h"
 #include "support/TestPictures.h"
+#include "system/RuntimeError.h"
 
 #include <QFile>
 #include <QFileInfo>

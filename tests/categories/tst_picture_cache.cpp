@@ -1,5 +1,5 @@
+#include "categories/PackedPicture.h"
 #include "categories/PictureCache.h"
-#include "platform/PackedPicture.h"
 #include "support/TestMain.h"
 #include "support/TestPictures.h"
 

@@ -1,7 +1,7 @@
 #include "data/ClsTask.h"
 #include "data/HardTexts.h"
 #include "data/TaskCodes.h"
-#include "platform/database/Connection.h"
+#include "store/Connection.h"
 #include "support/CaughtError.h"
 #include "support/TestDatabase.h"
 #include "support/TestMain.h"

@@ -2,7 +2,7 @@
 #include "data/ClsTask.h"
 #include "data/NameOrder.h"
 #include "data/TaskCodes.h"
-#include "platform/database/UnicodeCollation.h"
+#include "store/UnicodeCollation.h"
 #include "support/TestDatabase.h"
 #include "support/TestMain.h"
 

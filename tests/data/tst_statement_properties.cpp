@@ -2,7 +2,7 @@
 #include "data/ClsTask.h"
 #include "data/SqlText.h"
 #include "data/TaskCodes.h"
-#include "platform/database/Dialect.h"
+#include "store/Dialect.h"
 #include "support/TestDatabase.h"
 #include "support/TestMain.h"
 

@@ -63,7 +63,7 @@ class OwnThreadsTest(ThreadCase):
                          {binary: [] for binary in binaries})
 
     def test_a_binary_that_can_start_a_thread_is_recognized(self):
-        for name in ("reliability/racing_threads", "platform/tst_programfolder"):
+        for name in ("reliability/racing_threads", "system/tst_programfolder"):
             binary = os.path.join(os.environ["AMBERTASK_BUILD"], "tests", name)
             self.assertTrue(STARTS_A_THREAD.search(asked_for(binary)), name)
 
@@ -107,7 +107,7 @@ class ThreadCheckerTest(ThreadCase):
         self.assertTrue(any("data race" in race and "countUp" in race for race in races), races)
 
     def test_many_threads_that_make_one_program_folder_do_not_race(self):
-        _, races = self.check("platform/tst_programfolder", {"QT_QPA_PLATFORM": "offscreen"})
+        _, races = self.check("system/tst_programfolder", {"QT_QPA_PLATFORM": "offscreen"})
         self.assertEqual(races, [])
 
     def test_nothing_of_the_program_runs_in_a_thread_of_a_library(self):

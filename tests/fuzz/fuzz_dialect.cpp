@@ -1,6 +1,6 @@
 #include "Require.h"
-#include "platform/database/DatabaseError.h"
-#include "platform/database/Dialect.h"
+#include "store/DatabaseError.h"
+#include "store/Dialect.h"
 
 #include <cstdint>
 

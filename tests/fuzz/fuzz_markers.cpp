@@ -1,7 +1,7 @@
 #include "Require.h"
 #include "data/SqlText.h"
-#include "platform/database/DatabaseError.h"
-#include "platform/database/Dialect.h"
+#include "store/DatabaseError.h"
+#include "store/Dialect.h"
 
 #include <QStringList>
 #include <cstdint>

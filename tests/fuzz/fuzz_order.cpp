@@ -1,6 +1,6 @@
 #include "Require.h"
 #include "data/NameOrder.h"
-#include "platform/database/UnicodeCollation.h"
+#include "store/UnicodeCollation.h"
 
 #include <cstdint>
 

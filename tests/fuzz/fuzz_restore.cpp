@@ -2,12 +2,12 @@
 #include "data/ClsCategory.h"
 #include "data/ClsDatabase.h"
 #include "data/ClsTask.h"
-#include "platform/Clock.h"
-#include "platform/RuntimeError.h"
-#include "platform/database/Connection.h"
-#include "platform/database/DatabaseEngine.h"
-#include "platform/database/RollbackJournal.h"
-#include "settings/DataFileCheck.h"
+#include "data/DataFileCheck.h"
+#include "store/Connection.h"
+#include "store/DatabaseEngine.h"
+#include "store/RollbackJournal.h"
+#include "system/Clock.h"
+#include "system/RuntimeError.h"
 
 #include <cstdint>
 

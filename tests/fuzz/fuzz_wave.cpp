@@ -1,5 +1,5 @@
 #include "TemporaryFile.h"
-#include "platform/sound/WaveFile.h"
+#include "system/sound/WaveFile.h"
 
 #include <cstdint>
 

@@ -2,11 +2,11 @@
 #include "help/window/HelpBook.h"
 #include "help/window/TopicPages.h"
 #include "help/window/TopicView.h"
-#include "platform/printing/PageOutput.h"
 #include "support/FullDisk.h"
 #include "support/PdfFile.h"
 #include "support/TestMain.h"
 #include "tests/help/RecordedHelpHost.h"
+#include "widgets/printing/PageOutput.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,8 +1,8 @@
 #include "help/HTMLHelpViewer.h"
-#include "platform/WindowPlacement.h"
 #include "support/RecordedHelpWindow.h"
 #include "support/TestMain.h"
 #include "support/TestServices.h"
+#include "widgets/WindowPlacement.h"
 
 #include <QLibrary>
 #include <QPointer>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/ErrorReport.h"
-#include "platform/FileDialogs.h"
-#include "platform/MessageBoxes.h"
 #include "support/TestServices.h"
+#include "system/ErrorReport.h"
+#include "widgets/FileDialogs.h"
+#include "widgets/MessageBoxes.h"
 
 #include <QStringList>
 

@@ -2,11 +2,11 @@
 
 #include "app/frmMain.h"
 #include "categories/frmCategoryDetails.h"
-#include "platform/GridView.h"
 #include "reminders/frmAlerts.h"
 #include "tasks/frmTaskDetails.h"
-#include "ui/Combos.h"
-#include "ui/Pickers.h"
+#include "widgets/Combos.h"
+#include "widgets/GridView.h"
+#include "widgets/Pickers.h"
 
 #include <QAbstractButton>
 #include <QCheckBox>

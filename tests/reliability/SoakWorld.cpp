@@ -1,7 +1,7 @@
 #include "SoakWorld.h"
 
 #include "data/TaskCodes.h"
-#include "platform/Moment.h"
+#include "system/Moment.h"
 
 #include <QFile>
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "reliability/Sweep.h"
 
-#include "platform/RuntimeError.h"
+#include "system/RuntimeError.h"
 
 #include <array>
 #include <cerrno>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "RunningProgram.h"
-#include "platform/Clock.h"
+#include "system/Clock.h"
 
 #include <QStringList>
 #include <chrono>

@@ -1,9 +1,9 @@
-#include "platform/GridView.h"
 #include "reliability/AgreeableUser.h"
 #include "reliability/DataFileState.h"
 #include "reliability/Sweep.h"
 #include "reminders/AlertsFixture.h"
 #include "support/TestMain.h"
+#include "widgets/GridView.h"
 
 #include <QTest>
 

@@ -1,10 +1,10 @@
 #include "Damage.h"
-#include "platform/PictureFile.h"
-#include "platform/RuntimeError.h"
-#include "platform/sound/SoundProcess.h"
-#include "platform/sound/WaveFile.h"
+#include "categories/PictureFile.h"
 #include "support/TestMain.h"
 #include "support/TestPictures.h"
+#include "system/RuntimeError.h"
+#include "system/sound/SoundProcess.h"
+#include "system/sound/WaveFile.h"
 
 #include <QBuffer>
 #include <QDir>

@@ -1,5 +1,4 @@
 #include "categories/frmCategoryDetails.h"
-#include "platform/Registry.h"
 #include "reliability/AgreeableUser.h"
 #include "reliability/DataFileState.h"
 #include "reliability/Sweep.h"
@@ -7,9 +6,10 @@
 #include "settings/SettingsPageUnderTest.h"
 #include "support/TestMain.h"
 #include "support/TestPictures.h"
+#include "system/Registry.h"
 #include "tasks/TaskDetailsHost.h"
 #include "tasks/frmTaskDetails.h"
-#include "ui/ControlValue.h"
+#include "widgets/ControlValue.h"
 
 #include <QAbstractButton>
 #include <QComboBox>

@@ -1,6 +1,6 @@
-#include "platform/SingleInstance.h"
 #include "reliability/FaultyDisk.h"
 #include "support/TestMain.h"
+#include "system/SingleInstance.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -1,15 +1,15 @@
 #include "app/RecordedMachine.h"
 #include "data/ClsCategory.h"
 #include "data/ClsTask.h"
+#include "data/DataFileCopies.h"
+#include "data/ReminderChecker.h"
+#include "data/SettingsStore.h"
 #include "data/TaskCodes.h"
-#include "platform/RuntimeError.h"
-#include "reminders/ReminderChecker.h"
 #include "reminders/frmAlerts.h"
-#include "settings/DataFileCopies.h"
-#include "settings/SettingsStore.h"
 #include "support/CaughtError.h"
 #include "support/TestMain.h"
 #include "support/TestPictures.h"
+#include "system/RuntimeError.h"
 
 #include <QTest>
 

@@ -1,6 +1,6 @@
-#include "platform/printing/PageOutput.h"
 #include "reliability/Sweep.h"
 #include "support/TestMain.h"
+#include "widgets/printing/PageOutput.h"
 
 #include <QApplication>
 #include <QFile>

@@ -1,7 +1,7 @@
-#include "platform/FileReplace.h"
 #include "reliability/Sweep.h"
 #include "support/TestMain.h"
-#include "tests/platform/InstalledProgram.h"
+#include "system/FileReplace.h"
+#include "tests/system/InstalledProgram.h"
 
 #include <QTest>
 #include <filesystem>

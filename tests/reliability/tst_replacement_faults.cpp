@@ -1,12 +1,9 @@
 #include "categories/CustomIcons.h"
 #include "data/ClsDatabase.h"
 #include "data/ClsTask.h"
-#include "platform/FileReplace.h"
-#include "platform/Registry.h"
-#include "platform/RuntimeError.h"
+#include "data/DataFileCopies.h"
 #include "reliability/DataFileState.h"
 #include "reliability/Sweep.h"
-#include "settings/DataFileCopies.h"
 #include "settings/DeadOperation.h"
 #include "settings/Skins.h"
 #include "support/CaughtError.h"
@@ -14,6 +11,9 @@
 #include "support/TestDatabase.h"
 #include "support/TestMain.h"
 #include "support/TestPictures.h"
+#include "system/FileReplace.h"
+#include "system/Registry.h"
+#include "system/RuntimeError.h"
 
 #include <QStandardPaths>
 #include <QTest>

@@ -1,12 +1,12 @@
 #include "data/ClsCategory.h"
+#include "data/ReminderChecker.h"
+#include "data/SettingsStore.h"
 #include "data/TaskCodes.h"
-#include "platform/RuntimeError.h"
 #include "reliability/DataFileState.h"
 #include "reliability/Sweep.h"
-#include "reminders/ReminderChecker.h"
-#include "settings/SettingsStore.h"
 #include "support/TestDatabase.h"
 #include "support/TestMain.h"
+#include "system/RuntimeError.h"
 
 #include <QTest>
 

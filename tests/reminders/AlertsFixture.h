@@ -1,10 +1,10 @@
 #pragma once
 
-#include "platform/GridView.h"
-#include "platform/WaveBackend.h"
 #include "reminders/AlertsHost.h"
 #include "reminders/frmAlerts.h"
 #include "support/TestServices.h"
+#include "system/WaveBackend.h"
+#include "widgets/GridView.h"
 
 #include <QAbstractButton>
 #include <QStringList>

@@ -1,7 +1,7 @@
-#include "platform/ImageList.h"
 #include "reminders/AlertListModel.h"
 #include "support/SteppedClock.h"
 #include "support/TestMain.h"
+#include "widgets/ImageList.h"
 
 #include <QAbstractItemModelTester>
 #include <QPixmap>

@@ -1,7 +1,6 @@
 #include "AlertsFixture.h"
 #include "reminders/UsualMomentButton.h"
 #include "support/TestMain.h"
-#include "ui/DateComposition.h"
 
 #include <QAccessible>
 #include <QApplication>

@@ -1,8 +1,8 @@
 #include "AlertsFixture.h"
 #include "data/ClsTask.h"
 #include "data/TaskCodes.h"
-#include "platform/Progress.h"
 #include "support/TestMain.h"
+#include "system/Progress.h"
 
 #include <QTest>
 

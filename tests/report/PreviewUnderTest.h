@@ -3,7 +3,7 @@
 #include "report/PreviewWindow.h"
 #include "tests/report/RecordedReportHost.h"
 #include "tests/report/ReportSamples.h"
-#include "ui/QuietLine.h"
+#include "widgets/QuietLine.h"
 
 #include <QComboBox>
 #include <QPrintPreviewWidget>

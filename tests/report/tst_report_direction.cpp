@@ -1,7 +1,7 @@
-#include "platform/printing/PageOutput.h"
 #include "report/ReportLayout.h"
 #include "support/TestMain.h"
 #include "tests/report/ReportSamples.h"
+#include "widgets/printing/PageOutput.h"
 
 #include <QPageSize>
 #include <QPainter>

@@ -1,8 +1,8 @@
-#include "platform/printing/PageOutput.h"
 #include "report/ReportLayout.h"
 #include "support/PdfFile.h"
 #include "support/TestMain.h"
 #include "tests/report/ReportSamples.h"
+#include "widgets/printing/PageOutput.h"
 
 #include <QElapsedTimer>
 #include <QFileInfo>

@@ -1,5 +1,5 @@
-#include "app/TaskReportQuery.h"
 #include "data/ClsDatabase.h"
+#include "data/TaskReportQuery.h"
 #include "support/TestDatabase.h"
 #include "support/TestMain.h"
 

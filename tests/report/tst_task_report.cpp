@@ -1,13 +1,13 @@
 #include "app/drTasks.h"
-#include "platform/Language.h"
-#include "platform/WindowPlacement.h"
 #include "report/PreviewWindow.h"
 #include "support/CaughtError.h"
 #include "support/PdfFile.h"
 #include "support/RecordedReportWindow.h"
 #include "support/TestMain.h"
 #include "support/TestServices.h"
+#include "system/Language.h"
 #include "tests/report/ReportSamples.h"
+#include "widgets/WindowPlacement.h"
 
 #include <QLibrary>
 #include <QPushButton>

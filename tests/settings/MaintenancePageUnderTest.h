@@ -3,7 +3,7 @@
 #include "settings/MaintenancePage.h"
 #include "settings/SkinFolder.h"
 #include "support/TestServices.h"
-#include "ui/QuietLine.h"
+#include "widgets/QuietLine.h"
 
 #include <QComboBox>
 #include <QDateEdit>

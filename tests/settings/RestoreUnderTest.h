@@ -1,6 +1,6 @@
 #pragma once
 
-#include "settings/DataFileCopies.h"
+#include "data/DataFileCopies.h"
 #include "settings/MaintenancePageUnderTest.h"
 
 #include <sqlite3.h>

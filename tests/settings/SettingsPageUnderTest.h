@@ -1,13 +1,13 @@
 #pragma once
 
+#include "data/SettingsStore.h"
 #include "settings/SettingsPage.h"
 #include "settings/SettingsPageHost.h"
-#include "settings/SettingsStore.h"
 #include "settings/SkinFolder.h"
 #include "settings/Skins.h"
 #include "support/MemoryRegistry.h"
 #include "support/TestServices.h"
-#include "ui/QuietLine.h"
+#include "widgets/QuietLine.h"
 
 #include <QCheckBox>
 #include <QComboBox>

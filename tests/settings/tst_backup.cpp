@@ -1,4 +1,4 @@
-#include "settings/DataFileCopies.h"
+#include "data/DataFileCopies.h"
 #include "settings/DeadOperation.h"
 #include "settings/MaintenancePageUnderTest.h"
 #include "support/CancellingProgress.h"

@@ -1,5 +1,5 @@
 #include "data/ClsDatabase.h"
-#include "settings/DataFileCopies.h"
+#include "data/DataFileCopies.h"
 #include "settings/MaintenancePageUnderTest.h"
 #include "support/OrdinaryUser.h"
 #include "support/TestMain.h"

@@ -1,13 +1,13 @@
 #include "data/ClsTask.h"
+#include "data/DataFileCopies.h"
 #include "data/TaskCodes.h"
-#include "platform/FileReplace.h"
-#include "settings/DataFileCopies.h"
 #include "settings/DeadOperation.h"
 #include "settings/RestoreUnderTest.h"
 #include "settings/SettingsPageUnderTest.h"
 #include "support/CancellingProgress.h"
 #include "support/CaughtError.h"
 #include "support/TestMain.h"
+#include "system/FileReplace.h"
 
 class TestRestore : public TestCase
 {

@@ -1,6 +1,6 @@
 #include "settings/SettingsPageUnderTest.h"
 #include "support/TestMain.h"
-#include "ui/LinkLabel.h"
+#include "widgets/LinkLabel.h"
 
 #include <QAccessible>
 #include <QGroupBox>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Progress.h"
+#include "system/Progress.h"
 
 /// Cancels an operation: at once, or at the first step of unknown length.
 class CancellingProgress final : public Progress

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/database/DatabaseError.h"
+#include "store/DatabaseError.h"
 
 #include <optional>
 

@@ -1,6 +1,6 @@
 #include "support/RecordedStatements.h"
 
-#include "platform/RuntimeError.h"
+#include "system/RuntimeError.h"
 
 #include <utility>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/ErrorReport.h"
-#include "platform/FileDialogs.h"
-#include "platform/MessageBoxes.h"
+#include "system/ErrorReport.h"
+#include "widgets/FileDialogs.h"
+#include "widgets/MessageBoxes.h"
 
 #include <QQueue>
 #include <QStringList>

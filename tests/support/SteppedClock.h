@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Clock.h"
+#include "system/Clock.h"
 
 /// A clock that stands still until a test steps it.
 class SteppedClock final : public Clock

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "data/ClsTask.h"
-#include "platform/database/DatabaseEngine.h"
+#include "store/DatabaseEngine.h"
 #include "support/RecordedStatements.h"
 #include "support/SteppedClock.h"
 

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "platform/ImageList.h"
-#include "platform/ProgramFiles.h"
-#include "platform/Shell.h"
 #include "support/ScriptedDialogs.h"
 #include "support/TestDatabase.h"
-#include "ui/CheckerTimer.h"
-#include "ui/FormServices.h"
+#include "system/ProgramFiles.h"
+#include "system/Shell.h"
+#include "widgets/CheckerTimer.h"
+#include "widgets/FormServices.h"
+#include "widgets/ImageList.h"
 
 #include <QStringList>
 

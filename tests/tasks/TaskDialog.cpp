@@ -1,8 +1,7 @@
 #include "tasks/TaskDialog.h"
 
-#include "ui/ControlValue.h"
-#include "ui/DateComposition.h"
-#include "ui/Pickers.h"
+#include "widgets/ControlValue.h"
+#include "widgets/Pickers.h"
 
 #include <QAbstractButton>
 #include <QComboBox>

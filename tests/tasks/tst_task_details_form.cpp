@@ -1,4 +1,4 @@
-#include "platform/database/DatabaseError.h"
+#include "store/DatabaseError.h"
 #include "support/TestMain.h"
 #include "tasks/TaskDialog.h"
 

@@ -4,9 +4,9 @@
 #include "help/window/HelpPanes.h"
 #include "help/window/TopicPages.h"
 #include "help/window/TopicView.h"
-#include "platform/WrappingRow.h"
-#include "platform/printing/WindowPrinting.h"
-#include "ui/QuietLine.h"
+#include "widgets/QuietLine.h"
+#include "widgets/WrappingRow.h"
+#include "widgets/printing/WindowPrinting.h"
 
 #include <QBoxLayout>
 #include <QDir>

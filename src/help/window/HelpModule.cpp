@@ -1,5 +1,5 @@
 #include "help/window/CompiledHelpWindow.h"
-#include "platform/printing/WindowPrinting.h"
+#include "widgets/printing/WindowPrinting.h"
 
 extern "C" Q_DECL_EXPORT HelpWindow* ambertaskMakeHelpWindow(HelpHost& host)
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/printing/PrintedPages.h"
+#include "widgets/printing/PrintedPages.h"
 
 #include <QImage>
 #include <QSizeF>

@@ -1,0 +1,346 @@
+#include "system/FileReplace.h"
+
+#include "system/NewFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QUuid>
+#include <cerrno>
+#include <filesystem>
+#include <optional>
+#include <system_error>
+
+#ifndef Q_OS_WIN
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+#endif
+
+namespace
+{
+
+[[noreturn]] void fail(const QString& path, const QString& why)
+{
+    throw FileError(path, why);
+}
+
+[[noreturn]] void fail(const QString& path, const std::error_code& error)
+{
+    fail(path, FileError::reason(error.default_error_condition().value()));
+}
+
+void flushFolderOf(const QString& path)
+{
+    flushFolder(QFileInfo(path).absolutePath());
+}
+
+bool isAbandoned(const QString& path)
+{
+#ifdef Q_OS_WIN
+    Q_UNUSED(path);
+    return true;
+#else
+    const int handle =
+        open(QFile::encodeName(path).constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    if (handle < 0) {
+        return false;
+    }
+    const bool isFree = flock(handle, LOCK_EX | LOCK_NB) == 0;
+    close(handle);
+    return isFree;
+#endif
+}
+
+void removeAbandoned(const QString& folder)
+{
+    static const QRegularExpression name(QStringLiteral("^\\.ambertask-[0-9a-f]{32}$"));
+    const QDir present(folder);
+    for (const QString& file :
+        present.entryList({QStringLiteral(".ambertask-*")}, QDir::Files | QDir::Hidden)) {
+        if (name.match(file).hasMatch() && isAbandoned(present.filePath(file))) {
+            QFile::remove(present.filePath(file));
+        }
+    }
+}
+
+QString unusedNameIn(const QString& folder)
+{
+    return folder + QStringLiteral("/.ambertask-") + QUuid::createUuid().toString(QUuid::Id128);
+}
+
+/// Collects small writes into larger ones. A failure is kept until the end, so that no exception passes
+/// through the code that writes.
+class GatheringDevice final : public QIODevice
+{
+public:
+    explicit GatheringDevice(NewFile& file) : m_file(file)
+    {
+        QIODevice::open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+        m_gathered.reserve(MostGathered);
+    }
+
+    bool isSequential() const override { return true; }
+    /// Throws FileError when any write has failed.
+    void finish()
+    {
+        pass();
+        if (m_failure) {
+            throw FileError(*m_failure);
+        }
+    }
+
+protected:
+    qint64 readData(char* /*bytes*/, qint64 /*size*/) override { return -1; }
+    qint64 writeData(const char* bytes, qint64 size) override
+    {
+        if (!m_failure) {
+            m_gathered.append(bytes, size);
+            if (m_gathered.size() >= MostGathered) {
+                pass();
+            }
+        }
+        return m_failure ? -1 : size;
+    }
+
+private:
+    void pass()
+    {
+        try {
+            m_file.write(m_gathered.constData(), m_gathered.size());
+        } catch (const FileError& error) {
+            m_failure = error;
+            setErrorString(error.why());
+        }
+        m_gathered.resize(0);
+    }
+
+    static constexpr qsizetype MostGathered = qsizetype{64} * 1024;
+
+    NewFile& m_file;
+    QByteArray m_gathered;
+    std::optional<FileError> m_failure;
+};
+
+void openSource(QFile& source)
+{
+    // Reading a pipe or a device would never end.
+    if (!QFileInfo(source).isFile()) {
+        fail(source.fileName(), FileError::tr("it is not a file"));
+    }
+    if (!source.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+        fail(source.fileName(), FileError::reason(source));
+    }
+}
+
+template <typename Fill> void replace(const QString& target, QFileDevice::Permissions permissions, Fill fill)
+{
+    if (target.isEmpty()) {
+        fail(target, FileError::tr("there is no file name"));
+    }
+    const QString folder = QFileInfo(resolvedPath(target)).absolutePath();
+    removeAbandoned(folder);
+    NewFile beside(unusedNameIn(folder), permissions);
+    fill(beside);
+    beside.finish();
+    moveOver(beside.path(), target);
+    beside.keep();
+}
+
+} // namespace
+
+QString FileError::reason(int error)
+{
+    switch (error) {
+#ifdef EDQUOT
+    case EDQUOT:
+#endif
+    case ENOSPC:
+        return tr("the disk is full");
+    case EFBIG:
+        return tr("the file would be too large");
+    case EACCES:
+    case EPERM:
+        return tr("there is no permission for that");
+    case EROFS:
+        return tr("nothing can be written to that disk");
+    case ENOENT:
+    case ENOTDIR:
+        return tr("the file or its folder does not exist");
+    case ENAMETOOLONG:
+        return tr("the name is too long");
+    case EIO:
+    case ENXIO:
+    case ENODEV:
+        return tr("the disk failed or was taken out");
+    default:
+        return QString::fromStdString(std::generic_category().message(error));
+    }
+}
+
+QString FileError::reason(const QFileDevice& file)
+{
+#ifdef Q_OS_WIN
+    return file.errorString();
+#else
+    Q_UNUSED(file); // the reason is in errno
+    return reason(errno);
+#endif
+}
+
+QString reasonOf(const std::exception& error)
+{
+    if (const auto* file = dynamic_cast<const FileError*>(&error);
+        file != nullptr && !file->why().isEmpty()) {
+        return file->why();
+    }
+    const auto* told = dynamic_cast<const RuntimeError*>(&error);
+    return told == nullptr ? QString::fromLocal8Bit(error.what()) : told->text();
+}
+
+bool isPresent(const QString& path)
+{
+    std::error_code error;
+    const auto status = std::filesystem::status(QFileInfo(path).filesystemFilePath(), error);
+    if (status.type() == std::filesystem::file_type::none) {
+        fail(path, error);
+    }
+    return status.type() != std::filesystem::file_type::not_found;
+}
+
+QString resolvedPath(const QString& path)
+{
+    const QString resolved = QFileInfo(path).canonicalFilePath();
+    return resolved.isEmpty() ? path : resolved;
+}
+
+bool isSameFile(const QString& left, const QString& right)
+{
+    std::error_code error;
+    return std::filesystem::equivalent(
+               QFileInfo(left).filesystemFilePath(), QFileInfo(right).filesystemFilePath(), error)
+        && !error;
+}
+
+bool flushFolder(const QString& folder)
+{
+#ifdef Q_OS_WIN
+    Q_UNUSED(folder);
+    return true;
+#else
+    const int handle = open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (handle < 0) {
+        return false;
+    }
+    const bool isDone = fsync(handle) == 0 || errno == EINVAL || errno == ENOTSUP;
+    close(handle);
+    return isDone;
+#endif
+}
+
+void copyToNewFile(
+    const QString& source, const QString& target, QFileDevice::Permissions permissions, Progress* progress)
+{
+    QFile from(source);
+    openSource(from);
+    NewFile to(target, permissions);
+    to.copy(from, progress);
+    to.finish();
+    to.keep();
+}
+
+void moveOver(const QString& file, const QString& target)
+{
+    const QString place = resolvedPath(target);
+    const QFileInfo present(place);
+    if (present.exists() && !present.isFile()) {
+        fail(place, FileError::tr("it is not a file"));
+    }
+    std::error_code error;
+    std::filesystem::rename(QFileInfo(file).filesystemFilePath(), present.filesystemFilePath(), error);
+    if (error) {
+        fail(place, error);
+    }
+    flushFolderOf(place);
+}
+
+void replaceByCopy(
+    const QString& source, const QString& target, QFileDevice::Permissions permissions, Progress* progress)
+{
+    QFile from(source);
+    openSource(from);
+    replace(target, permissions, [&](NewFile& to) { to.copy(from, progress); });
+}
+
+void replaceByBytes(const QByteArray& bytes, const QString& target, QFileDevice::Permissions permissions)
+{
+    replace(target, permissions, [&](NewFile& to) { to.write(bytes.constData(), bytes.size()); });
+}
+
+void replaceByWriting(
+    const QString& target, QFileDevice::Permissions permissions, const std::function<void(QIODevice&)>& write)
+{
+    replace(target, permissions, [&](NewFile& to) {
+        GatheringDevice device(to);
+        write(device);
+        device.finish();
+    });
+}
+
+void keepAlso(
+    const QString& file, const QString& target, QFileDevice::Permissions permissions, Progress* progress)
+{
+    const QString folder = QFileInfo(resolvedPath(target)).absolutePath();
+    removeAbandoned(folder);
+    const QString beside = unusedNameIn(folder);
+    std::error_code error;
+    std::filesystem::create_hard_link(
+        QFileInfo(resolvedPath(file)).filesystemFilePath(), QFileInfo(beside).filesystemFilePath(), error);
+    if (error) {
+        replaceByCopy(file, target, permissions, progress);
+        return;
+    }
+    QFile::setPermissions(beside, permissions);
+    try {
+        moveOver(beside, target);
+    } catch (const FileError&) {
+        QFile::remove(beside);
+        throw;
+    }
+    // rename() does nothing when both names already are the same file, and leaves the new name behind.
+    QFile::remove(beside);
+}
+
+void removeFile(const QString& path)
+{
+    QFile file(path);
+    if (!file.remove() && isPresent(path)) {
+        fail(path, file.errorString());
+    }
+    flushFolderOf(path);
+}
+
+void makePrivate(const QString& path)
+{
+    constexpr QFileDevice::Permissions Owners = PrivateFile | QFileDevice::ExeOwner;
+    constexpr QFileDevice::Permissions Others = QFileDevice::ReadGroup | QFileDevice::WriteGroup
+        | QFileDevice::ExeGroup | QFileDevice::ReadOther | QFileDevice::WriteOther | QFileDevice::ExeOther;
+    const QFileInfo file(path);
+    if (!file.isSymLink() && file.isFile() && (file.permissions() & Others)) {
+        QFile::setPermissions(path, file.permissions() & Owners);
+    }
+}
+
+void makeFolder(const QString& path)
+{
+    if (QFileInfo(path).isDir()) {
+        return;
+    }
+    makeFolder(QFileInfo(path).absolutePath());
+    // Another process may be making it at the same time.
+    if (!QDir().mkdir(path, PrivateFolder) && !QFileInfo(path).isDir()) {
+        fail(path, qt_error_string());
+    }
+    flushFolderOf(path);
+}

@@ -1,9 +1,0 @@
-#include "ui/CloseBox.h"
-
-#include <QCloseEvent>
-#include <QGuiApplication>
-
-bool isCloseByUser(const QCloseEvent& event)
-{
-    return event.spontaneous() && !qGuiApp->isSavingSession();
-}
