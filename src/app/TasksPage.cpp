@@ -6,6 +6,7 @@
 #include "widgets/Combos.h"
 #include "widgets/GridView.h"
 #include "widgets/MessageBoxes.h"
+#include "widgets/NamedControls.h"
 #include "widgets/Pickers.h"
 #include "widgets/QuietLine.h"
 #include "widgets/WindowPlacement.h"
@@ -23,21 +24,6 @@
 
 namespace
 {
-
-QLabel* labelFor(QWidget* buddy, const QString& text, const QString& name)
-{
-    auto* label = new QLabel(text);
-    label->setTextFormat(Qt::PlainText);
-    label->setObjectName(name);
-    label->setBuddy(buddy);
-    return label;
-}
-
-template <typename Control> Control* named(Control* control, const char* name)
-{
-    control->setObjectName(QLatin1String(name));
-    return control;
-}
 
 } // namespace
 
@@ -59,8 +45,8 @@ TasksPage::TasksPage(const FormServices& services, std::function<TaskColumns()> 
         const int index = m_categories->findData(static_cast<qint32>(id));
         return index < 0 ? QString() : m_categories->itemText(index);
     });
-    m_dateFromLabel = labelFor(m_dateFrom, tr("&From"), QStringLiteral("lblDateFrom"));
-    m_dateToLabel = labelFor(m_dateTo, tr("&To"), QStringLiteral("lblDateTo"));
+    m_dateFromLabel = named(labelFor(m_dateFrom, tr("&From")), "lblDateFrom");
+    m_dateToLabel = named(labelFor(m_dateTo, tr("&To")), "lblDateTo");
 
     auto* filters = new QHBoxLayout;
     filters->addWidget(makeFilterFrame(), 3);
@@ -98,9 +84,9 @@ QWidget* TasksPage::makeFilterFrame()
         layout->addWidget(label, row, 0);
         layout->addWidget(combo, row, 1);
     };
-    addRow(0, labelFor(m_categories, tr("Categor&y"), QStringLiteral("SCLabel1")), m_categories);
-    addRow(1, labelFor(m_status, tr("Stat&us"), QStringLiteral("SCLabel2")), m_status);
-    addRow(2, labelFor(m_sort, tr("S&ort by"), QStringLiteral("SCLabel3")), m_sort);
+    addRow(0, named(labelFor(m_categories, tr("Categor&y")), "SCLabel1"), m_categories);
+    addRow(1, named(labelFor(m_status, tr("Stat&us")), "SCLabel2"), m_status);
+    addRow(2, named(labelFor(m_sort, tr("S&ort by")), "SCLabel3"), m_sort);
     layout->setColumnStretch(1, 1);
     // A long category name must not widen the page; the program's own words must be seen whole.
     m_categories->keepNarrow(18);

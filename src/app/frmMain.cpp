@@ -13,6 +13,7 @@
 #include "widgets/CloseBox.h"
 #include "widgets/LetterScale.h"
 #include "widgets/LinkLabel.h"
+#include "widgets/NamedControls.h"
 #include "widgets/PictureLabel.h"
 #include "widgets/WindowPlacement.h"
 #include "widgets/clsGuiLoader.h"
@@ -94,10 +95,7 @@ QWidget* frmMain::makeHeader()
     addLink("lblOrganizerHeader", QStringLiteral("Organizer"), false);
     layout->addWidget(product);
     layout->addStretch();
-    auto* version = new QLabel(tr("Version 1.1"));
-    version->setTextFormat(Qt::PlainText);
-    version->setObjectName(QStringLiteral("lblVersionHeader"));
-    layout->addWidget(version, 0, Qt::AlignBottom);
+    layout->addWidget(named(plainLabel(tr("Version 1.1")), "lblVersionHeader"), 0, Qt::AlignBottom);
     connect(header, &HeaderFrame::menuRequested, this, &frmMain::header_Menu);
     return header;
 }

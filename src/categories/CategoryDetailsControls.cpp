@@ -4,6 +4,7 @@
 #include "categories/PicturePanel.h"
 #include "widgets/LetterScale.h"
 #include "widgets/LongText.h"
+#include "widgets/NamedControls.h"
 #include "widgets/PictureLabel.h"
 #include "widgets/ScrollFrame.h"
 #include "widgets/TaskPictures.h"
@@ -25,41 +26,24 @@ constexpr int PreviewFrame = 1;
 constexpr int IconColumns = 6;
 constexpr int DescriptionLines = 4;
 
-template <typename Control> Control* named(const QString& name, QWidget& parent)
-{
-    auto* control = new Control(&parent);
-    control->setObjectName(name);
-    return control;
-}
-
-QLabel* labelFor(QWidget& buddy, const char* name, const QString& text, QWidget& form)
-{
-    auto* label = named<QLabel>(QLatin1String(name), form);
-    label->setTextFormat(Qt::PlainText);
-    label->setText(text);
-    label->setBuddy(&buddy);
-    return label;
-}
-
 } // namespace
 
 CategoryDetailsControls::CategoryDetailsControls(QWidget& form)
-    : txtCatName(named<QLineEdit>(QStringLiteral("txtCatName"), form)),
-      txtCatDesc(named<QPlainTextEdit>(QStringLiteral("txtCatDesc"), form)),
-      opnDefaultIcon(named<QRadioButton>(QStringLiteral("opnDefaultIcon"), form)),
-      picIcons(named<PicturePanel>(QStringLiteral("picIcons"), form)), imgIcon{},
-      opnCustomIcon(named<QRadioButton>(QStringLiteral("opnCustomIcon"), form)),
-      picCustomIcon(named<PicturePanel>(QStringLiteral("picCustomIcon"), form)),
+    : txtCatName(named(new QLineEdit(&form), "txtCatName")),
+      txtCatDesc(named(new QPlainTextEdit(&form), "txtCatDesc")),
+      opnDefaultIcon(named(new QRadioButton(&form), "opnDefaultIcon")),
+      picIcons(named(new PicturePanel(&form), "picIcons")), imgIcon{},
+      opnCustomIcon(named(new QRadioButton(&form), "opnCustomIcon")),
+      picCustomIcon(named(new PicturePanel(&form), "picCustomIcon")),
       imgCustomIcon(new PictureLabel(QSize(PreviewEdge, PreviewEdge), picCustomIcon)),
-      lblIconSize(named<QLabel>(QStringLiteral("lblIconSize"), *picCustomIcon)),
-      btnBrowse(named<QPushButton>(QStringLiteral("btnBrowse"), *picCustomIcon)),
-      btnOk(named<QPushButton>(QStringLiteral("btnOk"), form)),
-      btnCancel(named<QPushButton>(QStringLiteral("btnCancel"), form))
+      lblIconSize(named(new QLabel(picCustomIcon), "lblIconSize")),
+      btnBrowse(named(new QPushButton(picCustomIcon), "btnBrowse")),
+      btnOk(named(new QPushButton(&form), "btnOk")), btnCancel(named(new QPushButton(&form), "btnCancel"))
 {
     auto* group = new QButtonGroup(picIcons);
     for (int i = 0; i < IconCount; ++i) {
         IconBox*& box = imgIcon.at(static_cast<std::size_t>(i));
-        box = named<IconBox>(QStringLiteral("imgIcon%1").arg(i), *picIcons);
+        box = named(new IconBox(picIcons), QStringLiteral("imgIcon%1").arg(i));
         box->setAccessibleName(tr("Icon %1 of %2").arg(i + 1).arg(IconCount));
         box->setAccessibleDescription(categoryPictureWord(i));
         box->setToolTip(categoryPictureWord(i));
@@ -118,10 +102,10 @@ void CategoryDetailsControls::layOut(QWidget& form)
     auto* content = new QWidget;
     auto* grid = new QGridLayout(content);
     grid->setContentsMargins({});
-    QLabel* description = labelFor(*txtCatDesc, "lblCatDesc", tr("&Description"), form);
+    QLabel* description = named(labelFor(txtCatDesc, tr("&Description"), &form), "lblCatDesc");
     description->setAlignment(Qt::AlignTop | Qt::AlignLeading);
     int row = 0;
-    grid->addWidget(labelFor(*txtCatName, "lblCatName", tr("&Category"), form), row, 0);
+    grid->addWidget(named(labelFor(txtCatName, tr("&Category"), &form), "lblCatName"), row, 0);
     grid->addWidget(txtCatName, row++, 1);
     grid->addWidget(description, row, 0);
     grid->addWidget(txtCatDesc, row, 1);

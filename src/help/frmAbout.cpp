@@ -7,6 +7,7 @@
 #include "widgets/FormServices.h"
 #include "widgets/LetterScale.h"
 #include "widgets/MessageBoxes.h"
+#include "widgets/NamedControls.h"
 #include "widgets/PictureLabel.h"
 
 #include <QBoxLayout>
@@ -24,17 +25,9 @@ constexpr QSize ProgramPicture(64, 64);
 constexpr QSize LogoPicture(144, 48);
 constexpr int TextWidth = 470;
 
-QLabel* label(const char* name, const QString& text)
-{
-    auto* made = new QLabel(text);
-    made->setObjectName(QLatin1String(name));
-    made->setTextFormat(Qt::PlainText);
-    return made;
-}
-
 QLabel* arialLabel(const char* name, const QString& text, qreal scale, bool bold)
 {
-    QLabel* made = label(name, text);
+    QLabel* made = named(plainLabel(text), name);
     QFont font = made->font();
     font.setFamily(QStringLiteral("Arial"));
     font.setPointSizeF(font.pointSizeF() * scale);
@@ -56,7 +49,7 @@ QLabel* picture(const char* name, const QIcon& icon, QSize size)
 
 QLabel* paragraph(const char* name, const QString& text)
 {
-    QLabel* made = label(name, text);
+    QLabel* made = named(plainLabel(text), name);
     made->setWordWrap(true);
     made->setMinimumWidth(withLetters(TextWidth, made->font()));
     return made;

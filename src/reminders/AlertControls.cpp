@@ -3,6 +3,7 @@
 #include "reminders/FlashBand.h"
 #include "reminders/UsualMomentButton.h"
 #include "widgets/GridView.h"
+#include "widgets/NamedControls.h"
 #include "widgets/Pickers.h"
 #include "widgets/ScrollFrame.h"
 
@@ -19,12 +20,6 @@ namespace
 
 constexpr QSize SmallestGrid(576, 150);
 
-template <typename Control> Control* named(Control* control, const QString& name)
-{
-    control->setObjectName(name);
-    return control;
-}
-
 // No mnemonics: the alert may come up just as the user presses Alt and a letter in the main window.
 template <typename Button> Button* workedBy(const QKeySequence& keys, Button* button)
 {
@@ -37,14 +32,6 @@ template <typename Button> Button* workedBy(const QKeySequence& keys, Button* bu
 QPushButton* button(const QString& caption, const QString& name, const QKeySequence& keys, QWidget& form)
 {
     return workedBy(keys, named(new QPushButton(caption, &form), name));
-}
-
-QLabel* labelOf(QWidget* buddy, const QString& text, QWidget* parent)
-{
-    auto* label = new QLabel(text, parent);
-    label->setTextFormat(Qt::PlainText);
-    label->setBuddy(buddy);
-    return label;
 }
 
 } // namespace
@@ -103,10 +90,10 @@ void AlertControls::layOut(QWidget& form)
 void AlertControls::layOutNewReminder()
 {
     auto* row = new QHBoxLayout(framNewReminder);
-    row->addWidget(labelOf(dtpReminderDate, tr("Date:"), framNewReminder));
+    row->addWidget(labelFor(dtpReminderDate, tr("Date:"), framNewReminder));
     row->addWidget(dtpReminderDate);
     row->addSpacing(row->spacing());
-    row->addWidget(labelOf(dtpReminderTime, tr("Time:"), framNewReminder));
+    row->addWidget(labelFor(dtpReminderTime, tr("Time:"), framNewReminder));
     row->addWidget(dtpReminderTime);
     row->addSpacing(row->spacing());
     row->addWidget(btnUsualMoment);

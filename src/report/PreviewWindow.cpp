@@ -1,6 +1,7 @@
 #include "report/PreviewWindow.h"
 
 #include "widgets/ComboBox.h"
+#include "widgets/NamedControls.h"
 #include "widgets/QuietLine.h"
 #include "widgets/WrappingRow.h"
 #include "widgets/printing/PageOutput.h"
@@ -33,20 +34,6 @@ constexpr std::array PaperSizes{
 constexpr int FitPage = 0;
 constexpr int FitWidth = 1;
 constexpr std::array ZoomPercentages{25, 50, 75, 100, 125, 150, 200, 300, 400};
-
-template <typename Control> Control* named(Control* control, const char* name)
-{
-    control->setObjectName(QLatin1String(name));
-    return control;
-}
-
-QLabel* labelFor(QWidget* buddy, const QString& text)
-{
-    auto* label = new QLabel(text);
-    label->setTextFormat(Qt::PlainText);
-    label->setBuddy(buddy);
-    return label;
-}
 
 /// In the digits that the spin box uses for the page number.
 QString inDigits(int number)

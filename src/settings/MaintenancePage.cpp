@@ -13,6 +13,7 @@
 #include "widgets/FormServices.h"
 #include "widgets/MessageBoxes.h"
 #include "widgets/MomentTexts.h"
+#include "widgets/NamedControls.h"
 #include "widgets/Pickers.h"
 #include "widgets/QuietLine.h"
 #include "widgets/ScreenProgress.h"
@@ -39,21 +40,6 @@ namespace
 {
 
 constexpr int OptionSpacing = 7;
-
-template <typename Control> Control* named(const char* name, Control* control)
-{
-    control->setObjectName(QLatin1String(name));
-    return control;
-}
-
-QLabel* labelFor(QWidget* control, const QString& caption, const QString& name)
-{
-    auto* label = new QLabel(caption);
-    label->setTextFormat(Qt::PlainText);
-    label->setObjectName(name);
-    label->setBuddy(control);
-    return label;
-}
 
 QString deletedNote(qint32 count)
 {
@@ -88,7 +74,7 @@ MaintenancePage::MaintenancePage(const FormServices& services, QWidget* parent)
     page->addWidget(makeDeleteFrame());
     page->addWidget(makeCopyFrame());
     page->addStretch();
-    m_btnHelp = named("btnHelpMaintenance", new QPushButton(tr("&Help")));
+    m_btnHelp = named(new QPushButton(tr("&Help")), "btnHelpMaintenance");
     m_btnHelp->setEnabled(false);
     page->addWidget(m_btnHelp, 0, Qt::AlignRight);
     m_quietLine = new QuietLine(QStringLiteral("lblMaintenanceNote"), this);
@@ -104,18 +90,18 @@ MaintenancePage::MaintenancePage(const FormServices& services, QWidget* parent)
 
 QGroupBox* MaintenancePage::makeDeleteFrame()
 {
-    m_cmbCategories = named("cmbCategoriesMaintenance", new ComboBox);
-    m_cmbStatus = named("cmbStatusMaintenance", new ComboBox);
+    m_cmbCategories = named(new ComboBox, "cmbCategoriesMaintenance");
+    m_cmbStatus = named(new ComboBox, "cmbStatusMaintenance");
     // A long category name must not widen the page; statuses must be seen whole.
     m_cmbCategories->keepNarrow(22);
     m_cmbStatus->keepEntriesWhole();
-    m_btnDeleteTasks = named("btnDeleteTasksMaintenance", new QPushButton(tr("&Delete")));
+    m_btnDeleteTasks = named(new QPushButton(tr("&Delete")), "btnDeleteTasksMaintenance");
 
     auto* frame = new QGroupBox(tr("Delete Tasks"));
     auto* layout = new QGridLayout(frame);
-    layout->addWidget(labelFor(m_cmbCategories, tr("&Category"), QStringLiteral("SCLabel6")), 0, 0);
+    layout->addWidget(named(labelFor(m_cmbCategories, tr("&Category")), "SCLabel6"), 0, 0);
     layout->addWidget(m_cmbCategories, 0, 1);
-    layout->addWidget(labelFor(m_cmbStatus, tr("&Status"), QStringLiteral("SCLabel7")), 1, 0);
+    layout->addWidget(named(labelFor(m_cmbStatus, tr("&Status")), "SCLabel7"), 1, 0);
     layout->addWidget(m_cmbStatus, 1, 1);
     layout->addLayout(makeTaskTypeOptions(), 0, 2, 3, 1);
     layout->addWidget(makeDateRangeFrame(), 0, 3, 3, 1);
@@ -128,9 +114,9 @@ QGroupBox* MaintenancePage::makeDeleteFrame()
 
 QBoxLayout* MaintenancePage::makeTaskTypeOptions()
 {
-    m_opnAllTasks = named("opnAllTasksMaintenance", new QRadioButton(tr("&All tasks")));
-    m_opnActiveTasks = named("opnActiveTasksMaintenance", new QRadioButton(tr("Acti&ve tasks only")));
-    m_opnExpiredTasks = named("opnExpiredTasksMaintenance", new QRadioButton(tr("&Expired tasks only")));
+    m_opnAllTasks = named(new QRadioButton(tr("&All tasks")), "opnAllTasksMaintenance");
+    m_opnActiveTasks = named(new QRadioButton(tr("Acti&ve tasks only")), "opnActiveTasksMaintenance");
+    m_opnExpiredTasks = named(new QRadioButton(tr("&Expired tasks only")), "opnExpiredTasksMaintenance");
     auto* layout = new QVBoxLayout;
     layout->setSpacing(OptionSpacing);
     layout->addWidget(m_opnAllTasks);
@@ -142,17 +128,17 @@ QBoxLayout* MaintenancePage::makeTaskTypeOptions()
 
 QGroupBox* MaintenancePage::makeDateRangeFrame()
 {
-    m_dtpDateFrom = named("dtpDateFromMaintenance", new QDateEdit);
-    m_dtpDateTo = named("dtpDateToMaintenance", new QDateEdit);
+    m_dtpDateFrom = named(new QDateEdit, "dtpDateFromMaintenance");
+    m_dtpDateTo = named(new QDateEdit, "dtpDateToMaintenance");
     setUpDatePicker(*m_dtpDateFrom, m_services.clock);
     setUpDatePicker(*m_dtpDateTo, m_services.clock);
 
     auto* frame = new QGroupBox(tr("Date Range"));
     frame->setAccessibleName(frame->title());
     auto* layout = new QGridLayout(frame);
-    layout->addWidget(labelFor(m_dtpDateFrom, tr("&From"), QStringLiteral("SCLabel8")), 0, 0);
+    layout->addWidget(named(labelFor(m_dtpDateFrom, tr("&From")), "SCLabel8"), 0, 0);
     layout->addWidget(m_dtpDateFrom, 0, 1);
-    layout->addWidget(labelFor(m_dtpDateTo, tr("&To"), QStringLiteral("SCLabel9")), 1, 0);
+    layout->addWidget(named(labelFor(m_dtpDateTo, tr("&To")), "SCLabel9"), 1, 0);
     layout->addWidget(m_dtpDateTo, 1, 1);
     layout->setRowStretch(2, 1);
     return frame;
@@ -160,8 +146,8 @@ QGroupBox* MaintenancePage::makeDateRangeFrame()
 
 QGroupBox* MaintenancePage::makeCopyFrame()
 {
-    m_btnBackup = named("btnBackup", new QPushButton(tr("&Backup")));
-    m_btnRestore = named("btnRestore", new QPushButton(tr("&Restore")));
+    m_btnBackup = named(new QPushButton(tr("&Backup")), "btnBackup");
+    m_btnRestore = named(new QPushButton(tr("&Restore")), "btnRestore");
     auto* frame = new QGroupBox(tr("Backup and Restore"));
     auto* layout = new QHBoxLayout(frame);
     layout->addWidget(m_btnBackup);

@@ -15,6 +15,7 @@
 #include "widgets/FormServices.h"
 #include "widgets/LinkLabel.h"
 #include "widgets/MessageBoxes.h"
+#include "widgets/NamedControls.h"
 #include "widgets/QuietLine.h"
 
 #include <QBoxLayout>
@@ -37,10 +38,8 @@ SettingsPage::SettingsPage(const FormServices& services, SettingsRecord& record,
     page->setColumnStretch(1, 1);
     page->setRowStretch(2, 1);
 
-    m_btnSave = new QPushButton(tr("&Save Settings"));
-    m_btnSave->setObjectName(QStringLiteral("btnSave"));
-    m_btnHelpSettings = new QPushButton(tr("&Help"));
-    m_btnHelpSettings->setObjectName(QStringLiteral("btnHelpSettings"));
+    m_btnSave = named(new QPushButton(tr("&Save Settings")), "btnSave");
+    m_btnHelpSettings = named(new QPushButton(tr("&Help")), "btnHelpSettings");
     m_btnHelpSettings->setEnabled(false);
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
@@ -97,27 +96,18 @@ QGroupBox* SettingsPage::makeColumnsFrame()
 
 QGroupBox* SettingsPage::makeSkinsFrame()
 {
-    m_cmbSkins = new ComboBox;
-    m_cmbSkins->setObjectName(QStringLiteral("cmbSkins"));
+    m_cmbSkins = named(new ComboBox, "cmbSkins");
     m_cmbSkins->addItems({QStringLiteral("Aqua"), QStringLiteral("Lemon"), QStringLiteral("Classic")});
     // A long name must not widen the page.
     m_cmbSkins->keepNarrow(20);
-    auto* currentSkin = new QLabel(tr("Current s&kin"));
-    currentSkin->setTextFormat(Qt::PlainText);
-    currentSkin->setObjectName(QStringLiteral("SCLabel4"));
-    currentSkin->setBuddy(m_cmbSkins);
+    QLabel* currentSkin = named(labelFor(m_cmbSkins, tr("Current s&kin")), "SCLabel4");
 
-    m_btnBrowseNewSkin = new QPushButton(tr("Browse"));
-    m_btnBrowseNewSkin->setObjectName(QStringLiteral("btnBrowseNewSkin"));
-    auto* addNewSkin = new QLabel(tr("Add &new skin"));
-    addNewSkin->setTextFormat(Qt::PlainText);
-    addNewSkin->setObjectName(QStringLiteral("SCLabel5"));
-    addNewSkin->setBuddy(m_btnBrowseNewSkin);
+    m_btnBrowseNewSkin = named(new QPushButton(tr("Browse")), "btnBrowseNewSkin");
+    QLabel* addNewSkin = named(labelFor(m_btnBrowseNewSkin, tr("Add &new skin")), "SCLabel5");
     m_btnBrowseNewSkin->setAccessibleName(m_btnBrowseNewSkin->text());
     m_btnBrowseNewSkin->setAccessibleDescription(tr("Add new skin"));
 
-    m_lblDownloadSkins = new LinkLabel(tr("Download More Skins"));
-    m_lblDownloadSkins->setObjectName(QStringLiteral("lblDownloadSkins"));
+    m_lblDownloadSkins = named(new LinkLabel(tr("Download More Skins")), "lblDownloadSkins");
 
     auto* frame = new QGroupBox(tr("Skins"));
     auto* layout = new QGridLayout(frame);

@@ -4,6 +4,7 @@
 #include "widgets/ComboBox.h"
 #include "widgets/Combos.h"
 #include "widgets/LongText.h"
+#include "widgets/NamedControls.h"
 #include "widgets/Pickers.h"
 #include "widgets/ScrollFrame.h"
 
@@ -21,13 +22,6 @@
 namespace
 {
 
-template <typename Control> Control* named(const char* name, QWidget& parent)
-{
-    auto* control = new Control(&parent);
-    control->setObjectName(QLatin1String(name));
-    return control;
-}
-
 /// Adds a caption with `control` as its buddy.
 QLabel* addLabel(QGridLayout& grid, int row, int column, QLabel* label, const QString& text, QWidget* control)
 {
@@ -41,25 +35,28 @@ QLabel* addLabel(QGridLayout& grid, int row, int column, QLabel* label, const QS
 } // namespace
 
 TaskDetailsControls::TaskDetailsControls(QWidget& form, const Clock& clock)
-    : txtTask(named<QLineEdit>("txtTask", form)), cmbCategories(named<ComboBox>("cmbCategories", form)),
-      txtDescription(named<QPlainTextEdit>("txtDescription", form)),
-      dtpDueDate(named<QDateEdit>("dtpDueDate", form)), dtpDueTime(named<QTimeEdit>("dtpDueTime", form)),
-      cmbStatus(named<ComboBox>("cmbStatus", form)), cmbPeriorities(named<ComboBox>("cmbPeriorities", form)),
-      framReminderLater(named<QGroupBox>("framReminderLater", form)),
-      chkEnableReminder(named<CheckBox>("chkEnableReminder", *framReminderLater)),
-      lblReminderDate(named<QLabel>("lblReminderDate", *framReminderLater)),
-      dtpReminderDate(named<QDateEdit>("dtpReminderDate", *framReminderLater)),
-      lblReminderTime(named<QLabel>("lblReminderTime", *framReminderLater)),
-      dtpReminderTime(named<QTimeEdit>("dtpReminderTime", *framReminderLater)),
-      chkReminderSound(named<CheckBox>("chkReminderSound", *framReminderLater)),
-      lblReminderSound(named<QLabel>("lblReminderSound", *framReminderLater)),
-      txtReminderSound(named<QLineEdit>("txtReminderSound", *framReminderLater)),
-      btnSoundBrowse(named<QPushButton>("btnSoundBrowse", *framReminderLater)),
-      chkReminderFile(named<CheckBox>("chkReminderFile", *framReminderLater)),
-      lblReminderFile(named<QLabel>("lblReminderFile", *framReminderLater)),
-      txtReminderFile(named<QLineEdit>("txtReminderFile", *framReminderLater)),
-      btnFileBrowse(named<QPushButton>("btnFileBrowse", *framReminderLater)),
-      btnOk(named<QPushButton>("btnOk", form)), btnCancel(named<QPushButton>("btnCancel", form))
+    : txtTask(named(new QLineEdit(&form), "txtTask")),
+      cmbCategories(named(new ComboBox(&form), "cmbCategories")),
+      txtDescription(named(new QPlainTextEdit(&form), "txtDescription")),
+      dtpDueDate(named(new QDateEdit(&form), "dtpDueDate")),
+      dtpDueTime(named(new QTimeEdit(&form), "dtpDueTime")),
+      cmbStatus(named(new ComboBox(&form), "cmbStatus")),
+      cmbPeriorities(named(new ComboBox(&form), "cmbPeriorities")),
+      framReminderLater(named(new QGroupBox(&form), "framReminderLater")),
+      chkEnableReminder(named(new CheckBox(framReminderLater), "chkEnableReminder")),
+      lblReminderDate(named(new QLabel(framReminderLater), "lblReminderDate")),
+      dtpReminderDate(named(new QDateEdit(framReminderLater), "dtpReminderDate")),
+      lblReminderTime(named(new QLabel(framReminderLater), "lblReminderTime")),
+      dtpReminderTime(named(new QTimeEdit(framReminderLater), "dtpReminderTime")),
+      chkReminderSound(named(new CheckBox(framReminderLater), "chkReminderSound")),
+      lblReminderSound(named(new QLabel(framReminderLater), "lblReminderSound")),
+      txtReminderSound(named(new QLineEdit(framReminderLater), "txtReminderSound")),
+      btnSoundBrowse(named(new QPushButton(framReminderLater), "btnSoundBrowse")),
+      chkReminderFile(named(new CheckBox(framReminderLater), "chkReminderFile")),
+      lblReminderFile(named(new QLabel(framReminderLater), "lblReminderFile")),
+      txtReminderFile(named(new QLineEdit(framReminderLater), "txtReminderFile")),
+      btnFileBrowse(named(new QPushButton(framReminderLater), "btnFileBrowse")),
+      btnOk(named(new QPushButton(&form), "btnOk")), btnCancel(named(new QPushButton(&form), "btnCancel"))
 {
     setUp(clock);
     setAccessibleNames();
@@ -169,7 +166,7 @@ void TaskDetailsControls::layOut(QWidget& form)
     auto* grid = new QGridLayout(content);
     grid->setContentsMargins({});
     const auto label = [&](const char* name) {
-        return named<QLabel>(name, form);
+        return named(new QLabel(&form), name);
     };
 
     addLabel(*grid, 0, 0, label("lblTask"), tr("&Task name:"), txtTask);

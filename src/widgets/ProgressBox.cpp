@@ -1,5 +1,6 @@
 #include "widgets/ProgressBox.h"
 
+#include "widgets/NamedControls.h"
 #include <QBoxLayout>
 #include <QLabel>
 #include <QProgressBar>
@@ -22,8 +23,7 @@ ProgressBox::ProgressBox(QWidget* owner, const QString& text) : QDialog(owner), 
     if (owner != nullptr && owner->window()->windowFlags().testFlag(Qt::WindowStaysOnTopHint)) {
         setWindowFlag(Qt::WindowStaysOnTopHint);
     }
-    auto* label = new QLabel(text);
-    label->setTextFormat(Qt::PlainText);
+    QLabel* label = plainLabel(text);
     m_bar->setAccessibleName(text);
     m_bar->setTextVisible(false);
     auto* layout = new QVBoxLayout(this);

@@ -1,6 +1,7 @@
 #include "help/window/HelpPanes.h"
 
 #include "help/window/HelpBook.h"
+#include "widgets/NamedControls.h"
 
 #include <QBoxLayout>
 #include <QCoreApplication>
@@ -37,14 +38,6 @@ void addEntries(QTreeWidget& tree, QTreeWidgetItem* parent, const std::vector<He
 QString withoutPlace(const QString& topic)
 {
     return objectPath(topic.section(u'#', 0, 0));
-}
-
-QLabel* labelFor(QWidget* buddy, const QString& text)
-{
-    auto* label = new QLabel(text);
-    label->setTextFormat(Qt::PlainText);
-    label->setBuddy(buddy);
-    return label;
 }
 
 } // namespace
