@@ -22,11 +22,6 @@
 #include <QSignalBlocker>
 #include <optional>
 
-namespace
-{
-
-} // namespace
-
 TasksPage::TasksPage(const FormServices& services, std::function<TaskColumns()> shownColumns, QWidget* parent)
     : QWidget(parent), m_services(services), m_shownColumns(std::move(shownColumns)),
       m_model(new TaskListModel(this)), m_grid(named(new GridView, "grdTasks")),
