@@ -19,6 +19,26 @@ def says(node, text):
         return False
 
 
+def balloon_label(user):
+    """The label that the balloon shows its text in, or None."""
+    try:
+        labels = [label for window in user.access.windows() for label in window.all("label")
+                  if label.name == names.BALLOON]
+    except GLib.Error:
+        return None
+    return labels[0] if labels else None
+
+
+def contrast(one, other):
+    """The contrast of two colours (red, green, blue), as accessibility guidelines count it: 1 to 21."""
+    def lightness(colour):
+        parts = [part / 255 for part in colour]
+        linear = [part / 12.92 if part <= 0.04045 else ((part + 0.055) / 1.055) ** 2.4 for part in parts]
+        return 0.2126 * linear[0] + 0.7152 * linear[1] + 0.0722 * linear[2]
+    low, high = sorted((lightness(one), lightness(other)))
+    return (high + 0.05) / (low + 0.05)
+
+
 class TrayCase(DesktopCase):
     balloon = 1
     minimize_on_start = 0
@@ -139,6 +159,22 @@ class TrayIconTest(TrayCase):
         wait_until(lambda: not self.balloon_shows(self.user), "the balloon goes", 6)
         self.assertTrue(self.user.program.running())
         self.assertEqual(self.user.first_tray_entry(), "Show")
+
+
+class DarkBalloonTest(TrayCase):
+    def test_the_balloon_can_be_read_in_a_dark_skin(self):
+        self.store.set(skin="Midnight")
+        user = self.start()
+        user.wait_loaded()
+        user.tray_icon()
+        user.window(names.MAIN).close()
+        label = wait_until(lambda: balloon_label(user), "the balloon shows")
+        left, top, width, height = label.place()
+        letters = self.desk.screen.pixels(left, top, width, height)
+        # Letters are few; the ground is what there is most of.
+        ground = max(set(letters), key=letters.count)
+        best = max(contrast(colour, ground) for colour in set(letters))
+        self.assertGreaterEqual(best, 7, f"letters on {ground}")
 
 
 class HiddenStartTest(TrayCase):

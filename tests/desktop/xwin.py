@@ -281,8 +281,12 @@ class Screen:
 
     def pixel(self, x, y):
         """The colour shown at a place of the screen: red, green, blue."""
-        data = self.root.get_image(x, y, 1, 1, X.ZPixmap, 0xFFFFFFFF).data
-        return data[2], data[1], data[0]
+        return self.pixels(x, y, 1, 1)[0]
+
+    def pixels(self, x, y, width, height):
+        """The colours shown in a rectangle of the screen, row by row: red, green, blue."""
+        data = self.root.get_image(x, y, width, height, X.ZPixmap, 0xFFFFFFFF).data
+        return list(zip(data[2::4], data[1::4], data[0::4]))
 
     def screenshot(self, path):
         geometry = self.root.get_geometry()
