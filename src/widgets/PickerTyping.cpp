@@ -78,6 +78,7 @@ bool PickerTyping::eventFilter(QObject* watched, QEvent* event)
         if (event->type() == QEvent::MouseButtonRelease
             && static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
             select(m_picker.currentSectionIndex());
+            m_part.clear();
         }
         return false;
     }
@@ -86,6 +87,7 @@ bool PickerTyping::eventFilter(QObject* watched, QEvent* event)
         return take(*static_cast<QKeyEvent*>(event));
     case QEvent::FocusOut:
         m_typedDay = 0;
+        m_part.clear();
         return false;
     case QEvent::Wheel:
         event->setAccepted(m_picker.hasFocus());
@@ -103,11 +105,13 @@ bool PickerTyping::take(const QKeyEvent& key)
         m_hasGoneOn = false;
         return false;
     }
-    if (isName(m_picker.sectionText(m_picker.currentSection()))) {
-        // Qt handles names of months.
+    const QChar letter = key.text().front();
+    const bool isOurs = letter.isDigit() || (!letter.isLetter() && (m_hasGoneOn || goesOn()));
+    if (isInName() && !isOurs) {
+        // Qt handles names of months, but not the numbers that are typed instead.
+        m_hasGoneOn = false;
         return false;
     }
-    const QChar letter = key.text().front();
     if (letter.isDigit()) {
         takeDigit(letter.digitValue());
     } else if (!letter.isLetter()) {
@@ -159,12 +163,15 @@ QString PickerTyping::begunPart()
     const bool isSelected = m_edit.hasSelectedText();
     const int cursor = m_edit.cursorPosition();
     // Compared with what was typed, as Qt changes a number that cannot occur in the shown month.
-    const bool goesOn = !isSelected && cursor == m_cursor && m_edit.text() == m_written;
+    const bool isBegun = goesOn();
     select(isAllSelected ? 0 : m_picker.currentSectionIndex());
-    if (isSelected || (!goesOn && cursor != m_edit.selectionEnd())) {
+    if (isInName()) {
+        return isBegun ? m_part : QString();
+    }
+    if (isSelected || (!isBegun && cursor != m_edit.selectionEnd())) {
         return {};
     }
-    QString part = goesOn ? m_part : plainDigits(m_edit.selectedText());
+    QString part = isBegun ? m_part : plainDigits(m_edit.selectedText());
     if (part.size() < numbersOf(m_picker.currentSection()).digits) {
         return part;
     }
@@ -173,11 +180,28 @@ QString PickerTyping::begunPart()
     return {};
 }
 
+bool PickerTyping::isInName() const
+{
+    return isName(m_picker.sectionText(m_picker.currentSection()));
+}
+
+bool PickerTyping::goesOn() const
+{
+    const bool isWhereItWas = m_edit.cursorPosition() == m_cursor && m_edit.text() == m_written;
+    // A name that stands for a number stays selected.
+    return isWhereItWas && m_edit.hasSelectedText() == isInName() && !m_part.isEmpty();
+}
+
 void PickerTyping::write(const QString& part)
 {
-    const bool isOfTypedDay = m_picker.date() == m_madeOfIt;
-    m_edit.insert(inDigitsOf(m_picker.locale(), part));
-    m_madeOfIt = isOfTypedDay ? m_picker.date() : QDate();
+    if (!isInName()) {
+        const bool isOfTypedDay = m_picker.date() == m_madeOfIt;
+        m_edit.insert(inDigitsOf(m_picker.locale(), part));
+        m_madeOfIt = isOfTypedDay ? m_picker.date() : QDate();
+    } else if (part.toInt() >= numbersOf(m_picker.currentSection()).least) {
+        setNumber(part.toInt());
+        select(m_picker.currentSectionIndex());
+    }
     m_part = part;
     m_written = m_edit.text();
     m_cursor = m_edit.cursorPosition();

@@ -7,11 +7,11 @@ class QDateTimeEdit;
 class QKeyEvent;
 class QLineEdit;
 
-/// Workaround: QDateTimeEdit of Qt 6.4.2 ignores digits after a click and a 31st while a shorter month is
-/// shown (tst_qt_workarounds, digitsAfterAClickAreNotTaken and a31stIsNotTakenWhileAShorterMonthIsShown).
-/// Handles the digits typed into a picker: a click selects the section below it, the last digit of a
-/// section or a separator leads to the next one, and where everything is selected typing begins with the
-/// first. The wheel changes a picker only while it has the focus.
+/// Workaround: QDateTimeEdit of Qt 6.4.2 ignores digits after a click, digits in a month that is shown by its
+/// name, and a 31st while a shorter month is shown (tst_qt_workarounds, digitsAfterAClickAreNotTaken and
+/// a31stIsNotTakenWhileAShorterMonthIsShown). Handles the digits typed into a picker: a click selects the
+/// section below it, the last digit of a section or a separator leads to the next one, and where everything
+/// is selected typing begins with the first. The wheel changes a picker only while it has the focus.
 class PickerTyping final : public QObject
 {
     Q_OBJECT
@@ -29,6 +29,10 @@ private:
     void takeSeparator();
     /// The digits typed so far in the section of the cursor, which gets selected.
     QString begunPart();
+    /// Whether the section of the cursor shows the name of a month.
+    bool isInName() const;
+    /// Whether the next digit continues the last part.
+    bool goesOn() const;
     void write(const QString& part);
     /// Sets the section to that number and selects the next one.
     void finish(int number);

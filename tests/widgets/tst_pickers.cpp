@@ -87,7 +87,9 @@ private slots:
     void aDigitBeginsAFullSectionAnew();
     void separatorsMayBeTypedOrLeftOut_data();
     void separatorsMayBeTypedOrLeftOut();
-    void aMonthIsTypedByItsName();
+    void aMonthWithANameIsTypedByItOrByItsNumber_data();
+    void aMonthWithANameIsTypedByItOrByItsNumber();
+    void aNumberInPlaceOfANameIsBegunAnewAfterAClick();
     void whatCannotBeADateIsNotTaken();
     void aTypedDayIsForgottenWithTheDateThatWasMadeOfIt();
     void theWheelTurnsAPickerOnlyWithTheFocus();
@@ -349,8 +351,27 @@ void TestPickers::separatorsMayBeTypedOrLeftOut()
     QCOMPARE(shown.picker.text(), QStringLiteral("1/5/2027"));
 }
 
-void TestPickers::aMonthIsTypedByItsName()
+void TestPickers::aMonthWithANameIsTypedByItOrByItsNumber_data()
 {
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QDate>("date");
+    const auto row = [](const char* typed, QDate date) {
+        QTest::newRow(typed) << QString::fromLatin1(typed) << date;
+    };
+    row("23Nov2027", QDate(2027, 11, 23));
+    row("23112027", QDate(2027, 11, 23));
+    row("23 11 2027", QDate(2027, 11, 23));
+    row("23.11.2027", QDate(2027, 11, 23));
+    row("03042027", QDate(2027, 4, 3));
+    row("3 4 2027", QDate(2027, 4, 3));
+    row("3 1 2027", QDate(2027, 1, 3));
+    row("31122027", QDate(2027, 12, 31));
+    row("31012027", QDate(2027, 1, 31));
+}
+
+void TestPickers::aMonthWithANameIsTypedByItOrByItsNumber()
+{
+    QFETCH(QString, typed);
     QLocale::setDefault(QLocale::c());
     ShownPicker<QDateEdit> shown;
     setUpDatePicker(shown.picker, m_clock);
@@ -358,8 +379,23 @@ void TestPickers::aMonthIsTypedByItsName()
     QCOMPARE(shown.picker.text(), QStringLiteral("15 Feb 2026"));
     QVERIFY(shown.show());
     shown.click(0);
-    QTest::keyClicks(&shown.picker, QStringLiteral("23Nov2027"));
-    QCOMPARE(shown.picker.date(), QDate(2027, 11, 23));
+    QTest::keyClicks(&shown.picker, typed);
+    QTEST(shown.picker.date(), "date");
+}
+
+void TestPickers::aNumberInPlaceOfANameIsBegunAnewAfterAClick()
+{
+    QLocale::setDefault(QLocale::c());
+    ShownPicker<QDateEdit> shown;
+    setUpDatePicker(shown.picker, m_clock);
+    shown.picker.setDate(QDate(2026, 5, 15));
+    QVERIFY(shown.show());
+    shown.click(4);
+    QTest::keyClicks(&shown.picker, QStringLiteral("1"));
+    QCOMPARE(shown.picker.date(), QDate(2026, 1, 15));
+    shown.click(4);
+    QTest::keyClicks(&shown.picker, QStringLiteral("2"));
+    QCOMPARE(shown.picker.date(), QDate(2026, 2, 15));
 }
 
 void TestPickers::whatCannotBeADateIsNotTaken()
