@@ -7,6 +7,8 @@
 #include <QFileIconProvider>
 #include <QFileInfo>
 #include <QFileSystemModel>
+#include <QHeaderView>
+#include <QTreeView>
 
 namespace
 {
@@ -44,6 +46,17 @@ void filterWhatWasRead(QFileDialog& dialog)
     }
 }
 
+/// Qt 6.4.2 makes the columns wide enough for the dates and sizes of one format, whatever the system's is,
+/// and cuts the others in their middle: backups of one day are told apart by nothing else.
+void showColumnsWhole(const QFileDialog& dialog)
+{
+    QHeaderView* header = dialog.findChild<QTreeView*>(QStringLiteral("treeView"))->header();
+    // What is in sight counts: a folder may hold very many files.
+    header->setResizeContentsPrecision(0);
+    header->setSectionResizeMode(QHeaderView::ResizeToContents);
+    header->setSectionResizeMode(0, QHeaderView::Stretch);
+}
+
 QString show(QWidget* owner, const FileDialogRequest& request, QFileDialog::AcceptMode mode)
 {
     const PlainDialogTexts plainTexts;
@@ -51,6 +64,7 @@ QString show(QWidget* owner, const FileDialogRequest& request, QFileDialog::Acce
     QFileDialog dialog(owner, QString(), request.initialFolder);
     dialog.setIconProvider(&icons);
     filterWhatWasRead(dialog);
+    showColumnsWhole(dialog);
     dialog.setObjectName(request.name);
     dialog.setAcceptMode(mode);
     if (mode == QFileDialog::AcceptOpen) {

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QHelpEvent>
 #include <QListView>
 #include <QMessageBox>
@@ -11,6 +12,7 @@
 #include <QTest>
 #include <QTimer>
 #include <QToolTip>
+#include <QTreeView>
 
 class FileDialogsTest : public TestCase
 {
@@ -80,6 +82,38 @@ private slots:
         ScreenFileDialogs().open(nullptr, request);
         QCOMPARE(filter, QStringLiteral("All Files (*)"));
         QCOMPARE(listed, QStringList(QStringLiteral("backup-script")));
+    }
+
+    void sizesAndDatesAreShownWhole()
+    {
+        const QTemporaryDir folder;
+        QFile backup(
+            folder.filePath(QStringLiteral("backup of a long, long, long, long, long, long, long day")));
+        QVERIFY(backup.open(QIODevice::WriteOnly) && backup.resize(150 * 1024));
+        FileDialogRequest request;
+        request.filter = QStringLiteral("All (*)|*");
+        request.initialFolder = folder.path();
+        QList<int> missing;
+        int beyond = 1;
+        QTimer look;
+        connect(&look, &QTimer::timeout, this, [&] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            const auto* list =
+                dialog == nullptr ? nullptr : dialog->findChild<QTreeView*>(QStringLiteral("treeView"));
+            if (list == nullptr || list->model()->rowCount(list->rootIndex()) == 0) {
+                return;
+            }
+            for (int column = 1; column < list->header()->count(); ++column) {
+                const QModelIndex cell = list->model()->index(0, column, list->rootIndex());
+                missing.append(std::max(0, list->sizeHintForIndex(cell).width() - list->columnWidth(column)));
+            }
+            beyond = std::max(0, list->header()->length() - list->viewport()->width());
+            dialog->reject();
+        });
+        look.start(10);
+        ScreenFileDialogs().open(nullptr, request);
+        QCOMPARE(missing, QList<int>({0, 0, 0}));
+        QCOMPARE(beyond, 0);
     }
 
     void aFolderOfTheUserIsWhereADialogBeginsAndElseTheHome()
