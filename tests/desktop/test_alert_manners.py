@@ -103,6 +103,22 @@ class OtherProgramTest(DesktopCase):
         self.assertEqual(self.store.task(self.task)["dismissed"], 1)
         self.assertFalse(alert.mapped)
 
+    def test_the_main_window_comes_in_front_with_the_keyboard_and_the_alert_stays_within_reach(self):
+        self.start_beside_another_program()
+        alert = self.come_up()
+        wait_until(lambda: alert.demands_attention, "the alert asks for attention")
+        self.user.double_click_tray()
+        self.user.wait_active(names.MAIN)
+        main_window = self.user.window(names.MAIN)
+        wait_until(lambda: self.desk.screen.is_above(main_window, alert), "the main window lies in front")
+        self.assertTrue(alert.mapped and alert.demands_attention)
+        # By the mouse alone, and without a task bar.
+        self.user.double_click_tray()
+        self.user.wait_hidden(names.MAIN)
+        self.user.click_control(self.user.alert(1), names.DISMISS)
+        self.user.wait_hidden(names.alert_title(1))
+        self.assertEqual(self.store.task(self.task)["dismissed"], 1)
+
 
 if __name__ == "__main__":
     main()
