@@ -46,12 +46,13 @@ void filterWhatWasRead(QFileDialog& dialog)
     }
 }
 
-/// Qt 6.4.2 makes the columns wide enough for the dates and sizes of one format, whatever the system's is,
-/// and cuts the others in their middle: backups of one day are told apart by nothing else.
+/// Workaround: Qt 6.4.2 sizes the columns for one format of date and size, whatever the system uses, and
+/// elides other values in the middle (tst_qt_workarounds, theSizeColumnOfAFileDialogIsTooNarrow). Often only
+/// size and date tell two backups apart.
 void showColumnsWhole(const QFileDialog& dialog)
 {
     QHeaderView* header = dialog.findChild<QTreeView*>(QStringLiteral("treeView"))->header();
-    // What is in sight counts: a folder may hold very many files.
+    // Only visible rows count, as a folder may hold very many files.
     header->setResizeContentsPrecision(0);
     header->setSectionResizeMode(QHeaderView::ResizeToContents);
     header->setSectionResizeMode(0, QHeaderView::Stretch);

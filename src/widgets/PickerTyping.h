@@ -8,10 +8,11 @@ class QKeyEvent;
 class QLineEdit;
 
 /// Workaround: QDateTimeEdit of Qt 6.4.2 ignores digits after a click, digits in a month that is shown by its
-/// name, and a 31st while a shorter month is shown (tst_qt_workarounds, digitsAfterAClickAreNotTaken and
-/// a31stIsNotTakenWhileAShorterMonthIsShown). Handles the digits typed into a picker: a click selects the
-/// section below it, the last digit of a section or a separator leads to the next one, and where everything
-/// is selected typing begins with the first. The wheel changes a picker only while it has the focus.
+/// name, and a 31st while a shorter month is shown (tst_qt_workarounds, digitsAfterAClickAreNotTaken,
+/// digitsAreNotTakenInTheNameOfAMonth and a31stIsNotTakenWhileAShorterMonthIsShown). Handles the digits typed
+/// into a picker: a click selects the section below it, the last digit of a section or a separator leads to
+/// the next one, and where everything is selected typing begins with the first. The wheel changes a picker
+/// only while it has the focus.
 class PickerTyping final : public QObject
 {
     Q_OBJECT

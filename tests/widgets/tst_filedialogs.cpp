@@ -2,6 +2,7 @@
 #include "widgets/FileDialogs.h"
 
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QFile>
 #include <QFileDialog>
 #include <QHeaderView>
@@ -96,6 +97,7 @@ private slots:
         QList<int> missing;
         int beyond = 1;
         QTimer look;
+        const QDeadlineTimer end(5000);
         connect(&look, &QTimer::timeout, this, [&] {
             auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
             const auto* list =
@@ -103,12 +105,16 @@ private slots:
             if (list == nullptr || list->model()->rowCount(list->rootIndex()) == 0) {
                 return;
             }
+            missing.clear();
             for (int column = 1; column < list->header()->count(); ++column) {
                 const QModelIndex cell = list->model()->index(0, column, list->rootIndex());
                 missing.append(std::max(0, list->sizeHintForIndex(cell).width() - list->columnWidth(column)));
             }
             beyond = std::max(0, list->header()->length() - list->viewport()->width());
-            dialog->reject();
+            // The columns follow what was read a little later.
+            if ((missing.count(0) == missing.size() && beyond == 0) || end.hasExpired()) {
+                dialog->reject();
+            }
         });
         look.start(10);
         ScreenFileDialogs().open(nullptr, request);

@@ -8,6 +8,7 @@
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QImage>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
@@ -29,6 +30,7 @@
 #include <QTextBrowser>
 #include <QTimeEdit>
 #include <QTimer>
+#include <QTreeView>
 
 namespace
 {
@@ -282,6 +284,46 @@ private slots:
         QTest::mouseClick(edit, Qt::LeftButton, {}, edit->rect().center());
         QTest::keyClicks(&time, QStringLiteral("1159"));
         QVERIFY(time.time() != QTime(11, 59));
+    }
+
+    void digitsAreNotTakenInTheNameOfAMonth()
+    {
+        QDateEdit date(QDate(2026, 2, 15));
+        date.setLocale(QLocale::c());
+        date.setDisplayFormat(QStringLiteral("d MMM yyyy"));
+        date.show();
+        QVERIFY(QTest::qWaitForWindowActive(&date));
+        date.setSelectedSection(QDateTimeEdit::MonthSection);
+        QTest::keyClicks(&date, QStringLiteral("11"));
+        QCOMPARE(date.date(), QDate(2026, 2, 15));
+    }
+
+    void underAStyleSheetTheColoursOfABalloonDoNotReachItsLabels()
+    {
+        qApp->setStyleSheet(QStringLiteral("QToolTip { padding: 1px; }"));
+        const auto sheet = qScopeGuard([] { qApp->setStyleSheet(QString()); });
+        QWidget balloon;
+        const QLabel label(QStringLiteral("still running"), &balloon);
+        QPalette palette = balloon.palette();
+        palette.setColor(QPalette::WindowText, QColor::fromRgb(Red));
+        balloon.setPalette(palette);
+        balloon.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&balloon));
+        QVERIFY(label.palette().color(QPalette::WindowText) != QColor::fromRgb(Red));
+    }
+
+    void theSizeColumnOfAFileDialogIsTooNarrow()
+    {
+        const QTemporaryDir folder;
+        QFile file(folder.filePath(QStringLiteral("file")));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(150 * 1024));
+        QFileDialog dialog(nullptr, QString(), folder.path());
+        dialog.setOption(QFileDialog::DontUseNativeDialog);
+        dialog.show();
+        const auto* list = dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
+        QTRY_COMPARE(list->model()->rowCount(list->rootIndex()), 1);
+        const QModelIndex size = list->model()->index(0, 1, list->rootIndex());
+        QVERIFY(list->sizeHintForIndex(size).width() > list->columnWidth(1));
     }
 
     void a31stIsNotTakenWhileAShorterMonthIsShown()
