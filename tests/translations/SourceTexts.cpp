@@ -30,7 +30,7 @@ bool isStatement(const QString& text)
         QStringLiteral("^[#',]?\\s*(select (\\*|(count|ifnull)\\(|[\\w.]+(,| from))|insert into |delete from "
                        "\\w+( where|\\s*$)"
                        "|[Uu]pdate +\\w+ set |pragma \\w+$|PRAGMA |SELECT |BEGIN IMMEDIATE$"
-                       "|(where|and) [\\w.]+ ?<?= ?|order by ?\\w*$)|^,\\w+='"));
+                       "|(where|and) [\\w.]+ ?<?= ?|order by ?\\w*$)|^,\\w+='|^\\w+ <= now\\(\\)"));
     static const QRegularExpression styleRule(QStringLiteral("^Q[A-Z]\\w+(::[\\w-]+)? \\{"));
     return text.contains(statement) || text.contains(styleRule);
 }

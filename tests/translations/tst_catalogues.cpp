@@ -213,6 +213,7 @@ void CataloguesTest::aSentenceOutsideOfTranslationIsFound_data()
     row("statement of the system",
         "execute(\"Update categories set cat_name = '\" + name + \"'  where cat_id =  \")");
     row("end of a statement", "text += \"# and task_due_date <= #\"; text += \" order by task_name\";");
+    row("condition of statements", "Due(\"reminder_date_time <= now() and dismissed =0\")");
     row("style rule", "setStyleSheet(\"QLabel { border: 1px solid black; }\")");
 }
 
