@@ -71,6 +71,15 @@ class TrayIconTest(TrayCase):
         self.user.window(names.MAIN)
         self.assertEqual(self.user.first_tray_entry(), "Hide")
 
+    def test_a_double_click_brings_a_minimized_window_back(self):
+        window = self.user.window(names.MAIN)
+        window.minimize()
+        wait_until(lambda: window.minimized, "the main window is minimized")
+        self.assertEqual(self.user.first_tray_entry(), "Show")
+        self.user.double_click_tray()
+        wait_until(lambda: window.mapped and not window.minimized, "the main window is back")
+        self.user.wait_active(names.MAIN)
+
     def test_a_double_click_hides_the_open_dialogs_too(self):
         self.store.category("Work")
         self.user.open_new_task()
