@@ -16,8 +16,12 @@ COMMANDS = {
     "xfwm4": ["xfwm4", "--compositor=off", "--sm-client-disable"],
 }
 FILES = {
-    "icewm": (".icewm/preferences", "ShowTaskBar=0\n"),
-    "fluxbox": (".fluxbox/init", "session.screen0.toolbar.visible: false\nsession.screen0.toolbar.tools: clock\n"),
+    "icewm": {".icewm/preferences": "ShowTaskBar=0\n"},
+    "fluxbox": {
+        ".fluxbox/init": "session.screen0.toolbar.visible: false\nsession.screen0.toolbar.tools: clock\n",
+        # Its wallpaper may fail to be set, and the message about that takes the keyboard.
+        ".fluxbox/overlay": "background: none\n",
+    },
 }
 SETTINGS_SERVICE = "org.xfce.Xfconf"
 
@@ -31,8 +35,7 @@ def start(name, children, environment):
     """Starts the window manager among the children of a desk."""
     # Its own settings are kept nowhere: nothing on the desk could serve them.
     variables = {**environment, "GSETTINGS_BACKEND": "memory", "NO_AT_BRIDGE": "1"}
-    if name in FILES:
-        path, text = FILES[name]
+    for path, text in FILES.get(name, {}).items():
         path = os.path.join(environment["HOME"], path)
         os.makedirs(os.path.dirname(path), exist_ok=True)
         with open(path, "w", encoding="utf-8") as file:
