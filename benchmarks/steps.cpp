@@ -58,7 +58,8 @@ public:
 
     void lists()
     {
-        House house(m_tasks);
+        // With room for the tasks that are saved.
+        House house(m_tasks - Repetitions);
         const auto sorted = [&](const QString& how, qint32 sortBy) {
             tell(QStringLiteral("the list, ") + how,
                 m_bench.median(Repetitions, [&] { house.choose("cmbSort", sortBy); }));

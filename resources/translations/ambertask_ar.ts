@@ -142,6 +142,10 @@
         <source>The statement is unfinished: %1</source>
         <translation>العبارة غير مكتملة: %1</translation>
     </message>
+    <message>
+        <source>The task was not stored: there is no number left for a new one. Delete tasks that you no longer need, then end Ambertask and start it again.</source>
+        <translation>لم تُحفظ المهمة: لم يبقَ رقم لمهمة جديدة. احذف المهام التي لم تعد بحاجة إليها، ثم أنهِ Ambertask وشغّله من جديد.</translation>
+    </message>
 </context>
 <context>
     <name>CompiledHelpWindow</name>

@@ -142,6 +142,10 @@
         <source>The statement is unfinished: %1</source>
         <translation>Die Anweisung ist unvollständig: %1</translation>
     </message>
+    <message>
+        <source>The task was not stored: there is no number left for a new one. Delete tasks that you no longer need, then end Ambertask and start it again.</source>
+        <translation>Die Aufgabe wurde nicht gespeichert: Für eine neue ist keine Nummer mehr frei. Löschen Sie Aufgaben, die Sie nicht mehr brauchen, beenden Sie dann Ambertask und starten Sie es neu.</translation>
+    </message>
 </context>
 <context>
     <name>CompiledHelpWindow</name>

@@ -142,6 +142,10 @@
         <source>The statement is unfinished: %1</source>
         <translation>La instrucción está incompleta: %1</translation>
     </message>
+    <message>
+        <source>The task was not stored: there is no number left for a new one. Delete tasks that you no longer need, then end Ambertask and start it again.</source>
+        <translation>La tarea no se guardó: no queda ningún número para una nueva. Elimine las tareas que ya no necesite, salga de Ambertask y vuelva a iniciarlo.</translation>
+    </message>
 </context>
 <context>
     <name>CompiledHelpWindow</name>

@@ -142,6 +142,10 @@
         <source>The statement is unfinished: %1</source>
         <translation>L’instruction est incomplète&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>The task was not stored: there is no number left for a new one. Delete tasks that you no longer need, then end Ambertask and start it again.</source>
+        <translation>La tâche n’a pas été enregistrée&#xa0;: il ne reste aucun numéro pour une nouvelle tâche. Supprimez les tâches dont vous n’avez plus besoin, puis quittez Ambertask et relancez-le.</translation>
+    </message>
 </context>
 <context>
     <name>CompiledHelpWindow</name>

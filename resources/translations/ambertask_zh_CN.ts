@@ -142,6 +142,10 @@
         <source>The statement is unfinished: %1</source>
         <translation>语句不完整：%1</translation>
     </message>
+    <message>
+        <source>The task was not stored: there is no number left for a new one. Delete tasks that you no longer need, then end Ambertask and start it again.</source>
+        <translation>任务未保存：已没有编号可用于新任务。请删除不再需要的任务，然后退出并重新启动 Ambertask。</translation>
+    </message>
 </context>
 <context>
     <name>CompiledHelpWindow</name>

@@ -6,7 +6,8 @@
 #include "data/TaskOrder.h"
 #include "data/TaskRows.h"
 #include "store/DatabaseError.h"
-#include "system/RuntimeError.h"
+
+#include <limits>
 
 namespace
 {
@@ -97,13 +98,20 @@ QString rangeStatement(
     return statement.text();
 }
 
-/// Returns the id of the inserted record, if the statement inserts one.
+/// Returns the id of the inserted record, if the statement inserts one. Throws NoRoomError when that id has more than
+/// 16 bits.
 qint64 runAlone(const DatabaseEngine& engine, const QString& statement)
 {
     Connection connection = ClsDatabase(engine).Connect();
     connection.open();
     connection.execute(statement);
     const qint64 id = connection.insertedId();
+    if (id > std::numeric_limits<qint16>::max()) {
+        connection.abandon();
+        throw NoRoomError(
+            ClsTask::tr("The task was not stored: there is no number left for a new one. Delete tasks that "
+                        "you no longer need, then end Ambertask and start it again."));
+    }
     connection.close();
     return id;
 }

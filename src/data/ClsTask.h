@@ -3,12 +3,20 @@
 #include "data/PackedTexts.h"
 #include "store/DatabaseEngine.h"
 #include "system/Moment.h"
+#include "system/RuntimeError.h"
 
 #include <QCoreApplication>
 #include <optional>
 #include <vector>
 
 class RecordSet;
+
+/// There is no 16-bit id left for a new task.
+class NoRoomError : public RuntimeError
+{
+public:
+    using RuntimeError::RuntimeError;
+};
 
 /// The record of one task and the store of the table `tasks`. Copyable. Every operation opens a connection
 /// of its own and closes it; all throw DatabaseError. The codes are in TaskCodes.h.
@@ -52,7 +60,8 @@ public:
     bool DateChanged() const { return m_dateChanged; } // Without a caller: part of the interface.
     void setDateChanged(bool changed) { m_dateChanged = changed; }
 
-    /// Inserts this task and returns its id; the object keeps its own id.
+    /// Inserts this task and returns its id; the object keeps its own id. Throws NoRoomError when no id is left; nothing
+    /// is stored then.
     qint32 Add() const;
     /// Updates the row of its id.
     void Update() const;

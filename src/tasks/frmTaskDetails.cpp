@@ -251,7 +251,13 @@ bool frmTaskDetails::save()
         controlOf(refusal->field)->setFocus();
         return false;
     }
-    const qint32 id = store(entered);
+    qint32 id = 0;
+    try {
+        id = store(entered);
+    } catch (const NoRoomError& error) {
+        m_services.messages.tell(this, MessageBoxes::Icon::Exclamation, error.text());
+        return false;
+    }
     emit taskStored();
     leave();
     emit taskSaved(id);

@@ -3,7 +3,7 @@
 #include "data/TaskCodes.h"
 #include "store/Connection.h"
 #include "support/CaughtError.h"
-#include "support/TestDatabase.h"
+#include "support/OlderDataFile.h"
 #include "support/TestMain.h"
 
 #include <QFile>
@@ -60,6 +60,7 @@ private slots:
     void aMegabyteOfQuotesInEveryTextIsStoredAsItIs();
     void aDateOutOfFormIsAConversionError();
     void aCategoryIdThatDoesNotFitIsAnOverflow();
+    void theLastTaskOfAFullHouseIsStoredAndTheNextIsRefused();
     void aNullTextIsAConversionError();
     void everyOperationOpensAndClosesItsOwnConnection();
     void aLockedFileLeavesTheTaskAsItWas();
@@ -291,6 +292,20 @@ void ClsTaskTest::aDateOutOfFormIsAConversionError()
     QVERIFY(error);
     QCOMPARE(error->kind(), DatabaseError::Kind::Conversion);
     QVERIFY2(error->text().contains(QLatin1String("reminder_date_time")), qPrintable(error->text()));
+}
+
+void ClsTaskTest::theLastTaskOfAFullHouseIsStoredAndTheNextIsRefused()
+{
+    TestDatabase database;
+    addTasksUpTo(database, 7, 32766);
+    ClsTask task(database.engine());
+    task.setCategoryId(1);
+    QCOMPARE(task.Add(), 32767);
+    QVERIFY(caught<NoRoomError>([&] { task.Add(); }));
+    QCOMPARE(database.sql(QStringLiteral("select count(*) from tasks")).toInt(), 8);
+    QCOMPARE(
+        database.sql(QStringLiteral("select seq from sqlite_sequence where name='tasks'")).toInt(), 32767);
+    QVERIFY(task.GetTaskById(32767));
 }
 
 void ClsTaskTest::aCategoryIdThatDoesNotFitIsAnOverflow()

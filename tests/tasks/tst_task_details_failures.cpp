@@ -12,6 +12,7 @@ private slots:
     void aLockedFileIsReportedAndTheInputStays();
     void aMissingFileIsReportedOnAnEditAndTheInputStays();
     void aTaskDeletedMeanwhileIsReportedAndTheInputStays();
+    void aTaskForWhichThereIsNoNumberIsRefusedAndTheInputStays();
 };
 
 void TestTaskDetailsFailures::aLockedFileIsReportedAndTheInputStays()
@@ -67,6 +68,28 @@ void TestTaskDetailsFailures::aTaskDeletedMeanwhileIsReportedAndTheInputStays()
     QVERIFY(dialog.form->isVisible());
     QCOMPARE(dialog.text("txtTask"), QStringLiteral("kept"));
     QCOMPARE(dialog.facts, QStringList());
+}
+
+void TestTaskDetailsFailures::aTaskForWhichThereIsNoNumberIsRefusedAndTheInputStays()
+{
+    TaskDialog dialog;
+    const TestDatabase& database = dialog.services.database;
+    const qint32 id = aTask(dialog.services.database).add();
+    database.sql(QStringLiteral("update sqlite_sequence set seq=32767 where name='tasks'"));
+    dialog.showValid();
+    dialog.setText("txtTask", QStringLiteral(" kept "));
+    dialog.services.dialogs.expectExclamationWith(QStringLiteral("no number left"));
+    dialog.click("btnOk");
+    QVERIFY(dialog.services.dialogs.allUsed());
+    QVERIFY(dialog.form->isVisible());
+    QCOMPARE(dialog.text("txtTask"), QStringLiteral(" kept "));
+    QCOMPARE(dialog.facts, QStringList());
+    QCOMPARE(database.rows(QStringLiteral("select task_id from tasks")), (QList<QVariantList>{{qint64(id)}}));
+    // One that is there can be changed all the same.
+    dialog.form->SetTag(static_cast<qint16>(id));
+    dialog.setText("txtTask", QStringLiteral("changed"));
+    dialog.click("btnOk");
+    QCOMPARE(dialog.stored(QStringLiteral("task_name")).toString(), QStringLiteral("changed"));
 }
 
 AMBERTASK_TEST_MAIN(TestTaskDetailsFailures)
