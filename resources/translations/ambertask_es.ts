@@ -287,6 +287,13 @@
     </message>
 </context>
 <context>
+    <name>DataFileRoad</name>
+    <message>
+        <source>The data file was made by a later version of Ambertask; this version cannot use it.</source>
+        <translation>El archivo de datos se creó con una versión posterior de Ambertask; esta versión no puede usarlo.</translation>
+    </message>
+</context>
+<context>
     <name>Dialect</name>
     <message>
         <source>The date literal %1 is not of the form #month/day/year hours:minutes#.</source>

@@ -287,6 +287,13 @@
     </message>
 </context>
 <context>
+    <name>DataFileRoad</name>
+    <message>
+        <source>The data file was made by a later version of Ambertask; this version cannot use it.</source>
+        <translation>Le fichier de données provient d’une version ultérieure d’Ambertask&#x202f;; la version actuelle ne peut pas l’utiliser.</translation>
+    </message>
+</context>
+<context>
     <name>Dialect</name>
     <message>
         <source>The date literal %1 is not of the form #month/day/year hours:minutes#.</source>

@@ -287,6 +287,13 @@
     </message>
 </context>
 <context>
+    <name>DataFileRoad</name>
+    <message>
+        <source>The data file was made by a later version of Ambertask; this version cannot use it.</source>
+        <translation>数据文件由更高版本的 Ambertask 创建；此版本无法使用。</translation>
+    </message>
+</context>
+<context>
     <name>Dialect</name>
     <message>
         <source>The date literal %1 is not of the form #month/day/year hours:minutes#.</source>

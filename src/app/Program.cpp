@@ -66,6 +66,7 @@ void Program::start(const std::function<bool()>& noteFirstStart)
     const DataFileCopies dataFile(m_machine.engine);
     dataFile.keepPrivate();
     dataFile.leaveWriteAheadMode();
+    dataFile.bringUp();
     m_settings = SettingsStore(m_engine).read();
     const bool isSkinLoaded = m_skins.load(m_settings.skin, Skins::Asked::AtStart);
     if (noteFirstStart()) {

@@ -98,8 +98,8 @@ QString rangeStatement(
     return statement.text();
 }
 
-/// Returns the id of the inserted record, if the statement inserts one. Throws NoRoomError when that id has more than
-/// 16 bits.
+/// Returns the id of the inserted record, if the statement inserts one. Throws NoRoomError when that id has
+/// more than 16 bits.
 qint64 runAlone(const DatabaseEngine& engine, const QString& statement)
 {
     Connection connection = ClsDatabase(engine).Connect();

@@ -60,8 +60,8 @@ public:
     bool DateChanged() const { return m_dateChanged; } // Without a caller: part of the interface.
     void setDateChanged(bool changed) { m_dateChanged = changed; }
 
-    /// Inserts this task and returns its id; the object keeps its own id. Throws NoRoomError when no id is left; nothing
-    /// is stored then.
+    /// Inserts this task and returns its id; the object keeps its own id. Throws NoRoomError when no id is
+    /// left; nothing is stored then.
     qint32 Add() const;
     /// Updates the row of its id.
     void Update() const;

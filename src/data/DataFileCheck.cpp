@@ -3,6 +3,7 @@
 #include "data/ClsCategory.h"
 #include "data/ClsDatabase.h"
 #include "data/ClsTask.h"
+#include "data/DataFileRoad.h"
 #include "store/Connection.h"
 #include "system/FileReplace.h"
 
@@ -123,6 +124,7 @@ void requireRoomForSettings(Trial& trial)
 
 qint64 requireServiceableDataFile(const DatabaseEngine& engine)
 {
+    refuseLaterDataFile(engine);
     const qint64 tasks = requireSoundAndReadable(engine);
     Trial trial(engine);
     requireRoomForCategories(trial);

@@ -2,6 +2,7 @@
 
 #include "data/ClsDatabase.h"
 #include "data/DataFileCheck.h"
+#include "data/DataFileRoad.h"
 #include "store/DatabaseError.h"
 #include "store/RollbackJournal.h"
 #include "system/FileReplace.h"
@@ -18,6 +19,7 @@ namespace
 
 constexpr std::array Companions{"-journal", "-wal"};
 constexpr char ReplacedSuffix[] = ".before-restore";
+constexpr char OlderSuffix[] = ".before-upgrade";
 constexpr char EarlierName[] = "earlier";
 
 /// The folder in which a file is checked before it replaces the data file; private, removed with this
@@ -152,6 +154,7 @@ RestoredData DataFileCopies::restoreFrom(const QString& file, Progress* progress
         // It would be rolled back into the new file.
         refuseOpenOperation(m_dataFile);
         moveOver(checked, place);
+        bringUp(progress);
         return {tasks, {}};
     }
     // A journal beside a file that is no database cannot be rolled back any more, and SQLite would delete
@@ -169,7 +172,24 @@ RestoredData DataFileCopies::restoreFrom(const QString& file, Progress* progress
         putBackEarlier(place, folder.path());
         throw;
     }
+    bringUp(progress);
     return {tasks, QFileInfo(place).fileName() + QLatin1String(ReplacedSuffix)};
+}
+
+void DataFileCopies::bringUp(Progress* progress) const
+{
+    DatabaseEngine engine = *m_engine;
+    engine.progress = progress;
+    try {
+        if (isDataFileBehind(engine)) {
+            backUpTo(resolvedPath(m_dataFile) + QLatin1String(OlderSuffix), progress);
+            bringDataFileUp(engine);
+        }
+    } catch (const LaterDataFileError&) {
+        throw;
+    } catch (const RuntimeError&) {
+        // It is usable as it is.
+    }
 }
 
 void DataFileCopies::leaveWriteAheadMode() const

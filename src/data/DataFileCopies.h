@@ -30,9 +30,13 @@ public:
     /// Replaces the data file by `file`, which must be a sound data file of this program. The previous file
     /// stays beside it as data.dat.before-restore, together with the journal of an interrupted operation;
     /// `file` becomes private to its owner, where possible. A copy in write-ahead mode is turned to
-    /// rollback-journal mode; any other is restored byte for byte.
+    /// rollback-journal mode, one of an earlier version is upgraded; any other is restored byte for byte.
     RestoredData restoreFrom(const QString& file, Progress* progress = nullptr) const;
 
+    /// Upgrades a data file of an earlier version, and gives its tasks new ids before 16 bits run out. A copy
+    /// of the previous file stays beside it as data.dat.before-upgrade. Silently leaves the file as it is,
+    /// and usable, when it cannot be upgraded or `progress` cancels. Throws LaterDataFileError only.
+    void bringUp(Progress* progress = nullptr) const;
     /// Turns a data file that another program has left in write-ahead mode back to rollback-journal mode:
     /// otherwise recent changes are in a second file, which a copy of the data file would miss. Silently
     /// leaves it as it is when another process has it open or it cannot be written.

@@ -1,11 +1,15 @@
--- The data file as it is shipped. The program creates and alters no table.
+-- The data file as it is shipped. The program creates no table. Every change in here needs a new user_version and a
+-- step in DataFileRoad.cpp that upgrades the files of users:
+--   0  copied by another tool that does not keep the version
+--   1  the first version; the indexes for the filters are missing in some of these files
+--   2  all files have the indexes
 --
 -- Moments are text YYYY-MM-DD HH:MM:SS, flags 0 or 1. The program compares texts with a NOCASE of its own, which folds
 -- every alphabet: an index on a text column, written with another tool's NOCASE, would be out of order for it.
 PRAGMA encoding = 'UTF-8';
 PRAGMA journal_mode = DELETE;
 PRAGMA application_id = 0x416D6274;
-PRAGMA user_version = 1;
+PRAGMA user_version = 2;
 
 BEGIN;
 

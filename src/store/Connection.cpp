@@ -75,6 +75,11 @@ RecordSet Connection::execute(const QString& statement)
     return RecordSet(m_session->start(statement));
 }
 
+void Connection::alter(const char* statements)
+{
+    m_session->alter(statements);
+}
+
 qint64 Connection::insertedId() const
 {
     return m_session == nullptr ? 0 : m_session->insertedId();

@@ -37,6 +37,9 @@ public:
     void open(const QString& user = {}, const QString& password = {}, int options = -1);
     /// Runs one statement. A query yields its rows, anything else an empty record set. Throws DatabaseError.
     RecordSet execute(const QString& statement);
+    /// Runs SQLite statements that the program's own may not contain, such as schema changes. The listener is
+    /// not told. Only while the connection is open; throws DatabaseError.
+    void alter(const char* statements);
     /// The id of the record inserted last on this connection; 0 before the first one and when it is not
     /// open. Sends no statement.
     qint64 insertedId() const;

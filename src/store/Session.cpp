@@ -214,7 +214,7 @@ std::unique_ptr<Cursor> Session::start(const QString& statement)
     }
     m_written.clear();
     auto cursor = std::make_unique<Cursor>(*this, prepare(statement));
-    if (sqlite3_stmt_readonly(cursor->statement()) == 0 && sqlite3_get_autocommit(m_database) != 0) {
+    if (sqlite3_stmt_readonly(cursor->statement()) == 0) {
         begin();
     }
     if (!m_written.empty()) {
@@ -265,6 +265,9 @@ int Session::executeOwn(const char* sql)
 
 void Session::begin()
 {
+    if (sqlite3_get_autocommit(m_database) == 0) {
+        return;
+    }
     if (m_knownSound != nullptr && !*m_knownSound) {
         requireSound();
         *m_knownSound = true;
@@ -272,6 +275,14 @@ void Session::begin()
     const int code = executeOwn("BEGIN IMMEDIATE");
     if (code != SQLITE_OK) {
         failStorage(tr("The data file \"%1\" could not be written: %2.").arg(m_path, reason(code)));
+    }
+}
+
+void Session::alter(const char* statements)
+{
+    begin();
+    if (const int code = executeOwn(statements); code != SQLITE_OK) {
+        fail(code, QString::fromUtf8(statements));
     }
 }
 

@@ -55,6 +55,8 @@ public:
 
     /// Starts a statement of the dialect; the cursor is not on a row yet. Throws DatabaseError.
     std::unique_ptr<Cursor> start(const QString& statement);
+    /// Runs SQLite statements of any kind in the write transaction. Throws DatabaseError.
+    void alter(const char* statements);
     /// Commits the open transaction, if any. Throws DatabaseError (Storage); then it is undone.
     void commit();
     /// Ends all cursors, so that none of them holds a lock any more.

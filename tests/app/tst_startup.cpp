@@ -1,7 +1,10 @@
 #include "ProgramFixture.h"
 #include "app/FixedPictures.h"
+#include "data/DataFileRoad.h"
 #include "support/FullPixmapCache.h"
+#include "support/OlderDataFile.h"
 #include "support/TestMain.h"
+#include "support/TestPictures.h"
 #include "widgets/ImageList.h"
 
 #include <QApplication>
@@ -196,6 +199,40 @@ private slots:
         QVERIFY(QFile::resize(f.database.dataFile(), 0));
         QVERIFY(!failureOf(f).isEmpty());
         QCOMPARE(QFile(f.database.dataFile()).size(), 0);
+        QVERIFY(f.registry.isEmpty());
+    }
+
+    void aStartLeavesAPresentDataFileAsItIs()
+    {
+        ProgramFixture f;
+        aTask(f.database).add();
+        const QByteArray before = bytesOf(f.database.dataFile());
+        f.start();
+        QVERIFY(bytesOf(f.database.dataFile()) == before);
+        QVERIFY(!QFile::exists(f.database.dataFile() + QStringLiteral(".before-upgrade")));
+    }
+
+    void anOlderDataFileIsBroughtUpBeforeAnythingIsRead()
+    {
+        ProgramFixture f;
+        addTasksUpTo(f.database, 3, 32767);
+        makeOlder(f.database);
+        f.start();
+        QCOMPARE(f.database.statements().take().value(0), QStringLiteral("select * from settings"));
+        QCOMPARE(f.database.sql(QStringLiteral("pragma user_version")).toInt(), DataFileVersion);
+        QCOMPARE(f.grid(f.main())->model()->rowCount(), 3);
+        QCOMPARE(f.database.sql(QStringLiteral("select max(task_id) from tasks")).toInt(), 3);
+        QVERIFY(QFile::exists(f.database.dataFile() + QStringLiteral(".before-upgrade")));
+    }
+
+    void aLaterDataFileIsReportedAndLeftAlone()
+    {
+        ProgramFixture f;
+        f.database.sql(QStringLiteral("pragma user_version=3"));
+        const QByteArray before = bytesOf(f.database.dataFile());
+        QVERIFY(failureOf(f).contains(QStringLiteral("later version")));
+        QVERIFY(bytesOf(f.database.dataFile()) == before);
+        QCOMPARE(f.database.statements().take(), QStringList());
         QVERIFY(f.registry.isEmpty());
     }
 

@@ -1,5 +1,6 @@
 #include "data/ClsDatabase.h"
 #include "data/ClsTask.h"
+#include "data/DataFileRoad.h"
 #include "data/TaskCodes.h"
 #include "support/TestDatabase.h"
 #include "support/TestMain.h"
@@ -92,7 +93,7 @@ void ShippedDataTest::theFileIsInRollbackJournalMode()
     TestDatabase database;
     QCOMPARE(database.sql(QStringLiteral("pragma journal_mode")).toString(), QStringLiteral("delete"));
     QCOMPARE(database.sql(QStringLiteral("pragma application_id")).toInt(), 0x416D6274);
-    QCOMPARE(database.sql(QStringLiteral("pragma user_version")).toInt(), 1);
+    QCOMPARE(database.sql(QStringLiteral("pragma user_version")).toInt(), DataFileVersion);
     QCOMPARE(database.sql(QStringLiteral("pragma integrity_check")).toString(), QStringLiteral("ok"));
 }
 

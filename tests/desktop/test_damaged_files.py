@@ -110,6 +110,30 @@ class SweepTest(DamageCase):
             os.rename(path + ".away", path)
 
 
+class OtherVersionsTest(DamageCase):
+    """A data file of an earlier version serves, one of a later version is refused."""
+
+    def content(self, suffix=""):
+        with open(self.desk.data_file + suffix, "rb") as file:
+            return file.read()
+
+    def test_an_earlier_one_is_brought_up_and_kept(self):
+        self.store.execute("drop index tasks_by_status")
+        self.store.execute("pragma user_version=1")
+        before = self.content()
+        self.start_and_work()
+        self.assertEqual(self.content(".before-upgrade"), before)
+        self.assertEqual(self.store.execute("pragma user_version"), [{"user_version": 2}])
+
+    def test_a_later_one_ends_the_start_with_a_sentence_and_a_failure(self):
+        self.store.execute("pragma user_version=3")
+        before = self.content()
+        user = self.start()
+        user.click_control(user.access.message_box("later version of Ambertask"), names.OK)
+        self.assertEqual(user.program.wait_end(), 1)
+        self.assertEqual(self.content(), before)
+
+
 class UnreadableRecordsTest(DamageCase):
     """A value in the data file that does not convert locks nobody out."""
 

@@ -29,7 +29,8 @@ bool isStatement(const QString& text)
     static const QRegularExpression statement(
         QStringLiteral("^[#',]?\\s*(select (\\*|(count|ifnull)\\(|[\\w.]+(,| from))|insert into |delete from "
                        "\\w+( where|\\s*$)"
-                       "|[Uu]pdate +\\w+ set |pragma \\w+$|PRAGMA |SELECT |BEGIN IMMEDIATE$"
+                       "|[Uu]pdate +\\w+ set |pragma \\w+$|PRAGMA |SELECT |CREATE INDEX |UPDATE \\w+ SET "
+                       "|BEGIN IMMEDIATE$"
                        "|(where|and) [\\w.]+ ?<?= ?|order by ?\\w*$)|^,\\w+='|^\\w+ <= now\\(\\)"));
     static const QRegularExpression styleRule(QStringLiteral("^Q[A-Z]\\w+(::[\\w-]+)? \\{"));
     return text.contains(statement) || text.contains(styleRule);

@@ -1,0 +1,103 @@
+#include "data/DataFileRoad.h"
+
+#include "data/ClsDatabase.h"
+
+#include <QByteArray>
+#include <QCoreApplication>
+#include <algorithm>
+#include <array>
+
+namespace
+{
+
+/// The step from each version to the next one. A file may have its results already.
+constexpr std::array<const char*, DataFileVersion> StepFrom{"",
+    "CREATE INDEX IF NOT EXISTS tasks_by_reminder ON tasks (reminder_on, dismissed, reminder_date_time);"
+    "CREATE INDEX IF NOT EXISTS tasks_by_status ON tasks (task_status);"
+    "CREATE INDEX IF NOT EXISTS tasks_by_category ON tasks (cat_id)"};
+
+/// The next id follows the larger of the two numbers. New ids must win back more than half of the free ones,
+/// or a nearly full file would get new ids at every start.
+const QLatin1String WantsNewIds(
+    "SELECT CASE WHEN max(number) > 30000 THEN "
+    "2 * max(32767 - max(number), 0) < 32767 - (SELECT count(*) FROM tasks) ELSE 0 END "
+    "FROM (SELECT seq AS number FROM sqlite_sequence WHERE name = 'tasks' UNION ALL SELECT max(task_id) FROM "
+    "tasks)");
+/// In two steps through ids that no task has: the order in which SQLite updates the rows is not defined.
+constexpr char GiveNewIds[] =
+    "UPDATE tasks SET task_id = place - 1000000000000 "
+    "FROM (SELECT task_id AS old_id, row_number() OVER (ORDER BY task_id) AS place FROM tasks) "
+    "WHERE task_id = old_id AND place <> old_id;"
+    "UPDATE tasks SET task_id = task_id + 1000000000000 WHERE task_id < 1;"
+    "UPDATE sqlite_sequence SET seq = (SELECT count(*) FROM tasks) WHERE name = 'tasks'";
+
+DatabaseEngine unheard(DatabaseEngine engine)
+{
+    engine.listener = nullptr;
+    return engine;
+}
+
+int knownVersion(Connection& connection)
+{
+    const int version = connection.execute(QStringLiteral("PRAGMA user_version")).int32(0);
+    if (version > DataFileVersion) {
+        throw LaterDataFileError(QCoreApplication::translate("DataFileRoad",
+            "The data file was made by a later version of Ambertask; this version cannot use it."));
+    }
+    return version;
+}
+
+void noteVersion(Connection& connection, int version)
+{
+    connection.alter("PRAGMA user_version = " + QByteArray::number(version));
+}
+
+bool wantsNewIds(Connection& connection)
+{
+    return connection.execute(WantsNewIds).flag(0);
+}
+
+} // namespace
+
+void refuseLaterDataFile(const DatabaseEngine& engine)
+{
+    const DatabaseEngine own = unheard(engine);
+    Connection connection = ClsDatabase(own).Connect();
+    connection.open();
+    knownVersion(connection);
+}
+
+bool isDataFileBehind(const DatabaseEngine& engine)
+{
+    const DatabaseEngine own = unheard(engine);
+    Connection connection = ClsDatabase(own).Connect();
+    connection.open();
+    const int version = knownVersion(connection);
+    if (!wantsNewIds(connection) && version == DataFileVersion) {
+        return false;
+    }
+    // Throws when the file cannot be written: then no copy is needed.
+    noteVersion(connection, version);
+    connection.abandon();
+    return true;
+}
+
+void bringDataFileUp(const DatabaseEngine& engine)
+{
+    const DatabaseEngine own = unheard(engine);
+    Connection connection = ClsDatabase(own).Connect();
+    connection.open();
+    try {
+        for (int version = std::max(knownVersion(connection), 0); version < DataFileVersion; ++version) {
+            connection.alter(StepFrom[static_cast<std::size_t>(version)]);
+        }
+        noteVersion(connection, DataFileVersion);
+        if (wantsNewIds(connection)) {
+            connection.alter(GiveNewIds);
+        }
+    } catch (...) {
+        connection.abandon();
+        throw;
+    }
+    connection.close();
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "system/RuntimeError.h"
+
+struct DatabaseEngine;
+
+/// The version (`user_version`) of the data file that schema.sql creates.
+inline constexpr int DataFileVersion = 2;
+
+/// The data file has a later version than this program supports.
+class LaterDataFileError : public RuntimeError
+{
+public:
+    using RuntimeError::RuntimeError;
+};
+
+// The upgrade of data files of earlier versions. Its statements are not the program's own: the listener of
+// `engine` is not told. All functions throw DatabaseError.
+
+/// Throws LaterDataFileError, too.
+void refuseLaterDataFile(const DatabaseEngine& engine);
+/// Whether the data file has an earlier version or its tasks need new ids. Throws LaterDataFileError, too,
+/// and DatabaseError when it does but is damaged or cannot be written.
+bool isDataFileBehind(const DatabaseEngine& engine);
+/// Upgrades the data file in one transaction. Ids of tasks read before can mean other tasks afterwards. After
+/// an error the file is unchanged.
+void bringDataFileUp(const DatabaseEngine& engine);
