@@ -1,5 +1,9 @@
-// Backup and restore of a large data file.
+// Backup and restore of a large data file, and the copies that the program makes by itself.
+#include "data/CopyDifference.h"
 #include "data/DataFileCopies.h"
+#include "data/DayCopy.h"
+#include "data/KeptCopies.h"
+#include "data/TaskChanges.h"
 #include "limits/PlainCopy.h"
 #include "support/Bench.h"
 #include "support/TaskFile.h"
@@ -35,5 +39,31 @@ int main(int argc, char** argv)
     store.backUpTo(toRestore);
     bench.value(QStringLiteral("Restore of 32,767 tasks"),
         bench.median(9, [&] { store.restoreFrom(toRestore); }), 150, QStringLiteral("ms"));
+
+    int status = 0;
+    const auto change = [&](const DatabaseEngine& engine) {
+        TaskChanges::setStatus(engine, {1}, ++status % 3);
+    };
+    const auto firstOfTheDay = [&] {
+        for (const KeptCopy& kept : KeptCopies(full.engine()).list()) {
+            QFile::remove(kept.path);
+        }
+        DayCopy day(full.engine(), [](const QString&) {});
+        DatabaseEngine engine = full.engine();
+        engine.copies = &day;
+        change(engine);
+    };
+    const auto anyOtherAndAPlainCopy = [&] {
+        const QString target = full.folder() + QStringLiteral("/plain");
+        QFile::remove(target);
+        plainCopy(full.path(), target);
+        change(full.engine());
+    };
+    bench.ratio(
+        QStringLiteral("The day's first change of 32,767 tasks; any other and a plain copy with a flush"),
+        bench.alternate(21, firstOfTheDay, anyOtherAndAPlainCopy), 1.1);
+    const QString kept = KeptCopies(full.engine()).list().first().path;
+    bench.value(QStringLiteral("A copy of 32,767 tasks compared with the data file"),
+        bench.median(9, [&] { differenceFromNow(full.engine(), kept); }), 150, QStringLiteral("ms"));
     return 0;
 }

@@ -32,13 +32,15 @@ std::shared_ptr<const ReportContent> contentOf(const TaskFile& file)
     TestServices world;
     FormServices services{file.engine(), *file.engine().clock, world.services.messages,
         world.services.fileDialogs, world.services.errors, world.services.shell, world.services.checkerTimer,
-        world.images, [] { return false; }, world.files};
+        world.images, [] { return false; }, world.files, world.undo};
     RecordedReportWindow* window = nullptr;
-    drTasks report(services, [&window](ReportHost&) {
-        auto made = std::make_unique<RecordedReportWindow>();
-        window = made.get();
-        return made;
-    });
+    drTasks report(services,
+        [&window](ReportHost&) {
+            auto made = std::make_unique<RecordedReportWindow>();
+            window = made.get();
+            return made;
+        },
+        {});
     report.printTasks({}, nullptr);
     return std::make_shared<const ReportContent>(window->content);
 }

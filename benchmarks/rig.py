@@ -13,13 +13,14 @@ sys.path.insert(0, os.path.join(HERE, "..", "tests", "desktop"))
 SMOKE = "--smoke" in sys.argv
 BUILD = os.path.abspath(sys.argv[-1])
 
+# None of them is late: what a late task costs must not depend on the day of the measuring.
 FILL = """
 with recursive n(i) as (select 1 union all select i+1 from n where i<?)
 insert into tasks(task_name,task_desc,task_status,cat_id,task_due_date,task_periority,reminder_on,reminder_date_time)
 select printf('Task %08d of the long list', i)||'..',
        substr('A description that goes on for two or three lines, as most of them do, with enough words in it to make one '
               ||'hundred and twenty letters.',1,120),
-       i%5, i%4+1, datetime('2026-01-01', printf('%d minutes', (i*7919%10007)*29)), i%3, i%3=0, '2099-01-01 00:00:00'
+       i%5, i%4+1, datetime('2096-01-01', printf('%d minutes', (i*7919%10007)*29)), i%3, i%3=0, '2099-01-01 00:00:00'
 from n
 """
 
@@ -32,12 +33,14 @@ def result(what, ours, unit, reference=None, target=None):
     print(json.dumps(row), flush=True)
 
 
-def fill(data_file, tasks, **settings):
-    """Makes the data file hold that many tasks, and sets columns of the settings."""
+def fill(data_file, tasks, due=None, **settings):
+    """Makes the data file hold that many tasks, due then or in some distant year, and sets columns of the settings."""
     connection = sqlite3.connect(data_file)
     with connection:
         connection.execute("delete from tasks")
         connection.execute(FILL, (tasks,))
+        if due is not None:
+            connection.execute("update tasks set task_due_date=?", (due,))
         for name, value in settings.items():
             connection.execute(f"update settings set {name}=?", (value,))
     connection.close()

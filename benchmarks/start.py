@@ -102,6 +102,21 @@ def measure_pictures(desk):
                median(taken[bare], "cpu"), 1.2)
 
 
+def measure_late(desk):
+    """A start that shows late tasks, which are in a font and a colour of their own."""
+    data_file = os.path.join(desk.program, "data.dat")
+    program = [os.path.join(desk.program, "Ambertask")]
+    taken = {None: [], "2001-01-01 00:00:00": []}
+    for turn in range(STARTS + 1):
+        for due, starts in taken.items():
+            rig.fill(data_file, 10, due)
+            start = Start(program, desk.environment)
+            if turn > 0:
+                starts.append(start)
+    calm, late = taken.values()
+    rig.result("Start with 10 late tasks; with none of them late", median(late, "cpu"), "ms", median(calm, "cpu"), 1.05)
+
+
 def measure_starts(desk):
     """From exec to the first painting, with few and with many tasks."""
     data_file = os.path.join(desk.program, "data.dat")
@@ -138,6 +153,7 @@ def main():
     with rig.desk() as desk:
         measure_starts(desk)
     with rig.desk() as desk:
+        measure_late(desk)
         measure_pictures(desk)
 
 

@@ -1,4 +1,6 @@
 // A full house: how long the windows stand still at each thing that a user does.
+#include "app/TasksPage.h"
+#include "app/UndoBar.h"
 #include "data/DataFileCopies.h"
 #include "data/TaskCodes.h"
 #include "reminders/frmAlerts.h"
@@ -124,6 +126,7 @@ public:
     void deletions()
     {
         std::vector<double> bulk;
+        std::vector<double> back;
         std::vector<double> category;
         for (int i = 0; i < m_bench.size(Repetitions, 1); ++i) {
             House house(m_tasks);
@@ -134,6 +137,7 @@ public:
             house.shown.dialogs.expectAsk(
                 QStringLiteral("Are you sure you want to delete %1 tasks?").arg(m_tasks), true);
             bulk.push_back(millisecondsOf([&] { house.press(house.main(), "btnDeleteTasksMaintenance"); }));
+            back.push_back(millisecondsOf([&] { house.main().tasksPage()->undoBar().undo(); }));
             House other(m_tasks);
             auto* list = BenchProgram::control<QListWidget>(other.main(), "lstViewCategories");
             list->setCurrentRow(0);
@@ -144,6 +148,7 @@ public:
             category.push_back(millisecondsOf([&] { other.press(other.main(), "btnDeleteCat"); }));
         }
         tell(QStringLiteral("all deleted in bulk, with count and list"), medianOf(bulk));
+        tell(QStringLiteral("all that was deleted in bulk taken back, with the list"), medianOf(back));
         tell(QStringLiteral("a category with a third of them deleted, with the list"), medianOf(category));
     }
 

@@ -56,7 +56,8 @@ function(ambertask_library name)
     ambertask_${name}
     PUBLIC ${ARG_PUBLIC}
     PRIVATE ambertask::options ${ARG_PRIVATE})
-  set_target_properties(ambertask_${name} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+  set_target_properties(ambertask_${name} PROPERTIES POSITION_INDEPENDENT_CODE ON
+                        UNITY_BUILD ${AMBERTASK_UNITY} UNITY_BUILD_BATCH_SIZE 8)
   ambertask_precompile(ambertask_${name} ${ARG_PRECOMPILED})
 endfunction()
 

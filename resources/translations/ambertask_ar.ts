@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ar" sourcelanguage="en">
 <context>
+    <name>AlertActions</name>
+    <message>
+        <source>&amp;Complete</source>
+        <translation>إ&amp;كمال</translation>
+    </message>
+    <message>
+        <source>&amp;Open Item</source>
+        <translation>&amp;فتح المهمة</translation>
+    </message>
+    <message>
+        <source>&amp;Remind me later</source>
+        <translation>&amp;ذكّرني لاحقًا</translation>
+    </message>
+    <message>
+        <source>&amp;Dismiss</source>
+        <translation>ت&amp;جاهل</translation>
+    </message>
+</context>
+<context>
     <name>AlertListModel</name>
     <message>
         <source>id</source>
@@ -73,6 +92,14 @@
         <source>Are you sure you want to delete &apos;%1&apos; category, all tasks under this category will be deleted?</source>
         <translation>هل تريد بالتأكيد حذف الفئة «%1»؟ ستُحذف معها كل المهام التابعة لها.</translation>
     </message>
+    <message>
+        <source>Category &quot;%1&quot; deleted with its tasks</source>
+        <translation>حُذفت الفئة «%1» مع مهامها</translation>
+    </message>
+    <message>
+        <source>There are no categories yet</source>
+        <translation>لا توجد فئات بعد</translation>
+    </message>
 </context>
 <context>
     <name>CategoryInput</name>
@@ -137,6 +164,167 @@
     </message>
 </context>
 <context>
+    <name>ChangeTexts</name>
+    <message>
+        <source>1 task deleted</source>
+        <translation>تم حذف مهمة واحدة</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks deleted</source>
+        <translation>
+            <numerusform>لم يتم حذف أي مهمة</numerusform>
+            <numerusform>تم حذف مهمة واحدة</numerusform>
+            <numerusform>تم حذف مهمتين</numerusform>
+            <numerusform>تم حذف %n مهام</numerusform>
+            <numerusform>تم حذف %n مهمة</numerusform>
+            <numerusform>تم حذف %n مهمة</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task duplicated</source>
+        <translation>تم نسخ مهمة واحدة</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks duplicated</source>
+        <translation>
+            <numerusform>لم يتم نسخ أي مهمة</numerusform>
+            <numerusform>تم نسخ مهمة واحدة</numerusform>
+            <numerusform>تم نسخ مهمتين</numerusform>
+            <numerusform>تم نسخ %n مهام</numerusform>
+            <numerusform>تم نسخ %n مهمة</numerusform>
+            <numerusform>تم نسخ %n مهمة</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task completed</source>
+        <translation>تم إكمال مهمة واحدة</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks completed</source>
+        <translation>
+            <numerusform>لم يتم إكمال أي مهمة</numerusform>
+            <numerusform>تم إكمال مهمة واحدة</numerusform>
+            <numerusform>تم إكمال مهمتين</numerusform>
+            <numerusform>تم إكمال %n مهام</numerusform>
+            <numerusform>تم إكمال %n مهمة</numerusform>
+            <numerusform>تم إكمال %n مهمة</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task set back to &quot;Not Started&quot;</source>
+        <translation>تمت إعادة مهمة واحدة إلى «لم تبدأ»</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks set back to &quot;Not Started&quot;</source>
+        <translation>
+            <numerusform>لم تتم إعادة أي مهمة إلى «لم تبدأ»</numerusform>
+            <numerusform>تمت إعادة مهمة واحدة إلى «لم تبدأ»</numerusform>
+            <numerusform>تمت إعادة مهمتين إلى «لم تبدأ»</numerusform>
+            <numerusform>تمت إعادة %n مهام إلى «لم تبدأ»</numerusform>
+            <numerusform>تمت إعادة %n مهمة إلى «لم تبدأ»</numerusform>
+            <numerusform>تمت إعادة %n مهمة إلى «لم تبدأ»</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Status of 1 task changed</source>
+        <translation>تم تغيير حالة مهمة واحدة</translation>
+    </message>
+    <message numerus="yes">
+        <source>Status of %n tasks changed</source>
+        <translation>
+            <numerusform>لم يتم تغيير حالة أي مهمة</numerusform>
+            <numerusform>تم تغيير حالة مهمة واحدة</numerusform>
+            <numerusform>تم تغيير حالة مهمتين</numerusform>
+            <numerusform>تم تغيير حالة %n مهام</numerusform>
+            <numerusform>تم تغيير حالة %n مهمة</numerusform>
+            <numerusform>تم تغيير حالة %n مهمة</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Priority of 1 task changed</source>
+        <translation>تم تغيير أولوية مهمة واحدة</translation>
+    </message>
+    <message numerus="yes">
+        <source>Priority of %n tasks changed</source>
+        <translation>
+            <numerusform>لم يتم تغيير أولوية أي مهمة</numerusform>
+            <numerusform>تم تغيير أولوية مهمة واحدة</numerusform>
+            <numerusform>تم تغيير أولوية مهمتين</numerusform>
+            <numerusform>تم تغيير أولوية %n مهام</numerusform>
+            <numerusform>تم تغيير أولوية %n مهمة</numerusform>
+            <numerusform>تم تغيير أولوية %n مهمة</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Category of 1 task changed</source>
+        <translation>تم تغيير فئة مهمة واحدة</translation>
+    </message>
+    <message numerus="yes">
+        <source>Category of %n tasks changed</source>
+        <translation>
+            <numerusform>لم يتم تغيير فئة أي مهمة</numerusform>
+            <numerusform>تم تغيير فئة مهمة واحدة</numerusform>
+            <numerusform>تم تغيير فئة مهمتين</numerusform>
+            <numerusform>تم تغيير فئة %n مهام</numerusform>
+            <numerusform>تم تغيير فئة %n مهمة</numerusform>
+            <numerusform>تم تغيير فئة %n مهمة</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 reminder dismissed</source>
+        <translation>تم تجاهل تذكير واحد</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n reminders dismissed</source>
+        <translation>
+            <numerusform>لم يتم تجاهل أي تذكير</numerusform>
+            <numerusform>تم تجاهل تذكير واحد</numerusform>
+            <numerusform>تم تجاهل تذكيرين</numerusform>
+            <numerusform>تم تجاهل %n تذكيرات</numerusform>
+            <numerusform>تم تجاهل %n تذكيرًا</numerusform>
+            <numerusform>تم تجاهل %n تذكير</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 reminder postponed</source>
+        <translation>تم تأجيل تذكير واحد</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n reminders postponed</source>
+        <translation>
+            <numerusform>لم يتم تأجيل أي تذكير</numerusform>
+            <numerusform>تم تأجيل تذكير واحد</numerusform>
+            <numerusform>تم تأجيل تذكيرين</numerusform>
+            <numerusform>تم تأجيل %n تذكيرات</numerusform>
+            <numerusform>تم تأجيل %n تذكيرًا</numerusform>
+            <numerusform>تم تأجيل %n تذكير</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task imported</source>
+        <translation>تم استيراد مهمة واحدة</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks imported</source>
+        <translation>
+            <numerusform>لم يتم استيراد أي مهمة</numerusform>
+            <numerusform>تم استيراد مهمة واحدة</numerusform>
+            <numerusform>تم استيراد مهمتين</numerusform>
+            <numerusform>تم استيراد %n مهام</numerusform>
+            <numerusform>تم استيراد %n مهمة</numerusform>
+            <numerusform>تم استيراد %n مهمة</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No copy was kept: %1</source>
+        <translation>لم تُحفظ نسخة: %1</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <translation>%1. %2</translation>
+    </message>
+</context>
+<context>
     <name>ClsTask</name>
     <message>
         <source>The statement is unfinished: %1</source>
@@ -145,6 +333,191 @@
     <message>
         <source>The task was not stored: there is no number left for a new one. Delete tasks that you no longer need, then end Ambertask and start it again.</source>
         <translation>لم تُحفظ المهمة: لم يبقَ رقم لمهمة جديدة. احذف المهام التي لم تعد بحاجة إليها، ثم أنهِ Ambertask وشغّله من جديد.</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>There is no option &quot;%1&quot;.</source>
+        <translation>لا يوجد خيار «‎%1».</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; needs a value.</source>
+        <translation>الخيار «‎%1» يحتاج إلى قيمة.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; takes no value.</source>
+        <translation>الخيار «‎%1» لا يقبل قيمة.</translation>
+    </message>
+    <message>
+        <source>There is no format &quot;%1&quot;; the formats are &quot;ics&quot; and &quot;csv&quot;.</source>
+        <translation>لا توجد صيغة «%1»؛ الصيغتان هما «ics» و«csv».</translation>
+    </message>
+    <message>
+        <source>With &quot;-&quot; the format has to be said, by &quot;--format ics&quot; or &quot;--format csv&quot;.</source>
+        <translation>مع «-» يجب تحديد الصيغة بالخيار «‎--format ics» أو «‎--format csv».</translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; ends neither in &quot;.ics&quot; nor in &quot;.csv&quot;; say the format by &quot;--format ics&quot; or &quot;--format csv&quot;.</source>
+        <translation>الاسم «%1» لا ينتهي بـ «‎.ics» ولا بـ «‎.csv»؛ حدّد الصيغة بالخيار «‎--format ics» أو «‎--format csv».</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; goes with &quot;%2&quot; only.</source>
+        <translation>لا يُستخدم الخيار «‎%1» إلا مع «‎%2».</translation>
+    </message>
+    <message>
+        <source>The options &quot;%1&quot; and &quot;%2&quot; do not go together.</source>
+        <translation>لا يمكن استخدام الخيارين «‎%1» و«‎%2» معًا.</translation>
+    </message>
+    <message>
+        <source>The word &quot;%1&quot; is one too many.</source>
+        <translation>الكلمة «‎%1» زائدة.</translation>
+    </message>
+    <message>
+        <source>Ambertask --export FILE [--format ics|csv]</source>
+        <translation>Ambertask --export FILE [--format ics|csv]</translation>
+    </message>
+    <message>
+        <source>Ambertask --import FILE [--format ics|csv] [--yes] [--with-programs]</source>
+        <translation>Ambertask --import FILE [--format ics|csv] [--yes] [--with-programs]</translation>
+    </message>
+    <message>
+        <source>Without an option the organizer starts with its window. With one of these it does what it is told and ends, without a window, also while a copy runs:</source>
+        <translation>من دون خيار يبدأ المنظّم بنافذته. ومع أحد الخيارات التالية ينفّذ المطلوب وينتهي من دون نافذة، حتى أثناء تشغيل نسخة أخرى من البرنامج:</translation>
+    </message>
+    <message>
+        <source>Writes all tasks, each on a line, with tabs between the fields, which the first line names. In texts \t stands for a tab, \n for a line break and \\ for \.</source>
+        <translation>يكتب كل المهام، كل مهمة في سطر، مع علامات جدولة بين الحقول التي يسمّيها السطر الأول. في النصوص ‎\t تعني علامة جدولة، و‎\n تعني فاصل أسطر، و‎\\‎ تعني ‎\‎.</translation>
+    </message>
+    <message>
+        <source>Writes all tasks as an array of JSON objects.</source>
+        <translation>يكتب كل المهام كمصفوفة من كائنات JSON.</translation>
+    </message>
+    <message>
+        <source>--export FILE</source>
+        <translation>--export FILE</translation>
+    </message>
+    <message>
+        <source>Writes all tasks to FILE, as iCalendar (.ics) or CSV (.csv).</source>
+        <translation>يكتب كل المهام في FILE بصيغة iCalendar‎ (.ics)‎ أو CSV‎ (.csv)‎.</translation>
+    </message>
+    <message>
+        <source>--import FILE</source>
+        <translation>--import FILE</translation>
+    </message>
+    <message>
+        <source>Says what an import of FILE would do and imports nothing; the status is 1.</source>
+        <translation>يبيّن ما سيفعله استيراد FILE ولا يستورد شيئًا؛ وتكون حالة الخروج 1.</translation>
+    </message>
+    <message>
+        <source>--import FILE --yes</source>
+        <translation>--import FILE --yes</translation>
+    </message>
+    <message>
+        <source>Imports FILE, without the programs that its tasks would start; it names them.</source>
+        <translation>يستورد FILE من دون البرامج التي كانت مهامه ستشغّلها؛ ويذكر أسماءها.</translation>
+    </message>
+    <message>
+        <source>--import FILE --yes --with-programs</source>
+        <translation>--import FILE --yes --with-programs</translation>
+    </message>
+    <message>
+        <source>Imports these programs as well.</source>
+        <translation>يستورد هذه البرامج أيضًا.</translation>
+    </message>
+    <message>
+        <source>The format of FILE, where its name does not tell. FILE can be &quot;-&quot; then, for standard output or standard input.</source>
+        <translation>صيغة FILE إذا لم يدلّ عليها اسمه. ويمكن عندئذ أن يكون FILE هو «-» للإخراج القياسي أو الإدخال القياسي.</translation>
+    </message>
+    <message>
+        <source>Writes this text.</source>
+        <translation>يكتب هذا النص.</translation>
+    </message>
+    <message>
+        <source>Writes the version.</source>
+        <translation>يكتب رقم الإصدار.</translation>
+    </message>
+    <message>
+        <source>The status is 0, 1 when something has failed, and 2 when the command line is wrong.</source>
+        <translation>حالة الخروج هي 0، أو 1 عند فشل شيء ما، أو 2 عند وجود خطأ في سطر الأوامر.</translation>
+    </message>
+    <message>
+        <source>--format ics|csv</source>
+        <translation>‎--format ics|csv</translation>
+    </message>
+</context>
+<context>
+    <name>CommandRun</name>
+    <message>
+        <source>1 record cannot be read and is left out. %1</source>
+        <translation>سجل واحد تتعذّر قراءته ويُستبعد. %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n records cannot be read and are left out. The first: %1</source>
+        <translation>
+            <numerusform>لا سجلات تتعذّر قراءتها. الأول: %1</numerusform>
+            <numerusform>سجل واحد تتعذّر قراءته ويُستبعد. الأول: %1</numerusform>
+            <numerusform>سجلان تتعذّر قراءتهما ويُستبعدان. الأول: %1</numerusform>
+            <numerusform>%n سجلات تتعذّر قراءتها وتُستبعد. الأول: %1</numerusform>
+            <numerusform>%n سجلًا تتعذّر قراءتها وتُستبعد. الأول: %1</numerusform>
+            <numerusform>%n سجل تتعذّر قراءتها وتُستبعد. الأول: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The output could not be written: %1.</source>
+        <translation>تعذّرت كتابة المخرجات: %1.</translation>
+    </message>
+    <message>
+        <source>See &quot;Ambertask --help&quot;.</source>
+        <translation>راجع «Ambertask --help».</translation>
+    </message>
+    <message>
+        <source>Nothing was imported; the option &quot;--yes&quot; imports it.</source>
+        <translation>لم يُستورد شيء؛ الخيار «‎--yes» ينفّذ الاستيراد.</translation>
+    </message>
+    <message>
+        <source>There is nothing to import.</source>
+        <translation>لا يوجد ما يُستورد.</translation>
+    </message>
+    <message>
+        <source>Imported.</source>
+        <translation>تم الاستيراد.</translation>
+    </message>
+    <message>
+        <source>What cannot be read in the file was left out.</source>
+        <translation>استُبعد ما تتعذّر قراءته في الملف.</translation>
+    </message>
+    <message>
+        <source>New: %1</source>
+        <translation>جديدة: %1</translation>
+    </message>
+    <message>
+        <source>Changed: %1</source>
+        <translation>متغيّرة: %1</translation>
+    </message>
+    <message>
+        <source>New category: %1</source>
+        <translation>فئة جديدة: %1</translation>
+    </message>
+    <message>
+        <source>Starts a program, &quot;%1&quot;: %2</source>
+        <translation>تشغّل برنامجًا، «%1»: %2</translation>
+    </message>
+    <message>
+        <source>Left out, a program that &quot;%1&quot; would start: %2</source>
+        <translation>استُبعد برنامج كانت «%1» ستشغّله: %2</translation>
+    </message>
+    <message>
+        <source>Not readable, line %1: %2</source>
+        <translation>غير مقروء، السطر %1: %2</translation>
+    </message>
+    <message>
+        <source>Not readable, line %1, &quot;%2&quot;: %3</source>
+        <translation>غير مقروء، السطر %1، «%2»: %3</translation>
+    </message>
+    <message>
+        <source>There are no tasks yet: the program folder &quot;%1&quot; does not exist. The first start makes it, and so does an import.</source>
+        <translation>لا توجد مهام بعد: مجلد البرنامج «%1» غير موجود. يُنشأ عند أول تشغيل أو عند الاستيراد.</translation>
     </message>
 </context>
 <context>
@@ -257,6 +630,102 @@
     </message>
 </context>
 <context>
+    <name>CopyListModel</name>
+    <message>
+        <source>First change of the day</source>
+        <translation>أول تغيير في اليوم</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>الاستعادة</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>الاستيراد</translation>
+    </message>
+    <message>
+        <source>Deletion of tasks</source>
+        <translation>حذف المهام</translation>
+    </message>
+    <message>
+        <source>Upgrade</source>
+        <translation>الترقية</translation>
+    </message>
+    <message>
+        <source>1 task added</source>
+        <translation>أُضيفت مهمة واحدة</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks added</source>
+        <translation>
+            <numerusform>لم تُضف أي مهمة</numerusform>
+            <numerusform>أُضيفت مهمة واحدة</numerusform>
+            <numerusform>أُضيفت مهمتان</numerusform>
+            <numerusform>أُضيفت %n مهام</numerusform>
+            <numerusform>أُضيفت %n مهمة</numerusform>
+            <numerusform>أُضيفت %n مهمة</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task changed</source>
+        <translation>تغيّرت مهمة واحدة</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks changed</source>
+        <translation>
+            <numerusform>لم تتغيّر أي مهمة</numerusform>
+            <numerusform>تغيّرت مهمة واحدة</numerusform>
+            <numerusform>تغيّرت مهمتان</numerusform>
+            <numerusform>تغيّرت %n مهام</numerusform>
+            <numerusform>تغيّرت %n مهمة</numerusform>
+            <numerusform>تغيّرت %n مهمة</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task gone</source>
+        <translation>حُذفت مهمة واحدة</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks gone</source>
+        <translation>
+            <numerusform>لم تُحذف أي مهمة</numerusform>
+            <numerusform>حُذفت مهمة واحدة</numerusform>
+            <numerusform>حُذفت مهمتان</numerusform>
+            <numerusform>حُذفت %n مهام</numerusform>
+            <numerusform>حُذفت %n مهمة</numerusform>
+            <numerusform>حُذفت %n مهمة</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>other categories</source>
+        <translation>فئات مختلفة</translation>
+    </message>
+    <message>
+        <source>nothing changed</source>
+        <translation>لم يتغيّر شيء</translation>
+    </message>
+    <message>
+        <source>Made</source>
+        <translation>أُنشئت</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>قبل</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>المهام</translation>
+    </message>
+    <message>
+        <source>Since then</source>
+        <translation>منذ ذلك الحين</translation>
+    </message>
+    <message>
+        <source>is being compared...</source>
+        <translation>جارٍ المقارنة…</translation>
+    </message>
+</context>
+<context>
     <name>CustomIcons</name>
     <message>
         <source>The picture &quot;%1&quot; cannot be used: this is not a plain file name.</source>
@@ -320,6 +789,296 @@
     </message>
 </context>
 <context>
+    <name>EmptyListNote</name>
+    <message>
+        <source>%1 of 1 task</source>
+        <translation>%1 من مهمة واحدة</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n tasks</source>
+        <translation>
+            <numerusform>%1 من دون مهام</numerusform>
+            <numerusform>%1 من مهمة واحدة</numerusform>
+            <numerusform>%1 من مهمتين</numerusform>
+            <numerusform>%1 من %n مهام</numerusform>
+            <numerusform>%1 من %n مهمة</numerusform>
+            <numerusform>%1 من %n مهمة</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Show all</source>
+        <translation>إ&amp;ظهار الكل</translation>
+    </message>
+    <message>
+        <source>There are no tasks yet</source>
+        <translation>لا توجد مهام بعد</translation>
+    </message>
+    <message>
+        <source>No task matches the filters</source>
+        <translation>لا توجد مهمة توافق المرشّحات</translation>
+    </message>
+    <message>
+        <source>Nothing found for &quot;%1&quot;</source>
+        <translation>لم يُعثر على شيء عن «%1»</translation>
+    </message>
+</context>
+<context>
+    <name>ExchangeTexts</name>
+    <message>
+        <source>The file could not be read: %1.</source>
+        <translation>تعذّرت قراءة الملف: %1.</translation>
+    </message>
+    <message>
+        <source>The file is no iCalendar file.</source>
+        <translation>الملف ليس ملف iCalendar.</translation>
+    </message>
+    <message>
+        <source>It has no end.</source>
+        <translation>بلا نهاية.</translation>
+    </message>
+    <message>
+        <source>Its parts are nested too deeply.</source>
+        <translation>أجزاؤه متداخلة بعمق زائد.</translation>
+    </message>
+    <message>
+        <source>The file ends in the middle of it.</source>
+        <translation>ينتهي الملف في وسط هذا العنصر.</translation>
+    </message>
+    <message>
+        <source>One of its parts has no end.</source>
+        <translation>أحد أجزائه بلا نهاية.</translation>
+    </message>
+    <message>
+        <source>One of its lines is too long.</source>
+        <translation>أحد أسطره طويل جدًا.</translation>
+    </message>
+    <message>
+        <source>It is too large.</source>
+        <translation>الحجم كبير جدًا.</translation>
+    </message>
+    <message>
+        <source>It has too many columns.</source>
+        <translation>عدد الأعمدة كبير جدًا.</translation>
+    </message>
+    <message>
+        <source>One of its quotes has no end.</source>
+        <translation>إحدى علامات الاقتباس غير مغلقة.</translation>
+    </message>
+    <message>
+        <source>Column &quot;%1&quot; cannot be read: %2</source>
+        <translation>تتعذّر قراءة العمود «%1»: %2</translation>
+    </message>
+    <message>
+        <source>The file is no list of tasks: its first line has no column &quot;%1&quot;.</source>
+        <translation>الملف ليس قائمة مهام: لا يحتوي سطره الأول على العمود «%1».</translation>
+    </message>
+    <message>
+        <source>It holds bytes that are no text in UTF-8.</source>
+        <translation>يوجد فيه بايتات ليست نصًا بترميز UTF-8.</translation>
+    </message>
+    <message>
+        <source>1 task is new.</source>
+        <translation>مهمة واحدة جديدة.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks are new.</source>
+        <translation>
+            <numerusform>لا مهام جديدة.</numerusform>
+            <numerusform>مهمة واحدة جديدة.</numerusform>
+            <numerusform>مهمتان جديدتان.</numerusform>
+            <numerusform>%n مهام جديدة.</numerusform>
+            <numerusform>%n مهمة جديدة.</numerusform>
+            <numerusform>%n مهمة جديدة.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task is changed.</source>
+        <translation>مهمة واحدة متغيّرة.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks are changed.</source>
+        <translation>
+            <numerusform>لا مهام متغيّرة.</numerusform>
+            <numerusform>مهمة واحدة متغيّرة.</numerusform>
+            <numerusform>مهمتان متغيّرتان.</numerusform>
+            <numerusform>%n مهام متغيّرة.</numerusform>
+            <numerusform>%n مهمة متغيّرة.</numerusform>
+            <numerusform>%n مهمة متغيّرة.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task is the same.</source>
+        <translation>مهمة واحدة مطابقة.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks are the same.</source>
+        <translation>
+            <numerusform>لا مهام مطابقة.</numerusform>
+            <numerusform>مهمة واحدة مطابقة.</numerusform>
+            <numerusform>مهمتان مطابقتان.</numerusform>
+            <numerusform>%n مهام مطابقة.</numerusform>
+            <numerusform>%n مهمة مطابقة.</numerusform>
+            <numerusform>%n مهمة مطابقة.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The file holds no task.</source>
+        <translation>لا يحتوي الملف على أي مهمة.</translation>
+    </message>
+    <message>
+        <source>1 category is made.</source>
+        <translation>فئة واحدة جديدة.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n categories are made.</source>
+        <translation>
+            <numerusform>لا فئات جديدة.</numerusform>
+            <numerusform>فئة واحدة جديدة.</numerusform>
+            <numerusform>فئتان جديدتان.</numerusform>
+            <numerusform>%n فئات جديدة.</numerusform>
+            <numerusform>%n فئة جديدة.</numerusform>
+            <numerusform>%n فئة جديدة.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task cannot be read and stays out.</source>
+        <translation>مهمة واحدة تتعذّر قراءتها وتُستبعد.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks cannot be read and stay out.</source>
+        <translation>
+            <numerusform>لا مهام تتعذّر قراءتها.</numerusform>
+            <numerusform>مهمة واحدة تتعذّر قراءتها وتُستبعد.</numerusform>
+            <numerusform>مهمتان تتعذّر قراءتهما وتُستبعدان.</numerusform>
+            <numerusform>%n مهام تتعذّر قراءتها وتُستبعد.</numerusform>
+            <numerusform>%n مهمة تتعذّر قراءتها وتُستبعد.</numerusform>
+            <numerusform>%n مهمة تتعذّر قراءتها وتُستبعد.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 entry is no task and stays out.</source>
+        <translation>عنصر واحد ليس مهمة ويُستبعد.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries are no tasks and stay out.</source>
+        <translation>
+            <numerusform>لا عناصر سوى المهام.</numerusform>
+            <numerusform>عنصر واحد ليس مهمة ويُستبعد.</numerusform>
+            <numerusform>عنصران ليسا مهمتين ويُستبعدان.</numerusform>
+            <numerusform>%n عناصر ليست مهام وتُستبعد.</numerusform>
+            <numerusform>%n عنصرًا ليست مهام وتُستبعد.</numerusform>
+            <numerusform>%n عنصر ليست مهام وتُستبعد.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 reminder is past and comes in as dismissed.</source>
+        <translation>تذكير واحد فات موعده ويُستورد متجاهَلًا.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n reminders are past and come in as dismissed.</source>
+        <translation>
+            <numerusform>لا تذكيرات فات موعدها.</numerusform>
+            <numerusform>تذكير واحد فات موعده ويُستورد متجاهَلًا.</numerusform>
+            <numerusform>تذكيران فات موعدهما ويُستوردان متجاهَلين.</numerusform>
+            <numerusform>%n تذكيرات فات موعدها وتُستورد متجاهَلة.</numerusform>
+            <numerusform>%n تذكيرًا فات موعدها وتُستورد متجاهَلة.</numerusform>
+            <numerusform>%n تذكير فات موعدها وتُستورد متجاهَلة.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task repeats and comes in once.</source>
+        <translation>مهمة واحدة متكررة وتُستورد مرة واحدة.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks repeat and come in once.</source>
+        <translation>
+            <numerusform>لا مهام متكررة.</numerusform>
+            <numerusform>مهمة واحدة متكررة وتُستورد مرة واحدة.</numerusform>
+            <numerusform>مهمتان متكررتان وتُستورد كل منهما مرة واحدة.</numerusform>
+            <numerusform>%n مهام متكررة وتُستورد كل منها مرة واحدة.</numerusform>
+            <numerusform>%n مهمة متكررة وتُستورد كل منها مرة واحدة.</numerusform>
+            <numerusform>%n مهمة متكررة وتُستورد كل منها مرة واحدة.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task has no due date and is due today.</source>
+        <translation>مهمة واحدة بلا تاريخ استحقاق وتصبح مستحقة اليوم.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks have no due date and are due today.</source>
+        <translation>
+            <numerusform>لا مهام بلا تاريخ استحقاق.</numerusform>
+            <numerusform>مهمة واحدة بلا تاريخ استحقاق وتصبح مستحقة اليوم.</numerusform>
+            <numerusform>مهمتان بلا تاريخ استحقاق وتصبحان مستحقتين اليوم.</numerusform>
+            <numerusform>%n مهام بلا تاريخ استحقاق وتصبح مستحقة اليوم.</numerusform>
+            <numerusform>%n مهمة بلا تاريخ استحقاق وتصبح مستحقة اليوم.</numerusform>
+            <numerusform>%n مهمة بلا تاريخ استحقاق وتصبح مستحقة اليوم.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 further reminder is kept, but does not remind.</source>
+        <translation>تذكير إضافي واحد يُحتفظ به لكنه لا يذكّر.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further reminders are kept, but do not remind.</source>
+        <translation>
+            <numerusform>لا تذكيرات إضافية.</numerusform>
+            <numerusform>تذكير إضافي واحد يُحتفظ به لكنه لا يذكّر.</numerusform>
+            <numerusform>تذكيران إضافيان يُحتفظ بهما لكنهما لا يذكّران.</numerusform>
+            <numerusform>%n تذكيرات إضافية يُحتفظ بها لكنها لا تذكّر.</numerusform>
+            <numerusform>%n تذكيرًا إضافيًا يُحتفظ بها لكنها لا تذكّر.</numerusform>
+            <numerusform>%n تذكير إضافي يُحتفظ بها لكنها لا تذكّر.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task is in an unknown time zone and is taken as local time.</source>
+        <translation>مهمة واحدة في منطقة زمنية غير معروفة ويُعدّ وقتها محليًا.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks are in unknown time zones and are taken as local time.</source>
+        <translation>
+            <numerusform>لا مهام في مناطق زمنية غير معروفة.</numerusform>
+            <numerusform>مهمة واحدة في منطقة زمنية غير معروفة ويُعدّ وقتها محليًا.</numerusform>
+            <numerusform>مهمتان في مناطق زمنية غير معروفة ويُعدّ وقتهما محليًا.</numerusform>
+            <numerusform>%n مهام في مناطق زمنية غير معروفة ويُعدّ وقتها محليًا.</numerusform>
+            <numerusform>%n مهمة في مناطق زمنية غير معروفة ويُعدّ وقتها محليًا.</numerusform>
+            <numerusform>%n مهمة في مناطق زمنية غير معروفة ويُعدّ وقتها محليًا.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Tasks cannot be exported or imported: the module &quot;ambertask_exchange&quot; is missing from the program&apos;s folder or damaged.</source>
+        <translation>تعذّر تصدير المهام أو استيرادها: الوحدة «ambertask_exchange» مفقودة من مجلد البرنامج أو تالفة.</translation>
+    </message>
+    <message>
+        <source>Imported</source>
+        <translation>مستوردة</translation>
+    </message>
+    <message>
+        <source>A task before it has the same UID.</source>
+        <translation>توجد قبلها مهمة لها UID نفسه.</translation>
+    </message>
+    <message>
+        <source>The file holds more than %1 tasks that are new. Nothing was stored.</source>
+        <translation>يحتوي الملف على أكثر من %1 مهمة جديدة. لم يُحفظ شيء.</translation>
+    </message>
+    <message>
+        <source>The file is too large. Nothing was stored.</source>
+        <translation>الملف كبير جدًا. لم يُحفظ شيء.</translation>
+    </message>
+    <message>
+        <source>The file holds %1 tasks that are new, and there is room for %2. Nothing was stored. Delete tasks that you no longer need, then end Ambertask and start it again.</source>
+        <translation>عدد المهام الجديدة في الملف %1، ولا يتسع المكان إلا لعدد %2. لم يُحفظ شيء. احذف المهام التي لم تعد بحاجة إليها، ثم أنهِ Ambertask وشغّله من جديد.</translation>
+    </message>
+    <message>
+        <source>The tasks could not be written: %1.</source>
+        <translation>تعذّرت كتابة المهام: %1.</translation>
+    </message>
+    <message>
+        <source>Its due date cannot be read: %1</source>
+        <translation>تتعذّر قراءة تاريخ استحقاقها: %1</translation>
+    </message>
+</context>
+<context>
     <name>FileDialogs</name>
     <message>
         <source>Folder</source>
@@ -370,10 +1129,168 @@
     </message>
 </context>
 <context>
+    <name>FileExchange</name>
+    <message>
+        <source>iCalendar Files (*.ics)|*.ics</source>
+        <translation>ملفات iCalendar (*.ics)|*.ics</translation>
+    </message>
+    <message>
+        <source>CSV Files (*.csv)|*.csv</source>
+        <translation>ملفات CSV (*.csv)|*.csv</translation>
+    </message>
+    <message>
+        <source>the name of the file ends neither with .ics nor with .csv</source>
+        <translation>اسم الملف لا ينتهي بـ ‎.ics ولا بـ ‎.csv</translation>
+    </message>
+    <message>
+        <source>1 task was exported to &quot;%1&quot;</source>
+        <translation>تم تصدير مهمة واحدة إلى «%1»</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks were exported to &quot;%1&quot;</source>
+        <translation>
+            <numerusform>لم يتم تصدير أي مهمة إلى «%1»</numerusform>
+            <numerusform>تم تصدير مهمة واحدة إلى «%1»</numerusform>
+            <numerusform>تم تصدير مهمتين إلى «%1»</numerusform>
+            <numerusform>تم تصدير %n مهام إلى «%1»</numerusform>
+            <numerusform>تم تصدير %n مهمة إلى «%1»</numerusform>
+            <numerusform>تم تصدير %n مهمة إلى «%1»</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task was added</source>
+        <translation>أُضيفت مهمة واحدة</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks were added</source>
+        <translation>
+            <numerusform>لم تُضف أي مهمة</numerusform>
+            <numerusform>أُضيفت مهمة واحدة</numerusform>
+            <numerusform>أُضيفت مهمتان</numerusform>
+            <numerusform>أُضيفت %n مهام</numerusform>
+            <numerusform>أُضيفت %n مهمة</numerusform>
+            <numerusform>أُضيفت %n مهمة</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task was changed</source>
+        <translation>تغيّرت مهمة واحدة</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks were changed</source>
+        <translation>
+            <numerusform>لم تتغيّر أي مهمة</numerusform>
+            <numerusform>تغيّرت مهمة واحدة</numerusform>
+            <numerusform>تغيّرت مهمتان</numerusform>
+            <numerusform>تغيّرت %n مهام</numerusform>
+            <numerusform>تغيّرت %n مهمة</numerusform>
+            <numerusform>تغيّرت %n مهمة</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>iCalendar and CSV Files (*.ics;*.csv)|*.ics;*.csv</source>
+        <translation>ملفات iCalendar وCSV (*.ics;*.csv)|*.ics;*.csv</translation>
+    </message>
+    <message>
+        <source>Exporting the tasks...</source>
+        <translation>جارٍ تصدير المهام…</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>المهام</translation>
+    </message>
+    <message>
+        <source>Nothing was exported: %1</source>
+        <translation>لم يُصدَّر شيء: %1</translation>
+    </message>
+    <message>
+        <source>Reading the file...</source>
+        <translation>جارٍ قراءة الملف…</translation>
+    </message>
+    <message>
+        <source>Nothing was imported: %1</source>
+        <translation>لم يُستورد شيء: %1</translation>
+    </message>
+    <message>
+        <source>Importing the tasks...</source>
+        <translation>جارٍ استيراد المهام…</translation>
+    </message>
+    <message>
+        <source>Nothing was imported.
+%1</source>
+        <translation>لم يُستورد شيء.
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>FilterFold</name>
+    <message>
+        <source>Unfold the filters</source>
+        <translation>إظهار عوامل التصفية</translation>
+    </message>
+    <message>
+        <source>Fold the filters away</source>
+        <translation>طيّ عوامل التصفية</translation>
+    </message>
+</context>
+<context>
+    <name>FindField</name>
+    <message>
+        <source>Find tasks</source>
+        <translation>البحث في المهام</translation>
+    </message>
+</context>
+<context>
+    <name>GridView</name>
+    <message>
+        <source>Sorts the list</source>
+        <translation>يرتّب القائمة</translation>
+    </message>
+    <message>
+        <source>Sorted in ascending order</source>
+        <translation>مرتّب تصاعديًا</translation>
+    </message>
+    <message>
+        <source>Sorted in descending order</source>
+        <translation>مرتّب تنازليًا</translation>
+    </message>
+</context>
+<context>
     <name>HTMLHelpViewer</name>
     <message>
         <source>The help window is missing from this installation.</source>
         <translation>نافذة المساعدة غير موجودة في هذا التثبيت.</translation>
+    </message>
+</context>
+<context>
+    <name>ImportListModel</name>
+    <message>
+        <source>New</source>
+        <translation>جديدة</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>متغيّرة</translation>
+    </message>
+    <message>
+        <source>Same</source>
+        <translation>مطابقة</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>الاستيراد</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>الاسم</translation>
+    </message>
+    <message>
+        <source>Due Date</source>
+        <translation>تاريخ الاستحقاق</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>الفئة</translation>
     </message>
 </context>
 <context>
@@ -389,6 +1306,17 @@
     <message>
         <source>&amp;Keyword</source>
         <translation>الكلمة المفتا&amp;حية</translation>
+    </message>
+</context>
+<context>
+    <name>KeptCopies</name>
+    <message>
+        <source>it is not a folder</source>
+        <translation>ليس مجلدًا</translation>
+    </message>
+    <message>
+        <source>the disk is nearly full</source>
+        <translation>القرص شبه ممتلئ</translation>
     </message>
 </context>
 <context>
@@ -578,6 +1506,34 @@
         <source>Nothing was restored: %1</source>
         <translation>لم يُستعد شيء: %1</translation>
     </message>
+    <message>
+        <source>Restore from a c&amp;opy...</source>
+        <translation>استعا&amp;دة من نسخة…</translation>
+    </message>
+    <message>
+        <source>Shows the copies of your data that the program has made by itself</source>
+        <translation>يعرض نسخ بياناتك التي أنشأها البرنامج تلقائيًا</translation>
+    </message>
+    <message>
+        <source>Exchange with other programs</source>
+        <translation>التبادل مع برامج أخرى</translation>
+    </message>
+    <message>
+        <source>E&amp;xport...</source>
+        <translation>ت&amp;صدير…</translation>
+    </message>
+    <message>
+        <source>Saves all tasks as iCalendar or CSV, for other programs</source>
+        <translation>يحفظ كل المهام بصيغة iCalendar أو CSV لبرامج أخرى</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>استي&amp;راد…</translation>
+    </message>
+    <message>
+        <source>Adds the tasks of an iCalendar or CSV file; shows first what would happen</source>
+        <translation>يضيف مهام ملف iCalendar أو CSV؛ ويعرض أولًا ما سيحدث</translation>
+    </message>
 </context>
 <context>
     <name>MessageBoxes</name>
@@ -765,6 +1721,14 @@
         <source>Preparing the report...</source>
         <translation>جارٍ تحضير التقرير…</translation>
     </message>
+    <message>
+        <source>&amp;Save as...</source>
+        <translation>&amp;حفظ باسم…</translation>
+    </message>
+    <message>
+        <source>Saves the tasks of the report as iCalendar or CSV, for other programs</source>
+        <translation>يحفظ مهام التقرير بصيغة iCalendar أو CSV لبرامج أخرى</translation>
+    </message>
 </context>
 <context>
     <name>Printing</name>
@@ -782,6 +1746,14 @@
     <message>
         <source>The task &quot;%1&quot; was added; the filters do not show it</source>
         <translation>أُضيفت المهمة «%1»؛ المرشّحات لا تعرضها</translation>
+    </message>
+    <message>
+        <source>The task &quot;%1&quot; was added; the search does not show it</source>
+        <translation>أُضيفت المهمة «%1»؛ البحث لا يعرضها</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>المهام</translation>
     </message>
 </context>
 <context>
@@ -969,6 +1941,10 @@
     <message>
         <source>a rule in its table &quot;%1&quot; could remove records</source>
         <translation>قد تحذف قاعدة في جدوله «%1» سجلات</translation>
+    </message>
+    <message>
+        <source>It has been changed since.</source>
+        <translation>لقد تغيّر منذ ذلك الحين.</translation>
     </message>
 </context>
 <context>
@@ -1181,6 +2157,213 @@
     </message>
 </context>
 <context>
+    <name>TaskActions</name>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>تح&amp;رير</translation>
+    </message>
+    <message>
+        <source>&amp;Complete</source>
+        <translation>إ&amp;كمال</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>ترا&amp;جع</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>إ&amp;عادة</translation>
+    </message>
+    <message>
+        <source>&amp;Postpone</source>
+        <translation>&amp;تأجيل</translation>
+    </message>
+    <message>
+        <source>Dup&amp;licate</source>
+        <translation>إنشاء ن&amp;سخة</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>&amp;نسخ</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>ح&amp;ذف</translation>
+    </message>
+    <message>
+        <source>&amp;Status</source>
+        <translation>ال&amp;حالة</translation>
+    </message>
+    <message>
+        <source>Pr&amp;iority</source>
+        <translation>الأول&amp;وية</translation>
+    </message>
+    <message>
+        <source>Categor&amp;y</source>
+        <translation>ال&amp;فئة</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: %1</source>
+        <translation>ترا&amp;جع: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo: %1</source>
+        <translation>إ&amp;عادة: %1</translation>
+    </message>
+</context>
+<context>
+    <name>TaskChoices</name>
+    <message>
+        <source>Set Ba&amp;ck to &quot;Not Started&quot;</source>
+        <translation>إعادة إلى «لم ت&amp;بدأ»</translation>
+    </message>
+    <message>
+        <source>&amp;Complete</source>
+        <translation>إ&amp;كمال</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete this task?</source>
+        <translation>هل تريد بالتأكيد حذف هذه المهمة؟</translation>
+    </message>
+    <message numerus="yes">
+        <source>Are you sure you want to delete %n tasks?</source>
+        <translation>
+            <numerusform>هل تريد بالتأكيد حذف %n مهمة؟</numerusform>
+            <numerusform>هل تريد بالتأكيد حذف مهمة واحدة؟</numerusform>
+            <numerusform>هل تريد بالتأكيد حذف مهمتين؟</numerusform>
+            <numerusform>هل تريد بالتأكيد حذف %n مهام؟</numerusform>
+            <numerusform>هل تريد بالتأكيد حذف %n مهمة؟</numerusform>
+            <numerusform>هل تريد بالتأكيد حذف %n مهمة؟</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Not Started</source>
+        <translation>&amp;لم تبدأ</translation>
+    </message>
+    <message>
+        <source>In &amp;Progress</source>
+        <translation>&amp;قيد التنفيذ</translation>
+    </message>
+    <message>
+        <source>&amp;Completed</source>
+        <translation>&amp;مكتملة</translation>
+    </message>
+    <message>
+        <source>&amp;Waiting on someone else</source>
+        <translation>&amp;بانتظار شخص آخر</translation>
+    </message>
+    <message>
+        <source>&amp;Deferred</source>
+        <translation>مؤ&amp;جلة</translation>
+    </message>
+    <message>
+        <source>&amp;High</source>
+        <translation>&amp;عالية</translation>
+    </message>
+    <message>
+        <source>&amp;Normal</source>
+        <translation>عا&amp;دية</translation>
+    </message>
+    <message>
+        <source>&amp;Low</source>
+        <translation>&amp;منخفضة</translation>
+    </message>
+</context>
+<context>
+    <name>TaskFilters</name>
+    <message>
+        <source>A&amp;ll</source>
+        <translation>ا&amp;لكل</translation>
+    </message>
+    <message>
+        <source>Spec&amp;ific</source>
+        <translation>فترة محد&amp;دة</translation>
+    </message>
+    <message>
+        <source>All tas&amp;ks</source>
+        <translation>&amp;كل المهام</translation>
+    </message>
+    <message>
+        <source>Acti&amp;ve tasks only</source>
+        <translation>المهام ال&amp;نشطة فقط</translation>
+    </message>
+    <message>
+        <source>E&amp;xpired tasks only</source>
+        <translation>المهام المتأ&amp;خرة فقط</translation>
+    </message>
+    <message>
+        <source>&amp;From</source>
+        <translation>&amp;من</translation>
+    </message>
+    <message>
+        <source>&amp;To</source>
+        <translation>&amp;إلى</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>إظهار</translation>
+    </message>
+    <message>
+        <source>Categor&amp;y</source>
+        <translation>ال&amp;فئة</translation>
+    </message>
+    <message>
+        <source>Stat&amp;us</source>
+        <translation>ال&amp;حالة</translation>
+    </message>
+    <message>
+        <source>S&amp;ort by</source>
+        <translation>ال&amp;ترتيب حسب</translation>
+    </message>
+    <message>
+        <source>Due date</source>
+        <translation>تاريخ الاستحقاق</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>النوع</translation>
+    </message>
+    <message>
+        <source>The same order chosen again is turned round</source>
+        <translation>اختيار الترتيب نفسه مرة أخرى يعكسه</translation>
+    </message>
+    <message>
+        <source>Category: %1</source>
+        <translation>الفئة: %1</translation>
+    </message>
+    <message>
+        <source>Status: %1</source>
+        <translation>الحالة: %1</translation>
+    </message>
+    <message>
+        <source>Due from %1 to %2</source>
+        <translation>مستحقة من %1 إلى %2</translation>
+    </message>
+    <message>
+        <source>Active tasks only</source>
+        <translation>المهام النشطة فقط</translation>
+    </message>
+    <message>
+        <source>Expired tasks only</source>
+        <translation>المهام المتأخرة فقط</translation>
+    </message>
+    <message>
+        <source>No filter leaves a task out</source>
+        <translation>لا يستبعد أي عامل تصفية أي مهمة</translation>
+    </message>
+</context>
+<context>
+    <name>TaskGridModel</name>
+    <message>
+        <source>Overdue</source>
+        <translation>متأخرة</translation>
+    </message>
+    <message>
+        <source>Due today</source>
+        <translation>مستحقة اليوم</translation>
+    </message>
+</context>
+<context>
     <name>TaskInput</name>
     <message>
         <source>Reminder date and time should not be earlier than current system date and time</source>
@@ -1251,62 +2434,64 @@
     </message>
 </context>
 <context>
+    <name>TaskMoments</name>
+    <message>
+        <source>1 &amp;day before</source>
+        <translation>قبل ي&amp;وم واحد</translation>
+    </message>
+    <message>
+        <source>&amp;At the due moment</source>
+        <translation>في موعد الا&amp;ستحقاق</translation>
+    </message>
+    <message>
+        <source>&amp;5 minutes before</source>
+        <translation>قبل &amp;5 دقائق</translation>
+    </message>
+    <message>
+        <source>&amp;15 minutes before</source>
+        <translation>قبل &amp;15 دقيقة</translation>
+    </message>
+    <message>
+        <source>&amp;30 minutes before</source>
+        <translation>قبل &amp;30 دقيقة</translation>
+    </message>
+    <message>
+        <source>1 &amp;hour before</source>
+        <translation>قبل سا&amp;عة</translation>
+    </message>
+    <message>
+        <source>To&amp;day, %1</source>
+        <translation>ال&amp;يوم، %1</translation>
+    </message>
+    <message>
+        <source>&amp;Tomorrow, %1</source>
+        <translation>&amp;غدًا، %1</translation>
+    </message>
+    <message>
+        <source>Next &amp;Monday, %1</source>
+        <translation>الا&amp;ثنين القادم، %1</translation>
+    </message>
+</context>
+<context>
+    <name>TaskStoring</name>
+    <message>
+        <source>Nothing was stored: there is no number left for a new category.</source>
+        <translation>لم يُحفظ شيء: لم يبقَ رقم لفئة جديدة.</translation>
+    </message>
+    <message>
+        <source>Nothing was stored: there is no room for so many tasks.</source>
+        <translation>لم يُحفظ شيء: لا يتسع المكان لهذا العدد من المهام.</translation>
+    </message>
+    <message>
+        <source>Nothing was stored: the task &quot;%1&quot; has been deleted meanwhile. Choose the file again.</source>
+        <translation>لم يُحفظ شيء: حُذفت المهمة «%1» في هذه الأثناء. اختر الملف من جديد.</translation>
+    </message>
+</context>
+<context>
     <name>TasksPage</name>
-    <message>
-        <source>A&amp;ll</source>
-        <translation>ا&amp;لكل</translation>
-    </message>
-    <message>
-        <source>Spec&amp;ific</source>
-        <translation>فترة محد&amp;دة</translation>
-    </message>
-    <message>
-        <source>All tas&amp;ks</source>
-        <translation>&amp;كل المهام</translation>
-    </message>
-    <message>
-        <source>Acti&amp;ve tasks only</source>
-        <translation>المهام ال&amp;نشطة فقط</translation>
-    </message>
-    <message>
-        <source>E&amp;xpired tasks only</source>
-        <translation>المهام المتأ&amp;خرة فقط</translation>
-    </message>
     <message>
         <source>Tasks</source>
         <translation>المهام</translation>
-    </message>
-    <message>
-        <source>&amp;From</source>
-        <translation>&amp;من</translation>
-    </message>
-    <message>
-        <source>&amp;To</source>
-        <translation>&amp;إلى</translation>
-    </message>
-    <message>
-        <source>Show</source>
-        <translation>إظهار</translation>
-    </message>
-    <message>
-        <source>Categor&amp;y</source>
-        <translation>ال&amp;فئة</translation>
-    </message>
-    <message>
-        <source>Stat&amp;us</source>
-        <translation>ال&amp;حالة</translation>
-    </message>
-    <message>
-        <source>S&amp;ort by</source>
-        <translation>ال&amp;ترتيب حسب</translation>
-    </message>
-    <message>
-        <source>Due date</source>
-        <translation>تاريخ الاستحقاق</translation>
-    </message>
-    <message>
-        <source>Kind</source>
-        <translation>النوع</translation>
     </message>
     <message>
         <source>&amp;Add</source>
@@ -1332,10 +2517,6 @@
         <source>Please enter categories in the categories section first.</source>
         <translation>يُرجى أولًا إدخال فئات في صفحة «الفئات».</translation>
     </message>
-    <message>
-        <source>Are you sure you want to delete this task?</source>
-        <translation>هل تريد بالتأكيد حذف هذه المهمة؟</translation>
-    </message>
 </context>
 <context>
     <name>TopicView</name>
@@ -1346,6 +2527,72 @@
     <message>
         <source>The help file has no readable page &quot;%1&quot;.</source>
         <translation>لا يحتوي ملف المساعدة على صفحة مقروءة باسم «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>TrayNews</name>
+    <message numerus="yes">
+        <source>%n due</source>
+        <comment>reminders</comment>
+        <translation>
+            <numerusform>لا تذكيرات مستحقة</numerusform>
+            <numerusform>تذكير واحد مستحق</numerusform>
+            <numerusform>تذكيران مستحقان</numerusform>
+            <numerusform>%n تذكيرات مستحقة</numerusform>
+            <numerusform>%n تذكيرًا مستحقًا</numerusform>
+            <numerusform>%n تذكير مستحق</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n overdue</source>
+        <comment>tasks</comment>
+        <translation>
+            <numerusform>لا مهام متأخرة</numerusform>
+            <numerusform>مهمة واحدة متأخرة</numerusform>
+            <numerusform>مهمتان متأخرتان</numerusform>
+            <numerusform>%n مهام متأخرة</numerusform>
+            <numerusform>%n مهمة متأخرة</numerusform>
+            <numerusform>%n مهمة متأخرة</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>2 due, 3 overdue</comment>
+        <translation>%1، %2</translation>
+    </message>
+</context>
+<context>
+    <name>UnchangedFile</name>
+    <message>
+        <source>another program is using it</source>
+        <translation>يستخدمه برنامج آخر</translation>
+    </message>
+</context>
+<context>
+    <name>UndoBar</name>
+    <message>
+        <source>U&amp;ndo</source>
+        <translation>ترا&amp;جع</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>إ&amp;عادة</translation>
+    </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>تم التراجع عن: %1</translation>
+    </message>
+    <message>
+        <source>Not undone: %1</source>
+        <translation>تعذّر التراجع: %1</translation>
+    </message>
+    <message>
+        <source>Not done again: %1</source>
+        <translation>تعذّرت الإعادة: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>إ&amp;غلاق</translation>
     </message>
 </context>
 <context>
@@ -1396,6 +2643,13 @@
     <message>
         <source>To store them anew, press &quot;Save Settings&quot; on the page Settings.</source>
         <translation>لتخزينها من جديد، اضغط «حفظ الإعدادات» في صفحة الإعدادات.</translation>
+    </message>
+</context>
+<context>
+    <name>UnusableCopy</name>
+    <message>
+        <source>The file is damaged.</source>
+        <translation>الملف تالف.</translation>
     </message>
 </context>
 <context>
@@ -1519,6 +2773,12 @@
     <message>
         <source>The report cannot be shown: the module &quot;ambertask_report&quot; is missing from the program&apos;s folder or damaged.</source>
         <translation>تعذّر عرض التقرير: الوحدة «ambertask_report» مفقودة من مجلد البرنامج أو تالفة.</translation>
+    </message>
+    <message>
+        <source>The tasks could not be saved.
+%1</source>
+        <translation>تعذّر حفظ المهام.
+%1</translation>
     </message>
 </context>
 <context>
@@ -1727,6 +2987,108 @@
     <message>
         <source>Please browse for a custom icon</source>
         <translation>يُرجى اختيار أيقونة مخصصة</translation>
+    </message>
+</context>
+<context>
+    <name>frmCopies</name>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>است&amp;عادة</translation>
+    </message>
+    <message>
+        <source>Restore from a Copy</source>
+        <translation>الاستعادة من نسخة</translation>
+    </message>
+    <message>
+        <source>Copies of your data</source>
+        <translation>نسخ بياناتك</translation>
+    </message>
+    <message>
+        <source>No copy has been made yet. The first one is made before the next change.</source>
+        <translation>لم تُنشأ أي نسخة بعد. تُنشأ الأولى قبل التغيير القادم.</translation>
+    </message>
+    <message>
+        <source>Puts the selected copy in the place of your data, which is kept as another copy</source>
+        <translation>يضع النسخة المحددة مكان بياناتك؛ ويُحتفظ ببياناتك الحالية كنسخة أخرى</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>إ&amp;غلاق</translation>
+    </message>
+    <message>
+        <source>Closes this list and changes nothing</source>
+        <translation>يغلق هذه القائمة دون تغيير أي شيء</translation>
+    </message>
+    <message>
+        <source>Co&amp;pies of your data that the program has made by itself</source>
+        <translation>&amp;نسخ بياناتك التي أنشأها البرنامج تلقائيًا</translation>
+    </message>
+    <message>
+        <source>The copies could not be compared: %1</source>
+        <translation>تعذّرت مقارنة النسخ: %1</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to restore the copy of %1? Your data as it is now is kept as another copy.</source>
+        <translation>هل تريد بالتأكيد استعادة نسخة %1؟ يُحتفظ ببياناتك الحالية كنسخة أخرى.</translation>
+    </message>
+</context>
+<context>
+    <name>frmImport</name>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>السطر %1: %2</translation>
+    </message>
+    <message>
+        <source>Line %1, &quot;%2&quot;: %3</source>
+        <translation>السطر %1، «%2»: %3</translation>
+    </message>
+    <message>
+        <source>New categories: %1</source>
+        <translation>فئات جديدة: %1</translation>
+    </message>
+    <message>
+        <source>And more that cannot be read.</source>
+        <translation>وغيرها مما تتعذّر قراءته.</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>استي&amp;راد</translation>
+    </message>
+    <message>
+        <source>Ca&amp;ncel</source>
+        <translation>إل&amp;غاء</translation>
+    </message>
+    <message>
+        <source>Import Tasks</source>
+        <translation>استيراد المهام</translation>
+    </message>
+    <message>
+        <source>Tasks to import</source>
+        <translation>المهام المراد استيرادها</translation>
+    </message>
+    <message>
+        <source>Programs to start with the reminder</source>
+        <translation>البرامج التي تُشغَّل مع التذكير</translation>
+    </message>
+    <message>
+        <source>&amp;Programs to start with the reminder; tick those that you trust</source>
+        <translation>ال&amp;برامج التي تُشغَّل مع التذكير؛ حدّد ما تثق به منها</translation>
+    </message>
+    <message>
+        <source>&amp;Summary</source>
+        <translation>الم&amp;لخص</translation>
+    </message>
+    <message>
+        <source>&amp;Tasks</source>
+        <translation>ال&amp;مهام</translation>
+    </message>
+    <message>
+        <source>From &quot;%1&quot;</source>
+        <translation>من «%1»</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
@@ -1953,6 +3315,22 @@
     <message>
         <source>Pro&amp;gram:</source>
         <translation>ال&amp;برنامج:</translation>
+    </message>
+    <message>
+        <source>Set to</source>
+        <translation>تعيين إلى</translation>
+    </message>
+    <message>
+        <source>Set the due moment to</source>
+        <translation>تعيين موعد الاستحقاق إلى</translation>
+    </message>
+    <message>
+        <source>Set the reminder to</source>
+        <translation>تعيين التذكير إلى</translation>
+    </message>
+    <message>
+        <source>Switches the reminder on; it follows the due moment until it is changed</source>
+        <translation>يشغّل التذكير؛ ويتبع موعد الاستحقاق إلى أن يُغيَّر</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>AlertActions</name>
+    <message>
+        <source>&amp;Complete</source>
+        <translation>&amp;Erledigen</translation>
+    </message>
+    <message>
+        <source>&amp;Open Item</source>
+        <translation>Aufgabe ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Remind me later</source>
+        <translation>&amp;Später erinnern</translation>
+    </message>
+    <message>
+        <source>&amp;Dismiss</source>
+        <translation>&amp;Verwerfen</translation>
+    </message>
+</context>
+<context>
     <name>AlertListModel</name>
     <message>
         <source>id</source>
@@ -73,6 +92,14 @@
         <source>Are you sure you want to delete &apos;%1&apos; category, all tasks under this category will be deleted?</source>
         <translation>Möchten Sie die Kategorie „%1“ wirklich löschen? Alle Aufgaben dieser Kategorie werden mitgelöscht.</translation>
     </message>
+    <message>
+        <source>Category &quot;%1&quot; deleted with its tasks</source>
+        <translation>Kategorie „%1“ mit ihren Aufgaben gelöscht</translation>
+    </message>
+    <message>
+        <source>There are no categories yet</source>
+        <translation>Es gibt noch keine Kategorien</translation>
+    </message>
 </context>
 <context>
     <name>CategoryInput</name>
@@ -137,6 +164,127 @@
     </message>
 </context>
 <context>
+    <name>ChangeTexts</name>
+    <message>
+        <source>1 task deleted</source>
+        <translation>1 Aufgabe gelöscht</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks deleted</source>
+        <translation>
+            <numerusform>%n Aufgabe gelöscht</numerusform>
+            <numerusform>%n Aufgaben gelöscht</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task duplicated</source>
+        <translation>1 Aufgabe dupliziert</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks duplicated</source>
+        <translation>
+            <numerusform>%n Aufgabe dupliziert</numerusform>
+            <numerusform>%n Aufgaben dupliziert</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task completed</source>
+        <translation>1 Aufgabe erledigt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks completed</source>
+        <translation>
+            <numerusform>%n Aufgabe erledigt</numerusform>
+            <numerusform>%n Aufgaben erledigt</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task set back to &quot;Not Started&quot;</source>
+        <translation>1 Aufgabe auf „Nicht begonnen“ zurückgesetzt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks set back to &quot;Not Started&quot;</source>
+        <translation>
+            <numerusform>%n Aufgabe auf „Nicht begonnen“ zurückgesetzt</numerusform>
+            <numerusform>%n Aufgaben auf „Nicht begonnen“ zurückgesetzt</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Status of 1 task changed</source>
+        <translation>Status von 1 Aufgabe geändert</translation>
+    </message>
+    <message numerus="yes">
+        <source>Status of %n tasks changed</source>
+        <translation>
+            <numerusform>Status von %n Aufgabe geändert</numerusform>
+            <numerusform>Status von %n Aufgaben geändert</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Priority of 1 task changed</source>
+        <translation>Priorität von 1 Aufgabe geändert</translation>
+    </message>
+    <message numerus="yes">
+        <source>Priority of %n tasks changed</source>
+        <translation>
+            <numerusform>Priorität von %n Aufgabe geändert</numerusform>
+            <numerusform>Priorität von %n Aufgaben geändert</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Category of 1 task changed</source>
+        <translation>Kategorie von 1 Aufgabe geändert</translation>
+    </message>
+    <message numerus="yes">
+        <source>Category of %n tasks changed</source>
+        <translation>
+            <numerusform>Kategorie von %n Aufgabe geändert</numerusform>
+            <numerusform>Kategorie von %n Aufgaben geändert</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 reminder dismissed</source>
+        <translation>1 Erinnerung verworfen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n reminders dismissed</source>
+        <translation>
+            <numerusform>%n Erinnerung verworfen</numerusform>
+            <numerusform>%n Erinnerungen verworfen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 reminder postponed</source>
+        <translation>1 Erinnerung aufgeschoben</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n reminders postponed</source>
+        <translation>
+            <numerusform>%n Erinnerung aufgeschoben</numerusform>
+            <numerusform>%n Erinnerungen aufgeschoben</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task imported</source>
+        <translation>1 Aufgabe importiert</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks imported</source>
+        <translation>
+            <numerusform>%n Aufgabe importiert</numerusform>
+            <numerusform>%n Aufgaben importiert</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No copy was kept: %1</source>
+        <translation>Es wurde keine Kopie aufbewahrt: %1</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <translation>%1. %2</translation>
+    </message>
+</context>
+<context>
     <name>ClsTask</name>
     <message>
         <source>The statement is unfinished: %1</source>
@@ -145,6 +293,187 @@
     <message>
         <source>The task was not stored: there is no number left for a new one. Delete tasks that you no longer need, then end Ambertask and start it again.</source>
         <translation>Die Aufgabe wurde nicht gespeichert: Für eine neue ist keine Nummer mehr frei. Löschen Sie Aufgaben, die Sie nicht mehr brauchen, beenden Sie dann Ambertask und starten Sie es neu.</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>There is no option &quot;%1&quot;.</source>
+        <translation>Die Option „%1“ gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; needs a value.</source>
+        <translation>Die Option „%1“ braucht einen Wert.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; takes no value.</source>
+        <translation>Die Option „%1“ nimmt keinen Wert an.</translation>
+    </message>
+    <message>
+        <source>There is no format &quot;%1&quot;; the formats are &quot;ics&quot; and &quot;csv&quot;.</source>
+        <translation>Das Format „%1“ gibt es nicht; die Formate sind „ics“ und „csv“.</translation>
+    </message>
+    <message>
+        <source>With &quot;-&quot; the format has to be said, by &quot;--format ics&quot; or &quot;--format csv&quot;.</source>
+        <translation>Bei „-“ muss das Format angegeben werden, mit „--format ics“ oder „--format csv“.</translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; ends neither in &quot;.ics&quot; nor in &quot;.csv&quot;; say the format by &quot;--format ics&quot; or &quot;--format csv&quot;.</source>
+        <translation>Der Name „%1“ endet weder auf „.ics“ noch auf „.csv“; geben Sie das Format mit „--format ics“ oder „--format csv“ an.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; goes with &quot;%2&quot; only.</source>
+        <translation>Die Option „%1“ ist nur zusammen mit „%2“ möglich.</translation>
+    </message>
+    <message>
+        <source>The options &quot;%1&quot; and &quot;%2&quot; do not go together.</source>
+        <translation>Die Optionen „%1“ und „%2“ schließen einander aus.</translation>
+    </message>
+    <message>
+        <source>The word &quot;%1&quot; is one too many.</source>
+        <translation>Das Wort „%1“ ist überzählig.</translation>
+    </message>
+    <message>
+        <source>Ambertask --export FILE [--format ics|csv]</source>
+        <translation>Ambertask --export DATEI [--format ics|csv]</translation>
+    </message>
+    <message>
+        <source>Ambertask --import FILE [--format ics|csv] [--yes] [--with-programs]</source>
+        <translation>Ambertask --import DATEI [--format ics|csv] [--yes] [--with-programs]</translation>
+    </message>
+    <message>
+        <source>Without an option the organizer starts with its window. With one of these it does what it is told and ends, without a window, also while a copy runs:</source>
+        <translation>Ohne Option startet Ambertask mit seinem Fenster. Mit einer der folgenden Optionen führt es den Auftrag ohne Fenster aus und endet dann, auch wenn Ambertask bereits läuft:</translation>
+    </message>
+    <message>
+        <source>Writes all tasks, each on a line, with tabs between the fields, which the first line names. In texts \t stands for a tab, \n for a line break and \\ for \.</source>
+        <translation>Gibt alle Aufgaben aus, jede in einer Zeile, mit Tabulatoren zwischen den Feldern, die die erste Zeile nennt. In Texten steht \t für einen Tabulator, \n für einen Zeilenumbruch und \\ für \.</translation>
+    </message>
+    <message>
+        <source>Writes all tasks as an array of JSON objects.</source>
+        <translation>Gibt alle Aufgaben als Array von JSON-Objekten aus.</translation>
+    </message>
+    <message>
+        <source>--export FILE</source>
+        <translation>--export DATEI</translation>
+    </message>
+    <message>
+        <source>Writes all tasks to FILE, as iCalendar (.ics) or CSV (.csv).</source>
+        <translation>Schreibt alle Aufgaben in DATEI, als iCalendar (.ics) oder CSV (.csv).</translation>
+    </message>
+    <message>
+        <source>--import FILE</source>
+        <translation>--import DATEI</translation>
+    </message>
+    <message>
+        <source>Says what an import of FILE would do and imports nothing; the status is 1.</source>
+        <translation>Gibt aus, was ein Import von DATEI bewirken würde, und importiert nichts; der Rückgabewert ist 1.</translation>
+    </message>
+    <message>
+        <source>--import FILE --yes</source>
+        <translation>--import DATEI --yes</translation>
+    </message>
+    <message>
+        <source>Imports FILE, without the programs that its tasks would start; it names them.</source>
+        <translation>Importiert DATEI ohne die Programme, die die Aufgaben darin starten würden, und nennt diese.</translation>
+    </message>
+    <message>
+        <source>--import FILE --yes --with-programs</source>
+        <translation>--import DATEI --yes --with-programs</translation>
+    </message>
+    <message>
+        <source>Imports these programs as well.</source>
+        <translation>Importiert auch diese Programme.</translation>
+    </message>
+    <message>
+        <source>The format of FILE, where its name does not tell. FILE can be &quot;-&quot; then, for standard output or standard input.</source>
+        <translation>Das Format von DATEI, wenn es nicht aus dem Namen hervorgeht. DATEI kann dann „-“ sein, für die Standardausgabe oder die Standardeingabe.</translation>
+    </message>
+    <message>
+        <source>Writes this text.</source>
+        <translation>Gibt diesen Text aus.</translation>
+    </message>
+    <message>
+        <source>Writes the version.</source>
+        <translation>Gibt die Version aus.</translation>
+    </message>
+    <message>
+        <source>The status is 0, 1 when something has failed, and 2 when the command line is wrong.</source>
+        <translation>Der Rückgabewert ist 0, bei einem Fehler 1 und bei einer falschen Befehlszeile 2.</translation>
+    </message>
+    <message>
+        <source>--format ics|csv</source>
+        <translation>--format ics|csv</translation>
+    </message>
+</context>
+<context>
+    <name>CommandRun</name>
+    <message>
+        <source>1 record cannot be read and is left out. %1</source>
+        <translation>1 Eintrag kann nicht gelesen werden und wird ausgelassen. %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n records cannot be read and are left out. The first: %1</source>
+        <translation>
+            <numerusform>%n Eintrag kann nicht gelesen werden und wird ausgelassen. Der erste: %1</numerusform>
+            <numerusform>%n Einträge können nicht gelesen werden und werden ausgelassen. Der erste: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The output could not be written: %1.</source>
+        <translation>Die Ausgabe konnte nicht geschrieben werden: %1.</translation>
+    </message>
+    <message>
+        <source>See &quot;Ambertask --help&quot;.</source>
+        <translation>Siehe „Ambertask --help“.</translation>
+    </message>
+    <message>
+        <source>Nothing was imported; the option &quot;--yes&quot; imports it.</source>
+        <translation>Es wurde nichts importiert; mit der Option „--yes“ wird importiert.</translation>
+    </message>
+    <message>
+        <source>There is nothing to import.</source>
+        <translation>Es gibt nichts zu importieren.</translation>
+    </message>
+    <message>
+        <source>Imported.</source>
+        <translation>Importiert.</translation>
+    </message>
+    <message>
+        <source>What cannot be read in the file was left out.</source>
+        <translation>Was in der Datei nicht gelesen werden kann, wurde ausgelassen.</translation>
+    </message>
+    <message>
+        <source>New: %1</source>
+        <translation>Neu: %1</translation>
+    </message>
+    <message>
+        <source>Changed: %1</source>
+        <translation>Geändert: %1</translation>
+    </message>
+    <message>
+        <source>New category: %1</source>
+        <translation>Neue Kategorie: %1</translation>
+    </message>
+    <message>
+        <source>Starts a program, &quot;%1&quot;: %2</source>
+        <translation>Startet ein Programm, „%1“: %2</translation>
+    </message>
+    <message>
+        <source>Left out, a program that &quot;%1&quot; would start: %2</source>
+        <translation>Ausgelassen, ein Programm, das „%1“ starten würde: %2</translation>
+    </message>
+    <message>
+        <source>Not readable, line %1: %2</source>
+        <translation>Nicht lesbar, Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>Not readable, line %1, &quot;%2&quot;: %3</source>
+        <translation>Nicht lesbar, Zeile %1, „%2“: %3</translation>
+    </message>
+    <message>
+        <source>There are no tasks yet: the program folder &quot;%1&quot; does not exist. The first start makes it, and so does an import.</source>
+        <translation>Es gibt noch keine Aufgaben: Der Programmordner „%1“ ist nicht vorhanden. Der erste Start legt ihn an, ebenso ein Import.</translation>
     </message>
 </context>
 <context>
@@ -257,6 +586,90 @@
     </message>
 </context>
 <context>
+    <name>CopyListModel</name>
+    <message>
+        <source>First change of the day</source>
+        <translation>Erste Änderung des Tages</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Wiederherstellung</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Import</translation>
+    </message>
+    <message>
+        <source>Deletion of tasks</source>
+        <translation>Löschen von Aufgaben</translation>
+    </message>
+    <message>
+        <source>Upgrade</source>
+        <translation>Aktualisierung</translation>
+    </message>
+    <message>
+        <source>1 task added</source>
+        <translation>1 Aufgabe hinzugefügt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks added</source>
+        <translation>
+            <numerusform>%n Aufgabe hinzugefügt</numerusform>
+            <numerusform>%n Aufgaben hinzugefügt</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task changed</source>
+        <translation>1 Aufgabe geändert</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks changed</source>
+        <translation>
+            <numerusform>%n Aufgabe geändert</numerusform>
+            <numerusform>%n Aufgaben geändert</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task gone</source>
+        <translation>1 Aufgabe entfernt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks gone</source>
+        <translation>
+            <numerusform>%n Aufgabe entfernt</numerusform>
+            <numerusform>%n Aufgaben entfernt</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>other categories</source>
+        <translation>Kategorien geändert</translation>
+    </message>
+    <message>
+        <source>nothing changed</source>
+        <translation>nichts geändert</translation>
+    </message>
+    <message>
+        <source>Made</source>
+        <translation>Erstellt am</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Vor</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>Aufgaben</translation>
+    </message>
+    <message>
+        <source>Since then</source>
+        <translation>Seitdem</translation>
+    </message>
+    <message>
+        <source>is being compared...</source>
+        <translation>wird verglichen…</translation>
+    </message>
+</context>
+<context>
     <name>CustomIcons</name>
     <message>
         <source>The picture &quot;%1&quot; cannot be used: this is not a plain file name.</source>
@@ -320,6 +733,248 @@
     </message>
 </context>
 <context>
+    <name>EmptyListNote</name>
+    <message>
+        <source>%1 of 1 task</source>
+        <translation>%1 von 1 Aufgabe</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n tasks</source>
+        <translation>
+            <numerusform>%1 von %n Aufgabe</numerusform>
+            <numerusform>%1 von %n Aufgaben</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Show all</source>
+        <translation>Alle a&amp;nzeigen</translation>
+    </message>
+    <message>
+        <source>There are no tasks yet</source>
+        <translation>Es gibt noch keine Aufgaben</translation>
+    </message>
+    <message>
+        <source>No task matches the filters</source>
+        <translation>Keine Aufgabe passt zu den Filtern</translation>
+    </message>
+    <message>
+        <source>Nothing found for &quot;%1&quot;</source>
+        <translation>Nichts gefunden zu „%1“</translation>
+    </message>
+</context>
+<context>
+    <name>ExchangeTexts</name>
+    <message>
+        <source>The file could not be read: %1.</source>
+        <translation>Die Datei konnte nicht gelesen werden: %1.</translation>
+    </message>
+    <message>
+        <source>The file is no iCalendar file.</source>
+        <translation>Die Datei ist keine iCalendar-Datei.</translation>
+    </message>
+    <message>
+        <source>It has no end.</source>
+        <translation>Der Eintrag hat kein Ende.</translation>
+    </message>
+    <message>
+        <source>Its parts are nested too deeply.</source>
+        <translation>Die Teile des Eintrags sind zu tief verschachtelt.</translation>
+    </message>
+    <message>
+        <source>The file ends in the middle of it.</source>
+        <translation>Die Datei endet mitten im Eintrag.</translation>
+    </message>
+    <message>
+        <source>One of its parts has no end.</source>
+        <translation>Ein Teil des Eintrags hat kein Ende.</translation>
+    </message>
+    <message>
+        <source>One of its lines is too long.</source>
+        <translation>Eine Zeile des Eintrags ist zu lang.</translation>
+    </message>
+    <message>
+        <source>It is too large.</source>
+        <translation>Der Eintrag ist zu groß.</translation>
+    </message>
+    <message>
+        <source>It has too many columns.</source>
+        <translation>Der Eintrag hat zu viele Spalten.</translation>
+    </message>
+    <message>
+        <source>One of its quotes has no end.</source>
+        <translation>Ein Anführungszeichen im Eintrag wird nicht geschlossen.</translation>
+    </message>
+    <message>
+        <source>Column &quot;%1&quot; cannot be read: %2</source>
+        <translation>Die Spalte „%1“ kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>The file is no list of tasks: its first line has no column &quot;%1&quot;.</source>
+        <translation>Die Datei ist keine Aufgabenliste: In ihrer ersten Zeile fehlt die Spalte „%1“.</translation>
+    </message>
+    <message>
+        <source>It holds bytes that are no text in UTF-8.</source>
+        <translation>Der Eintrag enthält Bytes, die kein Text in UTF-8 sind.</translation>
+    </message>
+    <message>
+        <source>1 task is new.</source>
+        <translation>1 Aufgabe ist neu.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks are new.</source>
+        <translation>
+            <numerusform>%n Aufgabe ist neu.</numerusform>
+            <numerusform>%n Aufgaben sind neu.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task is changed.</source>
+        <translation>1 Aufgabe wird geändert.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks are changed.</source>
+        <translation>
+            <numerusform>%n Aufgabe wird geändert.</numerusform>
+            <numerusform>%n Aufgaben werden geändert.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task is the same.</source>
+        <translation>1 Aufgabe ist unverändert.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks are the same.</source>
+        <translation>
+            <numerusform>%n Aufgabe ist unverändert.</numerusform>
+            <numerusform>%n Aufgaben sind unverändert.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The file holds no task.</source>
+        <translation>Die Datei enthält keine Aufgabe.</translation>
+    </message>
+    <message>
+        <source>1 category is made.</source>
+        <translation>1 Kategorie wird angelegt.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n categories are made.</source>
+        <translation>
+            <numerusform>%n Kategorie wird angelegt.</numerusform>
+            <numerusform>%n Kategorien werden angelegt.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task cannot be read and stays out.</source>
+        <translation>1 Aufgabe kann nicht gelesen werden und wird ausgelassen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks cannot be read and stay out.</source>
+        <translation>
+            <numerusform>%n Aufgabe kann nicht gelesen werden und wird ausgelassen.</numerusform>
+            <numerusform>%n Aufgaben können nicht gelesen werden und werden ausgelassen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 entry is no task and stays out.</source>
+        <translation>1 Eintrag ist keine Aufgabe und wird ausgelassen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries are no tasks and stay out.</source>
+        <translation>
+            <numerusform>%n Eintrag ist keine Aufgabe und wird ausgelassen.</numerusform>
+            <numerusform>%n Einträge sind keine Aufgaben und werden ausgelassen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 reminder is past and comes in as dismissed.</source>
+        <translation>1 Erinnerung liegt in der Vergangenheit und wird als verworfen importiert.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n reminders are past and come in as dismissed.</source>
+        <translation>
+            <numerusform>%n Erinnerung liegt in der Vergangenheit und wird als verworfen importiert.</numerusform>
+            <numerusform>%n Erinnerungen liegen in der Vergangenheit und werden als verworfen importiert.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task repeats and comes in once.</source>
+        <translation>1 Aufgabe wiederholt sich und wird nur einmal importiert.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks repeat and come in once.</source>
+        <translation>
+            <numerusform>%n Aufgabe wiederholt sich und wird nur einmal importiert.</numerusform>
+            <numerusform>%n Aufgaben wiederholen sich und werden nur einmal importiert.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task has no due date and is due today.</source>
+        <translation>1 Aufgabe hat kein Fälligkeitsdatum und wird heute fällig.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks have no due date and are due today.</source>
+        <translation>
+            <numerusform>%n Aufgabe hat kein Fälligkeitsdatum und wird heute fällig.</numerusform>
+            <numerusform>%n Aufgaben haben kein Fälligkeitsdatum und werden heute fällig.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 further reminder is kept, but does not remind.</source>
+        <translation>1 weitere Erinnerung bleibt erhalten, erinnert aber nicht.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further reminders are kept, but do not remind.</source>
+        <translation>
+            <numerusform>%n weitere Erinnerung bleibt erhalten, erinnert aber nicht.</numerusform>
+            <numerusform>%n weitere Erinnerungen bleiben erhalten, erinnern aber nicht.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task is in an unknown time zone and is taken as local time.</source>
+        <translation>1 Aufgabe hat eine unbekannte Zeitzone und wird als Ortszeit gelesen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks are in unknown time zones and are taken as local time.</source>
+        <translation>
+            <numerusform>%n Aufgabe hat eine unbekannte Zeitzone und wird als Ortszeit gelesen.</numerusform>
+            <numerusform>%n Aufgaben haben unbekannte Zeitzonen und werden als Ortszeit gelesen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Tasks cannot be exported or imported: the module &quot;ambertask_exchange&quot; is missing from the program&apos;s folder or damaged.</source>
+        <translation>Aufgaben können weder exportiert noch importiert werden: Das Modul „ambertask_exchange“ fehlt im Programmordner oder ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>Imported</source>
+        <translation>Importiert</translation>
+    </message>
+    <message>
+        <source>A task before it has the same UID.</source>
+        <translation>Eine Aufgabe davor hat dieselbe UID.</translation>
+    </message>
+    <message>
+        <source>The file holds more than %1 tasks that are new. Nothing was stored.</source>
+        <translation>Die Datei enthält mehr als %1 neue Aufgaben. Es wurde nichts gespeichert.</translation>
+    </message>
+    <message>
+        <source>The file is too large. Nothing was stored.</source>
+        <translation>Die Datei ist zu groß. Es wurde nichts gespeichert.</translation>
+    </message>
+    <message>
+        <source>The file holds %1 tasks that are new, and there is room for %2. Nothing was stored. Delete tasks that you no longer need, then end Ambertask and start it again.</source>
+        <translation>Die Datei enthält %1 neue Aufgaben, aber es ist nur Platz für %2. Es wurde nichts gespeichert. Löschen Sie Aufgaben, die Sie nicht mehr brauchen, beenden Sie dann Ambertask und starten Sie es neu.</translation>
+    </message>
+    <message>
+        <source>The tasks could not be written: %1.</source>
+        <translation>Die Aufgaben konnten nicht geschrieben werden: %1.</translation>
+    </message>
+    <message>
+        <source>Its due date cannot be read: %1</source>
+        <translation>Das Fälligkeitsdatum kann nicht gelesen werden: %1</translation>
+    </message>
+</context>
+<context>
     <name>FileDialogs</name>
     <message>
         <source>Folder</source>
@@ -370,10 +1025,156 @@
     </message>
 </context>
 <context>
+    <name>FileExchange</name>
+    <message>
+        <source>iCalendar Files (*.ics)|*.ics</source>
+        <translation>iCalendar-Dateien (*.ics)|*.ics</translation>
+    </message>
+    <message>
+        <source>CSV Files (*.csv)|*.csv</source>
+        <translation>CSV-Dateien (*.csv)|*.csv</translation>
+    </message>
+    <message>
+        <source>the name of the file ends neither with .ics nor with .csv</source>
+        <translation>der Dateiname endet weder auf .ics noch auf .csv</translation>
+    </message>
+    <message>
+        <source>1 task was exported to &quot;%1&quot;</source>
+        <translation>1 Aufgabe wurde nach „%1“ exportiert</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks were exported to &quot;%1&quot;</source>
+        <translation>
+            <numerusform>%n Aufgabe wurde nach „%1“ exportiert</numerusform>
+            <numerusform>%n Aufgaben wurden nach „%1“ exportiert</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task was added</source>
+        <translation>1 Aufgabe wurde hinzugefügt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks were added</source>
+        <translation>
+            <numerusform>%n Aufgabe wurde hinzugefügt</numerusform>
+            <numerusform>%n Aufgaben wurden hinzugefügt</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task was changed</source>
+        <translation>1 Aufgabe wurde geändert</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks were changed</source>
+        <translation>
+            <numerusform>%n Aufgabe wurde geändert</numerusform>
+            <numerusform>%n Aufgaben wurden geändert</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>iCalendar and CSV Files (*.ics;*.csv)|*.ics;*.csv</source>
+        <translation>iCalendar- und CSV-Dateien (*.ics;*.csv)|*.ics;*.csv</translation>
+    </message>
+    <message>
+        <source>Exporting the tasks...</source>
+        <translation>Die Aufgaben werden exportiert…</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>Aufgaben</translation>
+    </message>
+    <message>
+        <source>Nothing was exported: %1</source>
+        <translation>Es wurde nichts exportiert: %1</translation>
+    </message>
+    <message>
+        <source>Reading the file...</source>
+        <translation>Die Datei wird gelesen…</translation>
+    </message>
+    <message>
+        <source>Nothing was imported: %1</source>
+        <translation>Es wurde nichts importiert: %1</translation>
+    </message>
+    <message>
+        <source>Importing the tasks...</source>
+        <translation>Die Aufgaben werden importiert…</translation>
+    </message>
+    <message>
+        <source>Nothing was imported.
+%1</source>
+        <translation>Es wurde nichts importiert.
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>FilterFold</name>
+    <message>
+        <source>Unfold the filters</source>
+        <translation>Filter aufklappen</translation>
+    </message>
+    <message>
+        <source>Fold the filters away</source>
+        <translation>Filter einklappen</translation>
+    </message>
+</context>
+<context>
+    <name>FindField</name>
+    <message>
+        <source>Find tasks</source>
+        <translation>Aufgaben finden</translation>
+    </message>
+</context>
+<context>
+    <name>GridView</name>
+    <message>
+        <source>Sorts the list</source>
+        <translation>Sortiert die Liste</translation>
+    </message>
+    <message>
+        <source>Sorted in ascending order</source>
+        <translation>Aufsteigend sortiert</translation>
+    </message>
+    <message>
+        <source>Sorted in descending order</source>
+        <translation>Absteigend sortiert</translation>
+    </message>
+</context>
+<context>
     <name>HTMLHelpViewer</name>
     <message>
         <source>The help window is missing from this installation.</source>
         <translation>Das Hilfefenster fehlt in dieser Installation.</translation>
+    </message>
+</context>
+<context>
+    <name>ImportListModel</name>
+    <message>
+        <source>New</source>
+        <translation>Neu</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Geändert</translation>
+    </message>
+    <message>
+        <source>Same</source>
+        <translation>Unverändert</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Import</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Due Date</source>
+        <translation>Fällig am</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Kategorie</translation>
     </message>
 </context>
 <context>
@@ -389,6 +1190,17 @@
     <message>
         <source>&amp;Keyword</source>
         <translation>S&amp;tichwort</translation>
+    </message>
+</context>
+<context>
+    <name>KeptCopies</name>
+    <message>
+        <source>it is not a folder</source>
+        <translation>es ist kein Ordner</translation>
+    </message>
+    <message>
+        <source>the disk is nearly full</source>
+        <translation>der Datenträger ist fast voll</translation>
     </message>
 </context>
 <context>
@@ -553,6 +1365,34 @@
     <message>
         <source>Nothing was restored: %1</source>
         <translation>Es wurde nichts wiederhergestellt: %1</translation>
+    </message>
+    <message>
+        <source>Restore from a c&amp;opy...</source>
+        <translation>Aus K&amp;opie wiederherstellen…</translation>
+    </message>
+    <message>
+        <source>Shows the copies of your data that the program has made by itself</source>
+        <translation>Zeigt die Kopien Ihrer Daten, die das Programm selbst angelegt hat</translation>
+    </message>
+    <message>
+        <source>Exchange with other programs</source>
+        <translation>Austausch mit anderen Programmen</translation>
+    </message>
+    <message>
+        <source>E&amp;xport...</source>
+        <translation>E&amp;xportieren…</translation>
+    </message>
+    <message>
+        <source>Saves all tasks as iCalendar or CSV, for other programs</source>
+        <translation>Speichert alle Aufgaben als iCalendar oder CSV, für andere Programme</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>I&amp;mportieren…</translation>
+    </message>
+    <message>
+        <source>Adds the tasks of an iCalendar or CSV file; shows first what would happen</source>
+        <translation>Fügt die Aufgaben einer iCalendar- oder CSV-Datei hinzu; zeigt vorher, was geschehen würde</translation>
     </message>
 </context>
 <context>
@@ -741,6 +1581,14 @@
         <source>Preparing the report...</source>
         <translation>Der Bericht wird vorbereitet…</translation>
     </message>
+    <message>
+        <source>&amp;Save as...</source>
+        <translation>Speichern &amp;unter…</translation>
+    </message>
+    <message>
+        <source>Saves the tasks of the report as iCalendar or CSV, for other programs</source>
+        <translation>Speichert die Aufgaben des Berichts als iCalendar oder CSV, für andere Programme</translation>
+    </message>
 </context>
 <context>
     <name>Printing</name>
@@ -758,6 +1606,14 @@
     <message>
         <source>The task &quot;%1&quot; was added; the filters do not show it</source>
         <translation>Die Aufgabe „%1“ wurde hinzugefügt; die Filter zeigen sie nicht</translation>
+    </message>
+    <message>
+        <source>The task &quot;%1&quot; was added; the search does not show it</source>
+        <translation>Die Aufgabe „%1“ wurde hinzugefügt; die Suche zeigt sie nicht</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>Aufgaben</translation>
     </message>
 </context>
 <context>
@@ -941,6 +1797,10 @@ ein Fehler auf: %3.</translation>
     <message>
         <source>a rule in its table &quot;%1&quot; could remove records</source>
         <translation>eine Regel in ihrer Tabelle „%1“ könnte Einträge entfernen</translation>
+    </message>
+    <message>
+        <source>It has been changed since.</source>
+        <translation>Es wurde seitdem geändert.</translation>
     </message>
 </context>
 <context>
@@ -1153,6 +2013,209 @@ ein Fehler auf: %3.</translation>
     </message>
 </context>
 <context>
+    <name>TaskActions</name>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Complete</source>
+        <translation>&amp;Erledigen</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>&amp;Postpone</source>
+        <translation>&amp;Aufschieben</translation>
+    </message>
+    <message>
+        <source>Dup&amp;licate</source>
+        <translation>&amp;Duplizieren</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>K&amp;opieren</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>&amp;Status</source>
+        <translation>&amp;Status</translation>
+    </message>
+    <message>
+        <source>Pr&amp;iority</source>
+        <translation>&amp;Priorität</translation>
+    </message>
+    <message>
+        <source>Categor&amp;y</source>
+        <translation>&amp;Kategorie</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: %1</source>
+        <translation>&amp;Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo: %1</source>
+        <translation>&amp;Wiederholen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>TaskChoices</name>
+    <message>
+        <source>Set Ba&amp;ck to &quot;Not Started&quot;</source>
+        <translation>Auf „Nicht b&amp;egonnen“ zurücksetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Complete</source>
+        <translation>&amp;Erledigen</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete this task?</source>
+        <translation>Möchten Sie diese Aufgabe wirklich löschen?</translation>
+    </message>
+    <message numerus="yes">
+        <source>Are you sure you want to delete %n tasks?</source>
+        <translation>
+            <numerusform>Möchten Sie %n Aufgabe wirklich löschen?</numerusform>
+            <numerusform>Möchten Sie %n Aufgaben wirklich löschen?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Not Started</source>
+        <translation>&amp;Nicht begonnen</translation>
+    </message>
+    <message>
+        <source>In &amp;Progress</source>
+        <translation>In &amp;Bearbeitung</translation>
+    </message>
+    <message>
+        <source>&amp;Completed</source>
+        <translation>&amp;Erledigt</translation>
+    </message>
+    <message>
+        <source>&amp;Waiting on someone else</source>
+        <translation>&amp;Wartet auf andere</translation>
+    </message>
+    <message>
+        <source>&amp;Deferred</source>
+        <translation>&amp;Zurückgestellt</translation>
+    </message>
+    <message>
+        <source>&amp;High</source>
+        <translation>&amp;Hoch</translation>
+    </message>
+    <message>
+        <source>&amp;Normal</source>
+        <translation>&amp;Normal</translation>
+    </message>
+    <message>
+        <source>&amp;Low</source>
+        <translation>N&amp;iedrig</translation>
+    </message>
+</context>
+<context>
+    <name>TaskFilters</name>
+    <message>
+        <source>A&amp;ll</source>
+        <translation>&amp;Alle</translation>
+    </message>
+    <message>
+        <source>Spec&amp;ific</source>
+        <translation>&amp;Zeitraum</translation>
+    </message>
+    <message>
+        <source>All tas&amp;ks</source>
+        <translation>Alle Au&amp;fgaben</translation>
+    </message>
+    <message>
+        <source>Acti&amp;ve tasks only</source>
+        <translation>Nur a&amp;ktive Aufgaben</translation>
+    </message>
+    <message>
+        <source>E&amp;xpired tasks only</source>
+        <translation>Nur überfälli&amp;ge Aufgaben</translation>
+    </message>
+    <message>
+        <source>&amp;From</source>
+        <translation>&amp;Von</translation>
+    </message>
+    <message>
+        <source>&amp;To</source>
+        <translation>Bi&amp;s</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Anzeigen</translation>
+    </message>
+    <message>
+        <source>Categor&amp;y</source>
+        <translation>Ka&amp;tegorie</translation>
+    </message>
+    <message>
+        <source>Stat&amp;us</source>
+        <translation>Stat&amp;us</translation>
+    </message>
+    <message>
+        <source>S&amp;ort by</source>
+        <translation>S&amp;ortieren nach</translation>
+    </message>
+    <message>
+        <source>Due date</source>
+        <translation>Fälligkeit</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>The same order chosen again is turned round</source>
+        <translation>Dieselbe Reihenfolge noch einmal gewählt wird umgekehrt</translation>
+    </message>
+    <message>
+        <source>Category: %1</source>
+        <translation>Kategorie: %1</translation>
+    </message>
+    <message>
+        <source>Status: %1</source>
+        <translation>Status: %1</translation>
+    </message>
+    <message>
+        <source>Due from %1 to %2</source>
+        <translation>Fällig vom %1 bis zum %2</translation>
+    </message>
+    <message>
+        <source>Active tasks only</source>
+        <translation>Nur aktive Aufgaben</translation>
+    </message>
+    <message>
+        <source>Expired tasks only</source>
+        <translation>Nur überfällige Aufgaben</translation>
+    </message>
+    <message>
+        <source>No filter leaves a task out</source>
+        <translation>Kein Filter lässt eine Aufgabe weg</translation>
+    </message>
+</context>
+<context>
+    <name>TaskGridModel</name>
+    <message>
+        <source>Overdue</source>
+        <translation>Überfällig</translation>
+    </message>
+    <message>
+        <source>Due today</source>
+        <translation>Heute fällig</translation>
+    </message>
+</context>
+<context>
     <name>TaskInput</name>
     <message>
         <source>Reminder date and time should not be earlier than current system date and time</source>
@@ -1223,62 +2286,64 @@ ein Fehler auf: %3.</translation>
     </message>
 </context>
 <context>
+    <name>TaskMoments</name>
+    <message>
+        <source>1 &amp;day before</source>
+        <translation>1 &amp;Tag vorher</translation>
+    </message>
+    <message>
+        <source>&amp;At the due moment</source>
+        <translation>&amp;Zum Fälligkeitszeitpunkt</translation>
+    </message>
+    <message>
+        <source>&amp;5 minutes before</source>
+        <translation>&amp;5 Minuten vorher</translation>
+    </message>
+    <message>
+        <source>&amp;15 minutes before</source>
+        <translation>&amp;15 Minuten vorher</translation>
+    </message>
+    <message>
+        <source>&amp;30 minutes before</source>
+        <translation>&amp;30 Minuten vorher</translation>
+    </message>
+    <message>
+        <source>1 &amp;hour before</source>
+        <translation>1 &amp;Stunde vorher</translation>
+    </message>
+    <message>
+        <source>To&amp;day, %1</source>
+        <translation>&amp;Heute, %1</translation>
+    </message>
+    <message>
+        <source>&amp;Tomorrow, %1</source>
+        <translation>&amp;Morgen, %1</translation>
+    </message>
+    <message>
+        <source>Next &amp;Monday, %1</source>
+        <translation>&amp;Nächsten Montag, %1</translation>
+    </message>
+</context>
+<context>
+    <name>TaskStoring</name>
+    <message>
+        <source>Nothing was stored: there is no number left for a new category.</source>
+        <translation>Es wurde nichts gespeichert: Für eine neue Kategorie ist keine Nummer mehr frei.</translation>
+    </message>
+    <message>
+        <source>Nothing was stored: there is no room for so many tasks.</source>
+        <translation>Es wurde nichts gespeichert: Für so viele Aufgaben ist kein Platz.</translation>
+    </message>
+    <message>
+        <source>Nothing was stored: the task &quot;%1&quot; has been deleted meanwhile. Choose the file again.</source>
+        <translation>Es wurde nichts gespeichert: Die Aufgabe „%1“ wurde inzwischen gelöscht. Wählen Sie die Datei noch einmal aus.</translation>
+    </message>
+</context>
+<context>
     <name>TasksPage</name>
-    <message>
-        <source>A&amp;ll</source>
-        <translation>&amp;Alle</translation>
-    </message>
-    <message>
-        <source>Spec&amp;ific</source>
-        <translation>&amp;Zeitraum</translation>
-    </message>
-    <message>
-        <source>All tas&amp;ks</source>
-        <translation>Alle Au&amp;fgaben</translation>
-    </message>
-    <message>
-        <source>Acti&amp;ve tasks only</source>
-        <translation>Nur a&amp;ktive Aufgaben</translation>
-    </message>
-    <message>
-        <source>E&amp;xpired tasks only</source>
-        <translation>Nur überfälli&amp;ge Aufgaben</translation>
-    </message>
     <message>
         <source>Tasks</source>
         <translation>Aufgaben</translation>
-    </message>
-    <message>
-        <source>&amp;From</source>
-        <translation>&amp;Von</translation>
-    </message>
-    <message>
-        <source>&amp;To</source>
-        <translation>Bi&amp;s</translation>
-    </message>
-    <message>
-        <source>Show</source>
-        <translation>Anzeigen</translation>
-    </message>
-    <message>
-        <source>Categor&amp;y</source>
-        <translation>Ka&amp;tegorie</translation>
-    </message>
-    <message>
-        <source>Stat&amp;us</source>
-        <translation>Stat&amp;us</translation>
-    </message>
-    <message>
-        <source>S&amp;ort by</source>
-        <translation>S&amp;ortieren nach</translation>
-    </message>
-    <message>
-        <source>Due date</source>
-        <translation>Fälligkeit</translation>
-    </message>
-    <message>
-        <source>Kind</source>
-        <translation>Art</translation>
     </message>
     <message>
         <source>&amp;Add</source>
@@ -1304,10 +2369,6 @@ ein Fehler auf: %3.</translation>
         <source>Please enter categories in the categories section first.</source>
         <translation>Bitte legen Sie zuerst auf der Seite „Kategorien“ eine Kategorie an.</translation>
     </message>
-    <message>
-        <source>Are you sure you want to delete this task?</source>
-        <translation>Möchten Sie diese Aufgabe wirklich löschen?</translation>
-    </message>
 </context>
 <context>
     <name>TopicView</name>
@@ -1318,6 +2379,64 @@ ein Fehler auf: %3.</translation>
     <message>
         <source>The help file has no readable page &quot;%1&quot;.</source>
         <translation>Die Hilfedatei enthält keine lesbare Seite „%1“.</translation>
+    </message>
+</context>
+<context>
+    <name>TrayNews</name>
+    <message numerus="yes">
+        <source>%n due</source>
+        <comment>reminders</comment>
+        <translation>
+            <numerusform>%n fällig</numerusform>
+            <numerusform>%n fällig</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n overdue</source>
+        <comment>tasks</comment>
+        <translation>
+            <numerusform>%n überfällig</numerusform>
+            <numerusform>%n überfällig</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>2 due, 3 overdue</comment>
+        <translation>%1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>UnchangedFile</name>
+    <message>
+        <source>another program is using it</source>
+        <translation>ein anderes Programm verwendet sie</translation>
+    </message>
+</context>
+<context>
+    <name>UndoBar</name>
+    <message>
+        <source>U&amp;ndo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Rückgängig gemacht: %1</translation>
+    </message>
+    <message>
+        <source>Not undone: %1</source>
+        <translation>Nicht rückgängig gemacht: %1</translation>
+    </message>
+    <message>
+        <source>Not done again: %1</source>
+        <translation>Nicht wiederholt: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
     </message>
 </context>
 <context>
@@ -1364,6 +2483,13 @@ ein Fehler auf: %3.</translation>
     <message>
         <source>To store them anew, press &quot;Save Settings&quot; on the page Settings.</source>
         <translation>Um sie neu zu speichern, drücken Sie auf der Seite Einstellungen „Einstellungen speichern“.</translation>
+    </message>
+</context>
+<context>
+    <name>UnusableCopy</name>
+    <message>
+        <source>The file is damaged.</source>
+        <translation>Die Datei ist beschädigt.</translation>
     </message>
 </context>
 <context>
@@ -1487,6 +2613,12 @@ ein Fehler auf: %3.</translation>
     <message>
         <source>The report cannot be shown: the module &quot;ambertask_report&quot; is missing from the program&apos;s folder or damaged.</source>
         <translation>Der Bericht kann nicht angezeigt werden: Das Modul „ambertask_report“ fehlt im Programmordner oder ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>The tasks could not be saved.
+%1</source>
+        <translation>Die Aufgaben konnten nicht gespeichert werden.
+%1</translation>
     </message>
 </context>
 <context>
@@ -1691,6 +2823,108 @@ ein Fehler auf: %3.</translation>
     <message>
         <source>Please browse for a custom icon</source>
         <translation>Bitte wählen Sie ein eigenes Symbol aus</translation>
+    </message>
+</context>
+<context>
+    <name>frmCopies</name>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>Wieder&amp;herstellen</translation>
+    </message>
+    <message>
+        <source>Restore from a Copy</source>
+        <translation>Aus Kopie wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Copies of your data</source>
+        <translation>Kopien Ihrer Daten</translation>
+    </message>
+    <message>
+        <source>No copy has been made yet. The first one is made before the next change.</source>
+        <translation>Es wurde noch keine Kopie angelegt. Die erste wird vor der nächsten Änderung angelegt.</translation>
+    </message>
+    <message>
+        <source>Puts the selected copy in the place of your data, which is kept as another copy</source>
+        <translation>Setzt die ausgewählte Kopie an die Stelle Ihrer Daten, die als weitere Kopie erhalten bleiben</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>Closes this list and changes nothing</source>
+        <translation>Schließt diese Liste und ändert nichts</translation>
+    </message>
+    <message>
+        <source>Co&amp;pies of your data that the program has made by itself</source>
+        <translation>Ko&amp;pien Ihrer Daten, die das Programm selbst angelegt hat</translation>
+    </message>
+    <message>
+        <source>The copies could not be compared: %1</source>
+        <translation>Die Kopien konnten nicht verglichen werden: %1</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to restore the copy of %1? Your data as it is now is kept as another copy.</source>
+        <translation>Möchten Sie die Kopie vom %1 wirklich wiederherstellen? Ihre jetzigen Daten bleiben als weitere Kopie erhalten.</translation>
+    </message>
+</context>
+<context>
+    <name>frmImport</name>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>Line %1, &quot;%2&quot;: %3</source>
+        <translation>Zeile %1, „%2“: %3</translation>
+    </message>
+    <message>
+        <source>New categories: %1</source>
+        <translation>Neue Kategorien: %1</translation>
+    </message>
+    <message>
+        <source>And more that cannot be read.</source>
+        <translation>Und weitere, die nicht gelesen werden können.</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importieren</translation>
+    </message>
+    <message>
+        <source>Ca&amp;ncel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>Import Tasks</source>
+        <translation>Aufgaben importieren</translation>
+    </message>
+    <message>
+        <source>Tasks to import</source>
+        <translation>Zu importierende Aufgaben</translation>
+    </message>
+    <message>
+        <source>Programs to start with the reminder</source>
+        <translation>Mit der Erinnerung zu startende Programme</translation>
+    </message>
+    <message>
+        <source>&amp;Programs to start with the reminder; tick those that you trust</source>
+        <translation>Mit der Erinnerung zu startende &amp;Programme; wählen Sie die aus, denen Sie vertrauen</translation>
+    </message>
+    <message>
+        <source>&amp;Summary</source>
+        <translation>&amp;Zusammenfassung</translation>
+    </message>
+    <message>
+        <source>&amp;Tasks</source>
+        <translation>Au&amp;fgaben</translation>
+    </message>
+    <message>
+        <source>From &quot;%1&quot;</source>
+        <translation>Aus „%1“</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
@@ -1917,6 +3151,22 @@ ein Fehler auf: %3.</translation>
     <message>
         <source>Pro&amp;gram:</source>
         <translation>P&amp;rogramm:</translation>
+    </message>
+    <message>
+        <source>Set to</source>
+        <translation>Setzen auf</translation>
+    </message>
+    <message>
+        <source>Set the due moment to</source>
+        <translation>Fälligkeit setzen auf</translation>
+    </message>
+    <message>
+        <source>Set the reminder to</source>
+        <translation>Erinnerung setzen auf</translation>
+    </message>
+    <message>
+        <source>Switches the reminder on; it follows the due moment until it is changed</source>
+        <translation>Schaltet die Erinnerung ein; sie folgt der Fälligkeit, bis sie geändert wird</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>AlertActions</name>
+    <message>
+        <source>&amp;Complete</source>
+        <translation>&amp;Completar</translation>
+    </message>
+    <message>
+        <source>&amp;Open Item</source>
+        <translation>&amp;Abrir tarea</translation>
+    </message>
+    <message>
+        <source>&amp;Remind me later</source>
+        <translation>&amp;Recordar más tarde</translation>
+    </message>
+    <message>
+        <source>&amp;Dismiss</source>
+        <translation>&amp;Descartar</translation>
+    </message>
+</context>
+<context>
     <name>AlertListModel</name>
     <message>
         <source>id</source>
@@ -73,6 +92,14 @@
         <source>Are you sure you want to delete &apos;%1&apos; category, all tasks under this category will be deleted?</source>
         <translation>¿Seguro que desea eliminar la categoría «%1»? También se eliminarán todas sus tareas.</translation>
     </message>
+    <message>
+        <source>Category &quot;%1&quot; deleted with its tasks</source>
+        <translation>Categoría «%1» eliminada con sus tareas</translation>
+    </message>
+    <message>
+        <source>There are no categories yet</source>
+        <translation>Aún no hay categorías</translation>
+    </message>
 </context>
 <context>
     <name>CategoryInput</name>
@@ -137,6 +164,127 @@
     </message>
 </context>
 <context>
+    <name>ChangeTexts</name>
+    <message>
+        <source>1 task deleted</source>
+        <translation>1 tarea eliminada</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks deleted</source>
+        <translation>
+            <numerusform>%n tarea eliminada</numerusform>
+            <numerusform>%n tareas eliminadas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task duplicated</source>
+        <translation>1 tarea duplicada</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks duplicated</source>
+        <translation>
+            <numerusform>%n tarea duplicada</numerusform>
+            <numerusform>%n tareas duplicadas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task completed</source>
+        <translation>1 tarea completada</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks completed</source>
+        <translation>
+            <numerusform>%n tarea completada</numerusform>
+            <numerusform>%n tareas completadas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task set back to &quot;Not Started&quot;</source>
+        <translation>1 tarea devuelta a «No iniciada»</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks set back to &quot;Not Started&quot;</source>
+        <translation>
+            <numerusform>%n tarea devuelta a «No iniciada»</numerusform>
+            <numerusform>%n tareas devueltas a «No iniciada»</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Status of 1 task changed</source>
+        <translation>Estado de 1 tarea cambiado</translation>
+    </message>
+    <message numerus="yes">
+        <source>Status of %n tasks changed</source>
+        <translation>
+            <numerusform>Estado de %n tarea cambiado</numerusform>
+            <numerusform>Estado de %n tareas cambiado</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Priority of 1 task changed</source>
+        <translation>Prioridad de 1 tarea cambiada</translation>
+    </message>
+    <message numerus="yes">
+        <source>Priority of %n tasks changed</source>
+        <translation>
+            <numerusform>Prioridad de %n tarea cambiada</numerusform>
+            <numerusform>Prioridad de %n tareas cambiada</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Category of 1 task changed</source>
+        <translation>Categoría de 1 tarea cambiada</translation>
+    </message>
+    <message numerus="yes">
+        <source>Category of %n tasks changed</source>
+        <translation>
+            <numerusform>Categoría de %n tarea cambiada</numerusform>
+            <numerusform>Categoría de %n tareas cambiada</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 reminder dismissed</source>
+        <translation>1 recordatorio descartado</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n reminders dismissed</source>
+        <translation>
+            <numerusform>%n recordatorio descartado</numerusform>
+            <numerusform>%n recordatorios descartados</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 reminder postponed</source>
+        <translation>1 recordatorio pospuesto</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n reminders postponed</source>
+        <translation>
+            <numerusform>%n recordatorio pospuesto</numerusform>
+            <numerusform>%n recordatorios pospuestos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task imported</source>
+        <translation>1 tarea importada</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks imported</source>
+        <translation>
+            <numerusform>%n tarea importada</numerusform>
+            <numerusform>%n tareas importadas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No copy was kept: %1</source>
+        <translation>No se conservó ninguna copia: %1</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <translation>%1. %2</translation>
+    </message>
+</context>
+<context>
     <name>ClsTask</name>
     <message>
         <source>The statement is unfinished: %1</source>
@@ -145,6 +293,187 @@
     <message>
         <source>The task was not stored: there is no number left for a new one. Delete tasks that you no longer need, then end Ambertask and start it again.</source>
         <translation>La tarea no se guardó: no queda ningún número para una nueva. Elimine las tareas que ya no necesite, salga de Ambertask y vuelva a iniciarlo.</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>There is no option &quot;%1&quot;.</source>
+        <translation>No existe la opción «%1».</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; needs a value.</source>
+        <translation>La opción «%1» necesita un valor.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; takes no value.</source>
+        <translation>La opción «%1» no admite ningún valor.</translation>
+    </message>
+    <message>
+        <source>There is no format &quot;%1&quot;; the formats are &quot;ics&quot; and &quot;csv&quot;.</source>
+        <translation>No existe el formato «%1»; los formatos son «ics» y «csv».</translation>
+    </message>
+    <message>
+        <source>With &quot;-&quot; the format has to be said, by &quot;--format ics&quot; or &quot;--format csv&quot;.</source>
+        <translation>Con «-» hay que indicar el formato mediante «--format ics» o «--format csv».</translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; ends neither in &quot;.ics&quot; nor in &quot;.csv&quot;; say the format by &quot;--format ics&quot; or &quot;--format csv&quot;.</source>
+        <translation>El nombre «%1» no termina ni en «.ics» ni en «.csv»; indique el formato mediante «--format ics» o «--format csv».</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; goes with &quot;%2&quot; only.</source>
+        <translation>La opción «%1» solo se puede usar con «%2».</translation>
+    </message>
+    <message>
+        <source>The options &quot;%1&quot; and &quot;%2&quot; do not go together.</source>
+        <translation>Las opciones «%1» y «%2» no se pueden usar juntas.</translation>
+    </message>
+    <message>
+        <source>The word &quot;%1&quot; is one too many.</source>
+        <translation>Sobra la palabra «%1».</translation>
+    </message>
+    <message>
+        <source>Ambertask --export FILE [--format ics|csv]</source>
+        <translation>Ambertask --export ARCHIVO [--format ics|csv]</translation>
+    </message>
+    <message>
+        <source>Ambertask --import FILE [--format ics|csv] [--yes] [--with-programs]</source>
+        <translation>Ambertask --import ARCHIVO [--format ics|csv] [--yes] [--with-programs]</translation>
+    </message>
+    <message>
+        <source>Without an option the organizer starts with its window. With one of these it does what it is told and ends, without a window, also while a copy runs:</source>
+        <translation>Sin opciones, el organizador se inicia con su ventana. Con una de las siguientes hace lo que se le pide y termina, sin ventana, incluso mientras otra copia del programa está en ejecución:</translation>
+    </message>
+    <message>
+        <source>Writes all tasks, each on a line, with tabs between the fields, which the first line names. In texts \t stands for a tab, \n for a line break and \\ for \.</source>
+        <translation>Escribe todas las tareas, cada una en una línea, con tabuladores entre los campos, cuyos nombres figuran en la primera línea. En los textos, \t representa un tabulador, \n un salto de línea y \\ el carácter \.</translation>
+    </message>
+    <message>
+        <source>Writes all tasks as an array of JSON objects.</source>
+        <translation>Escribe todas las tareas como una matriz de objetos JSON.</translation>
+    </message>
+    <message>
+        <source>--export FILE</source>
+        <translation>--export ARCHIVO</translation>
+    </message>
+    <message>
+        <source>Writes all tasks to FILE, as iCalendar (.ics) or CSV (.csv).</source>
+        <translation>Escribe todas las tareas en ARCHIVO, como iCalendar (.ics) o CSV (.csv).</translation>
+    </message>
+    <message>
+        <source>--import FILE</source>
+        <translation>--import ARCHIVO</translation>
+    </message>
+    <message>
+        <source>Says what an import of FILE would do and imports nothing; the status is 1.</source>
+        <translation>Indica lo que haría una importación de ARCHIVO y no importa nada; el estado es 1.</translation>
+    </message>
+    <message>
+        <source>--import FILE --yes</source>
+        <translation>--import ARCHIVO --yes</translation>
+    </message>
+    <message>
+        <source>Imports FILE, without the programs that its tasks would start; it names them.</source>
+        <translation>Importa ARCHIVO, sin los programas que iniciarían sus tareas; los enumera.</translation>
+    </message>
+    <message>
+        <source>--import FILE --yes --with-programs</source>
+        <translation>--import ARCHIVO --yes --with-programs</translation>
+    </message>
+    <message>
+        <source>Imports these programs as well.</source>
+        <translation>Importa también esos programas.</translation>
+    </message>
+    <message>
+        <source>The format of FILE, where its name does not tell. FILE can be &quot;-&quot; then, for standard output or standard input.</source>
+        <translation>El formato de ARCHIVO, si su nombre no lo indica. En ese caso, ARCHIVO puede ser «-», para la salida estándar o la entrada estándar.</translation>
+    </message>
+    <message>
+        <source>Writes this text.</source>
+        <translation>Escribe este texto.</translation>
+    </message>
+    <message>
+        <source>Writes the version.</source>
+        <translation>Escribe la versión.</translation>
+    </message>
+    <message>
+        <source>The status is 0, 1 when something has failed, and 2 when the command line is wrong.</source>
+        <translation>El estado es 0; 1 si algo ha fallado y 2 si la línea de comandos es incorrecta.</translation>
+    </message>
+    <message>
+        <source>--format ics|csv</source>
+        <translation>--format ics|csv</translation>
+    </message>
+</context>
+<context>
+    <name>CommandRun</name>
+    <message>
+        <source>1 record cannot be read and is left out. %1</source>
+        <translation>1 registro no se puede leer y se omite. %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n records cannot be read and are left out. The first: %1</source>
+        <translation>
+            <numerusform>%n registro no se puede leer y se omite. El primero: %1</numerusform>
+            <numerusform>%n registros no se pueden leer y se omiten. El primero: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The output could not be written: %1.</source>
+        <translation>No se pudo escribir la salida: %1.</translation>
+    </message>
+    <message>
+        <source>See &quot;Ambertask --help&quot;.</source>
+        <translation>Consulte «Ambertask --help».</translation>
+    </message>
+    <message>
+        <source>Nothing was imported; the option &quot;--yes&quot; imports it.</source>
+        <translation>No se ha importado nada; la opción «--yes» lo importa.</translation>
+    </message>
+    <message>
+        <source>There is nothing to import.</source>
+        <translation>No hay nada que importar.</translation>
+    </message>
+    <message>
+        <source>Imported.</source>
+        <translation>Importación completada.</translation>
+    </message>
+    <message>
+        <source>What cannot be read in the file was left out.</source>
+        <translation>Se ha omitido lo que no se puede leer en el archivo.</translation>
+    </message>
+    <message>
+        <source>New: %1</source>
+        <translation>Nueva: %1</translation>
+    </message>
+    <message>
+        <source>Changed: %1</source>
+        <translation>Cambiada: %1</translation>
+    </message>
+    <message>
+        <source>New category: %1</source>
+        <translation>Categoría nueva: %1</translation>
+    </message>
+    <message>
+        <source>Starts a program, &quot;%1&quot;: %2</source>
+        <translation>Inicia un programa, «%1»: %2</translation>
+    </message>
+    <message>
+        <source>Left out, a program that &quot;%1&quot; would start: %2</source>
+        <translation>Omitido, un programa que «%1» iniciaría: %2</translation>
+    </message>
+    <message>
+        <source>Not readable, line %1: %2</source>
+        <translation>Ilegible, línea %1: %2</translation>
+    </message>
+    <message>
+        <source>Not readable, line %1, &quot;%2&quot;: %3</source>
+        <translation>Ilegible, línea %1, «%2»: %3</translation>
+    </message>
+    <message>
+        <source>There are no tasks yet: the program folder &quot;%1&quot; does not exist. The first start makes it, and so does an import.</source>
+        <translation>Aún no hay tareas: la carpeta del programa «%1» no existe. Se crea en el primer inicio o con una importación.</translation>
     </message>
 </context>
 <context>
@@ -257,6 +586,90 @@
     </message>
 </context>
 <context>
+    <name>CopyListModel</name>
+    <message>
+        <source>First change of the day</source>
+        <translation>Primer cambio del día</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Restauración</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importación</translation>
+    </message>
+    <message>
+        <source>Deletion of tasks</source>
+        <translation>Eliminación de tareas</translation>
+    </message>
+    <message>
+        <source>Upgrade</source>
+        <translation>Actualización</translation>
+    </message>
+    <message>
+        <source>1 task added</source>
+        <translation>1 tarea añadida</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks added</source>
+        <translation>
+            <numerusform>%n tarea añadida</numerusform>
+            <numerusform>%n tareas añadidas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task changed</source>
+        <translation>1 tarea cambiada</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks changed</source>
+        <translation>
+            <numerusform>%n tarea cambiada</numerusform>
+            <numerusform>%n tareas cambiadas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task gone</source>
+        <translation>1 tarea eliminada</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks gone</source>
+        <translation>
+            <numerusform>%n tarea eliminada</numerusform>
+            <numerusform>%n tareas eliminadas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>other categories</source>
+        <translation>otras categorías</translation>
+    </message>
+    <message>
+        <source>nothing changed</source>
+        <translation>sin cambios</translation>
+    </message>
+    <message>
+        <source>Made</source>
+        <translation>Creada</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Antes de</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>Tareas</translation>
+    </message>
+    <message>
+        <source>Since then</source>
+        <translation>Desde entonces</translation>
+    </message>
+    <message>
+        <source>is being compared...</source>
+        <translation>comparando…</translation>
+    </message>
+</context>
+<context>
     <name>CustomIcons</name>
     <message>
         <source>The picture &quot;%1&quot; cannot be used: this is not a plain file name.</source>
@@ -320,6 +733,248 @@
     </message>
 </context>
 <context>
+    <name>EmptyListNote</name>
+    <message>
+        <source>%1 of 1 task</source>
+        <translation>%1 de 1 tarea</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n tasks</source>
+        <translation>
+            <numerusform>%1 de %n tarea</numerusform>
+            <numerusform>%1 de %n tareas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Show all</source>
+        <translation>&amp;Quitar filtros</translation>
+    </message>
+    <message>
+        <source>There are no tasks yet</source>
+        <translation>Aún no hay tareas</translation>
+    </message>
+    <message>
+        <source>No task matches the filters</source>
+        <translation>Ninguna tarea cumple los filtros</translation>
+    </message>
+    <message>
+        <source>Nothing found for &quot;%1&quot;</source>
+        <translation>No se ha encontrado nada para «%1»</translation>
+    </message>
+</context>
+<context>
+    <name>ExchangeTexts</name>
+    <message>
+        <source>The file could not be read: %1.</source>
+        <translation>No se pudo leer el archivo: %1.</translation>
+    </message>
+    <message>
+        <source>The file is no iCalendar file.</source>
+        <translation>El archivo no es un archivo iCalendar.</translation>
+    </message>
+    <message>
+        <source>It has no end.</source>
+        <translation>Le falta el final.</translation>
+    </message>
+    <message>
+        <source>Its parts are nested too deeply.</source>
+        <translation>Sus partes están anidadas a demasiada profundidad.</translation>
+    </message>
+    <message>
+        <source>The file ends in the middle of it.</source>
+        <translation>El archivo termina en medio de esta entrada.</translation>
+    </message>
+    <message>
+        <source>One of its parts has no end.</source>
+        <translation>A una de sus partes le falta el final.</translation>
+    </message>
+    <message>
+        <source>One of its lines is too long.</source>
+        <translation>Una de sus líneas es demasiado larga.</translation>
+    </message>
+    <message>
+        <source>It is too large.</source>
+        <translation>Es demasiado grande.</translation>
+    </message>
+    <message>
+        <source>It has too many columns.</source>
+        <translation>Tiene demasiadas columnas.</translation>
+    </message>
+    <message>
+        <source>One of its quotes has no end.</source>
+        <translation>Una de sus comillas no se cierra.</translation>
+    </message>
+    <message>
+        <source>Column &quot;%1&quot; cannot be read: %2</source>
+        <translation>No se puede leer la columna «%1»: %2</translation>
+    </message>
+    <message>
+        <source>The file is no list of tasks: its first line has no column &quot;%1&quot;.</source>
+        <translation>El archivo no es una lista de tareas: su primera línea no tiene la columna «%1».</translation>
+    </message>
+    <message>
+        <source>It holds bytes that are no text in UTF-8.</source>
+        <translation>Contiene bytes que no son texto en UTF-8.</translation>
+    </message>
+    <message>
+        <source>1 task is new.</source>
+        <translation>1 tarea nueva.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks are new.</source>
+        <translation>
+            <numerusform>%n tarea nueva.</numerusform>
+            <numerusform>%n tareas nuevas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task is changed.</source>
+        <translation>1 tarea cambiada.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks are changed.</source>
+        <translation>
+            <numerusform>%n tarea cambiada.</numerusform>
+            <numerusform>%n tareas cambiadas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task is the same.</source>
+        <translation>1 tarea igual.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks are the same.</source>
+        <translation>
+            <numerusform>%n tarea igual.</numerusform>
+            <numerusform>%n tareas iguales.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The file holds no task.</source>
+        <translation>El archivo no contiene tareas.</translation>
+    </message>
+    <message>
+        <source>1 category is made.</source>
+        <translation>1 categoría nueva.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n categories are made.</source>
+        <translation>
+            <numerusform>%n categoría nueva.</numerusform>
+            <numerusform>%n categorías nuevas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task cannot be read and stays out.</source>
+        <translation>1 tarea no se puede leer y se omite.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks cannot be read and stay out.</source>
+        <translation>
+            <numerusform>%n tarea no se puede leer y se omite.</numerusform>
+            <numerusform>%n tareas no se pueden leer y se omiten.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 entry is no task and stays out.</source>
+        <translation>1 entrada no es una tarea y se omite.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries are no tasks and stay out.</source>
+        <translation>
+            <numerusform>%n entrada no es una tarea y se omite.</numerusform>
+            <numerusform>%n entradas no son tareas y se omiten.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 reminder is past and comes in as dismissed.</source>
+        <translation>1 recordatorio ya ha pasado y se importa como descartado.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n reminders are past and come in as dismissed.</source>
+        <translation>
+            <numerusform>%n recordatorio ya ha pasado y se importa como descartado.</numerusform>
+            <numerusform>%n recordatorios ya han pasado y se importan como descartados.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task repeats and comes in once.</source>
+        <translation>1 tarea se repite y se importa una sola vez.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks repeat and come in once.</source>
+        <translation>
+            <numerusform>%n tarea se repite y se importa una sola vez.</numerusform>
+            <numerusform>%n tareas se repiten y se importan una sola vez.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task has no due date and is due today.</source>
+        <translation>1 tarea no tiene vencimiento y vence hoy.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks have no due date and are due today.</source>
+        <translation>
+            <numerusform>%n tarea no tiene vencimiento y vence hoy.</numerusform>
+            <numerusform>%n tareas no tienen vencimiento y vencen hoy.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 further reminder is kept, but does not remind.</source>
+        <translation>1 recordatorio adicional se conserva, pero no avisa.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further reminders are kept, but do not remind.</source>
+        <translation>
+            <numerusform>%n recordatorio adicional se conserva, pero no avisa.</numerusform>
+            <numerusform>%n recordatorios adicionales se conservan, pero no avisan.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task is in an unknown time zone and is taken as local time.</source>
+        <translation>1 tarea está en una zona horaria desconocida y se toma como hora local.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks are in unknown time zones and are taken as local time.</source>
+        <translation>
+            <numerusform>%n tarea está en una zona horaria desconocida y se toma como hora local.</numerusform>
+            <numerusform>%n tareas están en zonas horarias desconocidas y se toman como hora local.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Tasks cannot be exported or imported: the module &quot;ambertask_exchange&quot; is missing from the program&apos;s folder or damaged.</source>
+        <translation>No se pueden exportar ni importar tareas: el módulo «ambertask_exchange» falta en la carpeta del programa o está dañado.</translation>
+    </message>
+    <message>
+        <source>Imported</source>
+        <translation>Importadas</translation>
+    </message>
+    <message>
+        <source>A task before it has the same UID.</source>
+        <translation>Una tarea anterior tiene el mismo UID.</translation>
+    </message>
+    <message>
+        <source>The file holds more than %1 tasks that are new. Nothing was stored.</source>
+        <translation>El archivo contiene más de %1 tareas nuevas. No se guardó nada.</translation>
+    </message>
+    <message>
+        <source>The file is too large. Nothing was stored.</source>
+        <translation>El archivo es demasiado grande. No se guardó nada.</translation>
+    </message>
+    <message>
+        <source>The file holds %1 tasks that are new, and there is room for %2. Nothing was stored. Delete tasks that you no longer need, then end Ambertask and start it again.</source>
+        <translation>El archivo contiene %1 tareas nuevas y solo hay espacio para %2. No se guardó nada. Elimine las tareas que ya no necesite, salga de Ambertask y vuelva a iniciarlo.</translation>
+    </message>
+    <message>
+        <source>The tasks could not be written: %1.</source>
+        <translation>No se pudieron escribir las tareas: %1.</translation>
+    </message>
+    <message>
+        <source>Its due date cannot be read: %1</source>
+        <translation>No se puede leer su vencimiento: %1</translation>
+    </message>
+</context>
+<context>
     <name>FileDialogs</name>
     <message>
         <source>Folder</source>
@@ -370,10 +1025,156 @@
     </message>
 </context>
 <context>
+    <name>FileExchange</name>
+    <message>
+        <source>iCalendar Files (*.ics)|*.ics</source>
+        <translation>Archivos iCalendar (*.ics)|*.ics</translation>
+    </message>
+    <message>
+        <source>CSV Files (*.csv)|*.csv</source>
+        <translation>Archivos CSV (*.csv)|*.csv</translation>
+    </message>
+    <message>
+        <source>the name of the file ends neither with .ics nor with .csv</source>
+        <translation>el nombre del archivo no termina ni en .ics ni en .csv</translation>
+    </message>
+    <message>
+        <source>1 task was exported to &quot;%1&quot;</source>
+        <translation>1 tarea exportada a «%1»</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks were exported to &quot;%1&quot;</source>
+        <translation>
+            <numerusform>%n tarea exportada a «%1»</numerusform>
+            <numerusform>%n tareas exportadas a «%1»</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task was added</source>
+        <translation>1 tarea añadida</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks were added</source>
+        <translation>
+            <numerusform>%n tarea añadida</numerusform>
+            <numerusform>%n tareas añadidas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task was changed</source>
+        <translation>1 tarea cambiada</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks were changed</source>
+        <translation>
+            <numerusform>%n tarea cambiada</numerusform>
+            <numerusform>%n tareas cambiadas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>iCalendar and CSV Files (*.ics;*.csv)|*.ics;*.csv</source>
+        <translation>Archivos iCalendar y CSV (*.ics;*.csv)|*.ics;*.csv</translation>
+    </message>
+    <message>
+        <source>Exporting the tasks...</source>
+        <translation>Exportando las tareas…</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>Tareas</translation>
+    </message>
+    <message>
+        <source>Nothing was exported: %1</source>
+        <translation>No se ha exportado nada: %1</translation>
+    </message>
+    <message>
+        <source>Reading the file...</source>
+        <translation>Leyendo el archivo…</translation>
+    </message>
+    <message>
+        <source>Nothing was imported: %1</source>
+        <translation>No se ha importado nada: %1</translation>
+    </message>
+    <message>
+        <source>Importing the tasks...</source>
+        <translation>Importando las tareas…</translation>
+    </message>
+    <message>
+        <source>Nothing was imported.
+%1</source>
+        <translation>No se ha importado nada.
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>FilterFold</name>
+    <message>
+        <source>Unfold the filters</source>
+        <translation>Desplegar los filtros</translation>
+    </message>
+    <message>
+        <source>Fold the filters away</source>
+        <translation>Plegar los filtros</translation>
+    </message>
+</context>
+<context>
+    <name>FindField</name>
+    <message>
+        <source>Find tasks</source>
+        <translation>Buscar tareas</translation>
+    </message>
+</context>
+<context>
+    <name>GridView</name>
+    <message>
+        <source>Sorts the list</source>
+        <translation>Ordena la lista</translation>
+    </message>
+    <message>
+        <source>Sorted in ascending order</source>
+        <translation>En orden ascendente</translation>
+    </message>
+    <message>
+        <source>Sorted in descending order</source>
+        <translation>En orden descendente</translation>
+    </message>
+</context>
+<context>
     <name>HTMLHelpViewer</name>
     <message>
         <source>The help window is missing from this installation.</source>
         <translation>Falta la ventana de ayuda en esta instalación.</translation>
+    </message>
+</context>
+<context>
+    <name>ImportListModel</name>
+    <message>
+        <source>New</source>
+        <translation>Nueva</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Cambiada</translation>
+    </message>
+    <message>
+        <source>Same</source>
+        <translation>Igual</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importación</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Due Date</source>
+        <translation>Vencimiento</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Categoría</translation>
     </message>
 </context>
 <context>
@@ -389,6 +1190,17 @@
     <message>
         <source>&amp;Keyword</source>
         <translation>Palabra cla&amp;ve</translation>
+    </message>
+</context>
+<context>
+    <name>KeptCopies</name>
+    <message>
+        <source>it is not a folder</source>
+        <translation>no es una carpeta</translation>
+    </message>
+    <message>
+        <source>the disk is nearly full</source>
+        <translation>el disco está casi lleno</translation>
     </message>
 </context>
 <context>
@@ -451,7 +1263,7 @@
     </message>
     <message>
         <source>&amp;Category</source>
-        <translation>&amp;Categoría</translation>
+        <translation>Cate&amp;goría</translation>
     </message>
     <message>
         <source>&amp;Status</source>
@@ -553,6 +1365,34 @@
     <message>
         <source>Nothing was restored: %1</source>
         <translation>No se ha restaurado nada: %1</translation>
+    </message>
+    <message>
+        <source>Restore from a c&amp;opy...</source>
+        <translation>Restaurar &amp;desde una copia…</translation>
+    </message>
+    <message>
+        <source>Shows the copies of your data that the program has made by itself</source>
+        <translation>Muestra las copias de sus datos que el programa ha creado automáticamente</translation>
+    </message>
+    <message>
+        <source>Exchange with other programs</source>
+        <translation>Intercambio con otros programas</translation>
+    </message>
+    <message>
+        <source>E&amp;xport...</source>
+        <translation>E&amp;xportar…</translation>
+    </message>
+    <message>
+        <source>Saves all tasks as iCalendar or CSV, for other programs</source>
+        <translation>Guarda todas las tareas como iCalendar o CSV, para otros programas</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>&amp;Importar…</translation>
+    </message>
+    <message>
+        <source>Adds the tasks of an iCalendar or CSV file; shows first what would happen</source>
+        <translation>Añade las tareas de un archivo iCalendar o CSV; antes muestra lo que ocurriría</translation>
     </message>
 </context>
 <context>
@@ -741,6 +1581,14 @@
         <source>Preparing the report...</source>
         <translation>Preparando el informe…</translation>
     </message>
+    <message>
+        <source>&amp;Save as...</source>
+        <translation>G&amp;uardar como…</translation>
+    </message>
+    <message>
+        <source>Saves the tasks of the report as iCalendar or CSV, for other programs</source>
+        <translation>Guarda las tareas del informe como iCalendar o CSV, para otros programas</translation>
+    </message>
 </context>
 <context>
     <name>Printing</name>
@@ -758,6 +1606,14 @@
     <message>
         <source>The task &quot;%1&quot; was added; the filters do not show it</source>
         <translation>Se ha añadido la tarea «%1»; los filtros no la muestran</translation>
+    </message>
+    <message>
+        <source>The task &quot;%1&quot; was added; the search does not show it</source>
+        <translation>Se ha añadido la tarea «%1»; la búsqueda no la muestra</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>Tareas</translation>
     </message>
 </context>
 <context>
@@ -941,6 +1797,10 @@
     <message>
         <source>a rule in its table &quot;%1&quot; could remove records</source>
         <translation>una regla de su tabla «%1» podría eliminar registros</translation>
+    </message>
+    <message>
+        <source>It has been changed since.</source>
+        <translation>Se ha modificado desde entonces.</translation>
     </message>
 </context>
 <context>
@@ -1153,6 +2013,209 @@
     </message>
 </context>
 <context>
+    <name>TaskActions</name>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Editar</translation>
+    </message>
+    <message>
+        <source>&amp;Complete</source>
+        <translation>&amp;Completar</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>Des&amp;hacer</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rehacer</translation>
+    </message>
+    <message>
+        <source>&amp;Postpone</source>
+        <translation>&amp;Posponer</translation>
+    </message>
+    <message>
+        <source>Dup&amp;licate</source>
+        <translation>&amp;Duplicar</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>C&amp;opiar</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>E&amp;liminar</translation>
+    </message>
+    <message>
+        <source>&amp;Status</source>
+        <translation>E&amp;stado</translation>
+    </message>
+    <message>
+        <source>Pr&amp;iority</source>
+        <translation>Pr&amp;ioridad</translation>
+    </message>
+    <message>
+        <source>Categor&amp;y</source>
+        <translation>Cate&amp;goría</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: %1</source>
+        <translation>Des&amp;hacer: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo: %1</source>
+        <translation>&amp;Rehacer: %1</translation>
+    </message>
+</context>
+<context>
+    <name>TaskChoices</name>
+    <message>
+        <source>Set Ba&amp;ck to &quot;Not Started&quot;</source>
+        <translation>Volver a «No ini&amp;ciada»</translation>
+    </message>
+    <message>
+        <source>&amp;Complete</source>
+        <translation>&amp;Completar</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete this task?</source>
+        <translation>¿Seguro que desea eliminar esta tarea?</translation>
+    </message>
+    <message numerus="yes">
+        <source>Are you sure you want to delete %n tasks?</source>
+        <translation>
+            <numerusform>¿Seguro que desea eliminar %n tarea?</numerusform>
+            <numerusform>¿Seguro que desea eliminar %n tareas?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Not Started</source>
+        <translation>&amp;No iniciada</translation>
+    </message>
+    <message>
+        <source>In &amp;Progress</source>
+        <translation>&amp;En curso</translation>
+    </message>
+    <message>
+        <source>&amp;Completed</source>
+        <translation>&amp;Completada</translation>
+    </message>
+    <message>
+        <source>&amp;Waiting on someone else</source>
+        <translation>&amp;A la espera de otra persona</translation>
+    </message>
+    <message>
+        <source>&amp;Deferred</source>
+        <translation>A&amp;plazada</translation>
+    </message>
+    <message>
+        <source>&amp;High</source>
+        <translation>&amp;Alta</translation>
+    </message>
+    <message>
+        <source>&amp;Normal</source>
+        <translation>&amp;Normal</translation>
+    </message>
+    <message>
+        <source>&amp;Low</source>
+        <translation>&amp;Baja</translation>
+    </message>
+</context>
+<context>
+    <name>TaskFilters</name>
+    <message>
+        <source>A&amp;ll</source>
+        <translation>&amp;Todas</translation>
+    </message>
+    <message>
+        <source>Spec&amp;ific</source>
+        <translation>&amp;Período</translation>
+    </message>
+    <message>
+        <source>All tas&amp;ks</source>
+        <translation>T&amp;odas las tareas</translation>
+    </message>
+    <message>
+        <source>Acti&amp;ve tasks only</source>
+        <translation>Solo tareas &amp;activas</translation>
+    </message>
+    <message>
+        <source>E&amp;xpired tasks only</source>
+        <translation>Solo tareas &amp;vencidas</translation>
+    </message>
+    <message>
+        <source>&amp;From</source>
+        <translation>De&amp;sde</translation>
+    </message>
+    <message>
+        <source>&amp;To</source>
+        <translation>&amp;Hasta</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Mostrar</translation>
+    </message>
+    <message>
+        <source>Categor&amp;y</source>
+        <translation>Cate&amp;goría</translation>
+    </message>
+    <message>
+        <source>Stat&amp;us</source>
+        <translation>Esta&amp;do</translation>
+    </message>
+    <message>
+        <source>S&amp;ort by</source>
+        <translation>Orde&amp;nar por</translation>
+    </message>
+    <message>
+        <source>Due date</source>
+        <translation>Vencimiento</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>The same order chosen again is turned round</source>
+        <translation>El mismo orden, elegido otra vez, se invierte</translation>
+    </message>
+    <message>
+        <source>Category: %1</source>
+        <translation>Categoría: %1</translation>
+    </message>
+    <message>
+        <source>Status: %1</source>
+        <translation>Estado: %1</translation>
+    </message>
+    <message>
+        <source>Due from %1 to %2</source>
+        <translation>Vencen del %1 al %2</translation>
+    </message>
+    <message>
+        <source>Active tasks only</source>
+        <translation>Solo tareas activas</translation>
+    </message>
+    <message>
+        <source>Expired tasks only</source>
+        <translation>Solo tareas vencidas</translation>
+    </message>
+    <message>
+        <source>No filter leaves a task out</source>
+        <translation>Ningún filtro oculta tareas</translation>
+    </message>
+</context>
+<context>
+    <name>TaskGridModel</name>
+    <message>
+        <source>Overdue</source>
+        <translation>Vencida</translation>
+    </message>
+    <message>
+        <source>Due today</source>
+        <translation>Vence hoy</translation>
+    </message>
+</context>
+<context>
     <name>TaskInput</name>
     <message>
         <source>Reminder date and time should not be earlier than current system date and time</source>
@@ -1223,62 +2286,64 @@
     </message>
 </context>
 <context>
+    <name>TaskMoments</name>
+    <message>
+        <source>1 &amp;day before</source>
+        <translation>1 &amp;día antes</translation>
+    </message>
+    <message>
+        <source>&amp;At the due moment</source>
+        <translation>&amp;Al vencer</translation>
+    </message>
+    <message>
+        <source>&amp;5 minutes before</source>
+        <translation>&amp;5 minutos antes</translation>
+    </message>
+    <message>
+        <source>&amp;15 minutes before</source>
+        <translation>&amp;15 minutos antes</translation>
+    </message>
+    <message>
+        <source>&amp;30 minutes before</source>
+        <translation>&amp;30 minutos antes</translation>
+    </message>
+    <message>
+        <source>1 &amp;hour before</source>
+        <translation>1 &amp;hora antes</translation>
+    </message>
+    <message>
+        <source>To&amp;day, %1</source>
+        <translation>&amp;Hoy, %1</translation>
+    </message>
+    <message>
+        <source>&amp;Tomorrow, %1</source>
+        <translation>&amp;Mañana, %1</translation>
+    </message>
+    <message>
+        <source>Next &amp;Monday, %1</source>
+        <translation>El próximo &amp;lunes, %1</translation>
+    </message>
+</context>
+<context>
+    <name>TaskStoring</name>
+    <message>
+        <source>Nothing was stored: there is no number left for a new category.</source>
+        <translation>No se guardó nada: no queda ningún número para una categoría nueva.</translation>
+    </message>
+    <message>
+        <source>Nothing was stored: there is no room for so many tasks.</source>
+        <translation>No se guardó nada: no hay espacio para tantas tareas.</translation>
+    </message>
+    <message>
+        <source>Nothing was stored: the task &quot;%1&quot; has been deleted meanwhile. Choose the file again.</source>
+        <translation>No se guardó nada: entretanto se ha eliminado la tarea «%1». Vuelva a elegir el archivo.</translation>
+    </message>
+</context>
+<context>
     <name>TasksPage</name>
-    <message>
-        <source>A&amp;ll</source>
-        <translation>&amp;Todas</translation>
-    </message>
-    <message>
-        <source>Spec&amp;ific</source>
-        <translation>&amp;Período</translation>
-    </message>
-    <message>
-        <source>All tas&amp;ks</source>
-        <translation>T&amp;odas las tareas</translation>
-    </message>
-    <message>
-        <source>Acti&amp;ve tasks only</source>
-        <translation>Solo tareas &amp;activas</translation>
-    </message>
-    <message>
-        <source>E&amp;xpired tasks only</source>
-        <translation>Solo tareas &amp;vencidas</translation>
-    </message>
     <message>
         <source>Tasks</source>
         <translation>Tareas</translation>
-    </message>
-    <message>
-        <source>&amp;From</source>
-        <translation>De&amp;sde</translation>
-    </message>
-    <message>
-        <source>&amp;To</source>
-        <translation>&amp;Hasta</translation>
-    </message>
-    <message>
-        <source>Show</source>
-        <translation>Mostrar</translation>
-    </message>
-    <message>
-        <source>Categor&amp;y</source>
-        <translation>&amp;Categoría</translation>
-    </message>
-    <message>
-        <source>Stat&amp;us</source>
-        <translation>Esta&amp;do</translation>
-    </message>
-    <message>
-        <source>S&amp;ort by</source>
-        <translation>O&amp;rdenar por</translation>
-    </message>
-    <message>
-        <source>Due date</source>
-        <translation>Vencimiento</translation>
-    </message>
-    <message>
-        <source>Kind</source>
-        <translation>Tipo</translation>
     </message>
     <message>
         <source>&amp;Add</source>
@@ -1304,10 +2369,6 @@
         <source>Please enter categories in the categories section first.</source>
         <translation>Primero cree categorías en la página «Categorías».</translation>
     </message>
-    <message>
-        <source>Are you sure you want to delete this task?</source>
-        <translation>¿Seguro que desea eliminar esta tarea?</translation>
-    </message>
 </context>
 <context>
     <name>TopicView</name>
@@ -1318,6 +2379,64 @@
     <message>
         <source>The help file has no readable page &quot;%1&quot;.</source>
         <translation>El archivo de ayuda no contiene la página «%1» o no se puede leer.</translation>
+    </message>
+</context>
+<context>
+    <name>TrayNews</name>
+    <message numerus="yes">
+        <source>%n due</source>
+        <comment>reminders</comment>
+        <translation>
+            <numerusform>%n pendiente</numerusform>
+            <numerusform>%n pendientes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n overdue</source>
+        <comment>tasks</comment>
+        <translation>
+            <numerusform>%n vencida</numerusform>
+            <numerusform>%n vencidas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>2 due, 3 overdue</comment>
+        <translation>%1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>UnchangedFile</name>
+    <message>
+        <source>another program is using it</source>
+        <translation>otro programa lo está usando</translation>
+    </message>
+</context>
+<context>
+    <name>UndoBar</name>
+    <message>
+        <source>U&amp;ndo</source>
+        <translation>Desha&amp;cer</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rehacer</translation>
+    </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Deshecho: %1</translation>
+    </message>
+    <message>
+        <source>Not undone: %1</source>
+        <translation>No se ha deshecho: %1</translation>
+    </message>
+    <message>
+        <source>Not done again: %1</source>
+        <translation>No se ha rehecho: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>Oc&amp;ultar</translation>
     </message>
 </context>
 <context>
@@ -1364,6 +2483,13 @@
     <message>
         <source>To store them anew, press &quot;Save Settings&quot; on the page Settings.</source>
         <translation>Para guardarlos de nuevo, pulse «Guardar configuración» en la página Configuración.</translation>
+    </message>
+</context>
+<context>
+    <name>UnusableCopy</name>
+    <message>
+        <source>The file is damaged.</source>
+        <translation>El archivo está dañado.</translation>
     </message>
 </context>
 <context>
@@ -1487,6 +2613,12 @@
     <message>
         <source>The report cannot be shown: the module &quot;ambertask_report&quot; is missing from the program&apos;s folder or damaged.</source>
         <translation>No se puede mostrar el informe: el módulo «ambertask_report» falta en la carpeta del programa o está dañado.</translation>
+    </message>
+    <message>
+        <source>The tasks could not be saved.
+%1</source>
+        <translation>No se pudieron guardar las tareas.
+%1</translation>
     </message>
 </context>
 <context>
@@ -1666,7 +2798,7 @@
     </message>
     <message>
         <source>&amp;Category</source>
-        <translation>&amp;Categoría</translation>
+        <translation>Cate&amp;goría</translation>
     </message>
     <message>
         <source>Category Details</source>
@@ -1691,6 +2823,108 @@
     <message>
         <source>Please browse for a custom icon</source>
         <translation>Seleccione un icono personalizado</translation>
+    </message>
+</context>
+<context>
+    <name>frmCopies</name>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Restaurar</translation>
+    </message>
+    <message>
+        <source>Restore from a Copy</source>
+        <translation>Restaurar desde una copia</translation>
+    </message>
+    <message>
+        <source>Copies of your data</source>
+        <translation>Copias de sus datos</translation>
+    </message>
+    <message>
+        <source>No copy has been made yet. The first one is made before the next change.</source>
+        <translation>Aún no se ha creado ninguna copia. La primera se crea antes del próximo cambio.</translation>
+    </message>
+    <message>
+        <source>Puts the selected copy in the place of your data, which is kept as another copy</source>
+        <translation>Sustituye sus datos por la copia seleccionada; los actuales se conservan como otra copia</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message>
+        <source>Closes this list and changes nothing</source>
+        <translation>Cierra esta lista sin cambiar nada</translation>
+    </message>
+    <message>
+        <source>Co&amp;pies of your data that the program has made by itself</source>
+        <translation>Co&amp;pias de sus datos que el programa ha creado automáticamente</translation>
+    </message>
+    <message>
+        <source>The copies could not be compared: %1</source>
+        <translation>No se pudieron comparar las copias: %1</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to restore the copy of %1? Your data as it is now is kept as another copy.</source>
+        <translation>¿Seguro que desea restaurar la copia del %1? Sus datos actuales se conservan como otra copia.</translation>
+    </message>
+</context>
+<context>
+    <name>frmImport</name>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Línea %1: %2</translation>
+    </message>
+    <message>
+        <source>Line %1, &quot;%2&quot;: %3</source>
+        <translation>Línea %1, «%2»: %3</translation>
+    </message>
+    <message>
+        <source>New categories: %1</source>
+        <translation>Categorías nuevas: %1</translation>
+    </message>
+    <message>
+        <source>And more that cannot be read.</source>
+        <translation>Y otras que no se pueden leer.</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importar</translation>
+    </message>
+    <message>
+        <source>Ca&amp;ncel</source>
+        <translation>Cance&amp;lar</translation>
+    </message>
+    <message>
+        <source>Import Tasks</source>
+        <translation>Importar tareas</translation>
+    </message>
+    <message>
+        <source>Tasks to import</source>
+        <translation>Tareas que se importan</translation>
+    </message>
+    <message>
+        <source>Programs to start with the reminder</source>
+        <translation>Programas que se inician con el recordatorio</translation>
+    </message>
+    <message>
+        <source>&amp;Programs to start with the reminder; tick those that you trust</source>
+        <translation>&amp;Programas que se inician con el recordatorio; marque los que sean de confianza</translation>
+    </message>
+    <message>
+        <source>&amp;Summary</source>
+        <translation>&amp;Resumen</translation>
+    </message>
+    <message>
+        <source>&amp;Tasks</source>
+        <translation>&amp;Tareas</translation>
+    </message>
+    <message>
+        <source>From &quot;%1&quot;</source>
+        <translation>De «%1»</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
@@ -1917,6 +3151,22 @@
     <message>
         <source>Pro&amp;gram:</source>
         <translation>Pro&amp;grama:</translation>
+    </message>
+    <message>
+        <source>Set to</source>
+        <translation>Establecer en</translation>
+    </message>
+    <message>
+        <source>Set the due moment to</source>
+        <translation>Establecer el vencimiento en</translation>
+    </message>
+    <message>
+        <source>Set the reminder to</source>
+        <translation>Establecer el recordatorio en</translation>
+    </message>
+    <message>
+        <source>Switches the reminder on; it follows the due moment until it is changed</source>
+        <translation>Activa el recordatorio, que sigue al vencimiento hasta que se cambie</translation>
     </message>
 </context>
 <context>

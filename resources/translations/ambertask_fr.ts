@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>AlertActions</name>
+    <message>
+        <source>&amp;Complete</source>
+        <translation>&amp;Terminer</translation>
+    </message>
+    <message>
+        <source>&amp;Open Item</source>
+        <translation>&amp;Ouvrir la tâche</translation>
+    </message>
+    <message>
+        <source>&amp;Remind me later</source>
+        <translation>Me le &amp;rappeler plus tard</translation>
+    </message>
+    <message>
+        <source>&amp;Dismiss</source>
+        <translation>&amp;Ignorer</translation>
+    </message>
+</context>
+<context>
     <name>AlertListModel</name>
     <message>
         <source>id</source>
@@ -73,6 +92,14 @@
         <source>Are you sure you want to delete &apos;%1&apos; category, all tasks under this category will be deleted?</source>
         <translation>Voulez-vous vraiment supprimer la catégorie «&#xa0;%1&#xa0;»&#x202f;? Toutes ses tâches seront également supprimées.</translation>
     </message>
+    <message>
+        <source>Category &quot;%1&quot; deleted with its tasks</source>
+        <translation>Catégorie «&#xa0;%1&#xa0;» supprimée avec ses tâches</translation>
+    </message>
+    <message>
+        <source>There are no categories yet</source>
+        <translation>Il n’y a pas encore de catégories</translation>
+    </message>
 </context>
 <context>
     <name>CategoryInput</name>
@@ -137,6 +164,127 @@
     </message>
 </context>
 <context>
+    <name>ChangeTexts</name>
+    <message>
+        <source>1 task deleted</source>
+        <translation>1 tâche supprimée</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks deleted</source>
+        <translation>
+            <numerusform>%n tâche supprimée</numerusform>
+            <numerusform>%n tâches supprimées</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task duplicated</source>
+        <translation>1 tâche dupliquée</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks duplicated</source>
+        <translation>
+            <numerusform>%n tâche dupliquée</numerusform>
+            <numerusform>%n tâches dupliquées</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task completed</source>
+        <translation>1 tâche terminée</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks completed</source>
+        <translation>
+            <numerusform>%n tâche terminée</numerusform>
+            <numerusform>%n tâches terminées</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task set back to &quot;Not Started&quot;</source>
+        <translation>1 tâche remise à «&#x202f;Non commencée&#x202f;»</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks set back to &quot;Not Started&quot;</source>
+        <translation>
+            <numerusform>%n tâche remise à «&#x202f;Non commencée&#x202f;»</numerusform>
+            <numerusform>%n tâches remises à «&#x202f;Non commencée&#x202f;»</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Status of 1 task changed</source>
+        <translation>État de 1 tâche modifié</translation>
+    </message>
+    <message numerus="yes">
+        <source>Status of %n tasks changed</source>
+        <translation>
+            <numerusform>État de %n tâche modifié</numerusform>
+            <numerusform>État de %n tâches modifié</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Priority of 1 task changed</source>
+        <translation>Priorité de 1 tâche modifiée</translation>
+    </message>
+    <message numerus="yes">
+        <source>Priority of %n tasks changed</source>
+        <translation>
+            <numerusform>Priorité de %n tâche modifiée</numerusform>
+            <numerusform>Priorité de %n tâches modifiée</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Category of 1 task changed</source>
+        <translation>Catégorie de 1 tâche modifiée</translation>
+    </message>
+    <message numerus="yes">
+        <source>Category of %n tasks changed</source>
+        <translation>
+            <numerusform>Catégorie de %n tâche modifiée</numerusform>
+            <numerusform>Catégorie de %n tâches modifiée</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 reminder dismissed</source>
+        <translation>1 rappel ignoré</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n reminders dismissed</source>
+        <translation>
+            <numerusform>%n rappel ignoré</numerusform>
+            <numerusform>%n rappels ignorés</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 reminder postponed</source>
+        <translation>1 rappel reporté</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n reminders postponed</source>
+        <translation>
+            <numerusform>%n rappel reporté</numerusform>
+            <numerusform>%n rappels reportés</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task imported</source>
+        <translation>1 tâche importée</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks imported</source>
+        <translation>
+            <numerusform>%n tâche importée</numerusform>
+            <numerusform>%n tâches importées</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No copy was kept: %1</source>
+        <translation>Aucune copie n’a été conservée&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <translation>%1. %2</translation>
+    </message>
+</context>
+<context>
     <name>ClsTask</name>
     <message>
         <source>The statement is unfinished: %1</source>
@@ -145,6 +293,187 @@
     <message>
         <source>The task was not stored: there is no number left for a new one. Delete tasks that you no longer need, then end Ambertask and start it again.</source>
         <translation>La tâche n’a pas été enregistrée&#xa0;: il ne reste aucun numéro pour une nouvelle tâche. Supprimez les tâches dont vous n’avez plus besoin, puis quittez Ambertask et relancez-le.</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>There is no option &quot;%1&quot;.</source>
+        <translation>L’option «&#xa0;%1&#xa0;» n’existe pas.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; needs a value.</source>
+        <translation>L’option «&#xa0;%1&#xa0;» exige une valeur.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; takes no value.</source>
+        <translation>L’option «&#xa0;%1&#xa0;» n’accepte pas de valeur.</translation>
+    </message>
+    <message>
+        <source>There is no format &quot;%1&quot;; the formats are &quot;ics&quot; and &quot;csv&quot;.</source>
+        <translation>Le format «&#xa0;%1&#xa0;» n’existe pas&#xa0;; les formats sont «&#xa0;ics&#xa0;» et «&#xa0;csv&#xa0;».</translation>
+    </message>
+    <message>
+        <source>With &quot;-&quot; the format has to be said, by &quot;--format ics&quot; or &quot;--format csv&quot;.</source>
+        <translation>Avec «&#xa0;-&#xa0;», le format doit être indiqué par «&#xa0;--format ics&#xa0;» ou «&#xa0;--format csv&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; ends neither in &quot;.ics&quot; nor in &quot;.csv&quot;; say the format by &quot;--format ics&quot; or &quot;--format csv&quot;.</source>
+        <translation>Le nom «&#xa0;%1&#xa0;» ne se termine ni par «&#xa0;.ics&#xa0;» ni par «&#xa0;.csv&#xa0;»&#xa0;; indiquez le format par «&#xa0;--format ics&#xa0;» ou «&#xa0;--format csv&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; goes with &quot;%2&quot; only.</source>
+        <translation>L’option «&#xa0;%1&#xa0;» ne s’emploie qu’avec «&#xa0;%2&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The options &quot;%1&quot; and &quot;%2&quot; do not go together.</source>
+        <translation>Les options «&#xa0;%1&#xa0;» et «&#xa0;%2&#xa0;» sont incompatibles.</translation>
+    </message>
+    <message>
+        <source>The word &quot;%1&quot; is one too many.</source>
+        <translation>Le mot «&#xa0;%1&#xa0;» est en trop.</translation>
+    </message>
+    <message>
+        <source>Ambertask --export FILE [--format ics|csv]</source>
+        <translation>Ambertask --export FICHIER [--format ics|csv]</translation>
+    </message>
+    <message>
+        <source>Ambertask --import FILE [--format ics|csv] [--yes] [--with-programs]</source>
+        <translation>Ambertask --import FICHIER [--format ics|csv] [--yes] [--with-programs]</translation>
+    </message>
+    <message>
+        <source>Without an option the organizer starts with its window. With one of these it does what it is told and ends, without a window, also while a copy runs:</source>
+        <translation>Sans option, Ambertask démarre avec sa fenêtre. Avec l’une des options suivantes, il exécute la commande sans fenêtre puis se termine, même si Ambertask est déjà en cours d’exécution&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Writes all tasks, each on a line, with tabs between the fields, which the first line names. In texts \t stands for a tab, \n for a line break and \\ for \.</source>
+        <translation>Écrit toutes les tâches, une par ligne, avec des tabulations entre les champs, que la première ligne nomme. Dans les textes, \t représente une tabulation, \n un saut de ligne et \\ le caractère \.</translation>
+    </message>
+    <message>
+        <source>Writes all tasks as an array of JSON objects.</source>
+        <translation>Écrit toutes les tâches sous forme de tableau d’objets JSON.</translation>
+    </message>
+    <message>
+        <source>--export FILE</source>
+        <translation>--export FICHIER</translation>
+    </message>
+    <message>
+        <source>Writes all tasks to FILE, as iCalendar (.ics) or CSV (.csv).</source>
+        <translation>Écrit toutes les tâches dans FICHIER, au format iCalendar (.ics) ou CSV (.csv).</translation>
+    </message>
+    <message>
+        <source>--import FILE</source>
+        <translation>--import FICHIER</translation>
+    </message>
+    <message>
+        <source>Says what an import of FILE would do and imports nothing; the status is 1.</source>
+        <translation>Indique ce que ferait l’importation de FICHIER, sans rien importer&#xa0;; le code de retour est 1.</translation>
+    </message>
+    <message>
+        <source>--import FILE --yes</source>
+        <translation>--import FICHIER --yes</translation>
+    </message>
+    <message>
+        <source>Imports FILE, without the programs that its tasks would start; it names them.</source>
+        <translation>Importe FICHIER sans les programmes que ses tâches lanceraient, et indique lesquels.</translation>
+    </message>
+    <message>
+        <source>--import FILE --yes --with-programs</source>
+        <translation>--import FICHIER --yes --with-programs</translation>
+    </message>
+    <message>
+        <source>Imports these programs as well.</source>
+        <translation>Importe aussi ces programmes.</translation>
+    </message>
+    <message>
+        <source>The format of FILE, where its name does not tell. FILE can be &quot;-&quot; then, for standard output or standard input.</source>
+        <translation>Le format de FICHIER, si son nom ne l’indique pas. FICHIER peut alors être «&#xa0;-&#xa0;», pour la sortie standard ou l’entrée standard.</translation>
+    </message>
+    <message>
+        <source>Writes this text.</source>
+        <translation>Affiche ce texte.</translation>
+    </message>
+    <message>
+        <source>Writes the version.</source>
+        <translation>Affiche la version.</translation>
+    </message>
+    <message>
+        <source>The status is 0, 1 when something has failed, and 2 when the command line is wrong.</source>
+        <translation>Le code de retour est 0, 1 en cas d’échec et 2 si la ligne de commande est incorrecte.</translation>
+    </message>
+    <message>
+        <source>--format ics|csv</source>
+        <translation>--format ics|csv</translation>
+    </message>
+</context>
+<context>
+    <name>CommandRun</name>
+    <message>
+        <source>1 record cannot be read and is left out. %1</source>
+        <translation>1 enregistrement ne peut pas être lu et est omis. %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n records cannot be read and are left out. The first: %1</source>
+        <translation>
+            <numerusform>%n enregistrement ne peut pas être lu et est omis. Le premier&#xa0;: %1</numerusform>
+            <numerusform>%n enregistrements ne peuvent pas être lus et sont omis. Le premier&#xa0;: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The output could not be written: %1.</source>
+        <translation>La sortie n’a pas pu être écrite&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>See &quot;Ambertask --help&quot;.</source>
+        <translation>Voir «&#xa0;Ambertask --help&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Nothing was imported; the option &quot;--yes&quot; imports it.</source>
+        <translation>Rien n’a été importé&#xa0;; l’option «&#xa0;--yes&#xa0;» lance l’importation.</translation>
+    </message>
+    <message>
+        <source>There is nothing to import.</source>
+        <translation>Il n’y a rien à importer.</translation>
+    </message>
+    <message>
+        <source>Imported.</source>
+        <translation>Importation terminée.</translation>
+    </message>
+    <message>
+        <source>What cannot be read in the file was left out.</source>
+        <translation>Ce qui ne peut pas être lu dans le fichier a été omis.</translation>
+    </message>
+    <message>
+        <source>New: %1</source>
+        <translation>Nouvelle tâche&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Changed: %1</source>
+        <translation>Tâche modifiée&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>New category: %1</source>
+        <translation>Nouvelle catégorie&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Starts a program, &quot;%1&quot;: %2</source>
+        <translation>Lance un programme, «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Left out, a program that &quot;%1&quot; would start: %2</source>
+        <translation>Omis, un programme que «&#xa0;%1&#xa0;» lancerait&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Not readable, line %1: %2</source>
+        <translation>Illisible, ligne %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Not readable, line %1, &quot;%2&quot;: %3</source>
+        <translation>Illisible, ligne %1, «&#xa0;%2&#xa0;»&#xa0;: %3</translation>
+    </message>
+    <message>
+        <source>There are no tasks yet: the program folder &quot;%1&quot; does not exist. The first start makes it, and so does an import.</source>
+        <translation>Il n’y a pas encore de tâches&#xa0;: le dossier du programme «&#xa0;%1&#xa0;» n’existe pas. Il est créé au premier démarrage ou par une importation.</translation>
     </message>
 </context>
 <context>
@@ -257,6 +586,90 @@
     </message>
 </context>
 <context>
+    <name>CopyListModel</name>
+    <message>
+        <source>First change of the day</source>
+        <translation>Première modification du jour</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Restauration</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importation</translation>
+    </message>
+    <message>
+        <source>Deletion of tasks</source>
+        <translation>Suppression de tâches</translation>
+    </message>
+    <message>
+        <source>Upgrade</source>
+        <translation>Mise à niveau</translation>
+    </message>
+    <message>
+        <source>1 task added</source>
+        <translation>1 tâche ajoutée</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks added</source>
+        <translation>
+            <numerusform>%n tâche ajoutée</numerusform>
+            <numerusform>%n tâches ajoutées</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task changed</source>
+        <translation>1 tâche modifiée</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks changed</source>
+        <translation>
+            <numerusform>%n tâche modifiée</numerusform>
+            <numerusform>%n tâches modifiées</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task gone</source>
+        <translation>1 tâche retirée</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks gone</source>
+        <translation>
+            <numerusform>%n tâche retirée</numerusform>
+            <numerusform>%n tâches retirées</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>other categories</source>
+        <translation>catégories modifiées</translation>
+    </message>
+    <message>
+        <source>nothing changed</source>
+        <translation>aucune modification</translation>
+    </message>
+    <message>
+        <source>Made</source>
+        <translation>Créée le</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Avant</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>Tâches</translation>
+    </message>
+    <message>
+        <source>Since then</source>
+        <translation>Depuis</translation>
+    </message>
+    <message>
+        <source>is being compared...</source>
+        <translation>comparaison en cours…</translation>
+    </message>
+</context>
+<context>
     <name>CustomIcons</name>
     <message>
         <source>The picture &quot;%1&quot; cannot be used: this is not a plain file name.</source>
@@ -320,6 +733,248 @@
     </message>
 </context>
 <context>
+    <name>EmptyListNote</name>
+    <message>
+        <source>%1 of 1 task</source>
+        <translation>%1 sur 1 tâche</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n tasks</source>
+        <translation>
+            <numerusform>%1 sur %n tâche</numerusform>
+            <numerusform>%1 sur %n tâches</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Show all</source>
+        <translation>Tout affic&amp;her</translation>
+    </message>
+    <message>
+        <source>There are no tasks yet</source>
+        <translation>Il n’y a pas encore de tâches</translation>
+    </message>
+    <message>
+        <source>No task matches the filters</source>
+        <translation>Aucune tâche ne correspond aux filtres</translation>
+    </message>
+    <message>
+        <source>Nothing found for &quot;%1&quot;</source>
+        <translation>Rien trouvé pour «&#xa0;%1&#xa0;»</translation>
+    </message>
+</context>
+<context>
+    <name>ExchangeTexts</name>
+    <message>
+        <source>The file could not be read: %1.</source>
+        <translation>Le fichier n’a pas pu être lu&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>The file is no iCalendar file.</source>
+        <translation>Le fichier n’est pas un fichier iCalendar.</translation>
+    </message>
+    <message>
+        <source>It has no end.</source>
+        <translation>L’entrée n’a pas de fin.</translation>
+    </message>
+    <message>
+        <source>Its parts are nested too deeply.</source>
+        <translation>Les parties de l’entrée sont imbriquées trop profondément.</translation>
+    </message>
+    <message>
+        <source>The file ends in the middle of it.</source>
+        <translation>Le fichier se termine au milieu de l’entrée.</translation>
+    </message>
+    <message>
+        <source>One of its parts has no end.</source>
+        <translation>Une partie de l’entrée n’a pas de fin.</translation>
+    </message>
+    <message>
+        <source>One of its lines is too long.</source>
+        <translation>Une ligne de l’entrée est trop longue.</translation>
+    </message>
+    <message>
+        <source>It is too large.</source>
+        <translation>L’entrée est trop volumineuse.</translation>
+    </message>
+    <message>
+        <source>It has too many columns.</source>
+        <translation>L’entrée a trop de colonnes.</translation>
+    </message>
+    <message>
+        <source>One of its quotes has no end.</source>
+        <translation>Un guillemet de l’entrée n’est pas fermé.</translation>
+    </message>
+    <message>
+        <source>Column &quot;%1&quot; cannot be read: %2</source>
+        <translation>La colonne «&#xa0;%1&#xa0;» ne peut pas être lue&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>The file is no list of tasks: its first line has no column &quot;%1&quot;.</source>
+        <translation>Le fichier n’est pas une liste de tâches&#xa0;: sa première ligne ne contient pas de colonne «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>It holds bytes that are no text in UTF-8.</source>
+        <translation>L’entrée contient des octets qui ne sont pas du texte en UTF-8.</translation>
+    </message>
+    <message>
+        <source>1 task is new.</source>
+        <translation>1 tâche est nouvelle.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks are new.</source>
+        <translation>
+            <numerusform>%n tâche est nouvelle.</numerusform>
+            <numerusform>%n tâches sont nouvelles.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task is changed.</source>
+        <translation>1 tâche est modifiée.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks are changed.</source>
+        <translation>
+            <numerusform>%n tâche est modifiée.</numerusform>
+            <numerusform>%n tâches sont modifiées.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task is the same.</source>
+        <translation>1 tâche est inchangée.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks are the same.</source>
+        <translation>
+            <numerusform>%n tâche est inchangée.</numerusform>
+            <numerusform>%n tâches sont inchangées.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The file holds no task.</source>
+        <translation>Le fichier ne contient aucune tâche.</translation>
+    </message>
+    <message>
+        <source>1 category is made.</source>
+        <translation>1 catégorie est créée.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n categories are made.</source>
+        <translation>
+            <numerusform>%n catégorie est créée.</numerusform>
+            <numerusform>%n catégories sont créées.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task cannot be read and stays out.</source>
+        <translation>1 tâche ne peut pas être lue et est omise.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks cannot be read and stay out.</source>
+        <translation>
+            <numerusform>%n tâche ne peut pas être lue et est omise.</numerusform>
+            <numerusform>%n tâches ne peuvent pas être lues et sont omises.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 entry is no task and stays out.</source>
+        <translation>1 entrée n’est pas une tâche et est omise.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries are no tasks and stay out.</source>
+        <translation>
+            <numerusform>%n entrée n’est pas une tâche et est omise.</numerusform>
+            <numerusform>%n entrées ne sont pas des tâches et sont omises.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 reminder is past and comes in as dismissed.</source>
+        <translation>1 rappel est déjà passé et est importé comme ignoré.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n reminders are past and come in as dismissed.</source>
+        <translation>
+            <numerusform>%n rappel est déjà passé et est importé comme ignoré.</numerusform>
+            <numerusform>%n rappels sont déjà passés et sont importés comme ignorés.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task repeats and comes in once.</source>
+        <translation>1 tâche se répète et n’est importée qu’une fois.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks repeat and come in once.</source>
+        <translation>
+            <numerusform>%n tâche se répète et n’est importée qu’une fois.</numerusform>
+            <numerusform>%n tâches se répètent et ne sont importées qu’une fois.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task has no due date and is due today.</source>
+        <translation>1 tâche n’a pas d’échéance et reçoit celle d’aujourd’hui.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks have no due date and are due today.</source>
+        <translation>
+            <numerusform>%n tâche n’a pas d’échéance et reçoit celle d’aujourd’hui.</numerusform>
+            <numerusform>%n tâches n’ont pas d’échéance et reçoivent celle d’aujourd’hui.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 further reminder is kept, but does not remind.</source>
+        <translation>1 rappel supplémentaire est conservé, mais ne se déclenche pas.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further reminders are kept, but do not remind.</source>
+        <translation>
+            <numerusform>%n rappel supplémentaire est conservé, mais ne se déclenche pas.</numerusform>
+            <numerusform>%n rappels supplémentaires sont conservés, mais ne se déclenchent pas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task is in an unknown time zone and is taken as local time.</source>
+        <translation>1 tâche est dans un fuseau horaire inconnu et est interprétée en heure locale.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks are in unknown time zones and are taken as local time.</source>
+        <translation>
+            <numerusform>%n tâche est dans un fuseau horaire inconnu et est interprétée en heure locale.</numerusform>
+            <numerusform>%n tâches sont dans des fuseaux horaires inconnus et sont interprétées en heure locale.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Tasks cannot be exported or imported: the module &quot;ambertask_exchange&quot; is missing from the program&apos;s folder or damaged.</source>
+        <translation>Les tâches ne peuvent être ni exportées ni importées&#xa0;: le module «&#xa0;ambertask_exchange&#xa0;» est absent du dossier du programme ou endommagé.</translation>
+    </message>
+    <message>
+        <source>Imported</source>
+        <translation>Importées</translation>
+    </message>
+    <message>
+        <source>A task before it has the same UID.</source>
+        <translation>Une tâche précédente a le même UID.</translation>
+    </message>
+    <message>
+        <source>The file holds more than %1 tasks that are new. Nothing was stored.</source>
+        <translation>Le fichier contient plus de %1 nouvelles tâches. Rien n’a été enregistré.</translation>
+    </message>
+    <message>
+        <source>The file is too large. Nothing was stored.</source>
+        <translation>Le fichier est trop volumineux. Rien n’a été enregistré.</translation>
+    </message>
+    <message>
+        <source>The file holds %1 tasks that are new, and there is room for %2. Nothing was stored. Delete tasks that you no longer need, then end Ambertask and start it again.</source>
+        <translation>Le fichier contient %1 nouvelles tâches, mais il n’y a de la place que pour %2. Rien n’a été enregistré. Supprimez les tâches dont vous n’avez plus besoin, puis quittez Ambertask et relancez-le.</translation>
+    </message>
+    <message>
+        <source>The tasks could not be written: %1.</source>
+        <translation>Les tâches n’ont pas pu être écrites&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Its due date cannot be read: %1</source>
+        <translation>L’échéance ne peut pas être lue&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
     <name>FileDialogs</name>
     <message>
         <source>Folder</source>
@@ -370,10 +1025,156 @@
     </message>
 </context>
 <context>
+    <name>FileExchange</name>
+    <message>
+        <source>iCalendar Files (*.ics)|*.ics</source>
+        <translation>Fichiers iCalendar (*.ics)|*.ics</translation>
+    </message>
+    <message>
+        <source>CSV Files (*.csv)|*.csv</source>
+        <translation>Fichiers CSV (*.csv)|*.csv</translation>
+    </message>
+    <message>
+        <source>the name of the file ends neither with .ics nor with .csv</source>
+        <translation>le nom du fichier ne se termine ni par .ics ni par .csv</translation>
+    </message>
+    <message>
+        <source>1 task was exported to &quot;%1&quot;</source>
+        <translation>1 tâche a été exportée vers «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks were exported to &quot;%1&quot;</source>
+        <translation>
+            <numerusform>%n tâche a été exportée vers «&#xa0;%1&#xa0;»</numerusform>
+            <numerusform>%n tâches ont été exportées vers «&#xa0;%1&#xa0;»</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task was added</source>
+        <translation>1 tâche a été ajoutée</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks were added</source>
+        <translation>
+            <numerusform>%n tâche a été ajoutée</numerusform>
+            <numerusform>%n tâches ont été ajoutées</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task was changed</source>
+        <translation>1 tâche a été modifiée</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks were changed</source>
+        <translation>
+            <numerusform>%n tâche a été modifiée</numerusform>
+            <numerusform>%n tâches ont été modifiées</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>iCalendar and CSV Files (*.ics;*.csv)|*.ics;*.csv</source>
+        <translation>Fichiers iCalendar et CSV (*.ics;*.csv)|*.ics;*.csv</translation>
+    </message>
+    <message>
+        <source>Exporting the tasks...</source>
+        <translation>Exportation des tâches en cours…</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>Tâches</translation>
+    </message>
+    <message>
+        <source>Nothing was exported: %1</source>
+        <translation>Rien n’a été exporté&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Reading the file...</source>
+        <translation>Lecture du fichier en cours…</translation>
+    </message>
+    <message>
+        <source>Nothing was imported: %1</source>
+        <translation>Rien n’a été importé&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Importing the tasks...</source>
+        <translation>Importation des tâches en cours…</translation>
+    </message>
+    <message>
+        <source>Nothing was imported.
+%1</source>
+        <translation>Rien n’a été importé.
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>FilterFold</name>
+    <message>
+        <source>Unfold the filters</source>
+        <translation>Déplier les filtres</translation>
+    </message>
+    <message>
+        <source>Fold the filters away</source>
+        <translation>Replier les filtres</translation>
+    </message>
+</context>
+<context>
+    <name>FindField</name>
+    <message>
+        <source>Find tasks</source>
+        <translation>Chercher</translation>
+    </message>
+</context>
+<context>
+    <name>GridView</name>
+    <message>
+        <source>Sorts the list</source>
+        <translation>Trie la liste</translation>
+    </message>
+    <message>
+        <source>Sorted in ascending order</source>
+        <translation>Trié par ordre croissant</translation>
+    </message>
+    <message>
+        <source>Sorted in descending order</source>
+        <translation>Trié par ordre décroissant</translation>
+    </message>
+</context>
+<context>
     <name>HTMLHelpViewer</name>
     <message>
         <source>The help window is missing from this installation.</source>
         <translation>La fenêtre d’aide est absente de cette installation.</translation>
+    </message>
+</context>
+<context>
+    <name>ImportListModel</name>
+    <message>
+        <source>New</source>
+        <translation>Nouvelle</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Modifiée</translation>
+    </message>
+    <message>
+        <source>Same</source>
+        <translation>Inchangée</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importation</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Due Date</source>
+        <translation>Échéance</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Catégorie</translation>
     </message>
 </context>
 <context>
@@ -389,6 +1190,17 @@
     <message>
         <source>&amp;Keyword</source>
         <translation>&amp;Mot-clé</translation>
+    </message>
+</context>
+<context>
+    <name>KeptCopies</name>
+    <message>
+        <source>it is not a folder</source>
+        <translation>ce n’est pas un dossier</translation>
+    </message>
+    <message>
+        <source>the disk is nearly full</source>
+        <translation>le disque est presque plein</translation>
     </message>
 </context>
 <context>
@@ -553,6 +1365,34 @@
     <message>
         <source>Nothing was restored: %1</source>
         <translation>Rien n’a été restauré&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Restore from a c&amp;opy...</source>
+        <translation>Restaurer depuis une co&amp;pie…</translation>
+    </message>
+    <message>
+        <source>Shows the copies of your data that the program has made by itself</source>
+        <translation>Affiche les copies de vos données que le programme a créées de lui-même</translation>
+    </message>
+    <message>
+        <source>Exchange with other programs</source>
+        <translation>Échange avec d’autres programmes</translation>
+    </message>
+    <message>
+        <source>E&amp;xport...</source>
+        <translation>E&amp;xporter…</translation>
+    </message>
+    <message>
+        <source>Saves all tasks as iCalendar or CSV, for other programs</source>
+        <translation>Enregistre toutes les tâches au format iCalendar ou CSV, pour d’autres programmes</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>I&amp;mporter…</translation>
+    </message>
+    <message>
+        <source>Adds the tasks of an iCalendar or CSV file; shows first what would happen</source>
+        <translation>Ajoute les tâches d’un fichier iCalendar ou CSV&#xa0;; montre d’abord ce qui se passerait</translation>
     </message>
 </context>
 <context>
@@ -741,6 +1581,14 @@
         <source>Preparing the report...</source>
         <translation>Préparation du rapport en cours…</translation>
     </message>
+    <message>
+        <source>&amp;Save as...</source>
+        <translation>E&amp;nregistrer sous…</translation>
+    </message>
+    <message>
+        <source>Saves the tasks of the report as iCalendar or CSV, for other programs</source>
+        <translation>Enregistre les tâches du rapport au format iCalendar ou CSV, pour d’autres programmes</translation>
+    </message>
 </context>
 <context>
     <name>Printing</name>
@@ -758,6 +1606,14 @@
     <message>
         <source>The task &quot;%1&quot; was added; the filters do not show it</source>
         <translation>La tâche «&#xa0;%1&#xa0;» a été ajoutée&#xa0;; les filtres ne l’affichent pas</translation>
+    </message>
+    <message>
+        <source>The task &quot;%1&quot; was added; the search does not show it</source>
+        <translation>La tâche «&#xa0;%1&#xa0;» a été ajoutée&#xa0;; la recherche ne l’affiche pas</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>Tâches</translation>
     </message>
 </context>
 <context>
@@ -941,6 +1797,10 @@
     <message>
         <source>a rule in its table &quot;%1&quot; could remove records</source>
         <translation>une règle de sa table «&#xa0;%1&#xa0;» pourrait supprimer des enregistrements</translation>
+    </message>
+    <message>
+        <source>It has been changed since.</source>
+        <translation>Cela a été modifié depuis.</translation>
     </message>
 </context>
 <context>
@@ -1153,6 +2013,209 @@
     </message>
 </context>
 <context>
+    <name>TaskActions</name>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Modifier</translation>
+    </message>
+    <message>
+        <source>&amp;Complete</source>
+        <translation>&amp;Terminer</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>A&amp;nnuler</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>Réta&amp;blir</translation>
+    </message>
+    <message>
+        <source>&amp;Postpone</source>
+        <translation>&amp;Reporter</translation>
+    </message>
+    <message>
+        <source>Dup&amp;licate</source>
+        <translation>&amp;Dupliquer</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>&amp;Status</source>
+        <translation>Ét&amp;at</translation>
+    </message>
+    <message>
+        <source>Pr&amp;iority</source>
+        <translation>&amp;Priorité</translation>
+    </message>
+    <message>
+        <source>Categor&amp;y</source>
+        <translation>Caté&amp;gorie</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: %1</source>
+        <translation>A&amp;nnuler&#x202f;: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo: %1</source>
+        <translation>Réta&amp;blir&#x202f;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>TaskChoices</name>
+    <message>
+        <source>Set Ba&amp;ck to &quot;Not Started&quot;</source>
+        <translation>Reme&amp;ttre à «&#x202f;Non commencée&#x202f;»</translation>
+    </message>
+    <message>
+        <source>&amp;Complete</source>
+        <translation>&amp;Terminer</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete this task?</source>
+        <translation>Voulez-vous vraiment supprimer cette tâche&#x202f;?</translation>
+    </message>
+    <message numerus="yes">
+        <source>Are you sure you want to delete %n tasks?</source>
+        <translation>
+            <numerusform>Voulez-vous vraiment supprimer %n tâche&#x202f;?</numerusform>
+            <numerusform>Voulez-vous vraiment supprimer %n tâches&#x202f;?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Not Started</source>
+        <translation>&amp;Non commencée</translation>
+    </message>
+    <message>
+        <source>In &amp;Progress</source>
+        <translation>&amp;En cours</translation>
+    </message>
+    <message>
+        <source>&amp;Completed</source>
+        <translation>&amp;Terminée</translation>
+    </message>
+    <message>
+        <source>&amp;Waiting on someone else</source>
+        <translation>En &amp;attente d’un tiers</translation>
+    </message>
+    <message>
+        <source>&amp;Deferred</source>
+        <translation>&amp;Reportée</translation>
+    </message>
+    <message>
+        <source>&amp;High</source>
+        <translation>&amp;Haute</translation>
+    </message>
+    <message>
+        <source>&amp;Normal</source>
+        <translation>&amp;Normale</translation>
+    </message>
+    <message>
+        <source>&amp;Low</source>
+        <translation>&amp;Basse</translation>
+    </message>
+</context>
+<context>
+    <name>TaskFilters</name>
+    <message>
+        <source>A&amp;ll</source>
+        <translation>T&amp;outes</translation>
+    </message>
+    <message>
+        <source>Spec&amp;ific</source>
+        <translation>&amp;Période</translation>
+    </message>
+    <message>
+        <source>All tas&amp;ks</source>
+        <translation>Toutes &amp;les tâches</translation>
+    </message>
+    <message>
+        <source>Acti&amp;ve tasks only</source>
+        <translation>Tâches a&amp;ctives uniquement</translation>
+    </message>
+    <message>
+        <source>E&amp;xpired tasks only</source>
+        <translation>Tâches en retard &amp;uniquement</translation>
+    </message>
+    <message>
+        <source>&amp;From</source>
+        <translation>&amp;Du</translation>
+    </message>
+    <message>
+        <source>&amp;To</source>
+        <translation>&amp;Au</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Afficher</translation>
+    </message>
+    <message>
+        <source>Categor&amp;y</source>
+        <translation>Caté&amp;gorie</translation>
+    </message>
+    <message>
+        <source>Stat&amp;us</source>
+        <translation>É&amp;tat</translation>
+    </message>
+    <message>
+        <source>S&amp;ort by</source>
+        <translation>Trie&amp;r par</translation>
+    </message>
+    <message>
+        <source>Due date</source>
+        <translation>Échéance</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>The same order chosen again is turned round</source>
+        <translation>Le même ordre, choisi une seconde fois, est inversé</translation>
+    </message>
+    <message>
+        <source>Category: %1</source>
+        <translation>Catégorie&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Status: %1</source>
+        <translation>État&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Due from %1 to %2</source>
+        <translation>À échéance du %1 au %2</translation>
+    </message>
+    <message>
+        <source>Active tasks only</source>
+        <translation>Tâches actives uniquement</translation>
+    </message>
+    <message>
+        <source>Expired tasks only</source>
+        <translation>Tâches en retard uniquement</translation>
+    </message>
+    <message>
+        <source>No filter leaves a task out</source>
+        <translation>Aucun filtre n’écarte de tâche</translation>
+    </message>
+</context>
+<context>
+    <name>TaskGridModel</name>
+    <message>
+        <source>Overdue</source>
+        <translation>En retard</translation>
+    </message>
+    <message>
+        <source>Due today</source>
+        <translation>Échéance aujourd’hui</translation>
+    </message>
+</context>
+<context>
     <name>TaskInput</name>
     <message>
         <source>Reminder date and time should not be earlier than current system date and time</source>
@@ -1223,62 +2286,64 @@
     </message>
 </context>
 <context>
+    <name>TaskMoments</name>
+    <message>
+        <source>1 &amp;day before</source>
+        <translation>1 &amp;jour avant</translation>
+    </message>
+    <message>
+        <source>&amp;At the due moment</source>
+        <translation>À l’é&amp;chéance</translation>
+    </message>
+    <message>
+        <source>&amp;5 minutes before</source>
+        <translation>&amp;5 minutes avant</translation>
+    </message>
+    <message>
+        <source>&amp;15 minutes before</source>
+        <translation>&amp;15 minutes avant</translation>
+    </message>
+    <message>
+        <source>&amp;30 minutes before</source>
+        <translation>&amp;30 minutes avant</translation>
+    </message>
+    <message>
+        <source>1 &amp;hour before</source>
+        <translation>1 &amp;heure avant</translation>
+    </message>
+    <message>
+        <source>To&amp;day, %1</source>
+        <translation>&amp;Aujourd’hui, %1</translation>
+    </message>
+    <message>
+        <source>&amp;Tomorrow, %1</source>
+        <translation>&amp;Demain, %1</translation>
+    </message>
+    <message>
+        <source>Next &amp;Monday, %1</source>
+        <translation>&amp;Lundi prochain, %1</translation>
+    </message>
+</context>
+<context>
+    <name>TaskStoring</name>
+    <message>
+        <source>Nothing was stored: there is no number left for a new category.</source>
+        <translation>Rien n’a été enregistré&#xa0;: il ne reste aucun numéro pour une nouvelle catégorie.</translation>
+    </message>
+    <message>
+        <source>Nothing was stored: there is no room for so many tasks.</source>
+        <translation>Rien n’a été enregistré&#xa0;: il n’y a pas assez de place pour autant de tâches.</translation>
+    </message>
+    <message>
+        <source>Nothing was stored: the task &quot;%1&quot; has been deleted meanwhile. Choose the file again.</source>
+        <translation>Rien n’a été enregistré&#xa0;: la tâche «&#xa0;%1&#xa0;» a été supprimée entre-temps. Choisissez à nouveau le fichier.</translation>
+    </message>
+</context>
+<context>
     <name>TasksPage</name>
-    <message>
-        <source>A&amp;ll</source>
-        <translation>T&amp;outes</translation>
-    </message>
-    <message>
-        <source>Spec&amp;ific</source>
-        <translation>&amp;Période</translation>
-    </message>
-    <message>
-        <source>All tas&amp;ks</source>
-        <translation>Toutes &amp;les tâches</translation>
-    </message>
-    <message>
-        <source>Acti&amp;ve tasks only</source>
-        <translation>Tâches a&amp;ctives uniquement</translation>
-    </message>
-    <message>
-        <source>E&amp;xpired tasks only</source>
-        <translation>Tâches en retard &amp;uniquement</translation>
-    </message>
     <message>
         <source>Tasks</source>
         <translation>Tâches</translation>
-    </message>
-    <message>
-        <source>&amp;From</source>
-        <translation>&amp;Du</translation>
-    </message>
-    <message>
-        <source>&amp;To</source>
-        <translation>&amp;Au</translation>
-    </message>
-    <message>
-        <source>Show</source>
-        <translation>Afficher</translation>
-    </message>
-    <message>
-        <source>Categor&amp;y</source>
-        <translation>Caté&amp;gorie</translation>
-    </message>
-    <message>
-        <source>Stat&amp;us</source>
-        <translation>É&amp;tat</translation>
-    </message>
-    <message>
-        <source>S&amp;ort by</source>
-        <translation>Trie&amp;r par</translation>
-    </message>
-    <message>
-        <source>Due date</source>
-        <translation>Échéance</translation>
-    </message>
-    <message>
-        <source>Kind</source>
-        <translation>Type</translation>
     </message>
     <message>
         <source>&amp;Add</source>
@@ -1304,10 +2369,6 @@
         <source>Please enter categories in the categories section first.</source>
         <translation>Veuillez d’abord créer des catégories sur la page «&#xa0;Catégories&#xa0;».</translation>
     </message>
-    <message>
-        <source>Are you sure you want to delete this task?</source>
-        <translation>Voulez-vous vraiment supprimer cette tâche&#x202f;?</translation>
-    </message>
 </context>
 <context>
     <name>TopicView</name>
@@ -1318,6 +2379,64 @@
     <message>
         <source>The help file has no readable page &quot;%1&quot;.</source>
         <translation>Le fichier d’aide ne contient pas de page lisible «&#xa0;%1&#xa0;».</translation>
+    </message>
+</context>
+<context>
+    <name>TrayNews</name>
+    <message numerus="yes">
+        <source>%n due</source>
+        <comment>reminders</comment>
+        <translation>
+            <numerusform>%n rappel échu</numerusform>
+            <numerusform>%n rappels échus</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n overdue</source>
+        <comment>tasks</comment>
+        <translation>
+            <numerusform>%n tâche en retard</numerusform>
+            <numerusform>%n tâches en retard</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>2 due, 3 overdue</comment>
+        <translation>%1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>UnchangedFile</name>
+    <message>
+        <source>another program is using it</source>
+        <translation>un autre programme l’utilise</translation>
+    </message>
+</context>
+<context>
+    <name>UndoBar</name>
+    <message>
+        <source>U&amp;ndo</source>
+        <translation>A&amp;nnuler</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>Réta&amp;blir</translation>
+    </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Annulé&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Not undone: %1</source>
+        <translation>Non annulé&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Not done again: %1</source>
+        <translation>Non rétabli&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
     </message>
 </context>
 <context>
@@ -1364,6 +2483,13 @@
     <message>
         <source>To store them anew, press &quot;Save Settings&quot; on the page Settings.</source>
         <translation>Pour les enregistrer à nouveau, cliquez sur «&#xa0;Enregistrer les paramètres&#xa0;» à la page Paramètres.</translation>
+    </message>
+</context>
+<context>
+    <name>UnusableCopy</name>
+    <message>
+        <source>The file is damaged.</source>
+        <translation>Le fichier est endommagé.</translation>
     </message>
 </context>
 <context>
@@ -1487,6 +2613,12 @@
     <message>
         <source>The report cannot be shown: the module &quot;ambertask_report&quot; is missing from the program&apos;s folder or damaged.</source>
         <translation>Le rapport ne peut pas être affiché&#xa0;: le module «&#xa0;ambertask_report&#xa0;» est absent du dossier du programme ou endommagé.</translation>
+    </message>
+    <message>
+        <source>The tasks could not be saved.
+%1</source>
+        <translation>Les tâches n’ont pas pu être enregistrées.
+%1</translation>
     </message>
 </context>
 <context>
@@ -1691,6 +2823,108 @@
     <message>
         <source>Please browse for a custom icon</source>
         <translation>Veuillez choisir une icône personnalisée</translation>
+    </message>
+</context>
+<context>
+    <name>frmCopies</name>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Restaurer</translation>
+    </message>
+    <message>
+        <source>Restore from a Copy</source>
+        <translation>Restaurer depuis une copie</translation>
+    </message>
+    <message>
+        <source>Copies of your data</source>
+        <translation>Copies de vos données</translation>
+    </message>
+    <message>
+        <source>No copy has been made yet. The first one is made before the next change.</source>
+        <translation>Aucune copie n’a encore été créée. La première le sera avant la prochaine modification.</translation>
+    </message>
+    <message>
+        <source>Puts the selected copy in the place of your data, which is kept as another copy</source>
+        <translation>Met la copie sélectionnée à la place de vos données, qui sont conservées comme une autre copie</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message>
+        <source>Closes this list and changes nothing</source>
+        <translation>Ferme cette liste sans rien modifier</translation>
+    </message>
+    <message>
+        <source>Co&amp;pies of your data that the program has made by itself</source>
+        <translation>Co&amp;pies de vos données que le programme a créées de lui-même</translation>
+    </message>
+    <message>
+        <source>The copies could not be compared: %1</source>
+        <translation>Les copies n’ont pas pu être comparées&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to restore the copy of %1? Your data as it is now is kept as another copy.</source>
+        <translation>Voulez-vous vraiment restaurer la copie du %1&#xa0;? Vos données actuelles seront conservées comme une autre copie.</translation>
+    </message>
+</context>
+<context>
+    <name>frmImport</name>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Ligne %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Line %1, &quot;%2&quot;: %3</source>
+        <translation>Ligne %1, «&#xa0;%2&#xa0;»&#xa0;: %3</translation>
+    </message>
+    <message>
+        <source>New categories: %1</source>
+        <translation>Nouvelles catégories&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>And more that cannot be read.</source>
+        <translation>Et d’autres qui ne peuvent pas être lues.</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importer</translation>
+    </message>
+    <message>
+        <source>Ca&amp;ncel</source>
+        <translation>A&amp;nnuler</translation>
+    </message>
+    <message>
+        <source>Import Tasks</source>
+        <translation>Importer des tâches</translation>
+    </message>
+    <message>
+        <source>Tasks to import</source>
+        <translation>Tâches à importer</translation>
+    </message>
+    <message>
+        <source>Programs to start with the reminder</source>
+        <translation>Programmes à lancer avec le rappel</translation>
+    </message>
+    <message>
+        <source>&amp;Programs to start with the reminder; tick those that you trust</source>
+        <translation>&amp;Programmes à lancer avec le rappel&#xa0;; cochez ceux auxquels vous faites confiance</translation>
+    </message>
+    <message>
+        <source>&amp;Summary</source>
+        <translation>&amp;Résumé</translation>
+    </message>
+    <message>
+        <source>&amp;Tasks</source>
+        <translation>&amp;Tâches</translation>
+    </message>
+    <message>
+        <source>From &quot;%1&quot;</source>
+        <translation>Depuis «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
@@ -1917,6 +3151,22 @@
     <message>
         <source>Pro&amp;gram:</source>
         <translation>Pro&amp;gramme&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Set to</source>
+        <translation>Régler sur</translation>
+    </message>
+    <message>
+        <source>Set the due moment to</source>
+        <translation>Régler l’échéance sur</translation>
+    </message>
+    <message>
+        <source>Set the reminder to</source>
+        <translation>Régler le rappel sur</translation>
+    </message>
+    <message>
+        <source>Switches the reminder on; it follows the due moment until it is changed</source>
+        <translation>Active le rappel, qui suit l’échéance jusqu’à ce qu’il soit modifié</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>AlertActions</name>
+    <message>
+        <source>&amp;Complete</source>
+        <translation>完成(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Open Item</source>
+        <translation>打开任务(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Remind me later</source>
+        <translation>稍后提醒(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Dismiss</source>
+        <translation>消除(&amp;D)</translation>
+    </message>
+</context>
+<context>
     <name>AlertListModel</name>
     <message>
         <source>id</source>
@@ -73,6 +92,14 @@
         <source>Are you sure you want to delete &apos;%1&apos; category, all tasks under this category will be deleted?</source>
         <translation>确定要删除类别“%1”吗？该类别下的所有任务也将被删除。</translation>
     </message>
+    <message>
+        <source>Category &quot;%1&quot; deleted with its tasks</source>
+        <translation>已删除类别“%1”及其任务</translation>
+    </message>
+    <message>
+        <source>There are no categories yet</source>
+        <translation>还没有类别</translation>
+    </message>
 </context>
 <context>
     <name>CategoryInput</name>
@@ -137,6 +164,117 @@
     </message>
 </context>
 <context>
+    <name>ChangeTexts</name>
+    <message>
+        <source>1 task deleted</source>
+        <translation>已删除 1 个任务</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks deleted</source>
+        <translation>
+            <numerusform>已删除 %n 个任务</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task duplicated</source>
+        <translation>已为 1 个任务创建副本</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks duplicated</source>
+        <translation>
+            <numerusform>已为 %n 个任务创建副本</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task completed</source>
+        <translation>已完成 1 个任务</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks completed</source>
+        <translation>
+            <numerusform>已完成 %n 个任务</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task set back to &quot;Not Started&quot;</source>
+        <translation>已将 1 个任务恢复为“未开始”</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks set back to &quot;Not Started&quot;</source>
+        <translation>
+            <numerusform>已将 %n 个任务恢复为“未开始”</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Status of 1 task changed</source>
+        <translation>已更改 1 个任务的状态</translation>
+    </message>
+    <message numerus="yes">
+        <source>Status of %n tasks changed</source>
+        <translation>
+            <numerusform>已更改 %n 个任务的状态</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Priority of 1 task changed</source>
+        <translation>已更改 1 个任务的优先级</translation>
+    </message>
+    <message numerus="yes">
+        <source>Priority of %n tasks changed</source>
+        <translation>
+            <numerusform>已更改 %n 个任务的优先级</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Category of 1 task changed</source>
+        <translation>已更改 1 个任务的类别</translation>
+    </message>
+    <message numerus="yes">
+        <source>Category of %n tasks changed</source>
+        <translation>
+            <numerusform>已更改 %n 个任务的类别</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 reminder dismissed</source>
+        <translation>已消除 1 个提醒</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n reminders dismissed</source>
+        <translation>
+            <numerusform>已消除 %n 个提醒</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 reminder postponed</source>
+        <translation>已推迟 1 个提醒</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n reminders postponed</source>
+        <translation>
+            <numerusform>已推迟 %n 个提醒</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task imported</source>
+        <translation>已导入 1 个任务</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks imported</source>
+        <translation>
+            <numerusform>已导入 %n 个任务</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No copy was kept: %1</source>
+        <translation>未保留副本：%1</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <translation>%1。%2</translation>
+    </message>
+</context>
+<context>
     <name>ClsTask</name>
     <message>
         <source>The statement is unfinished: %1</source>
@@ -145,6 +283,186 @@
     <message>
         <source>The task was not stored: there is no number left for a new one. Delete tasks that you no longer need, then end Ambertask and start it again.</source>
         <translation>任务未保存：已没有编号可用于新任务。请删除不再需要的任务，然后退出并重新启动 Ambertask。</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>There is no option &quot;%1&quot;.</source>
+        <translation>没有选项“%1”。</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; needs a value.</source>
+        <translation>选项“%1”需要一个值。</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; takes no value.</source>
+        <translation>选项“%1”不接受值。</translation>
+    </message>
+    <message>
+        <source>There is no format &quot;%1&quot;; the formats are &quot;ics&quot; and &quot;csv&quot;.</source>
+        <translation>没有格式“%1”；可用的格式为“ics”和“csv”。</translation>
+    </message>
+    <message>
+        <source>With &quot;-&quot; the format has to be said, by &quot;--format ics&quot; or &quot;--format csv&quot;.</source>
+        <translation>使用“-”时必须用“--format ics”或“--format csv”指定格式。</translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; ends neither in &quot;.ics&quot; nor in &quot;.csv&quot;; say the format by &quot;--format ics&quot; or &quot;--format csv&quot;.</source>
+        <translation>文件名“%1”不以“.ics”或“.csv”结尾；请用“--format ics”或“--format csv”指定格式。</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; goes with &quot;%2&quot; only.</source>
+        <translation>选项“%1”只能与“%2”一起使用。</translation>
+    </message>
+    <message>
+        <source>The options &quot;%1&quot; and &quot;%2&quot; do not go together.</source>
+        <translation>选项“%1”和“%2”不能一起使用。</translation>
+    </message>
+    <message>
+        <source>The word &quot;%1&quot; is one too many.</source>
+        <translation>“%1”是多余的参数。</translation>
+    </message>
+    <message>
+        <source>Ambertask --export FILE [--format ics|csv]</source>
+        <translation>Ambertask --export FILE [--format ics|csv]</translation>
+    </message>
+    <message>
+        <source>Ambertask --import FILE [--format ics|csv] [--yes] [--with-programs]</source>
+        <translation>Ambertask --import FILE [--format ics|csv] [--yes] [--with-programs]</translation>
+    </message>
+    <message>
+        <source>Without an option the organizer starts with its window. With one of these it does what it is told and ends, without a window, also while a copy runs:</source>
+        <translation>不带选项时，Ambertask 启动并打开窗口。使用下列选项之一时，它只执行指定的操作然后退出，不打开窗口，即使 Ambertask 已在运行也可使用：</translation>
+    </message>
+    <message>
+        <source>Writes all tasks, each on a line, with tabs between the fields, which the first line names. In texts \t stands for a tab, \n for a line break and \\ for \.</source>
+        <translation>输出所有任务，每行一个，字段之间用制表符分隔，第一行为字段名。文本中的 \t 表示制表符，\n 表示换行，\\ 表示 \。</translation>
+    </message>
+    <message>
+        <source>Writes all tasks as an array of JSON objects.</source>
+        <translation>以 JSON 对象数组的形式输出所有任务。</translation>
+    </message>
+    <message>
+        <source>--export FILE</source>
+        <translation>--export FILE</translation>
+    </message>
+    <message>
+        <source>Writes all tasks to FILE, as iCalendar (.ics) or CSV (.csv).</source>
+        <translation>将所有任务以 iCalendar (.ics) 或 CSV (.csv) 格式写入 FILE。</translation>
+    </message>
+    <message>
+        <source>--import FILE</source>
+        <translation>--import FILE</translation>
+    </message>
+    <message>
+        <source>Says what an import of FILE would do and imports nothing; the status is 1.</source>
+        <translation>说明导入 FILE 会做哪些更改，但不导入任何内容；退出状态为 1。</translation>
+    </message>
+    <message>
+        <source>--import FILE --yes</source>
+        <translation>--import FILE --yes</translation>
+    </message>
+    <message>
+        <source>Imports FILE, without the programs that its tasks would start; it names them.</source>
+        <translation>导入 FILE，但不导入其任务要启动的程序；会列出这些程序。</translation>
+    </message>
+    <message>
+        <source>--import FILE --yes --with-programs</source>
+        <translation>--import FILE --yes --with-programs</translation>
+    </message>
+    <message>
+        <source>Imports these programs as well.</source>
+        <translation>同时导入这些程序。</translation>
+    </message>
+    <message>
+        <source>The format of FILE, where its name does not tell. FILE can be &quot;-&quot; then, for standard output or standard input.</source>
+        <translation>FILE 的格式，用于无法从文件名判断格式时。此时 FILE 可以是“-”，表示标准输出或标准输入。</translation>
+    </message>
+    <message>
+        <source>Writes this text.</source>
+        <translation>显示此文本。</translation>
+    </message>
+    <message>
+        <source>Writes the version.</source>
+        <translation>显示版本。</translation>
+    </message>
+    <message>
+        <source>The status is 0, 1 when something has failed, and 2 when the command line is wrong.</source>
+        <translation>退出状态：成功为 0，操作失败为 1，命令行有误为 2。</translation>
+    </message>
+    <message>
+        <source>--format ics|csv</source>
+        <translation>--format ics|csv</translation>
+    </message>
+</context>
+<context>
+    <name>CommandRun</name>
+    <message>
+        <source>1 record cannot be read and is left out. %1</source>
+        <translation>有 1 条记录无法读取，已略过。%1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n records cannot be read and are left out. The first: %1</source>
+        <translation>
+            <numerusform>有 %n 条记录无法读取，已略过。第一条：%1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The output could not be written: %1.</source>
+        <translation>无法写入输出：%1。</translation>
+    </message>
+    <message>
+        <source>See &quot;Ambertask --help&quot;.</source>
+        <translation>请参阅“Ambertask --help”。</translation>
+    </message>
+    <message>
+        <source>Nothing was imported; the option &quot;--yes&quot; imports it.</source>
+        <translation>未导入任何内容；要导入，请使用选项“--yes”。</translation>
+    </message>
+    <message>
+        <source>There is nothing to import.</source>
+        <translation>没有可导入的内容。</translation>
+    </message>
+    <message>
+        <source>Imported.</source>
+        <translation>已导入。</translation>
+    </message>
+    <message>
+        <source>What cannot be read in the file was left out.</source>
+        <translation>文件中无法读取的内容已略过。</translation>
+    </message>
+    <message>
+        <source>New: %1</source>
+        <translation>新增：%1</translation>
+    </message>
+    <message>
+        <source>Changed: %1</source>
+        <translation>更改：%1</translation>
+    </message>
+    <message>
+        <source>New category: %1</source>
+        <translation>新类别：%1</translation>
+    </message>
+    <message>
+        <source>Starts a program, &quot;%1&quot;: %2</source>
+        <translation>“%1”会启动程序：%2</translation>
+    </message>
+    <message>
+        <source>Left out, a program that &quot;%1&quot; would start: %2</source>
+        <translation>已略过“%1”要启动的程序：%2</translation>
+    </message>
+    <message>
+        <source>Not readable, line %1: %2</source>
+        <translation>无法读取，第 %1 行：%2</translation>
+    </message>
+    <message>
+        <source>Not readable, line %1, &quot;%2&quot;: %3</source>
+        <translation>无法读取，第 %1 行“%2”：%3</translation>
+    </message>
+    <message>
+        <source>There are no tasks yet: the program folder &quot;%1&quot; does not exist. The first start makes it, and so does an import.</source>
+        <translation>还没有任务：程序文件夹“%1”不存在。首次启动或导入时会创建它。</translation>
     </message>
 </context>
 <context>
@@ -257,6 +575,87 @@
     </message>
 </context>
 <context>
+    <name>CopyListModel</name>
+    <message>
+        <source>First change of the day</source>
+        <translation>当天的首次更改</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>还原</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>导入</translation>
+    </message>
+    <message>
+        <source>Deletion of tasks</source>
+        <translation>删除任务</translation>
+    </message>
+    <message>
+        <source>Upgrade</source>
+        <translation>升级</translation>
+    </message>
+    <message>
+        <source>1 task added</source>
+        <translation>新增 1 个任务</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks added</source>
+        <translation>
+            <numerusform>新增 %n 个任务</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task changed</source>
+        <translation>更改 1 个任务</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks changed</source>
+        <translation>
+            <numerusform>更改 %n 个任务</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task gone</source>
+        <translation>减少 1 个任务</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks gone</source>
+        <translation>
+            <numerusform>减少 %n 个任务</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>other categories</source>
+        <translation>类别不同</translation>
+    </message>
+    <message>
+        <source>nothing changed</source>
+        <translation>没有变化</translation>
+    </message>
+    <message>
+        <source>Made</source>
+        <translation>创建时间</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>此操作之前</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>任务</translation>
+    </message>
+    <message>
+        <source>Since then</source>
+        <translation>此后的变化</translation>
+    </message>
+    <message>
+        <source>is being compared...</source>
+        <translation>正在比较…</translation>
+    </message>
+</context>
+<context>
     <name>CustomIcons</name>
     <message>
         <source>The picture &quot;%1&quot; cannot be used: this is not a plain file name.</source>
@@ -320,6 +719,236 @@
     </message>
 </context>
 <context>
+    <name>EmptyListNote</name>
+    <message>
+        <source>%1 of 1 task</source>
+        <translation>%1 / 1 个任务</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %n tasks</source>
+        <translation>
+            <numerusform>%1 / %n 个任务</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Show all</source>
+        <translation>全部显示(&amp;S)</translation>
+    </message>
+    <message>
+        <source>There are no tasks yet</source>
+        <translation>还没有任务</translation>
+    </message>
+    <message>
+        <source>No task matches the filters</source>
+        <translation>没有符合筛选条件的任务</translation>
+    </message>
+    <message>
+        <source>Nothing found for &quot;%1&quot;</source>
+        <translation>未找到“%1”</translation>
+    </message>
+</context>
+<context>
+    <name>ExchangeTexts</name>
+    <message>
+        <source>The file could not be read: %1.</source>
+        <translation>无法读取文件：%1。</translation>
+    </message>
+    <message>
+        <source>The file is no iCalendar file.</source>
+        <translation>该文件不是 iCalendar 文件。</translation>
+    </message>
+    <message>
+        <source>It has no end.</source>
+        <translation>它没有结束。</translation>
+    </message>
+    <message>
+        <source>Its parts are nested too deeply.</source>
+        <translation>它的嵌套层数过多。</translation>
+    </message>
+    <message>
+        <source>The file ends in the middle of it.</source>
+        <translation>文件在该条目中途结束。</translation>
+    </message>
+    <message>
+        <source>One of its parts has no end.</source>
+        <translation>它的某个部分没有结束。</translation>
+    </message>
+    <message>
+        <source>One of its lines is too long.</source>
+        <translation>它的某一行过长。</translation>
+    </message>
+    <message>
+        <source>It is too large.</source>
+        <translation>它过大。</translation>
+    </message>
+    <message>
+        <source>It has too many columns.</source>
+        <translation>它的列过多。</translation>
+    </message>
+    <message>
+        <source>One of its quotes has no end.</source>
+        <translation>它的某个引号没有结束。</translation>
+    </message>
+    <message>
+        <source>Column &quot;%1&quot; cannot be read: %2</source>
+        <translation>无法读取列“%1”：%2</translation>
+    </message>
+    <message>
+        <source>The file is no list of tasks: its first line has no column &quot;%1&quot;.</source>
+        <translation>该文件不是任务列表：第一行中没有列“%1”。</translation>
+    </message>
+    <message>
+        <source>It holds bytes that are no text in UTF-8.</source>
+        <translation>它含有不是 UTF-8 文本的字节。</translation>
+    </message>
+    <message>
+        <source>1 task is new.</source>
+        <translation>新增 1 个任务。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks are new.</source>
+        <translation>
+            <numerusform>新增 %n 个任务。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task is changed.</source>
+        <translation>更改 1 个任务。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks are changed.</source>
+        <translation>
+            <numerusform>更改 %n 个任务。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task is the same.</source>
+        <translation>1 个任务相同。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks are the same.</source>
+        <translation>
+            <numerusform>%n 个任务相同。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The file holds no task.</source>
+        <translation>文件中没有任务。</translation>
+    </message>
+    <message>
+        <source>1 category is made.</source>
+        <translation>创建 1 个类别。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n categories are made.</source>
+        <translation>
+            <numerusform>创建 %n 个类别。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task cannot be read and stays out.</source>
+        <translation>1 个任务无法读取，不会导入。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks cannot be read and stay out.</source>
+        <translation>
+            <numerusform>%n 个任务无法读取，不会导入。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 entry is no task and stays out.</source>
+        <translation>1 个条目不是任务，不会导入。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries are no tasks and stay out.</source>
+        <translation>
+            <numerusform>%n 个条目不是任务，不会导入。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 reminder is past and comes in as dismissed.</source>
+        <translation>1 个提醒的时间已过，导入后为已消除状态。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n reminders are past and come in as dismissed.</source>
+        <translation>
+            <numerusform>%n 个提醒的时间已过，导入后为已消除状态。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task repeats and comes in once.</source>
+        <translation>1 个任务会重复，只导入一次。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks repeat and come in once.</source>
+        <translation>
+            <numerusform>%n 个任务会重复，各只导入一次。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task has no due date and is due today.</source>
+        <translation>1 个任务没有截止日期，将设为今天到期。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks have no due date and are due today.</source>
+        <translation>
+            <numerusform>%n 个任务没有截止日期，将设为今天到期。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 further reminder is kept, but does not remind.</source>
+        <translation>另外 1 个提醒会保留，但不会发出提醒。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further reminders are kept, but do not remind.</source>
+        <translation>
+            <numerusform>另外 %n 个提醒会保留，但不会发出提醒。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task is in an unknown time zone and is taken as local time.</source>
+        <translation>1 个任务使用未知的时区，将按本地时间处理。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks are in unknown time zones and are taken as local time.</source>
+        <translation>
+            <numerusform>%n 个任务使用未知的时区，将按本地时间处理。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Tasks cannot be exported or imported: the module &quot;ambertask_exchange&quot; is missing from the program&apos;s folder or damaged.</source>
+        <translation>无法导出或导入任务：程序文件夹中缺少模块“ambertask_exchange”，或该模块已损坏。</translation>
+    </message>
+    <message>
+        <source>Imported</source>
+        <translation>已导入</translation>
+    </message>
+    <message>
+        <source>A task before it has the same UID.</source>
+        <translation>前面已有任务使用相同的 UID。</translation>
+    </message>
+    <message>
+        <source>The file holds more than %1 tasks that are new. Nothing was stored.</source>
+        <translation>文件包含超过 %1 个新任务。未保存任何内容。</translation>
+    </message>
+    <message>
+        <source>The file is too large. Nothing was stored.</source>
+        <translation>文件过大。未保存任何内容。</translation>
+    </message>
+    <message>
+        <source>The file holds %1 tasks that are new, and there is room for %2. Nothing was stored. Delete tasks that you no longer need, then end Ambertask and start it again.</source>
+        <translation>文件包含 %1 个新任务，但只能再容纳 %2 个。未保存任何内容。请删除不再需要的任务，然后退出并重新启动 Ambertask。</translation>
+    </message>
+    <message>
+        <source>The tasks could not be written: %1.</source>
+        <translation>无法写入任务：%1。</translation>
+    </message>
+    <message>
+        <source>Its due date cannot be read: %1</source>
+        <translation>无法读取其截止日期：%1</translation>
+    </message>
+</context>
+<context>
     <name>FileDialogs</name>
     <message>
         <source>Folder</source>
@@ -370,10 +999,153 @@
     </message>
 </context>
 <context>
+    <name>FileExchange</name>
+    <message>
+        <source>iCalendar Files (*.ics)|*.ics</source>
+        <translation>iCalendar 文件 (*.ics)|*.ics</translation>
+    </message>
+    <message>
+        <source>CSV Files (*.csv)|*.csv</source>
+        <translation>CSV 文件 (*.csv)|*.csv</translation>
+    </message>
+    <message>
+        <source>the name of the file ends neither with .ics nor with .csv</source>
+        <translation>文件名不以 .ics 或 .csv 结尾</translation>
+    </message>
+    <message>
+        <source>1 task was exported to &quot;%1&quot;</source>
+        <translation>已将 1 个任务导出到“%1”</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks were exported to &quot;%1&quot;</source>
+        <translation>
+            <numerusform>已将 %n 个任务导出到“%1”</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task was added</source>
+        <translation>已添加 1 个任务</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks were added</source>
+        <translation>
+            <numerusform>已添加 %n 个任务</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 task was changed</source>
+        <translation>已更改 1 个任务</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks were changed</source>
+        <translation>
+            <numerusform>已更改 %n 个任务</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>iCalendar and CSV Files (*.ics;*.csv)|*.ics;*.csv</source>
+        <translation>iCalendar 和 CSV 文件 (*.ics;*.csv)|*.ics;*.csv</translation>
+    </message>
+    <message>
+        <source>Exporting the tasks...</source>
+        <translation>正在导出任务…</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>任务</translation>
+    </message>
+    <message>
+        <source>Nothing was exported: %1</source>
+        <translation>未导出任何内容：%1</translation>
+    </message>
+    <message>
+        <source>Reading the file...</source>
+        <translation>正在读取文件…</translation>
+    </message>
+    <message>
+        <source>Nothing was imported: %1</source>
+        <translation>未导入任何内容：%1</translation>
+    </message>
+    <message>
+        <source>Importing the tasks...</source>
+        <translation>正在导入任务…</translation>
+    </message>
+    <message>
+        <source>Nothing was imported.
+%1</source>
+        <translation>未导入任何内容。
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>FilterFold</name>
+    <message>
+        <source>Unfold the filters</source>
+        <translation>展开筛选条件</translation>
+    </message>
+    <message>
+        <source>Fold the filters away</source>
+        <translation>折叠筛选条件</translation>
+    </message>
+</context>
+<context>
+    <name>FindField</name>
+    <message>
+        <source>Find tasks</source>
+        <translation>查找任务</translation>
+    </message>
+</context>
+<context>
+    <name>GridView</name>
+    <message>
+        <source>Sorts the list</source>
+        <translation>对列表排序</translation>
+    </message>
+    <message>
+        <source>Sorted in ascending order</source>
+        <translation>已按升序排列</translation>
+    </message>
+    <message>
+        <source>Sorted in descending order</source>
+        <translation>已按降序排列</translation>
+    </message>
+</context>
+<context>
     <name>HTMLHelpViewer</name>
     <message>
         <source>The help window is missing from this installation.</source>
         <translation>此安装中缺少帮助窗口。</translation>
+    </message>
+</context>
+<context>
+    <name>ImportListModel</name>
+    <message>
+        <source>New</source>
+        <translation>新增</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>更改</translation>
+    </message>
+    <message>
+        <source>Same</source>
+        <translation>相同</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>导入</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Due Date</source>
+        <translation>截止日期</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>类别</translation>
     </message>
 </context>
 <context>
@@ -389,6 +1161,17 @@
     <message>
         <source>&amp;Keyword</source>
         <translation>关键字(&amp;K)</translation>
+    </message>
+</context>
+<context>
+    <name>KeptCopies</name>
+    <message>
+        <source>it is not a folder</source>
+        <translation>这不是文件夹</translation>
+    </message>
+    <message>
+        <source>the disk is nearly full</source>
+        <translation>磁盘空间即将用尽</translation>
     </message>
 </context>
 <context>
@@ -547,6 +1330,34 @@
     <message>
         <source>Nothing was restored: %1</source>
         <translation>未还原任何内容：%1</translation>
+    </message>
+    <message>
+        <source>Restore from a c&amp;opy...</source>
+        <translation>从副本还原(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>Shows the copies of your data that the program has made by itself</source>
+        <translation>显示程序自动创建的数据副本</translation>
+    </message>
+    <message>
+        <source>Exchange with other programs</source>
+        <translation>与其他程序交换数据</translation>
+    </message>
+    <message>
+        <source>E&amp;xport...</source>
+        <translation>导出(&amp;X)…</translation>
+    </message>
+    <message>
+        <source>Saves all tasks as iCalendar or CSV, for other programs</source>
+        <translation>将所有任务保存为 iCalendar 或 CSV 文件，供其他程序使用</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>导入(&amp;I)…</translation>
+    </message>
+    <message>
+        <source>Adds the tasks of an iCalendar or CSV file; shows first what would happen</source>
+        <translation>添加 iCalendar 或 CSV 文件中的任务；会先显示将要进行的更改</translation>
     </message>
 </context>
 <context>
@@ -735,6 +1546,14 @@
         <source>Preparing the report...</source>
         <translation>正在准备报表…</translation>
     </message>
+    <message>
+        <source>&amp;Save as...</source>
+        <translation>另存为(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>Saves the tasks of the report as iCalendar or CSV, for other programs</source>
+        <translation>将报表中的任务保存为 iCalendar 或 CSV 文件，供其他程序使用</translation>
+    </message>
 </context>
 <context>
     <name>Printing</name>
@@ -752,6 +1571,14 @@
     <message>
         <source>The task &quot;%1&quot; was added; the filters do not show it</source>
         <translation>已添加任务“%1”；当前筛选条件不显示它</translation>
+    </message>
+    <message>
+        <source>The task &quot;%1&quot; was added; the search does not show it</source>
+        <translation>已添加任务“%1”；当前查找不显示它</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>任务</translation>
     </message>
 </context>
 <context>
@@ -934,6 +1761,10 @@
     <message>
         <source>a rule in its table &quot;%1&quot; could remove records</source>
         <translation>其表“%1”中的一条规则可能会删除记录</translation>
+    </message>
+    <message>
+        <source>It has been changed since.</source>
+        <translation>此后它已被更改。</translation>
     </message>
 </context>
 <context>
@@ -1146,6 +1977,208 @@
     </message>
 </context>
 <context>
+    <name>TaskActions</name>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>编辑(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Complete</source>
+        <translation>完成(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>撤消(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>重做(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Postpone</source>
+        <translation>推迟(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Dup&amp;licate</source>
+        <translation>创建副本(&amp;L)</translation>
+    </message>
+    <message>
+        <source>C&amp;opy</source>
+        <translation>复制(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>删除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Status</source>
+        <translation>状态(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Pr&amp;iority</source>
+        <translation>优先级(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Categor&amp;y</source>
+        <translation>类别(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: %1</source>
+        <translation>撤消(&amp;U)：%1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo: %1</source>
+        <translation>重做(&amp;R)：%1</translation>
+    </message>
+</context>
+<context>
+    <name>TaskChoices</name>
+    <message>
+        <source>Set Ba&amp;ck to &quot;Not Started&quot;</source>
+        <translation>恢复为“未开始”(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Complete</source>
+        <translation>完成(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete this task?</source>
+        <translation>确定要删除此任务吗？</translation>
+    </message>
+    <message numerus="yes">
+        <source>Are you sure you want to delete %n tasks?</source>
+        <translation>
+            <numerusform>确定要删除 %n 个任务吗？</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Not Started</source>
+        <translation>未开始(&amp;N)</translation>
+    </message>
+    <message>
+        <source>In &amp;Progress</source>
+        <translation>进行中(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Completed</source>
+        <translation>已完成(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Waiting on someone else</source>
+        <translation>正在等待他人(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;Deferred</source>
+        <translation>已推迟(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;High</source>
+        <translation>高(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Normal</source>
+        <translation>普通(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Low</source>
+        <translation>低(&amp;L)</translation>
+    </message>
+</context>
+<context>
+    <name>TaskFilters</name>
+    <message>
+        <source>A&amp;ll</source>
+        <translation>全部(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Spec&amp;ific</source>
+        <translation>指定(&amp;I)</translation>
+    </message>
+    <message>
+        <source>All tas&amp;ks</source>
+        <translation>所有任务(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Acti&amp;ve tasks only</source>
+        <translation>仅未过期的任务(&amp;V)</translation>
+    </message>
+    <message>
+        <source>E&amp;xpired tasks only</source>
+        <translation>仅已过期的任务(&amp;X)</translation>
+    </message>
+    <message>
+        <source>&amp;From</source>
+        <translation>从(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;To</source>
+        <translation>到(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>显示</translation>
+    </message>
+    <message>
+        <source>Categor&amp;y</source>
+        <translation>类别(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Stat&amp;us</source>
+        <translation>状态(&amp;U)</translation>
+    </message>
+    <message>
+        <source>S&amp;ort by</source>
+        <translation>排序方式(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Due date</source>
+        <translation>截止日期</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>The same order chosen again is turned round</source>
+        <translation>再次选择同一排序方式可反转顺序</translation>
+    </message>
+    <message>
+        <source>Category: %1</source>
+        <translation>类别：%1</translation>
+    </message>
+    <message>
+        <source>Status: %1</source>
+        <translation>状态：%1</translation>
+    </message>
+    <message>
+        <source>Due from %1 to %2</source>
+        <translation>到期日从 %1 至 %2</translation>
+    </message>
+    <message>
+        <source>Active tasks only</source>
+        <translation>仅未过期的任务</translation>
+    </message>
+    <message>
+        <source>Expired tasks only</source>
+        <translation>仅已过期的任务</translation>
+    </message>
+    <message>
+        <source>No filter leaves a task out</source>
+        <translation>没有筛选条件隐藏任务</translation>
+    </message>
+</context>
+<context>
+    <name>TaskGridModel</name>
+    <message>
+        <source>Overdue</source>
+        <translation>已逾期</translation>
+    </message>
+    <message>
+        <source>Due today</source>
+        <translation>今天到期</translation>
+    </message>
+</context>
+<context>
     <name>TaskInput</name>
     <message>
         <source>Reminder date and time should not be earlier than current system date and time</source>
@@ -1216,62 +2249,64 @@
     </message>
 </context>
 <context>
+    <name>TaskMoments</name>
+    <message>
+        <source>1 &amp;day before</source>
+        <translation>提前 1 天(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;At the due moment</source>
+        <translation>到期时(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;5 minutes before</source>
+        <translation>提前 5 分钟(&amp;5)</translation>
+    </message>
+    <message>
+        <source>&amp;15 minutes before</source>
+        <translation>提前 15 分钟(&amp;1)</translation>
+    </message>
+    <message>
+        <source>&amp;30 minutes before</source>
+        <translation>提前 30 分钟(&amp;3)</translation>
+    </message>
+    <message>
+        <source>1 &amp;hour before</source>
+        <translation>提前 1 小时(&amp;H)</translation>
+    </message>
+    <message>
+        <source>To&amp;day, %1</source>
+        <translation>今天 %1(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Tomorrow, %1</source>
+        <translation>明天 %1(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Next &amp;Monday, %1</source>
+        <translation>下周一 %1(&amp;M)</translation>
+    </message>
+</context>
+<context>
+    <name>TaskStoring</name>
+    <message>
+        <source>Nothing was stored: there is no number left for a new category.</source>
+        <translation>未保存任何内容：已没有编号可用于新类别。</translation>
+    </message>
+    <message>
+        <source>Nothing was stored: there is no room for so many tasks.</source>
+        <translation>未保存任何内容：无法容纳这么多任务。</translation>
+    </message>
+    <message>
+        <source>Nothing was stored: the task &quot;%1&quot; has been deleted meanwhile. Choose the file again.</source>
+        <translation>未保存任何内容：任务“%1”在此期间已被删除。请重新选择文件。</translation>
+    </message>
+</context>
+<context>
     <name>TasksPage</name>
-    <message>
-        <source>A&amp;ll</source>
-        <translation>全部(&amp;L)</translation>
-    </message>
-    <message>
-        <source>Spec&amp;ific</source>
-        <translation>指定(&amp;I)</translation>
-    </message>
-    <message>
-        <source>All tas&amp;ks</source>
-        <translation>所有任务(&amp;K)</translation>
-    </message>
-    <message>
-        <source>Acti&amp;ve tasks only</source>
-        <translation>仅未过期的任务(&amp;V)</translation>
-    </message>
-    <message>
-        <source>E&amp;xpired tasks only</source>
-        <translation>仅已过期的任务(&amp;X)</translation>
-    </message>
     <message>
         <source>Tasks</source>
         <translation>任务</translation>
-    </message>
-    <message>
-        <source>&amp;From</source>
-        <translation>从(&amp;F)</translation>
-    </message>
-    <message>
-        <source>&amp;To</source>
-        <translation>到(&amp;T)</translation>
-    </message>
-    <message>
-        <source>Show</source>
-        <translation>显示</translation>
-    </message>
-    <message>
-        <source>Categor&amp;y</source>
-        <translation>类别(&amp;Y)</translation>
-    </message>
-    <message>
-        <source>Stat&amp;us</source>
-        <translation>状态(&amp;U)</translation>
-    </message>
-    <message>
-        <source>S&amp;ort by</source>
-        <translation>排序方式(&amp;O)</translation>
-    </message>
-    <message>
-        <source>Due date</source>
-        <translation>截止日期</translation>
-    </message>
-    <message>
-        <source>Kind</source>
-        <translation>类型</translation>
     </message>
     <message>
         <source>&amp;Add</source>
@@ -1297,10 +2332,6 @@
         <source>Please enter categories in the categories section first.</source>
         <translation>请先在“类别”页中添加类别。</translation>
     </message>
-    <message>
-        <source>Are you sure you want to delete this task?</source>
-        <translation>确定要删除此任务吗？</translation>
-    </message>
 </context>
 <context>
     <name>TopicView</name>
@@ -1311,6 +2342,62 @@
     <message>
         <source>The help file has no readable page &quot;%1&quot;.</source>
         <translation>帮助文件中没有可读取的页面“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>TrayNews</name>
+    <message numerus="yes">
+        <source>%n due</source>
+        <comment>reminders</comment>
+        <translation>
+            <numerusform>%n 个提醒到期</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n overdue</source>
+        <comment>tasks</comment>
+        <translation>
+            <numerusform>%n 个任务逾期</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>2 due, 3 overdue</comment>
+        <translation>%1，%2</translation>
+    </message>
+</context>
+<context>
+    <name>UnchangedFile</name>
+    <message>
+        <source>another program is using it</source>
+        <translation>另一个程序正在使用它</translation>
+    </message>
+</context>
+<context>
+    <name>UndoBar</name>
+    <message>
+        <source>U&amp;ndo</source>
+        <translation>撤消(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>重做(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>已撤消：%1</translation>
+    </message>
+    <message>
+        <source>Not undone: %1</source>
+        <translation>未撤消：%1</translation>
+    </message>
+    <message>
+        <source>Not done again: %1</source>
+        <translation>未重做：%1</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>关闭(&amp;C)</translation>
     </message>
 </context>
 <context>
@@ -1356,6 +2443,13 @@
     <message>
         <source>To store them anew, press &quot;Save Settings&quot; on the page Settings.</source>
         <translation>要重新保存这些设置，请在“设置”页上按“保存设置”。</translation>
+    </message>
+</context>
+<context>
+    <name>UnusableCopy</name>
+    <message>
+        <source>The file is damaged.</source>
+        <translation>文件已损坏。</translation>
     </message>
 </context>
 <context>
@@ -1479,6 +2573,12 @@
     <message>
         <source>The report cannot be shown: the module &quot;ambertask_report&quot; is missing from the program&apos;s folder or damaged.</source>
         <translation>无法显示报表：程序文件夹中缺少模块“ambertask_report”，或该模块已损坏。</translation>
+    </message>
+    <message>
+        <source>The tasks could not be saved.
+%1</source>
+        <translation>无法保存任务。
+%1</translation>
     </message>
 </context>
 <context>
@@ -1682,6 +2782,108 @@
     <message>
         <source>Please browse for a custom icon</source>
         <translation>请选择一个自定义图标</translation>
+    </message>
+</context>
+<context>
+    <name>frmCopies</name>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>还原(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Restore from a Copy</source>
+        <translation>从副本还原</translation>
+    </message>
+    <message>
+        <source>Copies of your data</source>
+        <translation>您的数据的副本</translation>
+    </message>
+    <message>
+        <source>No copy has been made yet. The first one is made before the next change.</source>
+        <translation>还没有创建副本。第一个副本会在下次更改之前创建。</translation>
+    </message>
+    <message>
+        <source>Puts the selected copy in the place of your data, which is kept as another copy</source>
+        <translation>用所选副本替换您的数据；原有数据会保留为另一个副本</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>关闭(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Closes this list and changes nothing</source>
+        <translation>关闭此列表，不做任何更改</translation>
+    </message>
+    <message>
+        <source>Co&amp;pies of your data that the program has made by itself</source>
+        <translation>程序自动创建的数据副本(&amp;P)</translation>
+    </message>
+    <message>
+        <source>The copies could not be compared: %1</source>
+        <translation>无法比较副本：%1</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to restore the copy of %1? Your data as it is now is kept as another copy.</source>
+        <translation>确定要还原 %1 的副本吗？您当前的数据会保留为另一个副本。</translation>
+    </message>
+</context>
+<context>
+    <name>frmImport</name>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>第 %1 行：%2</translation>
+    </message>
+    <message>
+        <source>Line %1, &quot;%2&quot;: %3</source>
+        <translation>第 %1 行“%2”：%3</translation>
+    </message>
+    <message>
+        <source>New categories: %1</source>
+        <translation>新类别：%1</translation>
+    </message>
+    <message>
+        <source>And more that cannot be read.</source>
+        <translation>还有其他无法读取的内容。</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>导入(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Ca&amp;ncel</source>
+        <translation>取消(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Import Tasks</source>
+        <translation>导入任务</translation>
+    </message>
+    <message>
+        <source>Tasks to import</source>
+        <translation>要导入的任务</translation>
+    </message>
+    <message>
+        <source>Programs to start with the reminder</source>
+        <translation>随提醒启动的程序</translation>
+    </message>
+    <message>
+        <source>&amp;Programs to start with the reminder; tick those that you trust</source>
+        <translation>随提醒启动的程序；请勾选您信任的程序(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Summary</source>
+        <translation>摘要(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Tasks</source>
+        <translation>任务(&amp;T)</translation>
+    </message>
+    <message>
+        <source>From &quot;%1&quot;</source>
+        <translation>来自“%1”</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
@@ -1908,6 +3110,22 @@
     <message>
         <source>Pro&amp;gram:</source>
         <translation>程序(&amp;G)：</translation>
+    </message>
+    <message>
+        <source>Set to</source>
+        <translation>设为</translation>
+    </message>
+    <message>
+        <source>Set the due moment to</source>
+        <translation>将到期时间设为</translation>
+    </message>
+    <message>
+        <source>Set the reminder to</source>
+        <translation>将提醒设为</translation>
+    </message>
+    <message>
+        <source>Switches the reminder on; it follows the due moment until it is changed</source>
+        <translation>开启提醒；在更改提醒之前，它随到期时间变动</translation>
     </message>
 </context>
 <context>

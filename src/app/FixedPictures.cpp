@@ -14,44 +14,35 @@ constexpr std::array pictureNames{"00-home", "01-work", "02-shopping", "03-calen
     "13-status-waiting", "14-status-deferred", "15-status-completed", "16-status-not-started",
     "17-status-in-progress", "18-priority-normal", "19-priority-high", "20-priority-low"};
 
+constexpr std::array pictureSizes{16, 24, 32, 48, 64, 96};
+constexpr std::array programSizes{16, 22, 24, 32, 48, 64, 128, 256};
+constexpr std::array windowSizes{16, 24, 32, 48, 64, 128};
+constexpr std::array logoSizes{24, 32, 48, 96};
 constexpr int LogoProportion = 3;
 
-/// `sizes` are heights; a picture is `proportion` times as wide as high.
-template <std::size_t Count>
-QIcon iconOf(const QString& folder, const char* name, const std::array<int, Count>& sizes, int proportion = 1)
-{
-    QList<SizedPicture> pictures;
-    for (const int size : sizes) {
-        pictures.append({QStringLiteral(":/%1/%2/%3.pixels").arg(folder).arg(size).arg(QLatin1String(name)),
-            QSize(size * proportion, size)});
-    }
-    return sizedIcon(pictures);
-}
+const QLatin1String ProgramFolder(":/program");
+const QLatin1String ProgramName("ambertask");
 
 } // namespace
 
 void appendFixedPictures(ImageList& images)
 {
-    constexpr std::array sizes{16, 24, 32, 48, 64, 96};
     for (const char* name : pictureNames) {
-        images.append(iconOf(QStringLiteral("image-list"), name, sizes));
+        images.append(sizedIcon({QLatin1String(":/image-list"), QLatin1String(name), pictureSizes}));
     }
 }
 
 QIcon programIcon()
 {
-    constexpr std::array sizes{16, 22, 24, 32, 48, 64, 128, 256};
-    return iconOf(QStringLiteral("program"), "ambertask", sizes);
+    return sizedIcon({ProgramFolder, ProgramName, programSizes});
 }
 
 QIcon programWindowIcon()
 {
-    constexpr std::array sizes{16, 24, 32, 48, 64, 128};
-    return iconOf(QStringLiteral("program"), "ambertask", sizes);
+    return sizedIcon({ProgramFolder, ProgramName, windowSizes});
 }
 
 QIcon logoIcon()
 {
-    constexpr std::array sizes{24, 32, 48, 96};
-    return iconOf(QStringLiteral("logo"), "logo", sizes, LogoProportion);
+    return sizedIcon({QLatin1String(":/logo"), QLatin1String("logo"), logoSizes, LogoProportion});
 }

@@ -1,17 +1,22 @@
 #include "app/Program.h"
 
+#include "app/FindField.h"
 #include "app/FixedPictures.h"
 #include "app/TasksPage.h"
+#include "app/TrayNews.h"
+#include "app/WindowState.h"
 #include "app/drTasks.h"
 #include "categories/CategoriesPage.h"
 #include "categories/frmCategoryDetails.h"
 #include "data/DataFileCopies.h"
 #include "data/SettingsStore.h"
 #include "data/TaskFilter.h"
+#include "exchange/window/FileExchange.h"
 #include "help/frmAbout.h"
 #include "reminders/frmAlerts.h"
 #include "settings/MaintenancePage.h"
 #include "settings/SettingsPage.h"
+#include "settings/frmCopies.h"
 #include "system/Clock.h"
 #include "system/ErrorReport.h"
 #include "system/Registry.h"
@@ -50,12 +55,16 @@ private:
 
 Program::Program(const Machine& machine)
     : m_machine(machine), m_engine(machine.engine),
+      m_dayCopy(m_engine, [this](const QString& why) { tellNoCopy(why); }),
       m_files(machine.engine.programFolder, machine.shippedFolder),
-      m_services{m_engine, *machine.engine.clock, machine.messages, machine.fileDialogs, machine.errors,
-          machine.shell, *this, m_images, [this] { return m_settings.always_on_top; }, m_files},
+      m_undo(m_engine), m_services{m_engine, *machine.engine.clock, machine.messages, machine.fileDialogs,
+                            machine.errors, machine.shell, *this, m_images,
+                            [this] { return m_settings.always_on_top; }, m_files, m_undo},
       m_skins(m_files, machine.messages), m_helpViewer(machine.helpWindow, m_services)
 {
     m_engine.unreadable = &m_unreadable;
+    m_engine.foreign = &m_foreign;
+    m_engine.copies = &m_dayCopy;
     appendFixedPictures(m_images);
 }
 
@@ -78,6 +87,7 @@ void Program::start(const std::function<bool()>& noteFirstStart)
     if (isSkinLoaded) {
         m_skins.apply();
     }
+    m_windowState->restore();
     m_main->Form_Load();
     m_helpViewer.SetHelpFile(m_files.find(QStringLiteral("Ambertask1.1.chm")));
     // Also when the program starts hidden or its window is never activated: reminders must come. If the
@@ -108,6 +118,8 @@ void Program::makeMainWindow()
     pages.maintenance = new MaintenancePage(m_services);
     m_main = std::make_unique<frmMain>(m_services, m_settings, static_cast<MainWindowHost&>(*this), pages);
 
+    m_windowState = std::make_unique<WindowState>(
+        m_machine.stateFile, *m_main, *pages.tasks->grid(), pages.tasks->fold());
     m_skins.reportOn(m_main.get());
     ErrorReport& errors = m_machine.errors;
     connect(m_main.get(), &frmMain::firstPainted, this, &Program::onFirstPainted, Qt::QueuedConnection);
@@ -119,12 +131,17 @@ void Program::makeMainWindow()
     connect(pages.categories, &CategoriesPage::picturesRead, this, &Program::tellUnreadablePictures);
     // Not guarded: a failed reload ends a restore silently, and onDataRestored() lets no exception out.
     connect(pages.maintenance, &MaintenancePage::dataRestored, this, &Program::onDataRestored);
+    connectGuarded(&m_undo, &UndoHistory::dataChanged, this, &Program::onDataChanged, errors);
+    connectGuarded(pages.maintenance, &MaintenancePage::exportRequested, this, &Program::exportTasks, errors);
+    connectGuarded(pages.maintenance, &MaintenancePage::importRequested, this, &Program::importTasks, errors);
+    connectGuarded(pages.maintenance, &MaintenancePage::copiesRequested, this, &Program::showCopies, errors);
     connectGuarded(pages.maintenance, &MaintenancePage::tasksDeleted, this, &Program::LoadTasks, errors);
     connectGuarded(pages.tasks, &TasksPage::addRequested, this, &Program::addTask, errors);
     connectGuarded(pages.tasks, &TasksPage::editRequested, this, &Program::editTask, errors);
     // Queued behind everything that follows a load: the other lists must not wait for the user's answer.
     connect(
         pages.tasks, &TasksPage::tasksLoaded, this, &Program::tellUnreadableRecords, Qt::QueuedConnection);
+    connect(pages.tasks, &TasksPage::tasksChanged, this, &Program::onTasksChanged);
     connectGuarded(pages.tasks, &TasksPage::printRequested, this, &Program::printTasks, errors);
 
     connectHelp(pages);
@@ -157,6 +174,7 @@ void Program::loadDialogs()
     // Not before the main window is on the screen: a window icon has many pictures, some of them large.
     QApplication::setWindowIcon(programWindowIcon());
     m_main->wakePages();
+    addFindField(m_main->tabs(), *m_main->tasksPage());
     m_main->categoriesPage()->readPictures();
     // The alert window must exist even if a dialog cannot be loaded, and before the user has read why:
     // without it there are no reminders.
@@ -213,6 +231,7 @@ frmAlerts& Program::alerts()
         m_alerts->setHelpEnabled(true);
         // The notification area can vanish while the window is hidden in it; a tick is a moment to notice.
         connect(m_alerts.get(), &frmAlerts::checked, m_main.get(), &frmMain::stayReachable);
+        followTime();
         m_alerts->load();
     }
     return *m_alerts;
@@ -264,20 +283,6 @@ void Program::editTask(qint16 id)
     showOwned(&dialog, m_main.get());
 }
 
-drTasks& Program::report()
-{
-    if (m_report == nullptr) {
-        m_report = std::make_unique<drTasks>(m_services, m_machine.reportWindow);
-    }
-    return *m_report;
-}
-
-void Program::printTasks(const TaskFilter& filter)
-{
-    report().printTasks(filter, m_main.get());
-    tellUnreadableRecords();
-}
-
 void Program::openTask(qint16 id)
 {
     // From the alert the dialog is never made topmost.
@@ -291,16 +296,6 @@ void Program::openTask(qint16 id)
 bool Program::isTaskDialogVisible() const
 {
     return m_taskDetails != nullptr && m_taskDetails->isVisible();
-}
-
-void Program::hideDialogs()
-{
-    if (m_taskDetails != nullptr) {
-        m_taskDetails->hide();
-    }
-    if (m_categoryDetails != nullptr) {
-        m_categoryDetails->hide();
-    }
 }
 
 bool Program::hasNotificationArea() const
@@ -318,15 +313,22 @@ void Program::setTrayCaption(const QString& caption)
     m_main->setTrayCaption(caption);
 }
 
+QList<QWidget*> Program::windowsBeside() const
+{
+    QList<QWidget*> windows{m_about.get(), m_report == nullptr ? nullptr : m_report->window(),
+        m_exchange == nullptr ? nullptr : m_exchange->window(), m_helpViewer.viewerWindow(), m_copies.get(),
+        m_alerts.get()};
+    windows.removeAll(nullptr);
+    return windows;
+}
+
 void Program::placeMainWindow(bool topmost)
 {
     m_main->place(topmost);
     if (topmost) {
         // Windows open beside the main window must not vanish behind it.
-        for (QWidget* window :
-            std::initializer_list<QWidget*>{m_about.get(), m_report == nullptr ? nullptr : m_report->window(),
-                m_helpViewer.viewerWindow(), m_alerts.get()}) {
-            if (window != nullptr && window->isVisible()) {
+        for (QWidget* window : windowsBeside()) {
+            if (window->isVisible()) {
                 makeTopmost(window);
             }
         }
@@ -334,9 +336,7 @@ void Program::placeMainWindow(bool topmost)
     }
     // Windows that came up topmost would stay above those of other programs for good. leaveTopmost() keeps
     // them in front of the main window: a reminder must not vanish behind it.
-    for (QWidget* window : std::initializer_list<QWidget*>{m_taskDetails.get(), m_categoryDetails.get(),
-             m_about.get(), m_report == nullptr ? nullptr : m_report->window(), m_helpViewer.viewerWindow(),
-             m_alerts.get()}) {
+    for (QWidget* window : QList<QWidget*>{m_taskDetails.get(), m_categoryDetails.get()} + windowsBeside()) {
         if (window != nullptr) {
             leaveTopmost(window);
         }
@@ -364,6 +364,7 @@ void Program::end()
 {
     m_ending = true;
     if (m_main != nullptr) {
+        m_windowState->keep();
         m_main->removeTrayIcon();
         m_main->setEnding();
     }
@@ -374,9 +375,13 @@ void Program::unload()
 {
     m_categoryDetails.reset();
     m_taskDetails.reset();
+    m_trayNews.reset();
     m_alerts.reset();
     m_about.reset();
+    m_copies.reset();
     m_report.reset();
+    m_exchange.reset();
+    m_windowState.reset();
     m_main.reset();
     m_helpViewer.Unload();
 }

@@ -1,13 +1,17 @@
 #pragma once
 
 #include "app/frmMain.h"
+#include "data/DayCopy.h"
 #include "data/SettingsRecord.h"
+#include "data/UndoHistory.h"
 #include "data/UnreadableRecords.h"
+#include "exchange/Exchange.h"
 #include "help/HTMLHelpViewer.h"
 #include "reminders/AlertsHost.h"
 #include "report/ReportWindow.h"
 #include "settings/SettingsPageHost.h"
 #include "settings/Skins.h"
+#include "store/ForeignChanges.h"
 #include "system/HelperProcess.h"
 #include "system/ProgramFiles.h"
 #include "system/WaveBackend.h"
@@ -20,11 +24,15 @@
 #include <QObject>
 #include <memory>
 
+class FileExchange;
 class Registry;
+class TrayNews;
+class WindowState;
 class drTasks;
 class frmAbout;
 class frmAlerts;
 class frmCategoryDetails;
+class frmCopies;
 class frmTaskDetails;
 struct TaskFilter;
 
@@ -41,10 +49,13 @@ struct Machine {
     std::function<bool()> hasNotificationArea;
     HelpWindowFactory helpWindow;
     ReportWindowFactory reportWindow;
+    ExchangeFactory exchange = {};
     /// The program that reads pictures; without one they are read between events.
     ProgramPath pictureReader = {};
     /// The folder of shipped skins, sounds and help; empty where they are in the program folder.
     QString shippedFolder = {};
+    /// The file for what the user has arranged in the main window; empty to keep nothing.
+    QString stateFile = {};
 };
 
 /// The program: the one instance of each form and of what they share, and their connections. Interface
@@ -91,12 +102,22 @@ private:
     void onFirstPainted();
     void tellUnreadablePictures();
     void onPictureCame();
+    /// What is late, due and today follows the ticks of the alert window, and so does what other processes
+    /// change in the data file.
+    void followTime();
+    void followOthers();
 
+    /// The loaded windows that may be open beside the main window, dialogs with input aside.
+    QList<QWidget*> windowsBeside() const;
+    FileExchange& exchange();
+    void exportTasks();
+    void importTasks();
     void connectHelp(const MainWindowPages& pages);
     void showAbout();
+    void showCopies();
     void addTask(qint16 category);
     void editTask(qint16 id);
-    void printTasks(const TaskFilter& filter);
+    void printTasks(const TaskFilter& filter, const ShownTasks& shown);
     void onTaskStored();
     void onTaskSaved(qint32 id);
     void onTaskCancelled();
@@ -104,11 +125,17 @@ private:
     void onCategorySaved();
     void onCategoriesChanged();
     void onDataRestored();
+    /// Rows have been changed that any list may show.
+    void onDataChanged();
+    void onTasksChanged();
     /// After a restore the ids that windows remember mean other records: an open dialog keeps its input and
     /// stores it as a new record, the alert empties its list and the next tick fills it.
     void forgetRecords();
     /// Names the records that lists have left out since the last call, once the main window has been seen.
     void tellUnreadableRecords();
+    /// Says at the foot of the page in front, behind what the present change says there, that no copy was
+    /// kept.
+    void tellNoCopy(const QString& why);
     /// The window on which the user is waiting; null when none is on the screen.
     QWidget* waitingWindow() const;
     void reloadCategoryCombos();
@@ -132,20 +159,29 @@ private:
 
     Machine m_machine;
     UnreadableRecords m_unreadable;
-    DatabaseEngine m_engine; ///< a copy of the machine's, with the listener for unreadable records
+    ForeignChanges m_foreign;
+    /// A copy of the machine's, with the listener for unreadable records, the keeper of copies and the watch
+    /// for changes of others.
+    DatabaseEngine m_engine;
+    DayCopy m_dayCopy;
     ProgramFiles m_files;
     ImageList m_images;
     SettingsRecord m_settings;
+    UndoHistory m_undo;
     FormServices m_services;
     Skins m_skins;
     ElidedTextTips m_tips;
     HTMLHelpViewer m_helpViewer;
     std::unique_ptr<frmMain> m_main;
+    std::unique_ptr<WindowState> m_windowState; ///< of the main window
     std::unique_ptr<frmTaskDetails> m_taskDetails;
     std::unique_ptr<frmCategoryDetails> m_categoryDetails;
     std::unique_ptr<frmAlerts> m_alerts;
+    std::unique_ptr<TrayNews> m_trayNews;
     std::unique_ptr<frmAbout> m_about;
+    std::unique_ptr<frmCopies> m_copies;
     std::unique_ptr<drTasks> m_report;
+    std::unique_ptr<FileExchange> m_exchange;
     bool m_hasBeenSeen = false;
     bool m_dialogsLoaded = false;
     bool m_taskDialogHasKeyboard = false; ///< when its task was stored

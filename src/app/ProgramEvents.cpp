@@ -1,12 +1,19 @@
 #include "app/Program.h"
 
 #include "app/TasksPage.h"
+#include "app/TrayNews.h"
+#include "app/drTasks.h"
 #include "categories/CategoriesPage.h"
 #include "categories/frmCategoryDetails.h"
+#include "exchange/window/FileExchange.h"
 #include "reminders/frmAlerts.h"
+#include "settings/MaintenancePage.h"
 #include "settings/SettingsPage.h"
+#include "settings/frmCopies.h"
+#include "system/ErrorReport.h"
 #include "system/PendingEvents.h"
 #include "tasks/frmTaskDetails.h"
+#include "widgets/ChangeTexts.h"
 #include "widgets/GridView.h"
 #include "widgets/MessageBoxes.h"
 #include "widgets/QuietLine.h"
@@ -15,15 +22,16 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QSignalBlocker>
+#include <QTabWidget>
+#include <QTimer>
+#include <array>
 
 // What parts of the program need to know of each other.
 
 void Program::onTaskStored()
 {
     m_taskDialogHasKeyboard = m_taskDetails->isActiveWindow();
-    if (m_alerts != nullptr && m_alerts->isVisible()) {
-        m_alerts->tmrTasksChecker_Timer();
-    }
+    onTasksChanged();
 }
 
 void Program::onTaskSaved(qint32 id)
@@ -34,9 +42,12 @@ void Program::onTaskSaved(qint32 id)
         activate(m_main.get());
     }
     m_main->LoadTasks();
-    if (!m_main->tasksPage()->goToTask(id) && m_taskDetails->tag().isEmpty()) {
-        m_main->tasksPage()->quietLine().say(
-            tr("The task \"%1\" was added; the filters do not show it").arg(m_taskDetails->taskName()));
+    TasksPage& page = *m_main->tasksPage();
+    if (!page.goToTask(id) && m_taskDetails->tag().isEmpty()) {
+        page.quietLine().say(
+            (page.isHiddenByFind(id) ? tr("The task \"%1\" was added; the search does not show it")
+                                     : tr("The task \"%1\" was added; the filters do not show it"))
+                .arg(m_taskDetails->taskName()));
     }
 }
 
@@ -67,6 +78,60 @@ void Program::onCategoriesChanged()
     m_main->LoadTasks();
 }
 
+void Program::onDataChanged()
+{
+    m_main->LoadCategories();
+    onCategoriesChanged();
+    if (m_alerts != nullptr) {
+        m_alerts->tmrTasksChecker_Timer();
+    }
+}
+
+drTasks& Program::report()
+{
+    if (m_report == nullptr) {
+        m_report = std::make_unique<drTasks>(
+            m_services, m_machine.reportWindow, [this](QWidget* owner, const QList<qint32>& ids) {
+                return exchange().exportTasks(owner, tr("Tasks"), {ids});
+            });
+    }
+    return *m_report;
+}
+
+void Program::printTasks(const TaskFilter& filter, const ShownTasks& shown)
+{
+    report().printTasks(filter, m_main.get(), shown);
+    tellUnreadableRecords();
+}
+
+FileExchange& Program::exchange()
+{
+    if (m_exchange == nullptr) {
+        m_exchange = std::make_unique<FileExchange>(m_services, m_machine.exchange);
+        connect(m_exchange.get(), &FileExchange::said, m_main->maintenancePage(), &MaintenancePage::say);
+        connectGuarded(
+            m_exchange.get(), &FileExchange::imported, this, &Program::onDataChanged, m_machine.errors);
+    }
+    return *m_exchange;
+}
+
+void Program::exportTasks()
+{
+    exchange().exportAll(m_main->maintenancePage());
+}
+
+void Program::importTasks()
+{
+    exchange().importTasks(m_main->maintenancePage());
+}
+
+void Program::onTasksChanged()
+{
+    if (m_alerts != nullptr && m_alerts->isVisible()) {
+        m_alerts->tmrTasksChecker_Timer();
+    }
+}
+
 void Program::onPictureCame()
 {
     for (const QWidget* window : std::initializer_list<const QWidget*>{m_main.get(), m_alerts.get()}) {
@@ -75,6 +140,47 @@ void Program::onPictureCame()
                 list->viewport()->update();
             }
         }
+    }
+}
+
+void Program::followTime()
+{
+    connect(m_alerts.get(), &frmAlerts::checked, this, &Program::followOthers);
+    connect(m_alerts.get(), &frmAlerts::checked, m_main->tasksPage(), &TasksPage::followTime);
+    m_trayNews = std::make_unique<TrayNews>(m_engine, m_main->trayIcon(), *m_alerts);
+    const TrayNews* news = m_trayNews.get();
+    connect(m_alerts.get(), &frmAlerts::checked, news, &TrayNews::update);
+    // Queued: the list must not wait for what the icon tells.
+    const TasksPage* page = m_main->tasksPage();
+    connect(page, &TasksPage::tasksLoaded, news, &TrayNews::update, Qt::QueuedConnection);
+    connect(page->grid()->model(), &QAbstractItemModel::rowsRemoved, news, &TrayNews::update,
+        Qt::QueuedConnection);
+}
+
+void Program::followOthers()
+{
+    // An open question or menu is about the rows that were selected when it came up.
+    if (!m_foreign.arePending() || QApplication::activeModalWidget() != nullptr
+        || QApplication::activePopupWidget() != nullptr) {
+        return;
+    }
+    const quint32 seen = m_foreign.latest();
+    try {
+        m_main->LoadCategories();
+        reloadCategoryCombos();
+        {
+            // Records that are left out are told when the user does something: a check brings up no box.
+            const QSignalBlocker hushed(m_main->tasksPage());
+            m_main->LoadTasks();
+        }
+        m_alerts->showAnew();
+        if (m_copies != nullptr) {
+            m_copies->refresh();
+        }
+        m_foreign.setShown(seen);
+    } catch (const RuntimeError&) {
+        // Another process may be writing; the next tick tries again.
+        return;
     }
 }
 
@@ -108,6 +214,7 @@ void Program::tellUnreadableRecords()
 
 void Program::forgetRecords()
 {
+    m_undo.clear();
     m_unreadable.forget();
     if (m_taskDetails != nullptr) {
         m_taskDetails->forgetTask();
@@ -131,6 +238,8 @@ void Program::onDataRestored()
         }
         m_main->LoadCategories();
         reloadCategoryCombos();
+        // The file that took the data file's place counts from another number.
+        m_foreign.setShown(m_foreign.latest());
         // Between the two loads of a long list, which would be too long as one step.
         handlePendingEvents();
         m_main->saveSettings();
@@ -138,6 +247,46 @@ void Program::onDataRestored()
         // A failure after the file was replaced ends the restore silently.
         return;
     }
+}
+
+void Program::hideDialogs()
+{
+    for (QWidget* dialog :
+        std::initializer_list<QWidget*>{m_taskDetails.get(), m_categoryDetails.get(), m_copies.get()}) {
+        if (dialog != nullptr) {
+            dialog->hide();
+        }
+    }
+}
+
+void Program::showCopies()
+{
+    if (m_copies == nullptr) {
+        MaintenancePage* page = m_main->maintenancePage();
+        m_copies = std::make_unique<frmCopies>(m_services,
+            [this, page](const QString& file) { return page->restoreCopy(file, m_copies.get()); });
+        connect(page, &MaintenancePage::dataRestored, m_copies.get(), &frmCopies::hide);
+        connectGuarded(m_main->tasksPage(), &TasksPage::tasksLoaded, m_copies.get(), &frmCopies::refresh,
+            m_machine.errors);
+    }
+    if (m_settings.always_on_top) {
+        makeTopmost(m_copies.get());
+    }
+    showOwned(m_copies.get(), m_main.get());
+}
+
+void Program::tellNoCopy(const QString& why)
+{
+    QTimer::singleShot(0, this, [this, why] {
+        if (m_ending) {
+            return;
+        }
+        const std::array<const QWidget*, 4> pages{
+            m_main->tasksPage(), m_main->categoriesPage(), m_main->settingsPage(), m_main->maintenancePage()};
+        const QWidget* front = pages.at(static_cast<std::size_t>(m_main->tabs().currentIndex()));
+        auto* line = front->findChild<QuietLine*>(QString(), Qt::FindDirectChildrenOnly);
+        line->say(ChangeTexts::withNoCopy(line->said(), why));
+    });
 }
 
 QWidget* Program::waitingWindow() const

@@ -6,15 +6,26 @@
 #include "widgets/TaskPictures.h"
 
 #include <algorithm>
+#include <array>
 
 namespace
 {
+
+struct ColumnSort {
+    int field;
+    qint32 sortBy;
+};
+constexpr std::array Sorts{ColumnSort{TaskListModel::Name, TaskSort::Name},
+    ColumnSort{TaskListModel::Status, TaskSort::Status},
+    ColumnSort{TaskListModel::DueDate, TaskSort::DueDate},
+    ColumnSort{TaskListModel::Periority, TaskSort::Periority}};
 
 QList<GridColumn> columnsFor(const TaskColumns& shown)
 {
     // A column's key begins with the number of columns before it.
     const auto column = [](int field, const QString& word, const QString& header, int divisor) {
-        return GridColumn{field, QStringLiteral("0") + word, header, divisor};
+        const bool isSortable = TaskListModel::sortOf(field) != TaskSort::None;
+        return GridColumn{field, QStringLiteral("0") + word, header, divisor, isSortable};
     };
     QList<GridColumn> columns;
     columns.append(column(TaskListModel::Id, QStringLiteral("id"), TaskListModel::tr("id"), 0));
@@ -40,31 +51,65 @@ QList<GridColumn> columnsFor(const TaskColumns& shown)
 
 } // namespace
 
+qint32 TaskListModel::sortOf(int field)
+{
+    const auto* sort = std::find_if(
+        Sorts.begin(), Sorts.end(), [field](const ColumnSort& one) { return one.field == field; });
+    return sort == Sorts.end() ? TaskSort::None : sort->sortBy;
+}
+
+int TaskListModel::fieldOf(qint32 sortBy)
+{
+    const auto* sort = std::find_if(
+        Sorts.begin(), Sorts.end(), [sortBy](const ColumnSort& one) { return one.sortBy == sortBy; });
+    return sort == Sorts.end() ? -1 : sort->field;
+}
+
+TaskListModel::TaskListModel(const Clock& clock, QObject* parent)
+    : TaskGridModel(clock, Name, DueDate, parent)
+{
+}
+
 void TaskListModel::setTasks(std::vector<ClsTask> tasks, const TaskColumns& shown)
 {
     beginResetModel();
     m_tasks = std::move(tasks);
+    m_shown.reset();
+    standNow();
+    m_search.listReplaced();
+    if (isSearching()) {
+        m_shown = m_search.find(m_tasks);
+    }
     replaceColumns(columnsFor(shown));
     endResetModel();
 }
 
 void TaskListModel::removeTask(int row)
 {
+    const int task = taskOf(row);
     beginRemoveRows({}, row, row);
-    m_tasks.erase(m_tasks.begin() + row);
+    m_tasks.erase(m_tasks.begin() + task);
+    m_search.taskRemoved(task);
+    if (m_shown) {
+        m_shown->erase(m_shown->begin() + row);
+        std::for_each(m_shown->begin() + row, m_shown->end(), [](int& later) { --later; });
+    }
     endRemoveRows();
 }
 
 int TaskListModel::rowOf(qint32 id) const
 {
-    const auto task = std::find_if(
-        m_tasks.cbegin(), m_tasks.cend(), [id](const ClsTask& candidate) { return candidate.Id() == id; });
-    return task == m_tasks.cend() ? -1 : static_cast<int>(task - m_tasks.cbegin());
+    for (int row = 0; row < rowCount(); ++row) {
+        if (idAt(row) == id) {
+            return row;
+        }
+    }
+    return -1;
 }
 
 int TaskListModel::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(m_tasks.size());
+    return parent.isValid() ? 0 : static_cast<int>(m_shown ? m_shown->size() : m_tasks.size());
 }
 
 QString TaskListModel::cellText(int row, int field) const
@@ -116,9 +161,16 @@ QString TaskListModel::cellWord(int row, int field) const
 
 QString TaskListModel::cellNote(int row, int field) const
 {
-    if (field != Name || !m_categoryName) {
-        return {};
+    QStringList notes{urgencyWord(row)};
+    if (field == Name && m_categoryName) {
+        const QString category = m_categoryName(taskAt(row).CategoryId());
+        notes.append(category.isEmpty() ? QString() : tr("Category: %1").arg(category));
     }
-    const QString category = m_categoryName(taskAt(row).CategoryId());
-    return category.isEmpty() ? QString() : tr("Category: %1").arg(category);
+    notes.removeAll(QString());
+    return notes.join(u'\n');
+}
+
+QList<TextPart> TaskListModel::cellMarks(int row, int field) const
+{
+    return field == Name && isSearching() ? m_search.found(cellText(row, field)) : QList<TextPart>();
 }

@@ -1,213 +1,169 @@
 #include "app/TasksPage.h"
 
+#include "app/EmptyListNote.h"
+#include "app/TaskActions.h"
+#include "app/TaskFilters.h"
+#include "app/UndoBar.h"
+#include "data/UndoHistory.h"
 #include "system/Clock.h"
 #include "system/ErrorReport.h"
-#include "widgets/ComboBox.h"
-#include "widgets/Combos.h"
+#include "widgets/ChangeTexts.h"
 #include "widgets/GridView.h"
 #include "widgets/MessageBoxes.h"
 #include "widgets/NamedControls.h"
-#include "widgets/Pickers.h"
 #include "widgets/QuietLine.h"
 #include "widgets/WindowPlacement.h"
-#include "widgets/clsGuiLoader.h"
 
 #include <QBoxLayout>
-#include <QDateEdit>
-#include <QGridLayout>
-#include <QGroupBox>
-#include <QLabel>
+#include <QKeyEvent>
 #include <QPushButton>
-#include <QRadioButton>
-#include <QSignalBlocker>
+#include <QShortcut>
+#include <QTimer>
+#include <chrono>
 #include <optional>
 
 TasksPage::TasksPage(const FormServices& services, std::function<TaskColumns()> shownColumns, QWidget* parent)
     : QWidget(parent), m_services(services), m_shownColumns(std::move(shownColumns)),
-      m_model(new TaskListModel(this)), m_grid(named(new GridView, "grdTasks")),
-      m_categories(named(new ComboBox, "cmbCategories")), m_status(named(new ComboBox, "cmbStatus")),
-      m_sort(named(new ComboBox, "cmbSort")), m_allDate(named(new QRadioButton(tr("A&ll")), "opnAllDate")),
-      m_specificDate(named(new QRadioButton(tr("Spec&ific")), "opnSpecificDate")),
-      m_dateFrom(named(new QDateEdit, "dtpDueDateFrom")), m_dateTo(named(new QDateEdit, "dtpDueDateTo")),
-      m_allTasks(named(new QRadioButton(tr("All tas&ks")), "opnAllTasks")),
-      m_activeTasks(named(new QRadioButton(tr("Acti&ve tasks only")), "opnActiveTasks")),
-      m_expiredTasks(named(new QRadioButton(tr("E&xpired tasks only")), "opnExpiredTasks")),
-      m_quietLine(new QuietLine(QStringLiteral("lblTasksNote"), this))
+      m_model(new TaskListModel(services.clock, this)), m_filters(new TaskFilters(services.clock)),
+      m_grid(named(new GridView, "grdTasks")),
+      m_quietLine(new QuietLine(QStringLiteral("lblTasksNote"), this)),
+      m_actions(new TaskActions(services, *m_grid, *m_model, *this)),
+      m_emptyNote(new EmptyListNote(*m_grid, *this))
 {
     m_grid->setAccessibleName(tr("Tasks"));
     m_grid->setGridModel(m_model);
-    m_model->setCategoryNames([this](qint16 id) {
-        const int index = m_categories->findData(static_cast<qint32>(id));
-        return index < 0 ? QString() : m_categories->itemText(index);
-    });
-    m_dateFromLabel = named(labelFor(m_dateFrom, tr("&From")), "lblDateFrom");
-    m_dateToLabel = named(labelFor(m_dateTo, tr("&To")), "lblDateTo");
+    m_model->setCategoryNames([this](qint16 id) { return m_filters->categoryName(id); });
 
-    auto* filters = new QHBoxLayout;
-    filters->addWidget(makeFilterFrame(), 3);
-    filters->addWidget(makeDueDateFrame(), 2);
-    filters->addWidget(makeTaskTypeFrame(), 2);
     auto* layout = new QVBoxLayout(this);
-    layout->addLayout(filters);
+    layout->addWidget(m_filters);
     layout->addWidget(m_grid, 1);
     layout->addLayout(makeButtonRow());
     layout->addWidget(m_quietLine);
 
+    connect(&services.undo, &UndoHistory::stepsChanged, this, [this] { undoBar(); });
     ErrorReport& errors = services.errors;
-    for (const QComboBox* combo : {m_categories, m_status, m_sort}) {
-        connectGuarded(combo, &QComboBox::activated, this, &TasksPage::filterList_Click, errors);
+    connectGuarded(m_filters, &TaskFilters::changed, this, &TasksPage::filters_Changed, errors);
+    // What it changes is told by the filters, guarded.
+    connect(m_grid, &GridView::sortRequested, this,
+        [this](int field) { m_filters->sortBy(TaskListModel::sortOf(field)); });
+    connectGuarded(m_emptyNote, &EmptyListNote::showAllRequested, m_filters, &TaskFilters::showAll, errors);
+    for (const auto change : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved}) {
+        connect(m_model, change, this, &TasksPage::tellWhatIsShown);
     }
-    for (const QDateEdit* picker : {m_dateFrom, m_dateTo}) {
-        connectGuarded(picker, &QDateEdit::dateChanged, this, &TasksPage::filter_Changed, errors);
-    }
-    for (const QRadioButton* option : {m_allTasks, m_activeTasks, m_expiredTasks}) {
-        connectGuarded(option, &QRadioButton::toggled, this, &TasksPage::opnTaskType_Click, errors);
-    }
-    connectGuarded(m_allDate, &QRadioButton::toggled, this, &TasksPage::opnAllDate_Click, errors);
-    connectGuarded(m_specificDate, &QRadioButton::toggled, this, &TasksPage::opnSpecificDate_Click, errors);
+    connect(m_model, &QAbstractItemModel::modelReset, this, &TasksPage::tellWhatIsShown);
     connectGuarded(m_grid, &GridView::rowDoubleClicked, this, &TasksPage::btnTaskEdit_Click, errors);
     connectGuarded(m_grid, &GridView::enterPressed, this, &TasksPage::btnTaskEdit_Click, errors);
     connectGuarded(m_grid, &GridView::deletePressed, this, &TasksPage::btnTaskDelete_Click, errors);
-}
-
-QWidget* TasksPage::makeFilterFrame()
-{
-    auto* frame = named(new QGroupBox(tr("Show")), "framFilters");
-    // A form layout would put a caption above the middle of its control.
-    auto* layout = new QGridLayout(frame);
-    const auto addRow = [&](int row, QLabel* label, QWidget* combo) {
-        layout->addWidget(label, row, 0);
-        layout->addWidget(combo, row, 1);
-    };
-    addRow(0, named(labelFor(m_categories, tr("Categor&y")), "SCLabel1"), m_categories);
-    addRow(1, named(labelFor(m_status, tr("Stat&us")), "SCLabel2"), m_status);
-    addRow(2, named(labelFor(m_sort, tr("S&ort by")), "SCLabel3"), m_sort);
-    layout->setColumnStretch(1, 1);
-    // A long category name must not widen the page; the program's own words must be seen whole.
-    m_categories->keepNarrow(18);
-    m_status->keepEntriesWhole();
-    m_sort->keepEntriesWhole();
-    return frame;
-}
-
-QWidget* TasksPage::makeDueDateFrame()
-{
-    auto* frame = named(new QGroupBox(tr("Due date")), "framDueDate");
-    auto* layout = new QGridLayout(frame);
-    auto* options = new QHBoxLayout;
-    options->addWidget(m_allDate);
-    options->addWidget(m_specificDate);
-    options->addStretch();
-    layout->addLayout(options, 0, 0, 1, 2);
-    layout->addWidget(m_dateFromLabel, 1, 0);
-    layout->addWidget(m_dateFrom, 1, 1);
-    layout->addWidget(m_dateToLabel, 2, 0);
-    layout->addWidget(m_dateTo, 2, 1);
-    layout->setColumnStretch(1, 1);
-    setUpDatePicker(*m_dateFrom, m_services.clock);
-    setUpDatePicker(*m_dateTo, m_services.clock);
-    m_allDate->setChecked(true);
-    setDatesEnabled(false);
-    return frame;
-}
-
-QWidget* TasksPage::makeTaskTypeFrame()
-{
-    auto* frame = named(new QGroupBox(tr("Kind")), "framTaskType");
-    auto* layout = new QVBoxLayout(frame);
-    for (QRadioButton* option : {m_allTasks, m_activeTasks, m_expiredTasks}) {
-        layout->addWidget(option);
-    }
-    layout->addStretch();
-    m_allTasks->setChecked(true);
-    return frame;
+    connectGuarded(m_actions, &TaskActions::editRequested, this, &TasksPage::btnTaskEdit_Click, errors);
+    connectGuarded(m_actions, &TaskActions::deleteRequested, this, &TasksPage::btnTaskDelete_Click, errors);
+    connectGuarded(m_actions, &TaskActions::tasksChanged, this, &TasksPage::showChanged, errors);
+    connect(m_actions, &TaskActions::undoRequested, this, [this] { undoBar().undo(); });
+    connect(m_actions, &TaskActions::redoRequested, this, [this] { undoBar().redo(); });
 }
 
 QBoxLayout* TasksPage::makeButtonRow()
 {
     auto* row = new QHBoxLayout;
-    const auto add = [row](const char* name, const QString& caption) {
+    const auto add = [row](const char* name, const QString& caption, const QKeySequence& keys = {}) {
         auto* button = named(new QPushButton(caption), name);
+        button->setToolTip(keys.toString(QKeySequence::NativeText));
         row->addWidget(button);
         return button;
     };
+    // The shortcut of a button would take the place of its mnemonic.
+    const auto addWithKeys = [&add](const char* name, const QString& caption, const QKeySequence& keys) {
+        auto* button = add(name, caption, keys);
+        connect(new QShortcut(keys, button), &QShortcut::activated, button, &QPushButton::click);
+        return button;
+    };
     ErrorReport& errors = m_services.errors;
-    connectGuarded(
-        add("btnTaskAdd", tr("&Add")), &QPushButton::clicked, this, &TasksPage::btnTaskAdd_Click, errors);
-    connectGuarded(
-        add("btnTaskEdit", tr("&Edit")), &QPushButton::clicked, this, &TasksPage::btnTaskEdit_Click, errors);
-    connectGuarded(add("btnTaskDelete", tr("&Delete")), &QPushButton::clicked, this,
+    connectGuarded(addWithKeys("btnTaskAdd", tr("&Add"), QKeySequence::New), &QPushButton::clicked, this,
+        &TasksPage::btnTaskAdd_Click, errors);
+    // The keys of these two are those of TaskActions and of the list.
+    connectGuarded(add("btnTaskEdit", tr("&Edit"), Qt::Key_F2), &QPushButton::clicked, this,
+        &TasksPage::btnTaskEdit_Click, errors);
+    connectGuarded(add("btnTaskDelete", tr("&Delete"), Qt::Key_Delete), &QPushButton::clicked, this,
         &TasksPage::btnTaskDelete_Click, errors);
     row->addStretch();
-    connectGuarded(add("btnTaskPrint", tr("&Print")), &QPushButton::clicked, this,
-        &TasksPage::btnTaskPrint_Click, errors);
+    connectGuarded(addWithKeys("btnTaskPrint", tr("&Print"), QKeySequence::Print), &QPushButton::clicked,
+        this, &TasksPage::btnTaskPrint_Click, errors);
     connect(add("btnHelpTasks", tr("&Help")), &QPushButton::clicked, this, &TasksPage::helpRequested);
     return row;
 }
 
 void TasksPage::fillFilters()
 {
-    const clsGuiLoader loader(m_services.engine);
-    loader.LoadCategoriesCombo(*m_categories);
-    loader.LoadStatusCombo(*m_status);
-    loader.LoadSortByCombo(*m_sort);
+    m_filters->fillLists(m_services.engine);
 }
 
 void TasksPage::reloadCategories()
 {
-    clsGuiLoader(m_services.engine).reloadCategoriesCombo(*m_categories);
+    m_filters->reloadCategories(m_services.engine);
 }
 
 void TasksPage::startWith(bool todayOnly)
 {
-    const QDate today = toQDate(m_services.clock.now());
-    for (QDateEdit* picker : {m_dateFrom, m_dateTo}) {
-        const QSignalBlocker blocker(picker);
-        picker->setDate(today);
-    }
-    QRadioButton* option = todayOnly ? m_specificDate : m_allDate;
-    {
-        // So that the handler runs even if the option was selected before.
-        const QSignalBlocker allBlocker(m_allDate);
-        const QSignalBlocker specificBlocker(m_specificDate);
-        option->setChecked(true);
-    }
-    setDatesEnabled(todayOnly);
+    m_filters->startWith(toQDate(m_services.clock.now()), todayOnly);
     LoadTasks();
+}
+
+void TasksPage::followTime()
+{
+    m_isBehind = m_filters->moveOnTo(toQDate(m_services.clock.now())) || m_isBehind;
+    if (m_isBehind) {
+        try {
+            LoadTasks();
+        } catch (const RuntimeError&) {
+            return;
+        }
+    }
+    m_model->followTime();
+}
+
+FilterFold& TasksPage::fold() const
+{
+    return m_filters->fold();
 }
 
 TaskFilter TasksPage::filter() const
 {
-    TaskFilter filter;
-    filter.category = static_cast<qint16>(selectedNumber(*m_categories, CategoryFilter::All));
-    filter.status = selectedNumber(*m_status, TaskStatus::All);
-    filter.sortBy = selectedNumber(*m_sort, TaskSort::None);
-    filter.isDateRange = m_specificDate->isChecked();
-    filter.fromDate = toMoment(m_dateFrom->date());
-    filter.toDate = toMoment(m_dateTo->date());
-    filter.taskType = m_activeTasks->isChecked() ? TaskType::Active
-        : m_allTasks->isChecked()                ? TaskType::All
-                                                 : TaskType::Expired;
-    return filter;
+    return m_filters->filter();
 }
 
 int TasksPage::selectedCategoryIndex() const
 {
-    return m_categories->currentIndex();
+    return m_filters->selectedCategoryIndex();
 }
 
 void TasksPage::LoadTasks()
 {
     // Read before the list is cleared: a store that cannot be read must not look like an empty one.
-    std::vector<ClsTask> tasks = filter().tasks(m_services.engine);
+    const TaskFilter shown = filter();
+    std::vector<ClsTask> tasks = shown.tasks(m_services.engine);
     const int row = m_grid->currentIndex().row();
     const std::optional<qint32> current = row < 0 ? std::nullopt : std::optional(m_model->idAt(row));
     m_model->setImageList(&m_services.imgLstCategories);
     m_model->setTasks(std::move(tasks), m_shownColumns());
+    m_grid->showSort(
+        TaskListModel::fieldOf(shown.sortBy), shown.isDescending ? Qt::DescendingOrder : Qt::AscendingOrder);
+    m_isBehind = false;
     if (current) {
         goToTask(*current);
     }
     emit tasksLoaded();
+}
+
+void TasksPage::showChanged(const QList<qint32>& ids)
+{
+    const QList<int> before = m_grid->selectedRows();
+    LoadTasks();
+    const QList<int> rows = m_model->rowsOf(ids);
+    if (rows.isEmpty() && !before.isEmpty()) {
+        m_grid->selectOnly(qMin(before.first(), m_model->rowCount() - 1));
+    } else {
+        m_grid->selectRows(rows);
+    }
+    emit tasksChanged();
 }
 
 bool TasksPage::goToTask(qint32 id)
@@ -217,6 +173,78 @@ bool TasksPage::goToTask(qint32 id)
         m_grid->goTo(row);
     }
     return row >= 0;
+}
+
+void TasksPage::find(const QString& text)
+{
+    m_sought = text.simplified();
+    if (m_model->lookFor(text)) {
+        // Otherwise Qt would select another row instead of one that goes.
+        m_grid->letGo([this](int row) { return !m_model->isFound(row); });
+        m_model->showFound();
+    }
+    tellWhatIsShown();
+}
+
+void TasksPage::prepareFind()
+{
+    if (m_searchRest != nullptr) {
+        m_searchRest->stop();
+    }
+    prepareNextPart();
+}
+
+void TasksPage::prepareNextPart()
+{
+    if (m_model->prepareSearch()) {
+        QTimer::singleShot(0, this, &TasksPage::prepareNextPart);
+    }
+}
+
+void TasksPage::restSearchLater()
+{
+    constexpr std::chrono::minutes KeptForTheNextSearch(1);
+    if (m_searchRest == nullptr) {
+        m_searchRest = new QTimer(this);
+        m_searchRest->setSingleShot(true);
+        m_searchRest->setInterval(KeptForTheNextSearch);
+        connect(m_searchRest, &QTimer::timeout, this, [this] {
+            if (!m_model->isSearching()) {
+                m_model->restSearch();
+            }
+        });
+    }
+    m_searchRest->start();
+}
+
+void TasksPage::tellWhatIsShown()
+{
+    const int all = m_model->taskCount();
+    const int shown = m_model->rowCount();
+    m_quietLine->setStanding(m_model->isSearching() ? foundText(shown, all) : QString());
+    m_emptyNote->tell(emptyList(all, shown, filter().isNarrow()), m_sought);
+}
+
+void TasksPage::enterList()
+{
+    focusList();
+    if (m_grid->selectedRow() < 0) {
+        m_grid->selectOnly(0);
+    }
+}
+
+bool TasksPage::isHiddenByFind(qint32 id) const
+{
+    return m_model->hasTask(id) && m_model->rowOf(id) < 0;
+}
+
+void TasksPage::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape && m_model->isSearching()) {
+        emit findEnded();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
 }
 
 void TasksPage::setGridLines(bool shown)
@@ -235,54 +263,28 @@ void TasksPage::focusList()
     m_grid->setFocus(Qt::OtherFocusReason);
 }
 
-void TasksPage::filter_Changed()
+UndoBar& TasksPage::undoBar()
+{
+    if (m_undoBar == nullptr) {
+        m_undoBar = new UndoBar(m_services.undo, this);
+        auto* column = static_cast<QBoxLayout*>(layout());
+        column->insertWidget(column->indexOf(m_grid) + 1, m_undoBar);
+        m_undoBar->followInTabOrder(m_grid);
+        connect(m_undoBar, &UndoBar::focusLeft, this, &TasksPage::focusList);
+    }
+    return *m_undoBar;
+}
+
+void TasksPage::filters_Changed()
 {
     // The wheel and assistive technology get here without the key or click that clears the line.
     m_quietLine->hush();
     LoadTasks();
 }
 
-void TasksPage::filterList_Click()
-{
-    if (window()->isVisible()) {
-        filter_Changed();
-    }
-}
-
-void TasksPage::opnAllDate_Click(bool selected)
-{
-    if (selected) {
-        setDatesEnabled(false);
-        filter_Changed();
-    }
-}
-
-void TasksPage::opnSpecificDate_Click(bool selected)
-{
-    if (selected) {
-        setDatesEnabled(true);
-        filter_Changed();
-    }
-}
-
-void TasksPage::opnTaskType_Click(bool selected)
-{
-    if (selected) {
-        filter_Changed();
-    }
-}
-
-void TasksPage::setDatesEnabled(bool enabled)
-{
-    m_dateFromLabel->setEnabled(enabled);
-    m_dateToLabel->setEnabled(enabled);
-    m_dateFrom->setEnabled(enabled);
-    m_dateTo->setEnabled(enabled);
-}
-
 void TasksPage::btnTaskAdd_Click()
 {
-    if (m_categories->count() == 1) {
+    if (!m_filters->hasCategories()) {
         m_services.messages.tell(this, MessageBoxes::Icon::Information,
             tr("Please enter categories in the categories section first."));
         return;
@@ -300,19 +302,25 @@ void TasksPage::btnTaskEdit_Click()
 
 void TasksPage::btnTaskPrint_Click()
 {
-    emit printRequested(filter());
+    emit printRequested(filter(), m_model->isSearching() ? ShownTasks(m_model->shownIds()) : std::nullopt);
 }
 
 void TasksPage::btnTaskDelete_Click()
 {
-    if (m_grid->selectedRow() < 0) {
+    const TaskChoices tasks = m_actions->choices();
+    if (tasks.isEmpty() || !m_services.messages.ask(this, tasks.deleteQuestion())) {
         return;
     }
-    const qint32 id = m_model->idAt(m_grid->selectedRow());
-    if (!m_services.messages.ask(this, tr("Are you sure you want to delete this task?"))) {
+    if (tasks.count() > 1) {
+        m_actions->remove(tasks);
         return;
     }
-    ClsTask(m_services.engine).DeleteById(narrowId(id, QT_TRANSLATE_NOOP("OverflowError", "task id")));
+    const qint32 id = tasks.ids().first();
+    const qint16 shortId = narrowId(id, QT_TRANSLATE_NOOP("OverflowError", "task id"));
+    m_services.undo.run([&](const DatabaseEngine& engine) {
+        ClsTask(engine).DeleteById(shortId);
+        return ChangeTexts::deleted(1);
+    });
     // The list may have been rebuilt while the question was open.
     if (const int row = m_model->rowOf(id); row >= 0) {
         m_model->removeTask(row);

@@ -7,14 +7,15 @@
 #include <QWidget>
 #include <functional>
 
-class ComboBox;
+class EmptyListNote;
+class FilterFold;
 class GridView;
 class QBoxLayout;
-class QDateEdit;
-class QLabel;
 class QPushButton;
-class QRadioButton;
 class QuietLine;
+class TaskActions;
+class TaskFilters;
+class UndoBar;
 
 /// The page "Tasks": filters, list and buttons. A change of any filter rebuilds the list at once.
 class TasksPage : public QWidget
@@ -32,18 +33,35 @@ public:
     void reloadCategories();
     /// Sets both date pickers to today, selects specific dates or all dates, and rebuilds the list.
     void startWith(bool todayOnly);
+    /// To be called now and then: shows what has become late, and on another day the tasks of that day if
+    /// the page was started with today's. Never throws: what fails is tried again by the next call.
+    void followTime();
     /// Rebuilds the list from the filters; the current row stays on its task. Throws DatabaseError, and
     /// then the list is as it was.
     void LoadTasks();
 
     /// Makes the task's row the current one and scrolls to it. False when the list does not show the task.
     bool goToTask(qint32 id);
+    /// Folds the texts of the list for the first key of a search, in parts, so that keys come between.
+    void prepareFind();
+    /// Gives the memory of the search back after a while, if nothing is looked for then.
+    void restSearchLater();
+    /// Shows those of the tasks that hold all words of `text` in name or description; all for an empty text.
+    /// The selected rows and the current one stay so while they are shown.
+    void find(const QString& text);
+    /// Gives the focus to the list and selects its first row if none is selected.
+    void enterList();
+    /// Whether the filters show the task, but it does not hold what is looked for.
+    bool isHiddenByFind(qint32 id) const;
     void setGridLines(bool shown);
     /// Gives the focus to the list, and activates its window if it is visible, whichever page is in front.
     void focusGrid();
     /// The same without activating the window.
     void focusList();
+    /// The bar that takes changes back, under the list; made at its first use.
+    UndoBar& undoBar();
     GridView* grid() const { return m_grid; }
+    FilterFold& fold() const;
     /// The line that says how an action ended.
     QuietLine& quietLine() const { return *m_quietLine; }
     TaskFilter filter() const;
@@ -56,42 +74,41 @@ signals:
     void editRequested(qint16 id);
     /// The list has been rebuilt.
     void tasksLoaded();
+    /// Tasks were changed from the list, and it has been rebuilt.
+    void tasksChanged();
     void helpRequested();
     /// "Print" was pressed; the report shows what the filters select.
-    void printRequested(const TaskFilter& filter);
+    void printRequested(const TaskFilter& filter, const ShownTasks& shown);
+    /// Escape was pressed in the list while something is looked for.
+    void findEnded();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void btnTaskAdd_Click();
     void btnTaskEdit_Click();
     void btnTaskDelete_Click();
     void btnTaskPrint_Click();
-    void opnAllDate_Click(bool selected);
-    void opnSpecificDate_Click(bool selected);
-    void opnTaskType_Click(bool selected);
-    void filter_Changed();
-    void filterList_Click();
+    void filters_Changed();
+    void showChanged(const QList<qint32>& ids);
 
-    QWidget* makeFilterFrame();
-    QWidget* makeDueDateFrame();
-    QWidget* makeTaskTypeFrame();
     QBoxLayout* makeButtonRow();
-    void setDatesEnabled(bool enabled);
+    /// Says how many tasks were found, or why the list is empty.
+    void tellWhatIsShown();
+    void prepareNextPart();
 
     const FormServices& m_services;
     std::function<TaskColumns()> m_shownColumns;
     TaskListModel* m_model;
+    TaskFilters* m_filters;
     GridView* m_grid;
-    ComboBox* m_categories;
-    ComboBox* m_status;
-    ComboBox* m_sort;
-    QRadioButton* m_allDate;
-    QRadioButton* m_specificDate;
-    QLabel* m_dateFromLabel;
-    QLabel* m_dateToLabel;
-    QDateEdit* m_dateFrom;
-    QDateEdit* m_dateTo;
-    QRadioButton* m_allTasks;
-    QRadioButton* m_activeTasks;
-    QRadioButton* m_expiredTasks;
     QuietLine* m_quietLine;
+    TaskActions* m_actions;
+    UndoBar* m_undoBar = nullptr;
+    /// The filters have moved on to another day, the list has not yet.
+    bool m_isBehind = false;
+    EmptyListNote* m_emptyNote;
+    QString m_sought;
+    QTimer* m_searchRest = nullptr; ///< made when it is needed
 };

@@ -16,6 +16,7 @@
 #include <QCoreApplication>
 #include <QLocale>
 #include <array>
+#include <set>
 
 namespace
 {
@@ -23,7 +24,7 @@ namespace
 using Kind = ReportControl::Kind;
 
 const QLatin1String Detail("cmdTasks_Detail");
-constexpr QSize LogoSize(288, 96);
+constexpr QSize ReportLogoSize(288, 96);
 // Behind the language code stands the format of the date.
 const QLatin1String DueDateFormat("$l$dd/MM/yyyy");
 
@@ -81,8 +82,9 @@ std::unique_ptr<ReportWindow> loadReportWindow(Modules& modules, ReportHost& hos
     return std::unique_ptr<ReportWindow>(make == nullptr ? nullptr : make(host));
 }
 
-drTasks::drTasks(const FormServices& services, ReportWindowFactory makeWindow)
-    : m_services(services), m_makeWindow(std::move(makeWindow)), m_sections(makeSections())
+drTasks::drTasks(const FormServices& services, ReportWindowFactory makeWindow, TaskSaving saveTasks)
+    : m_services(services), m_makeWindow(std::move(makeWindow)), m_saveTasks(std::move(saveTasks)),
+      m_sections(makeSections())
 {
     DataReport_Initialize();
 }
@@ -95,16 +97,16 @@ void drTasks::DataReport_Initialize()
     m_formats[QStringLiteral("txtTaskStatus")] = {statusFormat_Format};
 }
 
-void drTasks::printTasks(const TaskFilter& filter, QWidget* owner)
+void drTasks::printTasks(const TaskFilter& filter, QWidget* owner, const ShownTasks& shown)
 {
-    readReport(filter);
+    readReport(filter, shown);
     if (m_services.alwaysOnTop()) {
         makeTopmost(m_window->widget());
     }
     showOwned(m_window->widget(), owner);
 }
 
-void drTasks::readReport(const TaskFilter& filter)
+void drTasks::readReport(const TaskFilter& filter, const ShownTasks& shown)
 {
     Connection connection = ClsDatabase(m_services.engine).Connect();
     connection.open();
@@ -112,9 +114,11 @@ void drTasks::readReport(const TaskFilter& filter)
     ReportWindow& window = loadedWindow();
     bindFields();
     // A report may stay open for long; read to the end, the record set holds no lock on the data file.
-    ReportContent content{tr("Tasks Report"), logoIcon().pixmap(LogoSize, 1).toImage(), m_sections,
-        readRecords(records, filter)};
+    ReportRecords read = readRecords(records, filter, shown);
+    ReportContent content{tr("Tasks Report"), logoIcon().pixmap(ReportLogoSize, 1).toImage(), m_sections,
+        std::move(read.texts)};
     window.setContent(std::move(content));
+    m_ids = std::move(read.ids);
     forFinalizing(std::move(connection), std::move(records));
 }
 
@@ -131,7 +135,8 @@ void drTasks::bindFields()
     }
 }
 
-std::vector<std::vector<QString>> drTasks::readRecords(RecordSet& records, const TaskFilter& filter) const
+drTasks::ReportRecords drTasks::readRecords(
+    RecordSet& records, const TaskFilter& filter, const ShownTasks& shown) const
 {
     struct Column {
         int field;
@@ -155,11 +160,13 @@ std::vector<std::vector<QString>> drTasks::readRecords(RecordSet& records, const
         ClsTask task;
         std::vector<QString> texts;
     };
-    TaskRows shown(m_services.engine, records);
+    const std::set<qint32> ids = shown ? std::set(shown->begin(), shown->end()) : std::set<qint32>();
+    TaskRows rows(m_services.engine, records);
     std::vector<ReportedTask> tasks;
     for (; !records.atEnd(); records.moveNext()) {
         ReportedTask& read = tasks.emplace_back(ReportedTask{ClsTask(m_services.engine), {}});
-        if (!readOrLeaveOut(m_services.engine, [&] { shown.read(records, read.task); })) {
+        if (!readOrLeaveOut(m_services.engine, [&] { rows.read(records, read.task); })
+            || (shown && ids.count(read.task.Id()) == 0)) {
             tasks.pop_back();
             continue;
         }
@@ -172,13 +179,20 @@ std::vector<std::vector<QString>> drTasks::readRecords(RecordSet& records, const
             }
         }
     }
-    putInOrder(tasks, filter.sortBy, [](const ReportedTask& read) -> const ClsTask& { return read.task; });
-    std::vector<std::vector<QString>> rows;
-    rows.reserve(tasks.size());
-    for (ReportedTask& task : tasks) {
-        rows.push_back(std::move(task.texts));
+    const auto taskOf = [](const ReportedTask& read) -> const ClsTask& {
+        return read.task;
+    };
+    putInOrder(tasks, filter.sortBy, taskOf);
+    if (filter.isDescending) {
+        turnRound(tasks, filter.sortBy, taskOf);
     }
-    return rows;
+    ReportRecords read;
+    read.texts.reserve(tasks.size());
+    for (ReportedTask& task : tasks) {
+        read.ids.append(task.task.Id());
+        read.texts.push_back(std::move(task.texts));
+    }
+    return read;
 }
 
 ReportWindow& drTasks::loadedWindow()
@@ -213,6 +227,16 @@ void drTasks::DataReport_QueryClose()
 QString drTasks::choosePdfFile(QWidget* owner)
 {
     return ::choosePdfFile(m_services, owner, tr("Tasks Report") + QStringLiteral(".pdf"));
+}
+
+QString drTasks::saveTasks(QWidget* owner)
+{
+    try {
+        return m_saveTasks(owner, m_ids);
+    } catch (const RuntimeError& error) {
+        tellFailure(owner, tr("The tasks could not be saved.\n%1").arg(error.text()));
+        return {};
+    }
 }
 
 void drTasks::tellFailure(QWidget* owner, const QString& text)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/TaskListModel.h"
 #include "app/TaskReportFormats.h"
 #include "data/TaskFilter.h"
 #include "report/ReportWindow.h"
@@ -17,19 +18,23 @@ inline constexpr char ReportModule[] = "ambertask_report";
 /// Loads the report module; nothing when there is none.
 std::unique_ptr<ReportWindow> loadReportWindow(Modules& modules, ReportHost& host);
 
+/// Asks for a file and saves those tasks in a form for other programs. Returns what to say about it, empty
+/// when the user has cancelled. Throws RuntimeError.
+using TaskSaving = std::function<QString(QWidget* owner, const QList<qint32>& ids)>;
+
 /// The report of tasks. One instance for all print runs: each shows its tasks in the same window.
 class drTasks final : private ReportHost
 {
     Q_DECLARE_TR_FUNCTIONS(drTasks)
 
 public:
-    drTasks(const FormServices& services, ReportWindowFactory makeWindow);
+    drTasks(const FormServices& services, ReportWindowFactory makeWindow, TaskSaving saveTasks);
     ~drTasks() override;
 
     /// Runs the query of `filter` on a connection of its own, binds the fields to its columns and shows the
-    /// report above `owner`. Throws RuntimeError, also Cancelled, and then the report shows what it showed
-    /// before.
-    void printTasks(const TaskFilter& filter, QWidget* owner);
+    /// report, of the tasks that are `shown`, above `owner`. Throws RuntimeError, also Cancelled, and then
+    /// the report shows what it showed before.
+    void printTasks(const TaskFilter& filter, QWidget* owner, const ShownTasks& shown = {});
 
     /// Creates the two format objects and attaches them to their controls.
     void DataReport_Initialize();
@@ -44,18 +49,25 @@ public:
     QWidget* window() const { return m_window == nullptr ? nullptr : m_window->widget(); }
 
 private:
-    void readReport(const TaskFilter& filter);
+    void readReport(const TaskFilter& filter, const ShownTasks& shown);
     void bindFields();
     /// Reads the record set to its end: the records that the list shows, in its order.
-    std::vector<std::vector<QString>> readRecords(RecordSet& records, const TaskFilter& filter) const;
+    struct ReportRecords {
+        QList<qint32> ids;
+        std::vector<std::vector<QString>> texts;
+    };
+    ReportRecords readRecords(RecordSet& records, const TaskFilter& filter, const ShownTasks& shown) const;
     ReportWindow& loadedWindow();
 
     QString choosePdfFile(QWidget* owner) override;
+    QString saveTasks(QWidget* owner) override;
     void tellFailure(QWidget* owner, const QString& text) override;
     void windowClosed() override;
 
     const FormServices& m_services;
     ReportWindowFactory m_makeWindow;
+    TaskSaving m_saveTasks;
+    QList<qint32> m_ids; ///< of the tasks of the report, in its order
     std::vector<ReportSection> m_sections;
     std::map<QString, DataFormat> m_formats; ///< by control name
     std::optional<Connection> m_connection;

@@ -13,6 +13,7 @@
 #include "widgets/CloseBox.h"
 #include "widgets/LetterScale.h"
 #include "widgets/LinkLabel.h"
+#include "widgets/MenuPlace.h"
 #include "widgets/NamedControls.h"
 #include "widgets/PictureLabel.h"
 #include "widgets/WindowPlacement.h"
@@ -385,7 +386,7 @@ void frmMain::header_Menu(const QPoint& place, bool byKeys)
     // An icon in the notification area may be out of reach for the keyboard, so keys always open the menu
     // here.
     if (byKeys || !m_host.hasNotificationArea()) {
-        m_trayMenu->popup(place);
+        popUpAt(*m_trayMenu, place);
         m_trayMenu->setActiveAction(byKeys ? m_mnuShow : nullptr);
     }
 }

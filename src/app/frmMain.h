@@ -84,14 +84,17 @@ public:
     void place(bool topmost);
     /// Has an effect only while the window loads; afterwards the caption follows the window.
     void setTrayCaption(const QString& caption);
+    TrayIcon& trayIcon() { return m_trayIcon; }
     void removeTrayIcon() { m_trayIcon.remove(); }
     /// From now on the window accepts close requests.
     void setEnding() { m_ending = true; }
     /// Minimizes a window that is hidden while the desktop has no notification area.
     void stayReachable();
 
+    QTabWidget& tabs() const { return *m_tabs; }
     TasksPage* tasksPage() const { return m_pages.tasks; }
     CategoriesPage* categoriesPage() const { return m_pages.categories; }
+    MaintenancePage* maintenancePage() const { return m_pages.maintenance; }
     SettingsPage* settingsPage() const { return m_pages.settings; }
 
 signals:

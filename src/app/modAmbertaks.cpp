@@ -1,10 +1,12 @@
 #include "app/modAmbertaks.h"
 
 #include "app/Application.h"
+#include "app/CommandRun.h"
 #include "app/DisplayGate.h"
 #include "app/Program.h"
 #include "app/drTasks.h"
 #include "categories/PictureReader.h"
+#include "exchange/Exchange.h"
 #include "system/Clock.h"
 #include "system/FileReplace.h"
 #include "system/FormerCopies.h"
@@ -34,7 +36,8 @@ namespace
 struct RealMachine {
     RealMachine(const Installation& installation, const QString& programFolder, ErrorReport& errorReport)
         : shippedFolder(installation.shippedFolder),
-          modules(installation.moduleFolder, {QLatin1String(HelpModule), QLatin1String(ReportModule)},
+          modules(installation.moduleFolder,
+              {QLatin1String(HelpModule), QLatin1String(ReportModule), QLatin1String(ExchangeModule)},
               {QLatin1String(SoundProgram), QLatin1String(PictureProgram)}),
           engine{programFolder, &clock, nullptr, nullptr, &dataFileIsSound}, errors(errorReport)
     {
@@ -46,7 +49,9 @@ struct RealMachine {
             [this] { return makeWaveBackend(modules); }, TrayIcon::isAreaAvailable,
             [this](HelpHost& host) { return loadHelpWindow(modules, host); },
             [this](ReportHost& host) { return loadReportWindow(modules, host); },
-            [this] { return modules.program(QLatin1String(PictureProgram)); }, shippedFolder};
+            [this] { return loadExchange(modules); },
+            [this] { return modules.program(QLatin1String(PictureProgram)); }, shippedFolder,
+            pathIn(userStateFolder(), QStringLiteral("window"))};
     }
 
     QString shippedFolder;
@@ -119,12 +124,26 @@ QString hindranceOf(const QString& folderFailure, const SingleInstance& guard)
               .arg(failure);
 }
 
+/// What stands behind the program's name.
+QStringList argumentsOf(int argc, char** argv)
+{
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i) {
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    }
+    return arguments;
+}
+
 } // namespace
 
 int runAmbertask(int argc, char** argv)
 {
+    const CommandLine line = CommandLine::read(argumentsOf(argc, argv));
     const Installation installation = runningInstallation();
     const QString programFolder = programFolderOf(installation, userDataFolder());
+    if (line.command != CommandLine::Command::Start) {
+        return runCommand(line, argc, argv, installation, programFolder);
+    }
     const QString folderFailure = prepareProgramFolder(installation, programFolder);
     // Before anything else exists: a second copy must leave without a trace.
     SingleInstance guard(programFolder);

@@ -4,10 +4,12 @@
 #include "categories/StandInPicture.h"
 #include "categories/frmCategoryDetails.h"
 #include "data/ClsCategory.h"
+#include "data/UndoHistory.h"
 #include "system/ErrorReport.h"
 #include "widgets/ImageList.h"
 #include "widgets/MessageBoxes.h"
 #include "widgets/PlainText.h"
+#include "widgets/QuietLine.h"
 #include "widgets/WindowPlacement.h"
 
 #include <QBoxLayout>
@@ -60,6 +62,7 @@ CategoriesPage::CategoriesPage(const FormServices& services,
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_list, 1);
     layout->addLayout(buttons);
+    layout->addWidget(new QuietLine(QStringLiteral("lblCategoriesNote"), this));
     connectControls();
 }
 
@@ -108,6 +111,7 @@ void CategoriesPage::LoadCategories()
         item->setData(Qt::AccessibleDescriptionRole, shownPart(category.Description()));
         m_list->addItem(item);
     }
+    m_list->setEmptyText(categories.empty() ? tr("There are no categories yet") : QString());
     if (const int row = rowOf(selectedId); row >= 0) {
         m_list->selectOnly(row);
     }
@@ -260,15 +264,19 @@ void CategoriesPage::btnDeleteCat_Click()
         return;
     }
     const int id = idOf(*item);
+    const QString name = item->text();
     const QString question =
         tr("Are you sure you want to delete '%1' category, all tasks under this category will be "
            "deleted?")
-            .arg(item->text());
+            .arg(name);
     if (!m_services.messages.ask(window(), question)) {
         return;
     }
-    ClsCategory(m_services.engine)
-        .DeleteById(narrowId(id, QT_TRANSLATE_NOOP("OverflowError", "category id")));
+    const qint16 shortId = narrowId(id, QT_TRANSLATE_NOOP("OverflowError", "category id"));
+    m_services.undo.run([&](const DatabaseEngine& engine) {
+        ClsCategory(engine).DeleteById(shortId);
+        return tr("Category \"%1\" deleted with its tasks").arg(name);
+    });
 
     // The list may have been rebuilt while the question was open.
     if (const int row = rowOf(id); row >= 0) {

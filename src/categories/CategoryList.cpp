@@ -1,5 +1,6 @@
 #include "categories/CategoryList.h"
 
+#include "widgets/EmptyText.h"
 #include "widgets/LetterScale.h"
 #include "widgets/PlainText.h"
 
@@ -142,6 +143,21 @@ void CategoryList::keyPressEvent(QKeyEvent* event)
     } else {
         QListWidget::keyPressEvent(event);
     }
+}
+
+void CategoryList::paintEvent(QPaintEvent* event)
+{
+    QListWidget::paintEvent(event);
+    if (count() == 0) {
+        paintEmptyText(*this, m_emptyText);
+    }
+}
+
+void CategoryList::setEmptyText(const QString& text)
+{
+    m_emptyText = text;
+    setAccessibleDescription(text);
+    viewport()->update();
 }
 
 bool CategoryList::viewportEvent(QEvent* event)

@@ -13,6 +13,8 @@ public:
 
     /// Selects the item in `row` alone, makes it the current one and scrolls to it.
     void selectOnly(int row);
+    /// What the list says in the middle while it has no item; assistive technology reads it there, too.
+    void setEmptyText(const QString& text);
     /// Null when nothing is selected.
     QListWidgetItem* selectedItem() const;
     /// The width of a line of a name, in pixels.
@@ -25,6 +27,7 @@ signals:
 protected:
     void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     bool viewportEvent(QEvent* event) override;
     void changeEvent(QEvent* event) override;
 
@@ -32,4 +35,6 @@ private:
     /// The item's tool tip, headed by its name if that cannot be seen whole.
     QString tipOf(const QListWidgetItem& item) const;
     void setCellSize();
+
+    QString m_emptyText;
 };

@@ -11,7 +11,7 @@ public:
 
     /// The name of the data file, relative to the program folder; "data.dat" at first.
     QString FileName() const { return m_fileName; }
-    void setFileName(const QString& name) { m_fileName = name; } // Without a caller: part of the interface.
+    void setFileName(const QString& name) { m_fileName = name; }
 
     /// A new connection to the data file, not yet open.
     Connection Connect() const;

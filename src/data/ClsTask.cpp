@@ -98,20 +98,13 @@ QString rangeStatement(
     return statement.text();
 }
 
-/// Returns the id of the inserted record, if the statement inserts one. Throws NoRoomError when that id has
-/// more than 16 bits.
-qint64 runAlone(const DatabaseEngine& engine, const QString& statement)
+/// Returns the id of the inserted task, if the statement inserts one. Throws as ClsTask::insertedId() does.
+qint32 runAlone(const DatabaseEngine& engine, const QString& statement)
 {
     Connection connection = ClsDatabase(engine).Connect();
     connection.open();
     connection.execute(statement);
-    const qint64 id = connection.insertedId();
-    if (id > std::numeric_limits<qint16>::max()) {
-        connection.abandon();
-        throw NoRoomError(
-            ClsTask::tr("The task was not stored: there is no number left for a new one. Delete tasks that "
-                        "you no longer need, then end Ambertask and start it again."));
-    }
+    const qint32 id = ClsTask::insertedId(connection);
     connection.close();
     return id;
 }
@@ -134,9 +127,21 @@ QString ClsTask::filled(const QString& pattern) const
             {u"<reminder_file/>", EscapeSqlText(ReminderFile())}});
 }
 
+qint32 ClsTask::insertedId(Connection& connection)
+{
+    const qint64 id = connection.insertedId();
+    if (id > std::numeric_limits<qint16>::max()) {
+        connection.abandon();
+        throw NoRoomError(
+            tr("The task was not stored: there is no number left for a new one. Delete tasks that "
+               "you no longer need, then end Ambertask and start it again."));
+    }
+    return static_cast<qint32>(id);
+}
+
 qint32 ClsTask::Add() const
 {
-    const qint64 id = runAlone(*m_engine,
+    return runAlone(*m_engine,
         filled(QStringLiteral(
             "insert into "
             "tasks(task_name,task_desc,task_status,cat_id,task_due_date,task_periority,reminder_on,"
@@ -144,7 +149,6 @@ qint32 ClsTask::Add() const
             "('<task_name/>','<task_desc/>',<task_status/>,<cat_id/>,#<task_due_date_time/>#,<task_periority/"
             ">,"
             "<reminder_on/>,#<reminder_date_time/>#,'<reminder_sound/>','<reminder_file/>')")));
-    return static_cast<qint32>(id);
 }
 
 void ClsTask::Update() const

@@ -9,6 +9,7 @@
 #include <optional>
 #include <vector>
 
+class Connection;
 class RecordSet;
 
 /// There is no 16-bit id left for a new task.
@@ -38,6 +39,8 @@ public:
     std::string_view taskNameUtf8() const { return m_texts.utf8(NameText); }
     void setTaskName(const QString& name) { setText(NameText, name); }
     QString Description() const { return m_texts.text(DescriptionText); }
+    /// In UTF-8; valid until the task changes.
+    std::string_view descriptionUtf8() const { return m_texts.utf8(DescriptionText); }
     void setDescription(const QString& description) { setText(DescriptionText, description); }
     qint32 status() const { return m_status; }
     void setStatus(qint32 status) { m_status = status; }
@@ -82,6 +85,10 @@ public:
     /// How many tasks `DeleteTasks` would delete.
     qint32 GetTasksCount(qint16 cat, qint32 status, Moment fromDate, Moment toDate, qint32 taskType) const;
     void DeleteById(qint16 Id) const;
+
+    /// The id of the task that the connection has inserted last. Throws NoRoomError when it has more than 16
+    /// bits; then the connection is closed and nothing is stored.
+    static qint32 insertedId(Connection& connection);
 
 private:
     friend class TaskFields;

@@ -120,6 +120,31 @@ void requireRoomForSettings(Trial& trial)
     }
 }
 
+/// Files of earlier versions do not have the table yet.
+bool keepsOrigins(Trial& trial)
+{
+    constexpr int FirstVersionWithOrigins = 3;
+    return trial.execute("pragma user_version").int32(0) >= FirstVersionWithOrigins;
+}
+
+void requireReadableOrigins(Trial& trial)
+{
+    RecordSet rows = trial.execute("select of_task,uid,properties from task_origins");
+    for (; !rows.atEnd(); rows.moveNext()) {
+        rows.utf8(rows.field("uid"));
+        rows.utf8(rows.field("properties"));
+    }
+}
+
+void requireRoomForOrigins(Trial& trial)
+{
+    trial.execute("delete from task_origins where of_task=7");
+    trial.execute("insert into task_origins(of_task,uid,properties) values(7,'007','007')");
+    const RecordSet added = trial.execute("select * from task_origins where of_task=7");
+    require(!added.atEnd() && added.text(added.field("uid")) == Probe
+        && added.text(added.field("properties")) == Probe);
+}
+
 } // namespace
 
 qint64 requireServiceableDataFile(const DatabaseEngine& engine)
@@ -130,5 +155,9 @@ qint64 requireServiceableDataFile(const DatabaseEngine& engine)
     requireRoomForCategories(trial);
     requireRoomForTasks(trial);
     requireRoomForSettings(trial);
+    if (keepsOrigins(trial)) {
+        requireReadableOrigins(trial);
+        requireRoomForOrigins(trial);
+    }
     return tasks;
 }

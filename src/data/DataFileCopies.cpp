@@ -3,6 +3,7 @@
 #include "data/ClsDatabase.h"
 #include "data/DataFileCheck.h"
 #include "data/DataFileRoad.h"
+#include "data/KeptCopies.h"
 #include "store/DatabaseError.h"
 #include "store/RollbackJournal.h"
 #include "system/FileReplace.h"
@@ -155,13 +156,15 @@ RestoredData DataFileCopies::restoreFrom(const QString& file, Progress* progress
         refuseOpenOperation(m_dataFile);
         moveOver(checked, place);
         bringUp(progress);
-        return {tasks, {}};
+        return {tasks, {}, {}};
     }
     // A journal beside a file that is no database cannot be rolled back any more, and SQLite would delete
     // it; it is kept.
+    QString noCopy;
     if (hasHead(place)) {
         settleIfSound();
         refuseOpenOperation(m_dataFile);
+        noCopy = KeptCopies(*m_engine).keep(CopyOccasion::Restore, progress);
     }
     keepReplaced(place, folder.path(), progress);
     try {
@@ -173,7 +176,7 @@ RestoredData DataFileCopies::restoreFrom(const QString& file, Progress* progress
         throw;
     }
     bringUp(progress);
-    return {tasks, QFileInfo(place).fileName() + QLatin1String(ReplacedSuffix)};
+    return {tasks, QFileInfo(place).fileName() + QLatin1String(ReplacedSuffix), noCopy};
 }
 
 void DataFileCopies::bringUp(Progress* progress) const
@@ -183,6 +186,7 @@ void DataFileCopies::bringUp(Progress* progress) const
     try {
         if (isDataFileBehind(engine)) {
             backUpTo(resolvedPath(m_dataFile) + QLatin1String(OlderSuffix), progress);
+            KeptCopies(engine).keep(CopyOccasion::Upgrade, progress);
             bringDataFileUp(engine);
         }
     } catch (const LaterDataFileError&) {

@@ -10,6 +10,7 @@ struct DatabaseEngine;
 struct RestoredData {
     qint64 tasks = 0; ///< in the file
     QString replaced; ///< the file beside the data file with the previous data; empty for none
+    QString noCopy; ///< why no copy of the previous data was kept (KeptCopies); empty for no reason to tell
 };
 
 /// Backups of the data file and restores. No connection to the data file may be open meanwhile. All
@@ -28,13 +29,15 @@ public:
     /// open, everything beside it is moved into it.
     void backUpTo(const QString& file, Progress* progress = nullptr) const;
     /// Replaces the data file by `file`, which must be a sound data file of this program. The previous file
-    /// stays beside it as data.dat.before-restore, together with the journal of an interrupted operation;
-    /// `file` becomes private to its owner, where possible. A copy in write-ahead mode is turned to
-    /// rollback-journal mode, one of an earlier version is upgraded; any other is restored byte for byte.
+    /// stays beside it as data.dat.before-restore, together with the journal of an interrupted operation, and
+    /// a copy of it is kept if that is possible; `file` becomes private to its owner, where possible. A copy
+    /// in write-ahead mode is turned to rollback-journal mode, one of an earlier version is upgraded; any
+    /// other is restored byte for byte.
     RestoredData restoreFrom(const QString& file, Progress* progress = nullptr) const;
 
     /// Upgrades a data file of an earlier version, and gives its tasks new ids before 16 bits run out. A copy
-    /// of the previous file stays beside it as data.dat.before-upgrade. Silently leaves the file as it is,
+    /// of the previous file stays beside it as data.dat.before-upgrade, and another is kept if that is
+    /// possible. Silently leaves the file as it is,
     /// and usable, when it cannot be upgraded or `progress` cancels. Throws LaterDataFileError only.
     void bringUp(Progress* progress = nullptr) const;
     /// Turns a data file that another program has left in write-ahead mode back to rollback-journal mode:

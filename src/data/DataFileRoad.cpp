@@ -14,7 +14,12 @@ namespace
 constexpr std::array<const char*, DataFileVersion> StepFrom{"",
     "CREATE INDEX IF NOT EXISTS tasks_by_reminder ON tasks (reminder_on, dismissed, reminder_date_time);"
     "CREATE INDEX IF NOT EXISTS tasks_by_status ON tasks (task_status);"
-    "CREATE INDEX IF NOT EXISTS tasks_by_category ON tasks (cat_id)"};
+    "CREATE INDEX IF NOT EXISTS tasks_by_category ON tasks (cat_id)",
+    "CREATE TABLE IF NOT EXISTS task_origins (\n"
+    "  of_task INTEGER PRIMARY KEY,\n"
+    "  uid TEXT NOT NULL DEFAULT '',\n"
+    "  properties TEXT NOT NULL DEFAULT ''\n"
+    ")"};
 
 /// The next id follows the larger of the two numbers. New ids must win back more than half of the free ones,
 /// or a nearly full file would get new ids at every start.
@@ -25,26 +30,23 @@ const QLatin1String WantsNewIds(
     "tasks)");
 /// In two steps through ids that no task has: the order in which SQLite updates the rows is not defined.
 constexpr char GiveNewIds[] =
+    "DELETE FROM task_origins WHERE of_task NOT IN (SELECT task_id FROM tasks);"
+    "UPDATE task_origins SET of_task = place - 1000000000000 "
+    "FROM (SELECT task_id AS old_id, row_number() OVER (ORDER BY task_id) AS place FROM tasks) "
+    "WHERE of_task = old_id AND place <> old_id;"
+    "UPDATE task_origins SET of_task = of_task + 1000000000000 WHERE of_task < 1;"
     "UPDATE tasks SET task_id = place - 1000000000000 "
     "FROM (SELECT task_id AS old_id, row_number() OVER (ORDER BY task_id) AS place FROM tasks) "
     "WHERE task_id = old_id AND place <> old_id;"
     "UPDATE tasks SET task_id = task_id + 1000000000000 WHERE task_id < 1;"
     "UPDATE sqlite_sequence SET seq = (SELECT count(*) FROM tasks) WHERE name = 'tasks'";
 
+/// Whoever upgrades keeps a copy before.
 DatabaseEngine unheard(DatabaseEngine engine)
 {
     engine.listener = nullptr;
+    engine.copies = nullptr;
     return engine;
-}
-
-int knownVersion(Connection& connection)
-{
-    const int version = connection.execute(QStringLiteral("PRAGMA user_version")).int32(0);
-    if (version > DataFileVersion) {
-        throw LaterDataFileError(QCoreApplication::translate("DataFileRoad",
-            "The data file was made by a later version of Ambertask; this version cannot use it."));
-    }
-    return version;
 }
 
 void noteVersion(Connection& connection, int version)
@@ -58,6 +60,16 @@ bool wantsNewIds(Connection& connection)
 }
 
 } // namespace
+
+int knownVersion(Connection& connection)
+{
+    const int version = connection.execute(QStringLiteral("PRAGMA user_version")).int32(0);
+    if (version > DataFileVersion) {
+        throw LaterDataFileError(QCoreApplication::translate("DataFileRoad",
+            "The data file was made by a later version of Ambertask; this version cannot use it."));
+    }
+    return version;
+}
 
 void refuseLaterDataFile(const DatabaseEngine& engine)
 {

@@ -2,10 +2,11 @@
 
 #include "system/RuntimeError.h"
 
+class Connection;
 struct DatabaseEngine;
 
 /// The version (`user_version`) of the data file that schema.sql creates.
-inline constexpr int DataFileVersion = 2;
+inline constexpr int DataFileVersion = 3;
 
 /// The data file has a later version than this program supports.
 class LaterDataFileError : public RuntimeError
@@ -14,9 +15,11 @@ public:
     using RuntimeError::RuntimeError;
 };
 
-// The upgrade of data files of earlier versions. Its statements are not the program's own: the listener of
-// `engine` is not told. All functions throw DatabaseError.
+// The upgrade of data files of earlier versions. Its statements are not the program's own: neither the
+// listener of `engine` nor its keeper of copies is told. All functions throw DatabaseError.
 
+/// The version of the file that is open. Throws LaterDataFileError, too.
+int knownVersion(Connection& connection);
 /// Throws LaterDataFileError, too.
 void refuseLaterDataFile(const DatabaseEngine& engine);
 /// Whether the data file has an earlier version or its tasks need new ids. Throws LaterDataFileError, too,

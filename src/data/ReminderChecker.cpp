@@ -3,6 +3,8 @@
 #include "data/ClsDatabase.h"
 #include "data/RecordReading.h"
 #include "data/ReminderStatements.h"
+#include "data/TaskCodes.h"
+#include "store/DatabaseError.h"
 
 namespace
 {
@@ -11,6 +13,16 @@ DatabaseEngine withClock(DatabaseEngine engine, const Clock& clock)
 {
     engine.clock = &clock;
     return engine;
+}
+
+/// No reminder is left out for a status that it does not depend on.
+qint32 statusOf(const RecordSet& records, int field)
+{
+    try {
+        return records.int32(field);
+    } catch (const DatabaseError&) {
+        return TaskStatus::NotStarted;
+    }
 }
 
 } // namespace
@@ -37,6 +49,7 @@ void ReminderChecker::readDue()
     const int file = records.field("reminder_file");
     const int played = records.field("played");
     const int reminderOn = records.field("reminder_on");
+    const int status = records.field("task_status");
     for (; !records.atEnd(); records.moveNext()) {
         // Left out even without a listener: one bad record must not keep the other reminders from the user.
         try {
@@ -44,7 +57,7 @@ void ReminderChecker::readDue()
                 m_due.push_back({records.int32(id), records.text(name), records.int32(icon),
                     records.text(category), records.int32(periority), records.moment(dueDate),
                     records.text(reminder), records.text(sound), records.text(file), records.flag(played),
-                    records.flag(reminderOn)});
+                    records.flag(reminderOn), statusOf(records, status)});
             });
         } catch (const UnreadableRecordError& error) {
             if (m_engine.unreadable != nullptr) {

@@ -19,6 +19,7 @@ struct DueReminder {
     QString file;
     bool played = false;
     bool reminderOn = false;
+    qint32 status = 0;
 
     bool playsSound() const { return !sound.isEmpty() && !played && reminderOn; }
     bool startsFile() const { return !file.isEmpty() && !played; }

@@ -24,13 +24,13 @@ QString ReminderStatements::dismissDue()
     return QLatin1String("update  tasks set dismissed=1,reminder_on=0 where ") + Due;
 }
 
-QString ReminderStatements::dismiss(const QString& id)
+QString ReminderStatements::dismiss(const QString& which)
 {
-    return QLatin1String("update tasks set dismissed=1,reminder_on=0 where task_id = ") + id;
+    return QLatin1String("update tasks set dismissed=1,reminder_on=0 where ") + which;
 }
 
-QString ReminderStatements::postpone(const QString& id, Moment moment)
+QString ReminderStatements::postpone(const QString& which, Moment moment)
 {
     return QLatin1String("update tasks set played=0 ,reminder_date_time =#") + sqlDateTime(moment)
-        + QLatin1String("# where task_id = ") + id;
+        + QLatin1String("# where ") + which;
 }

@@ -13,9 +13,9 @@ QString selectDue();
 /// Marks those tasks as played.
 QString markDueAsPlayed();
 QString dismissDue();
-/// `id` is a task's, in digits.
-QString dismiss(const QString& id);
-/// The reminder of the task `id` is due again at `moment`, and not played then.
-QString postpone(const QString& id, Moment moment);
+/// Of the tasks that meet the condition `which`.
+QString dismiss(const QString& which);
+/// The reminders of the tasks that meet the condition `which` are due again at `moment`, and not played then.
+QString postpone(const QString& which, Moment moment);
 
 } // namespace ReminderStatements

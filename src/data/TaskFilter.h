@@ -14,9 +14,14 @@ struct TaskFilter {
     Moment fromDate{}; ///< a day without time of day
     Moment toDate{}; ///< a day without time of day; counts to its end
     qint32 taskType = TaskType::All;
+    bool isDescending = false; ///< the order is turned round after reading; no matter for TaskSort::None
 
-    std::vector<ClsTask> tasks(const DatabaseEngine& engine) const
+    /// The tasks that it selects, in its order. Throws DatabaseError.
+    std::vector<ClsTask> tasks(const DatabaseEngine& engine) const;
+    /// Whether it leaves tasks out.
+    bool isNarrow() const
     {
-        return ClsTask(engine).GetTasks(category, status, sortBy, isDateRange, fromDate, toDate, taskType);
+        return category != CategoryFilter::All || status != TaskStatus::All || isDateRange
+            || taskType != TaskType::All;
     }
 };

@@ -3,13 +3,14 @@
 --   0  copied by another tool that does not keep the version
 --   1  the first version; the indexes for the filters are missing in some of these files
 --   2  all files have the indexes
+--   3  the table task_origins
 --
 -- Moments are text YYYY-MM-DD HH:MM:SS, flags 0 or 1. The program compares texts with a NOCASE of its own, which folds
 -- every alphabet: an index on a text column, written with another tool's NOCASE, would be out of order for it.
 PRAGMA encoding = 'UTF-8';
 PRAGMA journal_mode = DELETE;
 PRAGMA application_id = 0x416D6274;
-PRAGMA user_version = 2;
+PRAGMA user_version = 3;
 
 BEGIN;
 
@@ -60,6 +61,14 @@ CREATE INDEX tasks_by_reminder ON tasks (reminder_on, dismissed, reminder_date_t
 -- takes the one made last: a category holds fewer tasks than a status.
 CREATE INDEX tasks_by_status ON tasks (task_status);
 CREATE INDEX tasks_by_category ON tasks (cat_id);
+
+-- How other programs know a task, and what they have written of it (see TaskRecord). A row stays when its task is
+-- deleted, so that an undo brings all of it back; the next import removes it.
+CREATE TABLE task_origins (
+  of_task INTEGER PRIMARY KEY,
+  uid TEXT NOT NULL DEFAULT '',
+  properties TEXT NOT NULL DEFAULT ''
+);
 
 INSERT INTO settings (always_on_top, start_with_windows, minimize_on_start, skin, show_task_status, show_task_due_date,
   show_task_periority, show_task_reminder, show_today_tasks, show_grid, show_ballon_icon)

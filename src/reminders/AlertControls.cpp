@@ -1,8 +1,9 @@
 #include "reminders/AlertControls.h"
 
 #include "reminders/FlashBand.h"
-#include "reminders/UsualMomentButton.h"
+#include "reminders/UsualMoments.h"
 #include "widgets/GridView.h"
+#include "widgets/MomentMenu.h"
 #include "widgets/NamedControls.h"
 #include "widgets/Pickers.h"
 #include "widgets/ScrollFrame.h"
@@ -43,8 +44,7 @@ AlertControls::AlertControls(QWidget& form, const Clock& clock)
       dtpReminderDate(named(new QDateEdit(framNewReminder), QStringLiteral("dtpReminderDate"))),
       dtpReminderTime(named(new QTimeEdit(framNewReminder), QStringLiteral("dtpReminderTime"))),
       btnUsualMoment(workedBy(Qt::CTRL | Qt::Key_T,
-          named(new UsualMomentButton(tr("Set to"), clock, framNewReminder),
-              QStringLiteral("btnUsualMoment")))),
+          named(new MomentButton(tr("Set to"), framNewReminder), QStringLiteral("btnUsualMoment")))),
       btnRemindMeLater(
           button(tr("Remind me later"), QStringLiteral("btnRemindMeLater"), Qt::CTRL | Qt::Key_R, form)),
       btnOpenItem(button(tr("Open Item"), QStringLiteral("btnOpenItem"), Qt::CTRL | Qt::Key_O, form)),
@@ -53,6 +53,7 @@ AlertControls::AlertControls(QWidget& form, const Clock& clock)
           button(tr("Dismiss All"), QStringLiteral("btnDismissAll"), Qt::CTRL | Qt::SHIFT | Qt::Key_M, form)),
       btnHelp(button(tr("Help"), QStringLiteral("btnHelp"), Qt::Key_F1, form))
 {
+    addUsualMoments(btnUsualMoment->moments(), clock);
     band->setBuddy(grdTasks);
     grdTasks->setMinimumSize(SmallestGrid);
     setUpDatePicker(*dtpReminderDate, clock);

@@ -10,7 +10,7 @@ class QGroupBox;
 class QPushButton;
 class QTimeEdit;
 class QWidget;
-class UsualMomentButton;
+class MomentButton;
 
 /// The controls of the alert window and their places. They are children of `form`, which owns them.
 class AlertControls
@@ -26,7 +26,7 @@ public:
     QGroupBox* framNewReminder;
     QDateEdit* dtpReminderDate;
     QTimeEdit* dtpReminderTime;
-    UsualMomentButton* btnUsualMoment; ///< fills the two pickers
+    MomentButton* btnUsualMoment; ///< fills the two pickers
     QPushButton* btnRemindMeLater;
     QPushButton* btnOpenItem;
     QPushButton* btnDismiss;

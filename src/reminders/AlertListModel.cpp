@@ -28,7 +28,8 @@ bool areAmong(const std::vector<DueReminder>& all, const std::vector<DueReminder
 
 } // namespace
 
-AlertListModel::AlertListModel(const Clock& clock, QObject* parent) : GridModel(parent), m_clock(clock)
+AlertListModel::AlertListModel(const Clock& clock, QObject* parent)
+    : TaskGridModel(clock, Name, DueDate, parent)
 {
 }
 
@@ -49,15 +50,23 @@ void AlertListModel::setReminders(const std::vector<DueReminder>& reminders)
     if (!reminders.empty()) {
         beginInsertRows({}, 0, static_cast<int>(reminders.size()) - 1);
         m_reminders = reminders;
+        standNow();
         endInsertRows();
     }
 }
 
-void AlertListModel::removeReminder(int row)
+void AlertListModel::removeReminders(const QList<int>& rows)
 {
-    beginRemoveRows({}, row, row);
-    m_reminders.erase(m_reminders.begin() + row);
-    endRemoveRows();
+    for (qsizetype last = rows.size() - 1; last >= 0; --last) {
+        qsizetype first = last;
+        while (first > 0 && rows[first - 1] + 1 == rows[first]) {
+            --first;
+        }
+        beginRemoveRows({}, rows[first], rows[last]);
+        m_reminders.erase(m_reminders.begin() + rows[first], m_reminders.begin() + rows[last] + 1);
+        endRemoveRows();
+        last = first;
+    }
 }
 
 bool AlertListModel::lists(const std::vector<DueReminder>& reminders) const
@@ -66,17 +75,24 @@ bool AlertListModel::lists(const std::vector<DueReminder>& reminders) const
         [](const DueReminder& shown, const DueReminder& due) { return shown.id == due.id; });
 }
 
+bool AlertListModel::holds(const std::vector<DueReminder>& reminders) const
+{
+    return areAmong(m_reminders, reminders);
+}
+
 int AlertListModel::shownCount(const std::vector<DueReminder>& due, bool visible) const
 {
-    const bool isOvertaken = !visible && !areAmong(due, m_reminders) && !areAmong(m_reminders, due);
+    const bool isOvertaken = !visible && !areAmong(due, m_reminders) && !holds(due);
     return isOvertaken ? 0 : rowCount();
 }
 
-int AlertListModel::rowOf(qint32 id) const
+QList<qint32> AlertListModel::ids(const QList<int>& rows) const
 {
-    const auto found = std::find_if(m_reminders.begin(), m_reminders.end(),
-        [id](const DueReminder& reminder) { return reminder.id == id; });
-    return found == m_reminders.end() ? -1 : static_cast<int>(found - m_reminders.begin());
+    QList<qint32> ids;
+    for (const int row : rows) {
+        ids.append(idAt(row));
+    }
+    return ids;
 }
 
 int AlertListModel::rowCount(const QModelIndex& parent) const
@@ -118,12 +134,13 @@ QString AlertListModel::cellWord(int row, int field) const
 QString AlertListModel::cellNote(int row, int field) const
 {
     const DueReminder& shown = at(row);
-    QStringList notes;
+    QStringList notes{urgencyWord(row)};
     if (field == Name && !shown.category.isEmpty()) {
         notes.append(tr("Category: %1").arg(shownPart(shown.category)));
     }
     if (const auto reminder = momentFromStoredText(shown.reminder.toStdString())) {
-        notes.append(latenessText(*reminder, m_clock.now()));
+        notes.append(latenessText(*reminder, clock().now()));
     }
+    notes.removeAll(QString());
     return notes.join(u'\n');
 }

@@ -1,36 +1,36 @@
 #pragma once
 
 #include "data/ReminderChecker.h"
-#include "widgets/GridModel.h"
+#include "widgets/TaskGridModel.h"
 
 #include <vector>
 
 /// The due reminders in the alert window, in the order of the query.
-class AlertListModel : public GridModel
+class AlertListModel : public TaskGridModel
 {
     Q_OBJECT
 
 public:
     enum Field { Id, Name, Periority, DueDate };
 
-    /// `clock` outlives the model; it decides how late a reminder is.
+    /// `clock` outlives the model; it decides how late a reminder and its task are.
     explicit AlertListModel(const Clock& clock, QObject* parent = nullptr);
 
     void createColumns();
     /// Replaces all rows; the columns and their widths stay.
     void setReminders(const std::vector<DueReminder>& reminders);
-    void removeReminder(int row);
+    /// Removes these rows, given from the top.
+    void removeReminders(const QList<int>& rows);
     /// Whether exactly these reminders are listed, in this order.
     bool lists(const std::vector<DueReminder>& reminders) const;
+    /// Whether all of these are listed.
+    bool holds(const std::vector<DueReminder>& reminders) const;
     /// How many reminders the user has been shown, for a check that finds `due`: the number of rows. 0 when
     /// the list is hidden (`visible` is false) and out of date: something that it lists is no longer due,
     /// and something due is not listed.
     int shownCount(const std::vector<DueReminder>& due, bool visible) const;
-    /// The row of that task; -1 when it is not listed.
-    int rowOf(qint32 id) const;
-    qint32 id(int row) const { return at(row).id; }
-    /// The task id of a row as text.
-    QString idText(int row) const { return cellText(row, Id); }
+    qint32 idAt(int row) const override { return at(row).id; }
+    QList<qint32> ids(const QList<int>& rows) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
 
@@ -39,10 +39,11 @@ protected:
     int cellIcon(int row, int field) const override;
     QString cellWord(int row, int field) const override;
     QString cellNote(int row, int field) const override;
+    qint32 statusAt(int row) const override { return at(row).status; }
+    Moment dueAt(int row) const override { return at(row).dueDate; }
 
 private:
     const DueReminder& at(int row) const { return m_reminders[static_cast<std::size_t>(row)]; }
 
-    const Clock& m_clock;
     std::vector<DueReminder> m_reminders;
 };

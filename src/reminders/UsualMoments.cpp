@@ -1,5 +1,8 @@
 #include "reminders/UsualMoments.h"
 
+#include "system/Clock.h"
+#include "widgets/MomentMenu.h"
+
 #include <QCoreApplication>
 #include <algorithm>
 
@@ -7,9 +10,6 @@ using namespace std::chrono_literals;
 
 namespace
 {
-
-constexpr auto Evening = 18h;
-constexpr auto Morning = 9h;
 
 struct UsualMoments {
     Q_DECLARE_TR_FUNCTIONS(UsualMoments)
@@ -19,13 +19,6 @@ struct UsualMoments {
 Moment later(Moment now, std::chrono::minutes by)
 {
     return std::max(toMinute(now) + by, toMinute(whenPassed(now, by)));
-}
-
-Moment nextMonday(Moment now)
-{
-    using namespace std::chrono;
-    const days ahead = Monday - weekday(dayOf(now));
-    return startOfDay(now) + (ahead == days(0) ? days(7) : ahead);
 }
 
 } // namespace
@@ -39,14 +32,12 @@ std::optional<Moment> momentOf(UsualMoment which, Moment now)
         return later(now, 15min);
     case UsualMoment::In1Hour:
         return later(now, 1h);
-    case UsualMoment::ThisEvening: {
-        const Moment evening = startOfDay(now) + Evening;
-        return now < evening ? std::optional(evening) : std::nullopt;
-    }
+    case UsualMoment::ThisEvening:
+        return thisEvening(now);
     case UsualMoment::TomorrowMorning:
-        return startOfDay(now) + std::chrono::days(1) + Morning;
+        return tomorrowMorning(now);
     case UsualMoment::NextWeek:
-        return nextMonday(now) + Morning;
+        return nextMondayMorning(now);
     }
     return std::nullopt;
 }
@@ -68,4 +59,11 @@ QString captionOf(UsualMoment which)
         return UsualMoments::tr("&Next week");
     }
     return {};
+}
+
+void addUsualMoments(MomentMenu& menu, const Clock& clock)
+{
+    for (const UsualMoment which : AllUsualMoments) {
+        menu.addMoment(captionOf(which), [which, &clock] { return momentOf(which, clock.now()); });
+    }
 }

@@ -6,6 +6,9 @@
 #include <array>
 #include <optional>
 
+class Clock;
+class MomentMenu;
+
 /// The moments to which reminders are usually put off.
 enum class UsualMoment { In5Minutes, In15Minutes, In1Hour, ThisEvening, TomorrowMorning, NextWeek };
 
@@ -20,3 +23,5 @@ std::optional<Moment> momentOf(UsualMoment which, Moment now);
 
 /// The entry of a menu for it, with its mnemonic.
 QString captionOf(UsualMoment which);
+/// Adds all of them to `menu`, as of the moment when it opens. `clock` outlives the menu.
+void addUsualMoments(MomentMenu& menu, const Clock& clock);

@@ -1,19 +1,18 @@
 #include "reminders/frmAlerts.h"
 
-#include "data/ReminderStatements.h"
+#include "data/TaskChanges.h"
+#include "data/UndoHistory.h"
 #include "reminders/AlertsHost.h"
 #include "reminders/FlashBand.h"
-#include "reminders/UsualMomentButton.h"
 #include "system/Clock.h"
 #include "system/ErrorReport.h"
-#include "system/ProgramFiles.h"
-#include "system/Shell.h"
+#include "widgets/ChangeTexts.h"
 #include "widgets/CloseBox.h"
 #include "widgets/GridView.h"
 #include "widgets/LetterScale.h"
 #include "widgets/MessageBoxes.h"
+#include "widgets/MomentMenu.h"
 #include "widgets/Pickers.h"
-#include "widgets/WindowPlacement.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -25,17 +24,9 @@
 namespace
 {
 
-using namespace std::chrono_literals;
-
-constexpr auto CheckerInterval = 10000ms;
-constexpr auto FlasherInterval = 1000ms;
+constexpr std::chrono::seconds CheckerInterval(10);
+constexpr std::chrono::seconds FlasherInterval(1);
 constexpr QSize FirstSize(620, 380);
-constexpr qint32 NoTask = -1;
-
-QString titleFor(int count)
-{
-    return count == 1 ? frmAlerts::tr("1 Reminder") : frmAlerts::tr("%n Reminders", nullptr, count);
-}
 
 /// A message box or pop-up of the program takes the activation without being another window for the user.
 bool isOwnBoxOpen()
@@ -49,9 +40,9 @@ frmAlerts::frmAlerts(
     const FormServices& services, AlertsHost& host, WaveBackendFactory waveBackend, QWidget* parent)
     // A plain window: metacity and xfwm4 keep a dialog without an owner above all windows of its program,
     // so that the main window could not come in front of it.
-    : QWidget(parent, Qt::Window), m_services(services), m_host(host), m_database(services.engine),
-      m_mmc(std::move(waveBackend), this), m_reminders(services.clock), m_tmrTasksChecker(this),
-      m_tmrFlasher(this), m_controls(*this, services.clock), m_unasked(this)
+    : QWidget(parent, Qt::Window), m_services(services), m_host(host), m_mmc(std::move(waveBackend), this),
+      m_reminders(services.clock), m_tmrTasksChecker(this), m_tmrFlasher(this),
+      m_controls(*this, services.clock), m_actions(m_controls, services.clock), m_unasked(this)
 {
     setObjectName(QStringLiteral("frmAlerts"));
     setWindowTitle(titleFor(0));
@@ -68,6 +59,11 @@ frmAlerts::frmAlerts(
     connectControls();
 }
 
+QString frmAlerts::titleFor(int count)
+{
+    return count == 1 ? tr("1 Reminder") : tr("%n Reminders", nullptr, count);
+}
+
 void frmAlerts::connectControls()
 {
     ErrorReport& errors = m_services.errors;
@@ -80,7 +76,12 @@ void frmAlerts::connectControls()
         m_controls.btnOpenItem, &QPushButton::clicked, this, &frmAlerts::btnOpenItem_Click, errors);
     connectGuarded(
         m_controls.grdTasks, &GridView::rowDoubleClicked, this, &frmAlerts::btnOpenItem_Click, errors);
-    connect(m_controls.btnUsualMoment, &UsualMomentButton::momentChosen, this, &frmAlerts::setPickersTo);
+    connectGuarded(
+        &m_actions, &AlertActions::completeRequested, this, &frmAlerts::mnuAlertComplete_Click, errors);
+    connectGuarded(&m_actions, &AlertActions::openRequested, this, &frmAlerts::btnOpenItem_Click, errors);
+    connectGuarded(&m_actions, &AlertActions::remindLaterRequested, this, &frmAlerts::remindLater, errors);
+    connectGuarded(&m_actions, &AlertActions::dismissRequested, this, &frmAlerts::btnDismiss_Click, errors);
+    connect(&m_controls.btnUsualMoment->moments(), &MomentMenu::momentChosen, this, &frmAlerts::setPickersTo);
     connect(m_controls.btnHelp, &QPushButton::clicked, this, &frmAlerts::helpRequested);
     connect(&m_tmrTasksChecker, &QTimer::timeout, this, &frmAlerts::tmrTasksChecker_Timer);
     connect(&m_tmrFlasher, &QTimer::timeout, this, &frmAlerts::tmrFlasher_Timer);
@@ -122,124 +123,37 @@ void frmAlerts::setHelpEnabled(bool enabled)
     m_controls.btnHelp->setEnabled(enabled);
 }
 
-void frmAlerts::tmrTasksChecker_Timer()
-{
-    try {
-        check();
-    } catch (const std::exception&) {
-        // A report every ten seconds would help nobody; the next tick tries again.
-    }
-    emit checked();
-}
-
-void frmAlerts::check()
-{
-    using Outcome = ReminderChecker::Outcome;
-    m_reminders.setImageList(&m_services.imgLstCategories);
-    if (m_reminders.columnCount() == 0) {
-        m_reminders.createColumns();
-    }
-    ReminderChecker checker(m_services.engine);
-    const Outcome outcome = checker.outcome(m_reminders.shownCount(checker.due(), isVisible()));
-    if (outcome != Outcome::Nothing) {
-        redraw(checker.due());
-    }
-    if (outcome == Outcome::BringUp) {
-        comeUp();
-        m_owesMark = true;
-    } else if (outcome == Outcome::Hide) {
-        hide();
-        m_owesMark = false;
-    }
-    // A failed mark is made up for only while the reminders that have sounded are exactly those that are
-    // due.
-    const bool marks = m_owesMark && outcome != Outcome::Redraw && m_reminders.lists(checker.due());
-    if (marks) {
-        checker.markPlayed();
-    }
-    checker.close();
-    if (marks) {
-        m_owesMark = false;
-        m_fired.clear();
-    }
-}
-
-void frmAlerts::redraw(const std::vector<DueReminder>& due)
-{
-    setWindowTitle(titleFor(static_cast<int>(due.size())));
-    const int selected = m_controls.grdTasks->selectedRow();
-    const qint32 selectedTask = selected < 0 ? NoTask : m_reminders.id(selected);
-    m_reminders.setReminders(due);
-    m_controls.grdTasks->selectOnly(m_reminders.rowOf(selectedTask));
-    for (const DueReminder& reminder : due) {
-        fireOnce(reminder);
-    }
-}
-
-// Remembered here, because a redraw with fewer rows marks nothing and marking can fail: the data file alone
-// does not tell which reminders have sounded.
-void frmAlerts::fireOnce(const DueReminder& reminder)
-{
-    const auto fired = m_fired.constFind(reminder.id);
-    if (!reminder.played && (fired == m_fired.constEnd() || *fired != reminder.reminder)) {
-        fire(reminder);
-        m_fired.insert(reminder.id, reminder.reminder);
-    }
-}
-
-void frmAlerts::fire(const DueReminder& reminder)
-{
-    if (reminder.playsSound()) {
-        m_mmc.Notify = false;
-        m_mmc.Wait = false;
-        m_mmc.Shareable = false;
-        m_mmc.DeviceType = QStringLiteral("WaveAudio");
-        m_mmc.FileName = m_services.files.sound(reminder.sound);
-        m_mmc.Command(QStringLiteral("Open"));
-        m_mmc.Command(QStringLiteral("Play"));
-    }
-    if (reminder.startsFile()) {
-        m_services.shell.startMinimized(reminder.file);
-    }
-}
-
-void frmAlerts::comeUp()
-{
-    m_controls.grdTasks->selectOnly(0);
-    if (m_services.alwaysOnTop()) {
-        makeTopmost(this);
-    }
-    putInPlace(this);
-    m_unasked.comeUp();
-}
-
 void frmAlerts::btnDismiss_Click()
 {
-    const int row = m_controls.grdTasks->selectedRow();
-    if (row >= 0) {
-        Connection connection = openConnection();
-        store(connection, ReminderStatements::dismiss(m_reminders.idText(row)));
-        removeReminder(row);
-        connection.close();
+    if (changeSelected(ChangeTexts::dismissed, TaskChanges::dismiss)) {
         emit remindersDismissed();
     }
     closeSound();
 }
 
+void frmAlerts::mnuAlertComplete_Click()
+{
+    if (changeSelected(ChangeTexts::completed, TaskChanges::complete)) {
+        emit remindersDismissed();
+        closeSound();
+    }
+}
+
 void frmAlerts::btnDismissAll_Click()
 {
-    Connection connection = openConnection();
-    store(connection, ReminderStatements::dismissDue());
+    m_services.undo.run([](const DatabaseEngine& engine) {
+        const int dismissed = TaskChanges::dismissDue(engine);
+        return ChangeTexts::dismissed(dismissed);
+    });
+    m_allDismissed = true;
     hide();
-    connection.close();
     emit remindersDismissed();
     closeSound();
 }
 
 void frmAlerts::btnRemindMeLater_Click()
 {
-    const int row = m_controls.grdTasks->selectedRow();
-    if (row < 0) {
+    if (m_controls.grdTasks->selectedRow() < 0) {
         return;
     }
     // A half-typed date counts as it would when the picker loses the focus; a mnemonic does not move the
@@ -254,42 +168,52 @@ void frmAlerts::btnRemindMeLater_Click()
         m_controls.dtpReminderDate->setFocus();
         return;
     }
-    Connection connection = openConnection();
-    store(connection, ReminderStatements::postpone(m_reminders.idText(row), moment));
-    m_fired.remove(m_reminders.idText(row).toInt());
-    removeReminder(row);
-    connection.close();
-    closeSound();
+    remindLater(moment);
+}
+
+void frmAlerts::remindLater(Moment moment)
+{
+    const auto postpone = [&](const DatabaseEngine& engine, const QList<qint32>& ids) {
+        TaskChanges::postpone(engine, ids, moment);
+        // They sound again.
+        for (const qint32 id : ids) {
+            m_fired.remove(id);
+        }
+    };
+    if (changeSelected(ChangeTexts::postponed, postpone)) {
+        closeSound();
+    }
 }
 
 void frmAlerts::btnOpenItem_Click()
 {
     const int row = m_controls.grdTasks->selectedRow();
     if (row >= 0) {
-        m_host.openTask(
-            narrowId(m_reminders.idText(row).toLongLong(), QT_TRANSLATE_NOOP("OverflowError", "task id")));
+        m_host.openTask(narrowId(m_reminders.idAt(row), QT_TRANSLATE_NOOP("OverflowError", "task id")));
     }
 }
 
-Connection frmAlerts::openConnection() const
+QList<qint32> frmAlerts::selectedTasks() const
 {
-    Connection connection = m_database.Connect();
-    connection.open();
-    return connection;
+    return m_reminders.ids(m_controls.grdTasks->selectedRows());
 }
 
-void frmAlerts::store(Connection& connection, const QString& statement)
+bool frmAlerts::changeSelected(QString (*done)(int count),
+    const std::function<void(const DatabaseEngine&, const QList<qint32>&)>& change)
 {
-    connection.execute(statement);
-    connection.commit();
-}
-
-void frmAlerts::removeReminder(int row)
-{
-    m_reminders.removeReminder(row);
+    const QList<qint32> ids = selectedTasks();
+    if (ids.isEmpty()) {
+        return false;
+    }
+    m_services.undo.run([&](const DatabaseEngine& engine) {
+        change(engine, ids);
+        return done(static_cast<int>(ids.size()));
+    });
+    m_reminders.removeReminders(m_controls.grdTasks->selectedRows());
     if (m_reminders.rowCount() == 0) {
         hide();
     }
+    return true;
 }
 
 void frmAlerts::closeSound()

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "data/ClsDatabase.h"
+#include "reminders/AlertActions.h"
 #include "reminders/AlertControls.h"
 #include "reminders/AlertListModel.h"
 #include "system/MMControl.h"
@@ -35,6 +35,12 @@ public:
     /// To be called when the data file has been replaced: empties the list and hides the window. The next
     /// check lists what is due.
     void forgetReminders();
+    /// To be called after a check when others have changed the data file: what is listed shows what it is
+    /// now, and what is due in the place of something listed comes up, which a check does not notice. Throws
+    /// DatabaseError.
+    void showAnew();
+    /// How many reminders are due, as far as the window knows from its last check.
+    int dueCount() const { return m_allDismissed ? 0 : m_reminders.rowCount(); }
     /// Gives the focus to the list; activates the window if it is visible, but never shows it.
     void focusGrid();
     /// Enables the help button, which is disabled at first.
@@ -53,9 +59,10 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    static QString titleFor(int count);
     void connectControls();
 
-    void check();
+    void check(bool isOvertaken = false);
     void redraw(const std::vector<DueReminder>& due);
     void fireOnce(const DueReminder& reminder);
     void fire(const DueReminder& reminder);
@@ -65,6 +72,8 @@ private:
     void btnDismissAll_Click();
     void btnRemindMeLater_Click();
     void btnOpenItem_Click();
+    void mnuAlertComplete_Click();
+    void remindLater(Moment moment);
     void tmrFlasher_Timer();
     void closeSound();
 
@@ -74,23 +83,26 @@ private:
     void setPickersToNow();
     void setPickersTo(Moment moment);
 
-    Connection openConnection() const;
-    /// Runs a statement that changes the data file, and commits it.
-    static void store(Connection& connection, const QString& statement);
-    void removeReminder(int row);
+    QList<qint32> selectedTasks() const;
+    /// Runs `change` on the selected tasks and takes them out of the list; hides the window when that is
+    /// empty then. False when none is selected. Throws DatabaseError, and then the list is as it was.
+    bool changeSelected(QString (*done)(int count),
+        const std::function<void(const DatabaseEngine&, const QList<qint32>&)>& change);
 
     FormServices m_services;
     AlertsHost& m_host;
-    ClsDatabase m_database;
     MMControl m_mmc;
     AlertListModel m_reminders;
     QTimer m_tmrTasksChecker;
     QTimer m_tmrFlasher;
     AlertControls m_controls;
+    AlertActions m_actions;
     UnaskedWindow m_unasked;
     bool m_isActive = false;
     /// The listed reminders have sounded but could not be marked as played.
     bool m_owesMark = false;
+    /// All listed reminders were dismissed after the last check.
+    bool m_allDismissed = false;
     /// Reminders that have sounded but are not marked as played: task id and reminder moment. They are
     /// listed again, but do not sound again.
     QHash<qint32, QString> m_fired;

@@ -98,12 +98,16 @@ QLayout* PreviewWindow::makeCommandRow()
     auto* row = new WrappingRow;
     row->addWidget(m_print);
     row->addWidget(m_export);
+    auto* saveAs = named(new QPushButton(tr("&Save as...")), "btnSaveAs");
+    saveAs->setToolTip(tr("Saves the tasks of the report as iCalendar or CSV, for other programs"));
+    row->addWidget(saveAs);
     row->addGap();
     row->addLabelled(labelFor(m_paper, tr("P&aper")), m_paper);
     row->addLabelled(labelFor(m_orientation, tr("&Orientation")), m_orientation);
 
     connect(m_print, &QPushButton::clicked, this, &PreviewWindow::btnPrint_Click);
     connect(m_export, &QPushButton::clicked, this, &PreviewWindow::btnExport_Click);
+    connect(saveAs, &QPushButton::clicked, this, &PreviewWindow::btnSaveAs_Click);
     connect(m_paper, &QComboBox::activated, this, &PreviewWindow::pageFormat_Click);
     connect(m_orientation, &QComboBox::activated, this, &PreviewWindow::pageFormat_Click);
     return row;
@@ -332,6 +336,12 @@ void PreviewWindow::btnExport_Click()
     if (!file.isEmpty()) {
         exportTo(file);
     }
+}
+
+void PreviewWindow::btnSaveAs_Click()
+{
+    m_quietLine->hush();
+    m_quietLine->say(m_host.saveTasks(this));
 }
 
 void PreviewWindow::exportTo(const QString& file)

@@ -48,6 +48,7 @@ protected:
 private:
     void btnPrint_Click();
     void btnExport_Click();
+    void btnSaveAs_Click();
     void pageFormat_Click();
     void cmbZoom_Click(int index);
     void zoomBy(int step);

@@ -42,6 +42,9 @@ public:
 
     /// The file to export to; empty when the user has cancelled.
     virtual QString choosePdfFile(QWidget* owner) = 0;
+    /// Asks for a file and saves the tasks of the report in a form for other programs. Returns what to say
+    /// about it; empty when the user has cancelled, or was told what failed.
+    virtual QString saveTasks(QWidget* owner) = 0;
     /// Tells the user what failed and why.
     virtual void tellFailure(QWidget* owner, const QString& text) = 0;
     /// The user has closed the window.

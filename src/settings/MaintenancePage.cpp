@@ -2,10 +2,13 @@
 
 #include "data/ClsTask.h"
 #include "data/DataFileCopies.h"
+#include "data/KeptCopies.h"
 #include "data/TaskCodes.h"
+#include "data/UndoHistory.h"
 #include "system/Clock.h"
 #include "system/ErrorReport.h"
 #include "system/FileReplace.h"
+#include "widgets/ChangeTexts.h"
 #include "widgets/CheckerTimer.h"
 #include "widgets/ComboBox.h"
 #include "widgets/Combos.h"
@@ -73,6 +76,7 @@ MaintenancePage::MaintenancePage(const FormServices& services, QWidget* parent)
     auto* page = new QVBoxLayout(this);
     page->addWidget(makeDeleteFrame());
     page->addWidget(makeCopyFrame());
+    page->addWidget(makeExchangeFrame());
     page->addStretch();
     m_btnHelp = named(new QPushButton(tr("&Help")), "btnHelpMaintenance");
     m_btnHelp->setEnabled(false);
@@ -85,6 +89,7 @@ MaintenancePage::MaintenancePage(const FormServices& services, QWidget* parent)
         &MaintenancePage::btnDeleteTasksMaintenance_Click, errors);
     connectGuarded(m_btnBackup, &QPushButton::clicked, this, &MaintenancePage::btnBackup_Click, errors);
     connectGuarded(m_btnRestore, &QPushButton::clicked, this, &MaintenancePage::btnRestore_Click, errors);
+    connect(m_btnCopies, &QPushButton::clicked, this, &MaintenancePage::copiesRequested);
     connect(m_btnHelp, &QPushButton::clicked, this, &MaintenancePage::helpRequested);
 }
 
@@ -148,12 +153,47 @@ QGroupBox* MaintenancePage::makeCopyFrame()
 {
     m_btnBackup = named(new QPushButton(tr("&Backup")), "btnBackup");
     m_btnRestore = named(new QPushButton(tr("&Restore")), "btnRestore");
+    m_btnCopies = named(new QPushButton(tr("Restore from a c&opy...")), "btnCopies");
+    m_btnCopies->setToolTip(tr("Shows the copies of your data that the program has made by itself"));
     auto* frame = new QGroupBox(tr("Backup and Restore"));
     auto* layout = new QHBoxLayout(frame);
     layout->addWidget(m_btnBackup);
     layout->addWidget(m_btnRestore);
+    layout->addWidget(m_btnCopies);
     layout->addStretch();
     return frame;
+}
+
+QGroupBox* MaintenancePage::makeExchangeFrame()
+{
+    auto* frame = named(new QGroupBox(tr("Exchange with other programs")), "framExchange");
+    auto* layout = new QHBoxLayout(frame);
+    const auto add = [layout](const char* name, const QString& caption, const QString& tip) {
+        auto* button = named(new QPushButton(caption), name);
+        button->setToolTip(tip);
+        button->setAccessibleDescription(tip);
+        layout->addWidget(button);
+        return button;
+    };
+    const auto* takeOut =
+        add("btnExport", tr("E&xport..."), tr("Saves all tasks as iCalendar or CSV, for other programs"));
+    const auto* bringIn = add("btnImport", tr("&Import..."),
+        tr("Adds the tasks of an iCalendar or CSV file; shows first what would happen"));
+    layout->addStretch();
+    connect(takeOut, &QPushButton::clicked, this, [this] {
+        m_quietLine->hush();
+        emit exportRequested();
+    });
+    connect(bringIn, &QPushButton::clicked, this, [this] {
+        m_quietLine->hush();
+        emit importRequested();
+    });
+    return frame;
+}
+
+void MaintenancePage::say(const QString& text)
+{
+    m_quietLine->say(text);
 }
 
 QComboBox& MaintenancePage::cmbCategoriesMaintenance() const
@@ -203,14 +243,19 @@ void MaintenancePage::btnDeleteTasksMaintenance_Click()
     // The category lists may have been reloaded while the question was open.
     const Criteria confirmed = shownCriteria();
     qint32 deleted = 0;
+    QString noCopy;
     ScreenProgress(this, tr("Deleting the tasks...")).run([&](Progress& progress) {
-        DatabaseEngine engine = m_services.engine;
-        engine.progress = &progress;
-        deleted = ClsTask(engine).DeleteTasks(
-            confirmed.category, confirmed.status, confirmed.from, confirmed.to, confirmed.taskType);
+        noCopy = KeptCopies(m_services.engine).keep(CopyOccasion::Deletion, &progress);
+        m_services.undo.run([&](const DatabaseEngine& recorded) {
+            DatabaseEngine engine = recorded;
+            engine.progress = &progress;
+            deleted = ClsTask(engine).DeleteTasks(
+                confirmed.category, confirmed.status, confirmed.from, confirmed.to, confirmed.taskType);
+            return ChangeTexts::deleted(deleted);
+        });
     });
     emit tasksDeleted();
-    m_quietLine->say(deletedNote(deleted));
+    m_quietLine->say(ChangeTexts::withNoCopy(deletedNote(deleted), noCopy));
 }
 
 void MaintenancePage::btnBackup_Click()
@@ -242,29 +287,50 @@ void MaintenancePage::btnBackup_Click()
 void MaintenancePage::btnRestore_Click()
 {
     m_quietLine->hush();
+    if (const QString why = restore(this, [this] { return chooseBackup(); }); !why.isEmpty()) {
+        m_quietLine->say(why);
+    }
+}
+
+QString MaintenancePage::chooseBackup()
+{
+    FileDialogRequest request;
+    request.name = QStringLiteral("cdBackupRestore");
+    request.filter = backupFilter();
+    request.sideFolder = KeptCopies(m_services.engine).folder();
+    request.promptBeforeOverwriting = true;
+    // The name proposed for a backup has no extension.
+    request.anyName = true;
+    return m_services.fileDialogs.open(window(), request);
+}
+
+QString MaintenancePage::restoreCopy(const QString& file, QWidget* owner)
+{
+    m_quietLine->hush();
+    return restore(owner, [&file] { return file; });
+}
+
+QString MaintenancePage::restore(QWidget* owner, const std::function<QString()>& choose)
+{
     const CheckerPause pause(m_services.checkerTimer);
     try {
-        FileDialogRequest request;
-        request.name = QStringLiteral("cdBackupRestore");
-        request.filter = backupFilter();
-        request.promptBeforeOverwriting = true;
-        // The name proposed for a backup has no extension.
-        request.anyName = true;
-        const QString file = m_services.fileDialogs.open(window(), request);
+        const QString file = choose();
         if (file.isEmpty()) {
-            return;
+            return {};
         }
         RestoredData restored;
-        ScreenProgress(this, tr("Restoring the data...")).run([&](Progress& progress) {
+        ScreenProgress(owner, tr("Restoring the data...")).run([&](Progress& progress) {
             restored = DataFileCopies(m_services.engine).restoreFrom(file, &progress);
         });
         emit dataRestored();
-        m_quietLine->say(restoredNote(restored, QDir::toNativeSeparators(file)));
+        m_quietLine->say(
+            ChangeTexts::withNoCopy(restoredNote(restored, QDir::toNativeSeparators(file)), restored.noCopy));
     } catch (const Cancelled&) {
         // The user who cancelled needs no message; nothing has changed.
     } catch (const std::exception& error) {
-        m_quietLine->say(tr("Nothing was restored: %1").arg(reasonOf(error)));
+        return tr("Nothing was restored: %1").arg(reasonOf(error));
     }
+    return {};
 }
 
 void MaintenancePage::setHelpEnabled(bool enabled)

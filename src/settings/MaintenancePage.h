@@ -3,6 +3,7 @@
 #include "widgets/clsGuiLoader.h"
 
 #include <QWidget>
+#include <functional>
 
 class ComboBox;
 class QBoxLayout;
@@ -14,7 +15,8 @@ class QRadioButton;
 class QuietLine;
 struct FormServices;
 
-/// The page "Maintenance": bulk delete of tasks, backup and restore of the data file.
+/// The page "Maintenance": bulk delete of tasks, backup and restore of the data file, exchange of tasks with
+/// other programs.
 class MaintenancePage : public QWidget
 {
     Q_OBJECT
@@ -28,6 +30,12 @@ public:
     /// The category list, for reloads after a change of categories.
     QComboBox& cmbCategoriesMaintenance() const;
 
+    /// Shows in the line at the foot of the page how an export or import has ended.
+    void say(const QString& text);
+    /// Restores the copy `file` with its progress over `owner`, as the button does with a chosen file.
+    /// Returns why nothing was restored; empty when it was, or when the user has cancelled.
+    QString restoreCopy(const QString& file, QWidget* owner);
+
     /// Enables the help button, which is disabled at first.
     void setHelpEnabled(bool enabled);
 
@@ -38,17 +46,25 @@ signals:
     void dataRestored();
     /// Tasks have been deleted in bulk.
     void tasksDeleted();
+    /// An export or import begins: asks for the file.
+    void exportRequested();
+    void importRequested();
+    /// The list of the copies that the program has made is to be shown.
+    void copiesRequested();
     void helpRequested();
 
 private:
     QGroupBox* makeDeleteFrame();
     QGroupBox* makeDateRangeFrame();
     QGroupBox* makeCopyFrame();
+    QGroupBox* makeExchangeFrame();
     QBoxLayout* makeTaskTypeOptions();
 
     void btnBackup_Click();
     void btnRestore_Click();
     void btnDeleteTasksMaintenance_Click();
+    QString chooseBackup();
+    QString restore(QWidget* owner, const std::function<QString()>& choose);
     struct Criteria;
     Criteria shownCriteria() const;
 
@@ -64,6 +80,7 @@ private:
     QPushButton* m_btnDeleteTasks = nullptr;
     QPushButton* m_btnBackup = nullptr;
     QPushButton* m_btnRestore = nullptr;
+    QPushButton* m_btnCopies = nullptr;
     QPushButton* m_btnHelp = nullptr;
     QuietLine* m_quietLine = nullptr;
 };

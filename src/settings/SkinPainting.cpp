@@ -1,5 +1,6 @@
 #include "settings/SkinPainting.h"
 
+#include "settings/SkinContrast.h"
 #include "widgets/LetterScale.h"
 
 #include <QGuiApplication>
@@ -7,8 +8,6 @@
 #include <QPainterPath>
 #include <QStyle>
 #include <QStyleOption>
-#include <algorithm>
-#include <cmath>
 
 namespace
 {
@@ -58,22 +57,6 @@ bool isFocused(const QStyleOption& option)
 QColor ringColor()
 {
     return QGuiApplication::palette().color(QPalette::Highlight);
-}
-
-double luminance(const QColor& color)
-{
-    const auto linear = [](double part) {
-        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-}
-
-/// Contrast ratio: 1 for equal colours, 21 for black and white.
-double contrast(const QColor& one, const QColor& other)
-{
-    const double first = luminance(one);
-    const double second = luminance(other);
-    return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
 }
 
 QPen outline(const QStyleOption& option)

@@ -1,5 +1,6 @@
 #include "settings/SkinSheet.h"
 
+#include "settings/SkinContrast.h"
 #include "settings/SkinFile.h"
 #include "settings/SkinStyle.h"
 
@@ -46,6 +47,33 @@ constexpr SheetColor OwnColors[] = {
     {"on-selection", QPalette::HighlightedText},
 };
 
+/// A colour of rows that are drawn otherwise than the rest; a skin may define it and its version for selected
+/// rows, else it is made of `wish`.
+struct RowColor {
+    const char* token;
+    QColor wish;
+};
+
+QHash<QString, QColor> rowColors(const SkinFile& skin, const QColor& selection)
+{
+    const QList<QColor> grounds{
+        skin.palette.color(QPalette::Base), skin.palette.color(QPalette::AlternateBase)};
+    const RowColor ownColors[] = {
+        {"overdue", QColor(0xc6, 0x28, 0x28)},
+        {"due-today", QColor(0xb2, 0x5e, 0x00)},
+        {"done", skin.palette.color(QPalette::PlaceholderText)},
+    };
+    QHash<QString, QColor> colors;
+    for (const auto& [token, wish] : ownColors) {
+        const auto name = QLatin1String(token);
+        const QString selected = QLatin1String("selected-") + name;
+        const QColor color = skin.colors.value(name, readable(wish, grounds));
+        colors.insert(name, color);
+        colors.insert(selected, skin.colors.value(selected, readable(color, {selection})));
+    }
+    return colors;
+}
+
 QHash<QString, QColor> sheetColors(const SkinFile& skin)
 {
     QHash<QString, QColor> colors;
@@ -57,6 +85,7 @@ QHash<QString, QColor> sheetColors(const SkinFile& skin)
         const auto name = QLatin1String(token);
         colors.insert(name, skin.colors.value(name, skin.palette.color(role)));
     }
+    colors.insert(rowColors(skin, colors.value(QStringLiteral("selection"))));
     return colors;
 }
 

@@ -57,8 +57,7 @@ void Connection::open(const QString& user, const QString& password, int)
     if (!m_connectionString.startsWith(Prefix)) {
         refuse(tr("The connection string \"%1\" names no data file.").arg(m_connectionString));
     }
-    m_session = std::make_unique<Session>(
-        m_connectionString.mid(Prefix.size()), *m_engine->clock, m_engine->progress, m_engine->knownSound);
+    m_session = std::make_unique<Session>(m_connectionString.mid(Prefix.size()), *m_engine);
     if (m_engine->listener != nullptr) {
         m_engine->listener->connectionOpened(m_connectionString);
     }
@@ -78,6 +77,11 @@ RecordSet Connection::execute(const QString& statement)
 void Connection::alter(const char* statements)
 {
     m_session->alter(statements);
+}
+
+void Connection::apply(const ChangeSet& changes, const std::set<std::string>& tolerated)
+{
+    m_session->apply(changes, tolerated);
 }
 
 qint64 Connection::insertedId() const

@@ -5,6 +5,8 @@
 
 #include <QCoreApplication>
 #include <memory>
+#include <set>
+#include <string>
 
 class Session;
 
@@ -40,6 +42,10 @@ public:
     /// Runs SQLite statements that the program's own may not contain, such as schema changes. The listener is
     /// not told. Only while the connection is open; throws DatabaseError.
     void alter(const char* statements);
+    /// Changes rows back or again, all or none. The listener is not told. Only while the connection is open.
+    /// Throws ChangedSinceError when a row is not what it was, other than in columns with one of the names
+    /// `tolerated`; then the connection is to be abandoned. Throws DatabaseError when it cannot be written.
+    void apply(const ChangeSet& changes, const std::set<std::string>& tolerated);
     /// The id of the record inserted last on this connection; 0 before the first one and when it is not
     /// open. Sends no statement.
     qint64 insertedId() const;

@@ -3,8 +3,11 @@
 #include <QString>
 #include <QStringView>
 
+class ChangeSet;
 class Clock;
+class ForeignChanges;
 class Progress;
+class UnchangedFile;
 
 /// Sees every statement of the program. Called on the thread that uses the connection.
 class StatementListener
@@ -42,7 +45,24 @@ public:
     virtual void recordLeftOut(const UnreadableRecord& record) = 0;
 };
 
-/// What every connection needs to know. One in the program; outlives everything that uses it.
+/// Keeps copies of the data file. Called on the thread that uses the connections.
+class CopyKeeper
+{
+public:
+    CopyKeeper() = default;
+    virtual ~CopyKeeper() = default;
+    CopyKeeper(const CopyKeeper&) = delete;
+    CopyKeeper& operator=(const CopyKeeper&) = delete;
+
+    /// Called before the first change of every connection, while nobody else can change anything either. What
+    /// it throws ends the change; a copy that cannot be made must not.
+    virtual void aboutToChange(const UnchangedFile& file) = 0;
+    /// A copy has been made for another reason, or could not be made: it serves for the day, too.
+    virtual void copyTried() = 0;
+};
+
+/// What every connection needs to know; outlives everything that uses it. The program has one; a copy with
+/// other members serves a single operation.
 struct DatabaseEngine {
     QString programFolder; ///< absolute path of the folder that holds the data file
     const Clock* clock = nullptr; ///< not owned; answers now() in statements
@@ -57,4 +77,13 @@ struct DatabaseEngine {
     bool* knownSound = nullptr;
     /// Not owned; may be null: then a record that does not convert makes its query fail.
     UnreadableRecordListener* unreadable = nullptr;
+    /// Not owned; may be null. Each commit adds what it has changed.
+    ChangeSet* changes = nullptr;
+    /// Not owned; may be null.
+    CopyKeeper* copies = nullptr;
+    /// Not owned; may be null. Each connection looks at it when it is opened.
+    ForeignChanges* foreign = nullptr;
+    /// The file is only read, whatever permissions it has, and nothing beside it is read, made or locked.
+    /// Nobody may change it meanwhile.
+    bool isImmutable = false;
 };

@@ -17,3 +17,10 @@ public:
 private:
     Kind m_kind;
 };
+
+/// A row is not what the change that was to be taken back or done again expects it to be.
+class ChangedSinceError : public RuntimeError
+{
+public:
+    using RuntimeError::RuntimeError;
+};

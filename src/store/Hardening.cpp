@@ -1,6 +1,7 @@
 #include "store/Hardening.h"
 
 #include <QFile>
+#include <QUrl>
 #include <algorithm>
 #include <array>
 #include <sqlite3.h>
@@ -40,11 +41,13 @@ bool yieldsRow(sqlite3* database, const char* query, std::string_view argument, 
 
 } // namespace
 
-int openDatabase(const QString& file, sqlite3*& database)
+int openDatabase(const QString& file, sqlite3*& database, bool isImmutable)
 {
     [[maybe_unused]] static const int uncounted = sqlite3_config(SQLITE_CONFIG_MEMSTATUS, 0);
-    return sqlite3_open_v2(
-        QFile::encodeName(file).constData(), &database, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
+    const QByteArray name =
+        isImmutable ? QUrl::fromLocalFile(file).toEncoded() + "?immutable=1" : QFile::encodeName(file);
+    const int flags = isImmutable ? SQLITE_OPEN_READONLY | SQLITE_OPEN_URI : SQLITE_OPEN_READWRITE;
+    return sqlite3_open_v2(name.constData(), &database, flags | SQLITE_OPEN_NOMUTEX, nullptr);
 }
 
 int hardenConnection(sqlite3* database)
@@ -78,7 +81,8 @@ bool isReadingPragma(std::string_view name, const char* argument)
 {
     constexpr std::array<std::string_view, 4> OfTheFile{
         "integrity_check", "quick_check", "application_id", "user_version"};
-    constexpr std::array<std::string_view, 3> OfATable{"table_list", "index_list", "index_xinfo"};
+    constexpr std::array<std::string_view, 5> OfATable{
+        "table_list", "table_info", "table_xinfo", "index_list", "index_xinfo"};
     return (argument == nullptr && std::find(OfTheFile.begin(), OfTheFile.end(), name) != OfTheFile.end())
         || std::find(OfATable.begin(), OfATable.end(), name) != OfATable.end();
 }

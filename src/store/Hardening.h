@@ -9,7 +9,8 @@ struct sqlite3;
 /// Opens an existing file for reading and writing as sqlite3_open_v2 does and returns its result code; even
 /// after a failure there may be a handle to close. Switches SQLite's memory statistics off, which cost a
 /// lock for each allocation, unless SQLite was used before.
-int openDatabase(const QString& file, sqlite3*& database);
+/// An immutable file is opened for reading only, without a look at what lies beside it (see DatabaseEngine).
+int openDatabase(const QString& file, sqlite3*& database, bool isImmutable = false);
 
 /// Switches off what the program does not need on this connection: whatever a data file could bring along
 /// that acts by itself (triggers, views, foreign keys, virtual tables), writing to SQLite's own tables,

@@ -10,7 +10,7 @@
 namespace
 {
 
-[[noreturn]] void refuse(const QString& text)
+[[noreturn]] void failToRead(const QString& text)
 {
     throw DatabaseError(DatabaseError::Kind::Conversion, text);
 }
@@ -44,6 +44,33 @@ bool isNamed(sqlite3_stmt* statement, int field, std::string_view name)
         && isSameName(sqlite3_column_origin_name(statement, field), name.substr(dot + 1));
 }
 
+template <typename Value> int threeWay(const Value& left, const Value& right)
+{
+    return left < right ? -1 : right < left ? 1 : 0;
+}
+
+/// In the order of SQLite: null, number, text, bytes.
+int rankOf(sqlite3_value* value)
+{
+    switch (sqlite3_value_type(value)) {
+    case SQLITE_NULL:
+        return 0;
+    case SQLITE_INTEGER:
+    case SQLITE_FLOAT:
+        return 1;
+    case SQLITE_TEXT:
+        return 2;
+    default:
+        return 3;
+    }
+}
+
+std::string_view bytesOf(sqlite3_value* value)
+{
+    const void* bytes = sqlite3_value_blob(value);
+    return {static_cast<const char*>(bytes), static_cast<std::size_t>(sqlite3_value_bytes(value))};
+}
+
 } // namespace
 
 RecordSet::RecordSet() = default;
@@ -73,7 +100,7 @@ RecordSet::RecordSet(std::unique_ptr<Cursor> cursor) : m_cursor(std::move(cursor
 void RecordSet::moveNext()
 {
     if (m_atEnd || m_cursor->statement() == nullptr) {
-        refuse(tr("There is no current record."));
+        failToRead(tr("There is no current record."));
     }
     m_atEnd = true;
     m_atEnd = !m_cursor->step();
@@ -88,12 +115,12 @@ int RecordSet::field(std::string_view name) const
             continue;
         }
         if (found != -1) {
-            refuse(tr("The field name \"%1\" is ambiguous.").arg(quoted(name)));
+            failToRead(tr("The field name \"%1\" is ambiguous.").arg(quoted(name)));
         }
         found = i;
     }
     if (found == -1) {
-        refuse(tr("There is no field \"%1\".").arg(quoted(name)));
+        failToRead(tr("There is no field \"%1\".").arg(quoted(name)));
     }
     return found;
 }
@@ -104,17 +131,17 @@ sqlite3_value* RecordSet::value(int field) const
 {
     sqlite3_stmt* statement = m_atEnd ? nullptr : m_cursor->statement();
     if (statement == nullptr) [[unlikely]] {
-        refuse(tr("There is no current record."));
+        failToRead(tr("There is no current record."));
     }
     if (field < 0 || field >= m_fieldCount) [[unlikely]] {
-        refuse(tr("There is no field number %1.").arg(field));
+        failToRead(tr("There is no field number %1.").arg(field));
     }
     return sqlite3_column_value(statement, field);
 }
 
 void RecordSet::refuseNoNumber(int field) const
 {
-    refuse(
+    failToRead(
         tr("The value of column \"%1\" is no whole number.").arg(columnName(m_cursor->statement(), field)));
 }
 
@@ -126,8 +153,8 @@ qint64 RecordSet::integer(int field, qint64 min, qint64 max) const
     }
     const qint64 number = sqlite3_value_int64(stored);
     if (number < min || number > max) [[unlikely]] {
-        refuse(tr("The value of column \"%1\" is out of range: %2.")
-                   .arg(columnName(m_cursor->statement(), field), QString::number(number)));
+        failToRead(tr("The value of column \"%1\" is out of range: %2.")
+                       .arg(columnName(m_cursor->statement(), field), QString::number(number)));
     }
     return number;
 }
@@ -137,14 +164,14 @@ std::string_view RecordSet::utf8(int field) const
     sqlite3_value* stored = value(field);
     const int type = sqlite3_value_type(stored);
     if (type == SQLITE_NULL || type == SQLITE_BLOB) {
-        refuse((type == SQLITE_NULL ? tr("The value of column \"%1\" is null.")
-                                    : tr("The value of column \"%1\" is no text."))
-                   .arg(columnName(m_cursor->statement(), field)));
+        failToRead((type == SQLITE_NULL ? tr("The value of column \"%1\" is null.")
+                                        : tr("The value of column \"%1\" is no text."))
+                       .arg(columnName(m_cursor->statement(), field)));
     }
     const unsigned char* text = sqlite3_value_text(stored);
     if (text == nullptr) {
-        refuse(tr("The value of column \"%1\" does not fit into memory.")
-                   .arg(columnName(m_cursor->statement(), field)));
+        failToRead(tr("The value of column \"%1\" does not fit into memory.")
+                       .arg(columnName(m_cursor->statement(), field)));
     }
     return {reinterpret_cast<const char*>(text), static_cast<std::size_t>(sqlite3_value_bytes(stored))};
 }
@@ -184,11 +211,29 @@ Moment RecordSet::moment(int field) const
     const std::string_view stored = utf8(field);
     const std::optional<Moment> moment = momentFromStoredText(stored);
     if (!moment && stored.empty()) {
-        refuse(tr("The value of column \"%1\" is empty.").arg(columnName(m_cursor->statement(), field)));
+        failToRead(tr("The value of column \"%1\" is empty.").arg(columnName(m_cursor->statement(), field)));
     }
     if (!moment) {
-        refuse(tr("The value of column \"%1\" is no date and time: %2.")
-                   .arg(columnName(m_cursor->statement(), field), text(field).left(40)));
+        failToRead(tr("The value of column \"%1\" is no date and time: %2.")
+                       .arg(columnName(m_cursor->statement(), field), text(field).left(40)));
     }
     return *moment;
+}
+
+int RecordSet::compare(int field, const RecordSet& other, int otherField) const
+{
+    sqlite3_value* left = value(field);
+    sqlite3_value* right = other.value(otherField);
+    if (const int order = threeWay(rankOf(left), rankOf(right)); order != 0) {
+        return order;
+    }
+    const bool areIntegers =
+        sqlite3_value_type(left) == SQLITE_INTEGER && sqlite3_value_type(right) == SQLITE_INTEGER;
+    if (areIntegers) [[likely]] {
+        return threeWay(sqlite3_value_int64(left), sqlite3_value_int64(right));
+    }
+    if (rankOf(left) == 1) {
+        return threeWay(sqlite3_value_double(left), sqlite3_value_double(right));
+    }
+    return threeWay(bytesOf(left), bytesOf(right));
 }

@@ -42,6 +42,9 @@ public:
     /// False for 0, true for any other number.
     bool flag(int field) const;
     Moment moment(int field) const;
+    /// Less than, equal to or greater than 0 as the value comes before, is the same as or comes after that of
+    /// another record set: nulls before numbers, texts and bytes, each by its content. Converts nothing.
+    int compare(int field, const RecordSet& other, int otherField) const;
 
 private:
     friend class Connection;

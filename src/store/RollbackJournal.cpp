@@ -13,6 +13,9 @@
 namespace
 {
 
+/// Of the two format bytes the one for readers decides.
+constexpr qsizetype ReadFormat = 19;
+
 /// Runs statements of SQLite itself on a file, on a connection of its own, and `done` before closing it.
 void run(const QString& file, const char* statements, const std::function<void()>& done = {})
 {
@@ -37,19 +40,21 @@ void run(const QString& file, const char* statements, const std::function<void()
 
 } // namespace
 
-bool isInWriteAheadMode(const QString& file)
+bool isInWriteAheadMode(QByteArrayView head)
 {
     constexpr QByteArrayView Head("SQLite format 3\0", 16);
-    // Of the two format bytes the one for readers decides.
-    constexpr qsizetype ReadFormat = 19;
     constexpr char WriteAhead = 2;
+    return head.startsWith(Head) && head.size() > ReadFormat && head[ReadFormat] == WriteAhead;
+}
+
+bool isInWriteAheadMode(const QString& file)
+{
     QFile source(file);
     // A pipe would block.
     if (!QFileInfo(file).isFile() || !source.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
         return false;
     }
-    const QByteArray head = source.read(ReadFormat + 1);
-    return head.startsWith(Head) && head.size() > ReadFormat && head[ReadFormat] == WriteAhead;
+    return isInWriteAheadMode(QByteArrayView(source.read(ReadFormat + 1)));
 }
 
 void useRollbackJournal(const QString& file)

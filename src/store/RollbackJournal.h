@@ -1,10 +1,15 @@
 #pragma once
 
+#include <QByteArrayView>
+
 class QString;
 
 /// Whether `file` is a database in write-ahead mode, which keeps changes in a second file at first. Reads
 /// the header only; false when that fails.
 bool isInWriteAheadMode(const QString& file);
+
+/// The same for the first 20 bytes of a file.
+bool isInWriteAheadMode(QByteArrayView head);
 
 /// Turns the database `file` from write-ahead mode, which another program may have set, to rollback-journal
 /// mode, and flushes it; does nothing to a file in that mode. Throws DatabaseError (Storage) at once when

@@ -1,16 +1,19 @@
 #include "store/Session.h"
 
+#include "store/ChangeSet.h"
+#include "store/DatabaseEngine.h"
 #include "store/DatabaseError.h"
 #include "store/Dialect.h"
+#include "store/ForeignChanges.h"
 #include "store/Hardening.h"
+#include "store/ResultCodes.h"
+#include "store/UnchangedFile.h"
 #include "store/UnicodeCollation.h"
 #include "system/Clock.h"
 #include "system/FileReplace.h"
 #include "system/Progress.h"
 
 #include <QFileInfo>
-#include <algorithm>
-#include <array>
 #include <sqlite3.h>
 #include <utility>
 
@@ -29,63 +32,16 @@ QString shortened(const QString& statement)
     return statement.size() <= Shown ? statement : statement.left(Shown) + QStringLiteral("...");
 }
 
-/// Errors of the statement alone; all others concern the file or the machine.
-bool isStatementError(int code)
-{
-    constexpr std::array Codes{SQLITE_ERROR, SQLITE_CONSTRAINT, SQLITE_MISMATCH, SQLITE_TOOBIG, SQLITE_RANGE,
-        SQLITE_AUTH, SQLITE_SCHEMA};
-    return std::find(Codes.begin(), Codes.end(), code & 0xff) != Codes.end();
-}
-
-/// Errors that a commit meets when it is done: the change is in the file and the journal is gone. Some file
-/// systems cannot flush a folder; there a power cut in the next moments may still undo the whole change.
-bool comesAfterTheCommit(int extendedCode)
-{
-    return extendedCode == SQLITE_IOERR_DIR_FSYNC || extendedCode == SQLITE_IOERR_RDLOCK
-        || extendedCode == SQLITE_IOERR_UNLOCK;
-}
-
 } // namespace
 
-Cursor::Cursor(Session& session, sqlite3_stmt* statement) : m_session(&session), m_statement(statement)
-{
-    session.m_cursors.push_back(this);
-}
-
-Cursor::~Cursor()
-{
-    if (m_session != nullptr) {
-        std::erase(m_session->m_cursors, this);
-    }
-    release();
-}
-
-void Cursor::release()
-{
-    sqlite3_finalize(m_statement);
-    m_statement = nullptr;
-    m_session = nullptr;
-}
-
-bool Cursor::step()
-{
-    const int code = sqlite3_step(m_statement);
-    if (code == SQLITE_ROW) {
-        return true;
-    }
-    if (code != SQLITE_DONE) {
-        m_session->fail(code, QString::fromUtf8(sqlite3_sql(m_statement)));
-    }
-    sqlite3_reset(m_statement);
-    return false;
-}
-
-Session::Session(QString path, const Clock& clock, Progress* progress, bool* knownSound)
-    : m_path(std::move(path)), m_clock(&clock), m_progress(progress), m_knownSound(knownSound)
+Session::Session(QString path, const DatabaseEngine& engine) : m_path(std::move(path)), m_engine(&engine)
 {
     try {
         openFile();
         harden();
+        if (m_engine->foreign != nullptr) {
+            m_engine->foreign->look(commitsInFile(m_database));
+        }
     } catch (...) {
         sqlite3_close_v2(m_database);
         throw;
@@ -95,6 +51,7 @@ Session::Session(QString path, const Clock& clock, Progress* progress, bool* kno
 Session::~Session()
 {
     releaseCursors();
+    m_recorder.reset();
     sqlite3_close_v2(m_database);
 }
 
@@ -116,7 +73,7 @@ void Session::openFile()
     if (file.size() == 0) {
         failToOpen(tr("it is empty"));
     }
-    const int code = openDatabase(m_path, m_database);
+    const int code = openDatabase(m_path, m_database, m_engine->isImmutable);
     if (m_database == nullptr) {
         failToOpen(tr("out of memory"));
     }
@@ -150,7 +107,7 @@ void Session::harden()
     check(sqlite3_create_function_v2(m_database, "now", 0,
         SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_DIRECTONLY, this, answerNow, nullptr, nullptr, nullptr));
     check(sqlite3_set_authorizer(m_database, authorize, this));
-    if (m_progress != nullptr) {
+    if (m_engine->progress != nullptr) {
         sqlite3_progress_handler(m_database, StepsOfProgress, tellProgress, this);
     }
     // Large sorts hold the user's texts: they stay in memory, out of the folder for temporary files. The
@@ -167,7 +124,7 @@ int Session::tellProgress(void* session)
 {
     auto* self = static_cast<Session*>(session);
     try {
-        self->m_progress->advance(0, 0);
+        self->m_engine->progress->advance(0, 0);
         return 0;
     } catch (...) {
         self->m_thrownByProgress = std::current_exception();
@@ -218,9 +175,9 @@ std::unique_ptr<Cursor> Session::start(const QString& statement)
         begin();
     }
     if (!m_written.empty()) {
-        requireEveryRecordStays();
+        requireEveryRecordStays(m_written);
     }
-    m_now = storedText(m_clock->now());
+    m_now = storedText(m_engine->clock->now());
     return cursor;
 }
 
@@ -255,12 +212,9 @@ qint64 Session::changedRows() const
     return sqlite3_changes64(m_database);
 }
 
-int Session::executeOwn(const char* sql)
+int Session::executeOwn(const char* sql, int (*row)(void*, int, char**, char**), void* context)
 {
-    m_runsOwnStatement = true;
-    const int code = sqlite3_exec(m_database, sql, nullptr, nullptr, nullptr);
-    m_runsOwnStatement = false;
-    return code;
+    return asOwn([&] { return sqlite3_exec(m_database, sql, row, context, nullptr); });
 }
 
 void Session::begin()
@@ -268,13 +222,20 @@ void Session::begin()
     if (sqlite3_get_autocommit(m_database) == 0) {
         return;
     }
-    if (m_knownSound != nullptr && !*m_knownSound) {
+    if (bool* known = m_engine->knownSound; known != nullptr && !*known) {
         requireSound();
-        *m_knownSound = true;
+        *known = true;
     }
     const int code = executeOwn("BEGIN IMMEDIATE");
     if (code != SQLITE_OK) {
         failStorage(tr("The data file \"%1\" could not be written: %2.").arg(m_path, reason(code)));
+    }
+    if (m_engine->copies != nullptr) {
+        // Not before the lock: another process could change the file under the copy.
+        m_engine->copies->aboutToChange(UnchangedFile(m_database));
+    }
+    if (m_engine->changes != nullptr) {
+        m_recorder = std::make_unique<ChangeRecorder>(m_database);
     }
 }
 
@@ -283,6 +244,22 @@ void Session::alter(const char* statements)
     begin();
     if (const int code = executeOwn(statements); code != SQLITE_OK) {
         fail(code, QString::fromUtf8(statements));
+    }
+}
+
+void Session::apply(const ChangeSet& changes, const std::set<std::string>& tolerated)
+{
+    begin();
+    for (const std::string& table : changes.tables()) {
+        requireEveryRecordStays(table);
+    }
+    const int code = asOwn([&] { return applyChanges(m_database, changes, tolerated); });
+    if (code == SQLITE_ABORT) {
+        throw ChangedSinceError(tr("It has been changed since."));
+    }
+    if (code != SQLITE_OK) {
+        failStorage(tr("The data file \"%1\" could not be written; nothing was stored: %2.")
+                        .arg(m_path, reason(code)));
     }
 }
 
@@ -297,9 +274,7 @@ void Session::requireSound()
         }
         return 0;
     };
-    m_runsOwnStatement = true;
-    const int code = sqlite3_exec(m_database, "PRAGMA quick_check", note, &damaged, nullptr);
-    m_runsOwnStatement = false;
+    const int code = executeOwn("PRAGMA quick_check", note, &damaged);
     if (code != SQLITE_OK || damaged) {
         failStorage(
             tr("The data file \"%1\" could not be written; nothing was stored: %2.")
@@ -307,17 +282,15 @@ void Session::requireSound()
     }
 }
 
-void Session::requireEveryRecordStays()
+void Session::requireEveryRecordStays(const std::string& table)
 {
     int failure = SQLITE_OK;
-    m_runsOwnStatement = true;
-    const bool may = mayDropRecords(m_database, m_written, failure);
-    m_runsOwnStatement = false;
+    const bool may = asOwn([&] { return mayDropRecords(m_database, table, failure); });
     if (may || failure != SQLITE_OK) {
         failStorage(tr("The data file \"%1\" could not be written; nothing was stored: %2.")
                         .arg(m_path,
                             may ? tr("a rule in its table \"%1\" could remove records")
-                                      .arg(QString::fromStdString(m_written))
+                                      .arg(QString::fromStdString(table))
                                 : reason(failure)));
     }
 }
@@ -331,10 +304,24 @@ void Session::commit()
     if (sqlite3_get_autocommit(m_database) != 0) {
         return;
     }
-    const int code = executeOwn("COMMIT");
+    ChangeSet changed;
+    int code = SQLITE_OK;
+    if (m_recorder != nullptr) {
+        code = asOwn([&] { return m_recorder->read(changed); });
+        m_recorder.reset();
+    }
+    if (code == SQLITE_OK) {
+        code = executeOwn("COMMIT");
+    }
     if (code != SQLITE_OK && !comesAfterTheCommit(sqlite3_extended_errcode(m_database))) {
         failStorage(tr("The data file \"%1\" could not be written; nothing was stored: %2.")
                         .arg(m_path, reason(code)));
+    }
+    if (m_engine->foreign != nullptr && hasWritten(m_database)) {
+        m_engine->foreign->addOwn();
+    }
+    if (!changed.isEmpty()) {
+        m_engine->changes->append(changed);
     }
 }
 

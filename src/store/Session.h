@@ -1,41 +1,22 @@
 #pragma once
 
+#include "store/Cursor.h"
+
 #include <QCoreApplication>
+#include <QScopedValueRollback>
 #include <exception>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
-class Clock;
-class Progress;
-class Session;
+class ChangeRecorder;
+class ChangeSet;
+struct DatabaseEngine;
 struct sqlite3;
 struct sqlite3_context;
 struct sqlite3_stmt;
 struct sqlite3_value;
-
-/// A running statement of a session. It may outlive the session; then it has no statement any more.
-class Cursor
-{
-public:
-    /// Takes ownership of the statement.
-    Cursor(Session& session, sqlite3_stmt* statement);
-    ~Cursor();
-    Cursor(const Cursor&) = delete;
-    Cursor& operator=(const Cursor&) = delete;
-
-    /// Goes to the next row; false at the end, where the locks are released. Throws DatabaseError.
-    bool step();
-    /// Null after the session's end.
-    sqlite3_stmt* statement() const { return m_statement; }
-
-private:
-    friend class Session;
-    void release();
-
-    Session* m_session;
-    sqlite3_stmt* m_statement;
-};
 
 /// An open, hardened SQLite handle on the data file with the deferred commit; the inside of a Connection.
 /// One thread.
@@ -44,10 +25,9 @@ class Session
     Q_DECLARE_TR_FUNCTIONS(Session)
 
 public:
-    /// Opens an existing file and reads its schema. `clock`, `progress` and `knownSound` (see
-    /// DatabaseEngine) outlive the session; an exception of `progress` ends the running statement. Throws
-    /// DatabaseError (Storage).
-    Session(QString path, const Clock& clock, Progress* progress, bool* knownSound);
+    /// Opens an existing file and reads its schema. `engine` outlives the session; an exception of its
+    /// progress ends the running statement. Throws DatabaseError (Storage).
+    Session(QString path, const DatabaseEngine& engine);
     /// Undoes what was not committed.
     ~Session();
     Session(const Session&) = delete;
@@ -57,6 +37,10 @@ public:
     std::unique_ptr<Cursor> start(const QString& statement);
     /// Runs SQLite statements of any kind in the write transaction. Throws DatabaseError.
     void alter(const char* statements);
+    /// Changes rows in the write transaction, all or none. Throws ChangedSinceError when a row is not what
+    /// it was, other than in columns with one of the names `tolerated`; then the transaction stays open, to
+    /// be abandoned. Otherwise throws DatabaseError.
+    void apply(const ChangeSet& changes, const std::set<std::string>& tolerated);
     /// Commits the open transaction, if any. Throws DatabaseError (Storage); then it is undone.
     void commit();
     /// Ends all cursors, so that none of them holds a lock any more.
@@ -80,10 +64,17 @@ private:
     void harden();
     void check(int code);
     sqlite3_stmt* prepare(const QString& statement);
-    int executeOwn(const char* sql);
+    int executeOwn(
+        const char* sql, int (*row)(void*, int, char**, char**) = nullptr, void* context = nullptr);
     void begin();
+    /// Runs `work`, whose statements are not the user's but the store's own.
+    template <typename Work> auto asOwn(Work work)
+    {
+        const QScopedValueRollback own(m_runsOwnStatement, true);
+        return work();
+    }
     void requireSound();
-    void requireEveryRecordStays();
+    void requireEveryRecordStays(const std::string& table);
     void undo();
     [[noreturn]] void failToOpen(const QString& why);
     [[noreturn]] void failStorage(const QString& text);
@@ -91,11 +82,10 @@ private:
     QString reason(int code) const;
 
     QString m_path;
-    const Clock* m_clock;
-    Progress* m_progress;
+    const DatabaseEngine* m_engine;
     std::exception_ptr m_thrownByProgress;
-    bool* m_knownSound;
     sqlite3* m_database = nullptr;
+    std::unique_ptr<ChangeRecorder> m_recorder; ///< of the open transaction
     std::vector<Cursor*> m_cursors;
     std::string m_now;
     std::string m_written; ///< the table that the statement inserts into or updates

@@ -95,7 +95,9 @@ protected:
     qint64 readData(char* /*bytes*/, qint64 /*size*/) override { return -1; }
     qint64 writeData(const char* bytes, qint64 size) override
     {
-        if (!m_failure) {
+        if (m_gathered.isEmpty() && size >= MostGathered) {
+            put(bytes, size);
+        } else {
             m_gathered.append(bytes, size);
             if (m_gathered.size() >= MostGathered) {
                 pass();
@@ -107,13 +109,20 @@ protected:
 private:
     void pass()
     {
+        put(m_gathered.constData(), m_gathered.size());
+        m_gathered.resize(0);
+    }
+    void put(const char* bytes, qint64 size)
+    {
+        if (m_failure) {
+            return;
+        }
         try {
-            m_file.write(m_gathered.constData(), m_gathered.size());
+            m_file.write(bytes, size);
         } catch (const FileError& error) {
             m_failure = error;
             setErrorString(error.why());
         }
-        m_gathered.resize(0);
     }
 
     static constexpr qsizetype MostGathered = qsizetype{64} * 1024;

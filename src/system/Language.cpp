@@ -35,7 +35,8 @@ QString catalogueFor(const QStringList& uiLanguages, const QStringList& shipped)
 QStringList Language::shipped()
 {
     QStringList names;
-    for (const QString& file : QDir(Folder).entryList({Prefix + u'*' + Suffix})) {
+    // Nothing else is in the folder; a name filter would take a regular expression at each start.
+    for (const QString& file : QDir(Folder).entryList()) {
         names.append(file.mid(Prefix.size()).chopped(Suffix.size()));
     }
     return names;

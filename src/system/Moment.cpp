@@ -58,6 +58,24 @@ Moment whenPassed(Moment from, seconds by)
     return toMoment(passed.date(), passed.time());
 }
 
+std::optional<Moment> thisEvening(Moment now)
+{
+    const Moment evening = startOfDay(now) + Evening;
+    return now < evening ? std::optional(evening) : std::nullopt;
+}
+
+Moment tomorrowMorning(Moment now)
+{
+    return startOfDay(now) + std::chrono::days(1) + Morning;
+}
+
+Moment nextMondayMorning(Moment now)
+{
+    using namespace std::chrono;
+    const days ahead = Monday - weekday(dayOf(now));
+    return startOfDay(now) + (ahead == days(0) ? days(7) : ahead) + Morning;
+}
+
 std::chrono::year_month_day dayOf(Moment moment)
 {
     return std::chrono::year_month_day(floor<days>(moment));

@@ -20,6 +20,17 @@ Moment toMinute(Moment moment);
 /// forward or back. Needs a time zone look-up.
 Moment whenPassed(Moment from, std::chrono::seconds by);
 
+// The moments of a day for which things are usually put off.
+
+inline constexpr std::chrono::hours Morning(9);
+inline constexpr std::chrono::hours Evening(18);
+/// 18:00 of the day of `now`; none from then on.
+std::optional<Moment> thisEvening(Moment now);
+/// 9:00 of the next day.
+Moment tomorrowMorning(Moment now);
+/// 9:00 of the next Monday, never of the day of `now`.
+Moment nextMondayMorning(Moment now);
+
 std::chrono::year_month_day dayOf(Moment moment);
 std::chrono::seconds timeOfDayOf(Moment moment);
 

@@ -13,7 +13,7 @@
 namespace
 {
 
-/// A base directory of the XDG specification. A relative path in the environment is ignored, as that asks.
+/// An XDG base directory. A relative path in the environment does not count.
 QString baseFolder(const char* variable, const QString& inHome)
 {
     const QString folder = qEnvironmentVariable(variable);
@@ -46,6 +46,11 @@ QString userDataFolder()
 QString userCacheFolder()
 {
     return baseFolder("XDG_CACHE_HOME", QStringLiteral(".cache"));
+}
+
+QString userStateFolder()
+{
+    return pathIn(baseFolder("XDG_STATE_HOME", QStringLiteral(".local/state")), QStringLiteral("ambertask"));
 }
 
 QString programFolderOf(const Installation& installation, const QString& userData)
@@ -116,8 +121,7 @@ QString pathIn(const QString& folder, const QString& name)
 
 bool noteFirstStart()
 {
-    const QString folder =
-        pathIn(baseFolder("XDG_STATE_HOME", QStringLiteral(".local/state")), QStringLiteral("ambertask"));
+    const QString folder = userStateFolder();
     QFile marker(folder + QStringLiteral("/started"));
     // The note is written before anything is registered: a machine that cannot keep it must not be
     // registered at every start.

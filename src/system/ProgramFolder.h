@@ -17,6 +17,9 @@ QString userDataFolder();
 /// The folder for what can be made again at any time (XDG cache home).
 QString userCacheFolder();
 
+/// The folder for what the program remembers on this machine between its starts (XDG state home).
+QString userStateFolder();
+
 /// The folder that holds data.dat and what the user has added: the installation's own, or the user's in
 /// `userData`.
 QString programFolderOf(const Installation& installation, const QString& userData);

@@ -4,6 +4,7 @@
 #include "widgets/ComboBox.h"
 #include "widgets/Combos.h"
 #include "widgets/LongText.h"
+#include "widgets/MomentMenu.h"
 #include "widgets/NamedControls.h"
 #include "widgets/Pickers.h"
 #include "widgets/ScrollFrame.h"
@@ -32,6 +33,14 @@ QLabel* addLabel(QGridLayout& grid, int row, int column, QLabel* label, const QS
     return label;
 }
 
+QHBoxLayout* beside(QWidget* control, QWidget* button)
+{
+    auto* row = new QHBoxLayout;
+    row->addWidget(control, 1);
+    row->addWidget(button);
+    return row;
+}
+
 } // namespace
 
 TaskDetailsControls::TaskDetailsControls(QWidget& form, const Clock& clock)
@@ -40,6 +49,7 @@ TaskDetailsControls::TaskDetailsControls(QWidget& form, const Clock& clock)
       txtDescription(named(new QPlainTextEdit(&form), "txtDescription")),
       dtpDueDate(named(new QDateEdit(&form), "dtpDueDate")),
       dtpDueTime(named(new QTimeEdit(&form), "dtpDueTime")),
+      btnSetDue(named(new MomentButton(tr("Set to"), &form), "btnSetDue")),
       cmbStatus(named(new ComboBox(&form), "cmbStatus")),
       cmbPeriorities(named(new ComboBox(&form), "cmbPeriorities")),
       framReminderLater(named(new QGroupBox(&form), "framReminderLater")),
@@ -48,6 +58,7 @@ TaskDetailsControls::TaskDetailsControls(QWidget& form, const Clock& clock)
       dtpReminderDate(named(new QDateEdit(framReminderLater), "dtpReminderDate")),
       lblReminderTime(named(new QLabel(framReminderLater), "lblReminderTime")),
       dtpReminderTime(named(new QTimeEdit(framReminderLater), "dtpReminderTime")),
+      btnSetReminder(named(new MomentButton(tr("Set to"), framReminderLater), "btnSetReminder")),
       chkReminderSound(named(new CheckBox(framReminderLater), "chkReminderSound")),
       lblReminderSound(named(new QLabel(framReminderLater), "lblReminderSound")),
       txtReminderSound(named(new QLineEdit(framReminderLater), "txtReminderSound")),
@@ -69,9 +80,9 @@ TaskDetailsControls::TaskDetailsControls(QWidget& form, const Clock& clock)
 
 QList<QWidget*> TaskDetailsControls::inTabOrder() const
 {
-    return {txtTask, cmbCategories, txtDescription, dtpDueDate, dtpDueTime, cmbStatus, cmbPeriorities,
-        chkEnableReminder, dtpReminderDate, dtpReminderTime, chkReminderSound, txtReminderSound,
-        btnSoundBrowse, chkReminderFile, txtReminderFile, btnFileBrowse, btnOk, btnCancel};
+    return {txtTask, cmbCategories, txtDescription, dtpDueDate, dtpDueTime, btnSetDue, cmbStatus,
+        cmbPeriorities, chkEnableReminder, dtpReminderDate, dtpReminderTime, btnSetReminder, chkReminderSound,
+        txtReminderSound, btnSoundBrowse, chkReminderFile, txtReminderFile, btnFileBrowse, btnOk, btnCancel};
 }
 
 std::optional<qint16> TaskDetailsControls::selectedCategory() const
@@ -132,9 +143,19 @@ void TaskDetailsControls::setUp(const Clock& clock)
     btnFileBrowse->setText(tr("Bro&wse..."));
     btnOk->setText(tr("&OK"));
     btnCancel->setText(tr("C&ancel"));
+    setUpMenu(*btnSetDue, Qt::CTRL | Qt::Key_T);
+    setUpMenu(*btnSetReminder, Qt::CTRL | Qt::SHIFT | Qt::Key_T);
     for (QPushButton* button : {btnSoundBrowse, btnFileBrowse, btnOk, btnCancel}) {
         button->setAutoDefault(false);
     }
+}
+
+void TaskDetailsControls::setUpMenu(MomentButton& button, const QKeySequence& keys)
+{
+    // Its caption has no mnemonic, as in the alert: it is the same button there.
+    button.setShortcut(keys);
+    button.setToolTip(keys.toString(QKeySequence::NativeText));
+    button.setAutoDefault(false);
 }
 
 void TaskDetailsControls::setAccessibleNames()
@@ -144,12 +165,16 @@ void TaskDetailsControls::setAccessibleNames()
     txtDescription->setAccessibleName(tr("Description"));
     dtpDueDate->setAccessibleName(tr("Due date"));
     dtpDueTime->setAccessibleName(tr("Due time"));
+    btnSetDue->setAccessibleName(tr("Set the due moment to"));
     cmbStatus->setAccessibleName(tr("Status"));
     cmbPeriorities->setAccessibleName(tr("Priority"));
     framReminderLater->setAccessibleName(tr("Reminder"));
     chkEnableReminder->setAccessibleName(tr("Enable reminder"));
     dtpReminderDate->setAccessibleName(tr("Reminder date"));
     dtpReminderTime->setAccessibleName(tr("Reminder time"));
+    btnSetReminder->setAccessibleName(tr("Set the reminder to"));
+    btnSetReminder->setAccessibleDescription(
+        tr("Switches the reminder on; it follows the due moment until it is changed"));
     chkReminderSound->setAccessibleName(tr("Reminder sound"));
     txtReminderSound->setAccessibleName(tr("Reminder sound file"));
     btnSoundBrowse->setAccessibleName(tr("Browse for a reminder sound"));
@@ -179,7 +204,7 @@ void TaskDetailsControls::layOut(QWidget& form)
     addLabel(*grid, 3, 0, label("lblDueDate"), tr("D&ue date:"), dtpDueDate);
     grid->addWidget(dtpDueDate, 3, 1);
     addLabel(*grid, 3, 2, label("lblDueTime"), tr("Due ti&me:"), dtpDueTime);
-    grid->addWidget(dtpDueTime, 3, 3);
+    grid->addLayout(beside(dtpDueTime, btnSetDue), 3, 3);
     addLabel(*grid, 4, 0, label("lblStatus"), tr("&Status:"), cmbStatus);
     grid->addWidget(cmbStatus, 4, 1);
     addLabel(*grid, 4, 2, label("lblPeriorities"), tr("&Priority:"), cmbPeriorities);
@@ -213,7 +238,7 @@ void TaskDetailsControls::layOutReminder()
     addLabel(*grid, 1, 0, lblReminderDate, tr("&Reminder date:"), dtpReminderDate);
     grid->addWidget(dtpReminderDate, 1, 1);
     addLabel(*grid, 1, 2, lblReminderTime, tr("Reminder t&ime:"), dtpReminderTime);
-    grid->addWidget(dtpReminderTime, 1, 3);
+    grid->addLayout(beside(dtpReminderTime, btnSetReminder), 1, 3);
 
     grid->addWidget(chkReminderSound, 2, 0);
     grid->addWidget(chkReminderFile, 3, 0);

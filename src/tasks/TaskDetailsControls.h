@@ -8,10 +8,12 @@
 
 class Clock;
 class ComboBox;
+class MomentButton;
 class QCheckBox;
 class QDateEdit;
 class QGridLayout;
 class QGroupBox;
+class QKeySequence;
 class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
@@ -33,6 +35,7 @@ public:
     QPlainTextEdit* txtDescription;
     QDateEdit* dtpDueDate;
     QTimeEdit* dtpDueTime;
+    MomentButton* btnSetDue; ///< fills the two pickers of the due moment
     ComboBox* cmbStatus;
     ComboBox* cmbPeriorities;
     QGroupBox* framReminderLater;
@@ -41,6 +44,7 @@ public:
     QDateEdit* dtpReminderDate;
     QLabel* lblReminderTime;
     QTimeEdit* dtpReminderTime;
+    MomentButton* btnSetReminder; ///< fills the two pickers of the reminder
     QCheckBox* chkReminderSound;
     QLabel* lblReminderSound;
     QLineEdit* txtReminderSound;
@@ -60,6 +64,7 @@ public:
 
 private:
     void setUp(const Clock& clock);
+    static void setUpMenu(MomentButton& button, const QKeySequence& keys);
     void setAccessibleNames();
     void layOut(QWidget& form);
     void layOutReminder();

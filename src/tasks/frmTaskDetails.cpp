@@ -50,7 +50,8 @@ void selectNumberIfListed(QComboBox& combo, qint32 number)
 } // namespace
 
 frmTaskDetails::frmTaskDetails(const FormServices& services, const TaskDetailsHost& host)
-    : QWidget(nullptr, Qt::Dialog), m_services(services), m_host(host), m_controls(*this, services.clock)
+    : QWidget(nullptr, Qt::Dialog), m_services(services), m_host(host), m_controls(*this, services.clock),
+      m_moments(m_controls, services.clock)
 {
     setObjectName(QStringLiteral("frmTaskDetails"));
     setWindowTitle(tr("Task Details"));
@@ -81,6 +82,7 @@ void frmTaskDetails::connectControls()
     ErrorReport& errors = m_services.errors;
     connectGuarded(m_controls.chkEnableReminder, &QCheckBox::clicked, this,
         &frmTaskDetails::chkEnableReminder_Click, errors);
+    connect(&m_moments, &MomentsByHand::reminderChosen, this, &frmTaskDetails::switchReminderOn);
     connectGuarded(m_controls.chkReminderSound, &QCheckBox::clicked, this,
         &frmTaskDetails::enableReminderControls, errors);
     connectGuarded(m_controls.chkReminderFile, &QCheckBox::clicked, this,
@@ -126,6 +128,7 @@ void frmTaskDetails::EmptyForm()
     m_tag.clear();
     m_loadedReminderOn = false;
     m_loadedReminder = {};
+    m_moments.forget();
     noteFilled();
 }
 
@@ -207,6 +210,13 @@ void frmTaskDetails::chkEnableReminder_Click()
         m_controls.dtpReminderDate->setDate(m_controls.dtpDueDate->date());
         m_controls.dtpReminderTime->setTime(m_controls.dtpDueTime->time());
     }
+}
+
+void frmTaskDetails::switchReminderOn()
+{
+    // Not as a click does, which proposes the due moment.
+    m_controls.chkEnableReminder->setChecked(true);
+    enableReminderControls();
 }
 
 void frmTaskDetails::btnFileBrowse_Click()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tasks/MomentsByHand.h"
 #include "tasks/TaskDetailsControls.h"
 #include "tasks/TaskInput.h"
 #include "widgets/FormServices.h"
@@ -61,6 +62,7 @@ private:
     void noteFilled() { m_filled = m_controls.input(); }
 
     void chkEnableReminder_Click();
+    void switchReminderOn();
     void btnSoundBrowse_Click();
     void btnFileBrowse_Click();
     void btnOk_Click();
@@ -83,6 +85,7 @@ private:
     const FormServices& m_services;
     const TaskDetailsHost& m_host;
     TaskDetailsControls m_controls;
+    MomentsByHand m_moments;
     QString m_tag;
     bool m_loadedReminderOn = false;
     Moment m_loadedReminder{};

@@ -1,32 +1,23 @@
 #include "widgets/AccessibleControls.h"
 
 #include "widgets/AccessibleEntries.h"
+#include "widgets/AccessibleMenu.h"
 #include "widgets/CheckBox.h"
 #include "widgets/ComboBox.h"
 #include "widgets/LinkLabel.h"
+#include "widgets/PlainText.h"
 #include "widgets/QuietLine.h"
 
 #include <QAbstractItemView>
 #include <QAccessibleWidget>
+#include <QAction>
 #include <QKeySequence>
+#include <QMenu>
 #include <QPushButton>
 #include <utility>
 
 namespace
 {
-
-QString withoutMnemonic(const QString& caption)
-{
-    QString text;
-    for (qsizetype i = 0; i < caption.size(); ++i) {
-        // A doubled "&" stands for the letter itself.
-        if (caption[i] == u'&' && ++i == caption.size()) {
-            break;
-        }
-        text += caption[i];
-    }
-    return text;
-}
 
 /// A button with one action besides setting the focus.
 class AccessibleButton : public QAccessibleWidget
@@ -190,12 +181,12 @@ public:
 
     QString text(QAccessible::Text kind) const override
     {
-        return kind == QAccessible::Name ? m_line.said() : QAccessibleWidget::text(kind);
+        return kind == QAccessible::Name ? m_line.shown() : QAccessibleWidget::text(kind);
     }
     QAccessible::State state() const override
     {
         QAccessible::State state = QAccessibleWidget::state();
-        if (m_line.said().isEmpty()) {
+        if (m_line.shown().isEmpty()) {
             state.invisible = true;
         }
         return state;
@@ -230,6 +221,12 @@ QAccessibleInterface* accessibleOf(const QString& className, QObject* object)
     }
     if (auto* button = qobject_cast<QPushButton*>(object); button != nullptr && button->menu() != nullptr) {
         return new AccessibleMenuButton(*button);
+    }
+    if (auto* menu = qobject_cast<QMenu*>(object)) {
+        return new AccessibleMenu(*menu);
+    }
+    if (auto* action = qobject_cast<QAction*>(object)) {
+        return new AccessibleMenuEntry(*action);
     }
     if (className == QLatin1String("QWidget")) {
         if (auto* widget = qobject_cast<QWidget*>(object); widget != nullptr && widget->isWindow()) {

@@ -1,85 +1,19 @@
 #include "widgets/AccessibleGrid.h"
 
+#include "widgets/AccessibleCaption.h"
 #include "widgets/GridView.h"
 
 #include <QHeaderView>
-#include <QPointer>
 #include <algorithm>
 
 namespace
 {
 
-QAccessibleInterface* seenGrid(GridView* grid)
+QStringList menuActions(const GridView& grid)
 {
-    return grid == nullptr ? nullptr : QAccessible::queryAccessibleInterface(grid);
+    return grid.isEnabled() && grid.hasMenu() ? QStringList(QAccessibleActionInterface::showMenuAction())
+                                              : QStringList();
 }
-
-QRect onScreen(const QWidget& viewport, const QRect& inside)
-{
-    return {viewport.mapToGlobal(inside.topLeft()), inside.size()};
-}
-
-/// Base of captions and cells: parts of a grid that are no widgets of their own.
-class AccessiblePart : public QAccessibleInterface
-{
-public:
-    explicit AccessiblePart(GridView& grid) : m_grid(&grid) { }
-
-    QObject* object() const override { return nullptr; }
-    QAccessibleInterface* parent() const override { return seenGrid(m_grid); }
-    QAccessibleInterface* child(int /*index*/) const override { return nullptr; }
-    QAccessibleInterface* childAt(int /*x*/, int /*y*/) const override { return nullptr; }
-    int childCount() const override { return 0; }
-    int indexOfChild(const QAccessibleInterface* /*child*/) const override { return -1; }
-    void setText(QAccessible::Text /*kind*/, const QString& /*text*/) override { }
-    QAccessible::State state() const override
-    {
-        QAccessible::State state;
-        state.invalid = !isValid();
-        state.invisible = rect().isEmpty();
-        state.disabled = m_grid && !m_grid->isEnabled();
-        return state;
-    }
-
-protected:
-    bool isShown() const { return isValid() && m_grid->isVisible(); }
-
-    QPointer<GridView> m_grid;
-};
-
-class AccessibleCaption final : public AccessiblePart
-{
-public:
-    AccessibleCaption(GridView& grid, int section) : AccessiblePart(grid), m_section(section) { }
-
-    int section() const { return m_section; }
-
-    bool isValid() const override
-    {
-        return m_grid && m_section < m_grid->horizontalHeader()->count()
-            && !m_grid->isColumnHidden(m_section);
-    }
-    QAccessible::Role role() const override { return QAccessible::ColumnHeader; }
-    QString text(QAccessible::Text kind) const override
-    {
-        return isValid() && kind == QAccessible::Name
-            ? m_grid->model()->headerData(m_section, Qt::Horizontal).toString()
-            : QString();
-    }
-    QRect rect() const override
-    {
-        if (!isShown()) {
-            return {};
-        }
-        const QHeaderView& header = *m_grid->horizontalHeader();
-        const QRect inside(
-            header.sectionViewportPosition(m_section), 0, header.sectionSize(m_section), header.height());
-        return onScreen(*header.viewport(), inside);
-    }
-
-private:
-    int m_section;
-};
 
 class AccessibleCell final : public AccessiblePart,
                              public QAccessibleTableCellInterface,
@@ -154,11 +88,17 @@ public:
 
     QStringList actionNames() const override
     {
-        return isValid() && m_grid->isEnabled() ? QStringList(toggleAction()) : QStringList();
+        return isValid() && m_grid->isEnabled() ? QStringList(toggleAction()) + menuActions(*m_grid)
+                                                : QStringList();
     }
     void doAction(const QString& name) override
     {
-        if (actionNames().contains(name)) {
+        if (!actionNames().contains(name)) {
+            return;
+        }
+        if (name == showMenuAction()) {
+            m_grid->requestMenuOf(m_index.row());
+        } else {
             m_grid->selectOnly(m_index.row());
         }
     }
@@ -183,7 +123,7 @@ QAccessibleInterface* keep(QHash<Key, QAccessible::Id>& parts, const Key& key, Q
     return part;
 }
 
-QAccessibleInterface* accessibleOf(const QString& /*className*/, QObject* object)
+QAccessibleInterface* accessibleGridOf(const QString& /*className*/, QObject* object)
 {
     auto* grid = qobject_cast<GridView*>(object);
     return grid == nullptr ? nullptr : new AccessibleGrid(*grid);
@@ -194,7 +134,7 @@ QAccessibleInterface* accessibleOf(const QString& /*className*/, QObject* object
 void AccessibleGrid::install()
 {
     [[maybe_unused]] static const bool installed = [] {
-        QAccessible::installFactory(accessibleOf);
+        QAccessible::installFactory(accessibleGridOf);
         return true;
     }();
 }
@@ -204,9 +144,17 @@ void AccessibleGrid::announce(GridView& grid, QAccessible::Event event, const QM
     if (!QAccessible::isActive()) {
         return;
     }
-    const auto* seen = dynamic_cast<const AccessibleGrid*>(seenGrid(&grid));
+    const auto* seen = dynamic_cast<const AccessibleGrid*>(QAccessible::queryAccessibleInterface(&grid));
     if (QAccessibleInterface* cell = seen == nullptr ? nullptr : seen->cellOf(index)) {
         QAccessibleEvent told(cell, event);
+        QAccessible::updateAccessibility(&told);
+    }
+}
+
+void AccessibleGrid::announceSelectionWithin(GridView& grid)
+{
+    if (QAccessible::isActive()) {
+        QAccessibleEvent told(&grid, QAccessible::SelectionWithin);
         QAccessible::updateAccessibility(&told);
     }
 }
@@ -229,6 +177,28 @@ void* AccessibleGrid::interface_cast(QAccessible::InterfaceType type)
 {
     return type == QAccessible::TableInterface ? static_cast<QAccessibleTableInterface*>(this)
                                                : QAccessibleWidget::interface_cast(type);
+}
+
+QAccessible::State AccessibleGrid::state() const
+{
+    QAccessible::State state = QAccessibleWidget::state();
+    state.multiSelectable = true;
+    state.extSelectable = true;
+    return state;
+}
+
+QStringList AccessibleGrid::actionNames() const
+{
+    return menuActions(m_grid) + QAccessibleWidget::actionNames();
+}
+
+void AccessibleGrid::doAction(const QString& name)
+{
+    if (name != showMenuAction()) {
+        QAccessibleWidget::doAction(name);
+    } else if (actionNames().contains(name)) {
+        m_grid.requestMenu();
+    }
 }
 
 std::vector<int> AccessibleGrid::sections() const
@@ -361,13 +331,12 @@ int AccessibleGrid::selectedRowCount() const
 
 QList<int> AccessibleGrid::selectedRows() const
 {
-    const int row = m_grid.selectedRow();
-    return row < 0 ? QList<int>() : QList<int>{row};
+    return m_grid.selectedRows();
 }
 
 bool AccessibleGrid::isRowSelected(int row) const
 {
-    return selectedRows().contains(row);
+    return row >= 0 && row < rowCount() && m_grid.selectionModel()->isSelected(m_grid.model()->index(row, 0));
 }
 
 bool AccessibleGrid::selectRow(int row)
@@ -375,7 +344,16 @@ bool AccessibleGrid::selectRow(int row)
     if (row < 0 || row >= rowCount()) {
         return false;
     }
-    m_grid.selectOnly(row);
+    m_grid.setRowSelected(row, true);
+    return true;
+}
+
+bool AccessibleGrid::unselectRow(int row)
+{
+    if (!isRowSelected(row)) {
+        return false;
+    }
+    m_grid.setRowSelected(row, false);
     return true;
 }
 

@@ -19,6 +19,8 @@ public:
     /// Sends `event` for the cell of `index`, or for the first visible cell of its row where that column is
     /// hidden. Does nothing when no assistive technology listens or `index` is invalid.
     static void announce(GridView& grid, QAccessible::Event event, const QModelIndex& index);
+    /// Tells that the selection has changed by more than one row.
+    static void announceSelectionWithin(GridView& grid);
 
     explicit AccessibleGrid(GridView& grid);
     AccessibleGrid(const AccessibleGrid&) = delete;
@@ -26,6 +28,10 @@ public:
     ~AccessibleGrid() override;
 
     void* interface_cast(QAccessible::InterfaceType type) override;
+    QAccessible::State state() const override;
+    /// To open the menu, where there is one, and to set the focus.
+    QStringList actionNames() const override;
+    void doAction(const QString& name) override;
     int childCount() const override;
     /// nullptr when there is no such child.
     QAccessibleInterface* child(int index) const override;
@@ -49,10 +55,10 @@ public:
     QList<int> selectedRows() const override;
     bool isColumnSelected(int /*column*/) const override { return false; }
     bool isRowSelected(int row) const override;
+    /// Adds a row to the selection.
     bool selectRow(int row) override;
     bool selectColumn(int /*column*/) override { return false; }
-    /// As with the mouse, a selected row stays selected until another one is.
-    bool unselectRow(int /*row*/) override { return false; }
+    bool unselectRow(int row) override;
     bool unselectColumn(int /*column*/) override { return false; }
     void modelChange(QAccessibleTableModelChangeEvent* event) override;
 

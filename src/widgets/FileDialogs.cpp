@@ -9,6 +9,7 @@
 #include <QFileSystemModel>
 #include <QHeaderView>
 #include <QTreeView>
+#include <QUrl>
 
 namespace
 {
@@ -58,6 +59,56 @@ void showColumnsWhole(const QFileDialog& dialog)
     header->setSectionResizeMode(0, QHeaderView::Stretch);
 }
 
+/// The ending of the first pattern of a name filter: "ics" of "iCalendar Files (*.ics)".
+QString endingOf(const QString& nameFilter)
+{
+    return nameFilter.section(QLatin1String("(*."), -1).section(QLatin1String(")"), 0, 0).section(u' ', 0, 0);
+}
+
+void endAsChosen(QFileDialog& dialog)
+{
+    const auto follow = [&dialog](const QString& chosen) {
+        dialog.setDefaultSuffix(endingOf(chosen));
+        const QString named = dialog.selectedFiles().value(0);
+        if (!named.isEmpty() && !QFileInfo(named).isDir()) {
+            dialog.selectFile(endingAsChosen(named, chosen, dialog.nameFilters()));
+        }
+    };
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, follow);
+    dialog.setDefaultSuffix(endingOf(dialog.selectedNameFilter()));
+}
+
+/// Offers a folder in the side bar of a dialog while it lives. Qt keeps the side bar for the next dialog of
+/// any program.
+class SideFolder
+{
+public:
+    SideFolder(QFileDialog& dialog, const QString& folder)
+        : m_dialog(dialog), m_place(QUrl::fromLocalFile(folder))
+    {
+        const QList<QUrl> places = dialog.sidebarUrls();
+        m_isOurs = !folder.isEmpty() && QFileInfo(folder).isDir() && !places.contains(m_place);
+        if (m_isOurs) {
+            dialog.setSidebarUrls(places + QList<QUrl>{m_place});
+        }
+    }
+    ~SideFolder()
+    {
+        if (m_isOurs) {
+            QList<QUrl> places = m_dialog.sidebarUrls();
+            places.removeAll(m_place);
+            m_dialog.setSidebarUrls(places);
+        }
+    }
+    SideFolder(const SideFolder&) = delete;
+    SideFolder& operator=(const SideFolder&) = delete;
+
+private:
+    QFileDialog& m_dialog;
+    QUrl m_place;
+    bool m_isOurs = false;
+};
+
 QString show(QWidget* owner, const FileDialogRequest& request, QFileDialog::AcceptMode mode)
 {
     const PlainDialogTexts plainTexts;
@@ -83,9 +134,13 @@ QString show(QWidget* owner, const FileDialogRequest& request, QFileDialog::Acce
     if (!request.fileName.isEmpty()) {
         dialog.selectFile(request.fileName);
     }
+    if (request.endsAsChosen) {
+        endAsChosen(dialog);
+    }
     if (owner != nullptr && owner->window()->windowFlags().testFlag(Qt::WindowStaysOnTopHint)) {
         dialog.setWindowFlag(Qt::WindowStaysOnTopHint);
     }
+    const SideFolder side(dialog, request.sideFolder);
     if (dialog.exec() != QDialog::Accepted) {
         return {};
     }
@@ -111,6 +166,17 @@ QStringList nameFilters(const FileDialogRequest& request)
         filters.append(FileDialogs::tr("All Files (*)"));
     }
     return filters;
+}
+
+QString endingAsChosen(const QString& fileName, const QString& chosen, const QStringList& filters)
+{
+    for (const QString& filter : filters) {
+        const QString ending = u'.' + endingOf(filter);
+        if (fileName.endsWith(ending, Qt::CaseInsensitive)) {
+            return fileName.chopped(ending.size()) + u'.' + endingOf(chosen);
+        }
+    }
+    return fileName;
 }
 
 QString userFolder(QStandardPaths::StandardLocation place)

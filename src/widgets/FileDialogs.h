@@ -12,17 +12,23 @@ struct FileDialogRequest {
     QString fileName; ///< proposed name; empty for none
     QString filter; ///< entries "text|pattern;pattern", separated by "|"
     QString initialFolder; ///< empty for the dialog's own choice
+    QString sideFolder; ///< offered in the side bar, beside the user's places, if it exists; empty for none
     bool fileMustExist = false;
     bool promptBeforeOverwriting = false;
     /// Adds "All Files (*)" and selects it where programs have no extension.
     bool executables = false;
     /// Adds "All Files (*)" and selects it: the files may have been saved without the extension.
     bool anyName = false;
+    /// The name to save under gets the ending of the chosen filter: while the user has typed none, and
+    /// instead of another filter's.
+    bool endsAsChosen = false;
 };
 
 /// The name filters of a filter text, in Qt's form: "Wave Files (*.wav)|*.wav" gives "Wave Files
 /// (*.wav)".
 QStringList nameFilters(const FileDialogRequest& request);
+/// `fileName` with the first ending of the name filter `chosen` instead of one of another of `filters`.
+QString endingAsChosen(const QString& fileName, const QString& chosen, const QStringList& filters);
 
 /// The user's folder for files of that kind; the home folder where there is none.
 QString userFolder(QStandardPaths::StandardLocation place);

@@ -10,6 +10,7 @@ class ImageList;
 class MessageBoxes;
 class ProgramFiles;
 class Shell;
+class UndoHistory;
 struct DatabaseEngine;
 
 /// What windows need from the rest of the program. Nothing is owned; everything outlives the windows.
@@ -27,4 +28,6 @@ struct FormServices {
     /// The setting `always_on_top`.
     std::function<bool()> alwaysOnTop;
     const ProgramFiles& files;
+    /// Runs the changes that the user can take back.
+    UndoHistory& undo;
 };

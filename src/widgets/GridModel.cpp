@@ -36,6 +36,14 @@ QVariant GridModel::data(const QModelIndex& index, int role) const
         return toolTip(index.row(), field);
     case Qt::TextAlignmentRole:
         return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
+    case Qt::FontRole: {
+        const QFont font = cellFont(index.row(), field);
+        return font.resolveMask() == 0 ? QVariant() : QVariant(font);
+    }
+    case InkRole:
+        return static_cast<int>(rowInk(index.row()));
+    case MarksRole:
+        return QVariant::fromValue(cellMarks(index.row(), field));
     default:
         return {};
     }
@@ -45,6 +53,18 @@ QString GridModel::wordOrText(int row, int field) const
 {
     const QString word = cellWord(row, field);
     return word.isEmpty() ? cellText(row, field) : word;
+}
+
+QString GridModel::rowText(int row) const
+{
+    QStringList texts;
+    for (const GridColumn& column : m_columns) {
+        if (column.widthDivisor != 0) {
+            // A tab or a line break within a name would look like another cell or row.
+            texts.append(wordOrText(row, column.field).simplified());
+        }
+    }
+    return texts.join(u'\t');
 }
 
 QString GridModel::toolTip(int row, int field) const
@@ -67,6 +87,8 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
         return plainToolTip(m_columns[section].header);
     case Qt::UserRole:
         return m_columns[section].key;
+    case SortableRole:
+        return m_columns[section].isSortable;
     case Qt::TextAlignmentRole:
         return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
     default:

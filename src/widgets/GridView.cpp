@@ -1,18 +1,20 @@
 #include "widgets/GridView.h"
 
 #include "widgets/AccessibleGrid.h"
+#include "widgets/CellDelegate.h"
+#include "widgets/EmptyText.h"
 #include "widgets/FittingHeader.h"
-#include "widgets/GridModel.h"
 #include "widgets/LetterScale.h"
-#include "widgets/PlainText.h"
 
+#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMetaMethod>
 #include <QScopedValueRollback>
-#include <QStyledItemDelegate>
 #include <algorithm>
 #include <cmath>
 #include <numeric>
+#include <utility>
 
 namespace
 {
@@ -33,45 +35,22 @@ bool movesUpOrDown(const QKeyEvent& event)
         || event.key() == Qt::Key_PageDown;
 }
 
-QModelIndex firstOf(const QItemSelection& selection)
+bool isShiftF10(const QKeyEvent& event)
 {
-    return selection.isEmpty() ? QModelIndex() : QModelIndex(selection.first().topLeft());
+    return event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier;
 }
-
-/// The share of the grid's width that each column asks for.
-std::vector<double> sharesOf(const QList<GridColumn>& columns)
-{
-    std::vector<double> shares;
-    for (const GridColumn& column : columns) {
-        shares.push_back(column.widthDivisor == 0 ? 0 : 1.0 / column.widthDivisor);
-    }
-    const double whole = std::accumulate(shares.begin(), shares.end(), 0.0);
-    std::for_each(shares.begin(), shares.end(), [whole](double& share) { share /= whole; });
-    return shares;
-}
-
-/// Writes each text in its own direction.
-class CellDelegate final : public QStyledItemDelegate
-{
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    QString displayText(const QVariant& value, const QLocale& locale) const override
-    {
-        return inOwnDirection(QStyledItemDelegate::displayText(value, locale));
-    }
-};
 
 } // namespace
 
 GridView::GridView(QWidget* parent) : QTableView(parent)
 {
     AccessibleGrid::install();
-    setHorizontalHeader(new FittingHeader(this));
+    auto* header = new FittingHeader(this);
+    setHorizontalHeader(header);
     setSelectionBehavior(QAbstractItemView::SelectRows);
-    setSelectionMode(QAbstractItemView::SingleSelection);
+    setSelectionMode(QAbstractItemView::ExtendedSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
-    setItemDelegate(new CellDelegate(this));
+    setItemDelegate(new CellDelegate(*this));
     setWordWrap(false);
     setTabKeyNavigation(false);
     setCornerButtonEnabled(false);
@@ -85,6 +64,12 @@ GridView::GridView(QWidget* parent) : QTableView(parent)
     horizontalHeader()->setMinimumSectionSize(IconSize);
     followLetters();
     connect(horizontalHeader(), &QHeaderView::sectionResized, this, &GridView::takeUserWidth);
+    connect(horizontalHeader(), &QHeaderView::sectionClicked, this, &GridView::pressCaption);
+    connect(header, &FittingHeader::released, this, [this] {
+        if (std::exchange(m_hasDragged, false)) {
+            emit columnsDragged();
+        }
+    });
     connect(this, &QTableView::doubleClicked, this, &GridView::rowDoubleClicked);
 }
 
@@ -95,42 +80,80 @@ void GridView::setGridModel(GridModel* model)
     // On a reset the header lays the grid out before modelReset() arrives here: drop the old shares before
     // that.
     connect(model, &QAbstractItemModel::modelAboutToBeReset, this, [this] { m_shares.clear(); });
-    connect(model, &QAbstractItemModel::modelReset, this, &GridView::layOutColumns);
+    connect(model, &QAbstractItemModel::modelReset, this, &GridView::followColumns);
+    followColumns();
+}
+
+void GridView::followColumns()
+{
     layOutColumns();
+    const QList<GridColumn>& columns = m_gridModel->columns();
+    horizontalHeader()->setSectionsClickable(std::any_of(
+        columns.cbegin(), columns.cend(), [](const GridColumn& column) { return column.isSortable; }));
+    showSortSign();
 }
 
-int GridView::selectedRow() const
+void GridView::showSort(int field, Qt::SortOrder order)
 {
-    const QModelIndexList rows =
-        selectionModel() == nullptr ? QModelIndexList() : selectionModel()->selectedRows();
-    return rows.isEmpty() ? -1 : rows.first().row();
+    m_sortField = field;
+    m_sortOrder = order;
+    showSortSign();
 }
 
-void GridView::selectOnly(int row)
+void GridView::showSortSign()
 {
-    if (row < 0 || row >= model()->rowCount()) {
-        clearSelection();
-        return;
+    const QList<GridColumn>& columns = m_gridModel->columns();
+    const auto sorted = std::find_if(columns.cbegin(), columns.cend(),
+        [this](const GridColumn& column) { return column.isSortable && column.field == m_sortField; });
+    const bool isShown = sorted != columns.cend();
+    horizontalHeader()->setSortIndicatorShown(isShown);
+    horizontalHeader()->setSortIndicator(
+        isShown ? static_cast<int>(sorted - columns.cbegin()) : -1, m_sortOrder);
+}
+
+void GridView::pressCaption(int column)
+{
+    // QHeaderView has put its sign on the column that was clicked.
+    showSortSign();
+    if (m_gridModel->columns()[column].isSortable) {
+        emit sortRequested(m_gridModel->columns()[column].field);
     }
-    // Workaround: from right to left selectRow() of Qt 6.4.2 looks for a column at the wrong edge, finds
-    // none and clears the selection (tst_qt_workarounds, selectRowClearsFromRightToLeft).
-    moveTo(row, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
-void GridView::goTo(int row)
+QString GridView::captionNote(int column) const
 {
-    moveTo(row, QItemSelectionModel::NoUpdate);
-}
-
-void GridView::moveTo(int row, QItemSelectionModel::SelectionFlags selection)
-{
-    int column = 0;
-    while (column + 1 < model()->columnCount() && isColumnHidden(column)) {
-        ++column;
+    if (m_gridModel == nullptr || !m_gridModel->columns()[column].isSortable) {
+        return {};
     }
-    const QModelIndex cell = model()->index(row, column);
-    selectionModel()->setCurrentIndex(cell, selection);
-    scrollTo(cell);
+    if (m_gridModel->columns()[column].field != m_sortField) {
+        return tr("Sorts the list");
+    }
+    return m_sortOrder == Qt::AscendingOrder ? tr("Sorted in ascending order")
+                                             : tr("Sorted in descending order");
+}
+
+void GridView::setEmptyText(const QString& text)
+{
+    if (m_emptyText != text) {
+        m_emptyText = text;
+        // Assistive technology has nothing else to read where there is no row.
+        setAccessibleDescription(text);
+        viewport()->update();
+    }
+}
+
+QColor GridView::colorOf(RowInk ink, bool selected) const
+{
+    switch (ink) {
+    case RowInk::Overdue:
+        return selected ? m_selectedOverdueInk : m_overdueInk;
+    case RowInk::DueToday:
+        return selected ? m_selectedDueTodayInk : m_dueTodayInk;
+    case RowInk::Done:
+        return selected ? m_selectedDoneInk : m_doneInk;
+    default:
+        return {};
+    }
 }
 
 QSize GridView::minimumSizeHint() const
@@ -176,12 +199,6 @@ void GridView::focusInEvent(QFocusEvent* event)
     viewport()->update();
 }
 
-void GridView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)
-{
-    AccessibleGrid::announce(*this, QAccessible::SelectionAdd, firstOf(selected));
-    AccessibleGrid::announce(*this, QAccessible::SelectionRemove, firstOf(deselected));
-    QAbstractItemView::selectionChanged(selected, deselected);
-}
 // NOLINTEND(bugprone-parent-virtual-call)
 
 bool GridView::goesToFirstRow(const QKeyEvent& event) const
@@ -190,22 +207,73 @@ bool GridView::goesToFirstRow(const QKeyEvent& event) const
         || (movesUpOrDown(event) && !currentIndex().isValid());
 }
 
+void GridView::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (event->reason() == QContextMenuEvent::Keyboard) {
+        requestMenu();
+        return;
+    }
+    const QModelIndex under = indexAt(event->pos());
+    if (!selectionModel()->isSelected(under)) {
+        selectOnly(under.row());
+    }
+    emit menuRequested(event->globalPos());
+}
+
+bool GridView::hasMenu() const
+{
+    static const QMetaMethod requested = QMetaMethod::fromSignal(&GridView::menuRequested);
+    return isSignalConnected(requested);
+}
+
+void GridView::requestMenuOf(int row)
+{
+    if (selectionModel()->isRowSelected(row)) {
+        goTo(row);
+    } else {
+        selectOnly(row);
+    }
+    requestMenu();
+}
+
+void GridView::requestMenu()
+{
+    const QModelIndex current = currentIndex();
+    scrollTo(current);
+    const QRect cell = current.isValid() ? visualRect(current) : QRect(0, 0, viewport()->width(), 1);
+    emit menuRequested(viewport()->mapToGlobal(isRightToLeft() ? cell.bottomRight() : cell.bottomLeft()));
+}
+
 void GridView::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Delete && isPlain(*event)) {
         emit deletePressed();
     } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         emit enterPressed();
+    } else if (event->matches(QKeySequence::Copy)) {
+        copySelectedRows();
+    } else if (isShiftF10(*event)) {
+        // Qt sends a context menu event for the menu key, but for Shift+F10 not on every platform.
+        requestMenu();
     } else if (m_gridModel != nullptr && isPlain(*event) && event->key() == Qt::Key_End) {
         selectOnly(m_gridModel->rowCount() - 1);
     } else if (m_gridModel != nullptr && goesToFirstRow(*event)) {
         selectOnly(0);
     } else {
         QTableView::keyPressEvent(event);
-        if (m_gridModel != nullptr && movesUpOrDown(*event) && isPlain(*event) && selectedRow() < 0) {
+        if (m_gridModel != nullptr && movesUpOrDown(*event) && isPlain(*event)
+            && selectedRows() != QList<int>{currentIndex().row()}) {
             // At the first and the last row Qt neither moves nor selects.
             selectOnly(currentIndex().row());
         }
+    }
+}
+
+void GridView::paintEvent(QPaintEvent* event)
+{
+    QTableView::paintEvent(event);
+    if (model() != nullptr && model()->rowCount() == 0) {
+        paintEmptyText(*this, m_emptyText);
     }
 }
 
@@ -221,6 +289,35 @@ void GridView::showEvent(QShowEvent* event)
     QTableView::showEvent(event);
 }
 
+double GridView::weightOf(const GridColumn& column) const
+{
+    return column.widthDivisor == 0 ? 0 : m_draggedWeights.value(column.key, 1.0 / column.widthDivisor);
+}
+
+std::vector<double> GridView::askedShares() const
+{
+    std::vector<double> shares;
+    for (const GridColumn& column : m_gridModel->columns()) {
+        shares.push_back(weightOf(column));
+    }
+    const double whole = std::accumulate(shares.begin(), shares.end(), 0.0);
+    std::for_each(shares.begin(), shares.end(), [whole](double& share) { share /= whole; });
+    return shares;
+}
+
+void GridView::noteDraggedWeights()
+{
+    const QList<GridColumn>& columns = m_gridModel->columns();
+    const double whole = std::accumulate(columns.begin(), columns.end(), 0.0,
+        [this](double sum, const GridColumn& column) { return sum + weightOf(column); });
+    for (int i = 0; i < columns.size(); ++i) {
+        if (columns[i].widthDivisor != 0) {
+            m_draggedWeights.insert(columns[i].key, share(i) * whole);
+        }
+    }
+    m_hasDragged = true;
+}
+
 void GridView::layOutColumns()
 {
     if (m_gridModel == nullptr || m_layingOut) {
@@ -229,7 +326,7 @@ void GridView::layOutColumns()
     const QScopedValueRollback guard(m_layingOut, true);
     const QList<GridColumn>& columns = m_gridModel->columns();
     if (m_shares.empty()) {
-        m_shares = sharesOf(columns);
+        m_shares = askedShares();
     }
     const int room = viewport()->width();
     int taken = 0;
@@ -270,6 +367,7 @@ void GridView::takeUserWidth(int column, int /*oldSize*/, int newSize)
         *dragged = std::clamp(double(newSize) / viewport()->width(), least, most);
         const double rest = 1 - before - *dragged;
         std::for_each(dragged + 1, m_shares.end(), [&](double& share) { share *= rest / after; });
+        noteDraggedWeights();
     }
     layOutColumns();
 }

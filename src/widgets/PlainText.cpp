@@ -99,3 +99,16 @@ QString plainToolTip(const QString& text)
     return QLatin1String("<qt>") + QString(shown).replace(u'\n', QLatin1String("<br>"))
         + QLatin1String("</qt>");
 }
+
+QString withoutMnemonic(const QString& caption)
+{
+    QString text;
+    for (qsizetype i = 0; i < caption.size(); ++i) {
+        // A doubled "&" stands for the letter itself.
+        if (caption[i] == u'&' && ++i == caption.size()) {
+            break;
+        }
+        text += caption[i];
+    }
+    return text;
+}

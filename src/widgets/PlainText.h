@@ -24,3 +24,5 @@ QString beginningOf(std::string_view utf8);
 /// A tool tip that shows `text` letter for letter, wrapped, and cut when it is longer than anybody reads.
 /// Empty for an empty text.
 QString plainToolTip(const QString& text);
+/// A caption as it is read: without the mark of its mnemonic.
+QString withoutMnemonic(const QString& caption);

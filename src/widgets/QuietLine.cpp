@@ -7,12 +7,16 @@
 #include <QApplication>
 #include <QHideEvent>
 #include <QKeyEvent>
+#include <QTimer>
+#include <chrono>
 
 namespace
 {
 
 /// Longer texts are cut: nobody reads more in one line.
 constexpr qsizetype MostCharacters = 1000;
+/// Who goes on typing is not interrupted.
+constexpr std::chrono::milliseconds PauseBeforeAnnouncing(800);
 
 bool isModifier(const QKeyEvent& event)
 {
@@ -77,6 +81,33 @@ void QuietLine::say(const QString& text)
     }
 }
 
+void QuietLine::setStanding(const QString& text)
+{
+    if (text == m_standing) {
+        return;
+    }
+    m_standing = text;
+    if (m_pause == nullptr) {
+        m_pause = new QTimer(this);
+        m_pause->setSingleShot(true);
+        m_pause->setInterval(PauseBeforeAnnouncing);
+        connect(m_pause, &QTimer::timeout, this, [this] {
+            tell(QAccessible::ObjectShow);
+            tell(QAccessible::Alert);
+        });
+    }
+    if (text.isEmpty()) {
+        m_pause->stop();
+        tell(QAccessible::ObjectHide);
+    } else {
+        m_pause->start();
+    }
+    if (m_said.isEmpty()) {
+        fit();
+        tell(QAccessible::NameChanged);
+    }
+}
+
 void QuietLine::tell(int kind)
 {
     if (isVisible()) {
@@ -99,9 +130,10 @@ void QuietLine::fit()
 {
     // QLabel would align by the direction of its text, which may begin with a name.
     setAlignment(Qt::AlignAbsolute | Qt::AlignVCenter | (isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft));
-    const QString shown = fontMetrics().elidedText(m_said, Qt::ElideMiddle, width());
-    setText(shown);
-    setToolTip(shown == m_said ? QString() : plainToolTip(m_said));
+    const QString whole = shown();
+    const QString elided = fontMetrics().elidedText(whole, Qt::ElideMiddle, width());
+    setText(elided);
+    setToolTip(elided == whole ? QString() : plainToolTip(whole));
 }
 
 bool QuietLine::isOnPage(const QObject* watched) const

@@ -2,6 +2,8 @@
 
 #include <QLabel>
 
+class QTimer;
+
 /// The line at the bottom of a page that says how an action ended, where no box is needed. Its parent is
 /// the page. Plain text, elided in the middle, whole in the tool tip. It takes no focus, keeps its room
 /// while it is empty and is announced to assistive technology. It is cleared by the next key or click on
@@ -16,8 +18,13 @@ public:
     /// Shows `text` instead of the present one. Empty to clear the line.
     void say(const QString& text);
     void hush() { say({}); }
-    /// The whole text shown now.
+    /// What was said and not cleared since.
     QString said() const { return m_said; }
+    /// Shows `text` whenever nothing is said; keys and clicks leave it. Empty for nothing. As it may change
+    /// with every key, it is announced only once it stays the same for a moment.
+    void setStanding(const QString& text);
+    /// The whole text shown now, said or standing.
+    const QString& shown() const { return m_said.isEmpty() ? m_standing : m_said; }
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -34,4 +41,6 @@ private:
     void tell(int kind);
 
     QString m_said;
+    QString m_standing;
+    QTimer* m_pause = nullptr; ///< until the standing text is announced; made when there is one
 };

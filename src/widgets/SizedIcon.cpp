@@ -11,11 +11,16 @@
 namespace
 {
 
-QPixmap readPixels(const SizedPicture& picture)
+QSize sizeOf(const SizedPicture& picture, int height)
+{
+    return {height * picture.proportion, height};
+}
+
+QPixmap readPixels(const SizedPicture& picture, int height)
 {
     constexpr qsizetype bytesAPixel = 4;
-    const QSize size = picture.size;
-    QFile file(picture.file);
+    const QSize size = sizeOf(picture, height);
+    QFile file(QStringLiteral("%1/%2/%3.pixels").arg(picture.folder).arg(height).arg(picture.name));
     if (!file.open(QIODevice::ReadOnly)) {
         return {};
     }
@@ -50,10 +55,9 @@ struct Picture {
 class SizedIconEngine final : public QIconEngine
 {
 public:
-    explicit SizedIconEngine(const QList<SizedPicture>& pictures) : m_shared(std::make_shared<Shared>())
+    explicit SizedIconEngine(const SizedPicture& picture)
+        : m_picture(picture), m_read(std::make_shared<std::vector<Picture>>(picture.heights.size()))
     {
-        m_shared->pictures = pictures;
-        m_shared->read.resize(static_cast<std::size_t>(pictures.size()));
     }
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override
@@ -70,48 +74,45 @@ public:
     }
     QSize actualSize(const QSize& size, QIcon::Mode /*mode*/, QIcon::State /*state*/) override
     {
-        const QSize largest = m_shared->pictures.constLast().size;
+        const QSize largest = sizeOf(m_picture, m_picture.heights.back());
         const bool fits = largest.width() <= size.width() && largest.height() <= size.height();
         return fits ? largest : largest.scaled(size, Qt::KeepAspectRatio);
     }
     QList<QSize> availableSizes(QIcon::Mode /*mode*/, QIcon::State /*state*/) override
     {
         QList<QSize> sizes;
-        for (const SizedPicture& picture : m_shared->pictures) {
-            sizes.append(picture.size);
+        for (const int height : m_picture.heights) {
+            sizes.append(sizeOf(m_picture, height));
         }
         return sizes;
     }
     QIconEngine* clone() const override { return new SizedIconEngine(*this); }
 
 private:
-    struct Shared {
-        QList<SizedPicture> pictures;
-        std::vector<Picture> read;
-    };
-
     /// The smallest picture that need not be enlarged, or the largest one.
     Picture& fitting(const QSize& size) const
     {
-        const auto found = std::find_if(
-            m_shared->pictures.cbegin(), m_shared->pictures.cend(), [&size](const SizedPicture& picture) {
-                return picture.size.width() >= size.width() || picture.size.height() >= size.height();
+        const auto found =
+            std::find_if(m_picture.heights.begin(), m_picture.heights.end(), [this, &size](int height) {
+                const QSize offered = sizeOf(m_picture, height);
+                return offered.width() >= size.width() || offered.height() >= size.height();
             });
-        const auto index = std::min(found - m_shared->pictures.cbegin(), m_shared->pictures.size() - 1);
-        Picture& picture = m_shared->read[static_cast<std::size_t>(index)];
+        const auto index = std::min(
+            static_cast<std::size_t>(found - m_picture.heights.begin()), m_picture.heights.size() - 1);
+        Picture& picture = (*m_read)[index];
         if (picture.pixels.isNull()) {
-            picture.pixels = readPixels(m_shared->pictures[index]);
+            picture.pixels = readPixels(m_picture, m_picture.heights[index]);
         }
         return picture;
     }
 
-    // Shared by all copies of an icon.
-    std::shared_ptr<Shared> m_shared;
+    SizedPicture m_picture;
+    std::shared_ptr<std::vector<Picture>> m_read; ///< for each height; shared by all copies of an icon
 };
 
 } // namespace
 
-QIcon sizedIcon(const QList<SizedPicture>& pictures)
+QIcon sizedIcon(const SizedPicture& picture)
 {
-    return QIcon(new SizedIconEngine(pictures));
+    return QIcon(new SizedIconEngine(picture));
 }

@@ -1,6 +1,7 @@
 #include "widgets/TrayIcon.h"
 
-#include <QIcon>
+#include "widgets/BadgedIcon.h"
+
 #include <QMenu>
 #include <QSystemTrayIcon>
 
@@ -8,11 +9,13 @@ TrayIcon::TrayIcon(QObject* parent) : QObject(parent)
 {
 }
 
-void TrayIcon::add(const QIcon& icon, const QString& toolTip, QMenu* menu)
+void TrayIcon::add(const QIcon& icon, const QString& name, QMenu* menu)
 {
     remove();
+    m_plain = icon;
+    m_name = name;
     m_icon = new QSystemTrayIcon(icon, this);
-    m_icon->setToolTip(toolTip);
+    m_icon->setToolTip(name);
     m_icon->setContextMenu(menu);
     connect(m_icon, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
         // A StatusNotifierItem host draws the icon itself and reports neither its geometry nor double
@@ -29,6 +32,24 @@ void TrayIcon::remove()
 {
     delete m_icon;
     m_icon = nullptr;
+    m_news.clear();
+    m_hasBadge = false;
+}
+
+void TrayIcon::setNews(const QString& news)
+{
+    if (m_icon != nullptr && news != m_news) {
+        m_news = news;
+        m_icon->setToolTip(news.isEmpty() ? m_name : m_name + u'\n' + news);
+    }
+}
+
+void TrayIcon::setBadge(bool worn)
+{
+    if (m_icon != nullptr && worn != m_hasBadge) {
+        m_hasBadge = worn;
+        m_icon->setIcon(worn ? badgedIcon(m_plain) : m_plain);
+    }
 }
 
 void TrayIcon::showBalloon(const QString& title, const QString& text, int milliseconds)

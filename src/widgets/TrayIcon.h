@@ -1,9 +1,9 @@
 #pragma once
 
+#include <QIcon>
 #include <QObject>
 #include <QString>
 
-class QIcon;
 class QMenu;
 class QSystemTrayIcon;
 
@@ -16,9 +16,16 @@ class TrayIcon : public QObject
 public:
     explicit TrayIcon(QObject* parent = nullptr);
 
-    /// `menu` opens on a right click and is not owned.
-    void add(const QIcon& icon, const QString& toolTip, QMenu* menu);
+    /// `name` is the first line of the tool tip. `menu` opens on a right click and is not owned.
+    void add(const QIcon& icon, const QString& name, QMenu* menu);
     void remove();
+    /// What the tool tip says below the name; empty for nothing. Plain text. Has an effect while the icon is
+    /// there.
+    void setNews(const QString& news);
+    const QString& news() const { return m_news; }
+    /// Whether the icon wears a badge. Has an effect while the icon is there.
+    void setBadge(bool worn);
+    bool hasBadge() const { return m_hasBadge; }
     /// A balloon with the information icon, closed after `milliseconds`. Plain text.
     void showBalloon(const QString& title, const QString& text, int milliseconds);
 
@@ -31,4 +38,8 @@ signals:
 
 private:
     QSystemTrayIcon* m_icon = nullptr;
+    QIcon m_plain;
+    QString m_name;
+    QString m_news;
+    bool m_hasBadge = false;
 };

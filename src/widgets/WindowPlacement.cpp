@@ -36,6 +36,24 @@ int distance(const QRect& frame, const QRect& area)
     return (moved.center() - frame.center()).manhattanLength();
 }
 
+QRect wholeWithinNearest(const QRect& frame, const QList<QRect>& areas)
+{
+    const QRect nearest =
+        *std::min_element(areas.cbegin(), areas.cend(), [&frame](const QRect& one, const QRect& other) {
+            return distance(frame, one) < distance(frame, other);
+        });
+    return movedInside(QRect(frame.topLeft(), frame.size().boundedTo(nearest.size())), nearest);
+}
+
+QList<QRect> areasOfScreens()
+{
+    QList<QRect> areas;
+    for (const QScreen* screen : QGuiApplication::screens()) {
+        areas.append(screen->availableGeometry());
+    }
+    return areas;
+}
+
 QMargins frameOf(const QWidget& window)
 {
     const QRect inner = window.geometry();
@@ -152,11 +170,18 @@ QRect nextPlace(const QRect& frame, int titleHeight, const QList<QRect>& areas)
             return frame;
         }
     }
-    const QRect nearest =
-        *std::min_element(areas.cbegin(), areas.cend(), [&frame](const QRect& one, const QRect& other) {
-            return distance(frame, one) < distance(frame, other);
-        });
-    return movedInside(QRect(frame.topLeft(), frame.size().boundedTo(nearest.size())), nearest);
+    return wholeWithinNearest(frame, areas);
+}
+
+void putBack(QWidget* window, const QRect& geometry)
+{
+    const QMargins frame = frameOf(*window);
+    const QSize size = geometry.size().expandedTo(window->minimumSizeHint());
+    const QRect before = QRect(geometry.topLeft(), size).marginsAdded(frame);
+    const QRect place = wholeWithinNearest(before, areasOfScreens()).marginsRemoved(frame);
+    window->setProperty(LastPlace, place);
+    new PlaceKeeper(window);
+    window->setGeometry(place);
 }
 
 QSize roomFor(const QWidget& window)
@@ -175,12 +200,8 @@ void putInPlace(QWidget* window, const QWidget* owner)
     QRect place;
     const QRect last = window->property(LastPlace).toRect();
     if (last.isValid()) {
-        QList<QRect> areas;
-        for (const QScreen* screen : QGuiApplication::screens()) {
-            areas.append(screen->availableGeometry());
-        }
         const QRect before = (window->isVisible() ? window->geometry() : last).marginsAdded(frame);
-        place = nextPlace(before, frame.top(), areas);
+        place = nextPlace(before, frame.top(), areasOfScreens());
         // A window that can be reached stays where the user put it.
         if (window->isVisible() && place == before) {
             return;

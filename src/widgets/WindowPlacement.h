@@ -14,6 +14,9 @@ QRect firstPlace(QSize size, const QRect& around, const QRect& available);
 /// at the same place if enough of its title bar (`titleHeight` high) can be seen to drag it, otherwise
 /// whole within the nearest area.
 QRect nextPlace(const QRect& frame, int titleHeight, const QList<QRect>& areas);
+/// Lets `window`, which has not been shown yet, appear at `geometry` (without its frame) instead of its first
+/// place: whole within the nearest screen.
+void putBack(QWidget* window, const QRect& geometry);
 /// The largest size of `window`, without its frame, that fits on its screen.
 QSize roomFor(const QWidget& window);
 /// Puts a window that is about to be shown in its place: the first time over `owner` if that is visible,

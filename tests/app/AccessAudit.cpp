@@ -18,6 +18,7 @@
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QSet>
+#include <QShortcut>
 #include <QTabBar>
 #include <QTest>
 #include <QTextEdit>
@@ -133,6 +134,15 @@ bool hasLeadingLabel(const QWidget* control, QWidget& window)
     });
 }
 
+/// Its tool tip names a key of the window.
+bool hasKeyOfItsOwn(const QWidget* control, const QWidget& window)
+{
+    const QList<QShortcut*> shortcuts = window.findChildren<QShortcut*>();
+    return std::any_of(shortcuts.begin(), shortcuts.end(), [control](const QShortcut* shortcut) {
+        return control->toolTip() == shortcut->key().toString(QKeySequence::NativeText);
+    });
+}
+
 /// The Tab key visits one of a group of exclusive options; the arrow keys go to the others.
 bool areOptionsOfOneGroup(const QWidget* one, const QWidget* other)
 {
@@ -180,7 +190,7 @@ void checkNames(const Controls& controls, QWidget& window, QStringList& faults)
 void checkLabels(const Controls& controls, QWidget& window, QStringList& faults)
 {
     for (const QWidget* control : controls) {
-        if (isInput(control) && !hasLeadingLabel(control, window)) {
+        if (isInput(control) && !hasLeadingLabel(control, window) && !hasKeyOfItsOwn(control, window)) {
             faults.append(nameOf(control) + QLatin1String(" has no label whose mnemonic leads to it"));
         }
         const auto* button = qobject_cast<const QAbstractButton*>(control);

@@ -1,9 +1,10 @@
 #include "tests/app/DrawnWindow.h"
 
+#include "support/Contrast.h"
+
 #include <QHash>
 #include <QWidget>
 #include <algorithm>
-#include <cmath>
 #include <functional>
 #include <vector>
 
@@ -12,15 +13,6 @@ namespace
 
 constexpr int Zoom = 3;
 constexpr int Speck = 2 * Zoom * Zoom;
-
-double luminance(QRgb color)
-{
-    const auto linear = [](int part) {
-        const double share = part / 255.0;
-        return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(qRed(color)) + 0.7152 * linear(qGreen(color)) + 0.0722 * linear(qBlue(color));
-}
 
 /// The number of pixels of each colour.
 QHash<QRgb, int> colorsIn(const QImage& picture, const QRect& area)
@@ -56,13 +48,6 @@ QRect visiblePart(const QWidget& control, const QRect& place)
 }
 
 } // namespace
-
-double contrastOf(QRgb left, QRgb right)
-{
-    const double a = luminance(left);
-    const double b = luminance(right);
-    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
-}
 
 DrawnWindow::DrawnWindow(QWidget& window)
     : m_window(window), m_picture(window.size() * Zoom, QImage::Format_RGB32)

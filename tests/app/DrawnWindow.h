@@ -5,9 +5,6 @@
 
 class QWidget;
 
-/// The contrast of two colours, 1 to 21.
-double contrastOf(QRgb left, QRgb right);
-
 /// A picture of a window, enlarged so that the strokes of its letters have pixels of their full colour.
 class DrawnWindow
 {

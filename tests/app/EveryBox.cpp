@@ -10,6 +10,7 @@
 #include "tests/report/RecordedReportHost.h"
 #include "tests/report/ReportSamples.h"
 #include "widgets/FileDialogs.h"
+#include "widgets/GridView.h"
 #include "widgets/MessageBoxes.h"
 #include "widgets/ScreenErrorReport.h"
 #include "widgets/ScreenProgress.h"
@@ -118,6 +119,17 @@ void visitMenu(QMenu* menu, const QString& name, const Visit& visit)
     menu->close();
 }
 
+void visitMenuOf(GridView* list, const char* menuName, const Visit& visit)
+{
+    list->selectOnly(0);
+    emit list->menuRequested(QPoint(10, 10));
+    auto* menu = list->findChild<QMenu*>(QLatin1String(menuName));
+    QVERIFY(menu != nullptr);
+    settleWindows();
+    visit(QLatin1String(menuName), *menu);
+    menu->close();
+}
+
 } // namespace
 
 void visitEveryBox(QWidget& owner, const Visit& visit)
@@ -178,6 +190,9 @@ void visitPopUps(SkinnedProgram& f, const Visit& visit)
         tabs->setCurrentIndex(page);
         visitLists(f.main(), visit);
     }
+    tabs->setCurrentIndex(0);
+    visitMenuOf(f.grid(f.main()), "mnuList", visit);
+    visitMenuOf(f.grid(f.program.alerts()), "mnuAlert", visit);
     f.press(f.main(), "btnTaskAdd");
     frmTaskDetails& task = f.program.taskDetails();
     visitLists(task, visit);
@@ -192,7 +207,7 @@ void visitPopUps(SkinnedProgram& f, const Visit& visit)
         f.control<QPlainTextEdit>(f.program.categoryDetails(), "txtCatDesc")->createStandardContextMenu());
     visitMenu(lines.get(), QStringLiteral("menu of several lines"), visit);
     f.program.categoryDetails().hide();
-    auto* usualMoments = f.program.alerts().findChild<QMenu*>();
+    auto* usualMoments = f.control<QPushButton>(f.program.alerts(), "btnUsualMoment")->menu();
     QVERIFY(usualMoments != nullptr);
     visitMenu(usualMoments, QStringLiteral("usual moments"), visit);
 

@@ -1,12 +1,19 @@
 #include "tests/app/EveryWindow.h"
 
+#include "app/TasksPage.h"
+#include "app/UndoBar.h"
 #include "categories/frmCategoryDetails.h"
+#include "data/KeptCopies.h"
+#include "exchange/window/frmImport.h"
 #include "help/frmAbout.h"
 #include "help/window/CompiledHelpWindow.h"
 #include "reminders/frmAlerts.h"
 #include "report/PreviewWindow.h"
+#include "settings/frmCopies.h"
+#include "support/TestPictures.h"
 #include "tasks/frmTaskDetails.h"
 #include "tests/app/EveryBox.h"
+#include "tests/exchange/window/RecordedExchange.h"
 #include "tests/help/RecordedHelpHost.h"
 #include "tests/report/RecordedReportHost.h"
 #include "tests/report/ReportSamples.h"
@@ -21,6 +28,7 @@
 #include <QTest>
 #include <QTextBrowser>
 #include <QTextTable>
+#include <QTimer>
 
 namespace
 {
@@ -40,6 +48,12 @@ void visitPages(SkinnedProgram& f, const Visit& visit)
     f.control<QRadioButton>(f.main(), "opnSpecificDate")->click();
     settleWindows();
     visit(QStringLiteral("page with dates"), f.main());
+    f.press(f.program.alerts(), "btnDismiss");
+    settleWindows();
+    visit(QStringLiteral("page with what was done"), f.main());
+    f.main().tasksPage()->undoBar().undo();
+    settleWindows();
+    visit(QStringLiteral("page with what was undone"), f.main());
 }
 
 void visitDialogs(SkinnedProgram& f, const Visit& visit)
@@ -72,6 +86,28 @@ void visitDialogs(SkinnedProgram& f, const Visit& visit)
     QVERIFY(!f.control<QWidget>(category, "txtCatName")->isEnabled());
     visit(QStringLiteral("category whose name is locked"), category);
     category.hide();
+}
+
+void visitCopies(SkinnedProgram& f, const Visit& visit)
+{
+    // The day's own is there already; one cannot be read.
+    const KeptCopies kept(f.database.engine());
+    kept.keep(CopyOccasion::Deletion);
+    const QString damaged = kept.list().first().path;
+    f.database.sql(QStringLiteral("delete from tasks where task_name='Buy milk'"));
+    kept.keep(CopyOccasion::Restore);
+    // The next tick would show what another connection has deleted, whenever it comes.
+    f.program.alerts().tmrTasksChecker_Timer();
+    writeFile(QFileInfo(damaged).path(), QFileInfo(damaged).fileName(), "no data file");
+    f.control<QTabWidget>(f.main(), "tabMain")->setCurrentIndex(3);
+    f.press(f.main(), "btnCopies");
+    auto& copies = *openWindow<frmCopies>();
+    QTRY_VERIFY(!copies.findChild<QTimer*>(QStringLiteral("tmrCompare"))->isActive());
+    copies.findChild<QuietLine*>(QStringLiteral("lblCopiesNote"))
+        ->say(QStringLiteral("Nothing was restored"));
+    settleWindows();
+    visit(QStringLiteral("copies"), copies);
+    copies.hide();
 }
 
 void visitAlert(SkinnedProgram& f, const Visit& visit)
@@ -132,6 +168,15 @@ void visitReport(const Visit& visit)
     visit(QStringLiteral("report"), report);
 }
 
+void visitImport(const Visit& visit)
+{
+    frmImport import;
+    import.setPlan(QStringLiteral("/home/anna/garden.ics"), samplePlan());
+    showOwned(&import, nullptr);
+    settleWindows();
+    visit(QStringLiteral("import"), import);
+}
+
 } // namespace
 
 void visitEveryWindow(SkinnedProgram& program, const Visit& visit)
@@ -139,10 +184,12 @@ void visitEveryWindow(SkinnedProgram& program, const Visit& visit)
     settleWindows();
     visitPages(program, visit);
     visitDialogs(program, visit);
+    visitCopies(program, visit);
     visitAlert(program, visit);
     visitEveryBox(program.main(), visit);
     visitHelp(visit);
     visitReport(visit);
+    visitImport(visit);
 }
 
 void settleWindows()

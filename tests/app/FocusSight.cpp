@@ -1,6 +1,6 @@
 #include "tests/app/FocusSight.h"
 
-#include "tests/app/DrawnWindow.h"
+#include "support/Contrast.h"
 
 #include <QAbstractScrollArea>
 #include <QApplication>

@@ -1,5 +1,6 @@
 #include "tests/app/Legibility.h"
 
+#include "support/Contrast.h"
 #include "tests/app/DrawnWindow.h"
 
 #include <QAbstractItemView>

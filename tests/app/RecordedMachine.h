@@ -8,6 +8,7 @@
 #include "support/TestDatabase.h"
 #include "support/TestServices.h"
 #include "system/WaveBackend.h"
+#include "tests/exchange/window/RecordedExchange.h"
 
 #include <QDir>
 #include <QFile>
@@ -56,7 +57,7 @@ struct RecordedMachine {
                 reportWindow = window.get();
                 return window;
             },
-            {}, shippedFolder};
+            [this] { return std::make_unique<RecordedExchange>(exchange); }, {}, shippedFolder};
     }
     void setting(const QString& column, int value) const
     {
@@ -73,4 +74,5 @@ struct RecordedMachine {
     QStringList helpLog;
     QPointer<RecordedHelpWindow> helpWindow;
     QPointer<RecordedReportWindow> reportWindow;
+    RecordedExchange::Log exchange;
 };

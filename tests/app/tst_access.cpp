@@ -163,7 +163,7 @@ private slots:
             controls += seen;
         });
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
-        QCOMPARE(windows, 27);
+        QCOMPARE(windows, 31);
         QVERIFY2(controls >= 260, qPrintable(QString::number(controls)));
     }
 

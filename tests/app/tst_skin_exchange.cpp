@@ -1,4 +1,5 @@
 #include "settings/SkinEngine.h"
+#include "support/FileContent.h"
 #include "support/TestMain.h"
 #include "tasks/frmTaskDetails.h"
 #include "tests/app/EveryBox.h"
@@ -66,19 +67,6 @@ private:
     QHash<const QObject*, int> m_changes;
 };
 
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void write(const QString& path, const QByteArray& content)
-{
-    QFile file(path);
-    QVERIFY2(file.open(QIODevice::WriteOnly) && !content.isEmpty() && file.write(content) == content.size(),
-        qPrintable(path));
-}
-
 } // namespace
 
 class SkinExchangeTest : public TestCase
@@ -131,7 +119,7 @@ void SkinExchangeTest::initTestCase()
 
 void SkinExchangeTest::addSkin(const QString& name, const QByteArray& content)
 {
-    write(m_skins.filePath(name + QStringLiteral(".skf")), content);
+    writeText(m_skins.filePath(name + QStringLiteral(".skf")), content);
     m_names.append(name);
 }
 

@@ -4,6 +4,7 @@
 #include "help/window/TopicView.h"
 #include "reminders/frmAlerts.h"
 #include "report/PreviewWindow.h"
+#include "support/Contrast.h"
 #include "support/TestMain.h"
 #include "tasks/frmTaskDetails.h"
 #include "tests/app/DrawnWindow.h"
@@ -54,19 +55,21 @@ namespace
 constexpr double OwedByMarks = 3;
 
 const QStringList Windows{"page Maintenance", "page Settings", "page Categories", "page Tasks",
-    "page with dates", "new task", "task with a reminder", "new category", "category with a picture",
-    "category whose name is locked", "alert", "alert with a selected row", "about", "question",
-    "question about unsaved input", "message without a picture", "information", "exclamation", "error report",
-    "report of a failed start", "progress", "help contents", "help index", "help search",
-    "help topic with tables", "help without its file", "report"};
+    "page with dates", "page with what was done", "page with what was undone", "new task",
+    "task with a reminder", "new category", "category with a picture", "category whose name is locked",
+    "copies", "alert", "alert with a selected row", "about", "question", "question about unsaved input",
+    "message without a picture", "information", "exclamation", "error report", "report of a failed start",
+    "progress", "help contents", "help index", "help search", "help topic with tables",
+    "help without its file", "report", "import"};
 
 const QStringList QtBoxes{"dialog that opens a file", "dialog that saves a file", "dialog that prints",
     "dialog that prints, Copies", "dialog that prints, Options"};
 
 const QStringList PopUps{"list of cmbCategories", "list of cmbStatus", "list of cmbSort", "list of cmbSkins",
-    "list of cmbCategoriesMaintenance", "list of cmbStatusMaintenance", "list of cmbCategories",
-    "list of cmbStatus", "list of cmbPeriorities", "menu of a line", "menu of several lines", "usual moments",
-    "menu of a topic", "list of cmbPaper", "list of cmbOrientation", "list of cmbZoom"};
+    "list of cmbCategoriesMaintenance", "list of cmbStatusMaintenance", "mnuList", "mnuAlert",
+    "list of cmbCategories", "list of cmbStatus", "list of cmbPeriorities", "menu of a line",
+    "menu of several lines", "usual moments", "menu of a topic", "list of cmbPaper", "list of cmbOrientation",
+    "list of cmbZoom"};
 
 /// Looks at one window after the other.
 struct Reader {

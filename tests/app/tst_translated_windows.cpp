@@ -12,6 +12,7 @@
 #include "tests/app/WindowTexts.h"
 #include "tests/help/RecordedHelpHost.h"
 #include "tests/report/RecordedReportHost.h"
+#include "widgets/GridView.h"
 #include "widgets/MessageBoxes.h"
 #include "widgets/ScreenErrorReport.h"
 #include "widgets/ScreenProgress.h"
@@ -104,6 +105,17 @@ QStringList keysOf(QWidget& window)
     return keys;
 }
 
+QStringList withoutMnemonics(const QMenu& menu)
+{
+    QStringList found;
+    for (const QAction* entry : menu.actions()) {
+        if (!entry->isSeparator() && QKeySequence::mnemonic(entry->text()).isEmpty()) {
+            found.append(entry->text());
+        }
+    }
+    return found;
+}
+
 QStringList faultsOf(QWidget& window, const QString& language)
 {
     settleWindows();
@@ -171,6 +183,8 @@ private slots:
     void theAboutBoxIsGood();
     void theTrayMenuIsGood_data() { languages(); }
     void theTrayMenuIsGood();
+    void theMenusOfTheListsAreGood_data() { languages(); }
+    void theMenusOfTheListsAreGood();
     void boxesAreGood_data() { languages(); }
     void boxesAreGood();
     void theHelpIsGood_data() { languages(); }
@@ -277,7 +291,7 @@ void TranslatedWindowsTest::everyWindowFitsASmallScreen()
         }
     });
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
-    QCOMPARE(seen, 27);
+    QCOMPARE(seen, 31);
 }
 
 void TranslatedWindowsTest::thePagesAreGood()
@@ -355,6 +369,25 @@ void TranslatedWindowsTest::theTrayMenuIsGood()
     menu->popup(QPoint(10, 10));
     EXPECT_GOOD(*menu, language);
     menu->close();
+}
+
+void TranslatedWindowsTest::theMenusOfTheListsAreGood()
+{
+    QFETCH(const QString, language);
+    TranslatedProgram t(language);
+    for (GridView* list : {t.f.grid(t.f.main()), t.f.grid(t.f.program.alerts())}) {
+        list->selectOnly(0);
+        emit list->menuRequested(QPoint(10, 10));
+        for (QMenu* menu : list->findChildren<QMenu*>()) {
+            menu->popup(QPoint(10, 10));
+            EXPECT_GOOD(*menu, language);
+            // A user's category has the caption that the user wrote.
+            if (menu->menuAction()->objectName() != QLatin1String("mnuListCategory")) {
+                QCOMPARE(withoutMnemonics(*menu), QStringList());
+            }
+            menu->close();
+        }
+    }
 }
 
 void TranslatedWindowsTest::boxesAreGood()

@@ -4,8 +4,10 @@
 #include "tests/app/Fit.h"
 
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QScreen>
+#include <QToolButton>
 #include <array>
 #include <tuple>
 
@@ -64,6 +66,8 @@ private slots:
     void overlappingControlsAreFound();
 
     void everySideOfAFrameIsDrawn();
+
+    void eightRowsAreSeenWhenTheFiltersAreFolded();
 
     void everythingFits_data();
     void everythingFits();
@@ -125,6 +129,22 @@ void WindowsOnScreensTest::everySideOfAFrameIsDrawn()
         QStringLiteral("left right top bottom "));
 }
 
+void WindowsOnScreensTest::eightRowsAreSeenWhenTheFiltersAreFolded()
+{
+    SkinnedProgram program(QStringLiteral("Aqua"));
+    program.main().resize(800, 600);
+    const GridView& grid = *program.grid(program.main());
+    const auto rowsSeen = [&grid] {
+        settleWindows();
+        return grid.viewport()->height() / grid.verticalHeader()->defaultSectionSize();
+    };
+    const int unfolded = rowsSeen();
+    program.control<QToolButton>(program.main(), "btnFold")->click();
+    QCOMPARE(program.main().size(), QSize(800, 600));
+    QVERIFY2(rowsSeen() >= 8 && rowsSeen() >= unfolded + 4,
+        qPrintable(QStringLiteral("%1 rows, unfolded %2").arg(rowsSeen()).arg(unfolded)));
+}
+
 void WindowsOnScreensTest::everythingFits_data()
 {
     QTest::addColumn<QString>("skin");
@@ -155,7 +175,7 @@ void WindowsOnScreensTest::everythingFits()
         const QStringList faults = misfits(window);
         QVERIFY2(faults.isEmpty(), qPrintable(name + u'\n' + faults.join(u'\n')));
     });
-    QCOMPARE(seen, 27);
+    QCOMPARE(seen, 31);
 }
 
 AMBERTASK_TEST_MAIN(WindowsOnScreensTest)

@@ -50,6 +50,14 @@ private slots:
             QStringLiteral("Provider=Microsoft.Jet.OLEDB.4.0;Data Source= ") + database.dataFile());
     }
 
+    void aReminderComesWhateverItsStatusHolds()
+    {
+        TestDatabase database;
+        aTask(database).named(QStringLiteral("x")).remindingAt(database.clock().now()).add();
+        database.sql(QStringLiteral("update tasks set task_status='waiting for Anna'"));
+        QCOMPARE(namesOf(ReminderChecker(database.engine())), QStringList(QStringLiteral("x")));
+    }
+
     void aReminderIsDueFromItsVerySecondOn()
     {
         TestDatabase database;

@@ -175,6 +175,18 @@ class Node:
         """Works a button, menu entry or check box without the mouse."""
         self.call(ACTION, "DoAction", GLib.Variant("(i)", (0,)))
 
+    def actions(self):
+        return [self.call(ACTION, "GetName", GLib.Variant("(i)", (index,)))[0]
+                for index in range(self.get(ACTION, "NActions"))]
+
+    def show_menu(self):
+        """Opens the menu that belongs to a control or to a cell of a table."""
+        self.call(ACTION, "DoAction", GLib.Variant("(i)", (self.actions().index("ShowMenu"),)))
+
+    def add_row(self, row):
+        """Selects a row of a table besides those that are selected."""
+        self.call(TABLE, "AddRowSelection", GLib.Variant("(i)", (row,)))
+
     def grab_focus(self):
         return self.call(COMPONENT, "GrabFocus")[0]
 

@@ -4,6 +4,8 @@ import time
 from gi.repository import GLib
 
 DEFAULT_SECONDS = 15.0
+# The period of the program's ticks, and slack.
+PERIOD_AND_SLACK = 15
 INTERVAL = 0.02
 
 

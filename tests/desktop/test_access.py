@@ -4,10 +4,9 @@ from datetime import datetime
 
 import names
 from case import DesktopCase, main
-from polling import wait_until
+from polling import PERIOD_AND_SLACK, wait_until
 
 NOW = datetime(2026, 3, 2, 10, 20, 30)
-PERIOD_AND_SLACK = 15
 CATEGORY = "Home and garden"
 
 
@@ -81,12 +80,12 @@ class AccessCase(DesktopCase):
                          [("All that grows", 1, 0)])
         return rows[0]["cat_id"]
 
-    def add_task(self, name, due):
+    def add_task(self, name, due, category=CATEGORY):
         """With a reminder at its due moment of this day."""
         self.open_page("Tasks").find(*names.ADD).press()
         dialog = self.user.access.window(names.TASK_DIALOG)
         self.write(dialog, names.TASK_NAME, name)
-        self.choose(dialog, names.TASK_CATEGORY, CATEGORY)
+        self.choose(dialog, names.TASK_CATEGORY, category)
         reminder = dialog.find(*names.REMINDER_ON)
         self.assertFalse(dialog.find(*names.SOUND_ON).has("enabled"))
         reminder.toggle(True)

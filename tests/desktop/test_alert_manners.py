@@ -3,12 +3,11 @@ from datetime import datetime
 
 import names
 from case import DesktopCase, main
-from polling import wait_until
+from polling import PERIOD_AND_SLACK, wait_until
 
 NOW = datetime(2026, 3, 2, 10, 20, 30)
 DUE = datetime(2026, 3, 2, 10, 30, 0)
 LATER = datetime(2026, 3, 2, 10, 40, 0)
-PERIOD_AND_SLACK = 15
 TYPED = ["d", "space", "Return", "a", "Escape", "Delete", "r"]
 
 

@@ -3,11 +3,10 @@ from datetime import datetime
 
 import names
 from case import DesktopCase, main
-from polling import holds_for, wait_until
+from polling import PERIOD_AND_SLACK, holds_for, wait_until
 
 PAST = datetime(2026, 3, 2, 10, 0, 0)
 NOW = datetime(2026, 3, 2, 10, 20, 30)
-PERIOD_AND_SLACK = 15
 A_MOMENT = 1
 
 

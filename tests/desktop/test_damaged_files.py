@@ -123,10 +123,10 @@ class OtherVersionsTest(DamageCase):
         before = self.content()
         self.start_and_work()
         self.assertEqual(self.content(".before-upgrade"), before)
-        self.assertEqual(self.store.execute("pragma user_version"), [{"user_version": 2}])
+        self.assertEqual(self.store.execute("pragma user_version"), [{"user_version": 3}])
 
     def test_a_later_one_ends_the_start_with_a_sentence_and_a_failure(self):
-        self.store.execute("pragma user_version=3")
+        self.store.execute("pragma user_version=99")
         before = self.content()
         user = self.start()
         user.click_control(user.access.message_box("later version of Ambertask"), names.OK)

@@ -195,7 +195,7 @@ class UpgradeTest(InstalledCase):
         wait_until(lambda: self.desk.sound.loud_seconds() > 0.5, "the sound is heard")
         self.assertEqual(sorted(self.skins(user)), ["Aqua", "Classic", "Contrast", "Lemon", "Midnight"])
         self.assertEqual(user.exit(), 0)
-        self.assertEqual(sorted(os.listdir(self.desk.program)), [PROGRAM_NAME, "Skins", "data.dat", "sounds"])
+        self.assertEqual(sorted(os.listdir(self.desk.program)), [PROGRAM_NAME, "Skins", "copies", "data.dat", "sounds"])
         self.assertEqual(os.listdir(self.desk.in_folder("Skins")), ["Lemon.skf"])
         self.assertEqual(self.read("Skins", "Lemon.skf"), mine)
 

@@ -56,7 +56,7 @@ class LanguagesTest(DesktopCase):
         self.desk.input.key("Escape")
         self.user.desk.input.click(*self.user.place_of(self.user.grid().cell(0, 0)))
         self.press("TasksPage", "&Delete")
-        box = self.user.access.message_box(self.words("TasksPage", "Are you sure you want to delete this task?"),
+        box = self.user.access.message_box(self.words("TaskChoices", "Are you sure you want to delete this task?"),
                                            names.MAIN)
         box.find("button", self.words("MessageBoxes", "&Yes"))
         self.user.click(box.find("button", self.words("MessageBoxes", "&No")))
@@ -75,7 +75,7 @@ class LanguagesTest(DesktopCase):
         self.store.add_task("Done", "Work", task_status=2)
         self.store.add_task("Waiting", "Work", task_status=3)
         self.start_in("de", LANGUAGE="de")
-        self.user.choose(self.user.main(), ("combo box", self.words("TasksPage", "Stat&us")),
+        self.user.choose(self.user.main(), ("combo box", self.words("TaskFilters", "Stat&us")),
                          self.words("clsGuiLoader", "Completed"))
         wait_until(lambda: self.user.grid().rows() == 1, "the done task alone is listed")
         self.user.choose_tray_entry(self.words("frmMain", "Hide"))

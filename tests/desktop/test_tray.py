@@ -7,8 +7,12 @@ from gi.repository import GLib
 import names
 from case import DesktopCase, main
 from notifier import NotifierArea
-from polling import holds_for, wait_until
+from polling import PERIOD_AND_SLACK, holds_for, wait_until
 from xinput import RIGHT
+
+
+# The dot on the icon while reminders are due.
+BADGE = (0xa3, 0x15, 0x15)
 
 
 def says(node, text):
@@ -208,6 +212,33 @@ class HiddenStartTest(TrayCase):
         self.assertEqual(user.first_tray_entry(), "Hide")
 
 
+class DueReminderTest(TrayCase):
+    """One reminder is due; its task and another one are late."""
+
+    def setUp(self):
+        super().setUp()
+        self.store.add_task("Due", reminder=datetime(2020, 1, 1, 9, 0))
+        self.store.add_task("Late", due=datetime(2020, 1, 1, 9, 0))
+        self.user = self.start()
+        self.user.alert(1)
+
+    def has_badge(self):
+        return BADGE in self.desk.screen.pixels(*self.user.tray_icon().place())
+
+    def test_the_tool_tip_says_what_is_due_and_what_is_late(self):
+        self.desk.input.hover(*self.user.tray_icon().center())
+        tip = self.user.access.window(names.TRAY_TIP + "\n1 due, 2 overdue")
+        self.assertEqual(tip.role, "tool tip")
+
+    def test_the_badge_comes_when_the_alert_goes_and_goes_with_the_reminder(self):
+        self.user.wait_loaded()
+        holds_for(lambda: not self.has_badge(), "no badge while the alert is in front", 1)
+        self.user.window(names.alert_title(1)).close()
+        wait_until(self.has_badge, "the icon wears a badge")
+        self.store.execute("update tasks set dismissed=1")
+        wait_until(lambda: not self.has_badge(), "the badge goes at the next tick", PERIOD_AND_SLACK)
+
+
 class SilentCloseTest(TrayCase):
     balloon = 0
 
@@ -325,6 +356,19 @@ class NotifierAreaTest(TrayCase):
     def test_the_icon_registers_with_its_tool_tip_and_menu(self):
         self.assertEqual(self.area.tip(), names.TRAY_TIP)
         self.assertEqual(list(self.area.menu()), ["Hide"] + names.TRAY_MENU[1:])
+
+    def has_badge(self):
+        # Alpha, red, green, blue for each pixel, in all sizes of the icon.
+        return all(bytes([255, *BADGE]) in bytes(picture) for _, _, picture in self.area.item_property("IconPixmap"))
+
+    def test_tool_tip_and_badge_follow_the_reminders(self):
+        self.assertFalse(self.has_badge())
+        self.store.add_task("Due", reminder=datetime(2020, 1, 1, 9, 0))
+        self.user.alert(1)
+        wait_until(lambda: self.area.tip() == names.TRAY_TIP + "\n1 due, 1 overdue", "the tool tip says so")
+        holds_for(lambda: not self.has_badge(), "no badge while the alert is in front", 1)
+        self.user.window(names.alert_title(1)).close()
+        wait_until(self.has_badge, "the icon wears a badge")
 
     def test_the_one_gesture_hides_and_shows(self):
         self.area.activate()

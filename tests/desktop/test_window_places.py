@@ -1,4 +1,6 @@
 """Where windows come up: within the screen, where the user left them, and back on a screen that is there."""
+import signal
+
 import desktop
 import names
 from case import DesktopCase, main
@@ -47,6 +49,25 @@ class UsualScreenTest(PlaceCase):
         # As exactly as the frame is known before the window is shown.
         self.assertLess(abs(2 * x + width - self.screen_size[0]), 24)
         self.assertLess(abs(2 * y + height - self.screen_size[1]), 48)
+
+    def test_the_next_start_finds_the_main_window_where_it_was(self):
+        self.user = self.start()
+        self.user.wait_loaded()
+        self.user.window(names.MAIN).move(200, 150, 900, 640)
+        left = self.place(names.MAIN)
+        self.assertEqual(self.user.exit(), 0)
+        self.user = self.start()
+        self.user.wait_loaded()
+        self.assertEqual(self.place(names.MAIN), left)
+        # Hidden when the session ends.
+        self.user.window(names.MAIN).move(120, 90, 900, 660)
+        left = self.place(names.MAIN)
+        self.toggle()
+        self.user.program.send(signal.SIGTERM)
+        self.assertEqual(self.user.program.wait_end(), 0)
+        self.user = self.start()
+        self.user.wait_loaded()
+        self.assertEqual(self.place(names.MAIN), left)
 
     def test_a_dialog_comes_up_over_its_owner(self):
         self.user = self.start()

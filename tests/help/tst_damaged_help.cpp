@@ -292,6 +292,20 @@ private slots:
         QCOMPARE(shownText(window), QStringLiteral("whole"));
     }
 
+    void aTopicWhoseLettersNoFontHasIsShown()
+    {
+        RecordedHelpHost host;
+        CompiledHelpWindow window(host, [] { return false; });
+        // A flipped bit of a letter makes one of any script, here a Syriac one.
+        window.setFile(file(helpFileOf({{"/#IVB", helpContexts({{1, 1}})},
+            {"/#STRINGS", QByteArray("\0a.html\0", 8)}, {"/toc.hhc", "<UL></UL>"},
+            {"/#SYSTEM", helpSystem("a.html", "toc.hhc")}, {"/a.html", helpTopic("\xdc\x90")}})));
+        window.show();
+        window.showDefaultTopic();
+        window.grab();
+        QCOMPARE(shownText(window), QStringLiteral("\u0710"));
+    }
+
     void aTopicThatIsDamagedIsToldAndTheRestStaysReadable()
     {
         RecordedHelpHost host;

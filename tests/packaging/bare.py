@@ -30,8 +30,9 @@ def mirror():
 
 
 class BareSystem:
-    def make(self):
-        self._folder = tempfile.mkdtemp(prefix="ambertask-bare-")
+    def make(self, folder=None):
+        """In a folder that is there, or in a temporary one."""
+        self._folder = folder or tempfile.mkdtemp(prefix="ambertask-bare-")
         os.chmod(self._folder, 0o755)
         self.root = os.path.join(self._folder, "root")
         subprocess.run(["debootstrap", "--variant=minbase", codename(), self.root, mirror()], check=True,

@@ -3,6 +3,7 @@ import configparser
 import glob
 import gzip
 import os
+import re
 import struct
 import subprocess
 import xml.etree.ElementTree as ElementTree
@@ -12,6 +13,7 @@ SHIPPED = "share/ambertask/"
 ENTRY = "share/applications/example.ambertask.ambertask.desktop"
 METAINFO = "share/metainfo/example.ambertask.ambertask.metainfo.xml"
 MAN_PAGE = "share/man/man1/Ambertask.1.gz"
+COMPLETION = "share/bash-completion/completions/Ambertask"
 CHANGELOG = "share/doc/ambertask/changelog.gz"
 DRAWING = "share/icons/hicolor/scalable/apps/ambertask.svg"
 LANG = "{http://www.w3.org/XML/1998/namespace}lang"
@@ -26,9 +28,9 @@ def icon(size):
 
 
 # Patterns: the modules lie in a folder of their version.
-EXPECTED = [PROGRAM, ENTRY, METAINFO, MAN_PAGE, CHANGELOG, "share/doc/ambertask/copyright", DRAWING,
+EXPECTED = [PROGRAM, ENTRY, METAINFO, MAN_PAGE, COMPLETION, CHANGELOG, "share/doc/ambertask/copyright", DRAWING,
             *(icon(size) for size in ICON_SIZES),
-            *(f"lib/ambertask/*/ambertask_{module}.so" for module in ("help", "report")), "lib/ambertask/*/ambertask_sound", "lib/ambertask/*/ambertask_pictures",
+            *(f"lib/ambertask/*/ambertask_{module}.so" for module in ("help", "report", "exchange")), "lib/ambertask/*/ambertask_sound", "lib/ambertask/*/ambertask_pictures",
             SHIPPED + "data.dat", SHIPPED + "Ambertask1.1.chm",
             *(f"{SHIPPED}Skins/{name}.skf" for name in SKINS),
             *(f"{SHIPPED}sounds/{name}.wav" for name in SOUNDS)]
@@ -46,7 +48,7 @@ class Installation:
         if missing:
             return missing
         return [*self._icon_faults(), *self._entry_faults(), *self._metainfo_faults(), *self._text_faults(),
-                *self._language_faults(), *self._validator_faults()]
+                *self._option_faults(), *self._language_faults(), *self._validator_faults()]
 
     def _path(self, path):
         return os.path.join(self._prefix, path)
@@ -109,6 +111,19 @@ class Installation:
             yield f"{MAN_PAGE} is no man page"
         if self._read(SHIPPED + "Ambertask1.1.chm")[:4] != b"ITSF":
             yield "the help is no help file"
+
+    def _option_faults(self):
+        """Each option that the program names is in its man page, and the shell completes it."""
+        help_text = subprocess.run([self._path(PROGRAM), "--help"], capture_output=True, text=True, env={}).stdout
+        options = set(re.findall(r"--[a-z-]+", help_text))
+        if not options:
+            yield "the program does not say its options"
+        man_page = gzip.decompress(self._read(MAN_PAGE)).decode().replace("\\-", "-")
+        completion = self._read(COMPLETION).decode()
+        for option in sorted(options):
+            for place, text in ((MAN_PAGE, man_page), (COMPLETION, completion)):
+                if not re.search(rf"(?<![a-z-]){option}(?![a-z-])", text):
+                    yield f"{place} does not know {option}"
 
     def _language_faults(self):
         """Catalogues are resources of the program; their names are stored in UTF-16."""

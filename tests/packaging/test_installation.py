@@ -9,7 +9,7 @@ import unittest
 
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "desktop"))
 
-from installation import (CHANGELOG, DRAWING, ENTRY, EXPECTED, METAINFO, MAN_PAGE, PROGRAM, SHIPPED, Installation,  # noqa: E402
+from installation import (CHANGELOG, COMPLETION, DRAWING, ENTRY, EXPECTED, METAINFO, MAN_PAGE, PROGRAM, SHIPPED, Installation,  # noqa: E402
                           icon)
 from installed import install  # noqa: E402
 
@@ -75,6 +75,9 @@ class StagedInstallationTest(unittest.TestCase):
                 (CHANGELOG, lambda content: gzip.compress(gzip.decompress(content).replace(b"## 1", b"## unreleased 1")),
                  "the changelog does not begin with"),
                 (MAN_PAGE, lambda content: gzip.compress(gzip.decompress(content)[1:]), f"{MAN_PAGE} is no man page"),
+                (MAN_PAGE, lambda content: gzip.compress(gzip.decompress(content).replace(b"\\-\\-import", b"\\-\\-export")),
+                 f"{MAN_PAGE} does not know --import"),
+                (COMPLETION, replaced(b"--json", b"--jason"), f"{COMPLETION} does not know --json"),
                 (SHIPPED + "Ambertask1.1.chm", lambda content: content[1:], "the help is no help file"),
                 (PROGRAM, replaced("ambertask_de.qm".encode("utf-16-be"), "ambertask_it.qm".encode("utf-16-be")),
                  "the program does not speak de")]:

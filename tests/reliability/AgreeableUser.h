@@ -56,5 +56,5 @@ struct AgreeableServices : TestServices {
     QuietPlatform quiet;
     AgreeableUser user;
     FormServices faced{database.engine(), database.clock(), user, user, user, shell, checkerTimer, images,
-        [] { return false; }, files};
+        [] { return false; }, files, undo};
 };

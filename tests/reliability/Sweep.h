@@ -104,3 +104,15 @@ private:
     Figures m_figures;
     std::vector<std::string> m_complaints;
 };
+
+/// Tries operations with every fault, every death and every power cut, and adds up what was tried.
+class SweepTotals
+{
+public:
+    /// Fails the running test when something goes wrong.
+    void tryEverything(const QString& folder, Operation operation);
+    QString text() const { return m_all.text(); }
+
+private:
+    Sweep::Figures m_all;
+};

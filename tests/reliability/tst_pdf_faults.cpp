@@ -74,16 +74,10 @@ private:
                 folder.filePath(QStringLiteral("out.pdf")), QStringLiteral("Numbers"), usualPage()};
             return writePdf(target, pages, allPages(pages)) ? Told::Failure : Told::Success;
         };
-        Sweep sweep(folder.path().toStdString(), {write, fileIn});
-        sweep.everyFault();
-        sweep.everyDeath();
-        sweep.everyPowerCut(8 * sweeps());
-        m_all += sweep.figures();
-        qInfo("%s", qPrintable(sweep.figures().text()));
-        QVERIFY2(sweep.complaints().isEmpty(), qPrintable(sweep.complaints()));
+        m_all.tryEverything(folder.path(), {write, fileIn});
     }
 
-    Sweep::Figures m_all;
+    SweepTotals m_all;
 };
 
 void TestPdfFaults::aNewFileIsWholeOrNotThere()

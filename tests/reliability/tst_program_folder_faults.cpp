@@ -47,16 +47,6 @@ private slots:
     void cleanupTestCase() { qInfo("all: %s", qPrintable(m_all.text())); }
 
 private:
-    void trySweep(const InstalledProgram& program, Operation operation)
-    {
-        Sweep sweep(program.root().toStdString(), std::move(operation));
-        sweep.everyFault();
-        sweep.everyDeath();
-        sweep.everyPowerCut(8 * sweeps());
-        m_all += sweep.figures();
-        qInfo("%s", qPrintable(sweep.figures().text()));
-        QVERIFY2(sweep.complaints().isEmpty(), qPrintable(sweep.complaints()));
-    }
     static Operation making(const InstalledProgram& program)
     {
         return {
@@ -91,29 +81,29 @@ private:
             }};
     }
 
-    Sweep::Figures m_all;
+    SweepTotals m_all;
 };
 
 void TestProgramFolderFaults::theFirstStartMakesTheWholeFolderOrNone()
 {
     const InstalledProgram program;
     QVERIFY(QDir().mkpath(program.userData()));
-    trySweep(program, making(program));
+    m_all.tryEverything(program.root(), making(program));
 }
 
 void TestProgramFolderFaults::theFirstStartOfALoginMakesTheWholeFolderOrNone()
 {
     const InstalledProgram program;
     QVERIFY(QDir().mkpath(program.filePath("home")));
-    trySweep(program, making(program));
+    m_all.tryEverything(program.root(), making(program));
 }
 
 void TestProgramFolderFaults::aFolderThatIsThereStaysAsItIs()
 {
     const InstalledProgram program;
     program.start();
-    program.write(program.inFolder("data.dat"), "what the user wrote");
-    trySweep(program, making(program));
+    program.writeOwn("data.dat", "what the user wrote");
+    m_all.tryEverything(program.root(), making(program));
 }
 
 void TestProgramFolderFaults::copiesOfAnEarlierVersionGoAllAtLastAndNothingElse()
@@ -134,7 +124,7 @@ void TestProgramFolderFaults::copiesOfAnEarlierVersionGoAllAtLastAndNothingElse(
     const DiskImage after = contentOf(program.folder().toStdString());
     QCOMPARE(after.size(), std::size_t(6)); // three of them are folders
     writeImage(all, program.root().toStdString());
-    trySweep(program, cleaning(program, before, after));
+    m_all.tryEverything(program.root(), cleaning(program, before, after));
 }
 
 AMBERTASK_TEST_MAIN(TestProgramFolderFaults)

@@ -113,21 +113,11 @@ private slots:
     void cleanupTestCase() { qInfo("all: %s", qPrintable(m_all.text())); }
 
 private:
-    void trySweep(const Place& place, Operation operation)
-    {
-        Sweep sweep(place.root.path().toStdString(), std::move(operation));
-        sweep.everyFault();
-        sweep.everyDeath();
-        sweep.everyPowerCut(8 * sweeps());
-        m_all += sweep.figures();
-        qInfo("%s", qPrintable(sweep.figures().text()));
-        QVERIFY2(sweep.complaints().isEmpty(), qPrintable(sweep.complaints()));
-    }
     void tryEntry(const Place& place, const std::function<void(Registry&)>& action)
     {
         qputenv("XDG_CONFIG_HOME", QFile::encodeName(place.path(QStringLiteral("config"))));
         const std::unique_ptr<Registry> registry = makeSystemRegistry();
-        trySweep(place,
+        m_all.tryEverything(place.root.path(),
             {[&] {
                  action(*registry);
                  return Told::Nothing;
@@ -137,19 +127,19 @@ private:
                 }});
     }
 
-    Sweep::Figures m_all;
+    SweepTotals m_all;
 };
 
 void TestReplacementFaults::aBackupUnderANewNameIsWholeOrNotThere()
 {
     const Place place;
-    trySweep(place, place.backup(QStringLiteral("elsewhere/new.abk")));
+    m_all.tryEverything(place.root.path(), place.backup(QStringLiteral("elsewhere/new.abk")));
 }
 
 void TestReplacementFaults::aBackupReplacesAnOlderOneWholeOrNotAtAll()
 {
     const Place place;
-    trySweep(place, place.backup(QStringLiteral("elsewhere/b.abk")));
+    m_all.tryEverything(place.root.path(), place.backup(QStringLiteral("elsewhere/b.abk")));
 }
 
 void TestReplacementFaults::aFullDiskIsToldInWords()
@@ -180,7 +170,7 @@ void TestReplacementFaults::aBackupAfterADeadOperationIsWholeOrNotThere()
     QVERIFY(QFile::remove(place.path(QStringLiteral("program/data.dat"))));
     leaveDeadOperation(place.database.dataFile(), place.path(QStringLiteral("program")));
     QVERIFY(QFile::remove(place.path(QStringLiteral("program/work.dat"))));
-    trySweep(place, place.backup(QStringLiteral("elsewhere/b.abk")));
+    m_all.tryEverything(place.root.path(), place.backup(QStringLiteral("elsewhere/b.abk")));
 }
 
 void TestReplacementFaults::aBackupAfterEveryPowerCutHoldsTheOldStateOrTheNew()
@@ -196,7 +186,7 @@ void TestReplacementFaults::aBackupAfterEveryPowerCutHoldsTheOldStateOrTheNew()
         QFile::remove(target);
         return state;
     };
-    trySweep(place,
+    m_all.tryEverything(place.root.path(),
         {[&] {
              return told([&] {
                  ClsTask task(place.engine);
@@ -211,7 +201,7 @@ void TestReplacementFaults::aBackupAfterEveryPowerCutHoldsTheOldStateOrTheNew()
 void TestReplacementFaults::aRestoreReplacesTheDataFileWholeOrNotAtAll()
 {
     const Place place;
-    trySweep(place, place.restore());
+    m_all.tryEverything(place.root.path(), place.restore());
 }
 
 void TestReplacementFaults::aRestoreOverADeadOperationIsWholeOrNotAtAll()
@@ -224,7 +214,7 @@ void TestReplacementFaults::aRestoreOverADeadOperationIsWholeOrNotAtAll()
     const DiskImage dead = imageOf(place.root.path().toStdString());
     const Operation restore = place.restore();
     writeImage(dead, place.root.path().toStdString());
-    trySweep(place, restore);
+    m_all.tryEverything(place.root.path(), restore);
 }
 
 void TestReplacementFaults::aSecondRestoreKeepsWhatItReplaces()
@@ -232,7 +222,7 @@ void TestReplacementFaults::aSecondRestoreKeepsWhatItReplaces()
     const Place place;
     place.database.sql(QStringLiteral("update tasks set task_name='long ago'"));
     place.copyDataFile(QStringLiteral("program/data.dat.before-restore"));
-    trySweep(place, place.restore());
+    m_all.tryEverything(place.root.path(), place.restore());
 }
 
 void TestReplacementFaults::aRestoreFromWriteAheadModeIsWholeOrNotAtAll()
@@ -248,7 +238,7 @@ void TestReplacementFaults::aRestoreFromWriteAheadModeIsWholeOrNotAtAll()
         const std::string mode = contentIn(folder, "program/data.dat").substr(Formats, 2);
         return mode == "\x01\x01" ? state(folder) : throw std::runtime_error("not in rollback mode");
     };
-    trySweep(place, restore);
+    m_all.tryEverything(place.root.path(), restore);
 }
 
 void TestReplacementFaults::aDataFileThatLeavesWriteAheadModeKeepsItsRecords()
@@ -273,7 +263,7 @@ void TestReplacementFaults::aDataFileThatLeavesWriteAheadModeKeepsItsRecords()
             : throw std::runtime_error("the last change is lost");
     };
     // A journal that nothing is taken back from can stay until something is stored.
-    trySweep(place,
+    m_all.tryEverything(place.root.path(),
         {[&place] {
              DataFileCopies(place.engine).leaveWriteAheadMode();
              return told([&] {
@@ -293,7 +283,7 @@ void TestReplacementFaults::aRestoreOverAnEmptyFileKeepsItsJournal()
     const QString program = place.path(QStringLiteral("program"));
     writeFile(program, QStringLiteral("data.dat"), "");
     writeFile(program, QStringLiteral("data.dat-journal"), "dead");
-    trySweep(place,
+    m_all.tryEverything(place.root.path(),
         {[&] {
              return told([&] {
                  DataFileCopies(place.engine).restoreFrom(place.path(QStringLiteral("elsewhere/b.abk")));
@@ -321,7 +311,7 @@ void TestReplacementFaults::aSkinIsAddedWholeOrNotAtAll()
     writeFile(place.path(QStringLiteral("program/Skins")), QStringLiteral("Lemon.skf"), "an older one");
     ScriptedDialogs dialogs;
     const Skins skins(ProgramFiles(place.engine.programFolder), dialogs);
-    trySweep(place,
+    m_all.tryEverything(place.root.path(),
         {[&] { return told([&] { skins.add(skin); }); },
             [](const std::string& folder) {
                 return contentIn(folder, "program/Skins/Lemon.skf");
@@ -334,7 +324,7 @@ void TestReplacementFaults::aCustomIconIsStoredWholeOrNotAtAll()
     const QString picture =
         writeFile(place.path(QStringLiteral("elsewhere")), QStringLiteral("p.gif"), gifOf());
     const CustomIcons icons(place.engine.programFolder);
-    trySweep(place,
+    m_all.tryEverything(place.root.path(),
         {[&] { return told([&] { icons.store(picture, QStringLiteral("icon7.gif"), {}, {}); }); },
             [](const std::string& folder) {
                 return contentIn(folder, "program/custom icons/icon7.gif");

@@ -56,18 +56,7 @@ private slots:
     void cleanupTestCase() { qInfo("all: %s", qPrintable(m_all.text())); }
 
 private:
-    void trySweep(const QString& folder, Operation operation)
-    {
-        Sweep sweep(folder.toStdString(), std::move(operation));
-        sweep.everyFault();
-        sweep.everyDeath();
-        sweep.everyPowerCut(8 * sweeps());
-        m_all += sweep.figures();
-        qInfo("%s", qPrintable(sweep.figures().text()));
-        QVERIFY2(sweep.complaints().isEmpty(), qPrintable(sweep.complaints()));
-    }
-
-    Sweep::Figures m_all;
+    SweepTotals m_all;
 };
 
 void TestUpgradeFaults::anOlderFileIsBroughtUpWholeOrNotAtAll()
@@ -75,7 +64,7 @@ void TestUpgradeFaults::anOlderFileIsBroughtUpWholeOrNotAtAll()
     const TestDatabase database;
     addTasksUpTo(database, 40, 200);
     makeOlder(database);
-    trySweep(database.folder(), upgradeOf(database));
+    m_all.tryEverything(database.folder(), upgradeOf(database));
 }
 
 void TestUpgradeFaults::newIdsAreGivenToAllTasksOrToNone()
@@ -85,7 +74,7 @@ void TestUpgradeFaults::newIdsAreGivenToAllTasksOrToNone()
     // The copy of an earlier upgrade gives way.
     QVERIFY(QFile::copy(database.dataFile(), database.folder() + u'/' + QLatin1String(BeforeUpgrade)));
     database.sql(QStringLiteral("update tasks set task_name=task_name||'!'"));
-    trySweep(database.folder(), upgradeOf(database));
+    m_all.tryEverything(database.folder(), upgradeOf(database));
 }
 
 void TestUpgradeFaults::anUpgradeOverADeadOperationIsWholeOrNotAtAll()
@@ -100,7 +89,7 @@ void TestUpgradeFaults::anUpgradeOverADeadOperationIsWholeOrNotAtAll()
     const TestDatabase older(program.path());
     const Operation upgrade = upgradeOf(older);
     writeImage(dead, program.path().toStdString());
-    trySweep(program.path(), upgrade);
+    m_all.tryEverything(program.path(), upgrade);
 }
 
 void TestUpgradeFaults::aRestoreOfAnOlderFileIsWholeOrNotAtAll()
@@ -115,7 +104,7 @@ void TestUpgradeFaults::aRestoreOfAnOlderFileIsWholeOrNotAtAll()
     QVERIFY(QFile::copy(source.dataFile(), root.filePath(QStringLiteral("b.abk"))));
     const TestDatabase program(root.filePath(QStringLiteral("program")));
     // The restore has succeeded whether or not its upgrade has: the next start does that.
-    trySweep(root.path(),
+    m_all.tryEverything(root.path(),
         {[&] {
              return told([&] {
                  DataFileCopies(program.engine()).restoreFrom(root.filePath(QStringLiteral("b.abk")));

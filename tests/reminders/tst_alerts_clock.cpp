@@ -1,6 +1,8 @@
 #include "AlertsFixture.h"
+#include "data/TaskCodes.h"
 #include "support/TestMain.h"
 
+#include <QSignalSpy>
 #include <QTest>
 
 using namespace std::chrono_literals;
@@ -15,6 +17,18 @@ Moment at(std::chrono::year_month_day day, std::chrono::seconds timeOfDay)
 
 constexpr auto SpringForward = std::chrono::March / 29 / 2026;
 constexpr auto FallBack = std::chrono::October / 25 / 2026;
+
+enum Column { Name = 1, DueDate = 3 };
+
+QVariant ask(const AlertsFixture& alerts, int row, int column, int role)
+{
+    return alerts.grid()->model()->index(row, column).data(role);
+}
+
+RowInk inkOf(const AlertsFixture& alerts, int row)
+{
+    return static_cast<RowInk>(ask(alerts, row, Name, GridModel::InkRole).toInt());
+}
 
 } // namespace
 
@@ -33,6 +47,47 @@ private slots:
         alerts.clock().step(10s);
         alerts.tick();
         QCOMPARE(alerts.names(), QStringList(QStringLiteral("x")));
+    }
+
+    void whatIsLateDueTodayAndDoneIsToldByColourFontAndWord()
+    {
+        AlertsFixture alerts;
+        alerts.aDueTask(QStringLiteral("late")).dueAt(alerts.now() - 1s).add();
+        alerts.aDueTask(QStringLiteral("today")).dueAt(alerts.now() + 1h).add();
+        alerts.aDueTask(QStringLiteral("tomorrow")).dueAt(alerts.now() + 24h).add();
+        alerts.aDueTask(QStringLiteral("done")).withStatus(TaskStatus::Completed).add();
+        alerts.tick();
+        const QList<RowInk> inks{RowInk::Overdue, RowInk::DueToday, RowInk::Usual, RowInk::Done};
+        const QStringList words{QStringLiteral("Overdue\n1 minute late"),
+            QStringLiteral("Due today\n1 minute late"), QStringLiteral("1 minute late"),
+            QStringLiteral("1 minute late")};
+        for (int row = 0; row < 4; ++row) {
+            QCOMPARE(inkOf(alerts, row), inks[row]);
+            QCOMPARE(ask(alerts, row, DueDate, Qt::AccessibleDescriptionRole).toString(), words[row]);
+        }
+        const auto font = [&alerts](int row, int column) {
+            return ask(alerts, row, column, Qt::FontRole).value<QFont>();
+        };
+        QVERIFY(font(0, Name).bold() && font(0, DueDate).bold());
+        QVERIFY(!font(1, Name).bold() && font(1, DueDate).bold());
+        QVERIFY(!ask(alerts, 2, DueDate, Qt::FontRole).isValid());
+        QVERIFY(font(3, Name).strikeOut());
+    }
+
+    void aTaskBecomesLateWhileItsReminderIsListed()
+    {
+        AlertsFixture alerts;
+        alerts.aDueTask(QStringLiteral("today")).dueAt(alerts.now() + 1h).add();
+        alerts.tick();
+        const QSignalSpy changes(alerts.grid()->model(), &QAbstractItemModel::dataChanged);
+        alerts.clock().step(1h);
+        alerts.tick();
+        QCOMPARE(changes.count(), 0);
+        QCOMPARE(inkOf(alerts, 0), RowInk::DueToday);
+        alerts.clock().step(1s);
+        alerts.tick();
+        QCOMPARE(changes.count(), 1);
+        QCOMPARE(inkOf(alerts, 0), RowInk::Overdue);
     }
 
     void afterHoursAsleepEverythingMissedComesUpAtOnce()

@@ -316,7 +316,7 @@ private slots:
                 controls.append(control);
             }
         }
-        QCOMPARE(controls.size(), 18);
+        QCOMPARE(controls.size(), 19);
         for (const QWidget* control : std::as_const(controls)) {
             QVERIFY2(f.window.rect().contains(control->geometry()), qPrintable(control->objectName()));
             QVERIFY2(control->width() >= control->minimumSizeHint().width()
@@ -372,7 +372,7 @@ private slots:
             mnemonics.insert(caption[mark + 1].toLower());
         }
         QCOMPARE(mnemonics.size(), captions.size());
-        QCOMPARE(captions.size(), 12);
+        QCOMPARE(captions.size(), 13);
     }
 };
 

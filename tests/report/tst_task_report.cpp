@@ -1,4 +1,5 @@
 #include "app/drTasks.h"
+#include "data/TaskCodes.h"
 #include "report/PreviewWindow.h"
 #include "support/CaughtError.h"
 #include "support/PdfFile.h"
@@ -7,6 +8,7 @@
 #include "support/TestServices.h"
 #include "system/Language.h"
 #include "tests/report/ReportSamples.h"
+#include "widgets/QuietLine.h"
 #include "widgets/WindowPlacement.h"
 
 #include <QLibrary>
@@ -26,11 +28,20 @@ class TaskReportTest : public TestCase
 private:
     struct Fixture {
         Fixture()
-            : report(services.services, [this](ReportHost& host) {
-                  auto made = std::make_unique<PreviewWindow>(host, [] { return false; });
-                  window = made.get();
-                  return made;
-              })
+            : report(
+                services.services,
+                [this](ReportHost& host) {
+                    auto made = std::make_unique<PreviewWindow>(host, [] { return false; });
+                    window = made.get();
+                    return made;
+                },
+                [this](QWidget* /*owner*/, const QList<qint32>& ids) -> QString {
+                    saved = ids;
+                    if (!failure.isEmpty()) {
+                        throw RuntimeError(failure);
+                    }
+                    return QStringLiteral("saved");
+                })
         {
         }
         void print(const TaskFilter& filter = {}) { report.printTasks(filter, &owner); }
@@ -50,10 +61,46 @@ private:
         TestServices services;
         QWidget owner;
         PreviewWindow* window = nullptr;
+        QList<qint32> saved;
+        QString failure;
         drTasks report;
     };
 
 private slots:
+    void ofASearchTheReportShowsTheTasksThatItFound()
+    {
+        Fixture f;
+        aTask(f.services.database).named(QStringLiteral("dentist")).add();
+        const qint32 found = aTask(f.services.database).named(QStringLiteral("garage")).add();
+        aTask(f.services.database).named(QStringLiteral("garden")).add();
+        f.report.printTasks({}, &f.owner, std::vector<qint32>{found});
+        QVERIFY(f.text().contains(QLatin1String("garage")));
+        QVERIFY(!f.text().contains(QLatin1String("dentist")) && !f.text().contains(QLatin1String("garden")));
+        f.report.printTasks({}, &f.owner, std::vector<qint32>{});
+        QVERIFY(!f.text().contains(QLatin1String("garage")));
+    }
+
+    void theTasksThatTheReportShowsAreSavedInItsOrder()
+    {
+        Fixture f;
+        const qint32 late =
+            aTask(f.services.database).named(QStringLiteral("a")).dueAt(makeMoment(2026y / 3 / 2, 9h)).add();
+        aTask(f.services.database).named(QStringLiteral("b")).add();
+        const qint32 early =
+            aTask(f.services.database).named(QStringLiteral("c")).dueAt(makeMoment(2026y / 3 / 1, 9h)).add();
+        TaskFilter filter;
+        filter.sortBy = TaskSort::DueDate;
+        f.report.printTasks(filter, &f.owner, std::vector<qint32>{late, early});
+        auto* saveAs = f.window->findChild<QPushButton*>(QStringLiteral("btnSaveAs"));
+        saveAs->click();
+        QCOMPARE(f.saved, QList<qint32>({early, late}));
+        QCOMPARE(f.window->findChild<QuietLine*>()->said(), QStringLiteral("saved"));
+        f.failure = QStringLiteral("The disk is full.");
+        f.services.dialogs.expectExclamationWith(f.failure);
+        saveAs->click();
+        QCOMPARE(f.window->findChild<QuietLine*>()->said(), QString());
+    }
+
     void theReportShowsTheTasksOfTheFilter()
     {
         Fixture f;
@@ -113,11 +160,13 @@ private slots:
         TestServices services;
         RecordedReportWindow* window = nullptr;
         QWidget owner;
-        drTasks report(services.services, [&](ReportHost&) {
-            auto made = std::make_unique<RecordedReportWindow>();
-            window = made.get();
-            return made;
-        });
+        drTasks report(services.services,
+            [&](ReportHost&) {
+                auto made = std::make_unique<RecordedReportWindow>();
+                window = made.get();
+                return made;
+            },
+            {});
         aTask(services.database).dueAt(makeMoment(2026y / 2 / 3, 23h + 59min)).add();
         const QLocale before;
         QLocale::setDefault(QLocale(QLocale::Arabic, QLocale::Egypt));
@@ -355,7 +404,7 @@ private slots:
     {
         TestServices services;
         QWidget owner;
-        drTasks report(services.services, [](ReportHost&) { return nullptr; });
+        drTasks report(services.services, [](ReportHost&) { return nullptr; }, {});
         const auto error = caught<RuntimeError>([&] { report.printTasks({}, &owner); });
         QVERIFY(error.has_value());
         QVERIFY(error->text().contains(QStringLiteral("ambertask_report")));
@@ -372,7 +421,7 @@ private slots:
         QVERIFY2(make != nullptr, qPrintable(module.errorString()));
         QWidget owner;
         drTasks report(services.services,
-            [make](ReportHost& host) { return std::unique_ptr<ReportWindow>(make(host)); });
+            [make](ReportHost& host) { return std::unique_ptr<ReportWindow>(make(host)); }, {});
         report.printTasks({}, &owner);
         QCOMPARE(report.window()->objectName(), QStringLiteral("drTasks"));
         QVERIFY(QTest::qWaitForWindowExposed(report.window()));

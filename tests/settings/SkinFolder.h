@@ -1,8 +1,6 @@
 #pragma once
 
-#include <QDir>
-#include <QFile>
-#include <QTest>
+#include "support/FileContent.h"
 
 /// Where the build has put the shipped skins.
 inline QString shippedSkins()
@@ -19,18 +17,6 @@ inline void copySkins(const QString& programFolder, const QStringList& names)
         const QString file = QLatin1Char('/') + name + QStringLiteral(".skf");
         QVERIFY2(QFile::copy(shippedSkins() + file, folder + file), qPrintable(name));
     }
-}
-
-inline void writeText(const QString& path, const QByteArray& text)
-{
-    QFile file(path);
-    QVERIFY2(file.open(QIODevice::WriteOnly) && file.write(text) == text.size(), qPrintable(path));
-}
-
-inline QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be read");
 }
 
 /// A small skin whose windows have that colour.

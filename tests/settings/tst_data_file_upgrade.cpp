@@ -205,7 +205,7 @@ private slots:
     void aLaterFileIsRefused()
     {
         const OlderFile older;
-        execute(older.database.dataFile(), "pragma user_version=3");
+        execute(older.database.dataFile(), "pragma user_version=99");
         const QByteArray later = contentOf(older.database.dataFile());
         QVERIFY(caught<LaterDataFileError>([&] { older.copies().bringUp(); }));
         QVERIFY(contentOf(older.database.dataFile()) == later);
@@ -231,8 +231,8 @@ private slots:
         QVERIFY(contentOf(test.backup()) == backup);
         QVERIFY(contentOf(test.pathOf(QStringLiteral("data.dat.before-upgrade"))) == backup);
         QCOMPARE(test.files(),
-            (QStringList{QStringLiteral("data.dat"), QStringLiteral("data.dat.before-restore"),
-                QStringLiteral("data.dat.before-upgrade")}));
+            (QStringList{QStringLiteral("copies"), QStringLiteral("data.dat"),
+                QStringLiteral("data.dat.before-restore"), QStringLiteral("data.dat.before-upgrade")}));
         QVERIFY(test.said().startsWith(QLatin1String("Restored 1 task from")));
     }
 
@@ -270,7 +270,7 @@ private slots:
     void aLaterBackupIsRefusedInTheLine()
     {
         RestoreUnderTest test;
-        execute(test.backup(), "alter table tasks drop column played; pragma user_version=3");
+        execute(test.backup(), "alter table tasks drop column played; pragma user_version=99");
         const QByteArray before = contentOf(test.database.dataFile());
         test.restore(test.backup());
         QCOMPARE(test.restored.size(), 0);

@@ -1,4 +1,6 @@
+#include "data/KeptCopies.h"
 #include "settings/MaintenancePageUnderTest.h"
+#include "support/FileContent.h"
 #include "support/TestMain.h"
 
 #include <QAccessible>
@@ -57,6 +59,9 @@ private slots:
     void aRangeThatEndsBeforeItBeginsMatchesNothing();
     void aDatabaseErrorIsReportedAndLeavesTheCheckerAlone();
     void aDeletionThatTheEndOfTheProgramOvertakesDeletesNothing();
+    void aDeletionKeepsACopyOfWhatWas();
+    void aDeletionWithoutACopyIsDoneAndSaysSo();
+    void aRefusedDeletionKeepsNoCopy();
 };
 
 void TestMaintenancePage::everyControlHasItsNameAndCaption_data()
@@ -68,6 +73,9 @@ void TestMaintenancePage::everyControlHasItsNameAndCaption_data()
     QTest::newRow("btnDeleteTasksMaintenance") << QStringLiteral("Delete");
     QTest::newRow("btnBackup") << QStringLiteral("Backup");
     QTest::newRow("btnRestore") << QStringLiteral("Restore");
+    QTest::newRow("btnCopies") << QStringLiteral("Restore from a copy...");
+    QTest::newRow("btnExport") << QStringLiteral("Export...");
+    QTest::newRow("btnImport") << QStringLiteral("Import...");
     QTest::newRow("btnHelpMaintenance") << QStringLiteral("Help");
 }
 
@@ -99,7 +107,8 @@ void TestMaintenancePage::listsAndPickersAreNamedByTheirLabels()
         frames.append(frame->title());
     }
     frames.sort();
-    QCOMPARE(frames.join(u','), QStringLiteral("Backup and Restore,Date Range,Delete Tasks"));
+    QCOMPARE(frames.join(u','),
+        QStringLiteral("Backup and Restore,Date Range,Delete Tasks,Exchange with other programs"));
 }
 
 void TestMaintenancePage::noTwoControlsShareAMnemonic()
@@ -112,7 +121,7 @@ void TestMaintenancePage::noTwoControlsShareAMnemonic()
             mnemonics.append(text.mid(mark + 1, 1).toLower());
         }
     }
-    QCOMPARE(mnemonics.size(), 11);
+    QCOMPARE(mnemonics.size(), 14);
     QCOMPARE(mnemonics.removeDuplicates(), 0);
 }
 
@@ -134,7 +143,7 @@ void TestMaintenancePage::theTabKeyWalksThePage()
     QCOMPARE(walked.join(u' '),
         QStringLiteral("cmbCategoriesMaintenance cmbStatusMaintenance opnAllTasksMaintenance "
                        "dtpDateFromMaintenance dtpDateToMaintenance btnDeleteTasksMaintenance btnBackup "
-                       "btnRestore btnHelpMaintenance"));
+                       "btnRestore btnCopies btnExport btnImport btnHelpMaintenance"));
 }
 
 void TestMaintenancePage::theFiltersStartWithEverythingDueToday()
@@ -275,7 +284,7 @@ void TestMaintenancePage::theCriteriaAreReadAgainAfterTheQuestion()
     });
     const FormServices services{own.services.engine, own.services.clock, boxes, own.services.fileDialogs,
         own.services.errors, own.services.shell, own.services.checkerTimer, own.services.imgLstCategories,
-        own.services.alwaysOnTop, own.services.files};
+        own.services.alwaysOnTop, own.services.files, own.undo};
     MaintenancePage page(services);
     shown = &page;
     page.prepareFilters();
@@ -330,9 +339,10 @@ void TestMaintenancePage::aDeletionThatTheEndOfTheProgramOvertakesDeletesNothing
     EndAtDeletion ending;
     DatabaseEngine engine = own.database.engine();
     engine.listener = &ending;
+    UndoHistory undo(engine);
     const FormServices services{engine, own.services.clock, own.services.messages, own.services.fileDialogs,
         own.services.errors, own.services.shell, own.services.checkerTimer, own.services.imgLstCategories,
-        own.services.alwaysOnTop, own.services.files};
+        own.services.alwaysOnTop, own.services.files, undo};
     MaintenancePage page(services);
     page.prepareFilters();
     own.database.sql(QStringLiteral(
@@ -350,6 +360,41 @@ void TestMaintenancePage::aDeletionThatTheEndOfTheProgramOvertakesDeletesNothing
     QCOMPARE(QCoreApplication::exec(), 0);
     QCOMPARE(own.database.sql(QStringLiteral("select count(*) from tasks")).toInt(), Many);
     QCOMPARE(deleted.size(), 0);
+}
+
+void TestMaintenancePage::aDeletionKeepsACopyOfWhatWas()
+{
+    MaintenancePageUnderTest test;
+    addTasks(test.database);
+    const QByteArray before = contentOf(test.database.dataFile());
+    test.dialogs.expectAsk(QStringLiteral("Are you sure you want to delete 4 tasks?"), true);
+    test.press("btnDeleteTasksMaintenance");
+    QCOMPARE(test.tasks().size(), 2);
+    const QList<KeptCopy> copies = KeptCopies(test.database.engine()).list();
+    QCOMPARE(copies.size(), 1);
+    QCOMPARE(copies.first().occasion, CopyOccasion::Deletion);
+    QVERIFY(contentOf(copies.first().path) == before);
+    QCOMPARE(test.said(), QStringLiteral("4 tasks were deleted"));
+}
+
+void TestMaintenancePage::aDeletionWithoutACopyIsDoneAndSaysSo()
+{
+    MaintenancePageUnderTest test;
+    addTasks(test.database);
+    writeText(test.pathOf(QStringLiteral("copies")), "not a folder");
+    test.dialogs.expectAsk(QStringLiteral("Are you sure you want to delete 4 tasks?"), true);
+    test.press("btnDeleteTasksMaintenance");
+    QCOMPARE(test.tasks().size(), 2);
+    QCOMPARE(test.said(), QStringLiteral("4 tasks were deleted. No copy was kept: it is not a folder"));
+}
+
+void TestMaintenancePage::aRefusedDeletionKeepsNoCopy()
+{
+    MaintenancePageUnderTest test;
+    addTasks(test.database);
+    test.dialogs.expectAsk(QStringLiteral("Are you sure you want to delete 4 tasks?"), false);
+    test.press("btnDeleteTasksMaintenance");
+    QVERIFY(KeptCopies(test.database.engine()).list().isEmpty());
 }
 
 AMBERTASK_TEST_MAIN(TestMaintenancePage)

@@ -20,6 +20,8 @@ private slots:
     void theSettingsOnThePageSurviveTheRestore();
     void theCheckerRestsUntilEverythingIsReloaded();
     void theDialogAsksForABackup();
+    void theDialogOffersTheFolderOfTheCopies();
+    void aRestoreWithoutACopyIsDoneAndSaysSo();
     void aCancelledDialogChangesNothing();
     void theLineSaysWhatCameBackAndWhereTheOtherIs();
     void theLineCountsOneTaskAndNone();
@@ -114,6 +116,29 @@ void TestRestore::theDialogAsksForABackup()
         QVERIFY2(request.anyName, "the name that a backup is offered would not be seen");
     });
     test.press("btnRestore");
+}
+
+void TestRestore::theDialogOffersTheFolderOfTheCopies()
+{
+    RestoreUnderTest test;
+    test.dialogs.expectOpen({}, [&](const FileDialogRequest& request) {
+        QCOMPARE(request.sideFolder, test.pathOf(QStringLiteral("copies")));
+    });
+    test.press("btnRestore");
+    test.dialogs.expectSave(
+        {}, [&](const FileDialogRequest& request) { QCOMPARE(request.sideFolder, QString()); });
+    test.press("btnBackup");
+}
+
+void TestRestore::aRestoreWithoutACopyIsDoneAndSaysSo()
+{
+    RestoreUnderTest test;
+    writeText(test.pathOf(QStringLiteral("copies")), "not a folder");
+    test.restore(test.backup());
+    QCOMPARE(test.tasks(), QStringList(QStringLiteral("before")));
+    QVERIFY2(test.said().endsWith(
+                 QLatin1String("is in data.dat.before-restore. No copy was kept: it is not a folder")),
+        qPrintable(test.said()));
 }
 
 void TestRestore::theLineSaysWhatCameBackAndWhereTheOtherIs()
@@ -289,8 +314,9 @@ void TestRestore::nothingIsLeftBehind()
 {
     RestoreUnderTest test;
     test.restore(test.backup());
-    QCOMPARE(
-        test.files(), QStringList({QStringLiteral("data.dat"), QStringLiteral("data.dat.before-restore")}));
+    QCOMPARE(test.files(),
+        QStringList({QStringLiteral("copies"), QStringLiteral("data.dat"),
+            QStringLiteral("data.dat.before-restore")}));
 }
 
 void TestRestore::theJournalOfAMissingDataFileDoesNotReachTheNewFile()
@@ -315,8 +341,9 @@ void TestRestore::whatADeadRestoreLeftGoesWithTheNext()
     writeText(test.pathOf(QStringLiteral(".ambertask-0123456789abcdef0123456789abcdef")), "half a copy");
     test.restore(test.backup());
     QCOMPARE(test.tasks(), QStringList(QStringLiteral("before")));
-    QCOMPARE(
-        test.files(), QStringList({QStringLiteral("data.dat"), QStringLiteral("data.dat.before-restore")}));
+    QCOMPARE(test.files(),
+        QStringList({QStringLiteral("copies"), QStringLiteral("data.dat"),
+            QStringLiteral("data.dat.before-restore")}));
 }
 
 void TestRestore::aLinkInThePlaceOfTheCheckingFolderIsNotFollowed()

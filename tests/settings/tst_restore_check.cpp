@@ -31,6 +31,13 @@ void TestRestoreCheck::aFileThatIsNoBackupChangesNothing_data()
     QTest::newRow("no tasks") << QByteArray("drop table tasks") << QByteArray();
     QTest::newRow("no categories") << QByteArray("drop table categories") << QByteArray();
     QTest::newRow("no settings") << QByteArray("drop table settings") << QByteArray();
+    QTest::newRow("no origins") << QByteArray("drop table task_origins") << QByteArray();
+    QTest::newRow("origins without a column")
+        << QByteArray("alter table task_origins drop column uid") << QByteArray();
+    QTest::newRow("an origin that is none")
+        << QByteArray("drop table task_origins; create table task_origins(of_task integer primary key, uid, "
+                      "properties); insert into task_origins(of_task) values(1)")
+        << QByteArray();
     QTest::newRow("a column less") << QByteArray("alter table tasks drop column played") << QByteArray();
     QTest::newRow("another database") << QByteArray(
         "drop table tasks; drop table settings; drop table categories;"

@@ -55,8 +55,9 @@ void TestRestoreJournals::aBackupInWriteAheadModeIsTurnedToTheRollbackJournal()
     QCOMPARE(journalModeOf(contentOf(test.database.dataFile())), QStringLiteral("rollback"));
     QCOMPARE(test.database.sql(QStringLiteral("pragma journal_mode")).toString(), QStringLiteral("delete"));
     QCOMPARE(test.database.sql(QStringLiteral("pragma integrity_check")).toString(), QStringLiteral("ok"));
-    QCOMPARE(
-        test.files(), QStringList({QStringLiteral("data.dat"), QStringLiteral("data.dat.before-restore")}));
+    QCOMPARE(test.files(),
+        QStringList({QStringLiteral("copies"), QStringLiteral("data.dat"),
+            QStringLiteral("data.dat.before-restore")}));
 }
 
 void TestRestoreJournals::aBackupInWriteAheadModeStaysAsItIs()
@@ -169,8 +170,9 @@ void TestRestoreJournals::theKeptJournalGoesWithItsFile()
     const QByteArray restored = contentOf(test.database.dataFile());
     test.restore(test.backup());
     QCOMPARE(test.restored.size(), 2);
-    QCOMPARE(
-        test.files(), QStringList({QStringLiteral("data.dat"), QStringLiteral("data.dat.before-restore")}));
+    QCOMPARE(test.files(),
+        QStringList({QStringLiteral("copies"), QStringLiteral("data.dat"),
+            QStringLiteral("data.dat.before-restore")}));
     QVERIFY(contentOf(test.pathOf(QStringLiteral("data.dat.before-restore"))) == restored);
 }
 

@@ -1,7 +1,9 @@
 #include "settings/SkinEngine.h"
 #include "settings/SkinFolder.h"
 #include "settings/SkinSheet.h"
+#include "support/Contrast.h"
 #include "support/TestMain.h"
+#include "widgets/GridView.h"
 
 #include <QApplication>
 #include <QBoxLayout>
@@ -12,26 +14,12 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
+#include <QSet>
 #include <QSpinBox>
 #include <cmath>
 
 namespace
 {
-
-double luminance(QColor color)
-{
-    const auto linear = [](double part) {
-        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-}
-
-double contrast(QColor left, QColor right)
-{
-    const double a = luminance(left);
-    const double b = luminance(right);
-    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
-}
 
 QString pathOf(const QString& skin)
 {
@@ -42,6 +30,34 @@ QString pathOf(const QString& skin)
 double owed(const QString& skin)
 {
     return skin == QLatin1String("Contrast") ? 7.0 : 4.5;
+}
+
+/// A colour that the sheet gives to the rows of grids.
+QColor rowColor(const SkinFile& skin, const QString& property)
+{
+    const QRegularExpression line(QStringLiteral("qproperty-%1:\\s*(#[0-9a-f]{6})").arg(property));
+    return {line.match(skinSheet(skin)).captured(1)};
+}
+
+/// The rows that do not stand out from their ground by that contrast.
+QString faintRows(const SkinFile& skin, double contrastOwed)
+{
+    const QColor selection = skin.colors.value(QStringLiteral("selection"));
+    QStringList faults;
+    const auto expect = [&](const QString& property, const QColor& ground) {
+        const double ratio = contrastOf(rowColor(skin, property), ground);
+        if (ratio < contrastOwed) {
+            faults.append(QStringLiteral("%1 on %2: %3").arg(property, ground.name()).arg(ratio));
+        }
+    };
+    for (const char* ink : {"overdueInk", "dueTodayInk", "doneInk"}) {
+        expect(QLatin1String(ink), skin.palette.color(QPalette::Base));
+        expect(QLatin1String(ink), skin.palette.color(QPalette::AlternateBase));
+    }
+    for (const char* ink : {"selectedOverdueInk", "selectedDueTodayInk", "selectedDoneInk"}) {
+        expect(QLatin1String(ink), selection);
+    }
+    return faults.join(u'\n');
 }
 
 /// The greatest contrast between any pixel of `area` and the most frequent colour there.
@@ -59,7 +75,7 @@ double strongestMark(const QImage& image, const QRect& area)
     }
     double strongest = 1;
     for (auto it = counts.cbegin(); it != counts.cend(); ++it) {
-        strongest = std::max(strongest, contrast(QColor(it.key()), QColor(ground)));
+        strongest = std::max(strongest, contrastOf(it.key(), ground));
     }
     return strongest;
 }
@@ -125,6 +141,11 @@ private slots:
     void outlinesAndRingsStandOut();
     void rulesOfTheSheetKeepTextsReadable_data() { skins(); }
     void rulesOfTheSheetKeepTextsReadable();
+    void rowsThatAreLateTodayOrDoneCanBeRead_data() { skins(); }
+    void rowsThatAreLateTodayOrDoneCanBeRead();
+    void aSkinWithoutTheirColoursGetsSomeThatCanBeRead_data();
+    void aSkinWithoutTheirColoursGetsSomeThatCanBeRead();
+    void aGridHasTheColoursOfTheSkinThatIsWorn();
     void qtTakesTheSheet_data() { skins(); }
     void qtTakesTheSheet();
     void picturesKeepTheirColoursInSelectedRows_data() { skins(); }
@@ -193,7 +214,7 @@ void TestShippedSkins::textsStandOutFromTheirGround()
         {QPalette::WindowText, QPalette::Light}};
     for (const auto group : {QPalette::Active, QPalette::Inactive}) {
         for (const auto& [text, ground] : pairs) {
-            const double ratio = contrast(palette.color(group, text), palette.color(group, ground));
+            const double ratio = contrastOf(palette.color(group, text), palette.color(group, ground));
             QVERIFY2(ratio >= owed(skin),
                 qPrintable(QStringLiteral("%1 on %2: %3").arg(text).arg(ground).arg(ratio)));
         }
@@ -207,8 +228,8 @@ void TestShippedSkins::disabledTextsCanStillBeRead()
     for (const auto text :
         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::PlaceholderText}) {
         for (const auto ground : {QPalette::Window, QPalette::Base, QPalette::Light}) {
-            const double ratio =
-                contrast(palette.color(QPalette::Disabled, text), palette.color(QPalette::Disabled, ground));
+            const double ratio = contrastOf(
+                palette.color(QPalette::Disabled, text), palette.color(QPalette::Disabled, ground));
             QVERIFY2(ratio >= 3, qPrintable(QStringLiteral("%1 on %2: %3").arg(text).arg(ground).arg(ratio)));
         }
     }
@@ -220,7 +241,7 @@ void TestShippedSkins::outlinesAndRingsStandOut()
     const QPalette palette = SkinFile::read(pathOf(skin)).palette;
     for (const auto line : {QPalette::Mid, QPalette::Dark, QPalette::Highlight}) {
         for (const auto ground : {QPalette::Window, QPalette::Base, QPalette::Light}) {
-            const double ratio = contrast(palette.color(line), palette.color(ground));
+            const double ratio = contrastOf(palette.color(line), palette.color(ground));
             QVERIFY2(ratio >= 3, qPrintable(QStringLiteral("%1 on %2: %3").arg(line).arg(ground).arg(ratio)));
         }
     }
@@ -249,13 +270,63 @@ void TestShippedSkins::rulesOfTheSheetKeepTextsReadable()
         const bool large = match.captured(1).contains(QStringLiteral("lblAmberHeader"));
         const bool disabled = match.captured(1).contains(QStringLiteral(":disabled"));
         for (const QColor& ground : grounds) {
-            const double ratio = contrast(QColor(text), ground);
+            const double ratio = contrastOf(QColor(text), ground);
             QVERIFY2(ratio >= (large || disabled ? 3 : owed(skin)),
                 qPrintable(QStringLiteral("%1: %2").arg(match.captured(1).trimmed()).arg(ratio)));
             ++checked;
         }
     }
     QVERIFY(checked > 15);
+}
+
+void TestShippedSkins::rowsThatAreLateTodayOrDoneCanBeRead()
+{
+    QFETCH(const QString, skin);
+    const SkinFile file = SkinFile::read(pathOf(skin));
+    const QString faults = faintRows(file, owed(skin));
+    QVERIFY2(faults.isEmpty(), qPrintable(faults));
+    // Each is another one, and none is that of the other rows.
+    QSet<QRgb> different{file.palette.color(QPalette::Text).rgb()};
+    for (const char* token : {"overdue", "due-today", "done"}) {
+        different.insert(file.colors.value(QLatin1String(token)).rgb());
+    }
+    QCOMPARE(different.size(), 4);
+}
+
+void TestShippedSkins::aSkinWithoutTheirColoursGetsSomeThatCanBeRead_data()
+{
+    QTest::addColumn<QByteArray>("paper");
+    QTest::addColumn<QByteArray>("selection");
+    QTest::newRow("light") << QByteArray("#ffffff") << QByteArray("#f0d2d0");
+    QTest::newRow("dark") << QByteArray("#10141a") << QByteArray("#26324a");
+    QTest::newRow("light, dark selection") << QByteArray("#fff4e0") << QByteArray("#102040");
+    QTest::newRow("red") << QByteArray("#c62828") << QByteArray("#b25e00");
+    QTest::newRow("grey") << QByteArray("#808080") << QByteArray("#757575");
+}
+
+void TestShippedSkins::aSkinWithoutTheirColoursGetsSomeThatCanBeRead()
+{
+    QFETCH(const QByteArray, paper);
+    QFETCH(const QByteArray, selection);
+    const QByteArray skin = "/*\n@name Older\n@color paper " + paper + "\n@color selection " + selection
+        + "\n@palette Base $paper\n@palette AlternateBase $paper\n@palette PlaceholderText $paper\n*/";
+    const QString faults = faintRows(SkinFile::parse(skin, {}), 4.5);
+    QVERIFY2(faults.isEmpty(), qPrintable(faults));
+}
+
+void TestShippedSkins::aGridHasTheColoursOfTheSkinThatIsWorn()
+{
+    GridView grid;
+    for (const char* skin : {"Aqua", "Midnight", "Aqua"}) {
+        wear(QLatin1String(skin));
+        grid.ensurePolished();
+        const SkinFile file = SkinFile::read(pathOf(QLatin1String(skin)));
+        QCOMPARE(grid.colorOf(RowInk::Overdue, false), file.colors.value(QStringLiteral("overdue")));
+        QCOMPARE(grid.colorOf(RowInk::DueToday, false), file.colors.value(QStringLiteral("due-today")));
+        QCOMPARE(grid.colorOf(RowInk::Done, false), file.colors.value(QStringLiteral("done")));
+        QCOMPARE(grid.colorOf(RowInk::Overdue, true), rowColor(file, QStringLiteral("selectedOverdueInk")));
+        QVERIFY(!grid.colorOf(RowInk::Usual, false).isValid());
+    }
 }
 
 // A sheet that cannot be parsed is dropped with a warning, and a warning fails the test.
@@ -266,7 +337,7 @@ void TestShippedSkins::qtTakesTheSheet()
     QPushButton button(QStringLiteral("Save"));
     button.setObjectName(QStringLiteral("btnSave"));
     const QImage picture = pictureOf(button);
-    QVERIFY(contrast(QColor(picture.pixel(picture.width() / 2, 5)),
+    QVERIFY(contrastOf(QColor(picture.pixel(picture.width() / 2, 5)),
                 QApplication::palette().color(QPalette::Window))
         > 1.5);
 }

@@ -124,7 +124,10 @@ void TestSkins::theSheetTakesColoursOfTheSkinAndOfRoles()
     const auto coloursOf = [](const QByteArray& skin) {
         static const QRegularExpression colour(QStringLiteral("#[0-9a-f]{6}"));
         QStringList colours;
-        const QString sheet = skinSheet(SkinFile::parse(skin, {}));
+        QString sheet = skinSheet(SkinFile::parse(skin, {}));
+        // Late rows have colours that are no role's; see tst_shipped_skins.
+        static const QRegularExpression rows(QStringLiteral("qproperty-[^;]*;"));
+        sheet.remove(rows);
         for (auto found = colour.globalMatch(sheet); found.hasNext();) {
             colours.append(found.next().captured());
         }

@@ -11,13 +11,17 @@ struct OlderDataFile {
 
 inline constexpr OlderDataFile OlderDataFiles[] = {
     {"version 1, without the indexes for the filters",
-        "drop index tasks_by_status; drop index tasks_by_category; pragma user_version=1"},
-    {"version 1, with all indexes", "pragma user_version=1"},
+        "drop table task_origins; drop index tasks_by_status; drop index tasks_by_category; "
+        "pragma user_version=1"},
+    {"version 1, with all indexes", "drop table task_origins; pragma user_version=1"},
+    {"version 2", "drop table task_origins; pragma user_version=2"},
+    {"version 2, with the table already", "pragma user_version=2"},
     {"written anew by another tool",
-        "drop index tasks_by_status; drop index tasks_by_category; pragma user_version=0"},
-    {"written anew without any index",
-        "drop index tasks_by_reminder; drop index tasks_by_status; drop index tasks_by_category; "
+        "drop table task_origins; drop index tasks_by_status; drop index tasks_by_category; "
         "pragma user_version=0"},
+    {"written anew without any index",
+        "drop table task_origins; drop index tasks_by_reminder; drop index tasks_by_status; "
+        "drop index tasks_by_category; pragma user_version=0"},
     {"of a version that never was", "pragma user_version=-7"},
 };
 

@@ -107,6 +107,14 @@ QList<QVariantList> TestDatabase::rows(const QString& statement) const
     return all;
 }
 
+QString TestDatabase::storedOfAll(const char* expression) const
+{
+    return sql(QStringLiteral(
+                   "select group_concat(value, ' ') from (select %1 as value from tasks order by task_id)")
+                   .arg(QLatin1String(expression)))
+        .toString();
+}
+
 void TestDatabase::removeAllCategories() const
 {
     sql(QStringLiteral("delete from categories"));

@@ -29,6 +29,8 @@ public:
     QVariant sql(const QString& statement) const;
     /// All rows of a query.
     QList<QVariantList> rows(const QString& statement) const;
+    /// The values of an expression for all tasks in the order of their ids, with blanks between them.
+    QString storedOfAll(const char* expression) const;
 
     void removeAllCategories() const;
     /// Adds a category and answers its id.

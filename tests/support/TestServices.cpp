@@ -10,8 +10,9 @@ constexpr int FixedPictures = 21;
 }
 
 TestServices::TestServices()
-    : files(database.folder()), services{database.engine(), database.clock(), dialogs, dialogs, dialogs,
-                                    shell, checkerTimer, images, [this] { return alwaysOnTop; }, files}
+    : files(database.folder()),
+      undo(database.engine()), services{database.engine(), database.clock(), dialogs, dialogs, dialogs, shell,
+                                   checkerTimer, images, [this] { return alwaysOnTop; }, files, undo}
 {
     for (int i = 0; i < FixedPictures; ++i) {
         QPixmap pixmap(16, 16);

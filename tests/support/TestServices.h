@@ -1,5 +1,6 @@
 #pragma once
 
+#include "data/UndoHistory.h"
 #include "support/ScriptedDialogs.h"
 #include "support/TestDatabase.h"
 #include "system/ProgramFiles.h"
@@ -57,5 +58,6 @@ struct TestServices {
     ImageList images; ///< 21 pictures, all different
     bool alwaysOnTop = false;
     ProgramFiles files; ///< all in the folder of the database
+    UndoHistory undo;
     FormServices services;
 };

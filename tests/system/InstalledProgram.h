@@ -1,15 +1,13 @@
 #pragma once
 
+#include "support/FileContent.h"
 #include "system/FormerCopies.h"
 #include "system/Installation.h"
 #include "system/ProgramFiles.h"
 #include "system/ProgramFolder.h"
 
 #include <QCryptographicHash>
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
-#include <QTest>
 
 /// A program below a prefix of its own, what it ships, and the home of a user.
 class InstalledProgram
@@ -17,7 +15,7 @@ class InstalledProgram
 public:
     InstalledProgram()
     {
-        write(filePath("usr/bin/Ambertask"), "the program");
+        writeText(filePath("usr/bin/Ambertask"), "the program");
         ship("data.dat", "the data as shipped");
         ship("Skins/Aqua.skf", "aqua 1");
         ship("sounds/bell.wav", "bell 1");
@@ -38,7 +36,7 @@ public:
     ProgramFiles files() const { return ProgramFiles(folder(), installation().shippedFolder); }
 
     /// From now on the installed version ships this.
-    void ship(const char* name, const QByteArray& content) const { write(shippedPath(name), content); }
+    void ship(const char* name, const QByteArray& content) const { writeText(shippedPath(name), content); }
     /// From now on the installed version ships no such file.
     void drop(const char* name) const { QVERIFY(QFile::remove(shippedPath(name))); }
     QString shippedPath(const char* name) const
@@ -60,29 +58,17 @@ public:
         QVERIFY(QDir().mkpath(inFolder("custom icons")));
         QByteArray list;
         for (const char* name : {"Skins/Aqua.skf", "help.chm", "sounds/bell.wav"}) {
-            write(inFolder(name), contentOf(shippedPath(name)));
+            writeText(inFolder(name), contentOf(shippedPath(name)));
             list += sumOf(contentOf(shippedPath(name))) + "  " + name + '\n';
         }
-        write(inFolder("shipped.sha256"), list);
+        writeText(inFolder("shipped.sha256"), list);
     }
 
     static QByteArray sumOf(const QByteArray& content)
     {
         return QCryptographicHash::hash(content, QCryptographicHash::Sha256).toHex();
     }
-    void write(const QString& path, const QByteArray& content) const
-    {
-        QVERIFY(QDir().mkpath(QFileInfo(path).absolutePath()));
-        QFile file(path);
-        QVERIFY2(file.open(QIODevice::WriteOnly), qPrintable(path));
-        QCOMPARE(file.write(content), content.size());
-    }
-    void writeOwn(const char* name, const QByteArray& content) const { write(inFolder(name), content); }
-    static QByteArray contentOf(const QString& path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("not there");
-    }
+    void writeOwn(const char* name, const QByteArray& content) const { writeText(inFolder(name), content); }
     QByteArray read(const char* name) const { return contentOf(inFolder(name)); }
     static QStringList namesIn(const QString& path)
     {

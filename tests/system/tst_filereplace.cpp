@@ -1,4 +1,5 @@
 #include "support/CaughtError.h"
+#include "support/FileContent.h"
 #include "support/TestMain.h"
 #include "system/FileReplace.h"
 
@@ -10,17 +11,6 @@
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
-
-namespace
-{
-
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be read");
-}
-
-} // namespace
 
 class TestFileReplace : public TestCase
 {

@@ -28,7 +28,7 @@ private slots:
         m_program->ship("help.chm", "help 2");
         m_program->start();
         QCOMPARE(m_program->namesInFolder(), QStringLiteral("Ambertask Skins custom icons data.dat sounds"));
-        QCOMPARE(m_program->contentOf(m_program->files().find(QStringLiteral("help.chm"))), "help 2");
+        QCOMPARE(contentOf(m_program->files().find(QStringLiteral("help.chm"))), "help 2");
     }
 
     void copiesOfAnInterruptedUpgradeGo()
@@ -36,7 +36,7 @@ private slots:
         m_program->writeOwn("Skins/Aqua.skf", "aqua 2");
         m_program->ship("Skins/Aqua.skf", "aqua 2");
         m_program->start();
-        QCOMPARE(m_program->read("Skins/Aqua.skf"), QByteArray("not there"));
+        QCOMPARE(m_program->read("Skins/Aqua.skf"), QByteArray("cannot be read"));
     }
 
     void aChangedOneStaysAndIsUsed()
@@ -64,7 +64,7 @@ private slots:
         m_program->drop("Skins/Aqua.skf");
         m_program->start();
         QCOMPARE(m_program->read("Skins/Aqua.skf"), QByteArray("aqua 1"));
-        QCOMPARE(m_program->read("help.chm"), QByteArray("not there"));
+        QCOMPARE(m_program->read("help.chm"), QByteArray("cannot be read"));
     }
 
     void aLinkStaysWithWhatItLeadsTo()

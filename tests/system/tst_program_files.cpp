@@ -34,7 +34,7 @@ private slots:
     void aSoundIsTheOneThatWasChosen()
     {
         const QString chosen = m_program.filePath("home/sounds/bell.wav");
-        m_program.write(chosen, "my bell");
+        writeText(chosen, "my bell");
         QCOMPARE(m_files.sound(chosen), chosen);
     }
 

@@ -109,7 +109,7 @@ private slots:
     void aFolderThatCannotBeMadeIsNamed()
     {
         const InstalledProgram program;
-        program.write(program.filePath("home/.local"), "a file where a folder should be");
+        writeText(program.filePath("home/.local"), "a file where a folder should be");
         const QString failure = failureOf(program);
         QVERIFY2(failure.contains(program.filePath("home/.local")), qPrintable(failure));
     }
@@ -127,8 +127,8 @@ private slots:
     void whatAnInterruptedFillLeftIsRemoved()
     {
         const InstalledProgram program;
-        program.write(program.userData() + QStringLiteral("/.Ambertask-new/data.dat"), "the da");
-        program.write(program.userData() + QStringLiteral("/other/file"), "not ours");
+        writeText(program.userData() + QStringLiteral("/.Ambertask-new/data.dat"), "the da");
+        writeText(program.userData() + QStringLiteral("/other/file"), "not ours");
         program.start();
         QCOMPARE(program.namesIn(program.userData()),
             QStringList({QStringLiteral("Ambertask"), QStringLiteral("other")}));

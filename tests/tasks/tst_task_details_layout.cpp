@@ -1,5 +1,6 @@
 #include "support/TestMain.h"
 #include "tasks/TaskDialog.h"
+#include "widgets/MomentMenu.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
@@ -33,10 +34,11 @@ private:
     static QWidgetList controls(const TaskDialog& dialog)
     {
         QWidgetList found;
-        for (const char* name : {"txtTask", "cmbCategories", "txtDescription", "dtpDueDate", "dtpDueTime",
-                 "cmbStatus", "cmbPeriorities", "chkEnableReminder", "dtpReminderDate", "dtpReminderTime",
-                 "chkReminderSound", "txtReminderSound", "btnSoundBrowse", "chkReminderFile",
-                 "txtReminderFile", "btnFileBrowse", "btnOk", "btnCancel"}) {
+        for (const char* name :
+            {"txtTask", "cmbCategories", "txtDescription", "dtpDueDate", "dtpDueTime", "btnSetDue",
+                "cmbStatus", "cmbPeriorities", "chkEnableReminder", "dtpReminderDate", "dtpReminderTime",
+                "btnSetReminder", "chkReminderSound", "txtReminderSound", "btnSoundBrowse", "chkReminderFile",
+                "txtReminderFile", "btnFileBrowse", "btnOk", "btnCancel"}) {
             found.append(dialog.widget(name));
         }
         return found;
@@ -115,7 +117,10 @@ void TestTaskDetailsLayout::everyMnemonicIsUnique()
         mnemonics.append(QKeySequence::mnemonic(label->text()).toString());
     }
     for (const QAbstractButton* button : dialog.form->findChildren<QAbstractButton*>()) {
-        mnemonics.append(QKeySequence::mnemonic(button->text()).toString());
+        // The two menus have keys of their own.
+        if (qobject_cast<const MomentButton*>(button) == nullptr) {
+            mnemonics.append(QKeySequence::mnemonic(button->text()).toString());
+        }
     }
     QCOMPARE(mnemonics.size(), 18);
     QVERIFY(!mnemonics.contains(QString()));

@@ -26,12 +26,14 @@ QString plainCode(const QString& code)
 /// beginning: what a user reads may hold any of these words.
 bool isStatement(const QString& text)
 {
-    static const QRegularExpression statement(
-        QStringLiteral("^[#',]?\\s*(select (\\*|(count|ifnull)\\(|[\\w.]+(,| from))|insert into |delete from "
-                       "\\w+( where|\\s*$)"
-                       "|[Uu]pdate +\\w+ set |pragma \\w+$|PRAGMA |SELECT |CREATE INDEX |UPDATE \\w+ SET "
-                       "|BEGIN IMMEDIATE$"
-                       "|(where|and) [\\w.]+ ?<?= ?|order by ?\\w*$)|^,\\w+='|^\\w+ <= now\\(\\)"));
+    static const QRegularExpression statement(QStringLiteral(
+        "^[#',]?\\s*(select (\\*|(count|ifnull|min)\\(|[\\w.]+(,| from))|insert (or replace )?into |DELETE "
+        "FROM |delete "
+        "from "
+        "\\w+( where|\\s*$)"
+        "|[Uu]pdate +\\w+ set |pragma \\w+$|PRAGMA |SELECT |CREATE (INDEX|TABLE) |UPDATE \\w+ SET "
+        "|BEGIN IMMEDIATE$"
+        "|(where|and) [\\w.]+ ?(<?=|in) ?|order by ?\\w*$)|^,\\w+='|^\\w+ <= now\\(\\)|^\\w+ in \\($"));
     static const QRegularExpression styleRule(QStringLiteral("^Q[A-Z]\\w+(::[\\w-]+)? \\{"));
     return text.contains(statement) || text.contains(styleRule);
 }

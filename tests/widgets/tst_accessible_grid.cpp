@@ -3,6 +3,7 @@
 #include "widgets/GridView.h"
 
 #include <QAccessible>
+#include <QSignalSpy>
 #include <QTest>
 
 namespace
@@ -135,6 +136,66 @@ private slots:
         QCOMPARE(shown.grid.selectedRow(), 1);
     }
 
+    void theMenuIsOfferedWhereThereIsOneAlone()
+    {
+        ShownGrid shown;
+        const QString showMenu = QAccessibleActionInterface::showMenuAction();
+        QAccessibleInterface* cell = shown.table()->cellAt(1, 0);
+        QVERIFY(!shown.seen()->actionInterface()->actionNames().contains(showMenu));
+        QVERIFY(!cell->actionInterface()->actionNames().contains(showMenu));
+        const QSignalSpy asked(&shown.grid, &GridView::menuRequested);
+        QVERIFY(shown.seen()->actionInterface()->actionNames().contains(showMenu));
+        QVERIFY(cell->actionInterface()->actionNames().contains(showMenu));
+        shown.grid.setEnabled(false);
+        QVERIFY(!shown.seen()->actionInterface()->actionNames().contains(showMenu));
+        QVERIFY(!cell->actionInterface()->actionNames().contains(showMenu));
+        shown.seen()->actionInterface()->doAction(showMenu);
+        cell->actionInterface()->doAction(showMenu);
+        QCOMPARE(asked.count(), 0);
+        QCOMPARE(shown.table()->selectedRows(), QList<int>());
+    }
+
+    void theMenuOfTheGridIsThatOfTheMenuKey()
+    {
+        ShownGrid shown;
+        const QSignalSpy asked(&shown.grid, &GridView::menuRequested);
+        shown.grid.selectRows({1, 2});
+        QTest::keyClick(&shown.grid, Qt::Key_F10, Qt::ShiftModifier);
+        shown.seen()->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
+        QCOMPARE(asked.count(), 2);
+        QCOMPARE(asked[1], asked[0]);
+        QCOMPARE(shown.table()->selectedRows(), QList<int>({1, 2}));
+    }
+
+    void theMenuOfACellIsForItsRowOrForAllThatAreSelectedWithIt()
+    {
+        ShownGrid shown;
+        const QSignalSpy asked(&shown.grid, &GridView::menuRequested);
+        const QString showMenu = QAccessibleActionInterface::showMenuAction();
+        shown.grid.selectRows({0, 1});
+        shown.table()->cellAt(1, 1)->actionInterface()->doAction(showMenu);
+        QCOMPARE(shown.table()->selectedRows(), QList<int>({0, 1}));
+        QCOMPARE(shown.grid.selectedRow(), 1);
+        shown.table()->cellAt(2, 0)->actionInterface()->doAction(showMenu);
+        QCOMPARE(shown.table()->selectedRows(), QList<int>{2});
+        QCOMPARE(asked.count(), 2);
+        for (int menu = 0; menu < 2; ++menu) {
+            const QRect row = shown.table()->cellAt(menu + 1, 0)->rect();
+            QCOMPARE(asked[menu][0].toPoint(), row.bottomLeft());
+        }
+    }
+
+    void theFocusIsStillSetByAnAction()
+    {
+        ShownGrid shown;
+        QVERIFY(shown.isActive);
+        shown.grid.clearFocus();
+        const QSignalSpy asked(&shown.grid, &GridView::menuRequested);
+        shown.seen()->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+        QVERIFY(shown.grid.hasFocus());
+        QCOMPARE(asked.count(), 0);
+    }
+
     void rowsAreSelectedAndColumnsAreNot()
     {
         ShownGrid shown;
@@ -145,11 +206,30 @@ private slots:
         QCOMPARE(shown.grid.selectedRow(), 2);
         QVERIFY(!shown.table()->selectColumn(0));
         QVERIFY(!shown.table()->unselectColumn(0));
-        QVERIFY(!shown.table()->unselectRow(2));
         QVERIFY(!shown.table()->isColumnSelected(0));
         QVERIFY(shown.table()->selectedColumns().isEmpty());
         QCOMPARE(shown.table()->selectedColumnCount(), 0);
         QCOMPARE(shown.grid.selectedRow(), 2);
+    }
+
+    void rowsAreAddedToTheSelectionAndTakenAway()
+    {
+        ShownGrid shown;
+        QVERIFY(shown.seen()->state().multiSelectable);
+        QVERIFY(shown.seen()->state().extSelectable);
+        QVERIFY(shown.table()->selectRow(2));
+        QVERIFY(shown.table()->selectRow(0));
+        QCOMPARE(shown.table()->selectedRows(), QList<int>({0, 2}));
+        QCOMPARE(shown.table()->selectedRowCount(), 2);
+        QCOMPARE(shown.table()->selectedCellCount(), 4);
+        QVERIFY(shown.table()->isRowSelected(0));
+        QVERIFY(!shown.table()->isRowSelected(1));
+        QVERIFY(!shown.table()->isRowSelected(3));
+        QVERIFY(shown.table()->cellAt(0, 1)->state().selected);
+        QVERIFY(shown.table()->unselectRow(2));
+        QVERIFY(!shown.table()->unselectRow(2));
+        QVERIFY(!shown.table()->unselectRow(3));
+        QCOMPARE(shown.table()->selectedRows(), QList<int>{0});
     }
 
     void theCellWithTheFocusIsTheOneThatIsShown()

@@ -102,6 +102,17 @@ private slots:
         QVERIFY(header.inkWidth() <= header.sectionSize(0) - 8);
     }
 
+    void aSortedColumnIsFittedWithRoomForItsSign()
+    {
+        ShownHeader header;
+        const int usual = header.sectionSizeHint(0);
+        header.setSortIndicatorShown(true);
+        header.setSortIndicator(0, Qt::AscendingOrder);
+        header.resizeSection(0, header.sectionSizeHint(0));
+        QVERIFY(header.sectionSize(0) > usual);
+        QCOMPARE(header.shownCaption(), Caption);
+    }
+
     void aHeaderOutlivesItsModel()
     {
         QTableView list;

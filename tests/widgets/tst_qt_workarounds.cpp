@@ -250,6 +250,27 @@ private slots:
         QVERIFY(wasClosed);
     }
 
+    void anEntryOfAMenuThatAssistiveTechnologyPressesActsAtOnceAndTheMenuStaysOpen()
+    {
+        QMenu menu;
+        menu.addAction(QStringLiteral("entry"));
+        menu.popup(QPoint(10, 10));
+        const QSignalSpy triggered(&menu, &QMenu::triggered);
+        accessible(menu).child(0)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QCOMPARE(triggered.count(), 1);
+        QVERIFY(menu.isVisible());
+    }
+
+    void aMenuThatReadsFromRightToLeftOpensToTheRightOfItsPlace()
+    {
+        QMenu menu;
+        menu.addAction(QStringLiteral("entry"));
+        menu.setLayoutDirection(Qt::RightToLeft);
+        const QPoint place = QCursor::pos() + QPoint(20, 20);
+        menu.popup(place);
+        QCOMPARE(menu.pos(), place);
+    }
+
     void aPlainWindowIsAContainer()
     {
         QWidget window;

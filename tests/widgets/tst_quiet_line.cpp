@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
+#include <QTimer>
 
 namespace
 {
@@ -200,6 +201,38 @@ private slots:
         window.line->hush();
         QCOMPARE(seen->text(QAccessible::Name), QString());
         QVERIFY(seen->state().invisible);
+    }
+
+    void aStandingTextOutlastsKeysAndWhatIsSaid()
+    {
+        Window window;
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        window.line->setStanding(QStringLiteral("3 of 41 tasks"));
+        QCOMPARE(window.line->text(), QStringLiteral("3 of 41 tasks"));
+        QTest::keyClick(window.edit, Qt::Key_A);
+        QCOMPARE(window.line->text(), QStringLiteral("3 of 41 tasks"));
+        window.line->say(QStringLiteral("saved"));
+        QCOMPARE(window.line->text(), QStringLiteral("saved"));
+        QTest::keyClick(window.edit, Qt::Key_A);
+        QCOMPARE(window.line->text(), QStringLiteral("3 of 41 tasks"));
+        QCOMPARE(window.line->said(), QString());
+        window.line->setStanding({});
+        QCOMPARE(window.line->text(), QString());
+    }
+
+    void aStandingTextWaitsToBeReadOutUntilItRests()
+    {
+        Window window;
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        window.line->setStanding(QStringLiteral("9 of 41 tasks"));
+        auto* pause = window.line->findChild<QTimer*>();
+        QVERIFY(pause != nullptr && pause->isSingleShot() && pause->isActive());
+        // Who types on puts it off, and a text that is gone is not read out.
+        pause->stop();
+        window.line->setStanding(QStringLiteral("3 of 41 tasks"));
+        QVERIFY(pause->isActive());
+        window.line->setStanding({});
+        QVERIFY(!pause->isActive());
     }
 };
 

@@ -2,10 +2,12 @@
 #include "support/TestMain.h"
 #include "widgets/SizedIcon.h"
 
+#include <QDir>
 #include <QFile>
 #include <QPainter>
 #include <QTemporaryDir>
 #include <QTest>
+#include <array>
 
 /// An icon whose sizes differ in colour, so that it can be told which file was read.
 class SizedIconTest : public TestCase
@@ -27,28 +29,35 @@ private slots:
     void whatShinesThroughKeepsItsColour();
 
 private:
-    QString fileOf(int size) const { return m_folder->filePath(QString::number(size)); }
+    QString fileOf(int size) const { return m_folder->filePath(QStringLiteral("%1/red.pixels").arg(size)); }
     void write(int size, Qt::GlobalColor color) const
     {
         QImage image(size, size, QImage::Format_RGBA8888_Premultiplied);
         image.fill(color);
+        QVERIFY(QDir(m_folder->path()).mkpath(QString::number(size)));
         QFile file(fileOf(size));
         QVERIFY(file.open(QIODevice::WriteOnly));
         QCOMPARE(file.write(reinterpret_cast<const char*>(image.constBits()), image.sizeInBytes()),
             image.sizeInBytes());
     }
-    QIcon icon() const { return sizedIcon({{fileOf(16), {16, 16}}, {fileOf(32), {32, 32}}}); }
+    QIcon icon(int proportion = 1) const
+    {
+        static constexpr std::array heights{16, 32};
+        return sizedIcon({QLatin1String(m_path), QLatin1String("red"), heights, proportion});
+    }
     static QColor colorAt(const QIcon& icon, int size)
     {
         return icon.pixmap(QSize(size, size)).toImage().pixelColor(1, 1);
     }
 
     std::unique_ptr<QTemporaryDir> m_folder;
+    QByteArray m_path; ///< of the folder
 };
 
 void SizedIconTest::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
+    m_path = m_folder->path().toLatin1();
     write(16, Qt::red);
     write(32, Qt::blue);
 }
@@ -120,16 +129,16 @@ void SizedIconTest::aDisabledPictureIsGrey()
 
 void SizedIconTest::aWidePictureKeepsItsShape()
 {
-    const QIcon wide = sizedIcon({{fileOf(16), {48, 16}}, {fileOf(32), {96, 32}}});
+    const QIcon wide = icon(3);
     QCOMPARE(wide.actualSize(QSize(30, 30)), QSize(30, 10));
 }
 
 void SizedIconTest::aFileOfAnotherLengthIsNoPicture()
 {
-    const QIcon longer = sizedIcon({{fileOf(32), {16, 16}}});
-    QVERIFY(longer.pixmap(QSize(16, 16)).isNull());
-    const QIcon shorter = sizedIcon({{fileOf(16), {32, 32}}});
-    QVERIFY(shorter.pixmap(QSize(32, 32)).isNull());
+    QVERIFY(QFile::resize(fileOf(16), 16 * 16 * 4 + 1));
+    QVERIFY(icon().pixmap(QSize(16, 16)).isNull());
+    QVERIFY(QFile::resize(fileOf(32), 32 * 32 * 4 - 1));
+    QVERIFY(icon().pixmap(QSize(32, 32)).isNull());
 }
 
 void SizedIconTest::whatShinesThroughKeepsItsColour()

@@ -1,0 +1,108 @@
+#include "app/UndoBar.h"
+
+#include "data/UndoHistory.h"
+#include "system/RuntimeError.h"
+#include "widgets/NamedControls.h"
+#include "widgets/PlainText.h"
+#include "widgets/QuietLine.h"
+
+#include <QBoxLayout>
+#include <QKeySequence>
+#include <QPushButton>
+
+namespace
+{
+
+/// "3 tasks deleted (Ctrl+Z)".
+QString tipFor(const QString& step, const QKeySequence& keys)
+{
+    return plainToolTip(QStringLiteral("%1 (%2)").arg(step, keys.toString(QKeySequence::NativeText)));
+}
+
+} // namespace
+
+UndoBar::UndoBar(UndoHistory& history, QWidget* parent)
+    : QFrame(parent), m_history(history), m_line(new QuietLine(QStringLiteral("lblUndo"), this)),
+      m_undo(named(new QPushButton(tr("U&ndo")), "btnUndo")),
+      m_redo(named(new QPushButton(tr("&Redo")), "btnRedo")),
+      m_close(named(new QPushButton(tr("&Close")), "btnUndoClose"))
+{
+    setObjectName(QStringLiteral("barUndo"));
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(12, 4, 4, 4);
+    layout->addWidget(m_line, 1);
+    layout->addWidget(m_undo);
+    layout->addWidget(m_redo);
+    layout->addWidget(m_close);
+    connect(m_undo, &QPushButton::clicked, this, &UndoBar::btnUndo_Click);
+    connect(m_redo, &QPushButton::clicked, this, &UndoBar::redo);
+    connect(m_close, &QPushButton::clicked, this, &UndoBar::leave);
+    connect(&m_history, &UndoHistory::stepsChanged, this, &UndoBar::showSteps);
+    showSteps();
+}
+
+void UndoBar::followInTabOrder(QWidget* before)
+{
+    setTabOrder(before, m_undo);
+    setTabOrder(m_undo, m_redo);
+    setTabOrder(m_redo, m_close);
+}
+
+void UndoBar::btnUndo_Click()
+{
+    undo();
+}
+
+void UndoBar::undo()
+{
+    try {
+        const QString step = m_history.undoText();
+        m_history.undo();
+        if (!step.isEmpty()) {
+            say(tr("Undone: %1").arg(step));
+        }
+    } catch (const RuntimeError& error) {
+        say(tr("Not undone: %1").arg(error.text()));
+    }
+}
+
+void UndoBar::redo()
+{
+    try {
+        m_history.redo();
+    } catch (const RuntimeError& error) {
+        say(tr("Not done again: %1").arg(error.text()));
+    }
+}
+
+void UndoBar::showSteps()
+{
+    const QString done = m_history.undoText();
+    const QString undone = m_history.redoText();
+    if (done.isEmpty() && undone.isEmpty()) {
+        leave();
+        return;
+    }
+    m_undo->setEnabled(!done.isEmpty());
+    m_undo->setToolTip(done.isEmpty() ? QString() : tipFor(done, QKeySequence::Undo));
+    m_redo->setVisible(!undone.isEmpty());
+    m_redo->setToolTip(undone.isEmpty() ? QString() : tipFor(undone, Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
+    say(done);
+}
+
+void UndoBar::say(const QString& text)
+{
+    // Shown first: assistive technology hears only what is on the screen.
+    show();
+    m_line->say(text);
+}
+
+void UndoBar::leave()
+{
+    const QWidget* focused = window()->focusWidget();
+    const bool hadFocus = focused != nullptr && isAncestorOf(focused);
+    hide();
+    if (hadFocus) {
+        emit focusLeft();
+    }
+}

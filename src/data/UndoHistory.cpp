@@ -1,0 +1,93 @@
+#include "data/UndoHistory.h"
+
+#include "data/ClsDatabase.h"
+#include "store/DatabaseError.h"
+
+#include <set>
+#include <string>
+
+namespace
+{
+
+/// The columns that the program keeps up by itself: whether a reminder has sounded, and where a category's
+/// picture lies in the image list.
+const std::set<std::string>& ownColumns()
+{
+    static const std::set<std::string> columns{"played", "cat_icon"};
+    return columns;
+}
+
+} // namespace
+
+UndoHistory::UndoHistory(const DatabaseEngine& engine, QObject* parent) : QObject(parent), m_engine(&engine)
+{
+}
+
+void UndoHistory::run(const std::function<QString(const DatabaseEngine&)>& change)
+{
+    DatabaseEngine recorded = *m_engine;
+    Step step;
+    recorded.changes = &step.changes;
+    step.done = change(recorded);
+    if (step.changes.isEmpty()) {
+        return;
+    }
+    m_steps.resize(m_next);
+    if (m_steps.size() == MostSteps) {
+        m_steps.erase(m_steps.begin());
+    }
+    m_steps.push_back(std::move(step));
+    m_next = m_steps.size();
+    emit stepsChanged();
+}
+
+QString UndoHistory::undoText() const
+{
+    return canUndo() ? m_steps[m_next - 1].done : QString();
+}
+
+QString UndoHistory::redoText() const
+{
+    return canRedo() ? m_steps[m_next].done : QString();
+}
+
+void UndoHistory::undo()
+{
+    if (canUndo()) {
+        const std::size_t step = m_next - 1;
+        apply(step, m_steps[step].changes.inverted(), step);
+    }
+}
+
+void UndoHistory::redo()
+{
+    if (canRedo()) {
+        apply(m_next, m_steps[m_next].changes, m_next + 1);
+    }
+}
+
+void UndoHistory::clear()
+{
+    m_steps.clear();
+    m_next = 0;
+    emit stepsChanged();
+}
+
+void UndoHistory::apply(std::size_t step, const ChangeSet& changes, std::size_t nextAfterwards)
+{
+    Connection connection = ClsDatabase(*m_engine).Connect();
+    connection.open();
+    try {
+        connection.apply(changes, ownColumns());
+    } catch (const ChangedSinceError&) {
+        connection.abandon();
+        m_steps.erase(m_steps.begin() + static_cast<std::ptrdiff_t>(step));
+        m_next = step;
+        emit stepsChanged();
+        throw;
+    }
+    connection.close();
+    m_next = nextAfterwards;
+    emit stepsChanged();
+    emit dataChanged();
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "data/TaskRecord.h"
+
+/// A task as a file has it.
+struct FileTask {
+    /// What the file says something of; the rest of `task` means nothing.
+    struct Said {
+        bool name = false;
+        bool description = false;
+        bool category = false;
+        bool status = false;
+        bool periority = false;
+        bool due = false;
+        bool reminderOn = false;
+        bool reminder = false; ///< its moment
+        bool state = false; ///< played and dismissed
+        bool sound = false;
+        bool file = false;
+        bool properties = false;
+    };
+
+    qint64 line = 0;
+    Said said;
+    /// `file` is what the task starts, confirmed by nobody.
+    TaskRecord task;
+    int furtherReminders = 0;
+    bool repeats = false;
+    bool isInUnknownZone = false;
+};
+
+/// The moment of a day for a task that is due on it at no certain time.
+inline constexpr std::chrono::minutes EndOfDay{23 * 60 + 59};
