@@ -13,19 +13,18 @@ namespace
 constexpr std::array<std::string_view, 5> StandsAlone{
     "VTODO", "VEVENT", "VJOURNAL", "VTIMEZONE", "VFREEBUSY"};
 
-/// The component that the line begins or ends; empty when it is no such line.
-std::string_view componentOf(const std::string& line, std::string_view word)
+/// The component that the line begins or ends, empty where it names none; none when it is no such line.
+std::optional<std::string_view> componentOf(const std::string& line, std::string_view word)
 {
     if (line.size() <= word.size()
         || !equalsIgnoringCase(std::string_view(line).substr(0, word.size()), word)) {
-        return {};
+        return std::nullopt;
     }
     const auto content = ContentLine::of(line);
     if (!content || !content->is(word)) {
-        return {};
+        return std::nullopt;
     }
-    const std::size_t end = content->value.find_last_not_of(" \t");
-    return end == std::string_view::npos ? std::string_view() : content->value.substr(0, end + 1);
+    return content->value.substr(0, content->value.find_last_not_of(" \t") + 1);
 }
 
 bool isTaskAsEvent(const CalendarPart& part)
@@ -75,14 +74,15 @@ bool CalendarParts::readLine()
         }
         // Others take a carriage return alone for the end of a line, too.
         std::erase(m_line, '\r');
-    } while (m_line.empty());
+        // What begins with a blank behind an empty line continues nothing.
+    } while (m_line.empty() || m_line.front() == ' ' || m_line.front() == '\t');
     return true;
 }
 
 bool CalendarParts::findBegin(CalendarPart& part)
 {
     while (readLine()) {
-        const std::string_view begun = componentOf(m_line, "BEGIN");
+        const std::string_view begun = componentOf(m_line, "BEGIN").value_or("");
         if (equalsIgnoringCase(begun, "VCALENDAR")) {
             m_isCalendar = true;
             m_producer.clear();
@@ -124,31 +124,32 @@ void CalendarParts::readPart(CalendarPart& part)
     m_bytes = 0;
     std::vector<std::string> open{part.kind.toStdString()};
     while (readLine()) {
-        const std::string_view begun = componentOf(m_line, "BEGIN");
-        if (standsAlone(begun) || equalsIgnoringCase(begun, "VCALENDAR")) {
+        const auto begun = componentOf(m_line, "BEGIN");
+        const auto ended = componentOf(m_line, "END");
+        if ((begun && begun->empty()) || (ended && ended->empty())) {
+            continue;
+        }
+        if (begun && (standsAlone(*begun) || equalsIgnoringCase(*begun, "VCALENDAR"))) {
             note(part, ExchangeTexts::tr("It has no end."));
             m_again = true;
             return;
         }
-        if (!componentOf(m_line, "END").empty() && closes(open, part)) {
+        if (ended && closes(*ended, open, part)) {
             return;
         }
-        if (!begun.empty()) {
-            if (open.size() == MostLevels) {
-                note(part, ExchangeTexts::tr("Its parts are nested too deeply."));
-            } else {
-                open.emplace_back(begun);
-            }
+        if (begun && open.size() == MostLevels) {
+            note(part, ExchangeTexts::tr("Its parts are nested too deeply."));
+        } else if (begun) {
+            open.emplace_back(*begun);
         }
         addLine(part);
     }
     note(part, ExchangeTexts::tr("The file ends in the middle of it."));
 }
 
-/// Whether the line ends the part as a whole.
-bool CalendarParts::closes(std::vector<std::string>& open, CalendarPart& part) const
+/// Whether the end of that component is the end of the part as a whole.
+bool CalendarParts::closes(std::string_view ended, std::vector<std::string>& open, CalendarPart& part)
 {
-    const std::string_view ended = componentOf(m_line, "END");
     if (equalsIgnoringCase(ended, open.back())) {
         open.pop_back();
         return open.empty();

@@ -46,7 +46,7 @@ private:
     bool findBegin(CalendarPart& part);
     void readPart(CalendarPart& part);
     void addLine(CalendarPart& part);
-    bool closes(std::vector<std::string>& open, CalendarPart& part) const;
+    static bool closes(std::string_view ended, std::vector<std::string>& open, CalendarPart& part);
 
     ByteLines m_lines;
     std::string m_line; ///< the content line read last

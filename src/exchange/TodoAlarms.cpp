@@ -5,8 +5,9 @@
 #include <algorithm>
 
 struct ReminderOfFile::Alarm {
-    std::string_view text;
     std::optional<Moment> moment; ///< none when it does not remind
+    bool hasTrigger = false;
+    std::string foreign; ///< the whole component without the state, which is of one reminder alone
     std::string rest; ///< its lines without trigger and state
     std::string own; ///< the line with the state
 };
@@ -39,24 +40,25 @@ std::optional<Moment> ReminderOfFile::momentOf(const ContentLine& trigger, FileZ
 ReminderOfFile::Alarm ReminderOfFile::readAlarm(const std::string& text, FileZones& zones)
 {
     Alarm alarm;
-    alarm.text = text;
     bool reminds = false;
     std::string_view rest = text;
-    takeLine(rest);
+    alarm.foreign.append(takeLine(rest)).append("\n");
     for (int level = 0; !rest.empty();) {
         const std::string_view whole = takeLine(rest);
         const auto line = ContentLine::of(whole);
         level += line && line->is("BEGIN") ? 1 : 0;
         level -= line && line->is("END") ? 1 : 0;
+        if (line && level == 0 && line->is(OwnProperty::Reminder)) {
+            alarm.own = whole;
+            continue;
+        }
+        alarm.foreign.append(whole).append("\n");
         if (level < 0) {
             break;
         }
         if (line && level == 0 && line->is("TRIGGER")) {
             alarm.moment = momentOf(*line, zones);
-            continue;
-        }
-        if (line && level == 0 && line->is(OwnProperty::Reminder)) {
-            alarm.own = whole;
+            alarm.hasTrigger = true;
             continue;
         }
         if (line && level == 0 && line->is("ACTION")) {
@@ -130,8 +132,9 @@ void ReminderOfFile::read(const std::vector<std::string>& alarms, const std::opt
     for (const Alarm& alarm : found) {
         if (&alarm == chosen) {
             keepRest(alarm);
-        } else {
-            kept += alarm.text;
+        } else if (alarm.hasTrigger) {
+            // One without a trigger is none, and would be taken for the rest of the reminder's.
+            kept += alarm.foreign;
             further += alarm.moment ? 1 : 0;
         }
     }

@@ -166,7 +166,8 @@ void TodoReading::readText(Texts& texts, const ContentLine& line)
 void TodoReading::readCategories(const ContentLine& line)
 {
     for (std::string& name : unescapedList(line.value)) {
-        if (!isBlank(name)) {
+        // Nothing but control characters cannot be written again.
+        if (!isBlank(escaped(name))) {
             m_categories.push_back(std::move(name));
         }
     }

@@ -139,9 +139,11 @@ std::string_view takeLine(std::string_view& lines)
 
 bool isWithoutTrigger(std::string_view alarm)
 {
-    while (!alarm.empty()) {
+    for (int level = 0; !alarm.empty();) {
         const auto line = ContentLine::of(takeLine(alarm));
-        if (line && line->is("TRIGGER")) {
+        level += line && line->is("BEGIN") ? 1 : 0;
+        level -= line && line->is("END") ? 1 : 0;
+        if (line && level == 1 && line->is("TRIGGER")) {
             return false;
         }
     }

@@ -25,6 +25,8 @@ private slots:
     void anAlarmThatAnotherProgramHasAddedReminds();
     void ofSeveralAlarmsTheNextOneReminds();
     void anotherAlarmsPartsSurviveWithTheReminder();
+    void ofTwoAlarmsWithOurStateTheFirstOneStaysTheReminder();
+    void anAlarmWithoutATriggerTakesNoReminderAway();
     void aCompletedTaskSaysSoInEveryWayAndTakesNothingForOthers();
     void alarmsOfKAlarmAreTasks();
     void tasksOfOsmoAreEvents();
@@ -36,6 +38,8 @@ private slots:
     void aFileThatIsNoCalendarIsRefused_data();
     void aFileThatIsNoCalendarIsRefused();
     void linesMayEndAndFoldAsTheyLike();
+    void aLineThatContinuesNoOtherIsPassedOver();
+    void anEndOfNothingIsPassedOver();
 };
 
 void TodoImportTest::aTaskOfAnotherProgramComesInWithItsFields()
@@ -292,6 +296,33 @@ void TodoImportTest::anotherAlarmsPartsSurviveWithTheReminder()
     QVERIFY(!under.exported(ExchangeFormat::ICalendar).contains("VALARM"));
 }
 
+void TodoImportTest::ofTwoAlarmsWithOurStateTheFirstOneStaysTheReminder()
+{
+    // As another program leaves them that duplicates an alarm with all its lines.
+    const auto alarm = [](const char* trigger, const char* moment) {
+        return QByteArray("BEGIN:VALARM\nACTION:DISPLAY\nDESCRIPTION:Task\nTRIGGER;RELATED=END:") + trigger
+            + "\nX-AMBERTASK-REMINDER:" + moment + "\nEND:VALARM\n";
+    };
+    ExchangeUnderTest under;
+    under.imported(todoOf("SUMMARY:Task\nDUE:20260301T180000\n" + alarm("-PT1H", "20260301T170000")
+        + alarm("-PT2H", "20260301T160000")));
+    QVERIFY(under.task().reminder == at(3, 1, 17, 0));
+    ExchangeUnderTest to;
+    to.imported(under.exported(ExchangeFormat::ICalendar));
+    QVERIFY(to.task().reminder == at(3, 1, 17, 0));
+}
+
+void TodoImportTest::anAlarmWithoutATriggerTakesNoReminderAway()
+{
+    ExchangeUnderTest under;
+    under.imported(todoOf("SUMMARY:Task\nDUE:20260301T180000\nBEGIN:VALARM\nACTION:EMAIL\nEND:VALARM\n"
+                          "BEGIN:VALARM\nACTION:DISPLAY\nTRIGGER:-PT1H\nEND:VALARM\n"));
+    QVERIFY(under.task().reminderOn);
+    ExchangeUnderTest to;
+    to.imported(under.exported(ExchangeFormat::ICalendar));
+    QVERIFY(to.task().reminderOn && to.task().reminder == at(3, 1, 17, 0));
+}
+
 void TodoImportTest::aCompletedTaskSaysSoInEveryWayAndTakesNothingForOthers()
 {
     ExchangeUnderTest under;
@@ -437,6 +468,28 @@ void TodoImportTest::linesMayEndAndFoldAsTheyLike()
         QCOMPARE(plan.added, 1);
         QCOMPARE(plan.tasks.front().task.name, std::string("Caf\xc3\xa9 and more"));
     }
+}
+
+void TodoImportTest::aLineThatContinuesNoOtherIsPassedOver()
+{
+    ExchangeUnderTest under;
+    under.imported(todoOf("X-A:1\nSUMMARY;LANGUAGE=en:Task\n\r X-B:2\n"));
+    QCOMPARE(under.task().name, std::string("Task"));
+    ExchangeUnderTest to;
+    to.imported(under.exported(ExchangeFormat::ICalendar));
+    QCOMPARE(to.task().name, std::string("Task"));
+}
+
+void TodoImportTest::anEndOfNothingIsPassedOver()
+{
+    ExchangeUnderTest under;
+    under.imported(
+        todoOf("SUMMARY:Task\nDUE:20260301T180000\nBEGIN:VALARM\nEND:\nACTION:DISPLAY\nTRIGGER:-PT1H\n"
+               "BEGIN:\nEND:VALARM\n"));
+    QVERIFY(under.task().reminderOn);
+    ExchangeUnderTest to;
+    to.imported(under.exported(ExchangeFormat::ICalendar));
+    QVERIFY(to.task().reminderOn);
 }
 
 AMBERTASK_TEST_MAIN(TodoImportTest)
