@@ -92,7 +92,7 @@ drTasks& Program::report()
     if (m_report == nullptr) {
         m_report = std::make_unique<drTasks>(
             m_services, m_machine.reportWindow, [this](QWidget* owner, const QList<qint32>& ids) {
-                return exchange().exportTasks(owner, tr("Tasks"), {ids});
+                return exchange().exportTasks(owner, {ids});
             });
     }
     return *m_report;
@@ -251,8 +251,9 @@ void Program::onDataRestored()
 
 void Program::hideDialogs()
 {
-    for (QWidget* dialog :
-        std::initializer_list<QWidget*>{m_taskDetails.get(), m_categoryDetails.get(), m_copies.get()}) {
+    QWidget* import = m_exchange != nullptr ? m_exchange->window() : nullptr;
+    for (QWidget* dialog : std::initializer_list<QWidget*>{
+             m_taskDetails.get(), m_categoryDetails.get(), m_copies.get(), import}) {
         if (dialog != nullptr) {
             dialog->hide();
         }

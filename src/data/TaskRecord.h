@@ -26,4 +26,6 @@ struct TaskRecord {
     /// What other programs have written of the task and this one does not know: iCalendar content lines, not
     /// folded, each ended by a line feed.
     std::string properties;
+
+    bool operator==(const TaskRecord&) const = default;
 };

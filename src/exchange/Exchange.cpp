@@ -53,6 +53,18 @@ bool ImportPlan::isEmpty() const
     });
 }
 
+bool ImportedTask::isSameAs(const ImportedTask& other) const
+{
+    return outcome == other.outcome && task == other.task && program == other.program;
+}
+
+bool ImportPlan::isSameAs(const ImportPlan& other) const
+{
+    return summaryOf(*this) == summaryOf(other) && newCategories == other.newCategories
+        && std::equal(tasks.begin(), tasks.end(), other.tasks.begin(), other.tasks.end(),
+            [](const ImportedTask& one, const ImportedTask& another) { return one.isSameAs(another); });
+}
+
 QStringList summaryOf(const ImportPlan& plan)
 {
     QStringList lines;

@@ -38,6 +38,9 @@ struct ImportedTask {
     /// none. Never stored without `takesProgram`, which the user has to confirm for each.
     std::string program;
     bool takesProgram = false;
+
+    /// Whether both say the same, confirmed or not.
+    bool isSameAs(const ImportedTask& other) const;
 };
 
 /// A part of a file that cannot be read, and stays out.
@@ -74,6 +77,8 @@ struct ImportPlan {
     void takePrograms(bool take);
     /// Whether `Exchange::carryOut` would change anything.
     bool isEmpty() const;
+    /// Whether both plans would do the same, whatever programs are confirmed.
+    bool isSameAs(const ImportPlan& other) const;
 };
 
 /// What the plan says, one plain sentence each, without the lists of tasks, categories, programs and

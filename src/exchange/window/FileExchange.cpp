@@ -81,13 +81,14 @@ Exchange& FileExchange::exchange()
     return *m_exchange;
 }
 
-QString FileExchange::askForExport(QWidget* owner, const QString& name) const
+QString FileExchange::askForExport(QWidget* owner) const
 {
     const CheckerPause pause(m_services.checkerTimer);
     FileDialogRequest request;
     request.name = QStringLiteral("cdExport");
     request.filter = formatFilters();
-    request.fileName = name + ProposedEnding;
+    request.fileName =
+        tr("Tasks") + u' ' + shortDate(m_services.clock.now()).replace(u'/', u'-') + ProposedEnding;
     request.initialFolder = userFolder(QStandardPaths::DocumentsLocation);
     request.promptBeforeOverwriting = true;
     request.endsAsChosen = true;
@@ -105,9 +106,9 @@ QString FileExchange::askForImport(QWidget* owner) const
     return m_services.fileDialogs.open(owner, request);
 }
 
-QString FileExchange::exportTasks(QWidget* owner, const QString& name, const ExportChoice& choice)
+QString FileExchange::exportTasks(QWidget* owner, const ExportChoice& choice)
 {
-    const QString file = askForExport(owner, name);
+    const QString file = askForExport(owner);
     if (file.isEmpty()) {
         return {};
     }
@@ -127,13 +128,23 @@ QString FileExchange::exportTasks(QWidget* owner, const QString& name, const Exp
 void FileExchange::exportAll(QWidget* owner)
 {
     try {
-        const QString name = tr("Tasks") + u' ' + shortDate(m_services.clock.now()).replace(u'/', u'-');
-        if (const QString note = exportTasks(owner, name, {}); !note.isEmpty()) {
+        if (const QString note = exportTasks(owner, {}); !note.isEmpty()) {
             emit said(note);
         }
     } catch (const std::exception& error) {
         emit said(tr("Nothing was exported: %1").arg(reasonOf(error)));
     }
+}
+
+ImportPlan FileExchange::planOf(const QString& file, QWidget* owner)
+{
+    const ExchangeFormat format = formatOf(file);
+    Exchange& reader = exchange();
+    ImportPlan plan;
+    ScreenProgress(owner, tr("Reading the file...")).run([&](Progress& progress) {
+        plan = reader.plan(file, format, m_services.engine, &progress);
+    });
+    return plan;
 }
 
 void FileExchange::importTasks(QWidget* owner)
@@ -143,18 +154,13 @@ void FileExchange::importTasks(QWidget* owner)
         if (file.isEmpty()) {
             return;
         }
-        const ExchangeFormat format = formatOf(file);
-        Exchange& reader = exchange();
-        ImportPlan plan;
-        ScreenProgress(owner, tr("Reading the file...")).run([&](Progress& progress) {
-            plan = reader.plan(file, format, m_services.engine, &progress);
-        });
+        ImportPlan plan = planOf(file, owner);
         if (m_window == nullptr) {
             m_window = std::make_unique<frmImport>();
             connectGuarded(
                 m_window.get(), &frmImport::confirmed, this, &FileExchange::carryOut, m_services.errors);
         }
-        m_owner = owner;
+        m_file = file;
         m_window->setPlan(file, std::move(plan));
         if (m_services.alwaysOnTop()) {
             makeTopmost(m_window.get());
@@ -167,11 +173,29 @@ void FileExchange::importTasks(QWidget* owner)
     }
 }
 
+/// The window is modeless: tasks may have been changed since, here or by another process, restored or taken
+/// back, and the file may be another one.
+bool FileExchange::isStillAsShown()
+{
+    ImportPlan plan = planOf(m_file, m_window.get());
+    if (plan.isSameAs(m_window->plan())) {
+        return true;
+    }
+    m_window->setPlan(m_file, std::move(plan));
+    m_services.messages.tell(m_window.get(), MessageBoxes::Icon::Exclamation,
+        tr("Nothing was imported yet: the tasks or the file have been changed meanwhile.\nThe window shows "
+           "what the import would do now."));
+    return false;
+}
+
 void FileExchange::carryOut()
 {
     ImportResult result;
     QString noCopy;
     try {
+        if (!isStillAsShown()) {
+            return;
+        }
         ScreenProgress(m_window.get(), tr("Importing the tasks...")).run([&](Progress& progress) {
             noCopy = KeptCopies(m_services.engine).keep(CopyOccasion::Import, &progress);
             m_services.undo.run([&](const DatabaseEngine& engine) {

@@ -3,7 +3,6 @@
 #include "exchange/Exchange.h"
 
 #include <QObject>
-#include <QPointer>
 
 class QWidget;
 class frmImport;
@@ -23,9 +22,9 @@ public:
     FileExchange(const FormServices& services, ExchangeFactory exchange, QObject* parent = nullptr);
     ~FileExchange() override;
 
-    /// Asks for a file, proposing `name` without an ending, and writes tasks to it. Returns a note that says
-    /// so; empty when the user has cancelled. Throws RuntimeError.
-    QString exportTasks(QWidget* owner, const QString& name, const ExportChoice& choice);
+    /// Asks for a file and writes tasks to it. Returns a note that says so; empty when the user has
+    /// cancelled. Throws RuntimeError.
+    QString exportTasks(QWidget* owner, const ExportChoice& choice);
     /// The same for all tasks; says how it ended.
     void exportAll(QWidget* owner);
     /// Asks for a file and shows what its import would do; says why where there is nothing to show.
@@ -41,14 +40,16 @@ signals:
     void imported();
 
 private:
-    QString askForExport(QWidget* owner, const QString& name) const;
+    QString askForExport(QWidget* owner) const;
     QString askForImport(QWidget* owner) const;
     Exchange& exchange();
+    ImportPlan planOf(const QString& file, QWidget* owner);
     void carryOut();
+    bool isStillAsShown();
 
     const FormServices& m_services;
     ExchangeFactory m_factory;
     std::unique_ptr<Exchange> m_exchange;
     std::unique_ptr<frmImport> m_window;
-    QPointer<QWidget> m_owner; ///< the window that asked for the import
+    QString m_file; ///< whose plan the window shows
 };

@@ -3,6 +3,7 @@
 #include "data/TaskChanges.h"
 #include "exchange/Exchange.h"
 #include "store/DatabaseEngine.h"
+#include "system/RuntimeError.h"
 
 #include <functional>
 
@@ -17,6 +18,7 @@ public:
         QList<ExchangeFormat> formats;
         std::vector<ExportChoice> choices;
         ImportPlan prepared; ///< what the next file holds
+        QString failure; ///< why it cannot be read; empty when it can
         std::vector<bool> taken; ///< of the tasks carried out last: with its program
         std::function<void(const DatabaseEngine&)> storing = [](const DatabaseEngine&) {
         };
@@ -45,6 +47,9 @@ public:
     {
         m_log.files.append(file);
         m_log.formats.append(format);
+        if (!m_log.failure.isEmpty()) {
+            throw RuntimeError(m_log.failure);
+        }
         return m_log.prepared;
     }
     ImportResult carryOut(const ImportPlan& plan, const DatabaseEngine& engine, Progress*) override

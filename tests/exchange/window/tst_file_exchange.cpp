@@ -77,7 +77,7 @@ private slots:
     {
         Fixture f;
         f.services.dialogs.expectSave(QStringLiteral("/home/anna/some.ics"));
-        const QString note = f.exchange.exportTasks(&f.page, QStringLiteral("Tasks"), {QList<qint32>{7}});
+        const QString note = f.exchange.exportTasks(&f.page, {QList<qint32>{7}});
         QCOMPARE(*f.log.choices.front().tasks, QList<qint32>{7});
         QCOMPARE(note, QStringLiteral("1 task was exported to \"/home/anna/some.ics\""));
         QVERIFY(f.said.isEmpty());
@@ -125,6 +125,40 @@ private slots:
         QCOMPARE(f.imported.count(), 1);
         QCOMPARE(f.note(), QStringLiteral("2 tasks were added, 1 task was changed"));
         QVERIFY(!f.exchange.window()->isVisible());
+    }
+
+    void whatHasChangedSinceTheUserLookedIsShownBeforeItIsStored()
+    {
+        Fixture f;
+        f.log.prepared = samplePlan();
+        int stored = 0;
+        f.log.storing = [&stored](const DatabaseEngine&) {
+            ++stored;
+        };
+        f.choose(QStringLiteral("/home/anna/garden.ics"));
+        f.exchange.importTasks(&f.page);
+        // Another process has stored one of the new tasks, or a restore has.
+        f.log.prepared.tasks[0].outcome = ImportedTask::Outcome::Changed;
+        f.log.prepared.tasks[0].task.id = 7;
+        f.services.dialogs.expectExclamationWith(QStringLiteral("have been changed meanwhile"));
+        f.confirm();
+        QCOMPARE(stored, 0);
+        QVERIFY(f.exchange.window()->isVisible() && f.imported.isEmpty());
+        f.confirm();
+        QCOMPARE(stored, 1);
+        QVERIFY(!f.exchange.window()->isVisible());
+    }
+
+    void aFileThatCannotBeReadAnyMoreIsTold()
+    {
+        Fixture f;
+        f.log.prepared = samplePlan();
+        f.choose(QStringLiteral("/home/anna/garden.ics"));
+        f.exchange.importTasks(&f.page);
+        f.log.failure = QStringLiteral("it is gone");
+        f.services.dialogs.expectExclamationWith(QStringLiteral("Nothing was imported.\nit is gone"));
+        f.confirm();
+        QVERIFY(f.exchange.window()->isVisible() && f.imported.isEmpty());
     }
 
     void anImportIsOneStepOfUndo()
