@@ -1221,6 +1221,12 @@
         <translation>لم يُستورد شيء.
 %1</translation>
     </message>
+    <message>
+        <source>Nothing was imported yet: the tasks or the file have been changed meanwhile.
+The window shows what the import would do now.</source>
+        <translation>لم يُستورد شيء بعد: تغيّرت المهام أو الملف في هذه الأثناء.
+تعرض النافذة ما سيفعله الاستيراد الآن.</translation>
+    </message>
 </context>
 <context>
     <name>FilterFold</name>
@@ -1750,10 +1756,6 @@
     <message>
         <source>The task &quot;%1&quot; was added; the search does not show it</source>
         <translation>أُضيفت المهمة «%1»؛ البحث لا يعرضها</translation>
-    </message>
-    <message>
-        <source>Tasks</source>
-        <translation>المهام</translation>
     </message>
 </context>
 <context>

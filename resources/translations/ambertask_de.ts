@@ -1105,6 +1105,12 @@
         <translation>Es wurde nichts importiert.
 %1</translation>
     </message>
+    <message>
+        <source>Nothing was imported yet: the tasks or the file have been changed meanwhile.
+The window shows what the import would do now.</source>
+        <translation>Es wurde noch nichts importiert: Die Aufgaben oder die Datei wurden inzwischen geändert.
+Das Fenster zeigt, was der Import jetzt tun würde.</translation>
+    </message>
 </context>
 <context>
     <name>FilterFold</name>
@@ -1610,10 +1616,6 @@
     <message>
         <source>The task &quot;%1&quot; was added; the search does not show it</source>
         <translation>Die Aufgabe „%1“ wurde hinzugefügt; die Suche zeigt sie nicht</translation>
-    </message>
-    <message>
-        <source>Tasks</source>
-        <translation>Aufgaben</translation>
     </message>
 </context>
 <context>

@@ -1105,6 +1105,12 @@
         <translation>No se ha importado nada.
 %1</translation>
     </message>
+    <message>
+        <source>Nothing was imported yet: the tasks or the file have been changed meanwhile.
+The window shows what the import would do now.</source>
+        <translation>Todavía no se ha importado nada: las tareas o el archivo han cambiado entretanto.
+La ventana muestra lo que haría ahora la importación.</translation>
+    </message>
 </context>
 <context>
     <name>FilterFold</name>
@@ -1610,10 +1616,6 @@
     <message>
         <source>The task &quot;%1&quot; was added; the search does not show it</source>
         <translation>Se ha añadido la tarea «%1»; la búsqueda no la muestra</translation>
-    </message>
-    <message>
-        <source>Tasks</source>
-        <translation>Tareas</translation>
     </message>
 </context>
 <context>

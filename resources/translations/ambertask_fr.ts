@@ -1105,6 +1105,12 @@
         <translation>Rien n’a été importé.
 %1</translation>
     </message>
+    <message>
+        <source>Nothing was imported yet: the tasks or the file have been changed meanwhile.
+The window shows what the import would do now.</source>
+        <translation>Rien n’a encore été importé&#xa0;: les tâches ou le fichier ont été modifiés entre-temps.
+La fenêtre montre ce que l’importation ferait maintenant.</translation>
+    </message>
 </context>
 <context>
     <name>FilterFold</name>
@@ -1610,10 +1616,6 @@
     <message>
         <source>The task &quot;%1&quot; was added; the search does not show it</source>
         <translation>La tâche «&#xa0;%1&#xa0;» a été ajoutée&#xa0;; la recherche ne l’affiche pas</translation>
-    </message>
-    <message>
-        <source>Tasks</source>
-        <translation>Tâches</translation>
     </message>
 </context>
 <context>

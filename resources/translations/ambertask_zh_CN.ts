@@ -1076,6 +1076,12 @@
         <translation>未导入任何内容。
 %1</translation>
     </message>
+    <message>
+        <source>Nothing was imported yet: the tasks or the file have been changed meanwhile.
+The window shows what the import would do now.</source>
+        <translation>尚未导入任何内容：任务或文件在此期间已被更改。
+窗口显示现在导入会做什么。</translation>
+    </message>
 </context>
 <context>
     <name>FilterFold</name>
@@ -1575,10 +1581,6 @@
     <message>
         <source>The task &quot;%1&quot; was added; the search does not show it</source>
         <translation>已添加任务“%1”；当前查找不显示它</translation>
-    </message>
-    <message>
-        <source>Tasks</source>
-        <translation>任务</translation>
     </message>
 </context>
 <context>
