@@ -1593,10 +1593,6 @@ The window shows what the import would do now.</source>
         <source>PDF Files (*.pdf)|*.pdf</source>
         <translation>ملفات PDF (*.pdf)|*.pdf</translation>
     </message>
-    <message>
-        <source>&quot;%1&quot; already exists. Do you want to replace it?</source>
-        <translation>«%1» موجود بالفعل. هل تريد استبداله؟</translation>
-    </message>
 </context>
 <context>
     <name>PictureFile</name>

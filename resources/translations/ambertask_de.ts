@@ -1453,10 +1453,6 @@ Das Fenster zeigt, was der Import jetzt tun würde.</translation>
         <source>PDF Files (*.pdf)|*.pdf</source>
         <translation>PDF-Dateien (*.pdf)|*.pdf</translation>
     </message>
-    <message>
-        <source>&quot;%1&quot; already exists. Do you want to replace it?</source>
-        <translation>„%1“ ist bereits vorhanden. Möchten Sie die Datei ersetzen?</translation>
-    </message>
 </context>
 <context>
     <name>PictureFile</name>

@@ -1453,10 +1453,6 @@ La ventana muestra lo que haría ahora la importación.</translation>
         <source>PDF Files (*.pdf)|*.pdf</source>
         <translation>Archivos PDF (*.pdf)|*.pdf</translation>
     </message>
-    <message>
-        <source>&quot;%1&quot; already exists. Do you want to replace it?</source>
-        <translation>«%1» ya existe. ¿Desea reemplazarlo?</translation>
-    </message>
 </context>
 <context>
     <name>PictureFile</name>

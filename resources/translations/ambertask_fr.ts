@@ -1453,10 +1453,6 @@ La fenêtre montre ce que l’importation ferait maintenant.</translation>
         <source>PDF Files (*.pdf)|*.pdf</source>
         <translation>Fichiers PDF (*.pdf)|*.pdf</translation>
     </message>
-    <message>
-        <source>&quot;%1&quot; already exists. Do you want to replace it?</source>
-        <translation>«&#xa0;%1&#xa0;» existe déjà. Voulez-vous le remplacer&#x202f;?</translation>
-    </message>
 </context>
 <context>
     <name>PictureFile</name>

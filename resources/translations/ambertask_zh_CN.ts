@@ -1418,10 +1418,6 @@ The window shows what the import would do now.</source>
         <source>PDF Files (*.pdf)|*.pdf</source>
         <translation>PDF 文件 (*.pdf)|*.pdf</translation>
     </message>
-    <message>
-        <source>&quot;%1&quot; already exists. Do you want to replace it?</source>
-        <translation>“%1”已存在。要替换它吗？</translation>
-    </message>
 </context>
 <context>
     <name>PictureFile</name>

@@ -1,6 +1,7 @@
 #include "exchange/TaskExchange.h"
+#include "system/Language.h"
 
 extern "C" Q_DECL_EXPORT Exchange* ambertaskMakeExchange()
 {
-    return new TaskExchange(systemShortDate());
+    return new TaskExchange(shortDateFormat());
 }

@@ -14,7 +14,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QLocale>
 #include <cerrno>
 
 namespace
@@ -107,15 +106,6 @@ void planCsv(QIODevice& device, ImportPlanning& planning, const QString& shortDa
 }
 
 } // namespace
-
-QString systemShortDate()
-{
-    QString format = QLocale().dateFormat(QLocale::ShortFormat);
-    if (!format.contains(QLatin1String("yyyy"))) {
-        format.replace(QLatin1String("yy"), QLatin1String("yyyy"));
-    }
-    return format;
-}
 
 qint64 TaskExchange::exportTo(QIODevice& device, ExchangeFormat format, const ExportChoice& choice,
     const DatabaseEngine& engine, Progress* progress)

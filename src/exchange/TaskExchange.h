@@ -22,6 +22,3 @@ public:
 private:
     QString m_shortDate;
 };
-
-/// The system's short date, with four digits for the year.
-QString systemShortDate();

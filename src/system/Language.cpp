@@ -32,6 +32,15 @@ QString catalogueFor(const QStringList& uiLanguages, const QStringList& shipped)
     return {};
 }
 
+QString shortDateFormat()
+{
+    QString format = QLocale().dateFormat(QLocale::ShortFormat);
+    if (!format.contains(QLatin1String("yyyy"))) {
+        format.replace(QLatin1String("yy"), QLatin1String("yyyy"));
+    }
+    return format;
+}
+
 QStringList Language::shipped()
 {
     QStringList names;

@@ -10,6 +10,9 @@
 /// simplified Chinese.
 QString catalogueFor(const QStringList& uiLanguages, const QStringList& shipped);
 
+/// The system's short date format with a four-digit year.
+QString shortDateFormat();
+
 /// The language of the program's texts. Must not outlive the application object; interface thread only.
 class Language
 {

@@ -1,15 +1,8 @@
 #include "widgets/MomentTexts.h"
 
-#include <QLocale>
+#include "system/Language.h"
 
-QString shortDateFormat()
-{
-    QString format = QLocale().dateFormat(QLocale::ShortFormat);
-    if (!format.contains(QStringLiteral("yyyy"))) {
-        format.replace(QStringLiteral("yy"), QStringLiteral("yyyy"));
-    }
-    return format;
-}
+#include <QLocale>
 
 QString shortTimeFormat()
 {

@@ -4,8 +4,6 @@
 
 #include <QString>
 
-/// The system's short date format with a four-digit year.
-QString shortDateFormat();
 /// 24-hour hours:minutes.
 QString shortTimeFormat();
 /// The day as the system's short date.

@@ -6,6 +6,5 @@ class QWidget;
 struct FormServices;
 
 /// Asks for a PDF file to write, proposing `name` in the user's documents; the checker's timer is paused
-/// meanwhile. A name without an ending gets ".pdf". Empty when the user cancels or does not want to replace
-/// an existing file.
+/// meanwhile. A name without an ending gets ".pdf". Empty when the user cancels.
 QString choosePdfFile(const FormServices& services, QWidget* owner, const QString& name);

@@ -1,5 +1,6 @@
 #include "widgets/Pickers.h"
 
+#include "system/Language.h"
 #include "widgets/Calendar.h"
 #include "widgets/MomentTexts.h"
 #include "widgets/PickerTyping.h"

@@ -350,7 +350,7 @@ private slots:
             QVERIFY(!f.services.checkerTimer.enabled);
             QCOMPARE(request.fileName, QStringLiteral("Tasks Report.pdf"));
             QCOMPARE(request.filter, QStringLiteral("PDF Files (*.pdf)|*.pdf"));
-            QVERIFY(request.promptBeforeOverwriting);
+            QVERIFY(request.promptBeforeOverwriting && request.endsAsChosen);
         });
         QTest::mouseClick(f.window->findChild<QPushButton*>(QStringLiteral("btnExport")), Qt::LeftButton);
         QVERIFY(f.services.checkerTimer.enabled);
@@ -368,23 +368,6 @@ private slots:
         QTest::mouseClick(f.window->findChild<QPushButton*>(QStringLiteral("btnExport")), Qt::LeftButton);
         language.speak({});
         QCOMPARE(name, QStringLiteral("Aufgabenbericht.pdf"));
-    }
-
-    void aNameWithoutAnEndingGetsItAndIsAskedAbout()
-    {
-        Fixture f;
-        f.print();
-        const QTemporaryDir folder;
-        const QString file = folder.filePath(QStringLiteral("mine"));
-        auto* button = f.window->findChild<QPushButton*>(QStringLiteral("btnExport"));
-        f.services.dialogs.expectSave(file);
-        QTest::mouseClick(button, Qt::LeftButton);
-        QVERIFY(QFile::exists(file + QStringLiteral(".pdf")));
-        QVERIFY(!QFile::exists(file));
-        f.services.dialogs.expectSave(file);
-        f.services.dialogs.expectAsk(
-            QStringLiteral("\"%1.pdf\" already exists. Do you want to replace it?").arg(file), false);
-        QTest::mouseClick(button, Qt::LeftButton);
     }
 
     void anUnwritablePathIsToldByAMessage()

@@ -9,6 +9,7 @@
 #include <QHelpEvent>
 #include <QListView>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -135,6 +136,59 @@ private slots:
         QCOMPARE(without, home.path());
         QCOMPARE(with, pictures);
         QVERIFY(pictures.startsWith(home.path()));
+    }
+
+    void theEndingFollowsTheChosenFilter_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("chosen");
+        QTest::addColumn<QString>("expected");
+        const auto row = [](const char* what, const char* name, const char* chosen, const char* expected) {
+            QTest::newRow(what) << QString::fromLatin1(name) << QString::fromLatin1(chosen)
+                                << QString::fromLatin1(expected);
+        };
+        row("of another filter", "tasks.ics", "CSV Files (*.csv)", "tasks.csv");
+        row("of this one", "tasks.csv", "CSV Files (*.csv)", "tasks.csv");
+        row("in capitals", "tasks.ICS", "CSV Files (*.csv)", "tasks.csv");
+        row("the user's own", "tasks.backup", "CSV Files (*.csv)", "tasks.backup");
+        row("none", "tasks", "CSV Files (*.csv)", "tasks");
+        row("the first of several", "tasks.ics", "Text Files (*.txt *.text)", "tasks.txt");
+    }
+
+    void theEndingFollowsTheChosenFilter()
+    {
+        QFETCH(const QString, name);
+        QFETCH(const QString, chosen);
+        const QStringList filters{QStringLiteral("iCalendar Files (*.ics)"),
+            QStringLiteral("CSV Files (*.csv)"), QStringLiteral("Text Files (*.txt *.text)")};
+        QTEST(endingAsChosen(name, chosen, filters), "expected");
+    }
+
+    void aNameWithoutAnEndingGetsItBeforeTheDialogAsksAboutTheFile()
+    {
+        const QTemporaryDir folder;
+        QFile file(folder.filePath(QStringLiteral("mine.pdf")));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.close();
+        FileDialogRequest request;
+        request.filter = QStringLiteral("PDF Files (*.pdf)|*.pdf");
+        request.initialFolder = folder.path();
+        request.fileName = QStringLiteral("mine");
+        request.promptBeforeOverwriting = request.endsAsChosen = true;
+        QString question;
+        QTimer look;
+        connect(&look, &QTimer::timeout, this, [&] {
+            QWidget* open = QApplication::activeModalWidget();
+            if (auto* box = qobject_cast<QMessageBox*>(open)) {
+                question = box->text().remove(QChar(0x200B));
+                box->button(QMessageBox::Yes)->click();
+            } else if (auto* dialog = qobject_cast<QFileDialog*>(open)) {
+                QMetaObject::invokeMethod(dialog, "accept", Qt::QueuedConnection);
+            }
+        });
+        look.start(10);
+        QCOMPARE(ScreenFileDialogs().save(nullptr, request), file.fileName());
+        QVERIFY2(question.contains(QLatin1String("mine.pdf")), qPrintable(question));
     }
 
     void aFileNameInAQuestionOfTheDialogIsPlainText()

@@ -1,6 +1,7 @@
 #include "support/SteppedClock.h"
 #include "support/TestMain.h"
 #include "support/WheelTurn.h"
+#include "system/Language.h"
 #include "widgets/Calendar.h"
 #include "widgets/MomentTexts.h"
 #include "widgets/Pickers.h"
