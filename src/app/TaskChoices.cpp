@@ -34,8 +34,21 @@ QString TaskChoices::completeCaption() const
     return areAllCompleted() ? tr("Set Ba&ck to \"Not Started\"") : tr("&Complete");
 }
 
+int TaskChoices::repeatingCount() const
+{
+    return static_cast<int>(
+        std::count_if(m_tasks.begin(), m_tasks.end(), [](const TaskState& task) { return task.repeats; }));
+}
+
 QString TaskChoices::deleteQuestion() const
 {
+    if (repeatingCount() > 0) {
+        return count() == 1
+            ? tr("This task repeats. Do you want to delete it this time, or all times?")
+            : tr("%n of the tasks repeat. Do you want to delete those this time, or all times?\n"
+                 "The others are deleted.",
+                nullptr, repeatingCount());
+    }
     return count() == 1 ? tr("Are you sure you want to delete this task?")
                         : tr("Are you sure you want to delete %n tasks?", nullptr, count());
 }

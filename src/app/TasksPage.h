@@ -89,6 +89,7 @@ private:
     void btnTaskAdd_Click();
     void btnTaskEdit_Click();
     void btnTaskDelete_Click();
+    void deleteRepeating(const TaskChoices& tasks);
     void btnTaskPrint_Click();
     void filters_Changed();
     void showChanged(const QList<qint32>& ids);

@@ -3,6 +3,7 @@
 #include "app/FixedPictures.h"
 #include "data/ClsDatabase.h"
 #include "data/TaskOrder.h"
+#include "data/TaskRepeats.h"
 #include "data/TaskReportQuery.h"
 #include "data/TaskRows.h"
 #include "system/ErrorReport.h"
@@ -11,6 +12,7 @@
 #include "widgets/MessageBoxes.h"
 #include "widgets/PdfFileChoice.h"
 #include "widgets/PlainText.h"
+#include "widgets/RepeatTexts.h"
 #include "widgets/WindowPlacement.h"
 
 #include <QCoreApplication>
@@ -160,6 +162,7 @@ drTasks::ReportRecords drTasks::readRecords(
         ClsTask task;
         std::vector<QString> texts;
     };
+    const std::map<qint32, Repeat> repeats = TaskRepeats::all(m_services.engine);
     const std::set<qint32> ids = shown ? std::set(shown->begin(), shown->end()) : std::set<qint32>();
     TaskRows rows(m_services.engine, records);
     std::vector<ReportedTask> tasks;
@@ -170,12 +173,18 @@ drTasks::ReportRecords drTasks::readRecords(
             tasks.pop_back();
             continue;
         }
+        const auto repeat = repeats.find(read.task.Id());
         read.texts.reserve(columns.size());
         for (const Column& column : columns) {
             read.texts.push_back(column.isDate ? dateText(records.moment(column.field))
                                                : shownPart(records.text(column.field), column.most));
             if (column.format != nullptr) {
                 (*column.format)(read.texts.back());
+            }
+            if (column.isDate && repeat != repeats.end()) {
+                read.texts.back() = tr("%1, repeats %2")
+                                        .arg(read.texts.back(),
+                                            repeatText(repeat->second.rule, repeat->second.first));
             }
         }
     }

@@ -399,6 +399,7 @@ void TranslatedWindowsTest::boxesAreGood()
     const QString text = QStringLiteral("[1]");
     QCOMPARE(faultsOfBox(language, [&] { boxes.ask(nullptr, text); }), QStringList());
     QCOMPARE(faultsOfBox(language, [&] { boxes.askAboutUnsaved(nullptr, text); }), QStringList());
+    QCOMPARE(faultsOfBox(language, [&] { boxes.askWhichTimes(nullptr, text); }), QStringList());
     QCOMPARE(faultsOfBox(language, [&] { boxes.tell(nullptr, MessageBoxes::Icon::Information, text); }),
         QStringList());
     QCOMPARE(faultsOfBox(language, [&] { errors.report(text); }), QStringList());
