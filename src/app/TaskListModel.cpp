@@ -182,8 +182,8 @@ QString TaskListModel::cellNote(int row, int field) const
         const QString category = m_categoryName(taskAt(row).CategoryId());
         notes.append(category.isEmpty() ? QString() : tr("Category: %1").arg(category));
     }
-    if (const auto repeat = m_repeats.find(idAt(row)); repeat != m_repeats.end()
-        && (field == Name || field == Reminder)) {
+    if (const auto repeat = m_repeats.find(idAt(row));
+        repeat != m_repeats.end() && (field == Name || field == Reminder)) {
         notes.append(tr("Repeats %1").arg(repeatText(repeat->second.rule, repeat->second.first)));
     }
     notes.removeAll(QString());

@@ -144,7 +144,7 @@ drTasks::ReportRecords drTasks::readRecords(
         int field;
         const std::function<void(QString&)>* format;
         bool isDate;
-        qsizetype most;
+        bool isDescription;
     };
     std::vector<Column> columns;
     for (const ReportSection& section : m_sections) {
@@ -153,8 +153,7 @@ drTasks::ReportRecords drTasks::readRecords(
                 const auto format = m_formats.find(text.name);
                 columns.push_back({records.field(text.dataField.toStdString()),
                     format == m_formats.end() ? nullptr : &format->second.Format,
-                    text.name == QLatin1String("txtTaskDueDate"),
-                    text.name == QLatin1String("txtTaskDesc") ? MostOfDescription : MostOfName});
+                    text.name == QLatin1String("txtTaskDueDate"), text.name == QLatin1String("txtTaskDesc")});
             }
         }
     }
@@ -177,14 +176,15 @@ drTasks::ReportRecords drTasks::readRecords(
         read.texts.reserve(columns.size());
         for (const Column& column : columns) {
             read.texts.push_back(column.isDate ? dateText(records.moment(column.field))
-                                               : shownPart(records.text(column.field), column.most));
+                                               : shownPart(records.text(column.field),
+                                                   column.isDescription ? MostOfDescription : MostOfName));
             if (column.format != nullptr) {
                 (*column.format)(read.texts.back());
             }
-            if (column.isDate && repeat != repeats.end()) {
-                read.texts.back() = tr("%1, repeats %2")
-                                        .arg(read.texts.back(),
-                                            repeatText(repeat->second.rule, repeat->second.first));
+            if (column.isDescription && repeat != repeats.end()) {
+                read.texts.back().prepend(
+                    tr("Repeats %1").arg(repeatText(repeat->second.rule, repeat->second.first))
+                    + (read.texts.back().isEmpty() ? QString() : QStringLiteral("\n")));
             }
         }
     }
