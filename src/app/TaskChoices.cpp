@@ -42,12 +42,17 @@ int TaskChoices::repeatingCount() const
 
 QString TaskChoices::deleteQuestion() const
 {
-    if (repeatingCount() > 0) {
-        return count() == 1
-            ? tr("This task repeats. Do you want to delete it this time, or all times?")
+    const int repeating = repeatingCount();
+    if (repeating > 0 && count() == 1) {
+        return tr("This task repeats. Do you want to delete it this time, or all times?");
+    }
+    if (repeating > 0) {
+        return repeating == 1
+            ? tr("1 of the tasks repeats. Do you want to delete it this time, or all times?\n"
+                 "The others are deleted.")
             : tr("%n of the tasks repeat. Do you want to delete those this time, or all times?\n"
                  "The others are deleted.",
-                nullptr, repeatingCount());
+                nullptr, repeating);
     }
     return count() == 1 ? tr("Are you sure you want to delete this task?")
                         : tr("Are you sure you want to delete %n tasks?", nullptr, count());

@@ -75,6 +75,24 @@ private slots:
         QCOMPARE(TaskChoices({aState(1), aState(2)}).deleteQuestion(),
             QStringLiteral("Are you sure you want to delete 2 tasks?"));
     }
+
+    void ofTasksThatRepeatItIsAskedWhichTimesAreMeant()
+    {
+        TaskState repeating = aState(2);
+        repeating.repeats = true;
+        QCOMPARE(TaskChoices({aState(1)}).repeatingCount(), 0);
+        QCOMPARE(TaskChoices({repeating}).deleteQuestion(),
+            QStringLiteral("This task repeats. Do you want to delete it this time, or all times?"));
+        const TaskChoices both({aState(1), repeating});
+        QCOMPARE(both.repeatingCount(), 1);
+        QCOMPARE(both.deleteQuestion(),
+            QStringLiteral("1 of the tasks repeats. Do you want to delete it this time, or all times?\n"
+                           "The others are deleted."));
+        repeating.id = 3;
+        QCOMPARE(TaskChoices({aState(1), repeating, repeating}).deleteQuestion(),
+            QStringLiteral("2 of the tasks repeat. Do you want to delete those this time, or all times?\n"
+                           "The others are deleted."));
+    }
 };
 
 AMBERTASK_TEST_MAIN(tst_task_choices)
