@@ -25,6 +25,11 @@ QString nameOf(const QString& text)
     return line.trimmed();
 }
 
+std::string ruleIn(const std::optional<Repeat>& repeat)
+{
+    return repeat ? repeat->rule : std::string();
+}
+
 /// Without blanks around it; tabs and line breaks belong to the text.
 QString descriptionOf(const QString& text)
 {
@@ -59,6 +64,19 @@ void TaskInput::followReminder(EditedTask& edited, const ClsTask& stored)
     reminder = edited.reminder = stored.reminderDateTime();
 }
 
+void TaskInput::followRepeat(EditedTask& edited, const ClsTask& stored)
+{
+    const bool concernsIt = edited.repeat || stored.repeat();
+    const bool isLeftAlone = rule == ruleIn(edited.repeat) && due == toMinute(edited.due);
+    if (!concernsIt || !isLeftAlone || status == TaskStatus::Completed) {
+        return;
+    }
+    edited.repeat = stored.repeat();
+    edited.due = stored.DueDateTime();
+    rule = ruleIn(edited.repeat);
+    due = toMinute(edited.due);
+}
+
 bool TaskInput::reminderMustLieAhead(const std::optional<EditedTask>& edited) const
 {
     return !edited || reminder != edited->reminder || !edited->reminderOn;
@@ -85,6 +103,25 @@ std::optional<Refusal> TaskInput::refusal(const std::optional<EditedTask>& edite
     return std::nullopt;
 }
 
+std::optional<Repeat> TaskInput::repeat(const std::optional<EditedTask>& edited) const
+{
+    if (rule.empty()) {
+        return std::nullopt;
+    }
+    const std::chrono::minutes lead = std::chrono::floor<std::chrono::minutes>(due - reminder);
+    const std::optional<Repeat> before = edited ? edited->repeat : std::nullopt;
+    if (!before || rule != before->rule || due != toMinute(edited->due)) {
+        // A reminder that is off says nothing: the alert may have switched it off.
+        const auto otherwise = before ? before->lead : std::chrono::minutes(0);
+        return Repeat{rule, due, reminderOn ? lead : otherwise, 0};
+    }
+    Repeat repeat = *before;
+    if (reminder != edited->reminder || (reminderOn && !edited->reminderOn)) {
+        repeat.lead = lead;
+    }
+    return repeat;
+}
+
 ClsTask TaskInput::toTask(const DatabaseEngine& engine, const std::optional<EditedTask>& edited) const
 {
     ClsTask task(engine);
@@ -94,6 +131,7 @@ ClsTask TaskInput::toTask(const DatabaseEngine& engine, const std::optional<Edit
     task.setPeriority(periority);
     task.setReminderOn(reminderOn);
     task.setReminderDateTime(reminder);
+    task.setRepeat(repeat(edited));
     if (hasFile) {
         task.setReminderFile(file);
     }
