@@ -109,14 +109,17 @@ std::optional<Repeat> TaskInput::repeat(const std::optional<EditedTask>& edited)
         return std::nullopt;
     }
     const std::chrono::minutes lead = std::chrono::floor<std::chrono::minutes>(due - reminder);
-    const std::optional<Repeat> before = edited ? edited->repeat : std::nullopt;
-    if (!before || rule != before->rule || due != toMinute(edited->due)) {
-        // A reminder that is off says nothing: the alert may have switched it off.
-        const auto otherwise = before ? before->lead : std::chrono::minutes(0);
-        return Repeat{rule, due, reminderOn ? lead : otherwise, 0};
+    if (!edited || !edited->repeat) {
+        return Repeat{rule, due, reminderOn ? lead : std::chrono::minutes(0), 0};
     }
-    Repeat repeat = *before;
-    if (reminder != edited->reminder || (reminderOn && !edited->reminderOn)) {
+    Repeat repeat = *edited->repeat;
+    const bool isSetByUser = reminder != edited->reminder || (reminderOn && !edited->reminderOn);
+    if (rule != repeat.rule || due != toMinute(edited->due)) {
+        // One that was put off, or is that of a later time already, does not tell the lead.
+        const bool isOfThisTime = reminderOn && edited->due - edited->reminder == repeat.lead;
+        return Repeat{rule, due, isSetByUser || isOfThisTime ? lead : repeat.lead, 0};
+    }
+    if (isSetByUser) {
         repeat.lead = lead;
     }
     return repeat;

@@ -4,6 +4,8 @@
 #include "support/WheelTurn.h"
 #include "tasks/TaskDialog.h"
 #include "tasks/frmRepeat.h"
+#include "widgets/QuietLine.h"
+#include "widgets/WindowPlacement.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -11,9 +13,11 @@
 #include <QDateEdit>
 #include <QLocale>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QScopeGuard>
 #include <QSpinBox>
 #include <QTimeEdit>
+#include <QWindow>
 
 using Unsaved = MessageBoxes::Unsaved;
 using namespace std::chrono_literals;
