@@ -1,5 +1,6 @@
 #include "tasks/RepeatChoices.h"
 
+#include "tasks/RepeatInput.h"
 #include "widgets/RepeatTexts.h"
 
 #include <QLocale>
@@ -30,6 +31,12 @@ RepeatPattern everyMonth(RepeatPattern::MonthDay day)
     RepeatPattern pattern = every(1, RepeatPattern::Unit::Months);
     pattern.monthDay = day;
     return pattern;
+}
+
+QString inWords(const Repeat& repeat)
+{
+    const QString text = repeatText(repeat.rule, repeat.first);
+    return QLocale().toUpper(text.left(1)) + text.mid(1);
 }
 
 } // namespace
@@ -64,7 +71,11 @@ void RepeatChoices::load(const Repeat& repeat, Moment due)
 {
     reset(due);
     // As seen from the first moment: the 31st is due on the 28th of February, too.
-    const std::optional<RepeatPattern> pattern = patternOf(repeat.rule, repeat.first);
+    std::optional<RepeatPattern> pattern = patternOf(repeat.rule, repeat.first);
+    if (pattern) {
+        // Without the weekday of the first moment, which others name.
+        pattern = RepeatInput::of(*pattern, repeat.first).pattern(repeat.first);
+    }
     m_loaded = repeat;
     m_loadedChoice = {pattern, pattern ? std::string() : repeat.rule, {}};
     m_loadedDue = due;
@@ -76,8 +87,7 @@ std::vector<RepeatChoices::Entry> RepeatChoices::entries() const
     std::vector<Entry> entries;
     for (const Choice& choice : m_choices) {
         const Repeat repeat = repeatBy(choice);
-        entries.push_back(
-            {choice.caption.isEmpty() ? repeatText(repeat.rule, repeat.first) : choice.caption, repeat.rule});
+        entries.push_back({choice.caption.isEmpty() ? inWords(repeat) : choice.caption, repeat.rule});
     }
     return entries;
 }

@@ -14,7 +14,7 @@ struct EditedTask {
     bool reminderOn = false; ///< as loaded
     Moment reminder{}; ///< as loaded, with its seconds
     Moment due{}; ///< as loaded, with its seconds
-    std::optional<Repeat> repeat; ///< as loaded; none for a task that does not repeat
+    std::optional<Repeat> repeat = {}; ///< as loaded; none for a task that does not repeat
 };
 
 /// The control that gets the focus after a refusal.

@@ -2,7 +2,6 @@
 #include "support/TestMain.h"
 #include "tasks/RepeatChoices.h"
 #include "tasks/RepeatInput.h"
-#include "widgets/RepeatTexts.h"
 
 #include <QLocale>
 #include <QScopeGuard>
@@ -63,6 +62,7 @@ private slots:
     void aChosenEntryFollowsTheDueMoment();
     void anUnusualPatternIsAnEntryOfItsOwnUntilAnotherIs();
     void aStoredRuleIsChosenAsItIs();
+    void aStoredRuleThatNamesItsOwnWeekdayIsAUsualOne();
     void aStoredRuleCountsFromItsFirstMomentAndNotFromThePresentOne();
     void anotherDueMomentMakesAStoredPatternAnew();
     void aRuleThatIsNoPatternStaysAsItIs();
@@ -150,7 +150,8 @@ void TestRepeatChoice::anUnusualPatternIsAnEntryOfItsOwnUntilAnotherIs()
     QCOMPARE(choices.entries().size(), std::size_t(UsualEntries + 1));
     QCOMPARE(choices.chosen(), UsualEntries);
     const std::string rule = ruleOf(every(3, Unit::Weeks), Tuesday);
-    QCOMPARE(entryOf(choices, UsualEntries), (RepeatChoices::Entry{repeatText(rule, Tuesday), rule}));
+    QCOMPARE(entryOf(choices, UsualEntries),
+        (RepeatChoices::Entry{QStringLiteral("Every 3 weeks on Tuesday"), rule}));
 
     choices.choose(int(Day));
     QCOMPARE(choices.entries().size(), std::size_t(UsualEntries + 1));
@@ -169,6 +170,18 @@ void TestRepeatChoice::aStoredRuleIsChosenAsItIs()
     QCOMPARE(choices.chosen(), int(Day));
     QCOMPARE(chosenRule(choices), daily.rule);
     QVERIFY(choices.repeatBy(choices.pattern()) == daily);
+}
+
+void TestRepeatChoice::aStoredRuleThatNamesItsOwnWeekdayIsAUsualOne()
+{
+    RepeatChoices choices;
+    choices.load({"FREQ=WEEKLY;BYDAY=TU", Tuesday, {}, 2}, Tuesday);
+    QCOMPARE(choices.chosen(), int(Week));
+    QCOMPARE(chosenRule(choices), std::string("FREQ=WEEKLY;BYDAY=TU"));
+    choices.load({"FREQ=WEEKLY;BYDAY=MO", Tuesday, {}, 2}, Tuesday);
+    QCOMPARE(choices.chosen(), UsualEntries);
+    choices.setDue(Saturday);
+    QCOMPARE(entryOf(choices, UsualEntries).caption, QStringLiteral("Every week on Monday"));
 }
 
 void TestRepeatChoice::aStoredRuleCountsFromItsFirstMomentAndNotFromThePresentOne()
@@ -202,7 +215,8 @@ void TestRepeatChoice::aRuleThatIsNoPatternStaysAsItIs()
     RepeatChoices choices;
     choices.load({rule, Tuesday, {}, 0}, Tuesday);
     QCOMPARE(choices.chosen(), UsualEntries);
-    QCOMPARE(entryOf(choices, UsualEntries), (RepeatChoices::Entry{repeatText(rule, Tuesday), rule}));
+    const RepeatChoices::Entry expected{QStringLiteral("By a rule of another program"), rule};
+    QCOMPARE(entryOf(choices, UsualEntries), expected);
     choices.setDue(Saturday);
     QCOMPARE(chosenRule(choices), rule);
 }

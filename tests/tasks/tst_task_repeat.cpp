@@ -537,10 +537,11 @@ void TestTaskRepeat::theWheelPassesOverANumber()
     auto* number = partOf<QSpinBox>(window, "spnEvery");
     number->setValue(5);
     partOf<QWidget>(window, "cmbUnit")->setFocus();
-    turnWheel(*number);
+    QVERIFY(!turnWheel(*number));
     QCOMPARE(number->value(), 5);
     number->setFocus();
-    turnWheel(*number);
+    QVERIFY(number->hasFocus());
+    QVERIFY(turnWheel(*number));
     QCOMPARE(number->value(), 6);
 }
 
