@@ -107,6 +107,14 @@ void refuseLaterDataFile(const DatabaseEngine& engine)
     knownVersion(connection);
 }
 
+bool somethingRepeats(const DatabaseEngine& engine)
+{
+    const DatabaseEngine own = unheard(engine);
+    Connection connection = ClsDatabase(own).Connect();
+    connection.open();
+    return knownVersion(connection) == DataFileVersion && lookAt(connection, true).isRepeating;
+}
+
 bool isDataFileBehind(const DatabaseEngine& engine)
 {
     const DatabaseEngine own = unheard(engine);

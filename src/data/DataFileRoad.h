@@ -23,6 +23,8 @@ public:
 int knownVersion(Connection& connection);
 /// Throws LaterDataFileError, too.
 void refuseLaterDataFile(const DatabaseEngine& engine);
+/// Whether a task of the data file may repeat, which other processes may have changed.
+bool somethingRepeats(const DatabaseEngine& engine);
 /// Whether the data file has an earlier version or its tasks need new ids. Throws LaterDataFileError, too,
 /// and DatabaseError when it does but is damaged or cannot be written.
 bool isDataFileBehind(const DatabaseEngine& engine);

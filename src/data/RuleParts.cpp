@@ -10,9 +10,6 @@ namespace
 constexpr std::size_t LongestRule = 4096;
 constexpr int MostDigits = 9;
 
-constexpr std::array<std::string_view, 4> Frequencies{"DAILY", "WEEKLY", "MONTHLY", "YEARLY"};
-constexpr std::array<std::string_view, 7> Weekdays{"MO", "TU", "WE", "TH", "FR", "SA", "SU"};
-
 /// A whole number of no more than nine digits, which may have a sign.
 std::optional<int> numberOf(std::string_view text)
 {
@@ -93,7 +90,7 @@ bool addWeekday(RuleParts& parts, std::string_view value)
     if (value.size() < 2) {
         return false;
     }
-    const auto weekday = indexOf(Weekdays, value.substr(value.size() - 2));
+    const auto weekday = indexOf(WeekdayNames, value.substr(value.size() - 2));
     const std::string_view which = value.substr(0, value.size() - 2);
     const auto number = which.empty() ? std::optional(0) : numberOf(which);
     return weekday && number && (which.empty() || *number != 0)
@@ -114,7 +111,7 @@ bool addMonth(RuleParts& parts, std::string_view value)
 bool readPart(RuleParts& parts, std::string_view key, std::string_view value)
 {
     if (key == "FREQ") {
-        const auto index = indexOf(Frequencies, value);
+        const auto index = indexOf(FrequencyNames, value);
         parts.frequency = index ? std::optional(static_cast<RuleParts::Frequency>(*index)) : std::nullopt;
         return parts.frequency.has_value();
     }
@@ -132,7 +129,7 @@ bool readPart(RuleParts& parts, std::string_view key, std::string_view value)
         return parts.until.has_value();
     }
     if (key == "WKST") {
-        const auto weekday = indexOf(Weekdays, value);
+        const auto weekday = indexOf(WeekdayNames, value);
         parts.weekStart = weekday.value_or(0);
         return weekday.has_value();
     }

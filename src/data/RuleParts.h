@@ -33,6 +33,10 @@ private:
     std::bitset<2 * Most + 1> m_numbers;
 };
 
+inline constexpr std::array<std::string_view, 4> FrequencyNames{"DAILY", "WEEKLY", "MONTHLY", "YEARLY"};
+/// From Monday on.
+inline constexpr std::array<std::string_view, 7> WeekdayNames{"MO", "TU", "WE", "TH", "FR", "SA", "SU"};
+
 /// The value of an RRULE (RFC 5545), taken apart. Weekdays count from 0, Monday. An empty set says nothing.
 struct RuleParts {
     enum class Frequency { Daily, Weekly, Monthly, Yearly };
