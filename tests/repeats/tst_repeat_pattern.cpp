@@ -217,10 +217,10 @@ void RepeatPatternTest::formsOfOtherPrograms()
     const Moment begin = momentOf(first.toStdString());
     QVERIFY(patternOf(rule.toStdString(), begin) == pattern);
     // Saying it our way does not change a day.
-    const auto days = [begin](const std::string& said) {
+    const auto daysOf = [begin](const std::string& said) {
         return daysAfter(said, begin, begin - std::chrono::seconds(1), 40);
     };
-    QCOMPARE(days(ruleOf(pattern, begin)), days(rule.toStdString()));
+    QCOMPARE(daysOf(ruleOf(pattern, begin)), daysOf(rule.toStdString()));
 }
 
 void RepeatPatternTest::whatNoPatternSays_data()
