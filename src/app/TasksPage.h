@@ -14,6 +14,7 @@ class QBoxLayout;
 class QPushButton;
 class QuietLine;
 class TaskActions;
+class TaskChoices;
 class TaskFilters;
 class UndoBar;
 
