@@ -263,6 +263,7 @@ CommandRun::Status CommandRun::importTasks(const CommandLine& line)
     if (line.yes && hasProgramFolder()) {
         bringUp(engine);
     }
+    m_repeating.setUsed(somethingRepeats(engine));
     const std::unique_ptr<Exchange> exchange = m_around.exchange();
     ImportPlan plan = planOf(line, *exchange, engine);
     plan.takePrograms(line.withPrograms);
@@ -352,7 +353,9 @@ bool CommandRun::hasProgramFolder() const
 
 DatabaseEngine CommandRun::engineOn(const QString& folder)
 {
-    return {folder, &m_around.clock, nullptr, nullptr, &m_dataFileIsSound};
+    DatabaseEngine engine{folder, &m_around.clock, nullptr, nullptr, &m_dataFileIsSound};
+    engine.repeating = &m_repeating;
+    return engine;
 }
 
 DatabaseEngine CommandRun::engineOfTheUser()
