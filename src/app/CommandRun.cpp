@@ -388,11 +388,14 @@ int runCommand(const CommandLine& line, int argc, char** argv, const Installatio
     Language language;
     language.speakAsTheSystem();
     const SystemClock clock;
-    Modules modules(installation.moduleFolder, {QLatin1String(ExchangeModule)});
+    Modules modules(installation.moduleFolder, {QLatin1String(ExchangeModule), QLatin1String(RepeatModule)});
     OutputStream output;
     QFile errors;
     errors.open(stderr, QIODevice::WriteOnly | QIODevice::Unbuffered);
     return CommandRun(
-        {installation, programFolder, clock, [&modules] { return loadExchange(modules); }, output, errors})
+        {installation, programFolder, clock, [&modules] { return loadExchange(modules); }, output, errors,
+            [&modules] {
+                return loadRepeatRules(modules);
+            }})
         .run(line);
 }
