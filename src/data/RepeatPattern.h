@@ -20,11 +20,11 @@ struct RepeatPattern {
 
     Unit unit = Unit::Weeks;
     int every = 1; ///< from 1 to MostEvery
-    std::bitset<7> weekdays; ///< of weeks, Monday first; none for that of the first moment
+    std::bitset<7> weekdays{}; ///< of weeks, Monday first; none for that of the first moment
     MonthDay monthDay = MonthDay::SameDay; ///< of months; years have the same day
     // At most one of them:
-    std::optional<std::chrono::year_month_day> until; ///< the last day
-    std::optional<int> times; ///< from 1 on
+    std::optional<std::chrono::year_month_day> until{}; ///< the last day
+    std::optional<int> times{}; ///< from 1 on
 
     static constexpr int MostEvery = 999;
     static constexpr int MostTimes = 9'999;

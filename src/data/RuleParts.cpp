@@ -9,6 +9,8 @@ namespace
 
 constexpr std::size_t LongestRule = 4096;
 constexpr int MostDigits = 9;
+/// What is counted is gone through from the first moment on; these are days for 273 years.
+constexpr int MostCount = 100'000;
 
 /// A whole number of no more than nine digits, which may have a sign.
 std::optional<int> numberOf(std::string_view text)
@@ -122,7 +124,7 @@ bool readPart(RuleParts& parts, std::string_view key, std::string_view value)
     }
     if (key == "COUNT") {
         parts.count = numberOf(value);
-        return parts.count && *parts.count >= 1;
+        return parts.count && *parts.count >= 1 && *parts.count <= MostCount;
     }
     if (key == "UNTIL") {
         parts.until = untilOf(value);
