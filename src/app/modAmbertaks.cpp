@@ -53,7 +53,10 @@ struct RealMachine {
             [this](ReportHost& host) { return loadReportWindow(modules, host); },
             [this] { return loadExchange(modules); },
             [this] { return modules.program(QLatin1String(PictureProgram)); }, shippedFolder,
-            pathIn(userStateFolder(), QStringLiteral("window"))};
+            pathIn(userStateFolder(), QStringLiteral("window")),
+            [this] {
+                return loadRepeatRules(modules);
+            }};
     }
 
     QString shippedFolder;

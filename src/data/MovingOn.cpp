@@ -79,7 +79,7 @@ int MovingOn::dismissDue()
 std::vector<MovingOn::Task> MovingOn::repeatingWhere(const QString& condition)
 {
     std::vector<Task> tasks;
-    if (m_engine.repeating == nullptr || !m_engine.repeating->isUsed()) {
+    if (!TaskRepeats::isAny(m_engine)) {
         return tasks;
     }
     RecordSet records = m_connection.execute(

@@ -9,17 +9,17 @@ namespace
 
 const QLatin1String SelectRepeats("select of_task,rule,first_moment,lead,done from repeats");
 
-bool isAnythingRepeating(const DatabaseEngine& engine)
+} // namespace
+
+bool TaskRepeats::isAny(const DatabaseEngine& engine)
 {
     return engine.repeating != nullptr && engine.repeating->isUsed();
 }
 
-} // namespace
-
 std::map<qint32, Repeat> TaskRepeats::all(const DatabaseEngine& engine)
 {
     std::map<qint32, Repeat> repeats;
-    if (!isAnythingRepeating(engine)) {
+    if (!isAny(engine)) {
         return repeats;
     }
     Connection connection = ClsDatabase(engine).Connect();
@@ -38,7 +38,7 @@ std::map<qint32, Repeat> TaskRepeats::all(const DatabaseEngine& engine)
 
 std::optional<Repeat> TaskRepeats::of(const DatabaseEngine& engine, qint32 id)
 {
-    if (!isAnythingRepeating(engine)) {
+    if (!isAny(engine)) {
         return std::nullopt;
     }
     Connection connection = ClsDatabase(engine).Connect();
@@ -50,7 +50,7 @@ std::optional<Repeat> TaskRepeats::of(const DatabaseEngine& engine, qint32 id)
 
 std::optional<Repeat> TaskRepeats::of(const DatabaseEngine& engine, Connection& connection, qint32 id)
 {
-    if (!isAnythingRepeating(engine)) {
+    if (!isAny(engine)) {
         return std::nullopt;
     }
     const RecordSet records =
@@ -61,8 +61,7 @@ std::optional<Repeat> TaskRepeats::of(const DatabaseEngine& engine, Connection& 
 void TaskRepeats::store(const DatabaseEngine& engine, Connection& connection, qint32 id, const Repeat& repeat)
 {
     engine.repeating->setUsed(true);
-    connection.execute(
-        QStringLiteral("delete from repeats where of_task not in (select task_id from tasks)"));
+    removeOrphans(connection);
     connection.execute(
         QStringLiteral("insert or replace into repeats(of_task,rule,first_moment,lead,done) values(%1)")
             .arg(sqlRepeat(id, repeat)));
@@ -73,12 +72,18 @@ void TaskRepeats::remove(Connection& connection, qint32 id)
     connection.execute(QLatin1String("delete from repeats where of_task = ") + QString::number(id));
 }
 
+void TaskRepeats::removeOrphans(Connection& connection)
+{
+    connection.execute(
+        QStringLiteral("delete from repeats where of_task not in (select task_id from tasks)"));
+}
+
 void TaskRepeats::set(
     const DatabaseEngine& engine, Connection& connection, qint32 id, const std::optional<Repeat>& repeat)
 {
     if (repeat && engine.repeating != nullptr) {
         store(engine, connection, id, *repeat);
-    } else if (isAnythingRepeating(engine)) {
+    } else if (isAny(engine)) {
         remove(connection, id);
     }
 }

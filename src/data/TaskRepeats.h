@@ -15,6 +15,8 @@ struct DatabaseEngine;
 namespace TaskRepeats
 {
 
+/// Whether any task may repeat.
+bool isAny(const DatabaseEngine& engine);
 /// Those of all tasks, by their ids, also of tasks that are gone. Empty, and without a statement, when
 /// nothing repeats.
 std::map<qint32, Repeat> all(const DatabaseEngine& engine);
@@ -28,6 +30,8 @@ std::optional<Repeat> of(const DatabaseEngine& engine, Connection& connection, q
 /// Also removes the rows of tasks that are gone. `engine` is one with Repeating.
 void store(const DatabaseEngine& engine, Connection& connection, qint32 id, const Repeat& repeat);
 void remove(Connection& connection, qint32 id);
+/// The rows of tasks that are gone.
+void removeOrphans(Connection& connection);
 /// Stores it, or removes what was stored; no statement when nothing repeats.
 void set(
     const DatabaseEngine& engine, Connection& connection, qint32 id, const std::optional<Repeat>& repeat);

@@ -153,6 +153,8 @@ void RepeatControls::layOut(QWidget& form)
     auto* all = new QVBoxLayout(&form);
     all->addWidget(new ScrollFrame(content, {btnOk}), 1);
     all->addWidget(bar);
+    // A text asks for more lines than there are moments.
+    form.resize(all->minimumSize());
 }
 
 void RepeatControls::layOutWeekdays()

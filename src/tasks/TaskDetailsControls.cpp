@@ -240,9 +240,13 @@ void TaskDetailsControls::layOut(QWidget& form)
 void TaskDetailsControls::layOutReminder()
 {
     auto* grid = new QGridLayout(framReminderLater);
-    grid->addWidget(chkEnableReminder, 0, 0, 1, 2);
-    addLabel(*grid, 0, 2, named(new QLabel(framReminderLater), "lblRepeat"), tr("Repeat tas&k:"), cmbRepeat);
-    grid->addWidget(cmbRepeat, 0, 3);
+    auto* first = new QHBoxLayout;
+    first->addWidget(chkEnableReminder);
+    first->addStretch();
+    first->addWidget(named(labelFor(cmbRepeat, tr("Repeat tas&k:"), framReminderLater), "lblRepeat"));
+    grid->addLayout(first, 0, 0, 1, 2);
+    // Below its label it would be too narrow for its entries.
+    grid->addWidget(cmbRepeat, 0, 2, 1, 2);
     addLabel(*grid, 1, 0, lblReminderDate, tr("&Reminder date:"), dtpReminderDate);
     grid->addWidget(dtpReminderDate, 1, 1);
     addLabel(*grid, 1, 2, lblReminderTime, tr("Reminder t&ime:"), dtpReminderTime);

@@ -83,7 +83,9 @@ QString frmRepeat::momentsText(const RepeatInput& entered) const
         for (const Moment moment :
             dueMoments(repeating->rules(), m_repeatBy(entered.pattern(m_due)), m_due, ShownMoments)) {
             const QString weekday = QLocale().standaloneDayName(toQDate(moment).dayOfWeek());
-            lines.append(tr("%1, %2", "weekday, date").arg(weekday, inOwnDirection(dateAndLongTime(moment))));
+            const QString time = QLocale().toString(toQTime(moment), shortTimeFormat());
+            //: %1 is a weekday, %2 a date and a time
+            lines.append(tr("%1, %2").arg(weekday, inOwnDirection(shortDate(moment) + u' ' + time)));
         }
         return lines.join(u'\n');
     } catch (const RuntimeError& error) {
