@@ -47,12 +47,10 @@ QString TaskChoices::deleteQuestion() const
         return tr("This task repeats. Do you want to delete it this time, or all times?");
     }
     if (repeating > 0) {
-        return repeating == 1
-            ? tr("1 of the tasks repeats. Do you want to delete it this time, or all times?\n"
-                 "The others are deleted.")
-            : tr("%n of the tasks repeat. Do you want to delete those this time, or all times?\n"
-                 "The others are deleted.",
-                nullptr, repeating);
+        return repeating == count()
+            ? tr("These tasks repeat. Do you want to delete them this time, or all times?")
+            : tr("Some of the tasks repeat. Do you want to delete those this time, or all times?\n"
+                 "The others are deleted.");
     }
     return count() == 1 ? tr("Are you sure you want to delete this task?")
                         : tr("Are you sure you want to delete %n tasks?", nullptr, count());

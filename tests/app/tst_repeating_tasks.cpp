@@ -114,7 +114,7 @@ private slots:
     {
         RepeatingList f;
         f.page.grid()->selectRows({0, 1});
-        f.deleteSelected("1 of the tasks repeats. Do you want to delete it this time, or all times?\n"
+        f.deleteSelected("Some of the tasks repeat. Do you want to delete those this time, or all times?\n"
                          "The others are deleted.",
             Times::This);
         QCOMPARE(f.names(), QStringList(QStringLiteral("daily")));
