@@ -42,6 +42,10 @@
         <source>Category: %1</source>
         <translation>الفئة: %1</translation>
     </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
 </context>
 <context>
     <name>Cancelled</name>
@@ -322,6 +326,21 @@
     <message>
         <source>%1. %2</source>
         <translation>%1. %2</translation>
+    </message>
+    <message>
+        <source>1 task moved on to its next time</source>
+        <translation>تم نقل مهمة واحدة إلى مرتها القادمة</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks deleted this time</source>
+        <translation>
+            <numerusform>لم يتم حذف أي مهمة هذه المرة</numerusform>
+            <numerusform>تم حذف مهمة واحدة هذه المرة</numerusform>
+            <numerusform>تم حذف مهمتين هذه المرة</numerusform>
+            <numerusform>تم حذف %n مهام هذه المرة</numerusform>
+            <numerusform>تم حذف %n مهمة هذه المرة</numerusform>
+            <numerusform>تم حذف %n مهمة هذه المرة</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1376,6 +1395,17 @@ The window shows what the import would do now.</source>
             <numerusform>متأخر %n يوم</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n times since %1</source>
+        <translation>
+            <numerusform>لا مرات منذ %1</numerusform>
+            <numerusform>مرة واحدة منذ %1</numerusform>
+            <numerusform>مرتان منذ %1</numerusform>
+            <numerusform>%n مرات منذ %1</numerusform>
+            <numerusform>%n مرة منذ %1</numerusform>
+            <numerusform>%n مرة منذ %1</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>MaintenancePage</name>
@@ -1566,6 +1596,14 @@ The window shows what the import would do now.</source>
     <message>
         <source>&amp;Cancel</source>
         <translation>إل&amp;غاء</translation>
+    </message>
+    <message>
+        <source>&amp;This Time</source>
+        <translation>ه&amp;ذه المرة</translation>
+    </message>
+    <message>
+        <source>&amp;All Times</source>
+        <translation>&amp;كل المرات</translation>
     </message>
 </context>
 <context>
@@ -1806,6 +1844,262 @@ The window shows what the import would do now.</source>
     <message>
         <source>The value of column &quot;%1&quot; is empty.</source>
         <translation>قيمة العمود «%1» خالية.</translation>
+    </message>
+</context>
+<context>
+    <name>RepeatByHand</name>
+    <message>
+        <source>Custom ...</source>
+        <translation>مخصص…</translation>
+    </message>
+</context>
+<context>
+    <name>RepeatChoices</name>
+    <message>
+        <source>Never</source>
+        <translation>بلا تكرار</translation>
+    </message>
+    <message>
+        <source>Every day</source>
+        <translation>كل يوم</translation>
+    </message>
+    <message>
+        <source>Every weekday</source>
+        <translation>كل يوم عمل</translation>
+    </message>
+    <message>
+        <source>Every week</source>
+        <translation>كل أسبوع</translation>
+    </message>
+    <message>
+        <source>Every 2 weeks</source>
+        <translation>كل أسبوعين</translation>
+    </message>
+    <message>
+        <source>Every month on the same day</source>
+        <translation>كل شهر في اليوم نفسه</translation>
+    </message>
+    <message>
+        <source>Every month on the last day</source>
+        <translation>كل شهر في اليوم الأخير</translation>
+    </message>
+    <message>
+        <source>Every year</source>
+        <translation>كل سنة</translation>
+    </message>
+</context>
+<context>
+    <name>RepeatInput</name>
+    <message>
+        <source>Please tick a weekday.</source>
+        <translation>يُرجى تحديد يوم من أيام الأسبوع.</translation>
+    </message>
+    <message>
+        <source>The last day should not be earlier than the due date.</source>
+        <translation>يجب ألا يسبق اليوم الأخير تاريخ الاستحقاق.</translation>
+    </message>
+</context>
+<context>
+    <name>RepeatRules</name>
+    <message>
+        <source>Repeating tasks cannot go on: the module &quot;ambertask_repeats&quot; is missing from the program&apos;s folder or damaged.</source>
+        <translation>تعذّر استمرار المهام المتكررة: الوحدة «ambertask_repeats» مفقودة من مجلد البرنامج أو تالفة.</translation>
+    </message>
+</context>
+<context>
+    <name>RepeatTexts</name>
+    <message>
+        <source>%1 until %2</source>
+        <extracomment>%1 is how something repeats, as in &quot;every week on Tuesday&quot;, and %2 the last day</extracomment>
+        <translation>%1 حتى %2</translation>
+    </message>
+    <message>
+        <source>%1, once</source>
+        <extracomment>%1 is how something repeats, as in &quot;every week on Tuesday&quot;</extracomment>
+        <translation>%1، مرة واحدة</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %n times</source>
+        <translation>
+            <numerusform>%1، %n مرة</numerusform>
+            <numerusform>%1، مرة واحدة</numerusform>
+            <numerusform>%1، مرتين</numerusform>
+            <numerusform>%1، %n مرات</numerusform>
+            <numerusform>%1، %n مرة</numerusform>
+            <numerusform>%1، %n مرة</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>by a rule of another program</source>
+        <translation>وفق قاعدة من برنامج آخر</translation>
+    </message>
+    <message>
+        <source>every day</source>
+        <translation>كل يوم</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n days</source>
+        <translation>
+            <numerusform>كل %n يوم</numerusform>
+            <numerusform>كل يوم</numerusform>
+            <numerusform>كل يومين</numerusform>
+            <numerusform>كل %n أيام</numerusform>
+            <numerusform>كل %n يومًا</numerusform>
+            <numerusform>كل %n يوم</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>d MMMM</source>
+        <extracomment>Day and month of a date, in the format of QLocale: &quot;d. MMMM&quot;, &quot;MMMM d&quot;, &quot;d &apos;de&apos; MMMM&quot;</extracomment>
+        <translation>d MMMM</translation>
+    </message>
+    <message>
+        <source>every year on %1</source>
+        <extracomment>%1 is a day and a month</extracomment>
+        <translation>كل سنة في %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n years on %1</source>
+        <translation>
+            <numerusform>كل %n سنة في %1</numerusform>
+            <numerusform>كل سنة في %1</numerusform>
+            <numerusform>كل سنتين في %1</numerusform>
+            <numerusform>كل %n سنوات في %1</numerusform>
+            <numerusform>كل %n سنة في %1</numerusform>
+            <numerusform>كل %n سنة في %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every weekday</source>
+        <extracomment>on each day of the working week, as from Monday to Friday</extracomment>
+        <translation>كل يوم عمل</translation>
+    </message>
+    <message>
+        <source>every week on %1</source>
+        <extracomment>%1 is a weekday or several: &quot;Monday and Thursday&quot;</extracomment>
+        <translation>كل أسبوع يوم %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n weeks on %1</source>
+        <translation>
+            <numerusform>كل %n أسبوع يوم %1</numerusform>
+            <numerusform>كل أسبوع يوم %1</numerusform>
+            <numerusform>كل أسبوعين يوم %1</numerusform>
+            <numerusform>كل %n أسابيع يوم %1</numerusform>
+            <numerusform>كل %n أسبوعًا يوم %1</numerusform>
+            <numerusform>كل %n أسبوع يوم %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every month on day %1</source>
+        <extracomment>%1 is the number of a day</extracomment>
+        <translation>كل شهر في اليوم %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n months on day %1</source>
+        <translation>
+            <numerusform>كل %n شهر في اليوم %1</numerusform>
+            <numerusform>كل شهر في اليوم %1</numerusform>
+            <numerusform>كل شهرين في اليوم %1</numerusform>
+            <numerusform>كل %n أشهر في اليوم %1</numerusform>
+            <numerusform>كل %n شهرًا في اليوم %1</numerusform>
+            <numerusform>كل %n شهر في اليوم %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every month on the last day</source>
+        <translation>كل شهر في اليوم الأخير</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n months on the last day</source>
+        <translation>
+            <numerusform>كل %n شهر في اليوم الأخير</numerusform>
+            <numerusform>كل شهر في اليوم الأخير</numerusform>
+            <numerusform>كل شهرين في اليوم الأخير</numerusform>
+            <numerusform>كل %n أشهر في اليوم الأخير</numerusform>
+            <numerusform>كل %n شهرًا في اليوم الأخير</numerusform>
+            <numerusform>كل %n شهر في اليوم الأخير</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every month on the first %1</source>
+        <extracomment>%1 is a weekday</extracomment>
+        <translation>كل شهر يوم %1 الأول</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n months on the first %1</source>
+        <translation>
+            <numerusform>كل %n شهر يوم %1 الأول</numerusform>
+            <numerusform>كل شهر يوم %1 الأول</numerusform>
+            <numerusform>كل شهرين يوم %1 الأول</numerusform>
+            <numerusform>كل %n أشهر يوم %1 الأول</numerusform>
+            <numerusform>كل %n شهرًا يوم %1 الأول</numerusform>
+            <numerusform>كل %n شهر يوم %1 الأول</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every month on the second %1</source>
+        <extracomment>%1 is a weekday</extracomment>
+        <translation>كل شهر يوم %1 الثاني</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n months on the second %1</source>
+        <translation>
+            <numerusform>كل %n شهر يوم %1 الثاني</numerusform>
+            <numerusform>كل شهر يوم %1 الثاني</numerusform>
+            <numerusform>كل شهرين يوم %1 الثاني</numerusform>
+            <numerusform>كل %n أشهر يوم %1 الثاني</numerusform>
+            <numerusform>كل %n شهرًا يوم %1 الثاني</numerusform>
+            <numerusform>كل %n شهر يوم %1 الثاني</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every month on the third %1</source>
+        <extracomment>%1 is a weekday</extracomment>
+        <translation>كل شهر يوم %1 الثالث</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n months on the third %1</source>
+        <translation>
+            <numerusform>كل %n شهر يوم %1 الثالث</numerusform>
+            <numerusform>كل شهر يوم %1 الثالث</numerusform>
+            <numerusform>كل شهرين يوم %1 الثالث</numerusform>
+            <numerusform>كل %n أشهر يوم %1 الثالث</numerusform>
+            <numerusform>كل %n شهرًا يوم %1 الثالث</numerusform>
+            <numerusform>كل %n شهر يوم %1 الثالث</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every month on the fourth %1</source>
+        <extracomment>%1 is a weekday</extracomment>
+        <translation>كل شهر يوم %1 الرابع</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n months on the fourth %1</source>
+        <translation>
+            <numerusform>كل %n شهر يوم %1 الرابع</numerusform>
+            <numerusform>كل شهر يوم %1 الرابع</numerusform>
+            <numerusform>كل شهرين يوم %1 الرابع</numerusform>
+            <numerusform>كل %n أشهر يوم %1 الرابع</numerusform>
+            <numerusform>كل %n شهرًا يوم %1 الرابع</numerusform>
+            <numerusform>كل %n شهر يوم %1 الرابع</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every month on the last %1</source>
+        <extracomment>%1 is a weekday</extracomment>
+        <translation>كل شهر يوم %1 الأخير</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n months on the last %1</source>
+        <translation>
+            <numerusform>كل %n شهر يوم %1 الأخير</numerusform>
+            <numerusform>كل شهر يوم %1 الأخير</numerusform>
+            <numerusform>كل شهرين يوم %1 الأخير</numerusform>
+            <numerusform>كل %n أشهر يوم %1 الأخير</numerusform>
+            <numerusform>كل %n شهرًا يوم %1 الأخير</numerusform>
+            <numerusform>كل %n شهر يوم %1 الأخير</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2266,6 +2560,20 @@ The window shows what the import would do now.</source>
         <source>&amp;Low</source>
         <translation>&amp;منخفضة</translation>
     </message>
+    <message>
+        <source>This task repeats. Do you want to delete it this time, or all times?</source>
+        <translation>هذه المهمة متكررة. هل تريد حذفها هذه المرة فقط أم كل المرات؟</translation>
+    </message>
+    <message>
+        <source>These tasks repeat. Do you want to delete them this time, or all times?</source>
+        <translation>هذه المهام متكررة. هل تريد حذفها هذه المرة فقط أم كل المرات؟</translation>
+    </message>
+    <message>
+        <source>Some of the tasks repeat. Do you want to delete those this time, or all times?
+The others are deleted.</source>
+        <translation>بعض المهام متكررة. هل تريد حذفها هذه المرة فقط أم كل المرات؟
+تُحذف المهام الأخرى.</translation>
+    </message>
 </context>
 <context>
     <name>TaskFilters</name>
@@ -2429,6 +2737,10 @@ The window shows what the import would do now.</source>
     <message>
         <source>Category: %1</source>
         <translation>الفئة: %1</translation>
+    </message>
+    <message>
+        <source>Repeats %1</source>
+        <translation>تتكرر %1</translation>
     </message>
 </context>
 <context>
@@ -2777,6 +3089,10 @@ The window shows what the import would do now.</source>
 %1</source>
         <translation>تعذّر حفظ المهام.
 %1</translation>
+    </message>
+    <message>
+        <source>Repeats %1</source>
+        <translation>تتكرر %1</translation>
     </message>
 </context>
 <context>
@@ -3149,6 +3465,138 @@ The window shows what the import would do now.</source>
     </message>
 </context>
 <context>
+    <name>frmRepeat</name>
+    <message>
+        <source>Repeat</source>
+        <translation>التكرار</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>%1 is a weekday, %2 a date and a time</extracomment>
+        <translation>%1، %2</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>أيام</translation>
+    </message>
+    <message>
+        <source>Weeks</source>
+        <translation>أسابيع</translation>
+    </message>
+    <message>
+        <source>Months</source>
+        <translation>أشهر</translation>
+    </message>
+    <message>
+        <source>Years</source>
+        <translation>سنوات</translation>
+    </message>
+    <message>
+        <source>The same day</source>
+        <translation>اليوم نفسه</translation>
+    </message>
+    <message>
+        <source>The last day</source>
+        <translation>اليوم الأخير</translation>
+    </message>
+    <message>
+        <source>The same weekday</source>
+        <translation>يوم الأسبوع نفسه</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>أبدًا</translation>
+    </message>
+    <message>
+        <source>On a date</source>
+        <translation>في تاريخ محدد</translation>
+    </message>
+    <message>
+        <source>After a number of times</source>
+        <translation>بعد عدد من المرات</translation>
+    </message>
+    <message>
+        <source>On these &amp;weekdays</source>
+        <translation>في أيام الأسبوع &amp;هذه</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>م&amp;وافق</translation>
+    </message>
+    <message>
+        <source>C&amp;ancel</source>
+        <translation>إل&amp;غاء</translation>
+    </message>
+    <message>
+        <source>Repeat every so many</source>
+        <translation>فاصل التكرار</translation>
+    </message>
+    <message>
+        <source>Days, weeks, months or years</source>
+        <translation>أيام أو أسابيع أو أشهر أو سنوات</translation>
+    </message>
+    <message>
+        <source>On these weekdays</source>
+        <translation>في أيام الأسبوع هذه</translation>
+    </message>
+    <message>
+        <source>Day of the month</source>
+        <translation>يوم الشهر</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>الانتهاء</translation>
+    </message>
+    <message>
+        <source>Last day</source>
+        <translation>اليوم الأخير</translation>
+    </message>
+    <message>
+        <source>Number of times</source>
+        <translation>عدد المرات</translation>
+    </message>
+    <message>
+        <source>Next due moments</source>
+        <translation>مواعيد الاستحقاق القادمة</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>موافق</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>Repeat &amp;every:</source>
+        <translation>التكرار &amp;كل:</translation>
+    </message>
+    <message>
+        <source>&amp;Unit:</source>
+        <translation>الو&amp;حدة:</translation>
+    </message>
+    <message>
+        <source>Day of the &amp;month:</source>
+        <translation>يوم ال&amp;شهر:</translation>
+    </message>
+    <message>
+        <source>E&amp;nd:</source>
+        <translation>الا&amp;نتهاء:</translation>
+    </message>
+    <message>
+        <source>&amp;Last day:</source>
+        <translation>اليوم الأ&amp;خير:</translation>
+    </message>
+    <message>
+        <source>&amp;Times:</source>
+        <translation>عدد ال&amp;مرات:</translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt due moments:</source>
+        <translation>مواعيد الاستحقاق ال&amp;قادمة:</translation>
+    </message>
+</context>
+<context>
     <name>frmTaskDetails</name>
     <message>
         <source>Task Details</source>
@@ -3329,6 +3777,14 @@ The window shows what the import would do now.</source>
     <message>
         <source>Switches the reminder on; it follows the due moment until it is changed</source>
         <translation>يشغّل التذكير؛ ويتبع موعد الاستحقاق إلى أن يُغيَّر</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>التكرار</translation>
+    </message>
+    <message>
+        <source>Repeat tas&amp;k:</source>
+        <translation>تكر&amp;ار المهمة:</translation>
     </message>
 </context>
 <context>

@@ -42,6 +42,10 @@
         <source>Category: %1</source>
         <translation>Kategorie: %1</translation>
     </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
 </context>
 <context>
     <name>Cancelled</name>
@@ -282,6 +286,17 @@
     <message>
         <source>%1. %2</source>
         <translation>%1. %2</translation>
+    </message>
+    <message>
+        <source>1 task moved on to its next time</source>
+        <translation>1 Aufgabe auf den nächsten Termin verschoben</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks deleted this time</source>
+        <translation>
+            <numerusform>%n Aufgabe nur für diesen Termin gelöscht</numerusform>
+            <numerusform>%n Aufgaben nur für diesen Termin gelöscht</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1109,7 +1124,7 @@
         <source>Nothing was imported yet: the tasks or the file have been changed meanwhile.
 The window shows what the import would do now.</source>
         <translation>Es wurde noch nichts importiert: Die Aufgaben oder die Datei wurden inzwischen geändert.
-Das Fenster zeigt, was der Import jetzt tun würde.</translation>
+Das Fenster zeigt, was der Import jetzt bewirken würde.</translation>
     </message>
 </context>
 <context>
@@ -1246,6 +1261,13 @@ Das Fenster zeigt, was der Import jetzt tun würde.</translation>
         <translation>
             <numerusform>seit %n Tag fällig</numerusform>
             <numerusform>seit %n Tagen fällig</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n times since %1</source>
+        <translation>
+            <numerusform>%n-mal seit %1</numerusform>
+            <numerusform>%n-mal seit %1</numerusform>
         </translation>
     </message>
 </context>
@@ -1426,6 +1448,14 @@ Das Fenster zeigt, was der Import jetzt tun würde.</translation>
     <message>
         <source>&amp;Cancel</source>
         <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;This Time</source>
+        <translation>&amp;Diesen Termin</translation>
+    </message>
+    <message>
+        <source>&amp;All Times</source>
+        <translation>Alle &amp;Termine</translation>
     </message>
 </context>
 <context>
@@ -1666,6 +1696,218 @@ Das Fenster zeigt, was der Import jetzt tun würde.</translation>
     <message>
         <source>The value of column &quot;%1&quot; is empty.</source>
         <translation>Der Wert der Spalte „%1“ ist leer.</translation>
+    </message>
+</context>
+<context>
+    <name>RepeatByHand</name>
+    <message>
+        <source>Custom ...</source>
+        <translation>Benutzerdefiniert…</translation>
+    </message>
+</context>
+<context>
+    <name>RepeatChoices</name>
+    <message>
+        <source>Never</source>
+        <translation>Nie</translation>
+    </message>
+    <message>
+        <source>Every day</source>
+        <translation>Jeden Tag</translation>
+    </message>
+    <message>
+        <source>Every weekday</source>
+        <translation>Jeden Arbeitstag</translation>
+    </message>
+    <message>
+        <source>Every week</source>
+        <translation>Jede Woche</translation>
+    </message>
+    <message>
+        <source>Every 2 weeks</source>
+        <translation>Alle 2 Wochen</translation>
+    </message>
+    <message>
+        <source>Every month on the same day</source>
+        <translation>Am selben Tag jedes Monats</translation>
+    </message>
+    <message>
+        <source>Every month on the last day</source>
+        <translation>Am letzten Tag jedes Monats</translation>
+    </message>
+    <message>
+        <source>Every year</source>
+        <translation>Jedes Jahr</translation>
+    </message>
+</context>
+<context>
+    <name>RepeatInput</name>
+    <message>
+        <source>Please tick a weekday.</source>
+        <translation>Bitte wählen Sie einen Wochentag aus.</translation>
+    </message>
+    <message>
+        <source>The last day should not be earlier than the due date.</source>
+        <translation>Der letzte Tag darf nicht vor dem Fälligkeitsdatum liegen.</translation>
+    </message>
+</context>
+<context>
+    <name>RepeatRules</name>
+    <message>
+        <source>Repeating tasks cannot go on: the module &quot;ambertask_repeats&quot; is missing from the program&apos;s folder or damaged.</source>
+        <translation>Wiederholungen von Aufgaben können nicht fortgesetzt werden: Das Modul „ambertask_repeats“ fehlt im Programmordner oder ist beschädigt.</translation>
+    </message>
+</context>
+<context>
+    <name>RepeatTexts</name>
+    <message>
+        <source>%1 until %2</source>
+        <extracomment>%1 is how something repeats, as in &quot;every week on Tuesday&quot;, and %2 the last day</extracomment>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>%1, once</source>
+        <extracomment>%1 is how something repeats, as in &quot;every week on Tuesday&quot;</extracomment>
+        <translation>%1, einmal</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %n times</source>
+        <translation>
+            <numerusform>%1, %n-mal</numerusform>
+            <numerusform>%1, %n-mal</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>by a rule of another program</source>
+        <translation>nach einer Regel eines anderen Programms</translation>
+    </message>
+    <message>
+        <source>every day</source>
+        <translation>jeden Tag</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n days</source>
+        <translation>
+            <numerusform>alle %n Tage</numerusform>
+            <numerusform>alle %n Tage</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>d MMMM</source>
+        <extracomment>Day and month of a date, in the format of QLocale: &quot;d. MMMM&quot;, &quot;MMMM d&quot;, &quot;d &apos;de&apos; MMMM&quot;</extracomment>
+        <translation>d. MMMM</translation>
+    </message>
+    <message>
+        <source>every year on %1</source>
+        <extracomment>%1 is a day and a month</extracomment>
+        <translation>jedes Jahr am %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n years on %1</source>
+        <translation>
+            <numerusform>alle %n Jahre am %1</numerusform>
+            <numerusform>alle %n Jahre am %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every weekday</source>
+        <extracomment>on each day of the working week, as from Monday to Friday</extracomment>
+        <translation>jeden Arbeitstag</translation>
+    </message>
+    <message>
+        <source>every week on %1</source>
+        <extracomment>%1 is a weekday or several: &quot;Monday and Thursday&quot;</extracomment>
+        <translation>jede Woche am %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n weeks on %1</source>
+        <translation>
+            <numerusform>alle %n Wochen am %1</numerusform>
+            <numerusform>alle %n Wochen am %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every month on day %1</source>
+        <extracomment>%1 is the number of a day</extracomment>
+        <translation>am Tag %1 jedes Monats</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n months on day %1</source>
+        <translation>
+            <numerusform>alle %n Monate am Tag %1</numerusform>
+            <numerusform>alle %n Monate am Tag %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every month on the last day</source>
+        <translation>am letzten Tag jedes Monats</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n months on the last day</source>
+        <translation>
+            <numerusform>alle %n Monate am letzten Tag</numerusform>
+            <numerusform>alle %n Monate am letzten Tag</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every month on the first %1</source>
+        <extracomment>%1 is a weekday</extracomment>
+        <translation>am ersten %1 jedes Monats</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n months on the first %1</source>
+        <translation>
+            <numerusform>alle %n Monate am ersten %1</numerusform>
+            <numerusform>alle %n Monate am ersten %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every month on the second %1</source>
+        <extracomment>%1 is a weekday</extracomment>
+        <translation>am zweiten %1 jedes Monats</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n months on the second %1</source>
+        <translation>
+            <numerusform>alle %n Monate am zweiten %1</numerusform>
+            <numerusform>alle %n Monate am zweiten %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every month on the third %1</source>
+        <extracomment>%1 is a weekday</extracomment>
+        <translation>am dritten %1 jedes Monats</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n months on the third %1</source>
+        <translation>
+            <numerusform>alle %n Monate am dritten %1</numerusform>
+            <numerusform>alle %n Monate am dritten %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every month on the fourth %1</source>
+        <extracomment>%1 is a weekday</extracomment>
+        <translation>am vierten %1 jedes Monats</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n months on the fourth %1</source>
+        <translation>
+            <numerusform>alle %n Monate am vierten %1</numerusform>
+            <numerusform>alle %n Monate am vierten %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every month on the last %1</source>
+        <extracomment>%1 is a weekday</extracomment>
+        <translation>am letzten %1 jedes Monats</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n months on the last %1</source>
+        <translation>
+            <numerusform>alle %n Monate am letzten %1</numerusform>
+            <numerusform>alle %n Monate am letzten %1</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2118,6 +2360,20 @@ ein Fehler auf: %3.</translation>
         <source>&amp;Low</source>
         <translation>N&amp;iedrig</translation>
     </message>
+    <message>
+        <source>This task repeats. Do you want to delete it this time, or all times?</source>
+        <translation>Diese Aufgabe wiederholt sich. Möchten Sie nur diesen Termin oder alle Termine löschen?</translation>
+    </message>
+    <message>
+        <source>These tasks repeat. Do you want to delete them this time, or all times?</source>
+        <translation>Diese Aufgaben wiederholen sich. Möchten Sie jeweils nur diesen Termin oder alle Termine löschen?</translation>
+    </message>
+    <message>
+        <source>Some of the tasks repeat. Do you want to delete those this time, or all times?
+The others are deleted.</source>
+        <translation>Einige der Aufgaben wiederholen sich. Möchten Sie davon jeweils nur diesen Termin oder alle Termine löschen?
+Die anderen Aufgaben werden gelöscht.</translation>
+    </message>
 </context>
 <context>
     <name>TaskFilters</name>
@@ -2281,6 +2537,10 @@ ein Fehler auf: %3.</translation>
     <message>
         <source>Category: %1</source>
         <translation>Kategorie: %1</translation>
+    </message>
+    <message>
+        <source>Repeats %1</source>
+        <translation>Wiederholt sich %1</translation>
     </message>
 </context>
 <context>
@@ -2617,6 +2877,10 @@ ein Fehler auf: %3.</translation>
 %1</source>
         <translation>Die Aufgaben konnten nicht gespeichert werden.
 %1</translation>
+    </message>
+    <message>
+        <source>Repeats %1</source>
+        <translation>Wiederholt sich %1</translation>
     </message>
 </context>
 <context>
@@ -2985,6 +3249,138 @@ ein Fehler auf: %3.</translation>
     </message>
 </context>
 <context>
+    <name>frmRepeat</name>
+    <message>
+        <source>Repeat</source>
+        <translation>Wiederholung</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>%1 is a weekday, %2 a date and a time</extracomment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>Tage</translation>
+    </message>
+    <message>
+        <source>Weeks</source>
+        <translation>Wochen</translation>
+    </message>
+    <message>
+        <source>Months</source>
+        <translation>Monate</translation>
+    </message>
+    <message>
+        <source>Years</source>
+        <translation>Jahre</translation>
+    </message>
+    <message>
+        <source>The same day</source>
+        <translation>Derselbe Tag</translation>
+    </message>
+    <message>
+        <source>The last day</source>
+        <translation>Der letzte Tag</translation>
+    </message>
+    <message>
+        <source>The same weekday</source>
+        <translation>Derselbe Wochentag</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Nie</translation>
+    </message>
+    <message>
+        <source>On a date</source>
+        <translation>An einem Datum</translation>
+    </message>
+    <message>
+        <source>After a number of times</source>
+        <translation>Nach einer Anzahl von Terminen</translation>
+    </message>
+    <message>
+        <source>On these &amp;weekdays</source>
+        <translation>An diesen &amp;Wochentagen</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>C&amp;ancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>Repeat every so many</source>
+        <translation>Wiederholen alle</translation>
+    </message>
+    <message>
+        <source>Days, weeks, months or years</source>
+        <translation>Tage, Wochen, Monate oder Jahre</translation>
+    </message>
+    <message>
+        <source>On these weekdays</source>
+        <translation>An diesen Wochentagen</translation>
+    </message>
+    <message>
+        <source>Day of the month</source>
+        <translation>Tag des Monats</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>Last day</source>
+        <translation>Letzter Tag</translation>
+    </message>
+    <message>
+        <source>Number of times</source>
+        <translation>Anzahl der Termine</translation>
+    </message>
+    <message>
+        <source>Next due moments</source>
+        <translation>Nächste Fälligkeiten</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Repeat &amp;every:</source>
+        <translation>Wiederholen a&amp;lle:</translation>
+    </message>
+    <message>
+        <source>&amp;Unit:</source>
+        <translation>&amp;Einheit:</translation>
+    </message>
+    <message>
+        <source>Day of the &amp;month:</source>
+        <translation>Tag des &amp;Monats:</translation>
+    </message>
+    <message>
+        <source>E&amp;nd:</source>
+        <translation>E&amp;nde:</translation>
+    </message>
+    <message>
+        <source>&amp;Last day:</source>
+        <translation>Letzter Ta&amp;g:</translation>
+    </message>
+    <message>
+        <source>&amp;Times:</source>
+        <translation>&amp;Termine:</translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt due moments:</source>
+        <translation>Nächste &amp;Fälligkeiten:</translation>
+    </message>
+</context>
+<context>
     <name>frmTaskDetails</name>
     <message>
         <source>Task Details</source>
@@ -3165,6 +3561,14 @@ ein Fehler auf: %3.</translation>
     <message>
         <source>Switches the reminder on; it follows the due moment until it is changed</source>
         <translation>Schaltet die Erinnerung ein; sie folgt der Fälligkeit, bis sie geändert wird</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Wiederholung</translation>
+    </message>
+    <message>
+        <source>Repeat tas&amp;k:</source>
+        <translation>Wiederho&amp;lung:</translation>
     </message>
 </context>
 <context>

@@ -42,6 +42,10 @@
         <source>Category: %1</source>
         <translation>Categoría: %1</translation>
     </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
 </context>
 <context>
     <name>Cancelled</name>
@@ -282,6 +286,17 @@
     <message>
         <source>%1. %2</source>
         <translation>%1. %2</translation>
+    </message>
+    <message>
+        <source>1 task moved on to its next time</source>
+        <translation>1 tarea pasada a su próxima vez</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks deleted this time</source>
+        <translation>
+            <numerusform>%n tarea eliminada esta vez</numerusform>
+            <numerusform>%n tareas eliminadas esta vez</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1108,7 +1123,7 @@
     <message>
         <source>Nothing was imported yet: the tasks or the file have been changed meanwhile.
 The window shows what the import would do now.</source>
-        <translation>Todavía no se ha importado nada: las tareas o el archivo han cambiado entretanto.
+        <translation>Aún no se ha importado nada: entretanto han cambiado las tareas o el archivo.
 La ventana muestra lo que haría ahora la importación.</translation>
     </message>
 </context>
@@ -1246,6 +1261,13 @@ La ventana muestra lo que haría ahora la importación.</translation>
         <translation>
             <numerusform>%n día de retraso</numerusform>
             <numerusform>%n días de retraso</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n times since %1</source>
+        <translation>
+            <numerusform>%n vez desde el %1</numerusform>
+            <numerusform>%n veces desde el %1</numerusform>
         </translation>
     </message>
 </context>
@@ -1426,6 +1448,14 @@ La ventana muestra lo que haría ahora la importación.</translation>
     <message>
         <source>&amp;Cancel</source>
         <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>&amp;This Time</source>
+        <translation>&amp;Esta vez</translation>
+    </message>
+    <message>
+        <source>&amp;All Times</source>
+        <translation>&amp;Todas las veces</translation>
     </message>
 </context>
 <context>
@@ -1666,6 +1696,218 @@ La ventana muestra lo que haría ahora la importación.</translation>
     <message>
         <source>The value of column &quot;%1&quot; is empty.</source>
         <translation>El valor de la columna «%1» está vacío.</translation>
+    </message>
+</context>
+<context>
+    <name>RepeatByHand</name>
+    <message>
+        <source>Custom ...</source>
+        <translation>Personalizar…</translation>
+    </message>
+</context>
+<context>
+    <name>RepeatChoices</name>
+    <message>
+        <source>Never</source>
+        <translation>Nunca</translation>
+    </message>
+    <message>
+        <source>Every day</source>
+        <translation>Cada día</translation>
+    </message>
+    <message>
+        <source>Every weekday</source>
+        <translation>Cada día laborable</translation>
+    </message>
+    <message>
+        <source>Every week</source>
+        <translation>Cada semana</translation>
+    </message>
+    <message>
+        <source>Every 2 weeks</source>
+        <translation>Cada 2 semanas</translation>
+    </message>
+    <message>
+        <source>Every month on the same day</source>
+        <translation>Cada mes el mismo día</translation>
+    </message>
+    <message>
+        <source>Every month on the last day</source>
+        <translation>Cada mes el último día</translation>
+    </message>
+    <message>
+        <source>Every year</source>
+        <translation>Cada año</translation>
+    </message>
+</context>
+<context>
+    <name>RepeatInput</name>
+    <message>
+        <source>Please tick a weekday.</source>
+        <translation>Marque un día de la semana.</translation>
+    </message>
+    <message>
+        <source>The last day should not be earlier than the due date.</source>
+        <translation>El último día no puede ser anterior a la fecha de vencimiento.</translation>
+    </message>
+</context>
+<context>
+    <name>RepeatRules</name>
+    <message>
+        <source>Repeating tasks cannot go on: the module &quot;ambertask_repeats&quot; is missing from the program&apos;s folder or damaged.</source>
+        <translation>Las tareas que se repiten no pueden continuar: el módulo «ambertask_repeats» falta en la carpeta del programa o está dañado.</translation>
+    </message>
+</context>
+<context>
+    <name>RepeatTexts</name>
+    <message>
+        <source>%1 until %2</source>
+        <extracomment>%1 is how something repeats, as in &quot;every week on Tuesday&quot;, and %2 the last day</extracomment>
+        <translation>%1 hasta el %2</translation>
+    </message>
+    <message>
+        <source>%1, once</source>
+        <extracomment>%1 is how something repeats, as in &quot;every week on Tuesday&quot;</extracomment>
+        <translation>%1, una vez</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %n times</source>
+        <translation>
+            <numerusform>%1, %n vez</numerusform>
+            <numerusform>%1, %n veces</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>by a rule of another program</source>
+        <translation>según una regla de otro programa</translation>
+    </message>
+    <message>
+        <source>every day</source>
+        <translation>cada día</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n days</source>
+        <translation>
+            <numerusform>cada %n día</numerusform>
+            <numerusform>cada %n días</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>d MMMM</source>
+        <extracomment>Day and month of a date, in the format of QLocale: &quot;d. MMMM&quot;, &quot;MMMM d&quot;, &quot;d &apos;de&apos; MMMM&quot;</extracomment>
+        <translation>d &apos;de&apos; MMMM</translation>
+    </message>
+    <message>
+        <source>every year on %1</source>
+        <extracomment>%1 is a day and a month</extracomment>
+        <translation>cada año el %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n years on %1</source>
+        <translation>
+            <numerusform>cada %n año el %1</numerusform>
+            <numerusform>cada %n años el %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every weekday</source>
+        <extracomment>on each day of the working week, as from Monday to Friday</extracomment>
+        <translation>cada día laborable</translation>
+    </message>
+    <message>
+        <source>every week on %1</source>
+        <extracomment>%1 is a weekday or several: &quot;Monday and Thursday&quot;</extracomment>
+        <translation>cada semana el %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n weeks on %1</source>
+        <translation>
+            <numerusform>cada %n semana el %1</numerusform>
+            <numerusform>cada %n semanas el %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every month on day %1</source>
+        <extracomment>%1 is the number of a day</extracomment>
+        <translation>cada mes el día %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n months on day %1</source>
+        <translation>
+            <numerusform>cada %n mes el día %1</numerusform>
+            <numerusform>cada %n meses el día %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every month on the last day</source>
+        <translation>cada mes el último día</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n months on the last day</source>
+        <translation>
+            <numerusform>cada %n mes el último día</numerusform>
+            <numerusform>cada %n meses el último día</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every month on the first %1</source>
+        <extracomment>%1 is a weekday</extracomment>
+        <translation>cada mes el primer %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n months on the first %1</source>
+        <translation>
+            <numerusform>cada %n mes el primer %1</numerusform>
+            <numerusform>cada %n meses el primer %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every month on the second %1</source>
+        <extracomment>%1 is a weekday</extracomment>
+        <translation>cada mes el segundo %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n months on the second %1</source>
+        <translation>
+            <numerusform>cada %n mes el segundo %1</numerusform>
+            <numerusform>cada %n meses el segundo %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every month on the third %1</source>
+        <extracomment>%1 is a weekday</extracomment>
+        <translation>cada mes el tercer %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n months on the third %1</source>
+        <translation>
+            <numerusform>cada %n mes el tercer %1</numerusform>
+            <numerusform>cada %n meses el tercer %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every month on the fourth %1</source>
+        <extracomment>%1 is a weekday</extracomment>
+        <translation>cada mes el cuarto %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n months on the fourth %1</source>
+        <translation>
+            <numerusform>cada %n mes el cuarto %1</numerusform>
+            <numerusform>cada %n meses el cuarto %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every month on the last %1</source>
+        <extracomment>%1 is a weekday</extracomment>
+        <translation>cada mes el último %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n months on the last %1</source>
+        <translation>
+            <numerusform>cada %n mes el último %1</numerusform>
+            <numerusform>cada %n meses el último %1</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2118,6 +2360,20 @@ La ventana muestra lo que haría ahora la importación.</translation>
         <source>&amp;Low</source>
         <translation>&amp;Baja</translation>
     </message>
+    <message>
+        <source>This task repeats. Do you want to delete it this time, or all times?</source>
+        <translation>Esta tarea se repite. ¿Desea eliminarla solo esta vez o todas las veces?</translation>
+    </message>
+    <message>
+        <source>These tasks repeat. Do you want to delete them this time, or all times?</source>
+        <translation>Estas tareas se repiten. ¿Desea eliminarlas solo esta vez o todas las veces?</translation>
+    </message>
+    <message>
+        <source>Some of the tasks repeat. Do you want to delete those this time, or all times?
+The others are deleted.</source>
+        <translation>Algunas de las tareas se repiten. ¿Desea eliminarlas solo esta vez o todas las veces?
+Las demás se eliminan.</translation>
+    </message>
 </context>
 <context>
     <name>TaskFilters</name>
@@ -2281,6 +2537,10 @@ La ventana muestra lo que haría ahora la importación.</translation>
     <message>
         <source>Category: %1</source>
         <translation>Categoría: %1</translation>
+    </message>
+    <message>
+        <source>Repeats %1</source>
+        <translation>Se repite %1</translation>
     </message>
 </context>
 <context>
@@ -2617,6 +2877,10 @@ La ventana muestra lo que haría ahora la importación.</translation>
 %1</source>
         <translation>No se pudieron guardar las tareas.
 %1</translation>
+    </message>
+    <message>
+        <source>Repeats %1</source>
+        <translation>Se repite %1</translation>
     </message>
 </context>
 <context>
@@ -2985,6 +3249,138 @@ La ventana muestra lo que haría ahora la importación.</translation>
     </message>
 </context>
 <context>
+    <name>frmRepeat</name>
+    <message>
+        <source>Repeat</source>
+        <translation>Repetir</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>%1 is a weekday, %2 a date and a time</extracomment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>Días</translation>
+    </message>
+    <message>
+        <source>Weeks</source>
+        <translation>Semanas</translation>
+    </message>
+    <message>
+        <source>Months</source>
+        <translation>Meses</translation>
+    </message>
+    <message>
+        <source>Years</source>
+        <translation>Años</translation>
+    </message>
+    <message>
+        <source>The same day</source>
+        <translation>El mismo día</translation>
+    </message>
+    <message>
+        <source>The last day</source>
+        <translation>El último día</translation>
+    </message>
+    <message>
+        <source>The same weekday</source>
+        <translation>El mismo día de la semana</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Nunca</translation>
+    </message>
+    <message>
+        <source>On a date</source>
+        <translation>En una fecha</translation>
+    </message>
+    <message>
+        <source>After a number of times</source>
+        <translation>Tras un número de veces</translation>
+    </message>
+    <message>
+        <source>On these &amp;weekdays</source>
+        <translation>En estos &amp;días de la semana</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>Acep&amp;tar</translation>
+    </message>
+    <message>
+        <source>C&amp;ancel</source>
+        <translation>Cance&amp;lar</translation>
+    </message>
+    <message>
+        <source>Repeat every so many</source>
+        <translation>Repetir cada tantos</translation>
+    </message>
+    <message>
+        <source>Days, weeks, months or years</source>
+        <translation>Días, semanas, meses o años</translation>
+    </message>
+    <message>
+        <source>On these weekdays</source>
+        <translation>En estos días de la semana</translation>
+    </message>
+    <message>
+        <source>Day of the month</source>
+        <translation>Día del mes</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Fin</translation>
+    </message>
+    <message>
+        <source>Last day</source>
+        <translation>Último día</translation>
+    </message>
+    <message>
+        <source>Number of times</source>
+        <translation>Número de veces</translation>
+    </message>
+    <message>
+        <source>Next due moments</source>
+        <translation>Próximos vencimientos</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Repeat &amp;every:</source>
+        <translation>Repetir &amp;cada:</translation>
+    </message>
+    <message>
+        <source>&amp;Unit:</source>
+        <translation>&amp;Unidad:</translation>
+    </message>
+    <message>
+        <source>Day of the &amp;month:</source>
+        <translation>Día del &amp;mes:</translation>
+    </message>
+    <message>
+        <source>E&amp;nd:</source>
+        <translation>&amp;Fin:</translation>
+    </message>
+    <message>
+        <source>&amp;Last day:</source>
+        <translation>Últ&amp;imo día:</translation>
+    </message>
+    <message>
+        <source>&amp;Times:</source>
+        <translation>&amp;Veces:</translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt due moments:</source>
+        <translation>&amp;Próximos vencimientos:</translation>
+    </message>
+</context>
+<context>
     <name>frmTaskDetails</name>
     <message>
         <source>Task Details</source>
@@ -3165,6 +3561,14 @@ La ventana muestra lo que haría ahora la importación.</translation>
     <message>
         <source>Switches the reminder on; it follows the due moment until it is changed</source>
         <translation>Activa el recordatorio, que sigue al vencimiento hasta que se cambie</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Repetir</translation>
+    </message>
+    <message>
+        <source>Repeat tas&amp;k:</source>
+        <translation>Repet&amp;ir tarea:</translation>
     </message>
 </context>
 <context>

@@ -42,6 +42,10 @@
         <source>Category: %1</source>
         <translation>Catégorie&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
 </context>
 <context>
     <name>Cancelled</name>
@@ -282,6 +286,17 @@
     <message>
         <source>%1. %2</source>
         <translation>%1. %2</translation>
+    </message>
+    <message>
+        <source>1 task moved on to its next time</source>
+        <translation>1 tâche passée à l’occurrence suivante</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks deleted this time</source>
+        <translation>
+            <numerusform>%n tâche supprimée pour cette occurrence</numerusform>
+            <numerusform>%n tâches supprimées pour cette occurrence</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1109,7 +1124,7 @@
         <source>Nothing was imported yet: the tasks or the file have been changed meanwhile.
 The window shows what the import would do now.</source>
         <translation>Rien n’a encore été importé&#xa0;: les tâches ou le fichier ont été modifiés entre-temps.
-La fenêtre montre ce que l’importation ferait maintenant.</translation>
+La fenêtre montre ce que ferait l’importation maintenant.</translation>
     </message>
 </context>
 <context>
@@ -1246,6 +1261,13 @@ La fenêtre montre ce que l’importation ferait maintenant.</translation>
         <translation>
             <numerusform>%n jour de retard</numerusform>
             <numerusform>%n jours de retard</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n times since %1</source>
+        <translation>
+            <numerusform>%n fois depuis %1</numerusform>
+            <numerusform>%n fois depuis %1</numerusform>
         </translation>
     </message>
 </context>
@@ -1426,6 +1448,14 @@ La fenêtre montre ce que l’importation ferait maintenant.</translation>
     <message>
         <source>&amp;Cancel</source>
         <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;This Time</source>
+        <translation>&amp;Cette occurrence</translation>
+    </message>
+    <message>
+        <source>&amp;All Times</source>
+        <translation>&amp;Toutes les occurrences</translation>
     </message>
 </context>
 <context>
@@ -1666,6 +1696,218 @@ La fenêtre montre ce que l’importation ferait maintenant.</translation>
     <message>
         <source>The value of column &quot;%1&quot; is empty.</source>
         <translation>La valeur de la colonne «&#xa0;%1&#xa0;» est vide.</translation>
+    </message>
+</context>
+<context>
+    <name>RepeatByHand</name>
+    <message>
+        <source>Custom ...</source>
+        <translation>Personnalisée…</translation>
+    </message>
+</context>
+<context>
+    <name>RepeatChoices</name>
+    <message>
+        <source>Never</source>
+        <translation>Jamais</translation>
+    </message>
+    <message>
+        <source>Every day</source>
+        <translation>Tous les jours</translation>
+    </message>
+    <message>
+        <source>Every weekday</source>
+        <translation>Tous les jours ouvrés</translation>
+    </message>
+    <message>
+        <source>Every week</source>
+        <translation>Toutes les semaines</translation>
+    </message>
+    <message>
+        <source>Every 2 weeks</source>
+        <translation>Toutes les 2 semaines</translation>
+    </message>
+    <message>
+        <source>Every month on the same day</source>
+        <translation>Tous les mois le même jour</translation>
+    </message>
+    <message>
+        <source>Every month on the last day</source>
+        <translation>Tous les mois le dernier jour</translation>
+    </message>
+    <message>
+        <source>Every year</source>
+        <translation>Tous les ans</translation>
+    </message>
+</context>
+<context>
+    <name>RepeatInput</name>
+    <message>
+        <source>Please tick a weekday.</source>
+        <translation>Veuillez cocher un jour de la semaine.</translation>
+    </message>
+    <message>
+        <source>The last day should not be earlier than the due date.</source>
+        <translation>Le dernier jour ne doit pas être antérieur à la date d’échéance.</translation>
+    </message>
+</context>
+<context>
+    <name>RepeatRules</name>
+    <message>
+        <source>Repeating tasks cannot go on: the module &quot;ambertask_repeats&quot; is missing from the program&apos;s folder or damaged.</source>
+        <translation>Les répétitions des tâches ne peuvent pas se poursuivre&#xa0;: le module «&#xa0;ambertask_repeats&#xa0;» est absent du dossier du programme ou endommagé.</translation>
+    </message>
+</context>
+<context>
+    <name>RepeatTexts</name>
+    <message>
+        <source>%1 until %2</source>
+        <extracomment>%1 is how something repeats, as in &quot;every week on Tuesday&quot;, and %2 the last day</extracomment>
+        <translation>%1 jusqu’au %2</translation>
+    </message>
+    <message>
+        <source>%1, once</source>
+        <extracomment>%1 is how something repeats, as in &quot;every week on Tuesday&quot;</extracomment>
+        <translation>%1, une fois</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %n times</source>
+        <translation>
+            <numerusform>%1, %n fois</numerusform>
+            <numerusform>%1, %n fois</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>by a rule of another program</source>
+        <translation>selon une règle d’un autre programme</translation>
+    </message>
+    <message>
+        <source>every day</source>
+        <translation>tous les jours</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n days</source>
+        <translation>
+            <numerusform>tous les %n jours</numerusform>
+            <numerusform>tous les %n jours</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>d MMMM</source>
+        <extracomment>Day and month of a date, in the format of QLocale: &quot;d. MMMM&quot;, &quot;MMMM d&quot;, &quot;d &apos;de&apos; MMMM&quot;</extracomment>
+        <translation>d MMMM</translation>
+    </message>
+    <message>
+        <source>every year on %1</source>
+        <extracomment>%1 is a day and a month</extracomment>
+        <translation>tous les ans le %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n years on %1</source>
+        <translation>
+            <numerusform>tous les %n ans le %1</numerusform>
+            <numerusform>tous les %n ans le %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every weekday</source>
+        <extracomment>on each day of the working week, as from Monday to Friday</extracomment>
+        <translation>tous les jours ouvrés</translation>
+    </message>
+    <message>
+        <source>every week on %1</source>
+        <extracomment>%1 is a weekday or several: &quot;Monday and Thursday&quot;</extracomment>
+        <translation>toutes les semaines le %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n weeks on %1</source>
+        <translation>
+            <numerusform>toutes les %n semaines le %1</numerusform>
+            <numerusform>toutes les %n semaines le %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every month on day %1</source>
+        <extracomment>%1 is the number of a day</extracomment>
+        <translation>tous les mois le %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n months on day %1</source>
+        <translation>
+            <numerusform>tous les %n mois le %1</numerusform>
+            <numerusform>tous les %n mois le %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every month on the last day</source>
+        <translation>tous les mois le dernier jour</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n months on the last day</source>
+        <translation>
+            <numerusform>tous les %n mois le dernier jour</numerusform>
+            <numerusform>tous les %n mois le dernier jour</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every month on the first %1</source>
+        <extracomment>%1 is a weekday</extracomment>
+        <translation>tous les mois le premier %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n months on the first %1</source>
+        <translation>
+            <numerusform>tous les %n mois le premier %1</numerusform>
+            <numerusform>tous les %n mois le premier %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every month on the second %1</source>
+        <extracomment>%1 is a weekday</extracomment>
+        <translation>tous les mois le deuxième %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n months on the second %1</source>
+        <translation>
+            <numerusform>tous les %n mois le deuxième %1</numerusform>
+            <numerusform>tous les %n mois le deuxième %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every month on the third %1</source>
+        <extracomment>%1 is a weekday</extracomment>
+        <translation>tous les mois le troisième %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n months on the third %1</source>
+        <translation>
+            <numerusform>tous les %n mois le troisième %1</numerusform>
+            <numerusform>tous les %n mois le troisième %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every month on the fourth %1</source>
+        <extracomment>%1 is a weekday</extracomment>
+        <translation>tous les mois le quatrième %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n months on the fourth %1</source>
+        <translation>
+            <numerusform>tous les %n mois le quatrième %1</numerusform>
+            <numerusform>tous les %n mois le quatrième %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every month on the last %1</source>
+        <extracomment>%1 is a weekday</extracomment>
+        <translation>tous les mois le dernier %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n months on the last %1</source>
+        <translation>
+            <numerusform>tous les %n mois le dernier %1</numerusform>
+            <numerusform>tous les %n mois le dernier %1</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2118,6 +2360,20 @@ La fenêtre montre ce que l’importation ferait maintenant.</translation>
         <source>&amp;Low</source>
         <translation>&amp;Basse</translation>
     </message>
+    <message>
+        <source>This task repeats. Do you want to delete it this time, or all times?</source>
+        <translation>Cette tâche se répète. Voulez-vous supprimer uniquement cette occurrence ou toutes les occurrences&#x202f;?</translation>
+    </message>
+    <message>
+        <source>These tasks repeat. Do you want to delete them this time, or all times?</source>
+        <translation>Ces tâches se répètent. Voulez-vous supprimer pour chacune uniquement cette occurrence ou toutes les occurrences&#x202f;?</translation>
+    </message>
+    <message>
+        <source>Some of the tasks repeat. Do you want to delete those this time, or all times?
+The others are deleted.</source>
+        <translation>Certaines des tâches se répètent. Voulez-vous supprimer pour chacune d’elles uniquement cette occurrence ou toutes les occurrences&#x202f;?
+Les autres tâches seront supprimées.</translation>
+    </message>
 </context>
 <context>
     <name>TaskFilters</name>
@@ -2281,6 +2537,10 @@ La fenêtre montre ce que l’importation ferait maintenant.</translation>
     <message>
         <source>Category: %1</source>
         <translation>Catégorie&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Repeats %1</source>
+        <translation>Se répète %1</translation>
     </message>
 </context>
 <context>
@@ -2617,6 +2877,10 @@ La fenêtre montre ce que l’importation ferait maintenant.</translation>
 %1</source>
         <translation>Les tâches n’ont pas pu être enregistrées.
 %1</translation>
+    </message>
+    <message>
+        <source>Repeats %1</source>
+        <translation>Se répète %1</translation>
     </message>
 </context>
 <context>
@@ -2985,6 +3249,138 @@ La fenêtre montre ce que l’importation ferait maintenant.</translation>
     </message>
 </context>
 <context>
+    <name>frmRepeat</name>
+    <message>
+        <source>Repeat</source>
+        <translation>Répétition</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>%1 is a weekday, %2 a date and a time</extracomment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>Jours</translation>
+    </message>
+    <message>
+        <source>Weeks</source>
+        <translation>Semaines</translation>
+    </message>
+    <message>
+        <source>Months</source>
+        <translation>Mois</translation>
+    </message>
+    <message>
+        <source>Years</source>
+        <translation>Années</translation>
+    </message>
+    <message>
+        <source>The same day</source>
+        <translation>Le même jour</translation>
+    </message>
+    <message>
+        <source>The last day</source>
+        <translation>Le dernier jour</translation>
+    </message>
+    <message>
+        <source>The same weekday</source>
+        <translation>Le même jour de la semaine</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Jamais</translation>
+    </message>
+    <message>
+        <source>On a date</source>
+        <translation>À une date</translation>
+    </message>
+    <message>
+        <source>After a number of times</source>
+        <translation>Après un nombre d’occurrences</translation>
+    </message>
+    <message>
+        <source>On these &amp;weekdays</source>
+        <translation>Ces &amp;jours de la semaine</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>C&amp;ancel</source>
+        <translation>A&amp;nnuler</translation>
+    </message>
+    <message>
+        <source>Repeat every so many</source>
+        <translation>Intervalle de répétition</translation>
+    </message>
+    <message>
+        <source>Days, weeks, months or years</source>
+        <translation>Jours, semaines, mois ou années</translation>
+    </message>
+    <message>
+        <source>On these weekdays</source>
+        <translation>Ces jours de la semaine</translation>
+    </message>
+    <message>
+        <source>Day of the month</source>
+        <translation>Jour du mois</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Fin</translation>
+    </message>
+    <message>
+        <source>Last day</source>
+        <translation>Dernier jour</translation>
+    </message>
+    <message>
+        <source>Number of times</source>
+        <translation>Nombre d’occurrences</translation>
+    </message>
+    <message>
+        <source>Next due moments</source>
+        <translation>Prochaines échéances</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Repeat &amp;every:</source>
+        <translation>Inter&amp;valle&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Unit:</source>
+        <translation>&amp;Unité&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Day of the &amp;month:</source>
+        <translation>Jour du &amp;mois&#xa0;:</translation>
+    </message>
+    <message>
+        <source>E&amp;nd:</source>
+        <translation>&amp;Fin&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Last day:</source>
+        <translation>&amp;Dernier jour&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Times:</source>
+        <translation>Occu&amp;rrences&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt due moments:</source>
+        <translation>&amp;Prochaines échéances&#xa0;:</translation>
+    </message>
+</context>
+<context>
     <name>frmTaskDetails</name>
     <message>
         <source>Task Details</source>
@@ -3165,6 +3561,14 @@ La fenêtre montre ce que l’importation ferait maintenant.</translation>
     <message>
         <source>Switches the reminder on; it follows the due moment until it is changed</source>
         <translation>Active le rappel, qui suit l’échéance jusqu’à ce qu’il soit modifié</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>Fréquence de répétition</translation>
+    </message>
+    <message>
+        <source>Repeat tas&amp;k:</source>
+        <translation>Fré&amp;quence&#xa0;:</translation>
     </message>
 </context>
 <context>

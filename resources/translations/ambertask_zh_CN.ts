@@ -42,6 +42,10 @@
         <source>Category: %1</source>
         <translation>类别：%1</translation>
     </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
 </context>
 <context>
     <name>Cancelled</name>
@@ -272,6 +276,16 @@
     <message>
         <source>%1. %2</source>
         <translation>%1。%2</translation>
+    </message>
+    <message>
+        <source>1 task moved on to its next time</source>
+        <translation>已将 1 个任务移到下一次</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks deleted this time</source>
+        <translation>
+            <numerusform>已删除 %n 个任务的这一次</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1079,8 +1093,8 @@
     <message>
         <source>Nothing was imported yet: the tasks or the file have been changed meanwhile.
 The window shows what the import would do now.</source>
-        <translation>尚未导入任何内容：任务或文件在此期间已被更改。
-窗口显示现在导入会做什么。</translation>
+        <translation>尚未导入任何内容：任务或文件在此期间已更改。
+窗口中显示的是现在导入将会进行的更改。</translation>
     </message>
 </context>
 <context>
@@ -1214,6 +1228,12 @@ The window shows what the import would do now.</source>
         <source>%n days late</source>
         <translation>
             <numerusform>已逾期 %n 天</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n times since %1</source>
+        <translation>
+            <numerusform>自%1起共 %n 次</numerusform>
         </translation>
     </message>
 </context>
@@ -1391,6 +1411,14 @@ The window shows what the import would do now.</source>
     <message>
         <source>&amp;Cancel</source>
         <translation>取消(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;This Time</source>
+        <translation>这一次(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;All Times</source>
+        <translation>每一次(&amp;A)</translation>
     </message>
 </context>
 <context>
@@ -1631,6 +1659,207 @@ The window shows what the import would do now.</source>
     <message>
         <source>The value of column &quot;%1&quot; is empty.</source>
         <translation>列“%1”的值为空文本。</translation>
+    </message>
+</context>
+<context>
+    <name>RepeatByHand</name>
+    <message>
+        <source>Custom ...</source>
+        <translation>自定义…</translation>
+    </message>
+</context>
+<context>
+    <name>RepeatChoices</name>
+    <message>
+        <source>Never</source>
+        <translation>不重复</translation>
+    </message>
+    <message>
+        <source>Every day</source>
+        <translation>每天</translation>
+    </message>
+    <message>
+        <source>Every weekday</source>
+        <translation>每个工作日</translation>
+    </message>
+    <message>
+        <source>Every week</source>
+        <translation>每周</translation>
+    </message>
+    <message>
+        <source>Every 2 weeks</source>
+        <translation>每 2 周</translation>
+    </message>
+    <message>
+        <source>Every month on the same day</source>
+        <translation>每月同一天</translation>
+    </message>
+    <message>
+        <source>Every month on the last day</source>
+        <translation>每月最后一天</translation>
+    </message>
+    <message>
+        <source>Every year</source>
+        <translation>每年</translation>
+    </message>
+</context>
+<context>
+    <name>RepeatInput</name>
+    <message>
+        <source>Please tick a weekday.</source>
+        <translation>请勾选星期几。</translation>
+    </message>
+    <message>
+        <source>The last day should not be earlier than the due date.</source>
+        <translation>最后一天不能早于截止日期。</translation>
+    </message>
+</context>
+<context>
+    <name>RepeatRules</name>
+    <message>
+        <source>Repeating tasks cannot go on: the module &quot;ambertask_repeats&quot; is missing from the program&apos;s folder or damaged.</source>
+        <translation>重复的任务无法继续：程序文件夹中缺少模块“ambertask_repeats”，或该模块已损坏。</translation>
+    </message>
+</context>
+<context>
+    <name>RepeatTexts</name>
+    <message>
+        <source>%1 until %2</source>
+        <extracomment>%1 is how something repeats, as in &quot;every week on Tuesday&quot;, and %2 the last day</extracomment>
+        <translation>%1，直到 %2</translation>
+    </message>
+    <message>
+        <source>%1, once</source>
+        <extracomment>%1 is how something repeats, as in &quot;every week on Tuesday&quot;</extracomment>
+        <translation>%1，共 1 次</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %n times</source>
+        <translation>
+            <numerusform>%1，共 %n 次</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>by a rule of another program</source>
+        <translation>按其他程序的规则</translation>
+    </message>
+    <message>
+        <source>every day</source>
+        <translation>每天</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n days</source>
+        <translation>
+            <numerusform>每 %n 天</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>d MMMM</source>
+        <extracomment>Day and month of a date, in the format of QLocale: &quot;d. MMMM&quot;, &quot;MMMM d&quot;, &quot;d &apos;de&apos; MMMM&quot;</extracomment>
+        <translation>M月d日</translation>
+    </message>
+    <message>
+        <source>every year on %1</source>
+        <extracomment>%1 is a day and a month</extracomment>
+        <translation>每年%1</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n years on %1</source>
+        <translation>
+            <numerusform>每 %n 年的%1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every weekday</source>
+        <extracomment>on each day of the working week, as from Monday to Friday</extracomment>
+        <translation>每个工作日</translation>
+    </message>
+    <message>
+        <source>every week on %1</source>
+        <extracomment>%1 is a weekday or several: &quot;Monday and Thursday&quot;</extracomment>
+        <translation>每周%1</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n weeks on %1</source>
+        <translation>
+            <numerusform>每 %n 周的%1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every month on day %1</source>
+        <extracomment>%1 is the number of a day</extracomment>
+        <translation>每月 %1 日</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n months on day %1</source>
+        <translation>
+            <numerusform>每 %n 个月的 %1 日</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every month on the last day</source>
+        <translation>每月最后一天</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n months on the last day</source>
+        <translation>
+            <numerusform>每 %n 个月的最后一天</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every month on the first %1</source>
+        <extracomment>%1 is a weekday</extracomment>
+        <translation>每月第一个%1</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n months on the first %1</source>
+        <translation>
+            <numerusform>每 %n 个月的第一个%1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every month on the second %1</source>
+        <extracomment>%1 is a weekday</extracomment>
+        <translation>每月第二个%1</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n months on the second %1</source>
+        <translation>
+            <numerusform>每 %n 个月的第二个%1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every month on the third %1</source>
+        <extracomment>%1 is a weekday</extracomment>
+        <translation>每月第三个%1</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n months on the third %1</source>
+        <translation>
+            <numerusform>每 %n 个月的第三个%1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every month on the fourth %1</source>
+        <extracomment>%1 is a weekday</extracomment>
+        <translation>每月第四个%1</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n months on the fourth %1</source>
+        <translation>
+            <numerusform>每 %n 个月的第四个%1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>every month on the last %1</source>
+        <extracomment>%1 is a weekday</extracomment>
+        <translation>每月最后一个%1</translation>
+    </message>
+    <message numerus="yes">
+        <source>every %n months on the last %1</source>
+        <translation>
+            <numerusform>每 %n 个月的最后一个%1</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2081,6 +2310,20 @@ The window shows what the import would do now.</source>
         <source>&amp;Low</source>
         <translation>低(&amp;L)</translation>
     </message>
+    <message>
+        <source>This task repeats. Do you want to delete it this time, or all times?</source>
+        <translation>此任务会重复。要只删除这一次，还是删除每一次？</translation>
+    </message>
+    <message>
+        <source>These tasks repeat. Do you want to delete them this time, or all times?</source>
+        <translation>这些任务会重复。要只删除它们的这一次，还是删除每一次？</translation>
+    </message>
+    <message>
+        <source>Some of the tasks repeat. Do you want to delete those this time, or all times?
+The others are deleted.</source>
+        <translation>其中一些任务会重复。要只删除它们的这一次，还是删除每一次？
+其余任务会被删除。</translation>
+    </message>
 </context>
 <context>
     <name>TaskFilters</name>
@@ -2244,6 +2487,10 @@ The window shows what the import would do now.</source>
     <message>
         <source>Category: %1</source>
         <translation>类别：%1</translation>
+    </message>
+    <message>
+        <source>Repeats %1</source>
+        <translation>重复：%1</translation>
     </message>
 </context>
 <context>
@@ -2577,6 +2824,10 @@ The window shows what the import would do now.</source>
 %1</source>
         <translation>无法保存任务。
 %1</translation>
+    </message>
+    <message>
+        <source>Repeats %1</source>
+        <translation>重复：%1</translation>
     </message>
 </context>
 <context>
@@ -2944,6 +3195,138 @@ The window shows what the import would do now.</source>
     </message>
 </context>
 <context>
+    <name>frmRepeat</name>
+    <message>
+        <source>Repeat</source>
+        <translation>重复</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>%1 is a weekday, %2 a date and a time</extracomment>
+        <translation>%1，%2</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>天</translation>
+    </message>
+    <message>
+        <source>Weeks</source>
+        <translation>周</translation>
+    </message>
+    <message>
+        <source>Months</source>
+        <translation>月</translation>
+    </message>
+    <message>
+        <source>Years</source>
+        <translation>年</translation>
+    </message>
+    <message>
+        <source>The same day</source>
+        <translation>同一天</translation>
+    </message>
+    <message>
+        <source>The last day</source>
+        <translation>最后一天</translation>
+    </message>
+    <message>
+        <source>The same weekday</source>
+        <translation>同一个星期几</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>永不</translation>
+    </message>
+    <message>
+        <source>On a date</source>
+        <translation>在指定日期</translation>
+    </message>
+    <message>
+        <source>After a number of times</source>
+        <translation>达到指定次数后</translation>
+    </message>
+    <message>
+        <source>On these &amp;weekdays</source>
+        <translation>在以下星期几(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>确定(&amp;O)</translation>
+    </message>
+    <message>
+        <source>C&amp;ancel</source>
+        <translation>取消(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Repeat every so many</source>
+        <translation>重复间隔</translation>
+    </message>
+    <message>
+        <source>Days, weeks, months or years</source>
+        <translation>天、周、月或年</translation>
+    </message>
+    <message>
+        <source>On these weekdays</source>
+        <translation>在以下星期几</translation>
+    </message>
+    <message>
+        <source>Day of the month</source>
+        <translation>每月日期</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>结束</translation>
+    </message>
+    <message>
+        <source>Last day</source>
+        <translation>最后一天</translation>
+    </message>
+    <message>
+        <source>Number of times</source>
+        <translation>次数</translation>
+    </message>
+    <message>
+        <source>Next due moments</source>
+        <translation>接下来的到期时间</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Repeat &amp;every:</source>
+        <translation>重复间隔(&amp;E)：</translation>
+    </message>
+    <message>
+        <source>&amp;Unit:</source>
+        <translation>单位(&amp;U)：</translation>
+    </message>
+    <message>
+        <source>Day of the &amp;month:</source>
+        <translation>每月日期(&amp;M)：</translation>
+    </message>
+    <message>
+        <source>E&amp;nd:</source>
+        <translation>结束(&amp;N)：</translation>
+    </message>
+    <message>
+        <source>&amp;Last day:</source>
+        <translation>最后一天(&amp;L)：</translation>
+    </message>
+    <message>
+        <source>&amp;Times:</source>
+        <translation>次数(&amp;T)：</translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt due moments:</source>
+        <translation>接下来的到期时间(&amp;X)：</translation>
+    </message>
+</context>
+<context>
     <name>frmTaskDetails</name>
     <message>
         <source>Task Details</source>
@@ -3124,6 +3507,14 @@ The window shows what the import would do now.</source>
     <message>
         <source>Switches the reminder on; it follows the due moment until it is changed</source>
         <translation>开启提醒；在更改提醒之前，它随到期时间变动</translation>
+    </message>
+    <message>
+        <source>Repeat</source>
+        <translation>重复</translation>
+    </message>
+    <message>
+        <source>Repeat tas&amp;k:</source>
+        <translation>重复任务(&amp;K)：</translation>
     </message>
 </context>
 <context>

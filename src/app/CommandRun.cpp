@@ -263,6 +263,7 @@ CommandRun::Status CommandRun::importTasks(const CommandLine& line)
     if (line.yes && hasProgramFolder()) {
         bringUp(engine);
     }
+    m_repeating.setUsed(somethingRepeats(engine));
     const std::unique_ptr<Exchange> exchange = m_around.exchange();
     ImportPlan plan = planOf(line, *exchange, engine);
     plan.takePrograms(line.withPrograms);
@@ -352,7 +353,9 @@ bool CommandRun::hasProgramFolder() const
 
 DatabaseEngine CommandRun::engineOn(const QString& folder)
 {
-    return {folder, &m_around.clock, nullptr, nullptr, &m_dataFileIsSound};
+    DatabaseEngine engine{folder, &m_around.clock, nullptr, nullptr, &m_dataFileIsSound};
+    engine.repeating = &m_repeating;
+    return engine;
 }
 
 DatabaseEngine CommandRun::engineOfTheUser()
@@ -385,11 +388,14 @@ int runCommand(const CommandLine& line, int argc, char** argv, const Installatio
     Language language;
     language.speakAsTheSystem();
     const SystemClock clock;
-    Modules modules(installation.moduleFolder, {QLatin1String(ExchangeModule)});
+    Modules modules(installation.moduleFolder, {QLatin1String(ExchangeModule), QLatin1String(RepeatModule)});
     OutputStream output;
     QFile errors;
     errors.open(stderr, QIODevice::WriteOnly | QIODevice::Unbuffered);
     return CommandRun(
-        {installation, programFolder, clock, [&modules] { return loadExchange(modules); }, output, errors})
+        {installation, programFolder, clock, [&modules] { return loadExchange(modules); }, output, errors,
+            [&modules] {
+                return loadRepeatRules(modules);
+            }})
         .run(line);
 }

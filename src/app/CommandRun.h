@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/CommandLine.h"
+#include "data/RepeatRules.h"
 #include "store/DatabaseEngine.h"
 #include "system/Installation.h"
 
@@ -22,10 +23,14 @@ public:
         ExchangeFactory exchange;
         OutputStream& output;
         QIODevice& errors; ///< takes sentences for the user
+        Repeating::Load repeatRules = {};
     };
     enum Status { Done = 0, Failed = 1, WrongUsage = 2 };
 
-    explicit CommandRun(Surroundings surroundings) : m_around(std::move(surroundings)) { }
+    explicit CommandRun(Surroundings surroundings)
+        : m_around(std::move(surroundings)), m_repeating(m_around.repeatRules)
+    {
+    }
 
     /// Runs a command other than Start. Fails without a sentence when nobody reads the output any more.
     Status run(const CommandLine& line);
@@ -46,6 +51,7 @@ private:
     void complain(const QString& text);
 
     Surroundings m_around;
+    Repeating m_repeating;
     /// Of a damaged file nothing is written over.
     bool m_dataFileIsSound = false;
 };

@@ -15,6 +15,7 @@ constexpr std::array pictureNames{"00-home", "01-work", "02-shopping", "03-calen
     "17-status-in-progress", "18-priority-normal", "19-priority-high", "20-priority-low"};
 
 constexpr std::array pictureSizes{16, 24, 32, 48, 64, 96};
+constexpr std::array listSizes{16, 24, 32, 48};
 constexpr std::array programSizes{16, 22, 24, 32, 48, 64, 128, 256};
 constexpr std::array windowSizes{16, 24, 32, 48, 64, 128};
 constexpr std::array logoSizes{24, 32, 48, 96};
@@ -30,6 +31,12 @@ void appendFixedPictures(ImageList& images)
     for (const char* name : pictureNames) {
         images.append(sizedIcon({QLatin1String(":/image-list"), QLatin1String(name), pictureSizes}));
     }
+}
+
+QIcon repeatingIcon(bool withReminder)
+{
+    return sizedIcon({QLatin1String(":/list"),
+        withReminder ? QLatin1String("reminder-repeating") : QLatin1String("repeating"), listSizes});
 }
 
 QIcon programIcon()

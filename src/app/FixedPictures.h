@@ -8,6 +8,9 @@ class ImageList;
 /// and three priorities (indexes 0 to 20).
 void appendFixedPictures(ImageList& images);
 
+/// The sign of a task that repeats, with the bell of its reminder where that is on.
+QIcon repeatingIcon(bool withReminder);
+
 /// The program's own icon, in all sizes.
 QIcon programIcon();
 

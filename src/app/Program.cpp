@@ -54,7 +54,7 @@ private:
 } // namespace
 
 Program::Program(const Machine& machine)
-    : m_machine(machine), m_engine(machine.engine),
+    : m_machine(machine), m_repeating(machine.repeatRules), m_engine(machine.engine),
       m_dayCopy(m_engine, [this](const QString& why) { tellNoCopy(why); }),
       m_files(machine.engine.programFolder, machine.shippedFolder),
       m_undo(m_engine), m_services{m_engine, *machine.engine.clock, machine.messages, machine.fileDialogs,
@@ -65,6 +65,7 @@ Program::Program(const Machine& machine)
     m_engine.unreadable = &m_unreadable;
     m_engine.foreign = &m_foreign;
     m_engine.copies = &m_dayCopy;
+    m_engine.repeating = &m_repeating;
     appendFixedPictures(m_images);
 }
 
@@ -72,7 +73,9 @@ Program::~Program() = default;
 
 void Program::start(const std::function<bool()>& noteFirstStart)
 {
-    const DataFileCopies dataFile(m_machine.engine);
+    DatabaseEngine engine = m_machine.engine;
+    engine.repeating = &m_repeating;
+    const DataFileCopies dataFile(engine);
     dataFile.keepPrivate();
     dataFile.leaveWriteAheadMode();
     dataFile.bringUp();

@@ -2,6 +2,7 @@
 
 #include "app/frmMain.h"
 #include "data/DayCopy.h"
+#include "data/RepeatRules.h"
 #include "data/SettingsRecord.h"
 #include "data/UndoHistory.h"
 #include "data/UnreadableRecords.h"
@@ -56,6 +57,8 @@ struct Machine {
     QString shippedFolder = {};
     /// The file for what the user has arranged in the main window; empty to keep nothing.
     QString stateFile = {};
+    /// Loads the rules of tasks that repeat.
+    Repeating::Load repeatRules = {};
 };
 
 /// The program: the one instance of each form and of what they share, and their connections. Interface
@@ -160,8 +163,9 @@ private:
     Machine m_machine;
     UnreadableRecords m_unreadable;
     ForeignChanges m_foreign;
-    /// A copy of the machine's, with the listener for unreadable records, the keeper of copies and the watch
-    /// for changes of others.
+    Repeating m_repeating;
+    /// A copy of the machine's, with the listener for unreadable records, the keeper of copies, the watch for
+    /// changes of others and what repeats.
     DatabaseEngine m_engine;
     DayCopy m_dayCopy;
     ProgramFiles m_files;

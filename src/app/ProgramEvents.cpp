@@ -5,6 +5,7 @@
 #include "app/drTasks.h"
 #include "categories/CategoriesPage.h"
 #include "categories/frmCategoryDetails.h"
+#include "data/DataFileRoad.h"
 #include "exchange/window/FileExchange.h"
 #include "reminders/frmAlerts.h"
 #include "settings/MaintenancePage.h"
@@ -166,6 +167,7 @@ void Program::followOthers()
     }
     const quint32 seen = m_foreign.latest();
     try {
+        m_repeating.setUsed(somethingRepeats(m_engine));
         m_main->LoadCategories();
         reloadCategoryCombos();
         {

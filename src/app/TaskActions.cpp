@@ -161,7 +161,8 @@ TaskChoices TaskActions::choices() const
     QList<TaskState> selected;
     for (const int row : m_grid.selectedRows()) {
         const ClsTask& task = m_model.taskAt(row);
-        selected.append({task.Id(), task.status(), task.Periority(), task.CategoryId(), task.ReminderOn()});
+        selected.append({task.Id(), task.status(), task.Periority(), task.CategoryId(), task.ReminderOn(),
+            m_model.repeats(row)});
     }
     return TaskChoices(selected);
 }
@@ -181,6 +182,11 @@ void TaskActions::change(const QList<qint32>& ids, const QString& done, const Ch
 void TaskActions::remove(const TaskChoices& tasks)
 {
     change(tasks.ids(), ChangeTexts::deleted(tasks.count()), TaskChanges::remove);
+}
+
+void TaskActions::moveOn(const TaskChoices& tasks)
+{
+    change(tasks.ids(), ChangeTexts::movedOn(tasks.count()), TaskChanges::moveOn);
 }
 
 void TaskActions::mnuListComplete_Click()

@@ -27,6 +27,8 @@ public:
     /// What can be done with the tasks that are selected now.
     TaskChoices choices() const;
     void remove(const TaskChoices& tasks);
+    /// Deletes this time of those that repeat, and the others.
+    void moveOn(const TaskChoices& tasks);
 
 signals:
     void editRequested();

@@ -34,8 +34,24 @@ QString TaskChoices::completeCaption() const
     return areAllCompleted() ? tr("Set Ba&ck to \"Not Started\"") : tr("&Complete");
 }
 
+int TaskChoices::repeatingCount() const
+{
+    return static_cast<int>(
+        std::count_if(m_tasks.begin(), m_tasks.end(), [](const TaskState& task) { return task.repeats; }));
+}
+
 QString TaskChoices::deleteQuestion() const
 {
+    const int repeating = repeatingCount();
+    if (repeating > 0 && count() == 1) {
+        return tr("This task repeats. Do you want to delete it this time, or all times?");
+    }
+    if (repeating > 0) {
+        return repeating == count()
+            ? tr("These tasks repeat. Do you want to delete them this time, or all times?")
+            : tr("Some of the tasks repeat. Do you want to delete those this time, or all times?\n"
+                 "The others are deleted.");
+    }
     return count() == 1 ? tr("Are you sure you want to delete this task?")
                         : tr("Are you sure you want to delete %n tasks?", nullptr, count());
 }

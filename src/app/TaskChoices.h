@@ -11,6 +11,7 @@ struct TaskState {
     qint32 periority = 0;
     qint16 category = 0;
     bool reminderOn = false;
+    bool repeats = false;
 };
 
 /// What can be done with the selected tasks.
@@ -34,6 +35,8 @@ public:
     std::optional<qint32> commonCategory() const { return common(&TaskState::category); }
     /// The caption of the entry that completes them or sets them back.
     QString completeCaption() const;
+    int repeatingCount() const;
+    /// For tasks of which one repeats it asks whether this time is meant or all.
     QString deleteQuestion() const;
     /// The captions of the entries that give tasks a status or a priority, with their mnemonics.
     static QString statusCaption(qint32 status);

@@ -1,8 +1,10 @@
 #include "app/TaskListModel.h"
 
+#include "app/FixedPictures.h"
 #include "data/TaskCodes.h"
 #include "widgets/MomentTexts.h"
 #include "widgets/PlainText.h"
+#include "widgets/RepeatTexts.h"
 #include "widgets/TaskPictures.h"
 
 #include <algorithm>
@@ -70,10 +72,16 @@ TaskListModel::TaskListModel(const Clock& clock, QObject* parent)
 {
 }
 
-void TaskListModel::setTasks(std::vector<ClsTask> tasks, const TaskColumns& shown)
+void TaskListModel::setTasks(
+    std::vector<ClsTask> tasks, const TaskColumns& shown, std::map<qint32, Repeat> repeats)
 {
     beginResetModel();
     m_tasks = std::move(tasks);
+    m_repeats = std::move(repeats);
+    if (!m_repeats.empty() && m_repeating.isNull()) {
+        m_repeating = repeatingIcon(false);
+        m_reminderRepeating = repeatingIcon(true);
+    }
     m_shown.reset();
     standNow();
     m_search.listReplaced();
@@ -144,6 +152,14 @@ int TaskListModel::cellIcon(int row, int field) const
     }
 }
 
+QVariant TaskListModel::cellPicture(int row, int field) const
+{
+    if (field == Reminder && repeats(row)) {
+        return taskAt(row).ReminderOn() ? m_reminderRepeating : m_repeating;
+    }
+    return TaskGridModel::cellPicture(row, field);
+}
+
 QString TaskListModel::cellWord(int row, int field) const
 {
     const ClsTask& task = taskAt(row);
@@ -165,6 +181,10 @@ QString TaskListModel::cellNote(int row, int field) const
     if (field == Name && m_categoryName) {
         const QString category = m_categoryName(taskAt(row).CategoryId());
         notes.append(category.isEmpty() ? QString() : tr("Category: %1").arg(category));
+    }
+    if (const auto repeat = m_repeats.find(idAt(row));
+        repeat != m_repeats.end() && (field == Name || field == Reminder)) {
+        notes.append(tr("Repeats %1").arg(repeatText(repeat->second.rule, repeat->second.first)));
     }
     notes.removeAll(QString());
     return notes.join(u'\n');

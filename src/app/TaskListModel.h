@@ -2,9 +2,11 @@
 
 #include "app/TaskSearch.h"
 #include "data/ClsTask.h"
+#include "data/RepeatRules.h"
 #include "widgets/TaskGridModel.h"
 
 #include <functional>
+#include <map>
 #include <optional>
 #include <vector>
 
@@ -38,14 +40,17 @@ public:
 
     /// Sets how a category's name is found, empty for an unknown one; called when a cell is looked at.
     void setCategoryNames(std::function<QString(qint16 id)> nameOf) { m_categoryName = std::move(nameOf); }
-    /// Replaces all tasks and columns; what is looked for stays.
-    void setTasks(std::vector<ClsTask> tasks, const TaskColumns& shown);
+    /// Replaces all tasks and columns; what is looked for stays. `repeats` are those of tasks by their ids,
+    /// listed or not.
+    void setTasks(
+        std::vector<ClsTask> tasks, const TaskColumns& shown, std::map<qint32, Repeat> repeats = {});
     /// Removes one row; the others keep their order.
     void removeTask(int row);
     /// The row of a task; -1 when no row shows it.
     int rowOf(qint32 id) const;
     const ClsTask& taskAt(int row) const { return m_tasks[static_cast<std::size_t>(taskOf(row))]; }
     qint32 idAt(int row) const override { return taskAt(row).Id(); }
+    bool repeats(int row) const { return m_repeats.contains(idAt(row)); }
 
     /// Makes ready for a search, a part at a call that takes some milliseconds. Whether there is more to do.
     bool prepareSearch() { return m_search.prepare(m_tasks, 1000); }
@@ -72,6 +77,7 @@ public:
 protected:
     QString cellText(int row, int field) const override;
     int cellIcon(int row, int field) const override;
+    QVariant cellPicture(int row, int field) const override;
     QString cellWord(int row, int field) const override;
     QString cellNote(int row, int field) const override;
     qint32 statusAt(int row) const override { return taskAt(row).status(); }
@@ -87,6 +93,9 @@ private:
     void putInOrder(std::vector<int> order);
 
     std::vector<ClsTask> m_tasks;
+    std::map<qint32, Repeat> m_repeats;
+    QIcon m_repeating; ///< made when something repeats, as is the next one
+    QIcon m_reminderRepeating;
     TaskSearch m_search;
     /// The tasks of the rows, as places in m_tasks; none while every task has its row.
     std::optional<std::vector<int>> m_shown;

@@ -4,6 +4,8 @@
 #include "app/TaskActions.h"
 #include "app/TaskFilters.h"
 #include "app/UndoBar.h"
+#include "data/TaskChanges.h"
+#include "data/TaskRepeats.h"
 #include "data/UndoHistory.h"
 #include "system/Clock.h"
 #include "system/ErrorReport.h"
@@ -140,10 +142,11 @@ void TasksPage::LoadTasks()
     // Read before the list is cleared: a store that cannot be read must not look like an empty one.
     const TaskFilter shown = filter();
     std::vector<ClsTask> tasks = shown.tasks(m_services.engine);
+    std::map<qint32, Repeat> repeats = TaskRepeats::all(m_services.engine);
     const int row = m_grid->currentIndex().row();
     const std::optional<qint32> current = row < 0 ? std::nullopt : std::optional(m_model->idAt(row));
     m_model->setImageList(&m_services.imgLstCategories);
-    m_model->setTasks(std::move(tasks), m_shownColumns());
+    m_model->setTasks(std::move(tasks), m_shownColumns(), std::move(repeats));
     m_grid->showSort(
         TaskListModel::fieldOf(shown.sortBy), shown.isDescending ? Qt::DescendingOrder : Qt::AscendingOrder);
     m_isBehind = false;
@@ -308,7 +311,14 @@ void TasksPage::btnTaskPrint_Click()
 void TasksPage::btnTaskDelete_Click()
 {
     const TaskChoices tasks = m_actions->choices();
-    if (tasks.isEmpty() || !m_services.messages.ask(this, tasks.deleteQuestion())) {
+    if (tasks.isEmpty()) {
+        return;
+    }
+    if (tasks.repeatingCount() > 0) {
+        deleteRepeating(tasks);
+        return;
+    }
+    if (!m_services.messages.ask(this, tasks.deleteQuestion())) {
         return;
     }
     if (tasks.count() > 1) {
@@ -325,5 +335,19 @@ void TasksPage::btnTaskDelete_Click()
     if (const int row = m_model->rowOf(id); row >= 0) {
         m_model->removeTask(row);
         m_grid->selectOnly(qMin(row, m_model->rowCount() - 1));
+    }
+}
+
+void TasksPage::deleteRepeating(const TaskChoices& tasks)
+{
+    switch (m_services.messages.askWhichTimes(this, tasks.deleteQuestion())) {
+    case MessageBoxes::Times::This:
+        m_actions->moveOn(tasks);
+        break;
+    case MessageBoxes::Times::All:
+        m_actions->remove(tasks);
+        break;
+    case MessageBoxes::Times::None:
+        break;
     }
 }

@@ -14,6 +14,7 @@ class QBoxLayout;
 class QPushButton;
 class QuietLine;
 class TaskActions;
+class TaskChoices;
 class TaskFilters;
 class UndoBar;
 
@@ -89,6 +90,7 @@ private:
     void btnTaskAdd_Click();
     void btnTaskEdit_Click();
     void btnTaskDelete_Click();
+    void deleteRepeating(const TaskChoices& tasks);
     void btnTaskPrint_Click();
     void filters_Changed();
     void showChanged(const QList<qint32>& ids);

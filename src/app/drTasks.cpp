@@ -3,6 +3,7 @@
 #include "app/FixedPictures.h"
 #include "data/ClsDatabase.h"
 #include "data/TaskOrder.h"
+#include "data/TaskRepeats.h"
 #include "data/TaskReportQuery.h"
 #include "data/TaskRows.h"
 #include "system/ErrorReport.h"
@@ -11,6 +12,7 @@
 #include "widgets/MessageBoxes.h"
 #include "widgets/PdfFileChoice.h"
 #include "widgets/PlainText.h"
+#include "widgets/RepeatTexts.h"
 #include "widgets/WindowPlacement.h"
 
 #include <QCoreApplication>
@@ -142,7 +144,7 @@ drTasks::ReportRecords drTasks::readRecords(
         int field;
         const std::function<void(QString&)>* format;
         bool isDate;
-        qsizetype most;
+        bool isDescription;
     };
     std::vector<Column> columns;
     for (const ReportSection& section : m_sections) {
@@ -151,8 +153,7 @@ drTasks::ReportRecords drTasks::readRecords(
                 const auto format = m_formats.find(text.name);
                 columns.push_back({records.field(text.dataField.toStdString()),
                     format == m_formats.end() ? nullptr : &format->second.Format,
-                    text.name == QLatin1String("txtTaskDueDate"),
-                    text.name == QLatin1String("txtTaskDesc") ? MostOfDescription : MostOfName});
+                    text.name == QLatin1String("txtTaskDueDate"), text.name == QLatin1String("txtTaskDesc")});
             }
         }
     }
@@ -160,6 +161,7 @@ drTasks::ReportRecords drTasks::readRecords(
         ClsTask task;
         std::vector<QString> texts;
     };
+    const std::map<qint32, Repeat> repeats = TaskRepeats::all(m_services.engine);
     const std::set<qint32> ids = shown ? std::set(shown->begin(), shown->end()) : std::set<qint32>();
     TaskRows rows(m_services.engine, records);
     std::vector<ReportedTask> tasks;
@@ -170,12 +172,19 @@ drTasks::ReportRecords drTasks::readRecords(
             tasks.pop_back();
             continue;
         }
+        const auto repeat = repeats.find(read.task.Id());
         read.texts.reserve(columns.size());
         for (const Column& column : columns) {
             read.texts.push_back(column.isDate ? dateText(records.moment(column.field))
-                                               : shownPart(records.text(column.field), column.most));
+                                               : shownPart(records.text(column.field),
+                                                   column.isDescription ? MostOfDescription : MostOfName));
             if (column.format != nullptr) {
                 (*column.format)(read.texts.back());
+            }
+            if (column.isDescription && repeat != repeats.end()) {
+                read.texts.back().prepend(
+                    tr("Repeats %1").arg(repeatText(repeat->second.rule, repeat->second.first))
+                    + (read.texts.back().isEmpty() ? QString() : QStringLiteral("\n")));
             }
         }
     }

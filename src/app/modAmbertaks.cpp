@@ -6,6 +6,7 @@
 #include "app/Program.h"
 #include "app/drTasks.h"
 #include "categories/PictureReader.h"
+#include "data/RepeatRules.h"
 #include "exchange/Exchange.h"
 #include "system/Clock.h"
 #include "system/FileReplace.h"
@@ -37,7 +38,8 @@ struct RealMachine {
     RealMachine(const Installation& installation, const QString& programFolder, ErrorReport& errorReport)
         : shippedFolder(installation.shippedFolder),
           modules(installation.moduleFolder,
-              {QLatin1String(HelpModule), QLatin1String(ReportModule), QLatin1String(ExchangeModule)},
+              {QLatin1String(HelpModule), QLatin1String(ReportModule), QLatin1String(ExchangeModule),
+                  QLatin1String(RepeatModule)},
               {QLatin1String(SoundProgram), QLatin1String(PictureProgram)}),
           engine{programFolder, &clock, nullptr, nullptr, &dataFileIsSound}, errors(errorReport)
     {
@@ -51,7 +53,10 @@ struct RealMachine {
             [this](ReportHost& host) { return loadReportWindow(modules, host); },
             [this] { return loadExchange(modules); },
             [this] { return modules.program(QLatin1String(PictureProgram)); }, shippedFolder,
-            pathIn(userStateFolder(), QStringLiteral("window"))};
+            pathIn(userStateFolder(), QStringLiteral("window")),
+            [this] {
+                return loadRepeatRules(modules);
+            }};
     }
 
     QString shippedFolder;

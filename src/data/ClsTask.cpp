@@ -1,9 +1,11 @@
 #include "data/ClsTask.h"
 
 #include "data/ClsDatabase.h"
+#include "data/MovingOn.h"
 #include "data/SqlText.h"
 #include "data/TaskCodes.h"
 #include "data/TaskOrder.h"
+#include "data/TaskRepeats.h"
 #include "data/TaskRows.h"
 #include "store/DatabaseError.h"
 
@@ -98,17 +100,6 @@ QString rangeStatement(
     return statement.text();
 }
 
-/// Returns the id of the inserted task, if the statement inserts one. Throws as ClsTask::insertedId() does.
-qint32 runAlone(const DatabaseEngine& engine, const QString& statement)
-{
-    Connection connection = ClsDatabase(engine).Connect();
-    connection.open();
-    connection.execute(statement);
-    const qint32 id = ClsTask::insertedId(connection);
-    connection.close();
-    return id;
-}
-
 } // namespace
 
 ClsTask::ClsTask(const DatabaseEngine& engine) : m_engine(&engine)
@@ -139,16 +130,35 @@ qint32 ClsTask::insertedId(Connection& connection)
     return static_cast<qint32>(id);
 }
 
+qint32 ClsTask::store(const QString& statement) const
+{
+    Connection connection = ClsDatabase(*m_engine).Connect();
+    connection.open();
+    connection.execute(statement);
+    const qint32 inserted = insertedId(connection);
+    const qint32 id = inserted > 0 ? inserted : m_id;
+    try {
+        TaskRepeats::set(*m_engine, connection, id, repeat());
+        if (m_repeat && m_status == TaskStatus::Completed) {
+            MovingOn(*m_engine, connection).complete({id});
+        }
+    } catch (...) {
+        connection.abandon();
+        throw;
+    }
+    connection.close();
+    return id;
+}
+
 qint32 ClsTask::Add() const
 {
-    return runAlone(*m_engine,
-        filled(QStringLiteral(
-            "insert into "
-            "tasks(task_name,task_desc,task_status,cat_id,task_due_date,task_periority,reminder_on,"
-            "reminder_date_time,reminder_sound,reminder_file) values"
-            "('<task_name/>','<task_desc/>',<task_status/>,<cat_id/>,#<task_due_date_time/>#,<task_periority/"
-            ">,"
-            "<reminder_on/>,#<reminder_date_time/>#,'<reminder_sound/>','<reminder_file/>')")));
+    return store(filled(QStringLiteral(
+        "insert into "
+        "tasks(task_name,task_desc,task_status,cat_id,task_due_date,task_periority,reminder_on,"
+        "reminder_date_time,reminder_sound,reminder_file) values"
+        "('<task_name/>','<task_desc/>',<task_status/>,<cat_id/>,#<task_due_date_time/>#,<task_periority/"
+        ">,"
+        "<reminder_on/>,#<reminder_date_time/>#,'<reminder_sound/>','<reminder_file/>')")));
 }
 
 void ClsTask::Update() const
@@ -161,7 +171,7 @@ void ClsTask::Update() const
     pattern += m_dateChanged
         ? QLatin1String(",reminder_file='<reminder_file/>', played=0,dismissed=0 where task_id = ")
         : QLatin1String(",reminder_file='<reminder_file/>' where task_id = ");
-    runAlone(*m_engine, filled(pattern + QString::number(m_id)));
+    store(filled(pattern + QString::number(m_id)));
 }
 
 std::optional<ClsTask> ClsTask::GetTaskById(qint16 Id) const
@@ -174,6 +184,7 @@ std::optional<ClsTask> ClsTask::GetTaskById(qint16 Id) const
     if (!records.atEnd()) {
         task.emplace(*m_engine);
         TaskRows(*m_engine, records).read(records, *task);
+        task->setRepeat(TaskRepeats::of(*m_engine, connection, Id));
     }
     connection.close();
     return task;
@@ -251,5 +262,8 @@ qint32 ClsTask::GetTasksCount(
 
 void ClsTask::DeleteById(qint16 Id) const
 {
-    runAlone(*m_engine, QLatin1String("delete from tasks where task_id = ") + QString::number(Id));
+    Connection connection = ClsDatabase(*m_engine).Connect();
+    connection.open();
+    connection.execute(QLatin1String("delete from tasks where task_id = ") + QString::number(Id));
+    connection.close();
 }

@@ -1,11 +1,13 @@
 #pragma once
 
 #include "data/PackedTexts.h"
+#include "data/RepeatRules.h"
 #include "store/DatabaseEngine.h"
 #include "system/Moment.h"
 #include "system/RuntimeError.h"
 
 #include <QCoreApplication>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -63,10 +65,18 @@ public:
     bool DateChanged() const { return m_dateChanged; } // Without a caller: part of the interface.
     void setDateChanged(bool changed) { m_dateChanged = changed; }
 
-    /// Inserts this task and returns its id; the object keeps its own id. Throws NoRoomError when no id is
-    /// left; nothing is stored then.
+    /// How the task repeats; filled by `GetTaskById` alone.
+    std::optional<Repeat> repeat() const { return m_repeat ? std::optional(*m_repeat) : std::nullopt; }
+    void setRepeat(const std::optional<Repeat>& repeat)
+    {
+        m_repeat = repeat ? std::make_shared<const Repeat>(*repeat) : nullptr;
+    }
+
+    /// Inserts this task and returns its id; the object keeps its own id. One that repeats and is completed
+    /// moves on (MovingOn). Throws NoRoomError when no id is left, and RuntimeError when the rules cannot be
+    /// loaded; nothing is stored then.
     qint32 Add() const;
-    /// Updates the row of its id.
+    /// Updates the row of its id, and how the task repeats; otherwise as `Add`.
     void Update() const;
     /// The stored task of that id; none when there is no such row or its category is gone. Throws
     /// UnreadableRecordError for a row that does not convert.
@@ -94,6 +104,7 @@ private:
     friend class TaskFields;
     enum Text : std::size_t { NameText, DescriptionText, SoundText, FileText, TextCount };
     QString filled(const QString& pattern) const;
+    qint32 store(const QString& statement) const;
     void setText(Text which, const QString& value)
     {
         const QByteArray utf8 = value.toUtf8();
@@ -102,6 +113,7 @@ private:
 
     const DatabaseEngine* m_engine;
     PackedTexts<TextCount> m_texts;
+    std::shared_ptr<const Repeat> m_repeat; ///< lists hold many tasks of which few repeat
     Moment m_dueDateTime{};
     Moment m_reminderDateTime{};
     qint32 m_id = 0;

@@ -120,12 +120,9 @@ void requireRoomForSettings(Trial& trial)
     }
 }
 
-/// Files of earlier versions do not have the table yet.
-bool keepsOrigins(Trial& trial)
-{
-    constexpr int FirstVersionWithOrigins = 3;
-    return trial.execute("pragma user_version").int32(0) >= FirstVersionWithOrigins;
-}
+// Files of earlier versions do not have the tables yet.
+constexpr int FirstVersionWithOrigins = 3;
+constexpr int FirstVersionWithRepeats = 4;
 
 void requireReadableOrigins(Trial& trial)
 {
@@ -145,6 +142,28 @@ void requireRoomForOrigins(Trial& trial)
         && added.text(added.field("properties")) == Probe);
 }
 
+void requireReadableRepeats(Trial& trial)
+{
+    RecordSet rows = trial.execute("select of_task,rule,first_moment,lead,done from repeats");
+    for (; !rows.atEnd(); rows.moveNext()) {
+        rows.utf8(rows.field("rule"));
+        rows.moment(rows.field("first_moment"));
+        rows.int32(rows.field("lead"));
+        rows.int32(rows.field("done"));
+    }
+}
+
+void requireRoomForRepeats(Trial& trial)
+{
+    trial.execute("delete from repeats where of_task=7");
+    trial.execute(
+        "insert into repeats(of_task,rule,first_moment,lead,done) values(7,'007',#1/31/2007 23:59#,-7,70)");
+    const RecordSet added = trial.execute("select * from repeats where of_task=7");
+    require(!added.atEnd() && added.text(added.field("rule")) == Probe
+        && storedText(added.moment(added.field("first_moment"))) == "2007-01-31 23:59:00"
+        && added.int32(added.field("lead")) == -7 && added.int32(added.field("done")) == 70);
+}
+
 } // namespace
 
 qint64 requireServiceableDataFile(const DatabaseEngine& engine)
@@ -155,9 +174,14 @@ qint64 requireServiceableDataFile(const DatabaseEngine& engine)
     requireRoomForCategories(trial);
     requireRoomForTasks(trial);
     requireRoomForSettings(trial);
-    if (keepsOrigins(trial)) {
+    const int version = trial.execute("pragma user_version").int32(0);
+    if (version >= FirstVersionWithOrigins) {
         requireReadableOrigins(trial);
         requireRoomForOrigins(trial);
+    }
+    if (version >= FirstVersionWithRepeats) {
+        requireReadableRepeats(trial);
+        requireRoomForRepeats(trial);
     }
     return tasks;
 }

@@ -1,6 +1,7 @@
 #include "data/DataFileRoad.h"
 
 #include "data/ClsDatabase.h"
+#include "data/RepeatRules.h"
 
 #include <QByteArray>
 #include <QCoreApplication>
@@ -19,13 +20,20 @@ constexpr std::array<const char*, DataFileVersion> StepFrom{"",
     "  of_task INTEGER PRIMARY KEY,\n"
     "  uid TEXT NOT NULL DEFAULT '',\n"
     "  properties TEXT NOT NULL DEFAULT ''\n"
+    ")",
+    "CREATE TABLE IF NOT EXISTS repeats (\n"
+    "  of_task INTEGER PRIMARY KEY,\n"
+    "  rule TEXT NOT NULL DEFAULT '',\n"
+    "  first_moment TEXT NOT NULL DEFAULT '',\n"
+    "  lead INTEGER NOT NULL DEFAULT 0,\n"
+    "  done INTEGER NOT NULL DEFAULT 0\n"
     ")"};
 
 /// The next id follows the larger of the two numbers. New ids must win back more than half of the free ones,
 /// or a nearly full file would get new ids at every start.
-const QLatin1String WantsNewIds(
+const QLatin1String Question(
     "SELECT CASE WHEN max(number) > 30000 THEN "
-    "2 * max(32767 - max(number), 0) < 32767 - (SELECT count(*) FROM tasks) ELSE 0 END "
+    "2 * max(32767 - max(number), 0) < 32767 - (SELECT count(*) FROM tasks) ELSE 0 END, %1 "
     "FROM (SELECT seq AS number FROM sqlite_sequence WHERE name = 'tasks' UNION ALL SELECT max(task_id) FROM "
     "tasks)");
 /// In two steps through ids that no task has: the order in which SQLite updates the rows is not defined.
@@ -35,6 +43,11 @@ constexpr char GiveNewIds[] =
     "FROM (SELECT task_id AS old_id, row_number() OVER (ORDER BY task_id) AS place FROM tasks) "
     "WHERE of_task = old_id AND place <> old_id;"
     "UPDATE task_origins SET of_task = of_task + 1000000000000 WHERE of_task < 1;"
+    "DELETE FROM repeats WHERE of_task NOT IN (SELECT task_id FROM tasks);"
+    "UPDATE repeats SET of_task = place - 1000000000000 "
+    "FROM (SELECT task_id AS old_id, row_number() OVER (ORDER BY task_id) AS place FROM tasks) "
+    "WHERE of_task = old_id AND place <> old_id;"
+    "UPDATE repeats SET of_task = of_task + 1000000000000 WHERE of_task < 1;"
     "UPDATE tasks SET task_id = place - 1000000000000 "
     "FROM (SELECT task_id AS old_id, row_number() OVER (ORDER BY task_id) AS place FROM tasks) "
     "WHERE task_id = old_id AND place <> old_id;"
@@ -54,9 +67,24 @@ void noteVersion(Connection& connection, int version)
     connection.alter("PRAGMA user_version = " + QByteArray::number(version));
 }
 
-bool wantsNewIds(Connection& connection)
+/// What a look at the data file tells.
+struct Sight {
+    bool wantsNewIds;
+    bool isRepeating; ///< a task may repeat
+};
+
+Sight lookAt(Connection& connection, bool hasRepeats)
 {
-    return connection.execute(WantsNewIds).flag(0);
+    const RecordSet found = connection.execute(QString(Question).arg(
+        hasRepeats ? QLatin1String("EXISTS (SELECT 1 FROM repeats)") : QLatin1String("0")));
+    return {found.flag(0), found.flag(1)};
+}
+
+void tell(const DatabaseEngine& engine, const Sight& sight)
+{
+    if (engine.repeating != nullptr) {
+        engine.repeating->setUsed(sight.isRepeating);
+    }
 }
 
 } // namespace
@@ -79,13 +107,24 @@ void refuseLaterDataFile(const DatabaseEngine& engine)
     knownVersion(connection);
 }
 
+bool somethingRepeats(const DatabaseEngine& engine)
+{
+    const DatabaseEngine own = unheard(engine);
+    Connection connection = ClsDatabase(own).Connect();
+    connection.open();
+    const int version = connection.execute(QStringLiteral("PRAGMA user_version")).int32(0);
+    return version >= DataFileVersion && lookAt(connection, true).isRepeating;
+}
+
 bool isDataFileBehind(const DatabaseEngine& engine)
 {
     const DatabaseEngine own = unheard(engine);
     Connection connection = ClsDatabase(own).Connect();
     connection.open();
     const int version = knownVersion(connection);
-    if (!wantsNewIds(connection) && version == DataFileVersion) {
+    const Sight sight = lookAt(connection, version == DataFileVersion);
+    tell(engine, sight);
+    if (!sight.wantsNewIds && version == DataFileVersion) {
         return false;
     }
     // Throws when the file cannot be written: then no copy is needed.
@@ -99,12 +138,14 @@ void bringDataFileUp(const DatabaseEngine& engine)
     const DatabaseEngine own = unheard(engine);
     Connection connection = ClsDatabase(own).Connect();
     connection.open();
+    Sight sight{};
     try {
         for (int version = std::max(knownVersion(connection), 0); version < DataFileVersion; ++version) {
             connection.alter(StepFrom[static_cast<std::size_t>(version)]);
         }
         noteVersion(connection, DataFileVersion);
-        if (wantsNewIds(connection)) {
+        sight = lookAt(connection, true);
+        if (sight.wantsNewIds) {
             connection.alter(GiveNewIds);
         }
     } catch (...) {
@@ -112,4 +153,5 @@ void bringDataFileUp(const DatabaseEngine& engine)
         throw;
     }
     connection.close();
+    tell(engine, sight);
 }

@@ -6,7 +6,7 @@ class Connection;
 struct DatabaseEngine;
 
 /// The version (`user_version`) of the data file that schema.sql creates.
-inline constexpr int DataFileVersion = 3;
+inline constexpr int DataFileVersion = 4;
 
 /// The data file has a later version than this program supports.
 class LaterDataFileError : public RuntimeError
@@ -16,12 +16,15 @@ public:
 };
 
 // The upgrade of data files of earlier versions. Its statements are not the program's own: neither the
-// listener of `engine` nor its keeper of copies is told. All functions throw DatabaseError.
+// listener of `engine` nor its keeper of copies is told, but Repeating is told whether anything repeats. All
+// functions throw DatabaseError.
 
 /// The version of the file that is open. Throws LaterDataFileError, too.
 int knownVersion(Connection& connection);
 /// Throws LaterDataFileError, too.
 void refuseLaterDataFile(const DatabaseEngine& engine);
+/// Whether a task of the data file may repeat, which other processes may have changed.
+bool somethingRepeats(const DatabaseEngine& engine);
 /// Whether the data file has an earlier version or its tasks need new ids. Throws LaterDataFileError, too,
 /// and DatabaseError when it does but is damaged or cannot be written.
 bool isDataFileBehind(const DatabaseEngine& engine);

@@ -57,16 +57,6 @@ public:
     void close();
 
 private:
-    class FixedClock final : public Clock
-    {
-    public:
-        explicit FixedClock(Moment moment) : m_moment(moment) { }
-        Moment now() const override { return m_moment; }
-
-    private:
-        Moment m_moment;
-    };
-
     void readDue();
 
     FixedClock m_clock;

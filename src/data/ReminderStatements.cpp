@@ -9,6 +9,11 @@ const QLatin1String Due("reminder_date_time <= now() and dismissed =0 and remind
 
 }
 
+QString ReminderStatements::due()
+{
+    return Due;
+}
+
 QString ReminderStatements::selectDue()
 {
     return QLatin1String("select * from tasks,categories  where tasks.cat_id=categories.cat_id and ") + Due;

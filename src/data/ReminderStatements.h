@@ -8,6 +8,8 @@
 namespace ReminderStatements
 {
 
+/// The condition that tasks meet whose reminders are due.
+QString due();
 /// The tasks whose reminders are due, with their categories.
 QString selectDue();
 /// Marks those tasks as played.

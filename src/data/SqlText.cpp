@@ -1,5 +1,8 @@
 #include "data/SqlText.h"
 
+#include "data/RepeatRules.h"
+
+#include <QStringList>
 #include <algorithm>
 
 QString EscapeSqlText(const QString& text)
@@ -24,6 +27,31 @@ QString sqlDateTime(Moment moment)
         .arg(sqlDate(moment))
         .arg(minutes / 60, 2, 10, QLatin1Char('0'))
         .arg(minutes % 60, 2, 10, QLatin1Char('0'));
+}
+
+QString sqlMoment(Moment moment)
+{
+    return u'\'' + QString::fromStdString(storedText(moment)) + u'\'';
+}
+
+QString sqlRepeat(qint32 ofTask, const Repeat& repeat)
+{
+    return QStringList{QString::number(ofTask),
+        u'\'' + EscapeSqlText(QString::fromStdString(repeat.rule)) + u'\'', sqlMoment(repeat.first),
+        QString::number(repeat.lead.count()), QString::number(repeat.done)}
+        .join(u',');
+}
+
+QString sqlTaskIsOneOf(const QList<qint32>& ids)
+{
+    if (ids.size() == 1) {
+        return QLatin1String("task_id = ") + QString::number(ids.first());
+    }
+    QStringList digits;
+    for (const qint32 id : ids) {
+        digits.append(QString::number(id));
+    }
+    return QLatin1String("task_id in (") + digits.join(u',') + u')';
 }
 
 QString sqlFlag(bool flag)

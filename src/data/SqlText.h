@@ -2,8 +2,11 @@
 
 #include "system/Moment.h"
 
+#include <QList>
 #include <QString>
 #include <initializer_list>
+
+struct Repeat;
 
 /// `text` with every single quote doubled, ready to stand between single quotes in a statement.
 QString EscapeSqlText(const QString& text);
@@ -13,6 +16,14 @@ QString sqlDate(Moment moment);
 /// Date, a blank, and the 24-hour time with two-digit hours and minutes ("1/31/2007 09:05"). Seconds are
 /// dropped.
 QString sqlDateTime(Moment moment);
+/// The moment as it is stored, between quotes; with its seconds.
+QString sqlMoment(Moment moment);
+/// The values of a row of repeats.
+QString sqlRepeat(qint32 ofTask, const Repeat& repeat);
+/// SQLite limits the length of a compiled statement (see Hardening.cpp).
+inline constexpr qsizetype MostIdsOfAStatement = 1000;
+/// The condition that tasks of those ids meet, of which there is one at least.
+QString sqlTaskIsOneOf(const QList<qint32>& ids);
 /// "1" or "0".
 QString sqlFlag(bool flag);
 

@@ -4,7 +4,8 @@
 #include "data/ClsTask.h"
 #include "data/RecordReading.h"
 #include "data/SqlText.h"
-#include "data/TaskRows.h"
+#include "data/TaskRecordRows.h"
+#include "data/TaskRepeats.h"
 
 #include <QUuid>
 #include <limits>
@@ -18,6 +19,11 @@ const QLatin1String Everything(
     "select *,coalesce(uid,'') as known_uid,coalesce(properties,'') as known_properties from tasks inner "
     "join "
     "categories on tasks.cat_id=categories.cat_id left join task_origins on task_id=of_task");
+/// For a data file in which something repeats.
+const QLatin1String WithRepeats(
+    "select *,coalesce(uid,'') as known_uid,coalesce(properties,'') as known_properties,coalesce(rule,'') as "
+    "known_rule from tasks inner join categories on tasks.cat_id=categories.cat_id left join task_origins on "
+    "task_id=task_origins.of_task left join repeats on task_id=repeats.of_task");
 /// For a data file without the table of origins.
 const QLatin1String WithoutOrigins("select *,'' as known_uid,'' as known_properties from tasks inner join "
                                    "categories on tasks.cat_id=categories.cat_id");
@@ -25,16 +31,33 @@ const QLatin1String InsertTasks(
     "insert into "
     "tasks(task_id,task_name,task_desc,task_status,cat_id,task_due_date,task_periority,reminder_on,"
     "reminder_date_time,reminder_sound,reminder_file,played,dismissed) values");
+const QLatin1String InsertRepeats(
+    "insert or replace into repeats(of_task,rule,first_moment,lead,done) values");
 const QLatin1String InsertOrigins("insert or replace into task_origins(of_task,uid,properties) values");
 constexpr qint64 LastId = std::numeric_limits<qint16>::max();
 /// SQLite limits the length of a compiled statement (see Hardening.cpp); a row takes some twenty steps.
 constexpr qsizetype MostRowsOfAStatement = 500;
 constexpr qsizetype MostLettersOfAStatement = qsizetype(64) * 1024;
 
+bool hasTable(Connection& connection, const char* name)
+{
+    return !connection
+                .execute(
+                    QStringLiteral("select name from sqlite_schema where name='%1'").arg(QLatin1String(name)))
+                .atEnd();
+}
+
 bool hasOrigins(Connection& connection)
 {
-    return !connection.execute(QStringLiteral("select name from sqlite_schema where name='task_origins'"))
-                .atEnd();
+    return hasTable(connection, "task_origins");
+}
+
+QLatin1String everythingIn(const DatabaseEngine& engine, Connection& connection)
+{
+    if (!hasOrigins(connection)) {
+        return WithoutOrigins;
+    }
+    return TaskRepeats::isAny(engine) ? WithRepeats : Everything;
 }
 
 /// The id that the next task gets.
@@ -63,56 +86,6 @@ QString quotedText(Moment moment)
     return quotedText(storedText(moment));
 }
 
-/// Reads the rows of a query of everything.
-class RecordReader
-{
-public:
-    RecordReader(const DatabaseEngine& engine, const RecordSet& records)
-        : m_engine(&engine), m_rows(engine, records), m_task(engine),
-          m_sound(records.field("reminder_sound")), m_file(records.field("reminder_file")),
-          m_category(records.field("cat_name")), m_played(records.field("played")),
-          m_dismissed(records.field("dismissed")), m_uid(records.field("known_uid")),
-          m_properties(records.field("known_properties"))
-    {
-    }
-
-    /// False when the row does not convert.
-    bool read(const RecordSet& records, TaskRecord& task)
-    {
-        return readOrLeaveOut(*m_engine, [&] {
-            m_rows.read(records, m_task);
-            task.id = m_task.Id();
-            task.status = m_task.status();
-            task.periority = m_task.Periority();
-            task.due = m_task.DueDateTime();
-            task.reminder = m_task.reminderDateTime();
-            task.reminderOn = m_task.ReminderOn();
-            task.played = records.flag(m_played);
-            task.dismissed = records.flag(m_dismissed);
-            task.name = m_task.taskNameUtf8();
-            task.description = m_task.descriptionUtf8();
-            task.category = records.utf8(m_category);
-            task.categoryId = m_task.CategoryId();
-            task.sound = records.utf8(m_sound);
-            task.file = records.utf8(m_file);
-            task.uid = records.utf8(m_uid);
-            task.properties = records.utf8(m_properties);
-        });
-    }
-
-private:
-    const DatabaseEngine* m_engine;
-    TaskRows m_rows;
-    ClsTask m_task;
-    int m_sound;
-    int m_file;
-    int m_category;
-    int m_played;
-    int m_dismissed;
-    int m_uid;
-    int m_properties;
-};
-
 QString listOf(const QList<qint32>& ids)
 {
     QStringList digits;
@@ -130,15 +103,15 @@ Connection opened(const DatabaseEngine& engine)
 }
 
 /// In the order in which the engine finds them.
-void readChosen(const DatabaseEngine& engine, Connection& connection, const QString& statement,
+void readChosen(const DatabaseEngine& engine, Connection& connection, QLatin1String statement,
     const QList<qint32>& ids, const std::function<void(TaskRecord&)>& take)
 {
     for (qsizetype first = 0; first < ids.size(); first += MostRowsOfAStatement) {
         const QList<qint32> some = ids.mid(first, MostRowsOfAStatement);
         std::unordered_map<qint32, TaskRecord> found;
         RecordSet records =
-            connection.execute(statement + QStringLiteral(" where task_id in (%1)").arg(listOf(some)));
-        RecordReader reader(engine, records);
+            connection.execute(statement + QLatin1String(" where task_id in (") + listOf(some) + u')');
+        TaskRecordRows reader(engine, records, statement == WithRepeats);
         for (; !records.atEnd(); records.moveNext()) {
             TaskRecord task;
             if (reader.read(records, task)) {
@@ -160,12 +133,12 @@ void TaskArchive::read(const DatabaseEngine& engine, const std::optional<QList<q
     const std::function<void(TaskRecord&)>& take)
 {
     Connection connection = opened(engine);
-    const QString statement = hasOrigins(connection) ? Everything : WithoutOrigins;
+    const QLatin1String statement = everythingIn(engine, connection);
     if (ids) {
         readChosen(engine, connection, statement, *ids, take);
     } else {
         RecordSet records = connection.execute(statement + QLatin1String(" order by task_id"));
-        RecordReader reader(engine, records);
+        TaskRecordRows reader(engine, records, statement == WithRepeats);
         for (TaskRecord task; !records.atEnd(); records.moveNext()) {
             if (reader.read(records, task)) {
                 take(task);
@@ -244,7 +217,7 @@ std::string TaskArchive::newUid()
     return QUuid::createUuid().toString(QUuid::WithoutBraces).toStdString();
 }
 
-TaskStoring::TaskStoring(const DatabaseEngine& engine) : m_connection(opened(engine))
+TaskStoring::TaskStoring(const DatabaseEngine& engine) : m_engine(engine), m_connection(opened(engine))
 {
     try {
         m_hasOrigins = hasOrigins(m_connection);
@@ -277,6 +250,7 @@ int TaskStoring::finish()
 {
     insert(m_tasks, InsertTasks);
     insert(m_origins, InsertOrigins);
+    insert(m_repeats, InsertRepeats);
     m_connection.close();
     return m_madeCategories;
 }
@@ -319,6 +293,7 @@ void TaskStoring::add(const TaskRecord& task)
         insert(m_tasks, InsertTasks);
     }
     setOrigin(static_cast<qint32>(id), task);
+    setRepeat(static_cast<qint32>(id), task);
 }
 
 void TaskStoring::replace(const TaskRecord& task)
@@ -339,6 +314,10 @@ void TaskStoring::replace(const TaskRecord& task)
                 .arg(QString::fromStdString(task.name)));
     }
     setOrigin(task.id, task);
+    if (!task.repeat && TaskRepeats::isAny(m_engine)) {
+        TaskRepeats::remove(m_connection, task.id);
+    }
+    setRepeat(task.id, task);
 }
 
 void TaskStoring::setOrigin(qint32 id, const TaskRecord& task)
@@ -351,6 +330,26 @@ void TaskStoring::setOrigin(qint32 id, const TaskRecord& task)
         + quotedText(task.properties));
     if (m_origins.isEnough()) {
         insert(m_origins, InsertOrigins);
+    }
+}
+
+void TaskStoring::setRepeat(qint32 id, const TaskRecord& task)
+{
+    if (!task.repeat || m_engine.repeating == nullptr) {
+        return;
+    }
+    if (!m_hasRepeats) {
+        m_hasRepeats = hasTable(m_connection, "repeats");
+        if (*m_hasRepeats) {
+            TaskRepeats::removeOrphans(m_connection);
+            m_engine.repeating->setUsed(true);
+        }
+    }
+    if (*m_hasRepeats) {
+        m_repeats.append(sqlRepeat(id, *task.repeat));
+        if (m_repeats.isEnough()) {
+            insert(m_repeats, InsertRepeats);
+        }
     }
 }
 

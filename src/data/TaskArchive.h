@@ -57,6 +57,7 @@ private:
     void add(const TaskRecord& task);
     void replace(const TaskRecord& task);
     void setOrigin(qint32 id, const TaskRecord& task);
+    void setRepeat(qint32 id, const TaskRecord& task);
 
     /// Values that one statement inserts.
     struct Rows {
@@ -68,11 +69,14 @@ private:
     };
     void insert(Rows& rows, QLatin1String statement);
 
+    const DatabaseEngine& m_engine;
     Connection m_connection;
     std::unordered_map<std::string, qint32> m_categories; ///< ids by names
     Rows m_tasks;
     Rows m_origins;
+    Rows m_repeats;
     qint64 m_nextId = 0;
     int m_madeCategories = 0;
     bool m_hasOrigins = false; ///< a data file that could not be upgraded has no place for them
+    std::optional<bool> m_hasRepeats; ///< looked for with the first task that repeats
 };

@@ -2,29 +2,18 @@
 
 #include "data/ClsDatabase.h"
 #include "data/ClsTask.h"
+#include "data/MovingOn.h"
 #include "data/ReminderStatements.h"
+#include "data/SqlText.h"
 #include "data/TaskCodes.h"
+#include "data/TaskRepeats.h"
+#include "system/Clock.h"
 
 #include <QStringList>
 #include <functional>
 
 namespace
 {
-
-/// SQLite limits the length of a compiled statement (see Hardening.cpp).
-constexpr qsizetype MostIdsOfAStatement = 1000;
-
-QString conditionFor(const QList<qint32>& ids)
-{
-    if (ids.size() == 1) {
-        return QLatin1String("task_id = ") + QString::number(ids.first());
-    }
-    QStringList digits;
-    for (const qint32 id : ids) {
-        digits.append(QString::number(id));
-    }
-    return QLatin1String("task_id in (") + digits.join(u',') + u')';
-}
 
 /// Runs `work` on a connection as one operation: when it throws, nothing is stored.
 void run(const DatabaseEngine& engine, const std::function<void(Connection&)>& work)
@@ -40,54 +29,80 @@ void run(const DatabaseEngine& engine, const std::function<void(Connection&)>& w
     connection.close();
 }
 
+using StatementsFor = std::function<QStringList(const QString& which)>;
+
 /// Runs the statements that `statementsFor` makes of a condition until it has met all ids.
-void change(const DatabaseEngine& engine, const QList<qint32>& ids,
-    const std::function<QStringList(const QString& which)>& statementsFor)
+void change(Connection& connection, const QList<qint32>& ids, const StatementsFor& statementsFor)
+{
+    for (qsizetype first = 0; first < ids.size(); first += MostIdsOfAStatement) {
+        for (const QString& statement : statementsFor(sqlTaskIsOneOf(ids.mid(first, MostIdsOfAStatement)))) {
+            connection.execute(statement);
+        }
+    }
+}
+
+void change(const DatabaseEngine& engine, const QList<qint32>& ids, const StatementsFor& statementsFor)
+{
+    run(engine, [&](Connection& connection) { change(connection, ids, statementsFor); });
+}
+
+/// The same with what `moveOn` leaves of the ids.
+void changeOrMoveOn(const DatabaseEngine& engine, const QList<qint32>& ids,
+    QList<qint32> (MovingOn::*moveOn)(const QList<qint32>&), const StatementsFor& statementsFor)
 {
     run(engine, [&](Connection& connection) {
-        for (qsizetype first = 0; first < ids.size(); first += MostIdsOfAStatement) {
-            for (const QString& statement :
-                statementsFor(conditionFor(ids.mid(first, MostIdsOfAStatement)))) {
-                connection.execute(statement);
-            }
-        }
+        change(connection, (MovingOn(engine, connection).*moveOn)(ids), statementsFor);
     });
 }
 
-void setColumn(const DatabaseEngine& engine, const QList<qint32>& ids, QLatin1String column, qint32 value)
+QStringList deleting(const QString& which)
 {
-    change(engine, ids, [&](const QString& which) {
+    return {QLatin1String("delete from tasks where ") + which};
+}
+
+StatementsFor setting(QLatin1String column, qint32 value)
+{
+    return [=](const QString& which) {
         return QStringList{
             QStringLiteral("update tasks set %1=%2 where %3").arg(column, QString::number(value), which)};
-    });
+    };
 }
 
 } // namespace
 
 void TaskChanges::remove(const DatabaseEngine& engine, const QList<qint32>& ids)
 {
-    change(engine, ids,
-        [](const QString& which) { return QStringList{QLatin1String("delete from tasks where ") + which}; });
+    change(engine, ids, deleting);
+}
+
+void TaskChanges::moveOn(const DatabaseEngine& engine, const QList<qint32>& ids)
+{
+    changeOrMoveOn(engine, ids, &MovingOn::complete, deleting);
 }
 
 void TaskChanges::setStatus(const DatabaseEngine& engine, const QList<qint32>& ids, qint32 status)
 {
-    setColumn(engine, ids, QLatin1String("task_status"), status);
+    const StatementsFor statements = setting(QLatin1String("task_status"), status);
+    if (status == TaskStatus::Completed) {
+        changeOrMoveOn(engine, ids, &MovingOn::complete, statements);
+    } else {
+        change(engine, ids, statements);
+    }
 }
 
 void TaskChanges::setPeriority(const DatabaseEngine& engine, const QList<qint32>& ids, qint32 periority)
 {
-    setColumn(engine, ids, QLatin1String("task_periority"), periority);
+    change(engine, ids, setting(QLatin1String("task_periority"), periority));
 }
 
 void TaskChanges::setCategory(const DatabaseEngine& engine, const QList<qint32>& ids, qint16 category)
 {
-    setColumn(engine, ids, QLatin1String("cat_id"), category);
+    change(engine, ids, setting(QLatin1String("cat_id"), category));
 }
 
 void TaskChanges::complete(const DatabaseEngine& engine, const QList<qint32>& ids)
 {
-    change(engine, ids, [](const QString& which) {
+    changeOrMoveOn(engine, ids, &MovingOn::complete, [](const QString& which) {
         return QStringList{QStringLiteral("update tasks set task_status=%1 where %2")
                                .arg(QString::number(TaskStatus::Completed), which),
             ReminderStatements::dismissDue() + QLatin1String(" and ") + which};
@@ -96,15 +111,21 @@ void TaskChanges::complete(const DatabaseEngine& engine, const QList<qint32>& id
 
 void TaskChanges::dismiss(const DatabaseEngine& engine, const QList<qint32>& ids)
 {
-    change(engine, ids, [](const QString& which) { return QStringList{ReminderStatements::dismiss(which)}; });
+    changeOrMoveOn(engine, ids, &MovingOn::dismiss,
+        [](const QString& which) { return QStringList{ReminderStatements::dismiss(which)}; });
 }
 
 int TaskChanges::dismissDue(const DatabaseEngine& engine)
 {
+    // At one moment: what has been moved on must not be due in the next statement.
+    const FixedClock clock(engine.clock->now());
+    DatabaseEngine present = engine;
+    present.clock = &clock;
     int dismissed = 0;
-    run(engine, [&](Connection& connection) {
+    run(present, [&](Connection& connection) {
+        dismissed = MovingOn(present, connection).dismissDue();
         connection.execute(ReminderStatements::dismissDue());
-        dismissed = static_cast<int>(connection.changedRows());
+        dismissed += static_cast<int>(connection.changedRows());
     });
     return dismissed;
 }
@@ -133,9 +154,12 @@ QList<qint32> TaskChanges::duplicate(const DatabaseEngine& engine, const QList<q
     run(engine, [&](Connection& connection) {
         for (const qint32 id : ids) {
             connection.execute(QStringLiteral("insert into tasks(%1) select %1 from tasks where %2")
-                                   .arg(columns, conditionFor({id})));
+                                   .arg(columns, sqlTaskIsOneOf({id})));
             if (connection.changedRows() > 0) {
                 copies.append(ClsTask::insertedId(connection));
+                if (const auto repeat = TaskRepeats::of(engine, connection, id)) {
+                    TaskRepeats::store(engine, connection, copies.last(), *repeat);
+                }
             }
         }
     });

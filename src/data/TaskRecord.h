@@ -1,8 +1,9 @@
 #pragma once
 
-#include "system/Moment.h"
+#include "data/RepeatRules.h"
 
 #include <QtGlobal>
+#include <optional>
 #include <string>
 
 /// A task with everything that the data file has of it, as it is exchanged with other programs. Texts are in
@@ -26,6 +27,7 @@ struct TaskRecord {
     /// What other programs have written of the task and this one does not know: iCalendar content lines, not
     /// folded, each ended by a line feed.
     std::string properties;
+    std::optional<Repeat> repeat; ///< none for a task that does not repeat
 
     bool operator==(const TaskRecord&) const = default;
 };

@@ -1,6 +1,7 @@
 #include "data/UndoHistory.h"
 
 #include "data/ClsDatabase.h"
+#include "data/RepeatRules.h"
 #include "store/DatabaseError.h"
 
 #include <set>
@@ -87,6 +88,9 @@ void UndoHistory::apply(std::size_t step, const ChangeSet& changes, std::size_t 
         throw;
     }
     connection.close();
+    if (m_engine->repeating != nullptr && changes.tables().count("repeats") > 0) {
+        m_engine->repeating->setUsed(true);
+    }
     m_next = nextAfterwards;
     emit stepsChanged();
     emit dataChanged();

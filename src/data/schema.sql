@@ -4,13 +4,14 @@
 --   1  the first version; the indexes for the filters are missing in some of these files
 --   2  all files have the indexes
 --   3  the table task_origins
+--   4  the table repeats
 --
 -- Moments are text YYYY-MM-DD HH:MM:SS, flags 0 or 1. The program compares texts with a NOCASE of its own, which folds
 -- every alphabet: an index on a text column, written with another tool's NOCASE, would be out of order for it.
 PRAGMA encoding = 'UTF-8';
 PRAGMA journal_mode = DELETE;
 PRAGMA application_id = 0x416D6274;
-PRAGMA user_version = 3;
+PRAGMA user_version = 4;
 
 BEGIN;
 
@@ -68,6 +69,16 @@ CREATE TABLE task_origins (
   of_task INTEGER PRIMARY KEY,
   uid TEXT NOT NULL DEFAULT '',
   properties TEXT NOT NULL DEFAULT ''
+);
+
+-- How tasks repeat (see Repeat); lead is in minutes. A row stays when its task is deleted, so that an undo brings all
+-- of it back; the next import of repeating tasks removes it.
+CREATE TABLE repeats (
+  of_task INTEGER PRIMARY KEY,
+  rule TEXT NOT NULL DEFAULT '',
+  first_moment TEXT NOT NULL DEFAULT '',
+  lead INTEGER NOT NULL DEFAULT 0,
+  done INTEGER NOT NULL DEFAULT 0
 );
 
 INSERT INTO settings (always_on_top, start_with_windows, minimize_on_start, skin, show_task_status, show_task_due_date,

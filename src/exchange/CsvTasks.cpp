@@ -29,11 +29,12 @@ enum Column : int {
     PlayedColumn,
     DismissedColumn,
     UidColumn,
+    RepeatColumn,
     ColumnCount
 };
 
 constexpr std::array<std::string_view, ColumnCount> Header{"Name", "Description", "Status", "Category", "Due",
-    "Priority", "Reminder", "Reminder time", "Sound", "File", "Played", "Dismissed", "UID"};
+    "Priority", "Reminder", "Reminder time", "Sound", "File", "Played", "Dismissed", "UID", "Repeat"};
 
 /// A word that says what one of ours does.
 struct Synonym {
@@ -42,17 +43,18 @@ struct Synonym {
 };
 
 /// Other names of columns: those of the data file, and those that other programs use.
-constexpr std::array<Synonym, 31> ColumnNames{{{"task_name", NameColumn}, {"task", NameColumn},
-    {"title", NameColumn}, {"summary", NameColumn}, {"subject", NameColumn}, {"content", NameColumn},
-    {"task_desc", DescriptionColumn}, {"notes", DescriptionColumn}, {"note", DescriptionColumn},
-    {"details", DescriptionColumn}, {"body", DescriptionColumn}, {"task_status", StatusColumn},
-    {"state", StatusColumn}, {"categories", CategoryColumn}, {"cat_name", CategoryColumn},
-    {"project", CategoryColumn}, {"list", CategoryColumn}, {"task_due_date", DueColumn},
-    {"due date", DueColumn}, {"due_date", DueColumn}, {"deadline", DueColumn},
-    {"task_periority", PriorityColumn}, {"periority", PriorityColumn}, {"reminder_on", ReminderColumn},
-    {"reminder on/off", ReminderColumn}, {"reminder_date_time", ReminderTimeColumn},
-    {"reminder date", ReminderTimeColumn}, {"reminder_time", ReminderTimeColumn},
-    {"reminder_sound", SoundColumn}, {"reminder_file", FileColumn}, {"uuid", UidColumn}}};
+constexpr std::array<Synonym, 33> ColumnNames{
+    {{"task_name", NameColumn}, {"task", NameColumn}, {"title", NameColumn}, {"summary", NameColumn},
+        {"subject", NameColumn}, {"content", NameColumn}, {"task_desc", DescriptionColumn},
+        {"notes", DescriptionColumn}, {"note", DescriptionColumn}, {"details", DescriptionColumn},
+        {"body", DescriptionColumn}, {"task_status", StatusColumn}, {"state", StatusColumn},
+        {"categories", CategoryColumn}, {"cat_name", CategoryColumn}, {"project", CategoryColumn},
+        {"list", CategoryColumn}, {"task_due_date", DueColumn}, {"due date", DueColumn},
+        {"due_date", DueColumn}, {"deadline", DueColumn}, {"task_periority", PriorityColumn},
+        {"periority", PriorityColumn}, {"reminder_on", ReminderColumn}, {"reminder on/off", ReminderColumn},
+        {"reminder_date_time", ReminderTimeColumn}, {"reminder date", ReminderTimeColumn},
+        {"reminder_time", ReminderTimeColumn}, {"reminder_sound", SoundColumn}, {"reminder_file", FileColumn},
+        {"uuid", UidColumn}, {"rrule", RepeatColumn}, {"recurrence", RepeatColumn}}};
 
 constexpr std::array<Synonym, 18> StatusWords{{{"Not Started", TaskStatus::NotStarted},
     {"In Progress", TaskStatus::InProgress}, {"Completed", TaskStatus::Completed},
@@ -246,6 +248,10 @@ void RowReading::readField(int column, const std::string& field)
             note(UidColumn, field);
         }
         break;
+    case RepeatColumn:
+        m_read.task.rule = trimmed(field);
+        m_read.task.said.rule = true;
+        break;
     default:
         readCode(column, field);
         break;
@@ -300,7 +306,8 @@ void appendCsvTask(std::string& out, const TaskRecord& task)
     const std::string reminder = storedText(task.reminder);
     appendCsvRow(out,
         {task.name, task.description, status, task.category, due, priority, flag(task.reminderOn), reminder,
-            task.sound, task.file, flag(task.played), flag(task.dismissed), task.uid});
+            task.sound, task.file, flag(task.played), flag(task.dismissed), task.uid,
+            task.repeat ? std::string_view(task.repeat->rule) : std::string_view()});
 }
 
 CsvColumns::CsvColumns(const CsvRow& header, QString shortDate) : m_shortDate(std::move(shortDate))

@@ -18,14 +18,18 @@ struct FileTask {
         bool sound = false;
         bool file = false;
         bool properties = false;
+        bool repeat = false; ///< `task.repeat`
+        bool rule = false;
     };
 
     qint64 line = 0;
     Said said;
     /// `file` is what the task starts, confirmed by nobody.
     TaskRecord task;
+    std::string rule; ///< by which it repeats from its due moment on; empty when it does not
     int furtherReminders = 0;
-    bool repeats = false;
+    bool repeats = false; ///< in the other program alone
+    bool isOwnRepeat = false; ///< written by this program, and changed by nobody
     bool isInUnknownZone = false;
 };
 

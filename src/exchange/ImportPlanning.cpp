@@ -2,10 +2,13 @@
 
 #include "data/ClsTask.h"
 #include "data/TaskArchive.h"
+#include "data/TaskCodes.h"
 #include "exchange/ExchangeTexts.h"
+#include "exchange/FileZones.h"
 #include "store/UnicodeCollation.h"
 #include "system/Clock.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace
@@ -16,7 +19,8 @@ constexpr int MostNewTasks = std::numeric_limits<qint16>::max();
 std::size_t bytesOf(const TaskRecord& task)
 {
     return sizeof(ImportedTask) + task.name.size() + task.description.size() + task.category.size()
-        + task.sound.size() + task.file.size() + task.uid.size() + task.properties.size();
+        + task.sound.size() + task.file.size() + task.uid.size() + task.properties.size()
+        + (task.repeat ? task.repeat->rule.size() : 0);
 }
 
 bool areEqual(const TaskRecord& one, const TaskRecord& other)
@@ -25,7 +29,7 @@ bool areEqual(const TaskRecord& one, const TaskRecord& other)
         && one.reminder == other.reminder && one.reminderOn == other.reminderOn && one.played == other.played
         && one.dismissed == other.dismissed && one.name == other.name && one.description == other.description
         && compareIgnoringCase(one.category, other.category) == 0 && one.sound == other.sound
-        && one.file == other.file && one.properties == other.properties;
+        && one.file == other.file && one.properties == other.properties && one.repeat == other.repeat;
 }
 
 /// What the file says, over what is stored.
@@ -49,6 +53,7 @@ void overlay(TaskRecord& task, FileTask&& read)
     set(said.state, task.dismissed, read.task.dismissed);
     set(said.sound, task.sound, std::move(read.task.sound));
     set(said.properties, task.properties, std::move(read.task.properties));
+    set(said.repeat, task.repeat, std::move(read.task.repeat));
     // A task may cease to start something; what it is to start has to be confirmed.
     if (said.file && read.task.file.empty()) {
         task.file.clear();
@@ -107,7 +112,29 @@ void ImportPlanning::settleReminder(TaskRecord& task, const FileTask::Said& said
         return;
     }
     task.played = task.dismissed = task.reminderOn && task.reminder < m_now;
+    if (task.repeat && task.dismissed) {
+        // It reminds of the next one.
+        if (const auto next = m_engine->repeating->rules().next(
+                *task.repeat, std::max(task.due, m_now + task.repeat->lead));
+            next && isStorable(*next - task.repeat->lead)) {
+            task.reminder = *next - task.repeat->lead;
+            task.played = task.dismissed = false;
+        }
+    }
     m_plan.dismissed += task.dismissed ? 1 : 0;
+}
+
+/// How a task repeats of which a file says nothing but the rule.
+std::optional<Repeat> ImportPlanning::repeatBy(const std::string& rule, const TaskRecord& task)
+{
+    if (rule.empty() || m_engine->repeating == nullptr) {
+        return std::nullopt;
+    }
+    if (task.status == TaskStatus::Completed || !m_engine->repeating->rules().isUsable(rule)) {
+        ++m_plan.repeating;
+        return std::nullopt;
+    }
+    return Repeat{rule, task.due, std::chrono::floor<std::chrono::minutes>(task.due - task.reminder), 0};
 }
 
 void ImportPlanning::takeNew(FileTask&& read)
@@ -132,6 +159,9 @@ void ImportPlanning::takeNew(FileTask&& read)
     if (!said.reminder) {
         task.reminder = task.due;
     }
+    if (said.rule) {
+        task.repeat = repeatBy(read.rule, task);
+    }
     settleReminder(task, said);
     add(std::move(imported));
 }
@@ -144,7 +174,17 @@ void ImportPlanning::takeStored(FileTask&& read, const TaskRecord& stored)
         imported.program = read.task.file;
     }
     imported.task = stored;
+    const std::string rule = std::move(read.rule);
+    const bool isOwnRepeat = read.isOwnRepeat;
     overlay(imported.task, std::move(read));
+    if (said.rule) {
+        imported.task.repeat = repeatBy(rule, imported.task);
+    }
+    if (imported.task.repeat && stored.repeat && !isOwnRepeat
+        && imported.task.repeat->rule == stored.repeat->rule && imported.task.due == stored.due) {
+        // Where it counts from is known here alone.
+        imported.task.repeat = stored.repeat;
+    }
     if (!said.state
         && (imported.task.reminder != stored.reminder || imported.task.reminderOn != stored.reminderOn)) {
         settleReminder(imported.task, said);

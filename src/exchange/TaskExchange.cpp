@@ -68,7 +68,7 @@ void appendTask(std::string& out, ExchangeFormat format, const TaskRecord& task,
     }
 }
 
-void planCalendar(QIODevice& device, ImportPlanning& planning, Progress* progress)
+void planCalendar(QIODevice& device, ImportPlanning& planning, Repeating* repeating, Progress* progress)
 {
     CalendarParts parts(device, progress);
     FileZones zones;
@@ -77,7 +77,7 @@ void planCalendar(QIODevice& device, ImportPlanning& planning, Progress* progres
             zones.add(part);
             continue;
         }
-        ReadTodo read = readTodo(part, zones, planning.now());
+        ReadTodo read = readTodo(part, zones, planning.now(), repeating);
         if (!read.problem.isEmpty()) {
             planning.leaveOut(part.line, read.task.task.name, read.problem);
         } else if (read.isException) {
@@ -153,7 +153,7 @@ ImportPlan TaskExchange::plan(
 {
     ImportPlanning planning(engine);
     if (format == ExchangeFormat::ICalendar) {
-        planCalendar(device, planning, progress);
+        planCalendar(device, planning, engine.repeating, progress);
     } else {
         planCsv(device, planning, m_shortDate, progress);
     }

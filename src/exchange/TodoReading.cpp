@@ -3,6 +3,7 @@
 #include "data/TaskCodes.h"
 #include "exchange/ExchangeTexts.h"
 #include "exchange/TodoAlarms.h"
+#include "exchange/TodoRepeats.h"
 #include "exchange/TodoValues.h"
 
 #include <algorithm>
@@ -14,8 +15,8 @@ namespace
 class TodoReading
 {
 public:
-    TodoReading(const CalendarPart& part, FileZones& zones, Moment now)
-        : m_zones(zones), m_now(now), m_isEvent(part.kind == QLatin1String("VEVENT")),
+    TodoReading(const CalendarPart& part, FileZones& zones, Moment now, Repeating* repeating)
+        : m_zones(zones), m_now(now), m_repeating(repeating), m_isEvent(part.kind == QLatin1String("VEVENT")),
           m_isOfOsmo(part.producer.contains(QLatin1String(Producer::Osmo))),
           m_isOfOrage(part.producer.contains(QLatin1String(Producer::Orage)))
     {
@@ -65,7 +66,7 @@ private:
     void readDue(const ContentLine& line);
     void readStart(const ContentLine& line);
     void readDuration(const ContentLine& line) { m_duration = durationOf(line.value); }
-    void readRule(const ContentLine& line);
+    void readRepeat(const ContentLine& line) { m_repeat.take(line, m_zones, todo.task.task.properties); }
     void readException(const ContentLine&) { todo.isException = true; }
     void readSound(const ContentLine& line) { todo.task.task.sound = textOfLine(line); }
     void readFile(const ContentLine& line) { todo.task.task.file = textOfLine(line); }
@@ -95,6 +96,7 @@ private:
 
     FileZones& m_zones;
     Moment m_now;
+    Repeating* m_repeating;
     bool m_isEvent;
     bool m_isOfOsmo;
     bool m_isOfOrage;
@@ -113,6 +115,7 @@ private:
     std::optional<std::chrono::seconds> m_duration;
     std::optional<std::string> m_off; ///< the line of a reminder that is off
     std::vector<std::string> m_alarms;
+    RepeatOfFile m_repeat;
 };
 
 const TodoReading::Known TodoReading::KnownLines[] = {{"UID", &TodoReading::readUid},
@@ -124,7 +127,9 @@ const TodoReading::Known TodoReading::KnownLines[] = {{"UID", &TodoReading::read
     {"PRIORITY", &TodoReading::readPriority}, {OwnProperty::Periority, &TodoReading::readOwnPriority},
     {"COMPLETED", &TodoReading::readCompleted}, {"PERCENT-COMPLETE", &TodoReading::readPercent},
     {"DUE", &TodoReading::readDue}, {"DTSTART", &TodoReading::readStart},
-    {"DURATION", &TodoReading::readDuration}, {"RRULE", &TodoReading::readRule},
+    {"DURATION", &TodoReading::readDuration}, {"RRULE", &TodoReading::readRepeat},
+    {"EXRULE", &TodoReading::readRepeat}, {"EXDATE", &TodoReading::readRepeat},
+    {"RDATE", &TodoReading::readRepeat}, {OwnProperty::Repeat, &TodoReading::readRepeat},
     {"RECURRENCE-ID", &TodoReading::readException}, {OwnProperty::Sound, &TodoReading::readSound},
     {OwnProperty::File, &TodoReading::readFile}, {OwnProperty::Reminder, &TodoReading::readReminderThatIsOff},
     {"DTSTAMP", &TodoReading::passOver}, {"DTEND", &TodoReading::readOfEvent},
@@ -239,13 +244,10 @@ void TodoReading::readDue(const ContentLine& line)
 void TodoReading::readStart(const ContentLine& line)
 {
     m_start = momentOf(line);
-    readOfEvent(line);
-}
-
-void TodoReading::readRule(const ContentLine& line)
-{
-    todo.task.repeats = true;
-    keep(line.text);
+    // Ours is the due moment.
+    if (!line.parameter(OwnParameter::Assumed)) {
+        readOfEvent(line);
+    }
 }
 
 void TodoReading::finishStatus()
@@ -315,6 +317,7 @@ void TodoReading::finishReminder()
     task.furtherReminders = reminder.further;
     task.isInUnknownZone = task.isInUnknownZone || reminder.isInUnknownZone;
     task.task.properties += reminder.kept;
+    m_repeat.finish(task, m_repeating, m_start ? m_start->moment : task.task.due, reminder.isOwn);
 }
 
 /// An alarm has nothing but a text: its first line is the name, the rest the description.
@@ -357,9 +360,9 @@ ReadTodo TodoReading::finish()
 
 } // namespace
 
-ReadTodo readTodo(const CalendarPart& part, FileZones& zones, Moment now)
+ReadTodo readTodo(const CalendarPart& part, FileZones& zones, Moment now, Repeating* repeating)
 {
-    TodoReading reading(part, zones, now);
+    TodoReading reading(part, zones, now, repeating);
     reading.todo.problem = part.problem;
     std::size_t level = 0;
     std::size_t begin = 0;

@@ -14,5 +14,5 @@ struct ReadTodo {
 };
 
 /// Reads a VTODO. `zones` are those of the file before it; `now` decides which of several reminders is the
-/// next one.
-ReadTodo readTodo(const CalendarPart& todo, FileZones& zones, Moment now);
+/// next one; without `repeating` nothing repeats. Throws RuntimeError when the rules cannot be loaded.
+ReadTodo readTodo(const CalendarPart& todo, FileZones& zones, Moment now, Repeating* repeating = nullptr);

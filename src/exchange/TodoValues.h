@@ -27,12 +27,14 @@ inline constexpr std::string_view Sound = "X-AMBERTASK-SOUND";
 inline constexpr std::string_view File = "X-AMBERTASK-FILE";
 /// In the alarm of the reminder, or in the task while the reminder is off.
 inline constexpr std::string_view Reminder = "X-AMBERTASK-REMINDER";
+/// Beside RRULE: from where the rule counts, and what has become of it since.
+inline constexpr std::string_view Repeat = "X-AMBERTASK-REPEAT";
 inline constexpr std::string_view Prefix = "X-AMBERTASK-";
 } // namespace OwnProperty
 
 namespace OwnParameter
 {
-/// Of COMPLETED: nobody has said when it was.
+/// Of COMPLETED and DTSTART: nobody has said when it was.
 inline constexpr std::string_view Assumed = "X-AMBERTASK-ASSUMED";
 } // namespace OwnParameter
 

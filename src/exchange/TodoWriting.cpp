@@ -5,6 +5,7 @@
 #include "exchange/FileTask.h"
 #include "exchange/FileZones.h"
 #include "exchange/TodoAlarms.h"
+#include "exchange/TodoRepeats.h"
 #include "exchange/TodoValues.h"
 
 #include <libical/ical.h>
@@ -58,6 +59,7 @@ public:
         writeText("DESCRIPTION", OwnProperty::Description, m_task.description);
         writeText("CATEGORIES", OwnProperty::Category, m_task.category);
         writeUnlessKept("DUE", momentText(m_task.due));
+        writeRepeat();
         writeStatus(stamp);
         writePriority();
         writeOwnTexts();
@@ -103,6 +105,7 @@ private:
             && isWithoutTrigger(part.text);
     }
     void writeText(std::string_view name, std::string_view own, const std::string& text);
+    void writeRepeat();
     void writeStatus(const std::string& stamp);
     void writePriority();
     void writeOwnTexts();
@@ -153,8 +156,15 @@ bool TodoWriting::stillHolds(const KeptPart& part) const
         return m_task.status != TaskStatus::Completed && numberOf(first.value).value_or(0) < AllDone;
     }
     if (first.is("DTSTART")) {
+        // From there others count the days of a rule.
+        if (m_task.repeat && m_task.repeat->first != m_task.due) {
+            return false;
+        }
         // What begins after it is due is refused by others. The zone of a beginning does not matter for that.
         return first.value.substr(0, 8) <= std::string_view(momentText(m_task.due)).substr(0, 8);
+    }
+    if (first.is("RRULE") || first.is("EXRULE") || first.is("EXDATE") || first.is("RDATE")) {
+        return !m_task.repeat;
     }
     return true;
 }
@@ -167,6 +177,24 @@ void TodoWriting::writeText(std::string_view name, std::string_view own, const s
     const bool isNone = text.empty() && name == "DESCRIPTION";
     if (!isSayable(text) && !isNone) {
         line(textLine(own, text));
+    }
+}
+
+void TodoWriting::writeRepeat()
+{
+    if (!m_task.repeat || !isSayableRule(m_task.repeat->rule)) {
+        return;
+    }
+    // Without a beginning a rule means nothing to others; it is of the same type as DUE.
+    if (!isKept("DTSTART")) {
+        const std::string due = momentText(m_task.due);
+        const bool isDay = isKept("DUE");
+        line(isDay ? "DTSTART;X-AMBERTASK-ASSUMED=TRUE;VALUE=DATE" : "DTSTART;X-AMBERTASK-ASSUMED=TRUE",
+            isDay ? due.substr(0, 8) : due);
+    }
+    line("RRULE", m_task.repeat->rule);
+    if (const std::string own = repeatLine(*m_task.repeat, m_task.due, m_task.reminder); !own.empty()) {
+        line(own);
     }
 }
 

@@ -1,5 +1,6 @@
 #include "reminders/frmAlerts.h"
 
+#include "data/TaskRepeats.h"
 #include "system/ProgramFiles.h"
 #include "system/Shell.h"
 #include "widgets/GridView.h"
@@ -11,6 +12,7 @@ void frmAlerts::tmrTasksChecker_Timer()
 {
     try {
         check();
+        countTimes();
     } catch (const std::exception&) {
         // A report every ten seconds would help nobody; the next tick tries again.
     }
@@ -63,6 +65,25 @@ void frmAlerts::check(bool isOvertaken)
         m_owesMark = false;
         m_fired.clear();
     }
+}
+
+void frmAlerts::countTimes()
+{
+    Repeating* repeating = m_services.engine.repeating;
+    if (repeating == nullptr || !repeating->isUsed() || m_reminders.rowCount() == 0) {
+        return;
+    }
+    const std::map<qint32, Repeat> repeats = TaskRepeats::all(m_services.engine);
+    const Moment now = m_services.clock.now();
+    QHash<qint32, int> times;
+    for (const DueReminder& due : m_reminders.reminders()) {
+        const auto repeat = repeats.find(due.id);
+        const auto reminder = momentFromStoredText(due.reminder.toStdString());
+        if (repeat != repeats.end() && reminder) {
+            times.insert(due.id, TaskRepeats::missed(*repeating, repeat->second, *reminder, now));
+        }
+    }
+    m_reminders.setTimes(times);
 }
 
 void frmAlerts::redraw(const std::vector<DueReminder>& due)

@@ -6,7 +6,6 @@
 #include "widgets/PlainText.h"
 #include "widgets/TaskPictures.h"
 
-#include <QHash>
 #include <algorithm>
 
 namespace
@@ -52,6 +51,17 @@ void AlertListModel::setReminders(const std::vector<DueReminder>& reminders)
         m_reminders = reminders;
         standNow();
         endInsertRows();
+    }
+}
+
+void AlertListModel::setTimes(const QHash<qint32, int>& times)
+{
+    if (m_times == times) {
+        return;
+    }
+    m_times = times;
+    if (rowCount() > 0) {
+        emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
     }
 }
 
@@ -105,13 +115,21 @@ QString AlertListModel::cellText(int row, int field) const
     switch (field) {
     case Id:
         return QString::number(at(row).id);
-    case Name:
-        return at(row).name;
+    case Name: {
+        const QString missed = missedTimes(row);
+        return missed.isEmpty() ? at(row).name : tr("%1 (%2)").arg(at(row).name, missed);
+    }
     case DueDate:
         return dateAndLongTime(at(row).dueDate);
     default:
         return {};
     }
+}
+
+QString AlertListModel::missedTimes(int row) const
+{
+    const auto reminder = momentFromStoredText(at(row).reminder.toStdString());
+    return reminder ? missedText(m_times.value(at(row).id), *reminder, clock().now()) : QString();
 }
 
 int AlertListModel::cellIcon(int row, int field) const

@@ -3,6 +3,7 @@
 #include "data/ReminderChecker.h"
 #include "widgets/TaskGridModel.h"
 
+#include <QHash>
 #include <vector>
 
 /// The due reminders in the alert window, in the order of the query.
@@ -19,6 +20,8 @@ public:
     void createColumns();
     /// Replaces all rows; the columns and their widths stay.
     void setReminders(const std::vector<DueReminder>& reminders);
+    /// How often reminders of repeating tasks have come, by the ids of the tasks.
+    void setTimes(const QHash<qint32, int>& times);
     /// Removes these rows, given from the top.
     void removeReminders(const QList<int>& rows);
     /// Whether exactly these reminders are listed, in this order.
@@ -30,6 +33,7 @@ public:
     /// and something due is not listed.
     int shownCount(const std::vector<DueReminder>& due, bool visible) const;
     qint32 idAt(int row) const override { return at(row).id; }
+    const std::vector<DueReminder>& reminders() const { return m_reminders; }
     QList<qint32> ids(const QList<int>& rows) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
@@ -43,7 +47,10 @@ protected:
     Moment dueAt(int row) const override { return at(row).dueDate; }
 
 private:
+    /// "4 times since Monday"; empty for once.
+    QString missedTimes(int row) const;
     const DueReminder& at(int row) const { return m_reminders[static_cast<std::size_t>(row)]; }
 
     std::vector<DueReminder> m_reminders;
+    QHash<qint32, int> m_times;
 };

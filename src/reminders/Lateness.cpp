@@ -1,6 +1,9 @@
 #include "reminders/Lateness.h"
 
+#include "widgets/MomentTexts.h"
+
 #include <QCoreApplication>
+#include <QLocale>
 
 using namespace std::chrono_literals;
 
@@ -30,4 +33,17 @@ QString latenessText(Moment reminder, Moment now)
     }
     const int n = static_cast<int>(late / 24h);
     return n == 1 ? Lateness::tr("1 day late") : Lateness::tr("%n days late", nullptr, n);
+}
+
+QString missedText(int times, Moment first, Moment now)
+{
+    if (times < 2) {
+        return {};
+    }
+    // The same weekday a week ago would be taken for today.
+    const bool isOfThisWeek = startOfDay(now) - startOfDay(first) < std::chrono::days(7);
+    const QString since = isOfThisWeek
+        ? QLocale().standaloneDayName(toQDate(first).dayOfWeek(), QLocale::LongFormat)
+        : shortDate(first);
+    return Lateness::tr("%n times since %1", nullptr, times).arg(since);
 }

@@ -63,6 +63,8 @@ private:
     void connectControls();
 
     void check(bool isOvertaken = false);
+    /// Shows how often the listed reminders of repeating tasks have come.
+    void countTimes();
     void redraw(const std::vector<DueReminder>& due);
     void fireOnce(const DueReminder& reminder);
     void fire(const DueReminder& reminder);

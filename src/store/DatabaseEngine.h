@@ -7,6 +7,7 @@ class ChangeSet;
 class Clock;
 class ForeignChanges;
 class Progress;
+class Repeating;
 class UnchangedFile;
 
 /// Sees every statement of the program. Called on the thread that uses the connection.
@@ -86,4 +87,6 @@ struct DatabaseEngine {
     /// The file is only read, whatever permissions it has, and nothing beside it is read, made or locked.
     /// Nobody may change it meanwhile.
     bool isImmutable = false;
+    /// Not owned; null where nothing repeats.
+    Repeating* repeating = nullptr;
 };

@@ -19,6 +19,17 @@ public:
 /// The local date and time of an instant, in the time zone in force at the call.
 Moment localMoment(std::chrono::sys_seconds instant);
 
+/// A clock that stands.
+class FixedClock final : public Clock
+{
+public:
+    explicit FixedClock(Moment moment) : m_moment(moment) { }
+    Moment now() const override { return m_moment; }
+
+private:
+    Moment m_moment;
+};
+
 /// The machine's clock.
 class SystemClock final : public Clock
 {

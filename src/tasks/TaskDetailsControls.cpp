@@ -54,6 +54,7 @@ TaskDetailsControls::TaskDetailsControls(QWidget& form, const Clock& clock)
       cmbPeriorities(named(new ComboBox(&form), "cmbPeriorities")),
       framReminderLater(named(new QGroupBox(&form), "framReminderLater")),
       chkEnableReminder(named(new CheckBox(framReminderLater), "chkEnableReminder")),
+      cmbRepeat(named(new ComboBox(framReminderLater), "cmbRepeat")),
       lblReminderDate(named(new QLabel(framReminderLater), "lblReminderDate")),
       dtpReminderDate(named(new QDateEdit(framReminderLater), "dtpReminderDate")),
       lblReminderTime(named(new QLabel(framReminderLater), "lblReminderTime")),
@@ -81,8 +82,9 @@ TaskDetailsControls::TaskDetailsControls(QWidget& form, const Clock& clock)
 QList<QWidget*> TaskDetailsControls::inTabOrder() const
 {
     return {txtTask, cmbCategories, txtDescription, dtpDueDate, dtpDueTime, btnSetDue, cmbStatus,
-        cmbPeriorities, chkEnableReminder, dtpReminderDate, dtpReminderTime, btnSetReminder, chkReminderSound,
-        txtReminderSound, btnSoundBrowse, chkReminderFile, txtReminderFile, btnFileBrowse, btnOk, btnCancel};
+        cmbPeriorities, chkEnableReminder, cmbRepeat, dtpReminderDate, dtpReminderTime, btnSetReminder,
+        chkReminderSound, txtReminderSound, btnSoundBrowse, chkReminderFile, txtReminderFile, btnFileBrowse,
+        btnOk, btnCancel};
 }
 
 std::optional<qint16> TaskDetailsControls::selectedCategory() const
@@ -108,6 +110,7 @@ TaskInput TaskDetailsControls::input() const
     entered.due = composeMoment(dtpDueDate->date(), dtpDueTime->time());
     entered.status = selectedNumber(*cmbStatus, TaskStatus::NotStarted);
     entered.periority = selectedNumber(*cmbPeriorities, TaskPeriority::Normal);
+    entered.rule = cmbRepeat->currentData().toString().toStdString();
     entered.reminderOn = chkEnableReminder->isChecked();
     entered.reminder = composeMoment(dtpReminderDate->date(), dtpReminderTime->time());
     entered.hasSound = chkReminderSound->isChecked();
@@ -126,6 +129,8 @@ void TaskDetailsControls::setUp(const Clock& clock)
     txtDescription->setMinimumHeight(txtDescription->fontMetrics().lineSpacing() * 5);
     // A long category name must not widen the dialog.
     cmbCategories->keepNarrow(20);
+    // Nor must an entry in words; the list shows it whole.
+    cmbRepeat->keepNarrow(8);
     cmbStatus->keepEntriesWhole();
     cmbPeriorities->keepEntriesWhole();
     for (QDateEdit* picker : {dtpDueDate, dtpReminderDate}) {
@@ -175,6 +180,7 @@ void TaskDetailsControls::setAccessibleNames()
     btnSetReminder->setAccessibleName(tr("Set the reminder to"));
     btnSetReminder->setAccessibleDescription(
         tr("Switches the reminder on; it follows the due moment until it is changed"));
+    cmbRepeat->setAccessibleName(tr("Repeat"));
     chkReminderSound->setAccessibleName(tr("Reminder sound"));
     txtReminderSound->setAccessibleName(tr("Reminder sound file"));
     btnSoundBrowse->setAccessibleName(tr("Browse for a reminder sound"));
@@ -234,7 +240,13 @@ void TaskDetailsControls::layOut(QWidget& form)
 void TaskDetailsControls::layOutReminder()
 {
     auto* grid = new QGridLayout(framReminderLater);
-    grid->addWidget(chkEnableReminder, 0, 0, 1, 4);
+    auto* first = new QHBoxLayout;
+    first->addWidget(chkEnableReminder);
+    first->addStretch();
+    first->addWidget(named(labelFor(cmbRepeat, tr("Repeat tas&k:"), framReminderLater), "lblRepeat"));
+    grid->addLayout(first, 0, 0, 1, 2);
+    // Below its label it would be too narrow for its entries.
+    grid->addWidget(cmbRepeat, 0, 2, 1, 2);
     addLabel(*grid, 1, 0, lblReminderDate, tr("&Reminder date:"), dtpReminderDate);
     grid->addWidget(dtpReminderDate, 1, 1);
     addLabel(*grid, 1, 2, lblReminderTime, tr("Reminder t&ime:"), dtpReminderTime);

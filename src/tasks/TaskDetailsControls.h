@@ -40,6 +40,7 @@ public:
     ComboBox* cmbPeriorities;
     QGroupBox* framReminderLater;
     QCheckBox* chkEnableReminder;
+    ComboBox* cmbRepeat; ///< each entry has its rule as its data
     QLabel* lblReminderDate;
     QDateEdit* dtpReminderDate;
     QLabel* lblReminderTime;

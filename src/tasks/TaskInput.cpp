@@ -25,6 +25,11 @@ QString nameOf(const QString& text)
     return line.trimmed();
 }
 
+std::string ruleIn(const std::optional<Repeat>& repeat)
+{
+    return repeat ? repeat->rule : std::string();
+}
+
 /// Without blanks around it; tabs and line breaks belong to the text.
 QString descriptionOf(const QString& text)
 {
@@ -59,6 +64,19 @@ void TaskInput::followReminder(EditedTask& edited, const ClsTask& stored)
     reminder = edited.reminder = stored.reminderDateTime();
 }
 
+void TaskInput::followRepeat(EditedTask& edited, const ClsTask& stored)
+{
+    const bool concernsIt = edited.repeat || stored.repeat();
+    const bool isLeftAlone = rule == ruleIn(edited.repeat) && due == toMinute(edited.due);
+    if (!concernsIt || !isLeftAlone || status == TaskStatus::Completed) {
+        return;
+    }
+    edited.repeat = stored.repeat();
+    edited.due = stored.DueDateTime();
+    rule = ruleIn(edited.repeat);
+    due = toMinute(edited.due);
+}
+
 bool TaskInput::reminderMustLieAhead(const std::optional<EditedTask>& edited) const
 {
     return !edited || reminder != edited->reminder || !edited->reminderOn;
@@ -85,6 +103,28 @@ std::optional<Refusal> TaskInput::refusal(const std::optional<EditedTask>& edite
     return std::nullopt;
 }
 
+std::optional<Repeat> TaskInput::repeat(const std::optional<EditedTask>& edited) const
+{
+    if (rule.empty()) {
+        return std::nullopt;
+    }
+    const std::chrono::minutes lead = std::chrono::floor<std::chrono::minutes>(due - reminder);
+    if (!edited || !edited->repeat) {
+        return Repeat{rule, due, reminderOn ? lead : std::chrono::minutes(0), 0};
+    }
+    Repeat repeat = *edited->repeat;
+    const bool isSetByUser = reminder != edited->reminder || (reminderOn && !edited->reminderOn);
+    if (rule != repeat.rule || due != toMinute(edited->due)) {
+        // One that was put off, or is that of a later time already, does not tell the lead.
+        const bool isOfThisTime = reminderOn && edited->due - edited->reminder == repeat.lead;
+        return Repeat{rule, due, isSetByUser || isOfThisTime ? lead : repeat.lead, 0};
+    }
+    if (isSetByUser) {
+        repeat.lead = lead;
+    }
+    return repeat;
+}
+
 ClsTask TaskInput::toTask(const DatabaseEngine& engine, const std::optional<EditedTask>& edited) const
 {
     ClsTask task(engine);
@@ -94,6 +134,7 @@ ClsTask TaskInput::toTask(const DatabaseEngine& engine, const std::optional<Edit
     task.setPeriority(periority);
     task.setReminderOn(reminderOn);
     task.setReminderDateTime(reminder);
+    task.setRepeat(repeat(edited));
     if (hasFile) {
         task.setReminderFile(file);
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "data/ClsTask.h"
+#include "data/RepeatRules.h"
 #include "data/TaskCodes.h"
 #include "system/Moment.h"
 
@@ -12,6 +13,8 @@ struct EditedTask {
     qint32 id = 0;
     bool reminderOn = false; ///< as loaded
     Moment reminder{}; ///< as loaded, with its seconds
+    Moment due{}; ///< as loaded, with its seconds
+    std::optional<Repeat> repeat = {}; ///< as loaded; none for a task that does not repeat
 };
 
 /// The control that gets the focus after a refusal.
@@ -30,6 +33,7 @@ struct TaskInput {
     Moment due{}; ///< whole minutes
     qint32 status = TaskStatus::NotStarted;
     qint32 periority = TaskPeriority::Normal;
+    std::string rule; ///< how the task repeats, as in Repeat; empty for never
     bool reminderOn = false;
     Moment reminder{}; ///< whole minutes
     bool hasSound = false;
@@ -44,6 +48,9 @@ struct TaskInput {
     /// If the user has left the reminder as it was loaded, takes over what the alert has done to the stored
     /// one since, in `edited` as well: that is no change by the user.
     void followReminder(EditedTask& edited, const ClsTask& stored);
+    /// The same with how the task repeats, when it has moved on since. Not when the user completes it: that
+    /// is meant for the due moment that is shown.
+    void followRepeat(EditedTask& edited, const ClsTask& stored);
 
     /// The first objection to this input, if any. `edited` is empty for a new task.
     std::optional<Refusal> refusal(const std::optional<EditedTask>& edited, Moment now) const;
@@ -51,6 +58,9 @@ struct TaskInput {
     /// The task to store; the input must have no objection. `DateChanged` is set when an edited task has
     /// another reminder moment.
     ClsTask toTask(const DatabaseEngine& engine, const std::optional<EditedTask>& edited) const;
+    /// How the task is to repeat: as before, from where it was, while rule and due moment are those loaded;
+    /// else from the due moment on. None for never.
+    std::optional<Repeat> repeat(const std::optional<EditedTask>& edited) const;
 
 private:
     bool reminderMustLieAhead(const std::optional<EditedTask>& edited) const;

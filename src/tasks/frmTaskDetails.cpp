@@ -51,7 +51,7 @@ void selectNumberIfListed(QComboBox& combo, qint32 number)
 
 frmTaskDetails::frmTaskDetails(const FormServices& services, const TaskDetailsHost& host)
     : QWidget(nullptr, Qt::Dialog), m_services(services), m_host(host), m_controls(*this, services.clock),
-      m_moments(m_controls, services.clock)
+      m_moments(m_controls, services.clock), m_repeat(*this, m_controls, services)
 {
     setObjectName(QStringLiteral("frmTaskDetails"));
     setWindowTitle(tr("Task Details"));
@@ -60,6 +60,7 @@ frmTaskDetails::frmTaskDetails(const FormServices& services, const TaskDetailsHo
     const Moment now = m_services.clock.now();
     setPickers(*m_controls.dtpDueDate, *m_controls.dtpDueTime, now);
     setPickers(*m_controls.dtpReminderDate, *m_controls.dtpReminderTime, now);
+    m_repeat.reset();
     connectControls();
 }
 
@@ -125,10 +126,9 @@ void frmTaskDetails::EmptyForm()
     setPath(*m_controls.chkReminderFile, *m_controls.txtReminderFile, {});
     setPath(*m_controls.chkReminderSound, *m_controls.txtReminderSound, {});
     enableReminderControls();
-    m_tag.clear();
-    m_loadedReminderOn = false;
-    m_loadedReminder = {};
+    m_edited.reset();
     m_moments.forget();
+    m_repeat.reset();
     noteFilled();
 }
 
@@ -139,7 +139,8 @@ void frmTaskDetails::SetTag(qint16 Id)
         throw RuntimeError(tr("The task no longer exists."));
     }
     EmptyForm();
-    m_tag = QString::number(Id);
+    m_edited =
+        EditedTask{Id, task->ReminderOn(), task->reminderDateTime(), task->DueDateTime(), task->repeat()};
     fillFrom(*task);
 }
 
@@ -155,12 +156,13 @@ void frmTaskDetails::fillFrom(const ClsTask& task)
     setPath(*m_controls.chkReminderSound, *m_controls.txtReminderSound, task.ReminderSound());
     setPath(*m_controls.chkReminderFile, *m_controls.txtReminderFile, task.ReminderFile());
 
-    m_loadedReminderOn = task.ReminderOn();
-    m_controls.chkEnableReminder->setChecked(m_loadedReminderOn);
+    if (task.repeat()) {
+        m_repeat.load(*task.repeat());
+    }
+    m_controls.chkEnableReminder->setChecked(task.ReminderOn());
     chkEnableReminder_Click();
     // After setting the check box, whose handler copies the due moment into the reminder.
-    m_loadedReminder = task.reminderDateTime();
-    setPickers(*m_controls.dtpReminderDate, *m_controls.dtpReminderTime, toMinute(m_loadedReminder));
+    setPickers(*m_controls.dtpReminderDate, *m_controls.dtpReminderTime, toMinute(task.reminderDateTime()));
     noteFilled();
 }
 
@@ -256,7 +258,7 @@ void frmTaskDetails::btnOk_Click()
 bool frmTaskDetails::save()
 {
     const TaskInput entered = m_controls.input();
-    if (const auto refusal = entered.refusal(edited(), m_services.clock.now())) {
+    if (const auto refusal = entered.refusal(m_edited, m_services.clock.now())) {
         m_services.messages.tell(this, MessageBoxes::Icon::Exclamation, refusal->message);
         controlOf(refusal->field)->setFocus();
         return false;
@@ -286,18 +288,10 @@ void frmTaskDetails::leave()
     hide();
 }
 
-std::optional<EditedTask> frmTaskDetails::edited() const
-{
-    if (m_tag.isEmpty()) {
-        return std::nullopt;
-    }
-    return EditedTask{m_tag.toInt(), m_loadedReminderOn, m_loadedReminder};
-}
-
 qint32 frmTaskDetails::store(TaskInput entered) const
 {
     const DatabaseEngine& engine = m_services.engine;
-    std::optional<EditedTask> task = edited();
+    std::optional<EditedTask> task = m_edited;
     if (!task) {
         return entered.toTask(engine, task).Add();
     }
@@ -307,6 +301,7 @@ qint32 frmTaskDetails::store(TaskInput entered) const
         throw RuntimeError(tr("The task no longer exists."));
     }
     entered.followReminder(*task, *stored);
+    entered.followRepeat(*task, *stored);
     entered.toTask(engine, task).Update();
     return task->id;
 }

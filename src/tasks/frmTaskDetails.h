@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tasks/MomentsByHand.h"
+#include "tasks/RepeatByHand.h"
 #include "tasks/TaskDetailsControls.h"
 #include "tasks/TaskInput.h"
 #include "widgets/FormServices.h"
@@ -28,9 +29,9 @@ public:
     /// DatabaseError; then the form is as it was.
     void SetTag(qint16 Id);
     /// Keeps the input; the next OK stores it as a new task.
-    void forgetTask() { m_tag.clear(); }
+    void forgetTask() { m_edited.reset(); }
     /// The decimal id of the edited task; empty for a new one.
-    QString tag() const { return m_tag; }
+    QString tag() const { return m_edited ? QString::number(m_edited->id) : QString(); }
     /// The name entered, in the form in which it is stored.
     QString taskName() const;
 
@@ -76,8 +77,6 @@ private:
     /// Hides the dialog and forgets unsaved input.
     void leave();
     void enableReminderControls();
-    /// None for a new task.
-    std::optional<EditedTask> edited() const;
     /// Returns the id of the stored task.
     qint32 store(TaskInput entered) const;
     QWidget* controlOf(TaskField field) const;
@@ -86,9 +85,8 @@ private:
     const TaskDetailsHost& m_host;
     TaskDetailsControls m_controls;
     MomentsByHand m_moments;
-    QString m_tag;
-    bool m_loadedReminderOn = false;
-    Moment m_loadedReminder{};
+    RepeatByHand m_repeat;
+    std::optional<EditedTask> m_edited; ///< none for a new task
     /// Empty while the form holds nothing that could be lost.
     std::optional<TaskInput> m_filled;
 };

@@ -7,6 +7,12 @@ QString ChangeTexts::deleted(int count)
     return count == 1 ? tr("1 task deleted") : tr("%n tasks deleted", nullptr, count);
 }
 
+QString ChangeTexts::movedOn(int count)
+{
+    return count == 1 ? tr("1 task moved on to its next time")
+                      : tr("%n tasks deleted this time", nullptr, count);
+}
+
 QString ChangeTexts::duplicated(int count)
 {
     return count == 1 ? tr("1 task duplicated") : tr("%n tasks duplicated", nullptr, count);

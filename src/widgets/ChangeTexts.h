@@ -10,6 +10,8 @@ class ChangeTexts
 
 public:
     static QString deleted(int count);
+    /// Of those that repeat only this time was deleted.
+    static QString movedOn(int count);
     static QString duplicated(int count);
     static QString completed(int count);
     /// Completed ones were set back to "Not Started".

@@ -24,10 +24,8 @@ QVariant GridModel::data(const QModelIndex& index, int role) const
     switch (role) {
     case Qt::DisplayRole:
         return shownPart(cellText(index.row(), field));
-    case Qt::DecorationRole: {
-        const int icon = cellIcon(index.row(), field);
-        return icon == NoIcon || m_images == nullptr ? QVariant() : QVariant(m_images->icon(icon));
-    }
+    case Qt::DecorationRole:
+        return cellPicture(index.row(), field);
     case Qt::AccessibleTextRole:
         return shownPart(wordOrText(index.row(), field));
     case Qt::AccessibleDescriptionRole:
@@ -47,6 +45,12 @@ QVariant GridModel::data(const QModelIndex& index, int role) const
     default:
         return {};
     }
+}
+
+QVariant GridModel::cellPicture(int row, int field) const
+{
+    const int icon = cellIcon(row, field);
+    return icon == NoIcon || m_images == nullptr ? QVariant() : QVariant(m_images->icon(icon));
 }
 
 QString GridModel::wordOrText(int row, int field) const

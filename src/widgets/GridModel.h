@@ -62,6 +62,8 @@ protected:
     virtual QString cellText(int row, int field) const = 0;
     /// The picture of a cell as an index into the image list, counted from 0, or NoIcon.
     virtual int cellIcon(int row, int field) const = 0;
+    /// The picture of a cell; that of `cellIcon`, where the list of pictures has it.
+    virtual QVariant cellPicture(int row, int field) const;
     /// The word for a cell that shows only a picture, for tool tips and screen readers; empty for none.
     virtual QString cellWord(int row, int field) const = 0;
     /// What the tool tip of a cell adds below its text or word, and what screen readers say as its

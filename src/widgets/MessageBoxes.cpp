@@ -8,6 +8,10 @@
 namespace
 {
 
+// Qt's own buttons, so that a style orders them as it does everywhere.
+constexpr QMessageBox::StandardButton ThisTime = QMessageBox::Apply;
+constexpr QMessageBox::StandardButton AllTimes = QMessageBox::YesToAll;
+
 void name(const QMessageBox& box, QMessageBox::StandardButton which, const QString& caption)
 {
     if (QAbstractButton* button = box.button(which)) {
@@ -27,6 +31,8 @@ QMessageBox::StandardButton show(QWidget* owner, QMessageBox::Icon icon, const Q
     name(box, QMessageBox::Save, MessageBoxes::tr("&Save"));
     name(box, QMessageBox::Discard, MessageBoxes::tr("&Discard"));
     name(box, QMessageBox::Cancel, MessageBoxes::tr("&Cancel"));
+    name(box, ThisTime, MessageBoxes::tr("&This Time"));
+    name(box, AllTimes, MessageBoxes::tr("&All Times"));
     box.setDefaultButton(byEnter);
     // So that it is not hidden by an owner that stays on top.
     if (owner != nullptr && owner->window()->windowFlags().testFlag(Qt::WindowStaysOnTopHint)) {
@@ -62,5 +68,18 @@ MessageBoxes::Unsaved ScreenMessageBoxes::askAboutUnsaved(QWidget* owner, const 
         return Unsaved::Discard;
     default:
         return Unsaved::Keep;
+    }
+}
+
+MessageBoxes::Times ScreenMessageBoxes::askWhichTimes(QWidget* owner, const QString& question)
+{
+    switch (show(owner, QMessageBox::Question, question, ThisTime | AllTimes | QMessageBox::Cancel,
+        QMessageBox::Cancel)) {
+    case ThisTime:
+        return Times::This;
+    case AllTimes:
+        return Times::All;
+    default:
+        return Times::None;
     }
 }

@@ -13,6 +13,8 @@ public:
     enum class Icon { None, Information, Exclamation };
     /// The user's answer to a question about unsaved input.
     enum class Unsaved { Save, Discard, Keep };
+    /// Which times of something that repeats are meant.
+    enum class Times { This, All, None };
 
     MessageBoxes() = default;
     virtual ~MessageBoxes() = default;
@@ -26,6 +28,8 @@ public:
     /// Asks about unsaved input, with the buttons Save, Discard and Cancel. Cancel, Enter and Escape mean
     /// Keep, which loses nothing.
     virtual Unsaved askAboutUnsaved(QWidget* owner, const QString& text) = 0;
+    /// Asks with the buttons "This Time", "All Times" and Cancel. Cancel, Enter and Escape mean None.
+    virtual Times askWhichTimes(QWidget* owner, const QString& question) = 0;
 };
 
 /// The message boxes on the screen.
@@ -35,4 +39,5 @@ public:
     void tell(QWidget* owner, Icon icon, const QString& text) override;
     bool ask(QWidget* owner, const QString& question) override;
     Unsaved askAboutUnsaved(QWidget* owner, const QString& text) override;
+    Times askWhichTimes(QWidget* owner, const QString& question) override;
 };

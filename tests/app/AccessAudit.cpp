@@ -7,6 +7,7 @@
 #include <QAccessibleActionInterface>
 #include <QApplication>
 #include <QCalendarWidget>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QGraphicsView>
 #include <QGroupBox>
@@ -143,6 +144,13 @@ bool hasKeyOfItsOwn(const QWidget* control, const QWidget& window)
     });
 }
 
+/// One of several check boxes in a frame whose title has the mnemonic of the first.
+bool isInFrameWithKey(const QAbstractButton* button)
+{
+    const auto* frame = qobject_cast<const QGroupBox*>(button->parentWidget());
+    return frame != nullptr && isOneOf<QCheckBox>(button) && !mnemonicOf(frame->title()).isEmpty();
+}
+
 /// The Tab key visits one of a group of exclusive options; the arrow keys go to the others.
 bool areOptionsOfOneGroup(const QWidget* one, const QWidget* other)
 {
@@ -195,7 +203,7 @@ void checkLabels(const Controls& controls, QWidget& window, QStringList& faults)
         }
         const auto* button = qobject_cast<const QAbstractButton*>(control);
         if (button != nullptr && !button->text().isEmpty() && button->shortcut().isEmpty()
-            && !hasLeadingLabel(button, window)) {
+            && !hasLeadingLabel(button, window) && !isInFrameWithKey(button)) {
             faults.append(nameOf(button) + QLatin1String(" has no key"));
         }
     }

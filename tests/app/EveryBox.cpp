@@ -147,6 +147,10 @@ void visitEveryBox(QWidget& owner, const Visit& visit)
         boxes.askAboutUnsaved(
             &owner, QStringLiteral("The changes to '%1' are not saved.").arg(QString(250, u'w')));
     });
+    visitOpened(QStringLiteral("question about times"), visit, [&] {
+        boxes.askWhichTimes(
+            &owner, QStringLiteral("The task '%1' repeats. This time, or all?").arg(QString(250, u'w')));
+    });
     visitOpened(QStringLiteral("message without a picture"), visit,
         [&] { boxes.tell(&owner, MessageBoxes::Icon::None, text); });
     visitOpened(QStringLiteral("information"), visit,

@@ -11,16 +11,19 @@
 #include "report/PreviewWindow.h"
 #include "settings/frmCopies.h"
 #include "support/TestPictures.h"
+#include "tasks/frmRepeat.h"
 #include "tasks/frmTaskDetails.h"
 #include "tests/app/EveryBox.h"
 #include "tests/exchange/window/RecordedExchange.h"
 #include "tests/help/RecordedHelpHost.h"
 #include "tests/report/RecordedReportHost.h"
 #include "tests/report/ReportSamples.h"
+#include "widgets/ComboBox.h"
 #include "widgets/QuietLine.h"
 #include "widgets/WindowPlacement.h"
 
 #include <QCheckBox>
+#include <QDateEdit>
 #include <QListView>
 #include <QRadioButton>
 #include <QScrollBar>
@@ -56,6 +59,21 @@ void visitPages(SkinnedProgram& f, const Visit& visit)
     visit(QStringLiteral("page with what was undone"), f.main());
 }
 
+void visitRepeats(SkinnedProgram& f, const Visit& visit)
+{
+    auto* repeats = f.control<ComboBox>(f.program.taskDetails(), "cmbRepeat");
+    repeats->choose(repeats->count() - 1);
+    auto& window = *openWindow<frmRepeat>();
+    settleWindows();
+    visit(QStringLiteral("repeating"), window);
+    f.control<ComboBox>(window, "cmbEnd")->setCurrentIndex(1);
+    f.control<QDateEdit>(window, "dtpLastDay")->setDate(QDate(2020, 1, 1));
+    settleWindows();
+    visit(QStringLiteral("repeating that cannot be"), window);
+    f.press(window, "btnCancel");
+    settleWindows();
+}
+
 void visitDialogs(SkinnedProgram& f, const Visit& visit)
 {
     f.press(f.main(), "btnTaskAdd");
@@ -67,6 +85,7 @@ void visitDialogs(SkinnedProgram& f, const Visit& visit)
     f.control<QCheckBox>(task, "chkReminderFile")->click();
     settleWindows();
     visit(QStringLiteral("task with a reminder"), task);
+    visitRepeats(f, visit);
     task.hide();
     f.press(f.main(), "btnAddCat");
     frmCategoryDetails& category = f.program.categoryDetails();

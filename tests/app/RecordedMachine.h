@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Program.h"
+#include "support/FakeRepeatRules.h"
 #include "support/MemoryRegistry.h"
 #include "support/RecordedHelpWindow.h"
 #include "support/RecordedReportWindow.h"
@@ -57,7 +58,8 @@ struct RecordedMachine {
                 reportWindow = window.get();
                 return window;
             },
-            [this] { return std::make_unique<RecordedExchange>(exchange); }, {}, shippedFolder};
+            [this] { return std::make_unique<RecordedExchange>(exchange); }, {}, shippedFolder, {},
+            fakeRepeatRules()};
     }
     void setting(const QString& column, int value) const
     {

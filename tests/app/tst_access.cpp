@@ -4,8 +4,10 @@
 #include "tests/app/EveryWindow.h"
 #include "widgets/ComboBox.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -112,6 +114,26 @@ private slots:
                 "the Tab key never comes to &four"}));
     }
 
+    void aFramesKeyLeadsToItsCheckBoxes()
+    {
+        QWidget window;
+        auto* layout = new QVBoxLayout(&window);
+        auto* frame = new QGroupBox(QStringLiteral("&Days"));
+        auto* days = new QVBoxLayout(frame);
+        for (const char* day : {"Monday", "Tuesday"}) {
+            days->addWidget(new QCheckBox(QLatin1String(day)));
+            days->itemAt(days->count() - 1)->widget()->setObjectName(QLatin1String(day));
+        }
+        layout->addWidget(frame);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QCOMPARE(accessFaults(window), QStringList());
+        QTest::keyClick(&window, Qt::Key_D, Qt::AltModifier);
+        QCOMPARE(window.focusWidget()->objectName(), QStringLiteral("Monday"));
+        frame->setTitle(QStringLiteral("Days"));
+        QCOMPARE(accessFaults(window), QStringList({"Monday has no key", "Tuesday has no key"}));
+    }
+
     void whatReadsFromLeftToRightIsReachedSoInAProgramThatReadsTheOtherWay()
     {
         QWidget window;
@@ -163,8 +185,8 @@ private slots:
             controls += seen;
         });
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
-        QCOMPARE(windows, 31);
-        QVERIFY2(controls >= 260, qPrintable(QString::number(controls)));
+        QCOMPARE(windows, 33);
+        QVERIFY2(controls >= 290, qPrintable(QString::number(controls)));
     }
 
 private:

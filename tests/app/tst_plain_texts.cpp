@@ -320,6 +320,8 @@ private slots:
         boxes.ask(nullptr, Planted);
         lookWhileOpen();
         boxes.askAboutUnsaved(nullptr, Planted);
+        lookWhileOpen();
+        boxes.askWhichTimes(nullptr, Planted);
         ScreenErrorReport errors([] {});
         lookWhileOpen();
         errors.report(Planted);

@@ -56,8 +56,9 @@ constexpr double OwedByMarks = 3;
 
 const QStringList Windows{"page Maintenance", "page Settings", "page Categories", "page Tasks",
     "page with dates", "page with what was done", "page with what was undone", "new task",
-    "task with a reminder", "new category", "category with a picture", "category whose name is locked",
-    "copies", "alert", "alert with a selected row", "about", "question", "question about unsaved input",
+    "task with a reminder", "repeating", "repeating that cannot be", "new category",
+    "category with a picture", "category whose name is locked", "copies", "alert",
+    "alert with a selected row", "about", "question", "question about unsaved input",
     "message without a picture", "information", "exclamation", "error report", "report of a failed start",
     "progress", "help contents", "help index", "help search", "help topic with tables",
     "help without its file", "report", "import"};
@@ -67,9 +68,9 @@ const QStringList QtBoxes{"dialog that opens a file", "dialog that saves a file"
 
 const QStringList PopUps{"list of cmbCategories", "list of cmbStatus", "list of cmbSort", "list of cmbSkins",
     "list of cmbCategoriesMaintenance", "list of cmbStatusMaintenance", "mnuList", "mnuAlert",
-    "list of cmbCategories", "list of cmbStatus", "list of cmbPeriorities", "menu of a line",
-    "menu of several lines", "usual moments", "menu of a topic", "list of cmbPaper", "list of cmbOrientation",
-    "list of cmbZoom"};
+    "list of cmbCategories", "list of cmbStatus", "list of cmbPeriorities", "list of cmbRepeat",
+    "menu of a line", "menu of several lines", "usual moments", "menu of a topic", "list of cmbPaper",
+    "list of cmbOrientation", "list of cmbZoom"};
 
 /// Looks at one window after the other.
 struct Reader {

@@ -75,6 +75,22 @@ private slots:
         QCOMPARE(TaskChoices({aState(1), aState(2)}).deleteQuestion(),
             QStringLiteral("Are you sure you want to delete 2 tasks?"));
     }
+
+    void ofTasksThatRepeatItIsAskedWhichTimesAreMeant()
+    {
+        TaskState repeating = aState(2);
+        repeating.repeats = true;
+        QCOMPARE(TaskChoices({aState(1)}).repeatingCount(), 0);
+        QCOMPARE(TaskChoices({repeating}).deleteQuestion(),
+            QStringLiteral("This task repeats. Do you want to delete it this time, or all times?"));
+        const TaskChoices both({aState(1), repeating});
+        QCOMPARE(both.repeatingCount(), 1);
+        QCOMPARE(both.deleteQuestion(),
+            QStringLiteral("Some of the tasks repeat. Do you want to delete those this time, or all times?\n"
+                           "The others are deleted."));
+        QCOMPARE(TaskChoices({repeating, repeating}).deleteQuestion(),
+            QStringLiteral("These tasks repeat. Do you want to delete them this time, or all times?"));
+    }
 };
 
 AMBERTASK_TEST_MAIN(tst_task_choices)

@@ -5,6 +5,7 @@
 #include "reminders/frmAlerts.h"
 #include "report/PreviewWindow.h"
 #include "support/TestMain.h"
+#include "tasks/frmRepeat.h"
 #include "tasks/frmTaskDetails.h"
 #include "tests/app/EveryWindow.h"
 #include "tests/app/Fit.h"
@@ -12,6 +13,7 @@
 #include "tests/app/WindowTexts.h"
 #include "tests/help/RecordedHelpHost.h"
 #include "tests/report/RecordedReportHost.h"
+#include "widgets/ComboBox.h"
 #include "widgets/GridView.h"
 #include "widgets/MessageBoxes.h"
 #include "widgets/ScreenErrorReport.h"
@@ -22,6 +24,7 @@
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLocale>
 #include <QMenu>
 #include <QRadioButton>
 #include <QScreen>
@@ -50,13 +53,18 @@ struct TranslatedProgram {
     ProgramFixture f;
 };
 
-/// The texts that stand as they are in every language: names of the program, of categories and of skins.
+/// The texts that stand as they are in every language: names of the program, of categories and of skins, and
+/// those of weekdays, which are the system's.
 QStringList names()
 {
-    return {QStringLiteral("Ambertask"), QStringLiteral("Amber"), QStringLiteral("Organizer"),
+    QStringList names{QStringLiteral("Ambertask"), QStringLiteral("Amber"), QStringLiteral("Organizer"),
         QStringLiteral("task"), QStringLiteral("Appointments"), QStringLiteral("Personal"),
         QStringLiteral("Shopping"), QStringLiteral("Work"), QStringLiteral("Aqua"),
         QStringLiteral("https://www.ambertask.example")};
+    for (int day = Qt::Monday; day <= Qt::Sunday; ++day) {
+        names.append(QLocale().standaloneDayName(day));
+    }
+    return names;
 }
 
 /// The texts of a window that have not come through translation.
@@ -173,6 +181,8 @@ private slots:
     void thePagesAreGood();
     void theTaskDialogIsGood_data() { languages(); }
     void theTaskDialogIsGood();
+    void theWindowForRepeatsIsGood_data() { languages(); }
+    void theWindowForRepeatsIsGood();
     void theCategoryDialogIsGood_data() { languages(); }
     void theCategoryDialogIsGood();
     void theAlertIsGood_data() { languages(); }
@@ -291,7 +301,7 @@ void TranslatedWindowsTest::everyWindowFitsASmallScreen()
         }
     });
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
-    QCOMPARE(seen, 31);
+    QCOMPARE(seen, 33);
 }
 
 void TranslatedWindowsTest::thePagesAreGood()
@@ -312,6 +322,16 @@ void TranslatedWindowsTest::theTaskDialogIsGood()
     TranslatedProgram t(language);
     t.f.press(t.f.main(), "btnTaskAdd");
     EXPECT_GOOD(t.f.program.taskDetails(), language);
+}
+
+void TranslatedWindowsTest::theWindowForRepeatsIsGood()
+{
+    QFETCH(const QString, language);
+    TranslatedProgram t(language);
+    t.f.press(t.f.main(), "btnTaskAdd");
+    auto* repeats = t.f.control<ComboBox>(t.f.program.taskDetails(), "cmbRepeat");
+    repeats->choose(repeats->count() - 1);
+    EXPECT_GOOD(*openWindow<frmRepeat>(), language);
 }
 
 void TranslatedWindowsTest::theCategoryDialogIsGood()
@@ -399,6 +419,7 @@ void TranslatedWindowsTest::boxesAreGood()
     const QString text = QStringLiteral("[1]");
     QCOMPARE(faultsOfBox(language, [&] { boxes.ask(nullptr, text); }), QStringList());
     QCOMPARE(faultsOfBox(language, [&] { boxes.askAboutUnsaved(nullptr, text); }), QStringList());
+    QCOMPARE(faultsOfBox(language, [&] { boxes.askWhichTimes(nullptr, text); }), QStringList());
     QCOMPARE(faultsOfBox(language, [&] { boxes.tell(nullptr, MessageBoxes::Icon::Information, text); }),
         QStringList());
     QCOMPARE(faultsOfBox(language, [&] { errors.report(text); }), QStringList());

@@ -3,6 +3,7 @@
 #include "data/TaskCodes.h"
 #include "store/DatabaseError.h"
 #include "support/CaughtError.h"
+#include "support/FakeRepeatRules.h"
 #include "support/OlderDataFile.h"
 #include "support/TestMain.h"
 
@@ -80,6 +81,9 @@ private slots:
     void whenNewIdsAreWanted();
     void newIdsFollowEachOtherFromOneAndTheNextIsTheOneBehindThem();
     void newIdsChangeNoOtherColumnAndNoList();
+    void howTasksRepeatFollowsTheirNewIds();
+    void theLookTellsWhetherAnythingRepeats_data();
+    void theLookTellsWhetherAnythingRepeats();
     void anOlderFileGetsItsNewIdsAtOnce();
     void oneTaskWithTheLastIdGetsTheFirst();
     void idsBelowOneAreGivenAnew();
@@ -223,6 +227,60 @@ void DataFileRoadTest::newIdsChangeNoOtherColumnAndNoList()
     QCOMPARE(reminded(database), due);
     QCOMPARE(listed(database, TaskSort::None), made);
     QCOMPARE(listed(database, TaskSort::Status), byStatus);
+}
+
+void DataFileRoadTest::howTasksRepeatFollowsTheirNewIds()
+{
+    TestDatabase database;
+    addTasksUpTo(database, 100, 32767);
+    database.sql(
+        QStringLiteral("insert into repeats select task_id,task_name,'2026-01-15 10:00:00',15,3 from "
+                       "tasks where task_id%2=0 or task_id>30000; insert into repeats(of_task) values(4)"));
+    const QString all = QStringLiteral("select task_name,repeats.* from tasks join repeats on "
+                                       "task_id=of_task order by task_id");
+    const QList<QVariantList> before = database.rows(all);
+    QVERIFY(before.size() > 40);
+    bringDataFileUp(database.engine());
+    const QList<QVariantList> after = database.rows(all);
+    QCOMPARE(after.size(), before.size());
+    for (qsizetype i = 0; i < after.size(); ++i) {
+        QCOMPARE(after.at(i).at(0), after.at(i).at(2));
+        QCOMPARE(after.at(i).mid(2), before.at(i).mid(2));
+    }
+    // The rows of tasks that are gone are.
+    QCOMPARE(database.sql(QStringLiteral("select count(*) from repeats")).toInt(), after.size());
+}
+
+void DataFileRoadTest::theLookTellsWhetherAnythingRepeats_data()
+{
+    QTest::addColumn<QString>("sql");
+    QTest::addColumn<bool>("isUsed");
+    const QString row = QStringLiteral("insert into repeats(of_task,rule) values(1,'FREQ=DAILY');");
+    QTest::newRow("nothing") << QString() << false;
+    QTest::newRow("a task") << row << true;
+    QTest::newRow("an older file") << QStringLiteral("drop table repeats; pragma user_version=3") << false;
+    QTest::newRow("an older file that has the table")
+        << row + QStringLiteral("pragma user_version=3") << true;
+    QTest::newRow("a file that gets new ids")
+        << row + QStringLiteral("update tasks set task_id=30001; update repeats set of_task=30001") << true;
+}
+
+void DataFileRoadTest::theLookTellsWhetherAnythingRepeats()
+{
+    QFETCH(const QString, sql);
+    QFETCH(const bool, isUsed);
+    TestDatabase database;
+    aTask(database).add();
+    database.sql(sql);
+    Repeating repeating(missingRepeatRules());
+    repeating.setUsed(!isUsed);
+    DatabaseEngine engine = database.engine();
+    engine.repeating = &repeating;
+    if (isDataFileBehind(engine)) {
+        bringDataFileUp(engine);
+    }
+    QCOMPARE(repeating.isUsed(), isUsed);
+    QCOMPARE(database.statements().opened(), 0);
 }
 
 void DataFileRoadTest::anOlderFileGetsItsNewIdsAtOnce()

@@ -4,6 +4,7 @@ A control is a role and its captions; any of the captions will do.
 """
 MAIN = "Ambertask"
 TASK_DIALOG = "Task Details"
+REPEAT_WINDOW = "Repeat"
 CATEGORY_DIALOG = "Category Details"
 ABOUT = "About Ambertask"
 COPIES_WINDOW = "Restore from a Copy"
@@ -65,6 +66,7 @@ PAGES = {"Tasks": ("grid", "Tasks"), "Categories": CATEGORY_LIST, "Settings": SA
 TASK_NAME = ("text box", "Task", "Task name", "Name")
 TASK_DESCRIPTION = ("text box", "Description")
 TASK_CATEGORY = ("combo box", "Category")
+TASK_REPEAT = ("combo box", "Repeat task")
 DUE_TIME = ("picker", "Due time")
 TASK_STATUS = ("combo box", "Status")
 TASK_PRIORITY = ("combo box", "Priority")

@@ -2,6 +2,7 @@
 
 #include "data/TaskArchive.h"
 #include "exchange/TaskExchange.h"
+#include "support/FakeRepeatRules.h"
 #include "support/TestDatabase.h"
 
 #include <QBuffer>
@@ -9,14 +10,25 @@
 
 /// The exchange on a data file of its own. Short dates are day.month.year.
 struct ExchangeUnderTest {
+    enum class Rules { None, Daily };
+    /// With rules every so many days, or none at all.
+    explicit ExchangeUnderTest(Rules rules = Rules::None) : engine(database.engine())
+    {
+        engine.repeating = rules == Rules::Daily ? &repeating : nullptr;
+    }
+    ExchangeUnderTest(const ExchangeUnderTest&) = delete;
+    ExchangeUnderTest& operator=(const ExchangeUnderTest&) = delete;
+
     TestDatabase database;
+    Repeating repeating{fakeRepeatRules()};
+    DatabaseEngine engine;
     TaskExchange exchange{QStringLiteral("dd.MM.yyyy")};
 
     QByteArray exported(ExchangeFormat format, const ExportChoice& choice = {})
     {
         QBuffer buffer;
         buffer.open(QIODevice::WriteOnly);
-        exchange.exportTo(buffer, format, choice, database.engine(), nullptr);
+        exchange.exportTo(buffer, format, choice, engine, nullptr);
         return buffer.data();
     }
     ImportPlan planOf(const QByteArray& bytes, ExchangeFormat format = ExchangeFormat::ICalendar)
@@ -24,12 +36,9 @@ struct ExchangeUnderTest {
         QBuffer buffer;
         buffer.setData(bytes);
         buffer.open(QIODevice::ReadOnly);
-        return exchange.plan(buffer, format, database.engine(), nullptr);
+        return exchange.plan(buffer, format, engine, nullptr);
     }
-    ImportResult carriedOut(const ImportPlan& plan)
-    {
-        return exchange.carryOut(plan, database.engine(), nullptr);
-    }
+    ImportResult carriedOut(const ImportPlan& plan) { return exchange.carryOut(plan, engine, nullptr); }
     ImportResult imported(const QByteArray& bytes, ExchangeFormat format = ExchangeFormat::ICalendar)
     {
         return carriedOut(planOf(bytes, format));
@@ -37,7 +46,7 @@ struct ExchangeUnderTest {
     std::vector<TaskRecord> tasks() const
     {
         std::vector<TaskRecord> all;
-        TaskArchive::read(database.engine(), std::nullopt, [&all](TaskRecord& task) { all.push_back(task); });
+        TaskArchive::read(engine, std::nullopt, [&all](TaskRecord& task) { all.push_back(task); });
         return all;
     }
     /// The only task.

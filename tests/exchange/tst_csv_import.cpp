@@ -38,7 +38,7 @@ void CsvImportTest::theHeaderNamesAllFields()
     ExchangeUnderTest under;
     QCOMPARE(under.exported(Csv),
         QByteArray("\"Name\",\"Description\",\"Status\",\"Category\",\"Due\",\"Priority\",\"Reminder\","
-                   "\"Reminder time\",\"Sound\",\"File\",\"Played\",\"Dismissed\",\"UID\"\r\n"));
+                   "\"Reminder time\",\"Sound\",\"File\",\"Played\",\"Dismissed\",\"UID\",\"Repeat\"\r\n"));
     aTask(under.database)
         .named(QStringLiteral("Say \"hi\", Bob"))
         .withStatus(TaskStatus::Waiting)

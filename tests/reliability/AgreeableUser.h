@@ -22,6 +22,11 @@ public:
         asked.append(text);
         return Unsaved::Save;
     }
+    Times askWhichTimes(QWidget* /*owner*/, const QString& question) override
+    {
+        asked.append(question);
+        return Times::All;
+    }
     QString open(QWidget* /*owner*/, const FileDialogRequest& /*request*/) override { return file; }
     QString save(QWidget* /*owner*/, const FileDialogRequest& /*request*/) override { return file; }
     void report(const QString& text) override { errors.append(text); }

@@ -70,9 +70,11 @@ std::string dataFileState(const std::string& folder, const std::string& name)
     for (const char* table : {"settings", "categories", "tasks", "sqlite_sequence", "sqlite_schema"}) {
         state += std::string(table) + '\n' + rows(opened, std::string("select * from ") + table);
     }
-    // Files of earlier versions do not have it.
-    if (!rows(opened, "select 1 from sqlite_schema where name='task_origins'").empty()) {
-        state += "task_origins\n" + rows(opened, "select * from task_origins");
+    // Files of earlier versions do not have them.
+    for (const std::string table : {"task_origins", "repeats"}) {
+        if (!rows(opened, "select 1 from sqlite_schema where name='" + table + "'").empty()) {
+            state += table + '\n' + rows(opened, "select * from " + table);
+        }
     }
     return state;
 }

@@ -123,6 +123,7 @@ public:
     void tell(QWidget*, Icon, const QString&) override { ++shown; }
     bool ask(QWidget*, const QString&) override { return false; }
     Unsaved askAboutUnsaved(QWidget*, const QString&) override { return Unsaved::Keep; }
+    Times askWhichTimes(QWidget*, const QString&) override { return Times::None; }
     void report(const QString&) override { ++shown; }
     int shown = 0;
 };

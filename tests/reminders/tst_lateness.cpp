@@ -1,5 +1,6 @@
 #include "reminders/Lateness.h"
 #include "support/TestMain.h"
+#include "widgets/MomentTexts.h"
 
 #include <QTest>
 
@@ -40,6 +41,21 @@ private slots:
         QFETCH(qint64, seconds);
         const Moment now = toMoment(QDate(2026, 1, 15), QTime(10, 0));
         QTEST(latenessText(now - std::chrono::seconds(seconds), now), "text");
+    }
+
+    void howOftenAReminderHasComeIsToldFromTheSecondTimeOn()
+    {
+        // A Thursday.
+        const Moment now = toMoment(QDate(2026, 1, 15), QTime(10, 0));
+        QCOMPARE(missedText(0, now, now), QString());
+        QCOMPARE(missedText(1, now - 48h, now), QString());
+        QCOMPARE(missedText(4, now - 72h, now), QStringLiteral("4 times since Monday"));
+        QCOMPARE(missedText(2, now - 1h, now), QStringLiteral("2 times since Thursday"));
+        QCOMPARE(missedText(6, toMoment(QDate(2026, 1, 9), QTime(0, 0)), now),
+            QStringLiteral("6 times since Friday"));
+        // The Thursday before.
+        QCOMPARE(missedText(7, toMoment(QDate(2026, 1, 8), QTime(23, 59)), now),
+            QStringLiteral("7 times since ") + shortDate(toMoment(QDate(2026, 1, 8))));
     }
 };
 

@@ -80,6 +80,23 @@ private slots:
         QVERIFY(!f.text().contains(QLatin1String("garage")));
     }
 
+    void aTaskThatRepeatsSaysSoAboveItsDescription()
+    {
+        Fixture f;
+        aTask(f.services.database).named(QStringLiteral("once")).add();
+        f.print();
+        QVERIFY(!f.text().contains(QLatin1String("Repeats")));
+        aTask(f.services.database)
+            .named(QStringLiteral("daily"))
+            .describedAs(QStringLiteral("with water"))
+            .repeating()
+            .add();
+        f.print();
+        const QString text = f.text();
+        QVERIFY2(text.contains(QLatin1String("Repeats every day")), qPrintable(text));
+        QVERIFY(text.indexOf(QLatin1String("Repeats every day")) < text.indexOf(QLatin1String("with water")));
+    }
+
     void theTasksThatTheReportShowsAreSavedInItsOrder()
     {
         Fixture f;

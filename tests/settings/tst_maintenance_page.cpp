@@ -270,6 +270,7 @@ public:
         return true;
     }
     Unsaved askAboutUnsaved(QWidget*, const QString&) override { return Unsaved::Keep; }
+    Times askWhichTimes(QWidget*, const QString&) override { return Times::None; }
 
 private:
     std::function<void()> m_meddle;

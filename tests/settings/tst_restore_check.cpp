@@ -38,6 +38,15 @@ void TestRestoreCheck::aFileThatIsNoBackupChangesNothing_data()
         << QByteArray("drop table task_origins; create table task_origins(of_task integer primary key, uid, "
                       "properties); insert into task_origins(of_task) values(1)")
         << QByteArray();
+    QTest::newRow("no repeats") << QByteArray("drop table repeats") << QByteArray();
+    QTest::newRow("repeats without a column")
+        << QByteArray("alter table repeats drop column lead") << QByteArray();
+    QTest::newRow("repeats that would lose their leading zeros") << QByteArray(
+        "pragma writable_schema=1; update sqlite_schema set sql=replace(sql,'rule TEXT','rule "
+        "REAL') where name='repeats'") << QByteArray();
+    QTest::newRow("a repeat from no moment on")
+        << QByteArray("insert into repeats(of_task,rule,first_moment) values(1,'FREQ=DAILY','soon')")
+        << QByteArray();
     QTest::newRow("a column less") << QByteArray("alter table tasks drop column played") << QByteArray();
     QTest::newRow("another database") << QByteArray(
         "drop table tasks; drop table settings; drop table categories;"

@@ -61,6 +61,7 @@ public:
     }
     bool ask(QWidget* /*owner*/, const QString& /*question*/) override { return false; }
     Unsaved askAboutUnsaved(QWidget* /*owner*/, const QString& /*text*/) override { return Unsaved::Keep; }
+    Times askWhichTimes(QWidget* /*owner*/, const QString& /*question*/) override { return Times::None; }
 
     int told = 0;
     int mostOpen = 0;

@@ -11,16 +11,21 @@ struct OlderDataFile {
 
 inline constexpr OlderDataFile OlderDataFiles[] = {
     {"version 1, without the indexes for the filters",
-        "drop table task_origins; drop index tasks_by_status; drop index tasks_by_category; "
+        "drop table repeats; drop table task_origins; drop index tasks_by_status; drop index "
+        "tasks_by_category; "
         "pragma user_version=1"},
-    {"version 1, with all indexes", "drop table task_origins; pragma user_version=1"},
-    {"version 2", "drop table task_origins; pragma user_version=2"},
-    {"version 2, with the table already", "pragma user_version=2"},
+    {"version 1, with all indexes", "drop table repeats; drop table task_origins; pragma user_version=1"},
+    {"version 2", "drop table repeats; drop table task_origins; pragma user_version=2"},
+    {"version 2, with the tables already", "pragma user_version=2"},
+    {"version 3", "drop table repeats; pragma user_version=3"},
+    {"version 3, with the table already", "pragma user_version=3"},
     {"written anew by another tool",
-        "drop table task_origins; drop index tasks_by_status; drop index tasks_by_category; "
+        "drop table repeats; drop table task_origins; drop index tasks_by_status; drop index "
+        "tasks_by_category; "
         "pragma user_version=0"},
     {"written anew without any index",
-        "drop table task_origins; drop index tasks_by_reminder; drop index tasks_by_status; "
+        "drop table repeats; drop table task_origins; drop index tasks_by_reminder; drop index "
+        "tasks_by_status; "
         "drop index tasks_by_category; pragma user_version=0"},
     {"of a version that never was", "pragma user_version=-7"},
 };

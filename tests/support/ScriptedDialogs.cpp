@@ -39,6 +39,11 @@ void ScriptedDialogs::expectUnsaved(const QString& text, Unsaved answer)
     m_expected.enqueue({Kind::AskAboutUnsaved, text, Icon::None, false, {}, answer});
 }
 
+void ScriptedDialogs::expectWhichTimes(const QString& question, Times answer)
+{
+    m_expected.enqueue({Kind::AskWhichTimes, question, Icon::None, false, {}, Unsaved::Keep, answer});
+}
+
 void ScriptedDialogs::expectOpen(
     const QString& answer, std::function<void(const FileDialogRequest&)> whileOpen)
 {
@@ -95,6 +100,15 @@ MessageBoxes::Unsaved ScriptedDialogs::askAboutUnsaved(QWidget* /*owner*/, const
         fail(QStringLiteral("\"%1\" is not the announced \"%2\"").arg(text, expected.text));
     }
     return expected.unsaved;
+}
+
+MessageBoxes::Times ScriptedDialogs::askWhichTimes(QWidget* /*owner*/, const QString& question)
+{
+    Expectation expected;
+    if (take(Kind::AskWhichTimes, question, expected) && expected.text != question) {
+        fail(QStringLiteral("\"%1\" is not the announced \"%2\"").arg(question, expected.text));
+    }
+    return expected.times;
 }
 
 QString ScriptedDialogs::open(QWidget* /*owner*/, const FileDialogRequest& request)

@@ -21,6 +21,7 @@ public:
     void expectExclamationWith(const QString& part);
     void expectAsk(const QString& question, bool yes);
     void expectUnsaved(const QString& text, Unsaved answer);
+    void expectWhichTimes(const QString& question, Times answer);
     /// `answer` is the chosen file, empty for cancelled; `whileOpen` runs while the dialog is "open".
     void expectOpen(const QString& answer, std::function<void(const FileDialogRequest&)> whileOpen = {});
     void expectSave(const QString& answer, std::function<void(const FileDialogRequest&)> whileOpen = {});
@@ -32,12 +33,13 @@ public:
     void tell(QWidget* owner, Icon icon, const QString& text) override;
     bool ask(QWidget* owner, const QString& question) override;
     Unsaved askAboutUnsaved(QWidget* owner, const QString& text) override;
+    Times askWhichTimes(QWidget* owner, const QString& question) override;
     QString open(QWidget* owner, const FileDialogRequest& request) override;
     QString save(QWidget* owner, const FileDialogRequest& request) override;
     void report(const QString& text) override;
 
 private:
-    enum class Kind { Tell, TellPart, Ask, AskAboutUnsaved, Open, Save, Error };
+    enum class Kind { Tell, TellPart, Ask, AskAboutUnsaved, AskWhichTimes, Open, Save, Error };
     struct Expectation {
         Kind kind;
         QString text;
@@ -45,6 +47,7 @@ private:
         bool yes = false;
         std::function<void(const FileDialogRequest&)> whileOpen;
         Unsaved unsaved = Unsaved::Keep;
+        Times times = Times::None;
     };
     /// The next expectation when it is of that kind; otherwise fails the test.
     bool take(Kind kind, const QString& shown, Expectation& expected);

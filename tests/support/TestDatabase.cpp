@@ -69,6 +69,7 @@ TestDatabase::TestDatabase(const QString& folder) : m_folder(folder), m_clock(St
     m_engine.programFolder = folder;
     m_engine.clock = &m_clock;
     m_engine.listener = &m_statements;
+    m_engine.repeating = &m_repeating;
 }
 
 QVariant TestDatabase::sql(const QString& statement) const
@@ -207,6 +208,12 @@ TaskBuilder& TaskBuilder::dismissed()
     return *this;
 }
 
+TaskBuilder& TaskBuilder::repeating(const std::string& rule)
+{
+    m_rule = rule;
+    return *this;
+}
+
 qint32 TaskBuilder::add()
 {
     const QStringList values{quoted(m_task.TaskName()), quoted(m_task.Description()),
@@ -214,12 +221,23 @@ qint32 TaskBuilder::add()
         QString::number(m_task.Periority()), sqlFlag(m_task.ReminderOn()), quoted(m_task.reminderDateTime()),
         quoted(m_task.ReminderSound()), quoted(m_task.ReminderFile()), sqlFlag(m_played),
         sqlFlag(m_dismissed)};
-    return m_database
-        .sql(QStringLiteral(
-                 "insert into tasks(task_name,task_desc,task_status,cat_id,task_due_date,task_periority,"
-                 "reminder_on,reminder_date_time,reminder_sound,reminder_file,played,dismissed) values(")
-            + values.join(QLatin1Char(',')) + QLatin1String(") returning task_id"))
-        .toInt();
+    const qint32 id =
+        m_database
+            .sql(QStringLiteral(
+                     "insert into tasks(task_name,task_desc,task_status,cat_id,task_due_date,task_periority,"
+                     "reminder_on,reminder_date_time,reminder_sound,reminder_file,played,dismissed) values(")
+                + values.join(QLatin1Char(',')) + QLatin1String(") returning task_id"))
+            .toInt();
+    if (!m_rule.empty()) {
+        const auto lead =
+            std::chrono::floor<std::chrono::minutes>(m_task.DueDateTime() - m_task.reminderDateTime());
+        m_database.sql(
+            QStringLiteral("insert into repeats(of_task,rule,first_moment,lead) values(%1,%2,%3,%4)")
+                .arg(QString::number(id), quoted(QString::fromStdString(m_rule)),
+                    quoted(m_task.DueDateTime()), QString::number(lead.count())));
+        m_database.repeating().setUsed(true);
+    }
+    return id;
 }
 
 TaskBuilder aTask(TestDatabase& database)

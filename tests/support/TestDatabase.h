@@ -2,6 +2,7 @@
 
 #include "data/ClsTask.h"
 #include "store/DatabaseEngine.h"
+#include "support/FakeRepeatRules.h"
 #include "support/RecordedStatements.h"
 #include "support/SteppedClock.h"
 
@@ -10,7 +11,7 @@
 #include <optional>
 
 /// A program folder of its own with a fresh copy of the shipped data file, a clock that stands at 15 January
-/// 2026, 10:00:00, and a record of all statements.
+/// 2026, 10:00:00, and a record of all statements. Tasks repeat by FakeRepeatRules, once one does.
 class TestDatabase
 {
 public:
@@ -22,6 +23,7 @@ public:
     QString dataFile() const { return m_folder + QStringLiteral("/data.dat"); }
     const DatabaseEngine& engine() const { return m_engine; }
     SteppedClock& clock() { return m_clock; }
+    Repeating& repeating() { return m_repeating; }
     RecordedStatements& statements() { return m_statements; }
 
     /// Runs plain SQL on a connection of its own, unrecorded; fails the test on an error. Returns the first
@@ -41,6 +43,7 @@ private:
     QString m_folder;
     SteppedClock m_clock;
     RecordedStatements m_statements;
+    Repeating m_repeating{fakeRepeatRules()};
     DatabaseEngine m_engine;
 };
 
@@ -62,6 +65,8 @@ public:
     TaskBuilder& starting(const QString& file);
     TaskBuilder& played();
     TaskBuilder& dismissed();
+    /// From its due moment on, with the lead of its reminder.
+    TaskBuilder& repeating(const std::string& rule = "FREQ=DAILY");
     /// Stores the task and returns its id, without a trace among the recorded statements.
     qint32 add();
 
@@ -70,6 +75,7 @@ private:
     ClsTask m_task;
     bool m_played = false;
     bool m_dismissed = false;
+    std::string m_rule;
 };
 
 /// A task due one hour after the database's clock in the first category, reminder off.

@@ -10,10 +10,28 @@
 #include <QPlainTextEdit>
 #include <QTimeEdit>
 
+namespace
+{
+
+DatabaseEngine repeatingEngine(const TestDatabase& database, Repeating& repeating)
+{
+    DatabaseEngine engine = database.engine();
+    engine.repeating = &repeating;
+    return engine;
+}
+
+} // namespace
+
 TaskDialog::TaskDialog(int filterIndex)
+    : engine(repeatingEngine(services.database, repeating)), formServices{engine, services.database.clock(),
+                                                                 services.dialogs, services.dialogs,
+                                                                 services.dialogs, services.shell,
+                                                                 services.checkerTimer, services.images,
+                                                                 services.services.alwaysOnTop,
+                                                                 services.files, services.undo}
 {
     host.filterIndex = filterIndex;
-    form = std::make_unique<frmTaskDetails>(services.services, host);
+    form = std::make_unique<frmTaskDetails>(formServices, host);
     QObject::connect(form.get(), &frmTaskDetails::taskStored, form.get(), [this] { note("taskStored"); });
     QObject::connect(form.get(), &frmTaskDetails::taskSaved, form.get(), [this] { note("taskSaved"); });
     QObject::connect(form.get(), &frmTaskDetails::cancelled, form.get(), [this] { note("cancelled"); });

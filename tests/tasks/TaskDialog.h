@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/FakeRepeatRules.h"
 #include "support/TestServices.h"
 #include "tasks/TaskDetailsHost.h"
 #include "tasks/frmTaskDetails.h"
@@ -49,6 +50,9 @@ public:
     QVariant stored(const QString& column) const;
 
     TestServices services;
+    Repeating repeating{fakeRepeatRules()};
+    DatabaseEngine engine; ///< that of the database, with `repeating`
+    FormServices formServices; ///< those of `services`, with `engine`
     TestHost host;
     std::unique_ptr<frmTaskDetails> form;
     /// The dialog's signals, each with the dialog's state at that moment: "taskSaved hidden".

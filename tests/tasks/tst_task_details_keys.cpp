@@ -42,10 +42,10 @@ private slots:
 void TestTaskDetailsKeys::enterSavesFromEveryControlOfAnotherValue_data()
 {
     QTest::addColumn<QString>("name");
-    for (const char* name :
-        {"txtTask", "cmbCategories", "dtpDueDate", "dtpDueTime", "cmbStatus", "cmbPeriorities",
-            "chkEnableReminder", "dtpReminderDate", "dtpReminderTime", "chkReminderSound", "txtReminderSound",
-            "btnSoundBrowse", "chkReminderFile", "txtReminderFile", "btnFileBrowse", "btnOk", "btnCancel"}) {
+    for (const char* name : {"txtTask", "cmbCategories", "dtpDueDate", "dtpDueTime", "cmbStatus",
+             "cmbPeriorities", "chkEnableReminder", "cmbRepeat", "dtpReminderDate", "dtpReminderTime",
+             "chkReminderSound", "txtReminderSound", "btnSoundBrowse", "chkReminderFile", "txtReminderFile",
+             "btnFileBrowse", "btnOk", "btnCancel"}) {
         QTest::newRow(name) << name;
     }
 }

@@ -3,6 +3,7 @@
 #include "widgets/MomentMenu.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
@@ -29,6 +30,7 @@ private slots:
     void noButtonIsTheDefault();
     void nothingIsCutOffAtTheLeastSize();
     void aLongCategoryDoesNotWidenTheDialog();
+    void theListOfRepeatsShowsItsEntriesWhole();
 
 private:
     static QWidgetList controls(const TaskDialog& dialog)
@@ -36,9 +38,9 @@ private:
         QWidgetList found;
         for (const char* name :
             {"txtTask", "cmbCategories", "txtDescription", "dtpDueDate", "dtpDueTime", "btnSetDue",
-                "cmbStatus", "cmbPeriorities", "chkEnableReminder", "dtpReminderDate", "dtpReminderTime",
-                "btnSetReminder", "chkReminderSound", "txtReminderSound", "btnSoundBrowse", "chkReminderFile",
-                "txtReminderFile", "btnFileBrowse", "btnOk", "btnCancel"}) {
+                "cmbStatus", "cmbPeriorities", "chkEnableReminder", "cmbRepeat", "dtpReminderDate",
+                "dtpReminderTime", "btnSetReminder", "chkReminderSound", "txtReminderSound", "btnSoundBrowse",
+                "chkReminderFile", "txtReminderFile", "btnFileBrowse", "btnOk", "btnCancel"}) {
             found.append(dialog.widget(name));
         }
         return found;
@@ -68,6 +70,7 @@ void TestTaskDetailsLayout::everyControlIsThere()
     QVERIFY(dialog.control<QComboBox>("cmbStatus"));
     QVERIFY(dialog.control<QComboBox>("cmbPeriorities"));
     QVERIFY(dialog.control<QCheckBox>("chkEnableReminder"));
+    QVERIFY(dialog.control<QComboBox>("cmbRepeat"));
     QVERIFY(dialog.control<QLabel>("lblReminderDate"));
     QVERIFY(dialog.control<QDateEdit>("dtpReminderDate"));
     QVERIFY(dialog.control<QLabel>("lblReminderTime"));
@@ -86,9 +89,9 @@ void TestTaskDetailsLayout::theReminderControlsSitInTheirFrame()
 {
     const TaskDialog dialog;
     const auto* frame = dialog.control<QGroupBox>("framReminderLater");
-    for (const char* name : {"chkEnableReminder", "lblReminderDate", "dtpReminderDate", "lblReminderTime",
-             "dtpReminderTime", "chkReminderSound", "txtReminderSound", "btnSoundBrowse", "chkReminderFile",
-             "txtReminderFile", "btnFileBrowse"}) {
+    for (const char* name : {"chkEnableReminder", "cmbRepeat", "lblReminderDate", "dtpReminderDate",
+             "lblReminderTime", "dtpReminderTime", "chkReminderSound", "txtReminderSound", "btnSoundBrowse",
+             "chkReminderFile", "txtReminderFile", "btnFileBrowse"}) {
         QVERIFY2(frame->isAncestorOf(dialog.widget(name)), name);
     }
 }
@@ -122,7 +125,7 @@ void TestTaskDetailsLayout::everyMnemonicIsUnique()
             mnemonics.append(QKeySequence::mnemonic(button->text()).toString());
         }
     }
-    QCOMPARE(mnemonics.size(), 18);
+    QCOMPARE(mnemonics.size(), 19);
     QVERIFY(!mnemonics.contains(QString()));
     mnemonics.sort();
     QCOMPARE(mnemonics.removeDuplicates(), 0);
@@ -138,7 +141,8 @@ void TestTaskDetailsLayout::everyFieldIsTheBuddyOfALabel()
     }
     buddies.sort();
     QStringList fields({"txtTask", "cmbCategories", "txtDescription", "dtpDueDate", "dtpDueTime", "cmbStatus",
-        "cmbPeriorities", "dtpReminderDate", "dtpReminderTime", "txtReminderSound", "txtReminderFile"});
+        "cmbPeriorities", "cmbRepeat", "dtpReminderDate", "dtpReminderTime", "txtReminderSound",
+        "txtReminderFile"});
     fields.sort();
     QCOMPARE(buddies, fields);
 }
@@ -190,6 +194,17 @@ void TestTaskDetailsLayout::aLongCategoryDoesNotWidenTheDialog()
     dialog.form->selectCategory(5);
     QCoreApplication::processEvents();
     QCOMPARE(dialog.form->minimumSizeHint().width(), width);
+}
+
+void TestTaskDetailsLayout::theListOfRepeatsShowsItsEntriesWhole()
+{
+    const TaskDialog dialog;
+    dialog.show();
+    auto* combo = dialog.control<QComboBox>("cmbRepeat");
+    combo->showPopup();
+    QTRY_VERIFY(combo->view()->isVisible());
+    QVERIFY2(combo->view()->viewport()->width() >= combo->view()->sizeHintForColumn(0),
+        qPrintable(QString::number(combo->view()->viewport()->width())));
 }
 
 AMBERTASK_TEST_MAIN(TestTaskDetailsLayout)

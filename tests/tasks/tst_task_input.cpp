@@ -361,9 +361,10 @@ void TestTaskInput::everyFieldMakesAnotherInput()
         [](TaskInput& i) { i.categoryId = qint16(4); }, [](TaskInput& i) { i.categoryId.reset(); },
         [](TaskInput& i) { i.description += u'x'; }, [](TaskInput& i) { i.due += 1min; },
         [](TaskInput& i) { i.status = TaskStatus::Deferred; },
-        [](TaskInput& i) { i.periority = TaskPeriority::High; }, [](TaskInput& i) { i.reminderOn = true; },
-        [](TaskInput& i) { i.reminder += 1min; }, [](TaskInput& i) { i.hasSound = true; },
-        [](TaskInput& i) { i.sound += u'x'; }, [](TaskInput& i) { i.hasFile = true; },
+        [](TaskInput& i) { i.periority = TaskPeriority::High; }, [](TaskInput& i) { i.rule = "FREQ=DAILY"; },
+        [](TaskInput& i) { i.reminderOn = true; }, [](TaskInput& i) { i.reminder += 1min; },
+        [](TaskInput& i) { i.hasSound = true; }, [](TaskInput& i) { i.sound += u'x'; },
+        [](TaskInput& i) { i.hasFile = true; },
         [](TaskInput& i) {
             i.file += u'x';
         }};

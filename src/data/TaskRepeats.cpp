@@ -1,0 +1,111 @@
+#include "data/TaskRepeats.h"
+
+#include "data/ClsDatabase.h"
+#include "data/SqlText.h"
+#include "store/DatabaseError.h"
+
+namespace
+{
+
+const QLatin1String SelectRepeats("select of_task,rule,first_moment,lead,done from repeats");
+
+} // namespace
+
+bool TaskRepeats::isAny(const DatabaseEngine& engine)
+{
+    return engine.repeating != nullptr && engine.repeating->isUsed();
+}
+
+std::map<qint32, Repeat> TaskRepeats::all(const DatabaseEngine& engine)
+{
+    std::map<qint32, Repeat> repeats;
+    if (!isAny(engine)) {
+        return repeats;
+    }
+    Connection connection = ClsDatabase(engine).Connect();
+    connection.open();
+    RecordSet records = connection.execute(SelectRepeats);
+    const int id = records.field("of_task");
+    const RepeatColumns columns(records);
+    for (; !records.atEnd(); records.moveNext()) {
+        if (auto repeat = columns.read(records)) {
+            repeats.emplace(records.int32(id), std::move(*repeat));
+        }
+    }
+    connection.close();
+    return repeats;
+}
+
+std::optional<Repeat> TaskRepeats::of(const DatabaseEngine& engine, qint32 id)
+{
+    if (!isAny(engine)) {
+        return std::nullopt;
+    }
+    Connection connection = ClsDatabase(engine).Connect();
+    connection.open();
+    std::optional<Repeat> repeat = of(engine, connection, id);
+    connection.close();
+    return repeat;
+}
+
+std::optional<Repeat> TaskRepeats::of(const DatabaseEngine& engine, Connection& connection, qint32 id)
+{
+    if (!isAny(engine)) {
+        return std::nullopt;
+    }
+    const RecordSet records =
+        connection.execute(SelectRepeats + QLatin1String(" where of_task = ") + QString::number(id));
+    return records.atEnd() ? std::nullopt : RepeatColumns(records).read(records);
+}
+
+void TaskRepeats::store(const DatabaseEngine& engine, Connection& connection, qint32 id, const Repeat& repeat)
+{
+    engine.repeating->setUsed(true);
+    connection.execute(
+        QStringLiteral("insert or replace into repeats(of_task,rule,first_moment,lead,done) values(%1)")
+            .arg(sqlRepeat(id, repeat)));
+}
+
+void TaskRepeats::remove(Connection& connection, qint32 id)
+{
+    connection.execute(QLatin1String("delete from repeats where of_task = ") + QString::number(id));
+}
+
+void TaskRepeats::removeOrphans(Connection& connection)
+{
+    connection.execute(
+        QStringLiteral("delete from repeats where of_task not in (select task_id from tasks)"));
+}
+
+void TaskRepeats::set(
+    const DatabaseEngine& engine, Connection& connection, qint32 id, const std::optional<Repeat>& repeat)
+{
+    if (repeat && engine.repeating != nullptr) {
+        store(engine, connection, id, *repeat);
+    } else if (isAny(engine)) {
+        remove(connection, id);
+    }
+}
+
+int TaskRepeats::missed(Repeating& repeating, const Repeat& repeat, Moment reminder, Moment now)
+{
+    return now < reminder
+        ? 0
+        : 1 + repeating.rules().count(repeat, reminder + repeat.lead, now + repeat.lead, MostMissed - 1);
+}
+
+RepeatColumns::RepeatColumns(const RecordSet& records)
+    : m_rule(records.field("rule")), m_first(records.field("first_moment")), m_lead(records.field("lead")),
+      m_done(records.field("done"))
+{
+}
+
+std::optional<Repeat> RepeatColumns::read(const RecordSet& records) const
+{
+    try {
+        return Repeat{std::string(records.utf8(m_rule)), records.moment(m_first),
+            std::chrono::minutes(records.int32(m_lead)), records.int32(m_done)};
+    } catch (const RuntimeError&) {
+        return std::nullopt;
+    }
+}

@@ -1,0 +1,55 @@
+#include "repeats/IcalRepeatRules.h"
+
+#include "repeats/Series.h"
+
+namespace
+{
+
+/// Tells `tell` the moments of the series that are later than `after`, in order, until it returns false.
+template <typename Tell> void forEachLater(const Repeat& repeat, Moment after, Tell tell)
+{
+    const auto parts = rulePartsOf(repeat.rule);
+    if (!parts || !Series::canBegin(repeat.first)) {
+        return;
+    }
+    if (repeat.first > after && !tell(repeat.first)) {
+        return;
+    }
+    // What is counted has to be counted from the first moment on.
+    Series series(*parts, repeat.first, parts->count ? repeat.first : std::max(after, repeat.first));
+    for (int number = 2; !parts->count || number <= *parts->count; ++number) {
+        const auto moment = series.next();
+        if (!moment || (parts->until && *moment > *parts->until) || (*moment > after && !tell(*moment))) {
+            return;
+        }
+    }
+}
+
+} // namespace
+
+std::optional<Moment> IcalRepeatRules::next(const Repeat& repeat, Moment after) const
+{
+    std::optional<Moment> found;
+    forEachLater(repeat, after, [&found](Moment moment) {
+        found = moment;
+        return false;
+    });
+    return found;
+}
+
+int IcalRepeatRules::count(const Repeat& repeat, Moment after, Moment until, int most) const
+{
+    int counted = 0;
+    if (most > 0) {
+        forEachLater(repeat, after, [&](Moment moment) {
+            counted += static_cast<int>(moment <= until);
+            return moment <= until && counted < most;
+        });
+    }
+    return counted;
+}
+
+bool IcalRepeatRules::isUsable(const std::string& rule) const
+{
+    return rulePartsOf(rule).has_value();
+}
