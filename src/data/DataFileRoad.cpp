@@ -112,7 +112,8 @@ bool somethingRepeats(const DatabaseEngine& engine)
     const DatabaseEngine own = unheard(engine);
     Connection connection = ClsDatabase(own).Connect();
     connection.open();
-    return knownVersion(connection) == DataFileVersion && lookAt(connection, true).isRepeating;
+    const int version = connection.execute(QStringLiteral("PRAGMA user_version")).int32(0);
+    return version >= DataFileVersion && lookAt(connection, true).isRepeating;
 }
 
 bool isDataFileBehind(const DatabaseEngine& engine)

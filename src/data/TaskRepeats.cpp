@@ -61,7 +61,6 @@ std::optional<Repeat> TaskRepeats::of(const DatabaseEngine& engine, Connection& 
 void TaskRepeats::store(const DatabaseEngine& engine, Connection& connection, qint32 id, const Repeat& repeat)
 {
     engine.repeating->setUsed(true);
-    removeOrphans(connection);
     connection.execute(
         QStringLiteral("insert or replace into repeats(of_task,rule,first_moment,lead,done) values(%1)")
             .arg(sqlRepeat(id, repeat)));

@@ -27,10 +27,10 @@ std::optional<Repeat> of(const DatabaseEngine& engine, Connection& connection, q
 
 // Parts of an operation on an open connection:
 
-/// Also removes the rows of tasks that are gone. `engine` is one with Repeating.
+/// `engine` is one with Repeating.
 void store(const DatabaseEngine& engine, Connection& connection, qint32 id, const Repeat& repeat);
 void remove(Connection& connection, qint32 id);
-/// The rows of tasks that are gone.
+/// The rows of tasks that are gone. Only in an operation that can be taken back: a deletion before it may be.
 void removeOrphans(Connection& connection);
 /// Stores it, or removes what was stored; no statement when nothing repeats.
 void set(

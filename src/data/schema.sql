@@ -72,7 +72,7 @@ CREATE TABLE task_origins (
 );
 
 -- How tasks repeat (see Repeat); lead is in minutes. A row stays when its task is deleted, so that an undo brings all
--- of it back; whoever stores a repeat removes it.
+-- of it back; the next import of repeating tasks removes it.
 CREATE TABLE repeats (
   of_task INTEGER PRIMARY KEY,
   rule TEXT NOT NULL DEFAULT '',
