@@ -33,7 +33,7 @@ constexpr std::array<const char*, DataFileVersion> StepFrom{"",
 /// or a nearly full file would get new ids at every start.
 const QLatin1String Question(
     "SELECT CASE WHEN max(number) > 30000 THEN "
-    "2 * max(32767 - max(number), 0) < 32767 - (SELECT count(*) FROM tasks) ELSE 0 END, %1 "
+    "2 * max(32767 - max(number), 0) < 32767 - (SELECT count(*) FROM tasks) ELSE 0 END, (%1) "
     "FROM (SELECT seq AS number FROM sqlite_sequence WHERE name = 'tasks' UNION ALL SELECT max(task_id) FROM "
     "tasks)");
 /// In two steps through ids that no task has: the order in which SQLite updates the rows is not defined.
@@ -76,7 +76,7 @@ struct Sight {
 Sight lookAt(Connection& connection, bool hasRepeats)
 {
     const RecordSet found = connection.execute(QString(Question).arg(
-        hasRepeats ? QLatin1String("EXISTS (SELECT 1 FROM repeats)") : QLatin1String("0")));
+        hasRepeats ? QLatin1String("SELECT EXISTS (SELECT 1 FROM repeats)") : QLatin1String("SELECT 0")));
     return {found.flag(0), found.flag(1)};
 }
 
