@@ -8,8 +8,8 @@
 namespace
 {
 
-// Qt's own buttons, so that a style orders them as it does everywhere.
-constexpr QMessageBox::StandardButton ThisTime = QMessageBox::Apply;
+// Qt's own buttons, which a style orders.
+constexpr QMessageBox::StandardButton ThisTime = QMessageBox::Yes;
 constexpr QMessageBox::StandardButton AllTimes = QMessageBox::YesToAll;
 
 void name(const QMessageBox& box, QMessageBox::StandardButton which, const QString& caption)
@@ -26,12 +26,12 @@ QMessageBox::StandardButton show(QWidget* owner, QMessageBox::Icon icon, const Q
     setBoxText(box, text);
     // Qt's own captions are translated only where the system has Qt's catalogue.
     name(box, QMessageBox::Ok, MessageBoxes::tr("&OK"));
-    name(box, QMessageBox::Yes, MessageBoxes::tr("&Yes"));
+    const bool asksAboutTimes = buttons.testFlag(AllTimes);
+    name(box, QMessageBox::Yes, asksAboutTimes ? MessageBoxes::tr("&This Time") : MessageBoxes::tr("&Yes"));
     name(box, QMessageBox::No, MessageBoxes::tr("&No"));
     name(box, QMessageBox::Save, MessageBoxes::tr("&Save"));
     name(box, QMessageBox::Discard, MessageBoxes::tr("&Discard"));
     name(box, QMessageBox::Cancel, MessageBoxes::tr("&Cancel"));
-    name(box, ThisTime, MessageBoxes::tr("&This Time"));
     name(box, AllTimes, MessageBoxes::tr("&All Times"));
     box.setDefaultButton(byEnter);
     // So that it is not hidden by an owner that stays on top.
