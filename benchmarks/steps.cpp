@@ -28,8 +28,8 @@ constexpr int Repetitions = 9;
 
 /// The program on a file of its own, with every window loaded. Of the tasks `due` remind.
 struct House {
-    explicit House(int tasks, int due = 0)
-        : file({tasks, 0, due}), shown(file, [](ReportHost& host) {
+    explicit House(int tasks, int due = 0, int repeating = 0)
+        : file({tasks, 0, due, repeating}), shown(file, [](ReportHost& host) {
               return std::make_unique<PreviewWindow>(host, [] { return false; });
           })
     {
@@ -121,6 +121,30 @@ public:
         };
         tell(QStringLiteral("all dismissed, with the list"),
             timesOf(listAgain, [&] { house.press(alerts, "btnDismissAll"); }));
+    }
+
+    void repeating()
+    {
+        const int some = m_bench.size(5000, 10);
+        House house(m_tasks, some, some);
+        tell(QStringLiteral("the list, of which 5,000 repeat"),
+            m_bench.median(Repetitions, [&] { house.choose("cmbSort", TaskSort::None); }));
+        frmAlerts& alerts = house.shown.program.alerts();
+        const auto tick = [&] {
+            alerts.tmrTasksChecker_Timer();
+            QCoreApplication::processEvents();
+        };
+        tick();
+        tell(QStringLiteral("a tick, 5,000 due and listed that repeat"), m_bench.median(Repetitions, tick));
+        const auto listAgain = [&] {
+            house.file.run(QStringLiteral("update tasks set task_due_date='2026-01-14 10:00:00',"
+                                          "reminder_date_time='2026-01-14 09:00:00' where task_id in "
+                                          "(select of_task from repeats)"));
+            tick();
+        };
+        tell(QStringLiteral("5,000 that repeat dismissed, with the list"),
+            timesOf(listAgain, [&] { house.press(alerts, "btnDismissAll"); }));
+        tell(QStringLiteral("a tick, nothing due, 5,000 repeat"), m_bench.median(Repetitions, tick));
     }
 
     void deletions()
@@ -246,6 +270,7 @@ int main(int argc, char** argv)
     steps.lists();
     steps.firstChange();
     steps.reminders();
+    steps.repeating();
     steps.deletions();
     steps.report();
     steps.copies();

@@ -2,6 +2,7 @@
 
 #include "app/Program.h"
 #include "app/TasksPage.h"
+#include "repeats/IcalRepeatRules.h"
 #include "support/MemoryRegistry.h"
 #include "support/ScriptedDialogs.h"
 #include "support/TaskFile.h"
@@ -17,8 +18,20 @@
 /// The whole program on the data file of a benchmark, with a recording machine, its window on the screen.
 struct BenchProgram {
     explicit BenchProgram(TaskFile& file, ReportWindowFactory reportWindow = {})
-        : program(Machine{file.engine(), dialogs, dialogs, dialogs, shell, registry, {}, [] { return true; },
-            {}, std::move(reportWindow)})
+        : program(Machine{.engine = file.engine(),
+            .messages = dialogs,
+            .fileDialogs = dialogs,
+            .errors = dialogs,
+            .shell = shell,
+            .registry = registry,
+            .waveBackend = {},
+            .hasNotificationArea = [] { return true; },
+            .helpWindow = {},
+            .reportWindow = std::move(reportWindow),
+            .repeatRules =
+                [] {
+                    return std::make_unique<IcalRepeatRules>();
+                }})
     {
         QDir(file.folder()).mkpath(QStringLiteral("Skins"));
         for (const char* skin : {"Aqua", "Midnight"}) {

@@ -34,6 +34,9 @@ TaskFile::TaskFile(const TaskFileContent& content)
     if (content.tasks > 0) {
         run(fill);
     }
+    run(QStringLiteral("insert into repeats(of_task,rule,first_moment,lead) select "
+                       "task_id,'FREQ=DAILY',task_due_date,60 from tasks order by task_id limit %1")
+            .arg(content.repeating));
 }
 
 void TaskFile::run(const QString& sql) const

@@ -10,6 +10,7 @@ struct TaskFileContent {
     int tasks = 0; ///< names of 30 characters, descriptions of 120
     int rare = 0; ///< how many of them are in the fourth category, and as many others are deferred
     int due = 0; ///< how many of them have a reminder that is due; of the rest every third has one to come
+    int repeating = 0; ///< how many of them repeat every day, beginning with those that are due
 };
 
 /// A temporary program folder with a copy of the shipped data file, filled with tasks, and a stopped clock.

@@ -6,6 +6,7 @@
 #include "data/TaskRepeats.h"
 #include "store/Connection.h"
 #include "system/Clock.h"
+#include "system/RuntimeError.h"
 
 #include <QSet>
 #include <algorithm>
