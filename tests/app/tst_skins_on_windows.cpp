@@ -58,7 +58,7 @@ const QStringList Windows{"page Maintenance", "page Settings", "page Categories"
     "page with dates", "page with what was done", "page with what was undone", "new task",
     "task with a reminder", "repeating", "repeating that cannot be", "new category",
     "category with a picture", "category whose name is locked", "copies", "alert",
-    "alert with a selected row", "about", "question", "question about unsaved input",
+    "alert with a selected row", "about", "question", "question about unsaved input", "question about times",
     "message without a picture", "information", "exclamation", "error report", "report of a failed start",
     "progress", "help contents", "help index", "help search", "help topic with tables",
     "help without its file", "report", "import"};

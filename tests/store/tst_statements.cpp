@@ -157,7 +157,7 @@ void StatementsTest::aCheckOfTheFileIsLetThrough()
     Connection connection = opened(database);
     const RecordSet records = connection.execute(QStringLiteral("pragma quick_check"));
     QCOMPARE(records.text(0), QStringLiteral("ok"));
-    QCOMPARE(connection.execute(QStringLiteral("pragma user_version")).int32(0), 3);
+    QCOMPARE(connection.execute(QStringLiteral("pragma user_version")).int32(0), 4);
 }
 
 void StatementsTest::nowIsTheInjectedClock()
