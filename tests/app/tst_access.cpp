@@ -185,7 +185,7 @@ private slots:
             controls += seen;
         });
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
-        QCOMPARE(windows, 33);
+        QCOMPARE(windows, 34);
         QVERIFY2(controls >= 290, qPrintable(QString::number(controls)));
     }
 

@@ -328,7 +328,7 @@ private slots:
         lookWhileOpen();
         ScreenErrorReport::reportFailedStart(Planted);
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
-        QCOMPARE(texts, QStringList(5, Planted));
+        QCOMPARE(texts, QStringList(6, Planted));
     }
 };
 
