@@ -123,7 +123,7 @@ class OtherVersionsTest(DamageCase):
         before = self.content()
         self.start_and_work()
         self.assertEqual(self.content(".before-upgrade"), before)
-        self.assertEqual(self.store.execute("pragma user_version"), [{"user_version": 3}])
+        self.assertEqual(self.store.execute("pragma user_version"), [{"user_version": 4}])
 
     def test_a_later_one_ends_the_start_with_a_sentence_and_a_failure(self):
         self.store.execute("pragma user_version=99")
