@@ -141,6 +141,8 @@ void visitAlert(SkinnedProgram& f, const Visit& visit)
 
 void scrollToTable(QTextBrowser& topic)
 {
+    // Asking for the size lays out all of the topic: on a busy machine the scroll bar would end before it.
+    QVERIFY(topic.document()->size().height() > 0);
     for (const QTextFrame* frame : topic.document()->rootFrame()->childFrames()) {
         if (qobject_cast<const QTextTable*>(frame) != nullptr) {
             topic.setTextCursor(frame->firstCursorPosition());
