@@ -17,19 +17,22 @@ public:
         if (number < -Most || number > Most) {
             return false;
         }
-        m_numbers.set(static_cast<std::size_t>(number + Most));
+        m_numbers.set(placeOf(number));
         return true;
     }
-    bool has(int number) const
-    {
-        return number >= -Most && number <= Most && m_numbers[static_cast<std::size_t>(number + Most)];
-    }
+    bool has(int number) const { return number >= -Most && number <= Most && m_numbers[placeOf(number)]; }
     bool isEmpty() const { return m_numbers.none(); }
     std::size_t size() const { return m_numbers.count(); }
 
     bool operator==(const NumberSet&) const = default;
 
 private:
+    static std::size_t placeOf(int number)
+    {
+        const int place = number + Most;
+        return static_cast<std::size_t>(place);
+    }
+
     std::bitset<2 * Most + 1> m_numbers;
 };
 
