@@ -106,7 +106,7 @@ Series::Period Series::period(std::int64_t number) const
         return {begin, begin + days(DaysOfAWeek)};
     }
     case Frequency::Monthly: {
-        const auto months = std::min<std::int64_t>(step, 10'000 * MonthsOfAYear);
+        const auto months = std::min<std::int64_t>(step, std::int64_t{10'000} * MonthsOfAYear);
         const auto begin = date.year() / date.month() + std::chrono::months(months);
         return {Day(begin / 1), Day((begin + std::chrono::months(1)) / 1)};
     }
