@@ -309,8 +309,9 @@ void RepeatRulesTest::hostileRulesAreAnsweredSoon()
     timer.start();
     const Repeat repeat{.rule = rule.toStdString(), .first = momentOf("1970-01-05")};
     rules.next(repeat, momentOf("2026-01-05"));
-    // A few milliseconds; a busy machine with sanitizers takes longer.
-    QVERIFY2(timer.elapsed() < 500, qPrintable(QString::number(timer.elapsed())));
+    // It takes a few milliseconds, with sanitizers on a busy machine a hundred times as long; a calculation
+    // that goes through every day for ever never ends.
+    QVERIFY2(timer.elapsed() < 10'000, qPrintable(QString::number(timer.elapsed())));
 }
 
 void RepeatRulesTest::whatIsNotUsable_data()
