@@ -7,10 +7,7 @@
 #include "data/TaskArchive.h"
 #include "data/UnreadableRecords.h"
 #include "store/DatabaseError.h"
-#include "system/Clock.h"
 #include "system/FileReplace.h"
-#include "system/Language.h"
-#include "system/Modules.h"
 #include "system/ProgramFolder.h"
 #include "system/Progress.h"
 #include "system/SingleInstance.h"
@@ -19,7 +16,6 @@
 #include "widgets/ChangeTexts.h"
 
 #include <QTemporaryFile>
-#include <cstdio>
 #include <utility>
 
 namespace
@@ -377,25 +373,4 @@ void CommandRun::say(const QString& text)
 void CommandRun::complain(const QString& text)
 {
     m_around.errors.write(QByteArray(ProductName) + ": " + asLine(text).toUtf8());
-}
-
-int runCommand(const CommandLine& line, int argc, char** argv, const Installation& installation,
-    const QString& programFolder)
-{
-    // What Qt has to say of a locale is nothing for whoever runs a command.
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-    QCoreApplication application(argc, argv);
-    Language language;
-    language.speakAsTheSystem();
-    const SystemClock clock;
-    Modules modules(installation.moduleFolder, {QLatin1String(ExchangeModule), QLatin1String(RepeatModule)});
-    OutputStream output;
-    QFile errors;
-    errors.open(stderr, QIODevice::WriteOnly | QIODevice::Unbuffered);
-    return CommandRun(
-        {installation, programFolder, clock, [&modules] { return loadExchange(modules); }, output, errors,
-            [&modules] {
-                return loadRepeatRules(modules);
-            }})
-        .run(line);
 }
