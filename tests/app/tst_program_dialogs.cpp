@@ -1,16 +1,19 @@
 #include "ProgramFixture.h"
 #include "categories/frmCategoryDetails.h"
 #include "reminders/frmAlerts.h"
+#include "settings/MaintenancePage.h"
 #include "support/TestMain.h"
 #include "tasks/frmTaskDetails.h"
 #include "widgets/QuietLine.h"
 #include "widgets/WindowPlacement.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QTimeEdit>
+#include <algorithm>
 
 using namespace std::chrono_literals;
 
@@ -238,6 +241,25 @@ private slots:
         f.press(f.main(), "btnTaskAdd");
         QVERIFY(dialog.isVisible());
         QCOMPARE(name->text(), QStringLiteral("half"));
+    }
+
+    void theImportWindowGoesWithTheMainWindow()
+    {
+        ProgramFixture f;
+        f.start();
+        f.exchange.prepared = samplePlan();
+        f.main().tabs().setCurrentWidget(f.main().maintenancePage());
+        f.dialogs.expectOpen(QStringLiteral("/home/anna/garden.ics"));
+        f.press(f.main(), "btnImport");
+        const auto isImportShown = [] {
+            const QWidgetList windows = QApplication::topLevelWidgets();
+            return std::any_of(windows.begin(), windows.end(), [](const QWidget* window) {
+                return window->objectName() == QLatin1String("frmImport") && window->isVisible();
+            });
+        };
+        QVERIFY(isImportShown());
+        f.menu("mnuShow")->trigger();
+        QVERIFY(!isImportShown());
     }
 
     void theTypicalEventRunsFromStartToEnd()
