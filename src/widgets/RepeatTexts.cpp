@@ -23,7 +23,7 @@ std::bitset<7> workingWeek()
 
 QString RepeatTexts::pattern(const RepeatPattern& pattern, Moment first)
 {
-    const QString said = interval(pattern, first);
+    QString said = interval(pattern, first);
     if (pattern.until) {
         //: %1 is how something repeats, as in "every week on Tuesday", and %2 the last day
         return tr("%1 until %2").arg(said, shortDate(makeMoment(*pattern.until)));
