@@ -2361,8 +2361,8 @@ The window shows what the import would do now.</source>
         <translation>أُضيف المظهر «%1»؛ لاستخدامه اختره من القائمة ثم احفظ الإعدادات</translation>
     </message>
     <message>
-        <source>This desktop lets no program keep its windows on top. The menu of a window (Alt+Space) may offer it.</source>
-        <translation>سطح المكتب هذا لا يسمح لأي برنامج بإبقاء نوافذه في المقدمة. قد تتيح قائمة النافذة (Alt+Space) ذلك.</translation>
+        <source>This desktop lets no program keep its windows on top. The menu of a title bar may offer it.</source>
+        <translation>سطح المكتب هذا لا يسمح لأي برنامج بإبقاء نوافذه في المقدمة. قد تتيح قائمة شريط العنوان ذلك.</translation>
     </message>
 </context>
 <context>

@@ -2165,8 +2165,8 @@ ein Fehler auf: %3.</translation>
         <translation>Der Skin „%1“ wurde hinzugefügt; wählen Sie ihn in der Liste und speichern Sie die Einstellungen, um ihn zu verwenden</translation>
     </message>
     <message>
-        <source>This desktop lets no program keep its windows on top. The menu of a window (Alt+Space) may offer it.</source>
-        <translation>Dieser Desktop lässt kein Programm seine Fenster im Vordergrund halten. Das Menü eines Fensters (Alt+Leertaste) bietet es vielleicht an.</translation>
+        <source>This desktop lets no program keep its windows on top. The menu of a title bar may offer it.</source>
+        <translation>Dieser Desktop lässt kein Programm seine Fenster im Vordergrund halten. Das Menü einer Titelleiste bietet es vielleicht an.</translation>
     </message>
 </context>
 <context>

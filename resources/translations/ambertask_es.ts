@@ -2165,8 +2165,8 @@ La ventana muestra lo que haría ahora la importación.</translation>
         <translation>Se ha añadido el tema «%1»; para usarlo, elíjalo en la lista y guarde la configuración</translation>
     </message>
     <message>
-        <source>This desktop lets no program keep its windows on top. The menu of a window (Alt+Space) may offer it.</source>
-        <translation>Este escritorio no permite que ningún programa mantenga sus ventanas siempre visibles. El menú de una ventana (Alt+Espacio) puede ofrecerlo.</translation>
+        <source>This desktop lets no program keep its windows on top. The menu of a title bar may offer it.</source>
+        <translation>Este escritorio no permite que ningún programa mantenga sus ventanas siempre visibles. El menú de una barra de título puede ofrecerlo.</translation>
     </message>
 </context>
 <context>

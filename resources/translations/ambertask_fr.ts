@@ -2165,8 +2165,8 @@ La fenêtre montre ce que ferait l’importation maintenant.</translation>
         <translation>Le thème «&#xa0;%1&#xa0;» a été ajouté&#xa0;; pour l’utiliser, choisissez-le dans la liste et enregistrez les paramètres</translation>
     </message>
     <message>
-        <source>This desktop lets no program keep its windows on top. The menu of a window (Alt+Space) may offer it.</source>
-        <translation>Ce bureau ne laisse aucun programme garder ses fenêtres au premier plan. Le menu d’une fenêtre (Alt+Espace) le propose peut-être.</translation>
+        <source>This desktop lets no program keep its windows on top. The menu of a title bar may offer it.</source>
+        <translation>Ce bureau ne laisse aucun programme garder ses fenêtres au premier plan. Le menu d’une barre de titre le propose peut-être.</translation>
     </message>
 </context>
 <context>

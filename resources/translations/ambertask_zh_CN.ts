@@ -2116,8 +2116,8 @@ The window shows what the import would do now.</source>
         <translation>已添加皮肤“%1”；要使用它，请在列表中选择它并保存设置</translation>
     </message>
     <message>
-        <source>This desktop lets no program keep its windows on top. The menu of a window (Alt+Space) may offer it.</source>
-        <translation>此桌面不允许任何程序让自己的窗口保持在最前。窗口菜单 (Alt+Space) 中可能有此选项。</translation>
+        <source>This desktop lets no program keep its windows on top. The menu of a title bar may offer it.</source>
+        <translation>此桌面不允许任何程序让自己的窗口保持在最前。标题栏菜单中可能有此选项。</translation>
     </message>
 </context>
 <context>

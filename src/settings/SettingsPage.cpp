@@ -69,7 +69,7 @@ QGroupBox* SettingsPage::makeGeneralFrame()
     m_chkOnTop = makeBox("chkOnTop", tr("Always on to&p"));
     if (desktopPlacesWindows(QGuiApplication::platformName())) {
         m_chkOnTop->setToolTip(tr("This desktop lets no program keep its windows on top. "
-                                  "The menu of a window (Alt+Space) may offer it."));
+                                  "The menu of a title bar may offer it."));
     }
     m_chkMinimizeOnStart = makeBox("chkMinimizeOnStart", tr("&Minimize on start"));
     m_chkShowBallon = makeBox("chkShowBallon", tr("Show tray &balloon when closed"));

@@ -52,7 +52,8 @@ class NotifierArea:
                       GLib.Variant("(su)", (name, 0)))
 
     def close(self):
-        self._bus.close_sync(None)
+        if not self._bus.is_closed():
+            self._bus.close_sync(None)
 
     def _called(self, _connection, sender, _path, _interface, method, arguments, invocation):
         values = arguments.unpack()

@@ -1,10 +1,11 @@
 """The program on Wayland, where windows are the desktop's: it places and activates them, and nobody else."""
+import signal
 from datetime import datetime
 
 import names
 from case import DesktopCase, main
 from notifier import NotifierArea
-from polling import wait_until
+from polling import holds_for, wait_until
 from sway import SwayDesktop
 
 PAST = datetime(2020, 1, 1, 9, 0)
@@ -16,7 +17,7 @@ class WaylandCase(DesktopCase):
 
     def setUp(self):
         super().setUp()
-        self.store.set(always_on_top=0, minimize_on_start=0, show_today_tasks=0, show_ballon_icon=0)
+        self.store.set(always_on_top=0, minimize_on_start=0, show_today_tasks=0, show_ballon_icon=1)
         self.store.category("Work")
 
     def serve_notifications(self):
@@ -85,14 +86,35 @@ class NotificationTest(WaylandCase):
     def test_the_close_box_hides_and_the_icon_brings_the_window_back(self):
         self.user.window(names.MAIN).close()
         self.user.wait_hidden(names.MAIN)
+        self.area.wait_notification("Ambertask")
         self.area.activate()
         self.user.wait_active(names.MAIN)
+        # Another area takes the place of this one, as when the desktop's panel is started anew.
+        self.area.close()
+        self.serve_notifications()
+        self.area.wait_item()
         self.area.choose("Exit")
         self.assertEqual(self.user.program.wait_end(), 0)
 
 
 class BareTest(WaylandCase):
     """Nothing but a compositor: no icons, no notifications."""
+
+    def test_the_close_box_leaves_a_window_that_can_be_reached(self):
+        self.user = self.start()
+        self.user.wait_loaded()
+        self.user.window(names.MAIN).close()
+        # sway minimizes nothing; hidden, the window would be gone for good.
+        holds_for(lambda: self.user.shows(names.MAIN), "the main window is there", 1)
+        self.user.program.send(signal.SIGTERM)
+        self.assertEqual(self.user.program.wait_end(), 0)
+
+    def test_the_death_of_the_compositor_ends_the_program_and_the_data_is_sound(self):
+        self.user = self.start()
+        self.user.wait_loaded()
+        self.desk.compositor.kill()
+        self.user.program.wait_end()
+        self.assertEqual(self.store.execute("pragma integrity_check"), [{"integrity_check": "ok"}])
 
     def test_the_alert_comes_up_and_the_settings_say_what_the_desktop_does_not_do(self):
         self.store.add_task("Due", reminder=PAST)
