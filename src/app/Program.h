@@ -58,8 +58,6 @@ struct Machine {
     QString shippedFolder = {};
     /// The file for what the user has arranged in the main window; empty to keep nothing.
     QString stateFile = {};
-    /// Loads the rules of tasks that repeat.
-    Repeating::Load repeatRules = {};
     /// Where the alert window cannot come up by itself.
     NotificationsFactory notifications = {};
 };

@@ -70,7 +70,7 @@ void frmAlerts::check(bool isOvertaken)
 
 void frmAlerts::countTimes()
 {
-    Repeating* repeating = m_services.engine.repeating;
+    const Repeating* repeating = m_services.engine.repeating;
     if (repeating == nullptr || !repeating->isUsed() || m_reminders.rowCount() == 0) {
         return;
     }
@@ -81,7 +81,7 @@ void frmAlerts::countTimes()
         const auto repeat = repeats.find(due.id);
         const auto reminder = momentFromStoredText(due.reminder.toStdString());
         if (repeat != repeats.end() && reminder) {
-            times.insert(due.id, TaskRepeats::missed(*repeating, repeat->second, *reminder, now));
+            times.insert(due.id, TaskRepeats::missed(repeat->second, *reminder, now));
         }
     }
     m_reminders.setTimes(times);
