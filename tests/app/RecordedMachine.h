@@ -59,7 +59,7 @@ struct RecordedMachine {
                 return window;
             },
             [this] { return std::make_unique<RecordedExchange>(exchange); }, {}, shippedFolder, {},
-            fakeRepeatRules()};
+            repeatRules};
     }
     void setting(const QString& column, int value) const
     {
@@ -77,4 +77,5 @@ struct RecordedMachine {
     QPointer<RecordedHelpWindow> helpWindow;
     QPointer<RecordedReportWindow> reportWindow;
     RecordedExchange::Log exchange;
+    Repeating::Load repeatRules = fakeRepeatRules();
 };

@@ -2,13 +2,17 @@
 
 #include "app/frmMain.h"
 #include "categories/frmCategoryDetails.h"
+#include "reminders/AlertListModel.h"
 #include "reminders/frmAlerts.h"
+#include "repeats/IcalRepeatRules.h"
+#include "support/ContextMenu.h"
 #include "tasks/frmTaskDetails.h"
 #include "widgets/Combos.h"
 #include "widgets/GridView.h"
 #include "widgets/Pickers.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateEdit>
@@ -59,7 +63,22 @@ void check(QWidget& window, const char* box, bool checked)
     require(control->isChecked() == checked, box);
 }
 
+std::unique_ptr<RepeatRules> ownRules()
+{
+    return std::make_unique<IcalRepeatRules>();
+}
+
 } // namespace
+
+RunningProgram::RunningProgram()
+{
+    m_machine.repeatRules = ownRules;
+}
+
+RunningProgram::RunningProgram(const QString& programFolder) : m_machine(programFolder)
+{
+    m_machine.repeatRules = ownRules;
+}
 
 RunningProgram::~RunningProgram()
 {
@@ -114,6 +133,17 @@ QList<qint32> RunningProgram::listed()
         ids.append(model.index(row, IdColumn).data().toInt());
     }
     return ids;
+}
+
+QHash<qint32, QString> RunningProgram::listedTexts()
+{
+    QHash<qint32, QString> texts;
+    const QAbstractItemModel& model = *control<GridView>(m_program->alerts(), "grdTasks")->model();
+    for (int row = 0; row < model.rowCount(); ++row) {
+        texts.insert(model.index(row, IdColumn).data().toInt(),
+            model.index(row, AlertListModel::Name).data().toString());
+    }
+    return texts;
 }
 
 bool RunningProgram::selectListed(qint32 id)
@@ -187,6 +217,22 @@ void RunningProgram::deleteTask(qint32 id)
     selectInMainList(id);
     m_machine.dialogs.expectAsk(QStringLiteral("Are you sure you want to delete this task?"), true);
     press(m_program->mainWindow(), "btnTaskDelete");
+}
+
+void RunningProgram::completeTask(qint32 id)
+{
+    selectInMainList(id);
+    control<QAction>(m_program->mainWindow(), "mnuListComplete")->trigger();
+}
+
+void RunningProgram::completeListed(qint32 id)
+{
+    require(selectListed(id), "the alert lists the task");
+    const ContextMenu menu(*control<GridView>(m_program->alerts(), "grdTasks"), "mnuAlert");
+    QAction* complete = menu.entry("mnuAlertComplete");
+    complete->trigger();
+    // An open menu would keep the lists as they are.
+    QApplication::activePopupWidget()->close();
 }
 
 void RunningProgram::dismiss(qint32 id)

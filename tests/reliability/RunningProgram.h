@@ -3,6 +3,7 @@
 #include "app/RecordedMachine.h"
 
 #include <QDate>
+#include <QHash>
 #include <QMap>
 #include <QString>
 #include <chrono>
@@ -24,15 +25,16 @@ struct TaskEntry {
     QString file; ///< unchecked when empty
 };
 
-/// The whole program on a machine that only remembers, worked by a user's hands: every action goes through
-/// the windows. The program can be ended, killed and started again on the same data file.
+/// The whole program on a machine that only remembers, with its own rules of repetition, worked by a user's
+/// hands: every action goes through the windows. The program can be ended, killed and started again on the
+/// same data file.
 class RunningProgram
 {
 public:
     /// Not started yet.
-    RunningProgram() = default;
+    RunningProgram();
     /// On a program folder that is there already and stays.
-    explicit RunningProgram(const QString& programFolder) : m_machine(programFolder) { }
+    explicit RunningProgram(const QString& programFolder);
     ~RunningProgram();
     RunningProgram(const RunningProgram&) = delete;
     RunningProgram& operator=(const RunningProgram&) = delete;
@@ -53,6 +55,8 @@ public:
     QString alertCaption();
     /// The ids of the tasks that the alert lists, from the top.
     QList<qint32> listed();
+    /// What the alert lists of each, by their ids: the name, and behind it how often it has come.
+    QHash<qint32, QString> listedTexts();
     /// Selects a listed task; false when it is not listed.
     bool selectListed(qint32 id);
 
@@ -62,6 +66,10 @@ public:
     /// From the alert window, which is to list the task.
     void editListedTask(qint32 id, const TaskEntry& entry);
     void deleteTask(qint32 id);
+    /// Completes a task from the list of the main window, which is to show the task.
+    void completeTask(qint32 id);
+    /// From the menu of the alert window.
+    void completeListed(qint32 id);
     void dismiss(qint32 id);
     void dismissAll();
     void remindLater(qint32 id, Moment moment);
