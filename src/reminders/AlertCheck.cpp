@@ -2,6 +2,7 @@
 
 #include "data/TaskRepeats.h"
 #include "system/ProgramFiles.h"
+#include "system/RuntimeError.h"
 #include "system/Shell.h"
 #include "widgets/GridView.h"
 #include "widgets/WindowPlacement.h"
@@ -29,6 +30,11 @@ void frmAlerts::showAnew()
         check(isOvertaken);
     } else if (m_reminders.lists(checker.due())) {
         redraw(checker.due());
+    }
+    try {
+        countTimes();
+    } catch (const RuntimeError&) {
+        // Without the rules the reminders are shown all the same.
     }
 }
 
