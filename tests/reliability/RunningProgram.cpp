@@ -7,6 +7,7 @@
 #include "repeats/IcalRepeatRules.h"
 #include "support/ContextMenu.h"
 #include "tasks/frmTaskDetails.h"
+#include "widgets/ComboBox.h"
 #include "widgets/Combos.h"
 #include "widgets/GridView.h"
 #include "widgets/Pickers.h"
@@ -199,6 +200,9 @@ void RunningProgram::fillAndConfirm(const TaskEntry& entry)
     selectNumber(*control<QComboBox>(dialog, "cmbPeriorities"), entry.periority);
     setPickers(
         *control<QDateEdit>(dialog, "dtpDueDate"), *control<QTimeEdit>(dialog, "dtpDueTime"), entry.due);
+    if (entry.repeat >= 0) {
+        control<ComboBox>(dialog, "cmbRepeat")->choose(entry.repeat);
+    }
     // The sound and the file can be entered while the reminder is on only.
     check(dialog, "chkEnableReminder", true);
     check(dialog, "chkReminderSound", !entry.sound.isEmpty());
@@ -216,6 +220,14 @@ void RunningProgram::deleteTask(qint32 id)
 {
     selectInMainList(id);
     m_machine.dialogs.expectAsk(QStringLiteral("Are you sure you want to delete this task?"), true);
+    press(m_program->mainWindow(), "btnTaskDelete");
+}
+
+void RunningProgram::deleteRepeating(qint32 id, MessageBoxes::Times times)
+{
+    selectInMainList(id);
+    m_machine.dialogs.expectWhichTimes(
+        QStringLiteral("This task repeats. Do you want to delete it this time, or all times?"), times);
     press(m_program->mainWindow(), "btnTaskDelete");
 }
 

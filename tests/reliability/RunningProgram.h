@@ -23,6 +23,7 @@ struct TaskEntry {
     Moment reminder{};
     QString sound; ///< unchecked when empty
     QString file; ///< unchecked when empty
+    int repeat = -1; ///< of the list of repeats; negative to leave it as it is
 };
 
 /// The whole program on a machine that only remembers, with its own rules of repetition, worked by a user's
@@ -66,6 +67,8 @@ public:
     /// From the alert window, which is to list the task.
     void editListedTask(qint32 id, const TaskEntry& entry);
     void deleteTask(qint32 id);
+    /// A task that repeats, this time or all times.
+    void deleteRepeating(qint32 id, MessageBoxes::Times times);
     /// Completes a task from the list of the main window, which is to show the task.
     void completeTask(qint32 id);
     /// From the menu of the alert window.
