@@ -58,16 +58,15 @@ function(ambertask_library name)
     PRIVATE ambertask::options ${ARG_PRIVATE})
   set_target_properties(ambertask_${name} PROPERTIES POSITION_INDEPENDENT_CODE ON
                         UNITY_BUILD ${AMBERTASK_UNITY} UNITY_BUILD_BATCH_SIZE 8)
-  ambertask_precompile(ambertask_${name} ${ARG_PRECOMPILED})
+  if(AMBERTASK_PRECOMPILED)
+    ambertask_precompile(ambertask_${name} ${ARG_PRECOMPILED})
+  endif()
 endfunction()
 
 # ambertask_precompile(<target> <header>)
 # The first target that asks for a header of cmake/precompiled has it compiled, the others take it from there: they must
 # have the same options and Qt modules.
 function(ambertask_precompile target header)
-  if(NOT AMBERTASK_PRECOMPILED)
-    return()
-  endif()
   get_property(owner GLOBAL PROPERTY AMBERTASK_OWNER_OF_${header})
   if(owner)
     target_precompile_headers(${target} REUSE_FROM ${owner})

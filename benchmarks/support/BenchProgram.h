@@ -2,7 +2,6 @@
 
 #include "app/Program.h"
 #include "app/TasksPage.h"
-#include "repeats/IcalRepeatRules.h"
 #include "support/MemoryRegistry.h"
 #include "support/ScriptedDialogs.h"
 #include "support/TaskFile.h"
@@ -27,11 +26,7 @@ struct BenchProgram {
             .waveBackend = {},
             .hasNotificationArea = [] { return true; },
             .helpWindow = {},
-            .reportWindow = std::move(reportWindow),
-            .repeatRules =
-                [] {
-                    return std::make_unique<IcalRepeatRules>();
-                }})
+            .reportWindow = std::move(reportWindow)})
     {
         QDir(file.folder()).mkpath(QStringLiteral("Skins"));
         for (const char* skin : {"Aqua", "Midnight"}) {

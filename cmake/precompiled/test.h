@@ -1,7 +1,6 @@
 #pragma once
 
-// What nearly every test includes, parsed once. Sources include what they use all the same: see
-// AMBERTASK_PRECOMPILED.
+// What nearly every test includes, parsed once.
 #include <QtTest>
 #include <QtWidgets>
 #include <algorithm>

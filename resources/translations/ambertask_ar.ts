@@ -1900,13 +1900,6 @@ The window shows what the import would do now.</source>
     </message>
 </context>
 <context>
-    <name>RepeatRules</name>
-    <message>
-        <source>Repeating tasks cannot go on: the module &quot;ambertask_repeats&quot; is missing from the program&apos;s folder or damaged.</source>
-        <translation>تعذّر استمرار المهام المتكررة: الوحدة «ambertask_repeats» مفقودة من مجلد البرنامج أو تالفة.</translation>
-    </message>
-</context>
-<context>
     <name>RepeatTexts</name>
     <message>
         <source>%1 until %2</source>

@@ -1752,13 +1752,6 @@ Das Fenster zeigt, was der Import jetzt bewirken würde.</translation>
     </message>
 </context>
 <context>
-    <name>RepeatRules</name>
-    <message>
-        <source>Repeating tasks cannot go on: the module &quot;ambertask_repeats&quot; is missing from the program&apos;s folder or damaged.</source>
-        <translation>Wiederholungen von Aufgaben können nicht fortgesetzt werden: Das Modul „ambertask_repeats“ fehlt im Programmordner oder ist beschädigt.</translation>
-    </message>
-</context>
-<context>
     <name>RepeatTexts</name>
     <message>
         <source>%1 until %2</source>

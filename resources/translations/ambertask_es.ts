@@ -1752,13 +1752,6 @@ La ventana muestra lo que haría ahora la importación.</translation>
     </message>
 </context>
 <context>
-    <name>RepeatRules</name>
-    <message>
-        <source>Repeating tasks cannot go on: the module &quot;ambertask_repeats&quot; is missing from the program&apos;s folder or damaged.</source>
-        <translation>Las tareas que se repiten no pueden continuar: el módulo «ambertask_repeats» falta en la carpeta del programa o está dañado.</translation>
-    </message>
-</context>
-<context>
     <name>RepeatTexts</name>
     <message>
         <source>%1 until %2</source>

@@ -1752,13 +1752,6 @@ La fenêtre montre ce que ferait l’importation maintenant.</translation>
     </message>
 </context>
 <context>
-    <name>RepeatRules</name>
-    <message>
-        <source>Repeating tasks cannot go on: the module &quot;ambertask_repeats&quot; is missing from the program&apos;s folder or damaged.</source>
-        <translation>Les répétitions des tâches ne peuvent pas se poursuivre&#xa0;: le module «&#xa0;ambertask_repeats&#xa0;» est absent du dossier du programme ou endommagé.</translation>
-    </message>
-</context>
-<context>
     <name>RepeatTexts</name>
     <message>
         <source>%1 until %2</source>

@@ -1715,13 +1715,6 @@ The window shows what the import would do now.</source>
     </message>
 </context>
 <context>
-    <name>RepeatRules</name>
-    <message>
-        <source>Repeating tasks cannot go on: the module &quot;ambertask_repeats&quot; is missing from the program&apos;s folder or damaged.</source>
-        <translation>重复的任务无法继续：程序文件夹中缺少模块“ambertask_repeats”，或该模块已损坏。</translation>
-    </message>
-</context>
-<context>
     <name>RepeatTexts</name>
     <message>
         <source>%1 until %2</source>

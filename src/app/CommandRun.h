@@ -23,14 +23,10 @@ public:
         ExchangeFactory exchange;
         OutputStream& output;
         QIODevice& errors; ///< takes sentences for the user
-        Repeating::Load repeatRules = {};
     };
     enum Status { Done = 0, Failed = 1, WrongUsage = 2 };
 
-    explicit CommandRun(Surroundings surroundings)
-        : m_around(std::move(surroundings)), m_repeating(m_around.repeatRules)
-    {
-    }
+    explicit CommandRun(Surroundings surroundings) : m_around(std::move(surroundings)) { }
 
     /// Runs a command other than Start. Fails without a sentence when nobody reads the output any more.
     Status run(const CommandLine& line);

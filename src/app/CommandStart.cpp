@@ -1,6 +1,5 @@
 #include "app/CommandLine.h"
 #include "app/CommandRun.h"
-#include "data/RepeatRules.h"
 #include "exchange/Exchange.h"
 #include "system/Clock.h"
 #include "system/Installation.h"
@@ -21,15 +20,12 @@ int runCommand(const CommandLine& line, int argc, char** argv, const Installatio
     Language language;
     language.speakAsTheSystem();
     const SystemClock clock;
-    Modules modules(installation.moduleFolder, {QLatin1String(ExchangeModule), QLatin1String(RepeatModule)});
+    Modules modules(installation.moduleFolder, {QLatin1String(ExchangeModule)});
     OutputStream output;
     QFile errors;
     errors.open(stderr, QIODevice::WriteOnly | QIODevice::Unbuffered);
     const auto exchange = [&modules] {
         return loadExchange(modules);
     };
-    const auto rules = [&modules] {
-        return loadRepeatRules(modules);
-    };
-    return CommandRun({installation, programFolder, clock, exchange, output, errors, rules}).run(line);
+    return CommandRun({installation, programFolder, clock, exchange, output, errors}).run(line);
 }

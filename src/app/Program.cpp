@@ -54,7 +54,7 @@ private:
 } // namespace
 
 Program::Program(const Machine& machine)
-    : m_machine(machine), m_repeating(machine.repeatRules), m_engine(machine.engine),
+    : m_machine(machine), m_engine(machine.engine),
       m_dayCopy(m_engine, [this](const QString& why) { tellNoCopy(why); }),
       m_files(machine.engine.programFolder, machine.shippedFolder),
       m_undo(m_engine), m_services{m_engine, *machine.engine.clock, machine.messages, machine.fileDialogs,

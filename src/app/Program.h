@@ -57,8 +57,6 @@ struct Machine {
     QString shippedFolder = {};
     /// The file for what the user has arranged in the main window; empty to keep nothing.
     QString stateFile = {};
-    /// Loads the rules of tasks that repeat.
-    Repeating::Load repeatRules = {};
 };
 
 /// The program: the one instance of each form and of what they share, and their connections. Interface

@@ -38,8 +38,7 @@ struct RealMachine {
     RealMachine(const Installation& installation, const QString& programFolder, ErrorReport& errorReport)
         : shippedFolder(installation.shippedFolder),
           modules(installation.moduleFolder,
-              {QLatin1String(HelpModule), QLatin1String(ReportModule), QLatin1String(ExchangeModule),
-                  QLatin1String(RepeatModule)},
+              {QLatin1String(HelpModule), QLatin1String(ReportModule), QLatin1String(ExchangeModule)},
               {QLatin1String(SoundProgram), QLatin1String(PictureProgram)}),
           engine{programFolder, &clock, nullptr, nullptr, &dataFileIsSound}, errors(errorReport)
     {
@@ -53,10 +52,7 @@ struct RealMachine {
             [this](ReportHost& host) { return loadReportWindow(modules, host); },
             [this] { return loadExchange(modules); },
             [this] { return modules.program(QLatin1String(PictureProgram)); }, shippedFolder,
-            pathIn(userStateFolder(), QStringLiteral("window")),
-            [this] {
-                return loadRepeatRules(modules);
-            }};
+            pathIn(userStateFolder(), QStringLiteral("window"))};
     }
 
     QString shippedFolder;

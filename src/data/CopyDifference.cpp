@@ -15,19 +15,24 @@ namespace
 /// The rows of a table in the order of their ids, which are the first column, and the number of its columns.
 struct Table {
     QLatin1String query;
+    QLatin1String queryBeforeRepeats; ///< for a data file that has no table of repeats
     int columns;
 };
 
 const Table Tasks{
     QLatin1String("select task_id,task_name,task_desc,task_status,cat_id,task_due_date,task_periority,"
-                  "reminder_on,reminder_date_time,reminder_sound,reminder_file,dismissed from tasks "
+                  "reminder_on,reminder_date_time,reminder_sound,reminder_file,dismissed,"
+                  "rule,first_moment,lead,done from tasks left join repeats on task_id=of_task "
                   "order by task_id"),
-    12};
+    QLatin1String("select task_id,task_name,task_desc,task_status,cat_id,task_due_date,task_periority,"
+                  "reminder_on,reminder_date_time,reminder_sound,reminder_file,dismissed,"
+                  "null,null,null,null from tasks order by task_id"),
+    16};
 /// Without the place of a picture of the user's in the image list, which the program keeps up by itself.
-const Table Categories{
-    QLatin1String("select cat_id,cat_name,cat_desc,custom_icon,cat_icon_name,"
-                  "case when custom_icon then 0 else cat_icon end from categories order by cat_id"),
-    6};
+const QLatin1String SelectCategories(
+    "select cat_id,cat_name,cat_desc,custom_icon,cat_icon_name,"
+    "case when custom_icon then 0 else cat_icon end from categories order by cat_id");
+const Table Categories{SelectCategories, SelectCategories, 6};
 
 /// Why the copy cannot be used.
 class UnusableCopy : public RuntimeError
@@ -80,12 +85,18 @@ bool isSameRow(const RecordSet& now, const RecordSet& then, int columns)
     return true;
 }
 
+RecordSet rowsOf(Connection& connection, const Table& table)
+{
+    return connection.execute(
+        knownVersion(connection) < VersionWithRepeats ? table.queryBeforeRepeats : table.query);
+}
+
 /// Goes through both in step.
 CopyDifference compare(Connection& now, Connection& then, const Table& table)
 {
     CopyDifference found;
-    RecordSet present = now.execute(table.query);
-    RecordSet past = inCopy([&] { return then.execute(table.query); });
+    RecordSet present = rowsOf(now, table);
+    RecordSet past = inCopy([&] { return rowsOf(then, table); });
     while (!present.atEnd() || !past.atEnd()) {
         const int order = present.atEnd() ? 1 : past.atEnd() ? -1 : present.compare(0, past, 0);
         found.added += order < 0 ? 1 : 0;

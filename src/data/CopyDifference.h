@@ -8,7 +8,8 @@ struct DatabaseEngine;
 struct CopyDifference {
     int tasks = 0; ///< in the copy
     int added = 0; ///< tasks that only the data file has
-    int changed = 0; ///< tasks of one id with other values; whether a reminder has sounded does not count
+    int changed =
+        0; ///< tasks of one id with other values or rules; whether a reminder has sounded does not count
     int gone = 0; ///< tasks that only the copy has
     bool hasOtherCategories = false;
     /// Why the copy cannot be restored, as a sentence; the rest means nothing then. Empty when nothing speaks

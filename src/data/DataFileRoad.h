@@ -7,6 +7,8 @@ struct DatabaseEngine;
 
 /// The version (`user_version`) of the data file that schema.sql creates.
 inline constexpr int DataFileVersion = 4;
+/// The first with the table of repeats.
+inline constexpr int VersionWithRepeats = 4;
 
 /// The data file has a later version than this program supports.
 class LaterDataFileError : public RuntimeError

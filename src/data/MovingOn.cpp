@@ -118,7 +118,7 @@ std::vector<MovingOn::Task> MovingOn::repeatingAmong(
 
 bool MovingOn::moveToNext(const Task& task)
 {
-    const auto next = m_engine.repeating->rules().next(task.repeat, std::max(task.due, m_now));
+    const auto next = RepeatRules::next(task.repeat, std::max(task.due, m_now));
     if (next) {
         remindOf(task, *next, settingDue(*next));
         setDone(task, 1);
@@ -128,11 +128,10 @@ bool MovingOn::moveToNext(const Task& task)
 
 bool MovingOn::remindOfNext(const Task& task)
 {
-    const RepeatRules& rules = m_engine.repeating->rules();
     // A reminder that was put before its time, or has not come yet because the clock was set back, is that of
     // this occurrence all the same: it must not come twice.
     const auto next =
-        rules.next(task.repeat, std::max(task.due, std::max(task.reminder, m_now) + task.repeat.lead));
+        RepeatRules::next(task.repeat, std::max(task.due, std::max(task.reminder, m_now) + task.repeat.lead));
     if (!next) {
         return false;
     }
@@ -141,9 +140,9 @@ bool MovingOn::remindOfNext(const Task& task)
         return true;
     }
     // A moment that is still to come is not skipped, even if its reminder is the one that has been seen.
-    const Moment due = std::min(*next, rules.next(task.repeat, m_now).value_or(*next));
+    const Moment due = std::min(*next, RepeatRules::next(task.repeat, m_now).value_or(*next));
     remindOf(task, *next, settingDue(due));
-    setDone(task, 1 + rules.count(task.repeat, task.due, due - 1s, TaskRepeats::MostMissed));
+    setDone(task, 1 + RepeatRules::count(task.repeat, task.due, due - 1s, TaskRepeats::MostMissed));
     return true;
 }
 

@@ -12,8 +12,8 @@ struct DatabaseEngine;
 /// Moves repeating tasks on to a later moment of their series, as a part of an operation on an open
 /// connection. Due moments and reminders only go forward, also when the clock has been set back. Sends no
 /// statement when nothing repeats. The functions return which of the ids are not moved on: tasks that do not
-/// repeat, and those for which there is no later moment. They throw DatabaseError, and RuntimeError when the
-/// rules cannot be loaded; then the operation is to be abandoned.
+/// repeat, and those for which there is no later moment. They throw DatabaseError; then the
+/// operation is to be abandoned.
 class MovingOn
 {
 public:

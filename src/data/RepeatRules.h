@@ -3,12 +3,8 @@
 #include "system/Moment.h"
 
 #include <chrono>
-#include <functional>
-#include <memory>
 #include <optional>
 #include <string>
-
-class Modules;
 
 /// How a task repeats. All moments are wall-clock times without a zone: a task at 9:00 stays at 9:00 when
 /// clocks are set forward or back.
@@ -21,51 +17,29 @@ struct Repeat {
     bool operator==(const Repeat&) const = default;
 };
 
-/// Calculates the moments of rules, in a module that the first repeating task loads. Stateless; one thread.
-class RepeatRules
+/// The moments of rules, by the Gregorian calendar alone. Any thread.
+namespace RepeatRules
 {
-public:
-    RepeatRules() = default;
-    virtual ~RepeatRules() = default;
-    RepeatRules(const RepeatRules&) = delete;
-    RepeatRules& operator=(const RepeatRules&) = delete;
 
-    /// The first moment of the series that is later than `after`; none when the series has ended by then,
-    /// goes on past the year 9999, or the rule cannot be read.
-    virtual std::optional<Moment> next(const Repeat& repeat, Moment after) const = 0;
-    /// How many moments of the series are later than `after` and not later than `until`; no more than `most`
-    /// are counted.
-    virtual int count(const Repeat& repeat, Moment after, Moment until, int most) const = 0;
-    /// Whether the rule can be read and calculated in reasonable time.
-    virtual bool isUsable(const std::string& rule) const = 0;
-};
+/// The first moment of the series that is later than `after`; none when the series has ended by then, goes on
+/// past the year 9999, or the rule cannot be read.
+std::optional<Moment> next(const Repeat& repeat, Moment after);
+/// How many moments of the series are later than `after` and not later than `until`; no more than `most` are
+/// counted.
+int count(const Repeat& repeat, Moment after, Moment until, int most);
+/// Whether the rule can be read.
+bool isUsable(const std::string& rule);
 
-inline constexpr char RepeatModule[] = "ambertask_repeats";
+} // namespace RepeatRules
 
-/// Loads the module, which stays loaded. Throws RuntimeError when it is missing or damaged.
-std::unique_ptr<RepeatRules> loadRepeatRules(Modules& modules);
-
-/// Whether anything repeats, and the rules. The program has one. Thread of the windows.
+/// Whether anything repeats. The program has one. Thread of the windows.
 class Repeating
 {
 public:
-    using Load = std::function<std::unique_ptr<RepeatRules>()>;
-    explicit Repeating(Load load) : m_load(std::move(load)) { }
-
     /// Whether the data file may hold a task that repeats: otherwise nothing is asked about it.
     bool isUsed() const { return m_isUsed; }
     void setUsed(bool used) { m_isUsed = used; }
-    /// Loads the module at the first call. Throws RuntimeError.
-    const RepeatRules& rules()
-    {
-        if (m_rules == nullptr) {
-            m_rules = m_load();
-        }
-        return *m_rules;
-    }
 
 private:
-    Load m_load;
-    std::unique_ptr<RepeatRules> m_rules;
     bool m_isUsed = false;
 };

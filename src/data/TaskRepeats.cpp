@@ -87,11 +87,11 @@ void TaskRepeats::set(
     }
 }
 
-int TaskRepeats::missed(Repeating& repeating, const Repeat& repeat, Moment reminder, Moment now)
+int TaskRepeats::missed(const Repeat& repeat, Moment reminder, Moment now)
 {
     return now < reminder
         ? 0
-        : 1 + repeating.rules().count(repeat, reminder + repeat.lead, now + repeat.lead, MostMissed - 1);
+        : 1 + RepeatRules::count(repeat, reminder + repeat.lead, now + repeat.lead, MostMissed - 1);
 }
 
 RepeatColumns::RepeatColumns(const RecordSet& records)

@@ -37,8 +37,8 @@ void set(
     const DatabaseEngine& engine, Connection& connection, qint32 id, const std::optional<Repeat>& repeat);
 
 /// How many reminders of a task have come from `reminder`, its present one, to `now`: 0 before that, no more
-/// than MostMissed. Throws RuntimeError when the rules cannot be loaded.
-int missed(Repeating& repeating, const Repeat& repeat, Moment reminder, Moment now);
+/// than MostMissed.
+int missed(const Repeat& repeat, Moment reminder, Moment now);
 inline constexpr int MostMissed = 9'999;
 
 } // namespace TaskRepeats

@@ -30,11 +30,15 @@ enum Column : int {
     DismissedColumn,
     UidColumn,
     RepeatColumn,
+    FirstColumn,
+    LeadColumn,
+    DoneColumn,
     ColumnCount
 };
 
 constexpr std::array<std::string_view, ColumnCount> Header{"Name", "Description", "Status", "Category", "Due",
-    "Priority", "Reminder", "Reminder time", "Sound", "File", "Played", "Dismissed", "UID", "Repeat"};
+    "Priority", "Reminder", "Reminder time", "Sound", "File", "Played", "Dismissed", "UID", "Repeat",
+    "Repeats from", "Reminds before", "Times done"};
 
 /// A word that says what one of ours does.
 struct Synonym {
@@ -145,6 +149,7 @@ private:
         return isSaid;
     }
     bool readMoment(Column column, const std::string& field, std::chrono::minutes timeOfDay, Moment& moment);
+    std::optional<qint32> number(Column column, const std::string& field);
     std::optional<QDate> dateOf(const QString& text) const;
     void readCode(int column, const std::string& field);
 
@@ -218,6 +223,16 @@ bool RowReading::readMoment(
     return true;
 }
 
+std::optional<qint32> RowReading::number(Column column, const std::string& field)
+{
+    const std::string_view word = trimmed(field);
+    const auto number = numberOf(word);
+    if (!number && !word.empty()) {
+        note(column, word);
+    }
+    return number;
+}
+
 void RowReading::readField(int column, const std::string& field)
 {
     FileTask::Said& said = m_read.task.said;
@@ -249,7 +264,7 @@ void RowReading::readField(int column, const std::string& field)
         }
         break;
     case RepeatColumn:
-        m_read.task.rule = trimmed(field);
+        m_read.task.rule.rule = trimmed(field);
         m_read.task.said.rule = true;
         break;
     default:
@@ -283,6 +298,17 @@ void RowReading::readCode(int column, const std::string& field)
     case DismissedColumn:
         said.state = readFlag(DismissedColumn, field, task().dismissed) || said.state;
         break;
+    case FirstColumn:
+        if (Moment first; readMoment(FirstColumn, field, EndOfDay, first)) {
+            m_read.task.rule.first = first;
+        }
+        break;
+    case LeadColumn:
+        m_read.task.rule.lead = number(LeadColumn, field);
+        break;
+    case DoneColumn:
+        m_read.task.rule.done = number(DoneColumn, field);
+        break;
     default:
         break;
     }
@@ -304,10 +330,14 @@ void appendCsvTask(std::string& out, const TaskRecord& task)
     const std::string priority = wordOf(PriorityWords, task.periority);
     const std::string due = storedText(task.due);
     const std::string reminder = storedText(task.reminder);
+    const Repeat repeat = task.repeat.value_or(Repeat{});
+    const std::string first = task.repeat ? storedText(repeat.first) : std::string();
+    const std::string lead = task.repeat ? std::to_string(repeat.lead.count()) : std::string();
+    const std::string done = task.repeat ? std::to_string(repeat.done) : std::string();
     appendCsvRow(out,
         {task.name, task.description, status, task.category, due, priority, flag(task.reminderOn), reminder,
-            task.sound, task.file, flag(task.played), flag(task.dismissed), task.uid,
-            task.repeat ? std::string_view(task.repeat->rule) : std::string_view()});
+            task.sound, task.file, flag(task.played), flag(task.dismissed), task.uid, repeat.rule, first,
+            lead, done});
 }
 
 CsvColumns::CsvColumns(const CsvRow& header, QString shortDate) : m_shortDate(std::move(shortDate))

@@ -2,6 +2,16 @@
 
 #include "data/TaskRecord.h"
 
+#include <optional>
+
+/// How a row of a table says that a task repeats.
+struct RuleOfFile {
+    std::string rule; ///< empty when it does not
+    std::optional<Moment> first; ///< from which the rule counts; otherwise from the due moment on
+    std::optional<qint32> lead; ///< of the reminder, in minutes
+    std::optional<qint32> done;
+};
+
 /// A task as a file has it.
 struct FileTask {
     /// What the file says something of; the rest of `task` means nothing.
@@ -26,7 +36,7 @@ struct FileTask {
     Said said;
     /// `file` is what the task starts, confirmed by nobody.
     TaskRecord task;
-    std::string rule; ///< by which it repeats from its due moment on; empty when it does not
+    RuleOfFile rule;
     int furtherReminders = 0;
     bool repeats = false; ///< in the other program alone
     bool isOwnRepeat = false; ///< written by this program, and changed by nobody

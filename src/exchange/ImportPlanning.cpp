@@ -114,8 +114,7 @@ void ImportPlanning::settleReminder(TaskRecord& task, const FileTask::Said& said
     task.played = task.dismissed = task.reminderOn && task.reminder < m_now;
     if (task.repeat && task.dismissed) {
         // It reminds of the next one.
-        if (const auto next = m_engine->repeating->rules().next(
-                *task.repeat, std::max(task.due, m_now + task.repeat->lead));
+        if (const auto next = RepeatRules::next(*task.repeat, std::max(task.due, m_now + task.repeat->lead));
             next && isStorable(*next - task.repeat->lead)) {
             task.reminder = *next - task.repeat->lead;
             task.played = task.dismissed = false;
@@ -124,17 +123,19 @@ void ImportPlanning::settleReminder(TaskRecord& task, const FileTask::Said& said
     m_plan.dismissed += task.dismissed ? 1 : 0;
 }
 
-/// How a task repeats of which a file says nothing but the rule.
-std::optional<Repeat> ImportPlanning::repeatBy(const std::string& rule, const TaskRecord& task)
+/// How a task repeats of which a row of a table says the rule.
+std::optional<Repeat> ImportPlanning::repeatBy(const RuleOfFile& said, const TaskRecord& task)
 {
-    if (rule.empty() || m_engine->repeating == nullptr) {
+    using namespace std::chrono;
+    if (said.rule.empty() || m_engine->repeating == nullptr) {
         return std::nullopt;
     }
-    if (task.status == TaskStatus::Completed || !m_engine->repeating->rules().isUsable(rule)) {
+    if (task.status == TaskStatus::Completed || !RepeatRules::isUsable(said.rule)) {
         ++m_plan.repeating;
         return std::nullopt;
     }
-    return Repeat{rule, task.due, std::chrono::floor<std::chrono::minutes>(task.due - task.reminder), 0};
+    return Repeat{said.rule, said.first.value_or(task.due),
+        said.lead ? minutes(*said.lead) : floor<minutes>(task.due - task.reminder), said.done.value_or(0)};
 }
 
 void ImportPlanning::takeNew(FileTask&& read)
@@ -174,8 +175,8 @@ void ImportPlanning::takeStored(FileTask&& read, const TaskRecord& stored)
         imported.program = read.task.file;
     }
     imported.task = stored;
-    const std::string rule = std::move(read.rule);
-    const bool isOwnRepeat = read.isOwnRepeat;
+    const RuleOfFile rule = std::move(read.rule);
+    const bool isOwnRepeat = read.isOwnRepeat || rule.first;
     overlay(imported.task, std::move(read));
     if (said.rule) {
         imported.task.repeat = repeatBy(rule, imported.task);

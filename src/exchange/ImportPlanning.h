@@ -35,7 +35,7 @@ private:
     void takeStored(FileTask&& read, const TaskRecord& stored);
     void add(ImportedTask&& imported);
     void settleReminder(TaskRecord& task, const FileTask::Said& said);
-    std::optional<Repeat> repeatBy(const std::string& rule, const TaskRecord& task);
+    std::optional<Repeat> repeatBy(const RuleOfFile& said, const TaskRecord& task);
 
     const DatabaseEngine* m_engine;
     Moment m_now;

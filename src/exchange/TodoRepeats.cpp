@@ -44,14 +44,14 @@ bool RepeatOfFile::isOwn(Moment due) const
         && numberOf(line->parameter("X-LEAD").value_or(""));
 }
 
-std::optional<Repeat> RepeatOfFile::repeatOf(
-    const FileTask& task, const RepeatRules& rules, Moment start, bool isOwnReminder) const
+std::optional<Repeat> RepeatOfFile::repeatOf(const FileTask& task, Moment start, bool isOwnReminder) const
 {
     using namespace std::chrono_literals;
     const Moment due = task.task.due;
     // A rule that names days counts from the beginning, which would be on another one.
     const bool isOfOtherDays = startOfDay(start) != startOfDay(due) && m_rule.find("BY") != std::string::npos;
-    if (m_parts != 1 || !m_isPlain || isOfOtherDays || !isSayableRule(m_rule) || !rules.isUsable(m_rule)) {
+    if (m_parts != 1 || !m_isPlain || isOfOtherDays || !isSayableRule(m_rule)
+        || !RepeatRules::isUsable(m_rule)) {
         return std::nullopt;
     }
     Repeat repeat{m_rule, due, leadOf(due, task.said.reminder ? task.task.reminder : due), 0};
@@ -63,7 +63,7 @@ std::optional<Repeat> RepeatOfFile::repeatOf(
             isOwnReminder ? std::chrono::minutes(*numberOf(*line->parameter("X-LEAD"))) : repeat.lead;
         return repeat;
     }
-    return rules.next(repeat, due - 1s) == due ? std::optional(repeat) : std::nullopt;
+    return RepeatRules::next(repeat, due - 1s) == due ? std::optional(repeat) : std::nullopt;
 }
 
 void RepeatOfFile::finish(FileTask& task, Repeating* repeating, Moment start, bool isOwnReminder) const
@@ -75,7 +75,7 @@ void RepeatOfFile::finish(FileTask& task, Repeating* repeating, Moment start, bo
         || task.task.status == TaskStatus::Completed) {
         return;
     }
-    task.task.repeat = repeatOf(task, repeating->rules(), start, isOwnReminder);
+    task.task.repeat = repeatOf(task, start, isOwnReminder);
     if (task.task.repeat) {
         task.repeats = false;
         task.isOwnRepeat = isOwn(task.task.due);

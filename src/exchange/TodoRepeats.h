@@ -19,13 +19,11 @@ public:
     /// Says in `task`, of which all else has been read, how it repeats. A rule that this program follows is
     /// taken out of the kept lines. `start` is from where others count; `isOwnReminder` tells that the
     /// reminder was written by this program and changed by nobody. Without `repeating` nothing repeats.
-    /// Throws RuntimeError when the rules cannot be loaded.
     void finish(FileTask& task, Repeating* repeating, Moment start, bool isOwnReminder) const;
 
 private:
     bool isOwn(Moment due) const;
-    std::optional<Repeat> repeatOf(
-        const FileTask& task, const RepeatRules& rules, Moment start, bool isOwnReminder) const;
+    std::optional<Repeat> repeatOf(const FileTask& task, Moment start, bool isOwnReminder) const;
 
     std::string m_rule;
     std::size_t m_place = 0; ///< where its line begins among the kept ones

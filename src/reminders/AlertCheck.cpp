@@ -2,7 +2,6 @@
 
 #include "data/TaskRepeats.h"
 #include "system/ProgramFiles.h"
-#include "system/RuntimeError.h"
 #include "system/Shell.h"
 #include "widgets/GridView.h"
 #include "widgets/WindowPlacement.h"
@@ -31,11 +30,7 @@ void frmAlerts::showAnew()
     } else if (m_reminders.lists(checker.due())) {
         redraw(checker.due());
     }
-    try {
-        countTimes();
-    } catch (const RuntimeError&) {
-        // Without the rules the reminders are shown all the same.
-    }
+    countTimes();
 }
 
 void frmAlerts::check(bool isOvertaken)
@@ -75,7 +70,7 @@ void frmAlerts::check(bool isOvertaken)
 
 void frmAlerts::countTimes()
 {
-    Repeating* repeating = m_services.engine.repeating;
+    const Repeating* repeating = m_services.engine.repeating;
     if (repeating == nullptr || !repeating->isUsed() || m_reminders.rowCount() == 0) {
         return;
     }
@@ -86,7 +81,7 @@ void frmAlerts::countTimes()
         const auto repeat = repeats.find(due.id);
         const auto reminder = momentFromStoredText(due.reminder.toStdString());
         if (repeat != repeats.end() && reminder) {
-            times.insert(due.id, TaskRepeats::missed(*repeating, repeat->second, *reminder, now));
+            times.insert(due.id, TaskRepeats::missed(repeat->second, *reminder, now));
         }
     }
     m_reminders.setTimes(times);

@@ -56,11 +56,11 @@ RepeatPattern RepeatInput::pattern(Moment due) const
     return pattern;
 }
 
-std::vector<Moment> dueMoments(const RepeatRules& rules, const Repeat& repeat, Moment due, int most)
+std::vector<Moment> dueMoments(const Repeat& repeat, Moment due, int most)
 {
     std::vector<Moment> moments{due};
     while (static_cast<int>(moments.size()) < most) {
-        const std::optional<Moment> next = rules.next(repeat, moments.back());
+        const std::optional<Moment> next = RepeatRules::next(repeat, moments.back());
         if (!next) {
             break;
         }

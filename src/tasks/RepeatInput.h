@@ -39,4 +39,4 @@ private:
 };
 
 /// The due moment and those that follow it in the series, `most` of them at most.
-std::vector<Moment> dueMoments(const RepeatRules& rules, const Repeat& repeat, Moment due, int most);
+std::vector<Moment> dueMoments(const Repeat& repeat, Moment due, int most);

@@ -1,7 +1,6 @@
 #include "tasks/frmRepeat.h"
 
 #include "store/DatabaseEngine.h"
-#include "system/RuntimeError.h"
 #include "widgets/CheckBox.h"
 #include "widgets/CloseBox.h"
 #include "widgets/ComboBox.h"
@@ -74,23 +73,14 @@ void frmRepeat::follow()
 
 QString frmRepeat::momentsText(const RepeatInput& entered) const
 {
-    Repeating* repeating = m_services.engine.repeating;
-    if (repeating == nullptr) {
-        return {};
+    QStringList lines;
+    for (const Moment moment : dueMoments(m_repeatBy(entered.pattern(m_due)), m_due, ShownMoments)) {
+        const QString weekday = QLocale().standaloneDayName(toQDate(moment).dayOfWeek());
+        const QString time = QLocale().toString(toQTime(moment), shortTimeFormat());
+        //: %1 is a weekday, %2 a date and a time
+        lines.append(tr("%1, %2").arg(weekday, inOwnDirection(shortDate(moment) + u' ' + time)));
     }
-    try {
-        QStringList lines;
-        for (const Moment moment :
-            dueMoments(repeating->rules(), m_repeatBy(entered.pattern(m_due)), m_due, ShownMoments)) {
-            const QString weekday = QLocale().standaloneDayName(toQDate(moment).dayOfWeek());
-            const QString time = QLocale().toString(toQTime(moment), shortTimeFormat());
-            //: %1 is a weekday, %2 a date and a time
-            lines.append(tr("%1, %2").arg(weekday, inOwnDirection(shortDate(moment) + u' ' + time)));
-        }
-        return lines.join(u'\n');
-    } catch (const RuntimeError& error) {
-        return error.text();
-    }
+    return lines.join(u'\n');
 }
 
 void frmRepeat::btnOk_Click()

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/Program.h"
-#include "support/FakeRepeatRules.h"
+#include "data/RepeatRules.h"
 #include "support/MemoryRegistry.h"
 #include "support/RecordedHelpWindow.h"
 #include "support/RecordedReportWindow.h"
@@ -58,8 +58,7 @@ struct RecordedMachine {
                 reportWindow = window.get();
                 return window;
             },
-            [this] { return std::make_unique<RecordedExchange>(exchange); }, {}, shippedFolder, {},
-            repeatRules};
+            [this] { return std::make_unique<RecordedExchange>(exchange); }, {}, shippedFolder, {}};
     }
     void setting(const QString& column, int value) const
     {
@@ -77,5 +76,4 @@ struct RecordedMachine {
     QPointer<RecordedHelpWindow> helpWindow;
     QPointer<RecordedReportWindow> reportWindow;
     RecordedExchange::Log exchange;
-    Repeating::Load repeatRules = fakeRepeatRules();
 };

@@ -4,7 +4,6 @@
 #include "exchange/Exchange.h"
 #include "reminders/AlertListModel.h"
 #include "reminders/frmAlerts.h"
-#include "repeats/IcalRepeatRules.h"
 #include "support/FileContent.h"
 #include "support/TestMain.h"
 #include "system/Modules.h"
@@ -19,13 +18,6 @@ using namespace std::chrono_literals;
 
 namespace
 {
-
-Repeating::Load ownRules()
-{
-    return [] {
-        return std::make_unique<IcalRepeatRules>();
-    };
-}
 
 /// A running copy, and commands beside it on the same data file.
 struct CommandsBeside : ProgramFixture {
@@ -45,7 +37,7 @@ struct CommandsBeside : ProgramFixture {
         QBuffer errors;
         errors.open(QIODevice::WriteOnly);
         CommandRun command({{QString(), QString(), QString(), database.folder()}, database.folder(),
-            database.clock(), [this] { return loadExchange(modules); }, stream, errors, rules});
+            database.clock(), [this] { return loadExchange(modules); }, stream, errors});
         const CommandRun::Status status = command.run(CommandLine::read(words));
         output = QString::fromUtf8(contentOf(file.fileName()));
         complaint = QString::fromUtf8(errors.data());
@@ -89,7 +81,6 @@ struct CommandsBeside : ProgramFixture {
     QTemporaryDir folder;
     Modules modules{
         QFileInfo(QStringLiteral(AMBERTASK_EXCHANGE_MODULE)).path(), {QLatin1String(ExchangeModule)}};
-    Repeating::Load rules = ownRules();
     QString output;
     QString complaint;
 };
@@ -181,16 +172,6 @@ private slots:
         f.dismiss();
         QCOMPARE(f.state(),
             QStringLiteral("01-19 10:00 01-19 09:50 FREQ=DAILY;INTERVAL=3 2026-01-16 10:00:00 10 1"));
-    }
-
-    void withoutTheRulesNothingIsImported()
-    {
-        CommandsBeside f;
-        f.rules = missingRepeatRules();
-        f.write("a.ics", Weekdays);
-        QCOMPARE(f.importFile("a.ics"), CommandRun::Failed);
-        QVERIFY2(f.complaint.contains(QLatin1String("The module is missing.")), qPrintable(f.complaint));
-        QCOMPARE(f.database.sql(QStringLiteral("select count(*) from tasks")).toInt(), 0);
     }
 
 private:

@@ -1,14 +1,14 @@
 #pragma once
 
+#include "data/RepeatRules.h"
 #include "data/TaskRepeats.h"
 #include "data/UndoHistory.h"
 #include "store/Connection.h"
-#include "support/FakeRepeatRules.h"
 #include "support/TestDatabase.h"
 
 /// A data file in which tasks can repeat. The clock stands at 15 January 2026, 10:00.
 struct RepeatsUnderTest {
-    explicit RepeatsUnderTest(const Repeating::Load& load = fakeRepeatRules()) : repeating(load)
+    RepeatsUnderTest()
     {
         engine = database.engine();
         engine.repeating = &repeating;

@@ -46,6 +46,7 @@ private slots:
     void tasksAreAddedChangedAndGone();
     void everyColumnOfATaskCounts_data();
     void everyColumnOfATaskCounts();
+    void aChangedRuleIsAChange();
     void aReminderThatHasSoundedIsNoChange();
     void categoriesCountWithTheirPictures();
     void thePlaceOfAPictureInTheListIsNoChange();
@@ -96,6 +97,28 @@ void TestCopyDifference::everyColumnOfATaskCounts()
     const ComparedCopy test;
     test.database.sql(QStringLiteral("update tasks set %1 where task_id=1").arg(assignment));
     QCOMPARE(test.counts(), QStringLiteral("5 of them 0 added 1 changed 0 gone"));
+}
+
+void TestCopyDifference::aChangedRuleIsAChange()
+{
+    const ComparedCopy test;
+    const QByteArray without = test.content();
+    test.database.sql(QStringLiteral("insert into repeats values(2,'FREQ=DAILY','2026-01-15 09:00:00',5,3)"));
+    QCOMPARE(test.counts(), QStringLiteral("5 of them 0 added 1 changed 0 gone"));
+    DataFileCopies(test.engine).backUpTo(test.copy);
+    QCOMPARE(test.counts(), QStringLiteral("5 of them 0 added 0 changed 0 gone"));
+    for (const char* change :
+        {"update repeats set rule='FREQ=WEEKLY'", "update repeats set lead=6", "update repeats set done=4",
+            "update repeats set first_moment='2026-01-16 09:00:00'", "delete from repeats"}) {
+        const QByteArray before = test.content();
+        test.database.sql(QString::fromLatin1(change));
+        QCOMPARE(test.counts(), QStringLiteral("5 of them 0 added 1 changed 0 gone"));
+        writeText(test.database.dataFile(), before);
+    }
+    writeText(test.copy, without);
+    test.database.sql(QStringLiteral("update repeats set of_task=77"));
+    // The rule of a task that is gone is nobody's.
+    QCOMPARE(test.counts(), QStringLiteral("5 of them 0 added 0 changed 0 gone"));
 }
 
 void TestCopyDifference::aReminderThatHasSoundedIsNoChange()
@@ -176,10 +199,13 @@ void TestCopyDifference::anEmptyFileOnOneSide()
 void TestCopyDifference::aCopyOfAnEarlierVersionIsCompared()
 {
     const ComparedCopy test;
-    test.database.sql(QStringLiteral("drop index tasks_by_status; pragma user_version=1"));
+    test.database.sql(
+        QStringLiteral("drop index tasks_by_status; drop table repeats; pragma user_version=1"));
     DataFileCopies(test.engine).backUpTo(test.copy);
     DataFileCopies(test.engine).bringUp();
     QCOMPARE(test.counts(), QStringLiteral("5 of them 0 added 0 changed 0 gone"));
+    test.database.sql(QStringLiteral("insert into repeats values(2,'FREQ=DAILY','2026-01-15 09:00:00',5,3)"));
+    QCOMPARE(test.counts(), QStringLiteral("5 of them 0 added 1 changed 0 gone"));
     QCOMPARE(test.difference().unusable, QString());
 }
 

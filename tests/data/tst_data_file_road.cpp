@@ -1,9 +1,9 @@
 #include "data/ClsDatabase.h"
 #include "data/DataFileRoad.h"
+#include "data/RepeatRules.h"
 #include "data/TaskCodes.h"
 #include "store/DatabaseError.h"
 #include "support/CaughtError.h"
-#include "support/FakeRepeatRules.h"
 #include "support/OlderDataFile.h"
 #include "support/TestMain.h"
 
@@ -272,7 +272,7 @@ void DataFileRoadTest::theLookTellsWhetherAnythingRepeats()
     TestDatabase database;
     aTask(database).add();
     database.sql(sql);
-    Repeating repeating(missingRepeatRules());
+    Repeating repeating;
     repeating.setUsed(!isUsed);
     DatabaseEngine engine = database.engine();
     engine.repeating = &repeating;

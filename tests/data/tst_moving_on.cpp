@@ -29,8 +29,7 @@ private slots:
     void whatIsTakenBackAndDoneAgainHasEveryColumn_data();
     void whatIsTakenBackAndDoneAgainHasEveryColumn();
     void aDeletedTaskTakesItsRuleAlong();
-    void withoutTheRulesNothingChanges();
-    void otherTasksNeedNoRules();
+    void otherTasksDoNotMoveOn();
     void aLeadBeyondAllMomentsEndsAtTheirEnd();
 };
 
@@ -282,27 +281,9 @@ void TestMovingOn::aDeletedTaskTakesItsRuleAlong()
     QCOMPARE(test.everything(), before);
 }
 
-void TestMovingOn::withoutTheRulesNothingChanges()
+void TestMovingOn::otherTasksDoNotMoveOn()
 {
-    RepeatsUnderTest test(missingRepeatRules());
-    const qint32 id = test.add(test.now() - 1h);
-    const qint32 other = aTask(test.database).remindingAt(test.now() - 1h).add();
-    const auto before = test.everything();
-    QVERIFY_THROWS_EXCEPTION(RuntimeError, TaskChanges::complete(test.engine, {other, id}));
-    QVERIFY_THROWS_EXCEPTION(RuntimeError, TaskChanges::setStatus(test.engine, {other, id}, 2));
-    QVERIFY_THROWS_EXCEPTION(RuntimeError, TaskChanges::dismiss(test.engine, {other, id}));
-    QVERIFY_THROWS_EXCEPTION(RuntimeError, TaskChanges::dismissDue(test.engine));
-    QVERIFY_THROWS_EXCEPTION(RuntimeError, TaskChanges::moveOn(test.engine, {other, id}));
-    ClsTask task = *ClsTask(test.engine).GetTaskById(static_cast<qint16>(id));
-    task.setStatus(TaskStatus::Completed);
-    QVERIFY_THROWS_EXCEPTION(RuntimeError, task.Update());
-    QVERIFY_THROWS_EXCEPTION(RuntimeError, task.Add());
-    QCOMPARE(test.everything(), before);
-}
-
-void TestMovingOn::otherTasksNeedNoRules()
-{
-    RepeatsUnderTest test(missingRepeatRules());
+    RepeatsUnderTest test;
     test.add(test.now() + 1h);
     const qint32 other = aTask(test.database).remindingAt(test.now() - 1h).add();
     QCOMPARE(TaskChanges::dismissDue(test.engine), 1);

@@ -137,7 +137,7 @@ void TestTaskRepeats::missedRemindersAreCounted()
     const Repeat repeat{"FREQ=DAILY", test.now() + 1h, 15min, 0};
     const Moment reminder = test.now() + 45min;
     const auto missed = [&](std::chrono::minutes since) {
-        return TaskRepeats::missed(test.repeating, repeat, reminder, reminder + since);
+        return TaskRepeats::missed(repeat, reminder, reminder + since);
     };
     QCOMPARE(missed(-1min), 0);
     QCOMPARE(missed(0min), 1);

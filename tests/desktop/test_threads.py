@@ -58,7 +58,7 @@ class OwnThreadsTest(ThreadCase):
     def test_no_binary_of_the_program_can_start_a_thread(self):
         binaries = [os.path.join(self.desk.program, name) for name in os.listdir(self.desk.program)
                     if name == "Ambertask" or name.endswith(".so")]
-        self.assertEqual(len(binaries), 5)
+        self.assertEqual(len(binaries), 4)
         self.assertEqual({binary: STARTS_A_THREAD.findall(asked_for(binary)) for binary in binaries},
                          {binary: [] for binary in binaries})
 

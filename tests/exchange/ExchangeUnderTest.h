@@ -1,8 +1,8 @@
 #pragma once
 
+#include "data/RepeatRules.h"
 #include "data/TaskArchive.h"
 #include "exchange/TaskExchange.h"
-#include "support/FakeRepeatRules.h"
 #include "support/TestDatabase.h"
 
 #include <QBuffer>
@@ -20,7 +20,7 @@ struct ExchangeUnderTest {
     ExchangeUnderTest& operator=(const ExchangeUnderTest&) = delete;
 
     TestDatabase database;
-    Repeating repeating{fakeRepeatRules()};
+    Repeating repeating;
     DatabaseEngine engine;
     TaskExchange exchange{QStringLiteral("dd.MM.yyyy")};
 

@@ -37,8 +37,10 @@ void CsvImportTest::theHeaderNamesAllFields()
 {
     ExchangeUnderTest under;
     QCOMPARE(under.exported(Csv),
-        QByteArray("\"Name\",\"Description\",\"Status\",\"Category\",\"Due\",\"Priority\",\"Reminder\","
-                   "\"Reminder time\",\"Sound\",\"File\",\"Played\",\"Dismissed\",\"UID\",\"Repeat\"\r\n"));
+        QByteArray(
+            "\"Name\",\"Description\",\"Status\",\"Category\",\"Due\",\"Priority\",\"Reminder\","
+            "\"Reminder time\",\"Sound\",\"File\",\"Played\",\"Dismissed\",\"UID\",\"Repeat\",\"Repeats "
+            "from\",\"Reminds before\",\"Times done\"\r\n"));
     aTask(under.database)
         .named(QStringLiteral("Say \"hi\", Bob"))
         .withStatus(TaskStatus::Waiting)

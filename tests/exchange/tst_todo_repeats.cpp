@@ -24,8 +24,7 @@ private slots:
     void aSeriesOfOthersTakesThePlaceOfKeptLines();
     void aPastReminderComesForTheNextTime();
     void csvSaysTheRule();
-    void aFileWithoutRulesNeedsNoModule();
-    void withoutTheModuleNothingIsStored();
+    void aFileWithoutRulesAsksForNone();
 };
 
 void TodoRepeatsTest::aRuleMakesTheTaskRepeat()
@@ -213,33 +212,30 @@ void TodoRepeatsTest::csvSaysTheRule()
     QVERIFY(!tasks.at(1).repeat && !tasks.at(2).repeat);
     under.database.sql(QStringLiteral("update repeats set done=7, lead=3"));
     const QByteArray written = under.exported(ExchangeFormat::Csv);
-    QVERIFY(written.contains("\"Repeat\"\r\n") && written.contains("\"FREQ=DAILY\"\r\n"));
+    QVERIFY(written.contains("\"FREQ=DAILY\",\"2026-03-01 11:00:00\",\"3\",\"7\"\r\n"));
     QCOMPARE(under.planOf(written, ExchangeFormat::Csv).same, 3);
+    const ImportPlan moved =
+        under.planOf(QByteArray(written).replace("\"3\",\"7\"", "\"4\",\"8\""), ExchangeFormat::Csv);
+    QCOMPARE(moved.changed, 1);
+    QVERIFY((moved.tasks.front().task.repeat == Repeat{"FREQ=DAILY", at(3, 1, 11, 0), 4min, 8}));
+    QCOMPARE(under.planOf(QByteArray(written).replace("\"3\",\"7\"", "\"x\",\"7\""), ExchangeFormat::Csv)
+                 .unreadableParts,
+        1);
     const ImportPlan without =
         under.planOf(QByteArray(written).replace("FREQ=DAILY", ""), ExchangeFormat::Csv);
     QCOMPARE(without.changed, 1);
     QVERIFY(!without.tasks.front().task.repeat);
 }
 
-void TodoRepeatsTest::aFileWithoutRulesNeedsNoModule()
+void TodoRepeatsTest::aFileWithoutRulesAsksForNone()
 {
     ExchangeUnderTest under;
-    Repeating missing(missingRepeatRules());
-    under.engine.repeating = &missing;
+    under.engine.repeating = &under.repeating;
     QCOMPARE(under.imported(todoOf("SUMMARY:Task\nDUE:20260301T110000\n")).added, 1);
     QCOMPARE(under.imported("Name\nTask\n", ExchangeFormat::Csv).added, 1);
     for (const QString& statement : under.database.statements().take()) {
         QVERIFY2(!statement.contains(QLatin1String("repeats")), qPrintable(statement));
     }
-}
-
-void TodoRepeatsTest::withoutTheModuleNothingIsStored()
-{
-    ExchangeUnderTest under;
-    Repeating missing(missingRepeatRules());
-    under.engine.repeating = &missing;
-    QVERIFY_THROWS_EXCEPTION(
-        RuntimeError, under.planOf(todoOf("SUMMARY:Task\nDUE:20260301T110000\nRRULE:FREQ=DAILY\n")));
 }
 
 AMBERTASK_TEST_MAIN(TodoRepeatsTest)

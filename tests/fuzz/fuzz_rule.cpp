@@ -1,6 +1,6 @@
 #include "Require.h"
 #include "data/RepeatPattern.h"
-#include "repeats/IcalRepeatRules.h"
+#include "data/RepeatRules.h"
 
 #include <chrono>
 #include <cstdint>
@@ -23,28 +23,27 @@ double passedSince(std::clock_t begin)
 // Any bytes as a rule: refused, or moments that come one after the other, as many as are counted, and soon.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    static const IcalRepeatRules rules;
     const std::string rule(reinterpret_cast<const char*>(data), size);
     const std::clock_t begin = std::clock();
     for (const auto ago : {std::chrono::days(0), std::chrono::days(56 * 365 + 13)}) {
         const Repeat repeat{.rule = rule, .first = Now - ago};
         Moment last = Now - std::chrono::seconds(1);
         int found = 0;
-        for (auto moment = rules.next(repeat, last); moment && found < Most;
-             moment = rules.next(repeat, last)) {
+        for (auto moment = RepeatRules::next(repeat, last); moment && found < Most;
+             moment = RepeatRules::next(repeat, last)) {
             require(*moment > last, "the next moment is a later one");
             require(timeOfDayOf(*moment) == timeOfDayOf(repeat.first), "the time of day stays");
             last = *moment;
             ++found;
         }
-        require(rules.isUsable(rule) || found == 0, "a rule that cannot be used has no moments");
-        require(rules.count(repeat, Now - std::chrono::seconds(1), last, Most) == found,
+        require(RepeatRules::isUsable(rule) || found == 0, "a rule that cannot be used has no moments");
+        require(RepeatRules::count(repeat, Now - std::chrono::seconds(1), last, Most) == found,
             "as many as are counted");
         if (const auto pattern = patternOf(rule, repeat.first)) {
             require(
                 patternOf(ruleOf(*pattern, repeat.first), repeat.first) == pattern, "a pattern reads itself");
-            require(rules.next({.rule = ruleOf(*pattern, repeat.first), .first = repeat.first}, Now)
-                    == rules.next(repeat, Now),
+            require(RepeatRules::next({.rule = ruleOf(*pattern, repeat.first), .first = repeat.first}, Now)
+                    == RepeatRules::next(repeat, Now),
                 "a pattern says the same moments");
         }
     }

@@ -44,7 +44,7 @@ class PackageContentsTest(unittest.TestCase):
 
     def assert_hardened(self, prefix):
         binaries = [os.path.join(prefix, PROGRAM), *glob.glob(os.path.join(glob.escape(prefix), "lib/ambertask/*/*"))]
-        self.assertEqual(len(binaries), 7, binaries)
+        self.assertEqual(len(binaries), 6, binaries)
         for binary in binaries:
             # The player and the reader of pictures are too small to have anything of it.
             asserts = os.path.basename(binary) not in ("ambertask_sound", "ambertask_pictures")

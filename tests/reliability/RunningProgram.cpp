@@ -4,7 +4,6 @@
 #include "categories/frmCategoryDetails.h"
 #include "reminders/AlertListModel.h"
 #include "reminders/frmAlerts.h"
-#include "repeats/IcalRepeatRules.h"
 #include "support/ContextMenu.h"
 #include "tasks/frmTaskDetails.h"
 #include "widgets/ComboBox.h"
@@ -64,22 +63,7 @@ void check(QWidget& window, const char* box, bool checked)
     require(control->isChecked() == checked, box);
 }
 
-std::unique_ptr<RepeatRules> ownRules()
-{
-    return std::make_unique<IcalRepeatRules>();
-}
-
 } // namespace
-
-RunningProgram::RunningProgram()
-{
-    m_machine.repeatRules = ownRules;
-}
-
-RunningProgram::RunningProgram(const QString& programFolder) : m_machine(programFolder)
-{
-    m_machine.repeatRules = ownRules;
-}
 
 RunningProgram::~RunningProgram()
 {

@@ -26,16 +26,16 @@ struct TaskEntry {
     int repeat = -1; ///< of the list of repeats; negative to leave it as it is
 };
 
-/// The whole program on a machine that only remembers, with its own rules of repetition, worked by a user's
-/// hands: every action goes through the windows. The program can be ended, killed and started again on the
+/// The whole program on a machine that only remembers, worked by a user's hands: every action goes through
+/// the windows. The program can be ended, killed and started again on the
 /// same data file.
 class RunningProgram
 {
 public:
     /// Not started yet.
-    RunningProgram();
+    RunningProgram() = default;
     /// On a program folder that is there already and stays.
-    explicit RunningProgram(const QString& programFolder);
+    explicit RunningProgram(const QString& programFolder) : m_machine(programFolder) { }
     ~RunningProgram();
     RunningProgram(const RunningProgram&) = delete;
     RunningProgram& operator=(const RunningProgram&) = delete;

@@ -1,8 +1,8 @@
+#include "data/RepeatRules.h"
 #include "data/TaskChanges.h"
 #include "data/TaskRepeats.h"
 #include "reliability/DataFileState.h"
 #include "reliability/Sweep.h"
-#include "support/FakeRepeatRules.h"
 #include "support/TestDatabase.h"
 #include "support/TestMain.h"
 
@@ -43,7 +43,7 @@ private:
 void TestMovingFaults::tryChange(Change change)
 {
     TestDatabase database;
-    Repeating repeating(fakeRepeatRules());
+    Repeating repeating;
     repeating.setUsed(true);
     DatabaseEngine engine = database.engine();
     engine.repeating = &repeating;
@@ -66,7 +66,7 @@ void TestMovingFaults::tryChange(Change change)
 void TestMovingFaults::aTaskIsStoredWithItsRuleOrNot()
 {
     TestDatabase database;
-    Repeating repeating(fakeRepeatRules());
+    Repeating repeating;
     DatabaseEngine engine = database.engine();
     engine.repeating = &repeating;
     ClsTask task(engine);

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "data/ClsTask.h"
+#include "data/RepeatRules.h"
 #include "store/DatabaseEngine.h"
-#include "support/FakeRepeatRules.h"
 #include "support/RecordedStatements.h"
 #include "support/SteppedClock.h"
 
@@ -11,7 +11,7 @@
 #include <optional>
 
 /// A program folder of its own with a fresh copy of the shipped data file, a clock that stands at 15 January
-/// 2026, 10:00:00, and a record of all statements. Tasks repeat by FakeRepeatRules, once one does.
+/// 2026, 10:00:00, and a record of all statements.
 class TestDatabase
 {
 public:
@@ -43,7 +43,7 @@ private:
     QString m_folder;
     SteppedClock m_clock;
     RecordedStatements m_statements;
-    Repeating m_repeating{fakeRepeatRules()};
+    Repeating m_repeating;
     DatabaseEngine m_engine;
 };
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/FakeRepeatRules.h"
+#include "data/RepeatRules.h"
 #include "support/TestServices.h"
 #include "tasks/TaskDetailsHost.h"
 #include "tasks/frmTaskDetails.h"
@@ -50,7 +50,7 @@ public:
     QVariant stored(const QString& column) const;
 
     TestServices services;
-    Repeating repeating{fakeRepeatRules()};
+    Repeating repeating;
     DatabaseEngine engine; ///< that of the database, with `repeating`
     FormServices formServices; ///< those of `services`, with `engine`
     TestHost host;

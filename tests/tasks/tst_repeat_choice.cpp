@@ -1,4 +1,3 @@
-#include "support/FakeRepeatRules.h"
 #include "support/TestMain.h"
 #include "tasks/RepeatChoices.h"
 #include "tasks/RepeatInput.h"
@@ -359,20 +358,18 @@ void TestRepeatChoice::whatDoesNotCountIsNotRefused()
 
 void TestRepeatChoice::dueMomentsBeginWithTheTasksOwn()
 {
-    const FakeRepeatRules rules;
     const Repeat repeat{"FREQ=DAILY;INTERVAL=2", Tuesday, {}, 0};
     const std::vector<Moment> expected{
         Tuesday, Tuesday + std::chrono::days(2), Tuesday + std::chrono::days(4)};
-    QVERIFY(dueMoments(rules, repeat, Tuesday, 3) == expected);
+    QVERIFY(dueMoments(repeat, Tuesday, 3) == expected);
     const std::vector<Moment> later{expected[2], Tuesday + std::chrono::days(6)};
-    QVERIFY(dueMoments(rules, repeat, expected[2], 2) == later);
+    QVERIFY(dueMoments(repeat, expected[2], 2) == later);
 }
 
 void TestRepeatChoice::dueMomentsEndWithTheSeries()
 {
-    const FakeRepeatRules rules;
-    QCOMPARE(dueMoments(rules, {"FREQ=DAILY;COUNT=2", Tuesday, {}, 0}, Tuesday, 5).size(), std::size_t(2));
-    QCOMPARE(dueMoments(rules, {"FREQ=NEVER", Tuesday, {}, 0}, Tuesday, 5).size(), std::size_t(1));
+    QCOMPARE(dueMoments({"FREQ=DAILY;COUNT=2", Tuesday, {}, 0}, Tuesday, 5).size(), std::size_t(2));
+    QCOMPARE(dueMoments({"FREQ=NEVER", Tuesday, {}, 0}, Tuesday, 5).size(), std::size_t(1));
 }
 
 AMBERTASK_TEST_MAIN(TestRepeatChoice)

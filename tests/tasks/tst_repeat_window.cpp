@@ -63,7 +63,6 @@ private slots:
     void enterIsOkFromEveryControl();
     void aHeldEnterIsNotOk();
     void theWindowShowsTheNextDueMoments();
-    void theWindowSaysWhyItCannotCalculate();
     void onlyWhatCountsIsEnabled();
     void theWeekBeginsAsInTheLanguage();
     void aWeekWithoutADayIsToldAndKeepsTheWindow();
@@ -207,17 +206,6 @@ void TestRepeatWindow::theWindowShowsTheNextDueMoments()
     partOf<QComboBox>(window, "cmbEnd")->setCurrentIndex(static_cast<int>(RepeatInput::End::Times));
     partOf<QSpinBox>(window, "spnTimes")->setValue(3);
     QCOMPARE(momentsIn(window).size(), 3);
-}
-
-void TestRepeatWindow::theWindowSaysWhyItCannotCalculate()
-{
-    RepeatDialog dialog;
-    dialog.repeating = Repeating(missingRepeatRules());
-    dialog.showValid();
-    frmRepeat& window = dialog.openCustom();
-    QCOMPARE(momentsIn(window), QStringList("The module is missing."));
-    press(window, Qt::Key_Return);
-    QVERIFY(openRepeatWindow() == nullptr);
 }
 
 void TestRepeatWindow::onlyWhatCountsIsEnabled()

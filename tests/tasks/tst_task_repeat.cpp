@@ -28,7 +28,6 @@ private slots:
     void emptyingTheFormChoosesNever();
     void whatTheStoreDoesMeanwhileIsKept();
     void aCompletedTaskMovesOn();
-    void aTaskThatCannotMoveOnKeepsItsInput();
 };
 
 void TestTaskRepeat::aTaskThatNeverRepeatsIsStoredAsBefore()
@@ -187,22 +186,6 @@ void TestTaskRepeat::aCompletedTaskMovesOn()
     QCOMPARE(dialog.stored(QStringLiteral("reminder_date_time")).toString(),
         QStringLiteral("2026-01-16 10:45:00"));
     QCOMPARE(dialog.repeat().value(3).toInt(), 4);
-}
-
-void TestTaskRepeat::aTaskThatCannotMoveOnKeepsItsInput()
-{
-    RepeatDialog dialog;
-    dialog.repeating = Repeating(missingRepeatRules());
-    dialog.form->SetTag(dialog.addDaily());
-    dialog.show();
-    selectNumber(*dialog.control<QComboBox>("cmbStatus"), TaskStatus::Completed);
-    dialog.setText("txtTask", QStringLiteral("renamed"));
-    dialog.services.dialogs.expectError(QStringLiteral("The module is missing."));
-    dialog.click("btnOk");
-    QVERIFY(dialog.services.dialogs.allUsed());
-    QVERIFY(dialog.form->isVisible());
-    QCOMPARE(dialog.text("txtTask"), QStringLiteral("renamed"));
-    QCOMPARE(dialog.stored(QStringLiteral("task_name")).toString(), QStringLiteral("task"));
 }
 
 AMBERTASK_TEST_MAIN(TestTaskRepeat)

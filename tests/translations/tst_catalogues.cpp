@@ -234,7 +234,8 @@ void CataloguesTest::noSentenceOfTheProgramStandsOutsideOfTranslation()
                        "Terminal=false\\n"),
         QStringLiteral("SOFTWARE\\\\Microsoft\\\\Shared Tools\\\\MSINFO"),
         QStringLiteral("SOFTWARE\\\\Microsoft\\\\Shared Tools Location"), QStringLiteral("Osmo PIM"),
-        QStringLiteral("Reminder time"), QStringLiteral("reminder on/off"), QStringLiteral("reminder date"),
+        QStringLiteral("Reminder time"), QStringLiteral("Repeats from"), QStringLiteral("Reminds before"),
+        QStringLiteral("Times done"), QStringLiteral("reminder on/off"), QStringLiteral("reminder date"),
         QStringLiteral("Not Started"), QStringLiteral("In Progress"),
         QStringLiteral("Waiting on someone else"), QStringLiteral("to do"), QStringLiteral("on hold")};
     QStringList faults;

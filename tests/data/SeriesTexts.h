@@ -1,7 +1,6 @@
 #pragma once
 
 #include "data/RepeatRules.h"
-#include "repeats/IcalRepeatRules.h"
 
 #include <QStringList>
 #include <limits>
@@ -19,11 +18,10 @@ inline Moment momentOf(std::string text)
 /// `first`.
 inline QStringList daysAfter(const std::string& rule, Moment first, Moment after, int most = 6)
 {
-    const IcalRepeatRules rules;
     const Repeat repeat{.rule = rule, .first = first};
     QStringList days;
-    for (auto moment = rules.next(repeat, after); moment && days.size() < most;
-         moment = rules.next(repeat, *moment)) {
+    for (auto moment = RepeatRules::next(repeat, after); moment && days.size() < most;
+         moment = RepeatRules::next(repeat, *moment)) {
         const QString text = QString::fromStdString(storedText(*moment));
         days.append(timeOfDayOf(*moment) == timeOfDayOf(first) ? text.left(10) : text);
     }

@@ -1,4 +1,4 @@
-#include "RepeatsUnderTest.h"
+#include "SeriesTexts.h"
 #include "support/FileContent.h"
 #include "support/TestMain.h"
 
@@ -137,22 +137,22 @@ private slots:
 
 void OtherCalculationTest::dateutilFindsTheSameMoments()
 {
-    const IcalRepeatRules rules;
     RandomRules random;
     QByteArray text;
     int found = 0;
     for (int i = 0; i < Rules; ++i) {
         const Repeat repeat{.rule = random.rule().toStdString(), .first = random.first()};
-        QVERIFY2(rules.isUsable(repeat.rule), repeat.rule.c_str());
+        QVERIFY2(RepeatRules::isUsable(repeat.rule), repeat.rule.c_str());
         // dateutil goes there moment by moment.
         const Moment after = repeat.first + days(random.below(3 * 365) - 10);
         const Moment horizon = after + days(9 * 365);
         std::vector<Moment> moments;
-        for (auto moment = rules.next(repeat, after); moment && *moment <= horizon && moments.size() < Most;
-             moment = rules.next(repeat, *moment)) {
+        for (auto moment = RepeatRules::next(repeat, after);
+             moment && *moment <= horizon && moments.size() < Most;
+             moment = RepeatRules::next(repeat, *moment)) {
             moments.push_back(*moment);
         }
-        QCOMPARE(rules.count(repeat, after, horizon, Most), static_cast<int>(moments.size()));
+        QCOMPARE(RepeatRules::count(repeat, after, horizon, Most), static_cast<int>(moments.size()));
         QByteArrayList texts;
         for (const Moment moment : moments) {
             texts.append(QByteArray::fromStdString(storedText(moment)));

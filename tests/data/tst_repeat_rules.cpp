@@ -1,11 +1,7 @@
-#include "RepeatsUnderTest.h"
-#include "support/CaughtError.h"
+#include "SeriesTexts.h"
 #include "support/TestMain.h"
-#include "system/Modules.h"
-#include "system/RuntimeError.h"
 
 #include <QElapsedTimer>
-#include <QTemporaryDir>
 #include <QTest>
 
 using std::chrono::hours;
@@ -43,8 +39,6 @@ private slots:
     void whatIsNotUsable();
     void whatOtherProgramsWriteIsUsable_data();
     void whatOtherProgramsWriteIsUsable();
-    void theModuleIsLoaded();
-    void aMissingModuleIsSaid();
 };
 
 void RepeatRulesTest::daysWeeksMonthsAndYears()
@@ -222,7 +216,6 @@ void RepeatRulesTest::clocksThatAreSetChangeNothing()
 
 void RepeatRulesTest::farFromItsBeginningARuleKeepsItsPhase()
 {
-    const IcalRepeatRules rules;
     for (const char* rule :
         {"FREQ=DAILY;INTERVAL=11", "FREQ=WEEKLY;INTERVAL=3;BYDAY=MO,SU;WKST=WE", "FREQ=MONTHLY;INTERVAL=7",
             "FREQ=YEARLY;INTERVAL=3;BYMONTH=2;BYMONTHDAY=29", "FREQ=WEEKLY;INTERVAL=5;WKST=SU"}) {
@@ -231,11 +224,11 @@ void RepeatRulesTest::farFromItsBeginningARuleKeepsItsPhase()
         // Steps of one moment after the other, and questions in between.
         Moment before = repeat.first;
         for (int i = 0; i < 300; ++i) {
-            const auto moment = rules.next(repeat, before);
+            const auto moment = RepeatRules::next(repeat, before);
             QVERIFY(moment && *moment > before);
-            QVERIFY(rules.next(counted, before) == moment);
-            QVERIFY(rules.next(repeat, *moment - seconds(1)) == moment);
-            QVERIFY(rules.next(repeat, before + (*moment - before) / 2) == moment);
+            QVERIFY(RepeatRules::next(counted, before) == moment);
+            QVERIFY(RepeatRules::next(repeat, *moment - seconds(1)) == moment);
+            QVERIFY(RepeatRules::next(repeat, before + (*moment - before) / 2) == moment);
             before = *moment;
         }
     }
@@ -252,11 +245,10 @@ void RepeatRulesTest::theYear9999IsTheLast()
     QCOMPARE(series("FREQ=YEARLY;INTERVAL=4000", "0000-01-01"),
         QStringList({"0000-01-01", "4000-01-01", "8000-01-01"}));
     const Repeat daily{.rule = "FREQ=DAILY", .first = momentOf("2026-01-01")};
-    const IcalRepeatRules rules;
-    QVERIFY(!rules.next(daily, Moment::max()));
-    QVERIFY(rules.next(daily, Moment::min()) == daily.first);
+    QVERIFY(!RepeatRules::next(daily, Moment::max()));
+    QVERIFY(RepeatRules::next(daily, Moment::min()) == daily.first);
     for (const Moment first : {Moment::min(), Moment::max(), momentOf("9999-12-31 23:59:59") + seconds(1)}) {
-        QVERIFY(!rules.next({.rule = "FREQ=DAILY", .first = first}, daily.first));
+        QVERIFY(!RepeatRules::next({.rule = "FREQ=DAILY", .first = first}, daily.first));
     }
 }
 
@@ -272,19 +264,18 @@ void RepeatRulesTest::aRuleThatNeverComesEnds()
 
 void RepeatRulesTest::theCountAgreesWithTheMoments()
 {
-    const IcalRepeatRules rules;
     const Moment first = momentOf("2026-01-05");
     const Repeat daily{.rule = "FREQ=DAILY;COUNT=10", .first = first};
-    QCOMPARE(rules.count(daily, first - hours(1), first, 100), 1);
-    QCOMPARE(rules.count(daily, first, first, 100), 0);
-    QCOMPARE(rules.count(daily, first, momentOf("2026-01-07"), 100), 2);
-    QCOMPARE(rules.count(daily, first, momentOf("2026-01-07 08:59:59"), 100), 1);
-    QCOMPARE(rules.count(daily, first - hours(1), Moment::max(), 100), 10);
-    QCOMPARE(rules.count(daily, first - hours(1), Moment::max(), 4), 4);
-    QCOMPARE(rules.count(daily, first, Moment::max(), 0), 0);
-    QCOMPARE(rules.count(daily, first, Moment::max(), -1), 0);
-    QCOMPARE(rules.count(daily, momentOf("2027-01-01"), Moment::max(), 100), 0);
-    QCOMPARE(rules.count({.rule = "rubbish", .first = first}, Moment::min(), Moment::max(), 100), 0);
+    QCOMPARE(RepeatRules::count(daily, first - hours(1), first, 100), 1);
+    QCOMPARE(RepeatRules::count(daily, first, first, 100), 0);
+    QCOMPARE(RepeatRules::count(daily, first, momentOf("2026-01-07"), 100), 2);
+    QCOMPARE(RepeatRules::count(daily, first, momentOf("2026-01-07 08:59:59"), 100), 1);
+    QCOMPARE(RepeatRules::count(daily, first - hours(1), Moment::max(), 100), 10);
+    QCOMPARE(RepeatRules::count(daily, first - hours(1), Moment::max(), 4), 4);
+    QCOMPARE(RepeatRules::count(daily, first, Moment::max(), 0), 0);
+    QCOMPARE(RepeatRules::count(daily, first, Moment::max(), -1), 0);
+    QCOMPARE(RepeatRules::count(daily, momentOf("2027-01-01"), Moment::max(), 100), 0);
+    QCOMPARE(RepeatRules::count({.rule = "rubbish", .first = first}, Moment::min(), Moment::max(), 100), 0);
 }
 
 void RepeatRulesTest::hostileRulesAreAnsweredSoon_data()
@@ -304,11 +295,10 @@ void RepeatRulesTest::hostileRulesAreAnsweredSoon_data()
 void RepeatRulesTest::hostileRulesAreAnsweredSoon()
 {
     QFETCH(QByteArray, rule);
-    const IcalRepeatRules rules;
     QElapsedTimer timer;
     timer.start();
     const Repeat repeat{.rule = rule.toStdString(), .first = momentOf("1970-01-05")};
-    rules.next(repeat, momentOf("2026-01-05"));
+    RepeatRules::next(repeat, momentOf("2026-01-05"));
     // It takes a few milliseconds, with sanitizers on a busy machine a hundred times as long; a calculation
     // that goes through every day for ever never ends.
     QVERIFY2(timer.elapsed() < 10'000, qPrintable(QString::number(timer.elapsed())));
@@ -343,9 +333,8 @@ void RepeatRulesTest::whatIsNotUsable_data()
 void RepeatRulesTest::whatIsNotUsable()
 {
     QFETCH(QByteArray, rule);
-    const IcalRepeatRules rules;
-    QVERIFY(!rules.isUsable(rule.toStdString()));
-    QVERIFY(!rules.next({.rule = rule.toStdString(), .first = momentOf("2026-01-01")}, Moment::min()));
+    QVERIFY(!RepeatRules::isUsable(rule.toStdString()));
+    QVERIFY(!RepeatRules::next({.rule = rule.toStdString(), .first = momentOf("2026-01-01")}, Moment::min()));
 }
 
 void RepeatRulesTest::whatOtherProgramsWriteIsUsable_data()
@@ -362,29 +351,7 @@ void RepeatRulesTest::whatOtherProgramsWriteIsUsable_data()
 void RepeatRulesTest::whatOtherProgramsWriteIsUsable()
 {
     QFETCH(QByteArray, rule);
-    QVERIFY(IcalRepeatRules().isUsable(rule.toStdString()));
-}
-
-void RepeatRulesTest::theModuleIsLoaded()
-{
-    const QFileInfo module(QStringLiteral(AMBERTASK_REPEATS_MODULE));
-    Modules modules(module.path(), {QLatin1String(RepeatModule)});
-    int loaded = 0;
-    Repeating repeating([&] {
-        ++loaded;
-        return loadRepeatRules(modules);
-    });
-    QVERIFY(repeating.rules().isUsable("FREQ=DAILY"));
-    QVERIFY(!repeating.rules().isUsable("FREQ=HOURLY"));
-    QCOMPARE(loaded, 1);
-}
-
-void RepeatRulesTest::aMissingModuleIsSaid()
-{
-    const QTemporaryDir empty;
-    Modules modules(empty.path(), {QLatin1String(RepeatModule)});
-    const auto error = caught<RuntimeError>([&] { loadRepeatRules(modules); });
-    QVERIFY(error && error->text().contains(QLatin1String("ambertask_repeats")));
+    QVERIFY(RepeatRules::isUsable(rule.toStdString()));
 }
 
 AMBERTASK_TEST_MAIN(RepeatRulesTest)

@@ -1,4 +1,4 @@
-#include "repeats/Series.h"
+#include "data/RepeatSeries.h"
 
 #include <algorithm>
 
@@ -6,7 +6,6 @@ namespace
 {
 
 using namespace std::chrono;
-using Frequency = RuleParts::Frequency;
 
 constexpr int DaysOfAWeek = 7;
 constexpr int MonthsOfAYear = 12;
@@ -15,16 +14,16 @@ constexpr local_days LastDay = local_days(year(9999) / December / 31);
 
 /// In how many periods the calendar repeats: after 400 years, which are whole weeks. Steps of any length meet
 /// each place of it within as many steps, so a rule that has named nothing by then never does.
-std::int64_t cycleOf(Frequency frequency)
+std::int64_t cycleOf(RuleParts::Frequency frequency)
 {
     switch (frequency) {
-    case Frequency::Daily:
+    case RuleParts::Frequency::Daily:
         return 146'097;
-    case Frequency::Weekly:
+    case RuleParts::Frequency::Weekly:
         return 20'871;
-    case Frequency::Monthly:
+    case RuleParts::Frequency::Monthly:
         return 4'800;
-    case Frequency::Yearly:
+    case RuleParts::Frequency::Yearly:
         break;
     }
     return 400;
@@ -45,7 +44,7 @@ bool hasEither(const auto& numbers, std::int64_t offset, std::int64_t length, in
 
 } // namespace
 
-Series::Series(const RuleParts& parts, Moment first, Moment after)
+RepeatSeries::RepeatSeries(const RuleParts& parts, Moment first, Moment after)
     : m_parts(parts), m_first(floor<days>(first)), m_timeOfDay(timeOfDayOf(first)), m_after(after)
 {
     completeFrom(dayOf(first));
@@ -53,21 +52,21 @@ Series::Series(const RuleParts& parts, Moment first, Moment after)
     m_number = after > LastDay + days(1) ? periodsUpTo(LastDay) : periodsUpTo(floor<days>(after));
 }
 
-bool Series::canBegin(Moment first)
+bool RepeatSeries::canBegin(Moment first)
 {
     return first >= FirstDay && first < LastDay + days(1);
 }
 
 /// What a rule leaves open is as on the first day.
-void Series::completeFrom(year_month_day first)
+void RepeatSeries::completeFrom(year_month_day first)
 {
     const bool namesDays =
         m_parts.namesWeekdays() || !m_parts.monthDays.isEmpty() || !m_parts.yearDays.isEmpty();
-    const bool isYearly = m_parts.frequency == Frequency::Yearly;
-    if (namesDays || m_parts.frequency == Frequency::Daily) {
+    const bool isYearly = m_parts.frequency == RuleParts::Frequency::Yearly;
+    if (namesDays || m_parts.frequency == RuleParts::Frequency::Daily) {
         return;
     }
-    if (m_parts.frequency == Frequency::Weekly || !m_parts.weekNumbers.isEmpty()) {
+    if (m_parts.frequency == RuleParts::Frequency::Weekly || !m_parts.weekNumbers.isEmpty()) {
         const unsigned weekday = std::chrono::weekday(m_first).iso_encoding() - 1;
         m_parts.weekdays.at(weekday).add(0);
         return;
@@ -78,7 +77,7 @@ void Series::completeFrom(year_month_day first)
     }
 }
 
-std::optional<Moment> Series::next()
+std::optional<Moment> RepeatSeries::next()
 {
     for (std::int64_t empty = 0; m_place == m_days.size(); ++empty) {
         const Period current = period(m_number++);
@@ -90,27 +89,27 @@ std::optional<Moment> Series::next()
     return m_days[m_place++] + m_timeOfDay;
 }
 
-Series::Period Series::period(std::int64_t number) const
+RepeatSeries::Period RepeatSeries::period(std::int64_t number) const
 {
     // Beyond the last year, steps could be too long for a calendar.
     const std::int64_t step =
         std::min<std::int64_t>(number * m_parts.interval, (LastDay - FirstDay).count() + 1);
     const auto date = year_month_day(m_first);
     switch (*m_parts.frequency) {
-    case Frequency::Daily: {
+    case RuleParts::Frequency::Daily: {
         const Day day = m_first + days(step);
         return {day, day + days(1)};
     }
-    case Frequency::Weekly: {
+    case RuleParts::Frequency::Weekly: {
         const Day begin = m_first - days(placeInWeek(m_first)) + days(step * DaysOfAWeek);
         return {begin, begin + days(DaysOfAWeek)};
     }
-    case Frequency::Monthly: {
+    case RuleParts::Frequency::Monthly: {
         const auto months = std::min<std::int64_t>(step, std::int64_t{10'000} * MonthsOfAYear);
         const auto begin = date.year() / date.month() + std::chrono::months(months);
         return {Day(begin / 1), Day((begin + std::chrono::months(1)) / 1)};
     }
-    case Frequency::Yearly:
+    case RuleParts::Frequency::Yearly:
         break;
     }
     const auto begin = date.year() + years(std::min<std::int64_t>(step, 10'000));
@@ -118,29 +117,29 @@ Series::Period Series::period(std::int64_t number) const
 }
 
 /// How many periods begin before that of the day, or with it.
-std::int64_t Series::periodsUpTo(Day day) const
+std::int64_t RepeatSeries::periodsUpTo(Day day) const
 {
     const year_month_day from(m_first);
     const year_month_day to(day);
     std::int64_t passed = 0;
     switch (*m_parts.frequency) {
-    case Frequency::Daily:
+    case RuleParts::Frequency::Daily:
         passed = (day - m_first).count();
         break;
-    case Frequency::Weekly:
+    case RuleParts::Frequency::Weekly:
         passed = (day - (m_first - days(placeInWeek(m_first)))).count() / DaysOfAWeek;
         break;
-    case Frequency::Monthly:
+    case RuleParts::Frequency::Monthly:
         passed = (to.year() / to.month() - from.year() / from.month()).count();
         break;
-    case Frequency::Yearly:
+    case RuleParts::Frequency::Yearly:
         passed = (to.year() - from.year()).count();
         break;
     }
     return passed / m_parts.interval;
 }
 
-void Series::collect(const Period& period)
+void RepeatSeries::collect(const Period& period)
 {
     m_days.clear();
     m_place = 0;
@@ -161,7 +160,7 @@ void Series::collect(const Period& period)
     std::erase_if(m_days, [this](Day day) { return day + m_timeOfDay <= m_after || day > LastDay; });
 }
 
-void Series::keepPositions()
+void RepeatSeries::keepPositions()
 {
     const auto size = static_cast<std::int64_t>(m_days.size());
     std::vector<Day> kept;
@@ -174,7 +173,7 @@ void Series::keepPositions()
 }
 
 /// Whether the rule names the day, whose month it does.
-bool Series::has(Day day, year_month_day date) const
+bool RepeatSeries::has(Day day, year_month_day date) const
 {
     if (!m_parts.monthDays.isEmpty()) {
         const auto length = static_cast<unsigned>((date.year() / date.month() / last).day());
@@ -193,14 +192,14 @@ bool Series::has(Day day, year_month_day date) const
         && (m_parts.weekNumbers.isEmpty() || hasWeekNumber(day));
 }
 
-bool Series::hasWeekday(Day day, year_month_day date) const
+bool RepeatSeries::hasWeekday(Day day, year_month_day date) const
 {
     const auto& which = m_parts.weekdays[weekday(day).iso_encoding() - 1];
     if (which.isEmpty() || which.has(0)) {
         return !which.isEmpty();
     }
     // Numbers count in the year where a yearly rule names no month.
-    if (m_parts.frequency == Frequency::Yearly && m_parts.months.none()) {
+    if (m_parts.frequency == RuleParts::Frequency::Yearly && m_parts.months.none()) {
         const Day begin = firstOfYear(date.year());
         const Day end = firstOfYear(date.year() + years(1));
         return hasEither(which, (day - begin).count(), (end - begin).count(), DaysOfAWeek);
@@ -210,7 +209,7 @@ bool Series::hasWeekday(Day day, year_month_day date) const
 }
 
 /// A week belongs to the year of its fourth day, as in ISO 8601.
-bool Series::hasWeekNumber(Day day) const
+bool RepeatSeries::hasWeekNumber(Day day) const
 {
     const Day fourth = day - days(placeInWeek(day)) + days(3);
     const year year = year_month_day(fourth).year();
@@ -219,7 +218,7 @@ bool Series::hasWeekNumber(Day day) const
     return hasEither(m_parts.weekNumbers, (fourth - begin).count(), (end - begin).count(), DaysOfAWeek);
 }
 
-int Series::placeInWeek(Day day) const
+int RepeatSeries::placeInWeek(Day day) const
 {
     const int weekdayNumber = static_cast<int>(weekday(day).iso_encoding()) - 1;
     return (weekdayNumber - m_parts.weekStart + DaysOfAWeek) % DaysOfAWeek;

@@ -1,4 +1,4 @@
-#include "RepeatsUnderTest.h"
+#include "SeriesTexts.h"
 #include "data/RepeatPattern.h"
 #include "support/TestMain.h"
 
@@ -80,7 +80,6 @@ private slots:
 
 void RepeatPatternTest::everyPatternReadsItsOwnRule()
 {
-    const IcalRepeatRules rules;
     const std::vector<RepeatPattern> all = patterns();
     for (const Moment first : firstMoments()) {
         for (const RepeatPattern& pattern : all) {
@@ -89,7 +88,7 @@ void RepeatPatternTest::everyPatternReadsItsOwnRule()
         }
     }
     for (const RepeatPattern& pattern : all) {
-        QVERIFY(rules.isUsable(ruleOf(pattern, momentOf("2028-02-29"))));
+        QVERIFY(RepeatRules::isUsable(ruleOf(pattern, momentOf("2028-02-29"))));
     }
 }
 
@@ -137,20 +136,19 @@ void RepeatPatternTest::rulesAsTheyAreWritten()
 
 void RepeatPatternTest::noMonthAndNoYearIsLeftOut()
 {
-    const IcalRepeatRules rules;
     for (const Moment first : firstMoments()) {
         const Repeat monthly{.rule = ruleOf(Monthly, first), .first = first};
         const Repeat yearly{.rule = ruleOf(Yearly, first), .first = first};
         Moment month = first;
         for (int i = 1; i <= 14; ++i) {
-            month = rules.next(monthly, month).value();
+            month = RepeatRules::next(monthly, month).value();
             const auto wanted = dayOf(first).year() / dayOf(first).month() + std::chrono::months(i);
             QVERIFY(dayOf(month).year() / dayOf(month).month() == wanted);
             QVERIFY(dayOf(month).day() == std::min(dayOf(first).day(), (wanted / std::chrono::last).day()));
         }
         Moment inYear = first;
         for (int i = 1; i <= 5; ++i) {
-            inYear = rules.next(yearly, inYear).value();
+            inYear = RepeatRules::next(yearly, inYear).value();
             const auto wanted = (dayOf(first).year() + std::chrono::years(i)) / dayOf(first).month();
             QVERIFY(dayOf(inYear).year() / dayOf(inYear).month() == wanted);
             QVERIFY(dayOf(inYear).day() == std::min(dayOf(first).day(), (wanted / std::chrono::last).day()));
@@ -160,13 +158,12 @@ void RepeatPatternTest::noMonthAndNoYearIsLeftOut()
 
 void RepeatPatternTest::everyMonthHasItsWeekday()
 {
-    const IcalRepeatRules rules;
     const RepeatPattern pattern{.unit = Unit::Months, .monthDay = MonthDay::NthWeekday};
     for (const Moment first : firstMoments()) {
         const Repeat repeat{.rule = ruleOf(pattern, first), .first = first};
         Moment moment = first;
         for (int i = 1; i <= 14; ++i) {
-            moment = rules.next(repeat, moment).value();
+            moment = RepeatRules::next(repeat, moment).value();
             QVERIFY(dayOf(moment).month() == dayOf(first).month() + std::chrono::months(i));
             QCOMPARE(toQDate(moment).dayOfWeek(), toQDate(first).dayOfWeek());
         }

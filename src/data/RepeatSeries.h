@@ -6,11 +6,11 @@
 
 /// Goes through the days that a rule names, period by period: days, weeks, months or years, each with all of
 /// its days at once, as positions count in the whole period. Ends of the series are not looked at.
-class Series
+class RepeatSeries
 {
 public:
     /// Stands before the first moment that is later than `after`, which is not earlier than `first`.
-    Series(const RuleParts& parts, Moment first, Moment after);
+    RepeatSeries(const RuleParts& parts, Moment first, Moment after);
 
     /// The next moment; none when there is no further one up to the year 9999.
     std::optional<Moment> next();
