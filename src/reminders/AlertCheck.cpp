@@ -30,6 +30,7 @@ void frmAlerts::showAnew()
     } else if (m_reminders.lists(checker.due())) {
         redraw(checker.due());
     }
+    countTimes();
 }
 
 void frmAlerts::check(bool isOvertaken)

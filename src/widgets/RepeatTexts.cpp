@@ -71,9 +71,11 @@ QString RepeatTexts::weeks(int every, std::bitset<7> weekdays)
         return tr("every weekday");
     }
     QStringList names;
-    for (int day = Qt::Monday; day <= Qt::Sunday; ++day) {
-        if (weekdays[static_cast<std::size_t>(day - Qt::Monday)]) {
-            names.append(QLocale().dayName(day));
+    const int first = QLocale().firstDayOfWeek() - Qt::Monday;
+    for (int place = 0; place < Qt::Sunday; ++place) {
+        const int day = (first + place) % Qt::Sunday;
+        if (weekdays[static_cast<std::size_t>(day)]) {
+            names.append(QLocale().dayName(day + Qt::Monday));
         }
     }
     //: %1 is a weekday or several: "Monday and Thursday"

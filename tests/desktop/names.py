@@ -88,6 +88,7 @@ LATER_TIME = ("picker", "Time", "Reminder time", "New time", "New reminder time"
 
 TOO_EARLY = "Reminder date and time should not be earlier than current system date and time"
 DELETE_QUESTION = "Are you sure you want to delete this task?"
+DELETE_REPEATING_QUESTION = "This task repeats. Do you want to delete it this time, or all times?"
 NO_CATEGORY = "Please select category."
 NO_CATEGORY_NAME = "Please enter category name."
 CATEGORY_EXISTS = "A category with the same name already exists"
