@@ -1,10 +1,7 @@
 #include "support/TestMain.h"
 #include "tasks/RepeatChoices.h"
 #include "tasks/RepeatInput.h"
-#include "widgets/RepeatTexts.h"
 
-#include <QLocale>
-#include <QScopeGuard>
 #include <QTest>
 
 using namespace std::chrono_literals;
@@ -58,8 +55,6 @@ private slots:
     void theUsualWaysAreOfferedAndNeverIsChosen();
     void everyEntrySaysItsOwnRule();
     void theNthWeekdayIsNamedAndFollowsTheDueMoment();
-    void weekdaysAreTheWorkingWeekOfTheLanguage_data();
-    void weekdaysAreTheWorkingWeekOfTheLanguage();
     void aChosenEntryFollowsTheDueMoment();
     void anUnusualPatternIsAnEntryOfItsOwnUntilAnotherIs();
     void aStoredRuleIsChosenAsItIs();
@@ -119,48 +114,6 @@ void TestRepeatChoice::theNthWeekdayIsNamedAndFollowsTheDueMoment()
     const RepeatChoices::Entry after = entryOf(choices, NthWeekday);
     QCOMPARE(after.caption, QStringLiteral("Every month on the third Wednesday"));
     QVERIFY(after.rule != before.rule);
-}
-
-void TestRepeatChoice::weekdaysAreTheWorkingWeekOfTheLanguage_data()
-{
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<QString>("days");
-    const QString fromMonday = QStringLiteral("Monday Tuesday Wednesday Thursday Friday");
-    const QString fromSunday = QStringLiteral("Monday Tuesday Wednesday Thursday Sunday");
-    for (const char* language : {"he_IL", "ar_EG", "ar_SA", "ar_IQ", "ar_JO", "ar_DZ", "ar_KW"}) {
-        QTest::newRow(language) << QString::fromLatin1(language) << fromSunday;
-    }
-    for (const char* language : {"ar_AE", "ar_LB", "ar_MA", "ar_TN", "en_US", "de_DE"}) {
-        QTest::newRow(language) << QString::fromLatin1(language) << fromMonday;
-    }
-    // Weeks of six days, and one that goes across both ends.
-    QTest::newRow("hi_IN") << QStringLiteral("hi_IN") << fromMonday + QStringLiteral(" Saturday");
-    QTest::newRow("ps_AF") << QStringLiteral("ps_AF")
-                           << QStringLiteral("Monday Tuesday Wednesday Saturday Sunday");
-}
-
-void TestRepeatChoice::weekdaysAreTheWorkingWeekOfTheLanguage()
-{
-    QFETCH(const QString, language);
-    QFETCH(const QString, days);
-    const QLocale before;
-    const auto restore = qScopeGuard([before] { QLocale::setDefault(before); });
-    QLocale::setDefault(QLocale(language));
-    const RepeatChoices::Entry entry = entryOf(choicesFor(Tuesday), Weekday);
-    const auto pattern = patternOf(entry.rule, Tuesday);
-    QVERIFY(pattern && pattern->unit == Unit::Weeks && pattern->every == 1);
-    QStringList named;
-    for (int day = Qt::Monday; day <= Qt::Sunday; ++day) {
-        if (pattern->weekdays[static_cast<std::size_t>(day - Qt::Monday)]) {
-            named.append(QLocale::c().dayName(day));
-        }
-    }
-    QCOMPARE(named.join(u' '), days);
-    QCOMPARE(repeatText(entry.rule, Tuesday), QStringLiteral("every weekday"));
-    // The entry is found again in what was stored.
-    RepeatChoices stored;
-    stored.load({.rule = entry.rule, .first = Tuesday}, Tuesday);
-    QCOMPARE(stored.chosen(), int(Weekday));
 }
 
 void TestRepeatChoice::aChosenEntryFollowsTheDueMoment()
