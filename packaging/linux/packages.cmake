@@ -17,10 +17,9 @@ set(CPACK_DEBIAN_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_HOMEPAGE "https://www.ambertask.example")
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# For opening web pages, for a system without fonts, and for Qt's own texts (file dialogs, calendar) in other languages
-# than English.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "xdg-utils, fonts-dejavu-core, qt6-translations-l10n")
-set(CPACK_DEBIAN_PACKAGE_SUGGESTS "qt6-wayland")
+# For opening web pages, for a system without fonts, for Qt's own texts (file dialogs, calendar) in other languages than
+# English, and for Wayland desktops.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "xdg-utils, fonts-dejavu-core, qt6-translations-l10n, qt6-wayland")
 set(CPACK_PACKAGE_DESCRIPTION
     "Ambertask keeps your tasks, files them under categories and reminds you of
 them in time: by an alert, with a sound and by starting a program.

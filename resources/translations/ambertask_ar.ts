@@ -48,6 +48,21 @@
     </message>
 </context>
 <context>
+    <name>AlertNotification</name>
+    <message>
+        <source>Open</source>
+        <translation>فتح</translation>
+    </message>
+    <message>
+        <source>Later (15 minutes)</source>
+        <translation>لاحقًا (15 دقيقة)</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>تجاهل</translation>
+    </message>
+</context>
+<context>
     <name>Cancelled</name>
     <message>
         <source>The operation was cancelled.</source>
@@ -2337,6 +2352,10 @@ The window shows what the import would do now.</source>
     <message>
         <source>The skin &quot;%1&quot; was added; to wear it, choose it in the list and save the settings</source>
         <translation>أُضيف المظهر «%1»؛ لاستخدامه اختره من القائمة ثم احفظ الإعدادات</translation>
+    </message>
+    <message>
+        <source>This desktop lets no program keep its windows on top. The menu of a title bar may offer it.</source>
+        <translation>سطح المكتب هذا لا يسمح لأي برنامج بإبقاء نوافذه في المقدمة. قد تتيح قائمة شريط العنوان ذلك.</translation>
     </message>
 </context>
 <context>

@@ -48,6 +48,21 @@
     </message>
 </context>
 <context>
+    <name>AlertNotification</name>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Later (15 minutes)</source>
+        <translation>Später (15 Minuten)</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Verwerfen</translation>
+    </message>
+</context>
+<context>
     <name>Cancelled</name>
     <message>
         <source>The operation was cancelled.</source>
@@ -2141,6 +2156,10 @@ ein Fehler auf: %3.</translation>
     <message>
         <source>The skin &quot;%1&quot; was added; to wear it, choose it in the list and save the settings</source>
         <translation>Der Skin „%1“ wurde hinzugefügt; wählen Sie ihn in der Liste und speichern Sie die Einstellungen, um ihn zu verwenden</translation>
+    </message>
+    <message>
+        <source>This desktop lets no program keep its windows on top. The menu of a title bar may offer it.</source>
+        <translation>Dieser Desktop lässt kein Programm seine Fenster im Vordergrund halten. Das Menü einer Titelleiste bietet es vielleicht an.</translation>
     </message>
 </context>
 <context>

@@ -48,6 +48,21 @@
     </message>
 </context>
 <context>
+    <name>AlertNotification</name>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Later (15 minutes)</source>
+        <translation>Más tarde (15 minutos)</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Descartar</translation>
+    </message>
+</context>
+<context>
     <name>Cancelled</name>
     <message>
         <source>The operation was cancelled.</source>
@@ -2141,6 +2156,10 @@ La ventana muestra lo que haría ahora la importación.</translation>
     <message>
         <source>The skin &quot;%1&quot; was added; to wear it, choose it in the list and save the settings</source>
         <translation>Se ha añadido el tema «%1»; para usarlo, elíjalo en la lista y guarde la configuración</translation>
+    </message>
+    <message>
+        <source>This desktop lets no program keep its windows on top. The menu of a title bar may offer it.</source>
+        <translation>Este escritorio no permite que ningún programa mantenga sus ventanas siempre visibles. El menú de una barra de título puede ofrecerlo.</translation>
     </message>
 </context>
 <context>

@@ -48,6 +48,21 @@
     </message>
 </context>
 <context>
+    <name>AlertNotification</name>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Later (15 minutes)</source>
+        <translation>Plus tard (15 minutes)</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Ignorer</translation>
+    </message>
+</context>
+<context>
     <name>Cancelled</name>
     <message>
         <source>The operation was cancelled.</source>
@@ -2141,6 +2156,10 @@ La fenêtre montre ce que ferait l’importation maintenant.</translation>
     <message>
         <source>The skin &quot;%1&quot; was added; to wear it, choose it in the list and save the settings</source>
         <translation>Le thème «&#xa0;%1&#xa0;» a été ajouté&#xa0;; pour l’utiliser, choisissez-le dans la liste et enregistrez les paramètres</translation>
+    </message>
+    <message>
+        <source>This desktop lets no program keep its windows on top. The menu of a title bar may offer it.</source>
+        <translation>Ce bureau ne laisse aucun programme garder ses fenêtres au premier plan. Le menu d’une barre de titre le propose peut-être.</translation>
     </message>
 </context>
 <context>

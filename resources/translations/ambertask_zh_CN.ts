@@ -48,6 +48,21 @@
     </message>
 </context>
 <context>
+    <name>AlertNotification</name>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>Later (15 minutes)</source>
+        <translation>稍后（15 分钟）</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>消除</translation>
+    </message>
+</context>
+<context>
     <name>Cancelled</name>
     <message>
         <source>The operation was cancelled.</source>
@@ -2092,6 +2107,10 @@ The window shows what the import would do now.</source>
     <message>
         <source>The skin &quot;%1&quot; was added; to wear it, choose it in the list and save the settings</source>
         <translation>已添加皮肤“%1”；要使用它，请在列表中选择它并保存设置</translation>
+    </message>
+    <message>
+        <source>This desktop lets no program keep its windows on top. The menu of a title bar may offer it.</source>
+        <translation>此桌面不允许任何程序让自己的窗口保持在最前。标题栏菜单中可能有此选项。</translation>
     </message>
 </context>
 <context>

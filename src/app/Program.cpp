@@ -226,7 +226,8 @@ frmAlerts& Program::alerts()
 {
     if (m_alerts == nullptr) {
         AlertsHost& host = *this;
-        m_alerts = std::make_unique<frmAlerts>(m_services, host, m_machine.waveBackend);
+        m_alerts =
+            std::make_unique<frmAlerts>(m_services, host, m_machine.waveBackend, m_machine.notifications);
         connectGuarded(
             m_alerts.get(), &frmAlerts::remindersDismissed, this, &Program::LoadTasks, m_machine.errors);
         connect(

@@ -14,6 +14,7 @@
 #include "settings/Skins.h"
 #include "store/ForeignChanges.h"
 #include "system/HelperProcess.h"
+#include "system/Notifications.h"
 #include "system/ProgramFiles.h"
 #include "system/WaveBackend.h"
 #include "tasks/TaskDetailsHost.h"
@@ -57,6 +58,8 @@ struct Machine {
     QString shippedFolder = {};
     /// The file for what the user has arranged in the main window; empty to keep nothing.
     QString stateFile = {};
+    /// Where the alert window cannot come up by itself.
+    NotificationsFactory notifications = {};
 };
 
 /// The program: the one instance of each form and of what they share, and their connections. Interface

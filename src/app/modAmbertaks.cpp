@@ -15,12 +15,14 @@
 #include "system/Language.h"
 #include "system/MMControl.h"
 #include "system/Modules.h"
+#include "system/Notifications.h"
 #include "system/ProgramFolder.h"
 #include "system/Registry.h"
 #include "system/Shell.h"
 #include "system/SingleInstance.h"
 #include "system/TerminationSignals.h"
 #include "widgets/AccessibleControls.h"
+#include "widgets/DesktopLimits.h"
 #include "widgets/FileDialogs.h"
 #include "widgets/MessageBoxes.h"
 #include "widgets/ScreenErrorReport.h"
@@ -52,7 +54,9 @@ struct RealMachine {
             [this](ReportHost& host) { return loadReportWindow(modules, host); },
             [this] { return loadExchange(modules); },
             [this] { return modules.program(QLatin1String(PictureProgram)); }, shippedFolder,
-            pathIn(userStateFolder(), QStringLiteral("window"))};
+            pathIn(userStateFolder(), QStringLiteral("window")),
+            desktopPlacesWindows(QGuiApplication::platformName()) ? NotificationsFactory(makeNotifications)
+                                                                  : nullptr};
     }
 
     QString shippedFolder;

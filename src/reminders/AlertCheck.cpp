@@ -1,6 +1,7 @@
 #include "reminders/frmAlerts.h"
 
 #include "data/TaskRepeats.h"
+#include "reminders/UsualMoments.h"
 #include "system/ProgramFiles.h"
 #include "system/Shell.h"
 #include "widgets/GridView.h"
@@ -52,7 +53,7 @@ void frmAlerts::check(bool isOvertaken)
         comeUp();
         m_owesMark = true;
     } else if (outcome == Outcome::Hide) {
-        hide();
+        putAway();
         m_owesMark = false;
     }
     // A failed mark is made up for only while the reminders that have sounded are exactly those that are
@@ -93,6 +94,7 @@ void frmAlerts::redraw(const std::vector<DueReminder>& due)
     const QList<qint32> selected = selectedTasks();
     m_reminders.setReminders(due);
     m_controls.grdTasks->selectRows(m_reminders.rowsOf(selected));
+    m_notification.follow(windowTitle(), due);
     for (const DueReminder& reminder : due) {
         fireOnce(reminder);
     }
@@ -135,5 +137,38 @@ void frmAlerts::comeUp()
         makeTopmost(this);
     }
     putInPlace(this);
-    m_unasked.comeUp();
+    if (!m_notification.isUsed()) {
+        m_unasked.comeUp();
+    } else if (!isActiveWindow()) {
+        m_notification.tell(windowTitle(), m_reminders.reminders());
+    }
+}
+
+void frmAlerts::putAway()
+{
+    hide();
+    m_notification.withdraw();
+}
+
+// What the user has chosen in the notification does what the controls of the window do.
+
+void frmAlerts::openTold(const QList<qint32>& ids)
+{
+    m_controls.grdTasks->selectRows(m_reminders.rowsOf(ids));
+    showOwned(this, nullptr);
+    if (ids.size() == 1) {
+        btnOpenItem_Click();
+    }
+}
+
+void frmAlerts::postponeTold(const QList<qint32>& ids)
+{
+    m_controls.grdTasks->selectRows(m_reminders.rowsOf(ids));
+    remindLater(*momentOf(UsualMoment::In15Minutes, m_services.clock.now()));
+}
+
+void frmAlerts::dismissTold(const QList<qint32>& ids)
+{
+    m_controls.grdTasks->selectRows(m_reminders.rowsOf(ids));
+    btnDismiss_Click();
 }

@@ -36,13 +36,14 @@ bool isOwnBoxOpen()
 
 } // namespace
 
-frmAlerts::frmAlerts(
-    const FormServices& services, AlertsHost& host, WaveBackendFactory waveBackend, QWidget* parent)
+frmAlerts::frmAlerts(const FormServices& services, AlertsHost& host, WaveBackendFactory waveBackend,
+    NotificationsFactory notifications, QWidget* parent)
     // A plain window: metacity and xfwm4 keep a dialog without an owner above all windows of its program,
     // so that the main window could not come in front of it.
     : QWidget(parent, Qt::Window), m_services(services), m_host(host), m_mmc(std::move(waveBackend), this),
       m_reminders(services.clock), m_tmrTasksChecker(this), m_tmrFlasher(this),
-      m_controls(*this, services.clock), m_actions(m_controls, services.clock), m_unasked(this)
+      m_controls(*this, services.clock), m_actions(m_controls, services.clock), m_unasked(this),
+      m_notification(std::move(notifications))
 {
     setObjectName(QStringLiteral("frmAlerts"));
     setWindowTitle(titleFor(0));
@@ -81,6 +82,12 @@ void frmAlerts::connectControls()
     connectGuarded(&m_actions, &AlertActions::openRequested, this, &frmAlerts::btnOpenItem_Click, errors);
     connectGuarded(&m_actions, &AlertActions::remindLaterRequested, this, &frmAlerts::remindLater, errors);
     connectGuarded(&m_actions, &AlertActions::dismissRequested, this, &frmAlerts::btnDismiss_Click, errors);
+    connectGuarded(&m_notification, &AlertNotification::openRequested, this, &frmAlerts::openTold, errors);
+    connectGuarded(
+        &m_notification, &AlertNotification::laterRequested, this, &frmAlerts::postponeTold, errors);
+    connectGuarded(
+        &m_notification, &AlertNotification::dismissRequested, this, &frmAlerts::dismissTold, errors);
+    connect(&m_notification, &AlertNotification::windowNeeded, &m_unasked, &UnaskedWindow::comeUp);
     connect(&m_controls.btnUsualMoment->moments(), &MomentMenu::momentChosen, this, &frmAlerts::setPickersTo);
     connect(m_controls.btnHelp, &QPushButton::clicked, this, &frmAlerts::helpRequested);
     connect(&m_tmrTasksChecker, &QTimer::timeout, this, &frmAlerts::tmrTasksChecker_Timer);
@@ -105,7 +112,7 @@ void frmAlerts::setCheckerEnabled(bool enabled)
 
 void frmAlerts::forgetReminders()
 {
-    hide();
+    putAway();
     m_reminders.setReminders({});
     setWindowTitle(titleFor(0));
     m_owesMark = false;
@@ -146,7 +153,7 @@ void frmAlerts::btnDismissAll_Click()
         return ChangeTexts::dismissed(dismissed);
     });
     m_allDismissed = true;
-    hide();
+    putAway();
     emit remindersDismissed();
     closeSound();
 }
@@ -210,8 +217,9 @@ bool frmAlerts::changeSelected(QString (*done)(int count),
         return done(static_cast<int>(ids.size()));
     });
     m_reminders.removeReminders(m_controls.grdTasks->selectedRows());
+    m_notification.follow(titleFor(m_reminders.rowCount()), m_reminders.reminders());
     if (m_reminders.rowCount() == 0) {
-        hide();
+        putAway();
     }
     return true;
 }
@@ -236,6 +244,7 @@ void frmAlerts::Form_Activate()
 {
     if (!m_isActive) {
         m_isActive = true;
+        m_notification.withdraw();
         setPickersToNow();
         m_tmrFlasher.start();
     }
@@ -292,7 +301,7 @@ void frmAlerts::closeEvent(QCloseEvent* event)
     // Only the close box hides the window; a log-out and the end of the program unload it.
     if (isCloseByUser(*event)) {
         event->ignore();
-        hide();
+        putAway();
         closeSound();
     } else {
         QWidget::closeEvent(event);

@@ -3,6 +3,7 @@
 #include "reminders/AlertActions.h"
 #include "reminders/AlertControls.h"
 #include "reminders/AlertListModel.h"
+#include "reminders/AlertNotification.h"
 #include "system/MMControl.h"
 #include "widgets/FormServices.h"
 #include "widgets/UnaskedWindow.h"
@@ -15,15 +16,17 @@ class AlertsHost;
 
 /// The alert window: checks for due reminders every ten seconds, lists them, plays their sounds, starts
 /// their files and offers what can be done with them. It comes up by itself and has no owner; the close box
-/// only hides it. Interface thread only.
+/// only hides it. Where it could come up only with the keyboard of another window, a notification of the
+/// desktop stands for it until the user wants it. Interface thread only.
 class frmAlerts final : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// Not shown and not checking yet. `host` is not owned and outlives the window.
+    /// Not shown and not checking yet. `host` is not owned and outlives the window. `notifications` is given
+    /// where windows cannot come up by themselves.
     frmAlerts(const FormServices& services, AlertsHost& host, WaveBackendFactory waveBackend,
-        QWidget* parent = nullptr);
+        NotificationsFactory notifications = {}, QWidget* parent = nullptr);
 
     /// Runs one check at once and starts the checker's timer.
     void load();
@@ -69,6 +72,8 @@ private:
     void fireOnce(const DueReminder& reminder);
     void fire(const DueReminder& reminder);
     void comeUp();
+    /// Hides the window and withdraws the notification.
+    void putAway();
 
     void btnDismiss_Click();
     void btnDismissAll_Click();
@@ -76,6 +81,9 @@ private:
     void btnOpenItem_Click();
     void mnuAlertComplete_Click();
     void remindLater(Moment moment);
+    void openTold(const QList<qint32>& ids);
+    void postponeTold(const QList<qint32>& ids);
+    void dismissTold(const QList<qint32>& ids);
     void tmrFlasher_Timer();
     void closeSound();
 
@@ -100,6 +108,7 @@ private:
     AlertControls m_controls;
     AlertActions m_actions;
     UnaskedWindow m_unasked;
+    AlertNotification m_notification;
     bool m_isActive = false;
     /// The listed reminders have sounded but could not be marked as played.
     bool m_owesMark = false;

@@ -11,6 +11,7 @@
 #include "widgets/CheckBox.h"
 #include "widgets/CheckerTimer.h"
 #include "widgets/ComboBox.h"
+#include "widgets/DesktopLimits.h"
 #include "widgets/FileDialogs.h"
 #include "widgets/FormServices.h"
 #include "widgets/LinkLabel.h"
@@ -21,6 +22,7 @@
 #include <QBoxLayout>
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QPushButton>
 #include <utility>
@@ -65,6 +67,10 @@ QGroupBox* SettingsPage::makeGeneralFrame()
     m_chkShowTodayTasksOnStart = makeBox("chkShowTodayTasksOnStart", tr("Show &today's tasks on start"));
     m_chkStartWithWin = makeBox("chkStartWithWin", tr("Start with &windows"));
     m_chkOnTop = makeBox("chkOnTop", tr("Always on to&p"));
+    if (desktopPlacesWindows(QGuiApplication::platformName())) {
+        m_chkOnTop->setToolTip(tr("This desktop lets no program keep its windows on top. "
+                                  "The menu of a title bar may offer it."));
+    }
     m_chkMinimizeOnStart = makeBox("chkMinimizeOnStart", tr("&Minimize on start"));
     m_chkShowBallon = makeBox("chkShowBallon", tr("Show tray &balloon when closed"));
 

@@ -118,8 +118,7 @@ class Desktop:
                 self.start_tray()
             if self._with_sound:
                 self.sound = SoundServer(self._children, self.environment, self.root)
-            self.screen = Screen(self.environment["DISPLAY"])
-            self.input = Input(self.screen)
+            self._meet_user()
         except BaseException:
             self.__exit__(None, None, None)
             raise
@@ -132,6 +131,11 @@ class Desktop:
             steps.callback(self._children.end_all)
             if self.screen:
                 steps.callback(self.screen.close)
+
+    def _meet_user(self):
+        """What the user sees of the desk and works it with."""
+        self.screen = Screen(self.environment["DISPLAY"])
+        self.input = Input(self.screen)
 
     # The folders ------------------------------------------------------------------------------------------
 

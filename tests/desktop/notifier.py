@@ -25,6 +25,8 @@ INTERFACES = """<node>
     </method>
     <method name="CloseNotification"><arg type="u" direction="in"/></method>
     <method name="GetCapabilities"><arg type="as" direction="out"/></method>
+    <signal name="ActionInvoked"><arg type="u"/><arg type="s"/></signal>
+    <signal name="NotificationClosed"><arg type="u"/><arg type="u"/></signal>
     <method name="GetServerInformation">
       <arg type="s" direction="out"/><arg type="s" direction="out"/><arg type="s" direction="out"/>
       <arg type="s" direction="out"/>
@@ -40,6 +42,8 @@ class NotifierArea:
         self._bus = connect_bus(address)
         self.items = []
         self.notifications = []
+        self.offers = {}
+        self.withdrawn = []
         described = Gio.DBusNodeInfo.new_for_xml(INTERFACES)
         for path, interface in zip(("/StatusNotifierWatcher", "/org/freedesktop/Notifications"), described.interfaces):
             self._bus.register_object(path, interface, self._called, self._asked, None)
@@ -48,7 +52,8 @@ class NotifierArea:
                       GLib.Variant("(su)", (name, 0)))
 
     def close(self):
-        self._bus.close_sync(None)
+        if not self._bus.is_closed():
+            self._bus.close_sync(None)
 
     def _called(self, _connection, sender, _path, _interface, method, arguments, invocation):
         values = arguments.unpack()
@@ -59,9 +64,13 @@ class NotifierArea:
                                   GLib.Variant("(s)", (values[0],)))
         elif method == "Notify":
             self.notifications.append({"title": values[3], "text": values[4], "milliseconds": values[7]})
+            self.offers[len(self.notifications)] = values[5]
             invocation.return_value(GLib.Variant("(u)", (len(self.notifications),)))
+        elif method == "CloseNotification":
+            self.withdrawn.append(values[0])
+            invocation.return_value(None)
         elif method == "GetCapabilities":
-            invocation.return_value(GLib.Variant("(as)", (["body"],)))
+            invocation.return_value(GLib.Variant("(as)", (["body", "body-markup", "actions"],)))
         elif method == "GetServerInformation":
             invocation.return_value(GLib.Variant("(ssss)", ("desk", "tests", "1", "1.2")))
         else:
@@ -88,6 +97,22 @@ class NotifierArea:
         if failure:
             raise failure
         return value.unpack()
+
+    # Notifications, by their numbers counted from 1 ----------------------------------------------------------
+
+    def wait_notification(self, title):
+        """The number of the last notification, once that has this title."""
+        def shown():
+            return bool(self.notifications) and self.notifications[-1]["title"] == title
+        wait_until(shown, f"a notification '{title}' comes")
+        return len(self.notifications)
+
+    def answer(self, number, key):
+        """What a click on one of its buttons does, or on its text for "default"."""
+        for signal, value in (("ActionInvoked", GLib.Variant("(us)", (number, key))),
+                              ("NotificationClosed", GLib.Variant("(uu)", (number, 2)))):
+            self._bus.emit_signal(None, "/org/freedesktop/Notifications", "org.freedesktop.Notifications", signal,
+                                  value)
 
     # The one icon of the program --------------------------------------------------------------------------
 

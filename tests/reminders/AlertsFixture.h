@@ -32,12 +32,15 @@ public:
 
 /// An alert window over a database of its own, not loaded: a test calls the tick.
 struct AlertsFixture {
-    AlertsFixture()
-        : window(world.services, host, [this] {
-              auto made = std::make_unique<RecordedWave>(sounds);
-              wave = made.get();
-              return made;
-          })
+    explicit AlertsFixture(NotificationsFactory notifications = {})
+        : window(
+            world.services, host,
+            [this] {
+                auto made = std::make_unique<RecordedWave>(sounds);
+                wave = made.get();
+                return made;
+            },
+            std::move(notifications))
     {
     }
 

@@ -1,0 +1,251 @@
+#include "AlertsFixture.h"
+#include "data/TaskCodes.h"
+#include "support/TestMain.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace std::chrono_literals;
+
+namespace
+{
+
+/// Remembers what was shown.
+class RecordedNotifications final : public Notifications
+{
+public:
+    explicit RecordedNotifications(QList<Notification>& log) : m_log(log) { }
+    void show(const Notification& notification) override
+    {
+        m_log.append(notification);
+        isShown = true;
+    }
+    void withdraw() override { isShown = false; }
+
+    bool isShown = false;
+
+private:
+    QList<Notification>& m_log;
+};
+
+/// An alert window on a desktop where it cannot come up by itself.
+struct ToldAlerts : AlertsFixture {
+    ToldAlerts()
+        : AlertsFixture([this] {
+              auto made = std::make_unique<RecordedNotifications>(told);
+              desktop = made.get();
+              return made;
+          })
+    {
+    }
+    bool isTold() const { return desktop != nullptr && desktop->isShown; }
+    QStringList lines() const { return told.constLast().text.split(u'\n'); }
+    void choose(const char* key) const { emit desktop->chosen(QString::fromLatin1(key)); }
+
+    QList<Notification> told;
+    RecordedNotifications* desktop = nullptr; ///< none before there was something to tell
+};
+
+/// One reminder, told.
+struct OneTold : ToldAlerts {
+    OneTold()
+    {
+        id = aDueTask(QStringLiteral("a")).add();
+        tick();
+    }
+    qint32 id = 0;
+};
+
+/// Two reminders, told.
+struct TwoTold : ToldAlerts {
+    TwoTold()
+    {
+        first = aDueTask(QStringLiteral("a")).add();
+        second = aDueTask(QStringLiteral("b")).add();
+        tick();
+    }
+    qint32 first = 0;
+    qint32 second = 0;
+};
+
+} // namespace
+
+class AlertNotificationTest : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void withNothingDueTheDesktopIsNotAsked()
+    {
+        ToldAlerts alerts;
+        alerts.tick();
+        QVERIFY(alerts.desktop == nullptr);
+    }
+
+    void theNotificationStandsForTheWindowAndTheReminderHasSounded()
+    {
+        ToldAlerts alerts;
+        const qint32 id = alerts.aDueTask(QStringLiteral("a")).sounding(QStringLiteral("a.wav")).add();
+        alerts.tick();
+        QVERIFY(alerts.isTold());
+        QVERIFY(!alerts.window.isVisible());
+        QCOMPARE(alerts.told.constLast().title, QStringLiteral("1 Reminder"));
+        QCOMPARE(alerts.lines(), QStringList(QStringLiteral("a")));
+        QCOMPARE(alerts.takeSounds(), QStringList(QStringLiteral("play a.wav")));
+        QVERIFY(alerts.isPlayed(id));
+        QCOMPARE(alerts.window.dueCount(), 1);
+        alerts.tick();
+        QCOMPARE(alerts.told.size(), 1);
+    }
+
+    void itOffersWhatTheWindowOffers()
+    {
+        OneTold alerts;
+        QStringList offers;
+        for (const Notification::Action& action : alerts.told.constLast().actions) {
+            offers.append(action.key + u'=' + action.caption);
+        }
+        QCOMPARE(offers,
+            QStringList({QStringLiteral("default=Open"), QStringLiteral("open=Open"),
+                QStringLiteral("later=Later (15 minutes)"), QStringLiteral("dismiss=Dismiss")}));
+    }
+
+    void aTaskOfHighPriorityIsUrgent()
+    {
+        OneTold alerts;
+        QVERIFY(!alerts.told.constLast().isUrgent);
+        alerts.aDueTask(QStringLiteral("b")).withPeriority(TaskPeriority::High).add();
+        alerts.tick();
+        QVERIFY(alerts.told.constLast().isUrgent);
+    }
+
+    void openShowsTheWindowAndTheTask_data()
+    {
+        QTest::addColumn<QByteArray>("key");
+        QTest::newRow("the button") << QByteArray("open");
+        QTest::newRow("a click on the text") << QByteArray("default");
+    }
+
+    void openShowsTheWindowAndTheTask()
+    {
+        QFETCH(QByteArray, key);
+        OneTold alerts;
+        alerts.choose(key.constData());
+        QVERIFY(alerts.window.isVisible());
+        QCOMPARE(alerts.host.opened, QList<qint16>{static_cast<qint16>(alerts.id)});
+        QVERIFY(!alerts.isTold());
+    }
+
+    void ofSeveralOpenShowsTheListWithAllSelected()
+    {
+        TwoTold alerts;
+        alerts.choose("open");
+        QVERIFY(alerts.window.isVisible());
+        QCOMPARE(alerts.host.opened, QList<qint16>());
+        QCOMPARE(alerts.grid()->selectedRows(), QList<int>({0, 1}));
+    }
+
+    void laterRemindsIn15Minutes()
+    {
+        TwoTold alerts;
+        alerts.choose("later");
+        for (const qint32 id : {alerts.first, alerts.second}) {
+            QCOMPARE(alerts.stored(id, QStringLiteral("reminder_date_time")),
+                QStringLiteral("2026-01-15 10:15:00"));
+        }
+        QVERIFY(!alerts.isTold());
+        QVERIFY(!alerts.window.isVisible());
+        alerts.clock().step(16min);
+        alerts.tick();
+        QVERIFY(alerts.isTold());
+        QCOMPARE(alerts.lines(), QStringList({QStringLiteral("a"), QStringLiteral("b")}));
+    }
+
+    void dismissDismissesAllThatItNames()
+    {
+        TwoTold alerts;
+        QSignalSpy dismissed(&alerts.window, &frmAlerts::remindersDismissed);
+        alerts.choose("dismiss");
+        QCOMPARE(alerts.stored(alerts.first, QStringLiteral("dismissed")), QStringLiteral("1"));
+        QCOMPARE(alerts.stored(alerts.second, QStringLiteral("dismissed")), QStringLiteral("1"));
+        QCOMPARE(dismissed.size(), 1);
+        QVERIFY(!alerts.isTold());
+        QCOMPARE(alerts.window.dueCount(), 0);
+    }
+
+    void aChoiceAfterTheAnswerChangesNothing()
+    {
+        OneTold alerts;
+        alerts.choose("later");
+        alerts.choose("dismiss");
+        QCOMPARE(alerts.stored(alerts.id, QStringLiteral("dismissed")), QStringLiteral("0"));
+    }
+
+    void whatIsAnsweredElsewhereLeavesTheNotification()
+    {
+        TwoTold alerts;
+        alerts.database().sql(
+            QStringLiteral("update tasks set dismissed=1 where task_id=%1").arg(alerts.first));
+        alerts.tick();
+        QVERIFY(alerts.isTold());
+        QCOMPARE(alerts.told.constLast().title, QStringLiteral("1 Reminder"));
+        QCOMPARE(alerts.lines(), QStringList(QStringLiteral("b")));
+        alerts.database().sql(QStringLiteral("update tasks set dismissed=1"));
+        alerts.tick();
+        QVERIFY(!alerts.isTold());
+    }
+
+    void theNotificationGoesWhenTheUserLooksAtTheWindow()
+    {
+        OneTold alerts;
+        alerts.window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&alerts.window));
+        QVERIFY(!alerts.isTold());
+        // What the user sees need not be told.
+        alerts.aDueTask(QStringLiteral("b")).add();
+        alerts.tick();
+        QVERIFY(!alerts.isTold());
+        QCOMPARE(alerts.names(), QStringList({QStringLiteral("a"), QStringLiteral("b")}));
+    }
+
+    void whatTheUserClosesComesBackOnlyWithAnotherReminder()
+    {
+        TwoTold alerts;
+        emit alerts.desktop->closed();
+        alerts.told.clear();
+        alerts.database().sql(
+            QStringLiteral("update tasks set dismissed=1 where task_id=%1").arg(alerts.first));
+        alerts.tick();
+        QCOMPARE(alerts.told.size(), 0);
+        alerts.aDueTask(QStringLiteral("c")).add();
+        alerts.tick();
+        QCOMPARE(alerts.lines(), QStringList({QStringLiteral("b"), QStringLiteral("c")}));
+    }
+
+    void whereItCannotBeAnsweredTheWindowComesUp()
+    {
+        OneTold alerts;
+        emit alerts.desktop->unanswerable();
+        QVERIFY(alerts.window.isVisible());
+    }
+
+    void aRestoreTakesTheNotificationAway()
+    {
+        OneTold alerts;
+        alerts.window.forgetReminders();
+        QVERIFY(!alerts.isTold());
+    }
+
+    void ofManyTheFirstAreNamed()
+    {
+        std::vector<DueReminder> many(7);
+        many[0].name = QString(5000, u'x');
+        const QStringList lines = AlertNotification::textFor(many).split(u'\n');
+        QCOMPARE(lines.size(), 6);
+        QVERIFY(lines.constFirst().size() < 300);
+        QCOMPARE(lines.constLast(), QStringLiteral("…"));
+    }
+};
+
+AMBERTASK_TEST_MAIN(AlertNotificationTest)
+#include "tst_alert_notification.moc"
