@@ -40,7 +40,6 @@ struct CommandsBeside : ProgramFixture {
             database.clock(), [this] { return loadExchange(modules); }, stream, errors});
         const CommandRun::Status status = command.run(CommandLine::read(words));
         output = QString::fromUtf8(contentOf(file.fileName()));
-        complaint = QString::fromUtf8(errors.data());
         return status;
     }
     QString path(const char* name) const { return folder.filePath(QLatin1String(name)); }
@@ -82,7 +81,6 @@ struct CommandsBeside : ProgramFixture {
     Modules modules{
         QFileInfo(QStringLiteral(AMBERTASK_EXCHANGE_MODULE)).path(), {QLatin1String(ExchangeModule)}};
     QString output;
-    QString complaint;
 };
 
 const QByteArray Weekdays =
