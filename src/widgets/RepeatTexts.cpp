@@ -7,9 +7,6 @@
 
 // Without a catalogue, as in English, Qt knows of no plural.
 
-namespace
-{
-
 std::bitset<7> workingWeek()
 {
     std::bitset<7> days;
@@ -18,8 +15,6 @@ std::bitset<7> workingWeek()
     }
     return days;
 }
-
-} // namespace
 
 QString RepeatTexts::pattern(const RepeatPattern& pattern, Moment first)
 {
