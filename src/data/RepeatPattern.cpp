@@ -27,6 +27,11 @@ std::size_t weekdayOf(Moment moment)
     return std::chrono::weekday(std::chrono::floor<days>(moment)).iso_encoding() - 1;
 }
 
+std::bitset<7> withThatOf(Moment first, std::bitset<7> weekdays)
+{
+    return weekdays.set(weekdayOf(first));
+}
+
 /// Which one of its month the weekday is; -1 for the fifth one, which not every month has.
 int numberOfWeekday(Moment moment)
 {
@@ -52,6 +57,9 @@ std::string daysText(const RepeatPattern& pattern, Moment first)
             if (pattern.weekdays[i]) {
                 text += (text.empty() ? ";BYDAY=" : ",") + std::string(WeekdayNames.at(i));
             }
+        }
+        if (pattern.every > 1 && !isAsFromMonday(pattern.weekStart, withThatOf(first, pattern.weekdays))) {
+            text += ";WKST=" + std::string(WeekdayNames.at(static_cast<std::size_t>(pattern.weekStart)));
         }
         return text;
     }
@@ -158,16 +166,6 @@ std::optional<std::bitset<7>> weekdaysOf(const RuleParts& parts)
     return weekdays;
 }
 
-/// Whether the weeks that are left out would be the same ones if weeks began on Monday: no named day is on
-/// the other side of their beginning than the first moment.
-bool hasWeeksFromMonday(const RuleParts& parts, std::bitset<7> weekdays, Moment first)
-{
-    const auto start = static_cast<std::size_t>(parts.weekStart);
-    weekdays.set(weekdayOf(first));
-    const std::bitset<7> before((1U << start) - 1);
-    return parts.interval == 1 || (weekdays & before).none() || (weekdays & ~before).none();
-}
-
 bool readWeekdays(RepeatPattern& pattern, const RuleParts& parts, Moment first)
 {
     const auto weekdays = weekdaysOf(parts);
@@ -180,7 +178,10 @@ bool readWeekdays(RepeatPattern& pattern, const RuleParts& parts, Moment first)
         pattern.unit = Unit::Weeks;
         return parts.interval == 1;
     }
-    return pattern.unit == Unit::Days || hasWeeksFromMonday(parts, *weekdays, first);
+    if (parts.interval > 1 && !isAsFromMonday(parts.weekStart, withThatOf(first, *weekdays))) {
+        pattern.weekStart = parts.weekStart;
+    }
+    return true;
 }
 
 bool readDays(RepeatPattern& pattern, const RuleParts& parts, Moment first)
@@ -202,6 +203,12 @@ bool readDays(RepeatPattern& pattern, const RuleParts& parts, Moment first)
 }
 
 } // namespace
+
+bool isAsFromMonday(int weekStart, std::bitset<7> weekdays)
+{
+    const std::bitset<7> before((1U << static_cast<unsigned>(weekStart)) - 1);
+    return (weekdays & before).none() || (weekdays & ~before).none();
+}
 
 std::string ruleOf(const RepeatPattern& pattern, Moment first)
 {

@@ -21,6 +21,7 @@ struct RepeatPattern {
     Unit unit = Unit::Weeks;
     int every = 1; ///< from 1 to MostEvery
     std::bitset<7> weekdays{}; ///< of weeks, Monday first; none for that of the first moment
+    int weekStart = 0; ///< with which day weeks begin, Monday 0: decides which of them are left out
     MonthDay monthDay = MonthDay::SameDay; ///< of months; years have the same day
     // At most one of them:
     std::optional<std::chrono::year_month_day> until{}; ///< the last day
@@ -31,6 +32,9 @@ struct RepeatPattern {
 
     bool operator==(const RepeatPattern&) const = default;
 };
+
+/// Whether weeks that begin with that day have these weekdays together as weeks from Monday on do.
+bool isAsFromMonday(int weekStart, std::bitset<7> weekdays);
 
 /// The pattern as the value of an RRULE.
 std::string ruleOf(const RepeatPattern& pattern, Moment first);

@@ -31,6 +31,7 @@ void frmAlerts::showAnew()
     } else if (m_reminders.lists(checker.due())) {
         redraw(checker.due());
     }
+    countTimes();
 }
 
 void frmAlerts::check(bool isOvertaken)

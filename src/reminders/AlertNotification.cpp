@@ -1,10 +1,8 @@
 #include "reminders/AlertNotification.h"
 
-#include "data/TaskCodes.h"
 #include "widgets/PlainText.h"
 
 #include <QStringList>
-#include <algorithm>
 #include <utility>
 
 namespace
@@ -43,12 +41,9 @@ void AlertNotification::tell(const QString& title, const std::vector<DueReminder
         connect(m_desktop.get(), &Notifications::closed, this, [this] { m_ids.clear(); });
     }
     m_ids = idsOf(reminders);
-    const bool isUrgent = std::any_of(reminders.begin(), reminders.end(),
-        [](const DueReminder& reminder) { return reminder.periority == TaskPeriority::High; });
     m_desktop->show({title, textFor(reminders),
         {{QLatin1String(Notifications::DefaultAction), tr("Open")}, {QLatin1String(Open), tr("Open")},
-            {QLatin1String(Later), tr("Later (15 minutes)")}, {QLatin1String(Dismiss), tr("Dismiss")}},
-        isUrgent});
+            {QLatin1String(Later), tr("Later (15 minutes)")}, {QLatin1String(Dismiss), tr("Dismiss")}}});
 }
 
 void AlertNotification::follow(const QString& title, const std::vector<DueReminder>& reminders)

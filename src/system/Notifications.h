@@ -16,10 +16,9 @@ struct Notification {
     QString title;
     QString text; ///< plain, lines separated by line feeds
     QList<Action> actions;
-    bool isUrgent = false; ///< shown also while the user wants to be left alone
 };
 
-/// One notification of the desktop, which stays until it is answered or withdrawn. Interface thread only.
+/// One notification of the desktop, which stays on the screen until it is answered or withdrawn. Interface thread only.
 class Notifications : public QObject
 {
     Q_OBJECT

@@ -3,14 +3,13 @@
 #include <QString>
 #include <memory>
 
-class LockFile;
-
 /// Guards against two copies of the program on one program folder, until it is released or the process ends
 /// in whatever way. Only the owner of the folder can take it: it is a lock on a private file beside
 /// data.dat, removed with the guard. (Whoever may read the folder could lock the folder itself; a lock on
 /// data.dat would stay on the old file after a restore.) In a folder that takes no new file, because it is
 /// read-only or full, it is a lock on data.dat, which is never restored there. (Once a full folder has room
-/// again, a second copy does not notice that lock.)
+/// again, a second copy does not notice that lock.) On Windows it is a named mutex of the user and the
+/// folder, which only that user can take.
 class SingleInstance
 {
 public:
@@ -28,7 +27,9 @@ public:
     void release();
 
 private:
-    std::unique_ptr<LockFile> m_lock;
-    qintptr m_handle = -1;
+    /// Null on Windows, where a function has that name, too.
+    std::unique_ptr<class LockFile> m_lock;
+    qintptr m_handle = -1; ///< of data.dat, or of the mutex
+    quint32 m_mutexError = 0; ///< why there is no mutex, as Windows numbers it
     bool m_otherCopyRuns = false;
 };

@@ -9,15 +9,6 @@
 namespace
 {
 
-std::bitset<7> workingWeek()
-{
-    std::bitset<7> days;
-    for (const Qt::DayOfWeek day : QLocale().weekdays()) {
-        days.set(static_cast<std::size_t>(day - Qt::Monday));
-    }
-    return days;
-}
-
 RepeatPattern every(int number, RepeatPattern::Unit unit)
 {
     RepeatPattern pattern;

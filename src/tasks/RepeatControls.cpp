@@ -179,6 +179,7 @@ RepeatInput RepeatControls::input() const
     for (std::size_t day = 0; day < chkWeekdays.size(); ++day) {
         entered.weekdays.set(day, chkWeekdays[day]->isChecked());
     }
+    entered.weekStart = m_weekStart;
     entered.monthDay = selectedCode<RepeatPattern::MonthDay>(*cmbMonthDay);
     entered.end = selectedCode<RepeatInput::End>(*cmbEnd);
     entered.lastDay = dayOf(toMoment(dtpLastDay->date()));
@@ -193,6 +194,7 @@ void RepeatControls::fill(const RepeatInput& input)
     for (std::size_t day = 0; day < chkWeekdays.size(); ++day) {
         chkWeekdays[day]->setChecked(input.weekdays.test(day));
     }
+    m_weekStart = input.weekStart;
     selectNumber(*cmbMonthDay, static_cast<int>(input.monthDay));
     selectNumber(*cmbEnd, static_cast<int>(input.end));
     dtpLastDay->setDate(toQDate(makeMoment(input.lastDay)));

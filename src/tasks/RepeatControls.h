@@ -41,6 +41,7 @@ public:
     QPushButton* btnOk;
     QPushButton* btnCancel;
 
+    /// What has no control is as it was filled in last.
     RepeatInput input() const;
     void fill(const RepeatInput& input);
     /// The one that is shown first.
@@ -55,4 +56,6 @@ private:
     void setAccessibleNames();
     void layOut(QWidget& form);
     void layOutWeekdays();
+
+    int m_weekStart = 0;
 };

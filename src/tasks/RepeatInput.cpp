@@ -1,5 +1,7 @@
 #include "tasks/RepeatInput.h"
 
+#include <QLocale>
+
 namespace
 {
 
@@ -7,6 +9,14 @@ std::bitset<7> weekdayOf(Moment moment)
 {
     const std::chrono::weekday day(std::chrono::floor<std::chrono::days>(moment));
     return std::bitset<7>().set(day.iso_encoding() - 1);
+}
+
+int weekStartOf(const RepeatPattern& pattern, std::bitset<7> weekdays)
+{
+    const int ofLanguage = QLocale().firstDayOfWeek() - Qt::Monday;
+    const bool isOpen = pattern.every == 1
+        || (isAsFromMonday(pattern.weekStart, weekdays) && isAsFromMonday(ofLanguage, weekdays));
+    return isOpen ? ofLanguage : pattern.weekStart;
 }
 
 } // namespace
@@ -18,6 +28,7 @@ RepeatInput RepeatInput::of(const RepeatPattern& pattern, Moment due)
     input.unit = pattern.unit;
     input.every = pattern.every;
     input.weekdays = pattern.weekdays.any() ? pattern.weekdays : weekdayOf(due);
+    input.weekStart = weekStartOf(pattern, input.weekdays | weekdayOf(due));
     input.monthDay = pattern.monthDay;
     input.end = pattern.until ? End::Date : pattern.times ? End::Times : End::Never;
     input.lastDay = pattern.until.value_or(dayOf(due + AYear));
@@ -44,6 +55,7 @@ RepeatPattern RepeatInput::pattern(Moment due) const
     // That of the due moment is left out, so that it follows the due moment.
     if (unit == RepeatPattern::Unit::Weeks && weekdays != weekdayOf(due)) {
         pattern.weekdays = weekdays;
+        pattern.weekStart = every > 1 ? weekStart : 0;
     }
     if (unit == RepeatPattern::Unit::Months) {
         pattern.monthDay = monthDay;

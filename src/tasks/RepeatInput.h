@@ -21,12 +21,14 @@ struct RepeatInput {
     RepeatPattern::Unit unit = RepeatPattern::Unit::Weeks;
     int every = 1;
     std::bitset<7> weekdays; ///< Monday first; count for weeks only
+    int weekStart = 0; ///< as in RepeatPattern
     RepeatPattern::MonthDay monthDay = RepeatPattern::MonthDay::SameDay; ///< counts for months only
     End end = End::Never;
     std::chrono::year_month_day lastDay{}; ///< counts for `End::Date` only
     int times = 10; ///< counts for `End::Times` only
 
-    /// What says `pattern` for a task that is due then; what the pattern leaves open is proposed.
+    /// What says `pattern` for a task that is due then; what the pattern leaves open is proposed. Weeks begin
+    /// as in the language, unless the pattern would have other days then.
     static RepeatInput of(const RepeatPattern& pattern, Moment due);
 
     /// The first objection to this input, if any.

@@ -7,9 +7,6 @@
 
 // Without a catalogue, as in English, Qt knows of no plural.
 
-namespace
-{
-
 std::bitset<7> workingWeek()
 {
     std::bitset<7> days;
@@ -18,8 +15,6 @@ std::bitset<7> workingWeek()
     }
     return days;
 }
-
-} // namespace
 
 QString RepeatTexts::pattern(const RepeatPattern& pattern, Moment first)
 {
@@ -71,9 +66,11 @@ QString RepeatTexts::weeks(int every, std::bitset<7> weekdays)
         return tr("every weekday");
     }
     QStringList names;
-    for (int day = Qt::Monday; day <= Qt::Sunday; ++day) {
-        if (weekdays[static_cast<std::size_t>(day - Qt::Monday)]) {
-            names.append(QLocale().dayName(day));
+    const int first = QLocale().firstDayOfWeek() - Qt::Monday;
+    for (int place = 0; place < Qt::Sunday; ++place) {
+        const int day = (first + place) % Qt::Sunday;
+        if (weekdays[static_cast<std::size_t>(day)]) {
+            names.append(QLocale().dayName(day + Qt::Monday));
         }
     }
     //: %1 is a weekday or several: "Monday and Thursday"

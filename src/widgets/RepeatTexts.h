@@ -25,5 +25,7 @@ private:
     static QString nthWeekday(int every, Moment first);
 };
 
+/// The days on which people work where the language is spoken, Monday first.
+std::bitset<7> workingWeek();
 /// The rule in words: "every 2 weeks on Monday and Thursday until 12/24/2026".
 QString repeatText(const std::string& rule, Moment first);

@@ -117,6 +117,13 @@ void RepeatPatternTest::rulesAsTheyAreWritten()
     };
     QCOMPARE(rule({.unit = Unit::Days, .every = 3}, "2026-01-13"), QStringLiteral("FREQ=DAILY;INTERVAL=3"));
     QCOMPARE(rule({.weekdays = weekdays({0, 3})}, "2026-01-13"), QStringLiteral("FREQ=WEEKLY;BYDAY=MO,TH"));
+    // Where the beginning of the week decides which days are together.
+    QCOMPARE(rule({.every = 2, .weekdays = weekdays({0, 6}), .weekStart = 6}, "2026-01-18"),
+        QStringLiteral("FREQ=WEEKLY;INTERVAL=2;BYDAY=MO,SU;WKST=SU"));
+    QCOMPARE(rule({.every = 2, .weekdays = weekdays({0, 3}), .weekStart = 6}, "2026-01-12"),
+        QStringLiteral("FREQ=WEEKLY;INTERVAL=2;BYDAY=MO,TH"));
+    QCOMPARE(rule({.every = 1, .weekdays = weekdays({0, 6}), .weekStart = 6}, "2026-01-18"),
+        QStringLiteral("FREQ=WEEKLY;BYDAY=MO,SU"));
     QCOMPARE(rule({.times = 10}, "2026-01-13"), QStringLiteral("FREQ=WEEKLY;COUNT=10"));
     QCOMPARE(rule({.until = year(2026) / 12 / 24}, "2026-01-13"),
         QStringLiteral("FREQ=WEEKLY;UNTIL=20261224T235959"));
@@ -190,6 +197,11 @@ void RepeatPatternTest::formsOfOtherPrograms_data()
         {.every = 2, .weekdays = weekdays({1, 3})});
     row("FREQ=WEEKLY;INTERVAL=2;WKST=SU;BYDAY=SU", "2026-01-18", {.every = 2, .weekdays = weekdays({6})});
     row("FREQ=WEEKLY;INTERVAL=2;WKST=SU", "2026-01-18", {.every = 2});
+    row("FREQ=WEEKLY;INTERVAL=2;BYDAY=TU,SU;WKST=SU", "1997-08-05",
+        {.every = 2, .weekdays = weekdays({1, 6}), .weekStart = 6});
+    row("FREQ=WEEKLY;INTERVAL=2;BYDAY=SU;WKST=SU", "2026-01-13",
+        {.every = 2, .weekdays = weekdays({6}), .weekStart = 6});
+    row("FREQ=WEEKLY;BYDAY=TU,SU;WKST=SU", "1997-08-05", {.weekdays = weekdays({1, 6})});
     row("FREQ=MONTHLY;BYMONTHDAY=15", "2026-01-15", Monthly);
     row("FREQ=MONTHLY;INTERVAL=1", "2026-01-28", Monthly);
     row("FREQ=MONTHLY;BYMONTHDAY=30,28,29;BYSETPOS=-1", "2026-01-30", Monthly);
@@ -235,8 +247,6 @@ void RepeatPatternTest::whatNoPatternSays_data()
     row("FREQ=DAILY;INTERVAL=2;BYDAY=MO", "2026-01-13");
     row("FREQ=DAILY;BYMONTH=1", "2026-01-13");
     row("FREQ=DAILY;BYMONTHDAY=1", "2026-01-13");
-    row("FREQ=WEEKLY;INTERVAL=2;BYDAY=TU,SU;WKST=SU", "1997-08-05");
-    row("FREQ=WEEKLY;INTERVAL=2;BYDAY=SU;WKST=SU", "2026-01-13");
     row("FREQ=WEEKLY;BYDAY=MO,TU;BYSETPOS=1", "2026-01-13");
     row("FREQ=WEEKLY;BYMONTH=1", "2026-01-13");
     row("FREQ=MONTHLY", "2026-01-29");

@@ -64,8 +64,11 @@ class KeyboardCase(DesktopCase):
         self.assertFalse([node for node in combo.all("list") if node.has("showing")], "the list stays closed")
 
     def answer_yes(self, question):
+        self.answer(question, "y")
+
+    def answer(self, question, letter):
         box = self.user.access.message_box(question)
-        self.alt("y")
+        self.alt(letter)
         wait_until(lambda: box not in self.user.access.windows(), "the question closes")
         self.user.wait_active(names.MAIN)
 
@@ -112,7 +115,7 @@ class KeyboardCase(DesktopCase):
         self.user.wait_hidden(names.CATEGORY_DIALOG)
         self.user.wait_active(names.MAIN)
 
-    def add_task(self, name, due, category=CATEGORY):
+    def add_task(self, name, due, category=CATEGORY, repeat=None):
         """With a reminder at its due moment of this day."""
         self.alt("1")
         self.user.main().find("grid", "Tasks")
@@ -129,6 +132,8 @@ class KeyboardCase(DesktopCase):
         self.alt("e")
         wait_until(lambda: dialog.find(*names.REMINDER_ON).checked, "the reminder is on")
         wait_until(lambda: dialog.find(*names.REMINDER_TIME).text == due, "it starts at the due moment")
+        if repeat:
+            self.choose("k", dialog, names.TASK_REPEAT, repeat)
         self.alt("o")
         self.user.wait_hidden(names.TASK_DIALOG)
         self.user.wait_active(names.MAIN)

@@ -2,13 +2,17 @@
 
 #include "app/frmMain.h"
 #include "categories/frmCategoryDetails.h"
+#include "reminders/AlertListModel.h"
 #include "reminders/frmAlerts.h"
+#include "support/ContextMenu.h"
 #include "tasks/frmTaskDetails.h"
+#include "widgets/ComboBox.h"
 #include "widgets/Combos.h"
 #include "widgets/GridView.h"
 #include "widgets/Pickers.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateEdit>
@@ -116,6 +120,17 @@ QList<qint32> RunningProgram::listed()
     return ids;
 }
 
+QHash<qint32, QString> RunningProgram::listedTexts()
+{
+    QHash<qint32, QString> texts;
+    const QAbstractItemModel& model = *control<GridView>(m_program->alerts(), "grdTasks")->model();
+    for (int row = 0; row < model.rowCount(); ++row) {
+        texts.insert(model.index(row, IdColumn).data().toInt(),
+            model.index(row, AlertListModel::Name).data().toString());
+    }
+    return texts;
+}
+
 bool RunningProgram::selectListed(qint32 id)
 {
     auto* grid = control<GridView>(m_program->alerts(), "grdTasks");
@@ -169,6 +184,9 @@ void RunningProgram::fillAndConfirm(const TaskEntry& entry)
     selectNumber(*control<QComboBox>(dialog, "cmbPeriorities"), entry.periority);
     setPickers(
         *control<QDateEdit>(dialog, "dtpDueDate"), *control<QTimeEdit>(dialog, "dtpDueTime"), entry.due);
+    if (entry.repeat >= 0) {
+        control<ComboBox>(dialog, "cmbRepeat")->choose(entry.repeat);
+    }
     // The sound and the file can be entered while the reminder is on only.
     check(dialog, "chkEnableReminder", true);
     check(dialog, "chkReminderSound", !entry.sound.isEmpty());
@@ -187,6 +205,30 @@ void RunningProgram::deleteTask(qint32 id)
     selectInMainList(id);
     m_machine.dialogs.expectAsk(QStringLiteral("Are you sure you want to delete this task?"), true);
     press(m_program->mainWindow(), "btnTaskDelete");
+}
+
+void RunningProgram::deleteRepeating(qint32 id, MessageBoxes::Times times)
+{
+    selectInMainList(id);
+    m_machine.dialogs.expectWhichTimes(
+        QStringLiteral("This task repeats. Do you want to delete it this time, or all times?"), times);
+    press(m_program->mainWindow(), "btnTaskDelete");
+}
+
+void RunningProgram::completeTask(qint32 id)
+{
+    selectInMainList(id);
+    control<QAction>(m_program->mainWindow(), "mnuListComplete")->trigger();
+}
+
+void RunningProgram::completeListed(qint32 id)
+{
+    require(selectListed(id), "the alert lists the task");
+    const ContextMenu menu(*control<GridView>(m_program->alerts(), "grdTasks"), "mnuAlert");
+    QAction* complete = menu.entry("mnuAlertComplete");
+    complete->trigger();
+    // An open menu would keep the lists as they are.
+    QApplication::activePopupWidget()->close();
 }
 
 void RunningProgram::dismiss(qint32 id)

@@ -3,6 +3,7 @@
 #include "app/RecordedMachine.h"
 
 #include <QDate>
+#include <QHash>
 #include <QMap>
 #include <QString>
 #include <chrono>
@@ -22,10 +23,12 @@ struct TaskEntry {
     Moment reminder{};
     QString sound; ///< unchecked when empty
     QString file; ///< unchecked when empty
+    int repeat = -1; ///< of the list of repeats; negative to leave it as it is
 };
 
 /// The whole program on a machine that only remembers, worked by a user's hands: every action goes through
-/// the windows. The program can be ended, killed and started again on the same data file.
+/// the windows. The program can be ended, killed and started again on the
+/// same data file.
 class RunningProgram
 {
 public:
@@ -53,6 +56,8 @@ public:
     QString alertCaption();
     /// The ids of the tasks that the alert lists, from the top.
     QList<qint32> listed();
+    /// What the alert lists of each, by their ids: the name, and behind it how often it has come.
+    QHash<qint32, QString> listedTexts();
     /// Selects a listed task; false when it is not listed.
     bool selectListed(qint32 id);
 
@@ -62,6 +67,12 @@ public:
     /// From the alert window, which is to list the task.
     void editListedTask(qint32 id, const TaskEntry& entry);
     void deleteTask(qint32 id);
+    /// A task that repeats, this time or all times.
+    void deleteRepeating(qint32 id, MessageBoxes::Times times);
+    /// Completes a task from the list of the main window, which is to show the task.
+    void completeTask(qint32 id);
+    /// From the menu of the alert window.
+    void completeListed(qint32 id);
     void dismiss(qint32 id);
     void dismissAll();
     void remindLater(qint32 id, Moment moment);

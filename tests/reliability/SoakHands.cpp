@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QRegularExpression>
 #include <algorithm>
 #include <cstdio>
 #include <unistd.h>
@@ -32,6 +33,27 @@ void startAfresh(RunningProgram& program)
 {
     program.start();
     program.showAllDates();
+}
+
+/// The last tick has counted how often the listed ones have come.
+QString complaintAboutTimes(RunningProgram& program, const SoakWorld& world)
+{
+    static const QRegularExpression number(QStringLiteral(R"( \((\d+) times since [^(]*\)$)"));
+    if (!world.hasJustTicked()) {
+        return {};
+    }
+    const QHash<qint32, QString> texts = program.listedTexts();
+    for (auto text = texts.begin(); text != texts.end(); ++text) {
+        const auto match = number.match(text.value());
+        const int times = match.hasMatch() ? match.captured(1).toInt() : 1;
+        if (const int expected = world.timesOf(text.key()); times != expected) {
+            return QStringLiteral("the reminder of task %1 has come %2 times, not %3")
+                .arg(text.key())
+                .arg(times)
+                .arg(expected);
+        }
+    }
+    return {};
 }
 
 } // namespace
@@ -65,7 +87,15 @@ void perform(
         program.editListedTask(step.task, step.entry);
         break;
     case Kind::DeleteTask:
-        program.deleteTask(step.task);
+        if (outcome.asksWhichTimes) {
+            program.deleteRepeating(
+                step.task, step.thisTime ? MessageBoxes::Times::This : MessageBoxes::Times::All);
+        } else {
+            program.deleteTask(step.task);
+        }
+        break;
+    case Kind::Complete:
+        program.completeTask(step.task);
         break;
     case Kind::Dismiss:
         program.dismiss(step.task);
@@ -140,6 +170,9 @@ QString complaintAbout(RunningProgram& program, const SoakWorld& world, const So
     }
     if (program.isAlertVisible() != world.isAlertVisible()) {
         return QStringLiteral("the alert is shown, or hidden, against the prediction");
+    }
+    if (const QString complaint = complaintAboutTimes(program, world); !complaint.isEmpty()) {
+        return complaint;
     }
     return program.machine().dialogs.allUsed() ? QString() : QStringLiteral("a box was not shown");
 }

@@ -42,11 +42,11 @@ struct Weighed {
 };
 
 /// How often what happens.
-constexpr std::array<Weighed, 18> Weights{
-    {{Kind::Pass, 34}, {Kind::Jump, 3}, {Kind::AddTask, 20}, {Kind::EditTask, 8}, {Kind::EditListed, 4},
-        {Kind::DeleteTask, 5}, {Kind::Dismiss, 8}, {Kind::DismissAll, 1}, {Kind::RemindLater, 6},
-        {Kind::BulkDelete, 1}, {Kind::AddCategory, 2}, {Kind::EditCategory, 1}, {Kind::DeleteCategory, 1},
-        {Kind::Backup, 1}, {Kind::Restore, 1}, {Kind::Settings, 2}, {Kind::Restart, 1}, {Kind::Kill, 1}}};
+constexpr std::array<Weighed, 19> Weights{{{Kind::Pass, 34}, {Kind::Jump, 3}, {Kind::AddTask, 20},
+    {Kind::EditTask, 8}, {Kind::EditListed, 4}, {Kind::DeleteTask, 5}, {Kind::Complete, 4},
+    {Kind::Dismiss, 8}, {Kind::DismissAll, 1}, {Kind::RemindLater, 6}, {Kind::BulkDelete, 1},
+    {Kind::AddCategory, 2}, {Kind::EditCategory, 1}, {Kind::DeleteCategory, 1}, {Kind::Backup, 1},
+    {Kind::Restore, 1}, {Kind::Settings, 2}, {Kind::Restart, 1}, {Kind::Kill, 1}}};
 
 Kind anyKind(std::mt19937& chance)
 {
@@ -69,7 +69,7 @@ Kind anyKind(std::mt19937& chance)
 QString Step::text() const
 {
     constexpr std::array Names{"pass", "jump", "add task", "edit task", "edit listed task", "delete task",
-        "dismiss", "dismiss all", "remind later", "bulk delete", "add category", "edit category",
+        "complete", "dismiss", "dismiss all", "remind later", "bulk delete", "add category", "edit category",
         "delete category", "backup", "restore", "settings", "restart", "kill"};
     return QStringLiteral("%1 (count %2, seconds %3, task %4, category %5)")
         .arg(QLatin1String(Names[static_cast<std::size_t>(kind)]))
@@ -97,11 +97,17 @@ TaskEntry SoakWorld::anyEntry(std::mt19937& chance, qint16 category) const
     if (below(chance, 4) == 0) {
         entry.file = QStringLiteral("%1.sh").arg(below(chance, 1'000'000));
     }
+    // Often as it is, otherwise never or one of the first: each day, weekday, week or second week.
+    entry.repeat = below(chance, 2) == 0 ? -1 : below(chance, 5);
     return entry;
 }
 
 qint32 SoakWorld::anyTask(std::mt19937& chance) const
 {
+    // Few of them repeat.
+    if (!m_rows.repeats.empty() && below(chance, 2) == 0) {
+        return anyKey(chance, m_rows.repeats);
+    }
     return anyKey(chance, m_rows.tasks);
 }
 
@@ -160,7 +166,7 @@ Step SoakWorld::plan(std::mt19937& chance) const
     case Kind::Pass:
         return passInstead();
     case Kind::Jump: {
-        constexpr std::array<std::chrono::seconds, 5> Jumps{1h, -1h, 8h, 30min, -30min};
+        constexpr std::array<std::chrono::seconds, 7> Jumps{1h, -1h, 8h, 30min, -30min, 36h, -26h};
         step.seconds = Jumps[static_cast<std::size_t>(below(chance, Jumps.size()))];
         return step;
     }
@@ -187,6 +193,13 @@ Step SoakWorld::plan(std::mt19937& chance) const
         return step;
     }
     case Kind::DeleteTask:
+        if (!hasTasks) {
+            return passInstead();
+        }
+        step.task = anyTask(chance);
+        step.thisTime = m_rows.repeats.count(step.task) > 0 && below(chance, 3) > 0;
+        return step;
+    case Kind::Complete:
         if (!hasTasks) {
             return passInstead();
         }

@@ -30,6 +30,16 @@ struct TaskRow {
     bool operator==(const TaskRow&) const = default;
 };
 
+/// How a task repeats.
+struct RepeatRow {
+    QString rule;
+    QString first;
+    int lead = 0; ///< in minutes
+    int done = 0;
+
+    bool operator==(const RepeatRow&) const = default;
+};
+
 struct CategoryRow {
     QString name;
     QString description;
@@ -41,6 +51,7 @@ struct CategoryRow {
 /// All rows of a data file, and the ids that come next.
 struct DataRows {
     std::map<qint32, TaskRow> tasks;
+    std::map<qint32, RepeatRow> repeats; ///< of tasks that are there
     std::map<qint16, CategoryRow> categories;
     QStringList settings;
     qint32 lastTask = 0;
@@ -63,6 +74,7 @@ struct Step {
         EditTask,
         EditListed,
         DeleteTask,
+        Complete,
         Dismiss,
         DismissAll,
         RemindLater,
@@ -80,6 +92,7 @@ struct Step {
     int count = 0;
     std::chrono::seconds seconds{};
     qint32 task = 0;
+    bool thisTime = false; ///< that a task is deleted which repeats
     qint16 category = 0;
     TaskEntry entry;
     Moment moment{};
@@ -104,6 +117,10 @@ public:
     /// What the alert window lists.
     std::vector<qint32> listed() const;
     bool isAlertVisible() const { return m_alertVisible; }
+    /// Whether the last step ended with a tick.
+    bool hasJustTicked() const { return m_ticked == m_now; }
+    /// How often the reminder of a task that is listed had come at the last tick.
+    int timesOf(qint32 id) const;
     void addBackup(const QString& slot, DataRows rows) { m_backups[slot] = std::move(rows); }
     void removeBackup(const QString& slot) { m_backups.erase(slot); }
     const std::map<QString, DataRows>& backups() const { return m_backups; }
@@ -112,6 +129,8 @@ public:
     {
         m_rows = std::move(rows);
         m_now = now;
+        m_lastRung.clear();
+        m_putOff.clear();
     }
 
     /// What the user does next; depends on this world and on chance alone.
@@ -125,14 +144,18 @@ public:
         QStringList started; ///< sorted
         std::vector<DataRows> between; ///< what the data file holds in the course of it, the end not included
         qint32 deleted = 0; ///< of a bulk delete
+        bool asksWhichTimes = false; ///< before a task is deleted
     };
     /// Does the step. `keepsBetween` costs copies of all rows.
     Outcome apply(const Step& step, bool keepsBetween = false);
     /// The program starts, and looks for reminders at once.
     Outcome start(bool keepsBetween = false);
 
-    /// How many reminders sounded more than once for the same moment while the program ran without a kill.
+    /// How many reminders sounded more than once for the same moment while the program ran without a kill, or
+    /// for an earlier time of a task that repeats than before.
     int doubled() const { return m_doubled; }
+    /// How often a task has gone on to a later time.
+    int movedOn() const { return m_movedOn; }
 
 private:
     void commit(Outcome& outcome, bool keepsBetween) const;
@@ -145,6 +168,12 @@ private:
     TaskEntry anyEntry(std::mt19937& chance, qint16 category) const;
     qint32 anyTask(std::mt19937& chance) const;
     qint16 anyCategory(std::mt19937& chance) const;
+    void saveRepeat(qint32 id, const TaskEntry& entry, const TaskRow* before);
+    /// These two tell whether the task was moved on.
+    bool complete(qint32 id);
+    bool dismissRepeating(qint32 id);
+    void removeRepeatsOfNone();
+    void countRung(qint32 id, const QString& reminder);
     TaskRow rowOf(const TaskEntry& entry) const;
 
     DataRows m_rows;
@@ -154,5 +183,9 @@ private:
     bool m_alertVisible = false;
     std::map<qint32, QString> m_fired; ///< sounded, but not marked
     std::map<qint32, QString> m_soundedSinceStart;
+    std::map<qint32, QString> m_lastRung; ///< of tasks that repeat
+    std::set<qint32> m_putOff;
+    Moment m_ticked{};
     int m_doubled = 0;
+    int m_movedOn = 0;
 };

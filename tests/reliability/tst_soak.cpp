@@ -48,6 +48,7 @@ struct Figures {
     int comparisons = 0;
     int sounds = 0;
     std::size_t mostTasks = 0;
+    std::size_t mostRepeating = 0;
 };
 
 /// One run.
@@ -101,6 +102,13 @@ void Soak::populate()
         "10:00:00','+'||(i*20)||' "
         "minutes'), i%3, i%3=0, datetime('2026-01-15 10:05:00','+'||(i*20)||' minutes'), 'p'||i||'.wav' from "
         "n"));
+    // Some of them repeat.
+    m_program.database().sql(QStringLiteral(
+        "insert into repeats(of_task,rule,first_moment,lead) select task_id,case task_id/30%5 when 0 then "
+        "'FREQ=DAILY' when 1 then 'FREQ=DAILY;INTERVAL=3' when 2 then 'FREQ=WEEKLY;BYDAY=MO,TU,WE,TH,FR' "
+        "when "
+        "3 then 'FREQ=WEEKLY' else 'FREQ=DAILY;COUNT=9' end, task_due_date, -5 from tasks where "
+        "task_id%30=0"));
 }
 
 QString Soak::run()
@@ -136,6 +144,7 @@ void Soak::measure()
     m_megabytes = residentMegabytes();
     m_files = openFiles();
     m_figures.mostTasks = std::max(m_figures.mostTasks, m_world->rows().tasks.size());
+    m_figures.mostRepeating = std::max(m_figures.mostRepeating, m_world->rows().repeats.size());
 }
 
 QString Soak::compare()
@@ -273,6 +282,9 @@ QString Soak::summary() const
                .arg(m_figures.comparisons)
                .arg(m_figures.sounds)
                .arg(m_figures.mostTasks)
+        + QStringLiteral(", of which %1 repeat, which have moved on %2 times")
+              .arg(m_figures.mostRepeating)
+              .arg(m_world->movedOn())
         + QStringLiteral("; %1 MiB, %2 before; %3 open files, %4 before")
               .arg(m_megabytes)
               .arg(m_warmMegabytes)

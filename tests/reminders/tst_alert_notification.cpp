@@ -1,5 +1,4 @@
 #include "AlertsFixture.h"
-#include "data/TaskCodes.h"
 #include "support/TestMain.h"
 
 #include <QSignalSpy>
@@ -108,15 +107,6 @@ private slots:
         QCOMPARE(offers,
             QStringList({QStringLiteral("default=Open"), QStringLiteral("open=Open"),
                 QStringLiteral("later=Later (15 minutes)"), QStringLiteral("dismiss=Dismiss")}));
-    }
-
-    void aTaskOfHighPriorityIsUrgent()
-    {
-        OneTold alerts;
-        QVERIFY(!alerts.told.constLast().isUrgent);
-        alerts.aDueTask(QStringLiteral("b")).withPeriority(TaskPeriority::High).add();
-        alerts.tick();
-        QVERIFY(alerts.told.constLast().isUrgent);
     }
 
     void openShowsTheWindowAndTheTask_data()

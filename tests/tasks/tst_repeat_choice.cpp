@@ -2,8 +2,6 @@
 #include "tasks/RepeatChoices.h"
 #include "tasks/RepeatInput.h"
 
-#include <QLocale>
-#include <QScopeGuard>
 #include <QTest>
 
 using namespace std::chrono_literals;
@@ -57,7 +55,6 @@ private slots:
     void theUsualWaysAreOfferedAndNeverIsChosen();
     void everyEntrySaysItsOwnRule();
     void theNthWeekdayIsNamedAndFollowsTheDueMoment();
-    void weekdaysAreTheWorkingWeekOfTheLanguage();
     void aChosenEntryFollowsTheDueMoment();
     void anUnusualPatternIsAnEntryOfItsOwnUntilAnotherIs();
     void aStoredRuleIsChosenAsItIs();
@@ -117,18 +114,6 @@ void TestRepeatChoice::theNthWeekdayIsNamedAndFollowsTheDueMoment()
     const RepeatChoices::Entry after = entryOf(choices, NthWeekday);
     QCOMPARE(after.caption, QStringLiteral("Every month on the third Wednesday"));
     QVERIFY(after.rule != before.rule);
-}
-
-void TestRepeatChoice::weekdaysAreTheWorkingWeekOfTheLanguage()
-{
-    const QLocale before;
-    const auto restore = qScopeGuard([before] { QLocale::setDefault(before); });
-    QLocale::setDefault(QLocale(QLocale::Arabic, QLocale::Egypt));
-    const std::string rule = entryOf(choicesFor(Tuesday), Weekday).rule;
-    const auto pattern = patternOf(rule, Tuesday);
-    QVERIFY(pattern);
-    // From Sunday to Thursday.
-    QCOMPARE(pattern->weekdays, std::bitset<7>("1001111"));
 }
 
 void TestRepeatChoice::aChosenEntryFollowsTheDueMoment()

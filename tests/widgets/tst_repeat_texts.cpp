@@ -15,6 +15,7 @@ private slots:
     void rulesInWords();
     void theWorkingWeekIsThatOfTheSystem();
     void namesFollowTheSystem();
+    void weekdaysAreNamedFromTheFirstOneOfTheWeekOn();
 };
 
 namespace
@@ -90,6 +91,17 @@ void RepeatTextsTest::namesFollowTheSystem()
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     QCOMPARE(textOf("FREQ=WEEKLY;BYDAY=MO,TH;UNTIL=20261224", "2026-01-12"),
         QStringLiteral("every week on Montag und Donnerstag until 24.12.2026"));
+}
+
+void RepeatTextsTest::weekdaysAreNamedFromTheFirstOneOfTheWeekOn()
+{
+    const auto text = [](QLocale::Country country) {
+        QLocale::setDefault(QLocale(QLocale::English, country));
+        return textOf("FREQ=WEEKLY;BYDAY=MO,SU", "2026-01-12");
+    };
+    QCOMPARE(text(QLocale::Israel), QStringLiteral("every week on Sunday and Monday"));
+    QCOMPARE(text(QLocale::UnitedStates), QStringLiteral("every week on Sunday and Monday"));
+    QCOMPARE(text(QLocale::Germany), QStringLiteral("every week on Monday and Sunday"));
 }
 
 AMBERTASK_TEST_MAIN(RepeatTextsTest)

@@ -17,7 +17,8 @@ constexpr char Path[] = "/org/freedesktop/Notifications";
 constexpr int LongestWait = 5000;
 constexpr char ActivationToken[] = "XDG_ACTIVATION_TOKEN";
 
-enum Urgency : uchar { Normal = 1, Critical = 2 };
+/// GNOME takes any other urgency off the screen after seconds.
+constexpr uchar Critical = 2;
 
 QDBusMessage call(const char* method, const QVariantList& arguments = {})
 {
@@ -131,8 +132,7 @@ void DesktopNotifications::hand(const Notification& notification, const QStringL
         actions << action.key << action.caption;
     }
     const bool readsMarkup = capabilities.contains(QLatin1String("body-markup"));
-    const QVariantMap hints{
-        {QStringLiteral("urgency"), QVariant::fromValue<uchar>(notification.isUrgent ? Critical : Normal)},
+    const QVariantMap hints{{QStringLiteral("urgency"), QVariant::fromValue(Critical)},
         {QStringLiteral("desktop-entry"), QGuiApplication::desktopFileName()},
         // Reminders have sounds of their own.
         {QStringLiteral("suppress-sound"), true}};
