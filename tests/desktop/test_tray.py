@@ -366,6 +366,7 @@ class NotifierAreaTest(TrayCase):
         self.store.add_task("Due", reminder=datetime(2020, 1, 1, 9, 0))
         self.user.alert(1)
         wait_until(lambda: self.area.tip() == names.TRAY_TIP + "\n1 due, 1 overdue", "the tool tip says so")
+        self.assertEqual(self.area.notifications, [], "the alert window comes up by itself here")
         holds_for(lambda: not self.has_badge(), "no badge while the alert is in front", 1)
         self.user.window(names.alert_title(1)).close()
         wait_until(self.has_badge, "the icon wears a badge")

@@ -1,14 +1,10 @@
-#include "system/Notifications.h"
+#include "system/linux/DesktopNotifications.h"
 
 #include "system/ProgramFolder.h"
 
-#include <QDBusConnection>
-#include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 #include <QGuiApplication>
 #include <QVariantMap>
-#include <optional>
 #include <utility>
 
 namespace
@@ -32,166 +28,149 @@ QDBusMessage call(const char* method, const QVariantList& arguments = {})
     return message;
 }
 
-/// The notification service of the desktop, as the Desktop Notifications Specification describes it.
-class DesktopNotifications final : public Notifications
-{
-    Q_OBJECT
-
-public:
-    DesktopNotifications()
-    {
-        listen("ActionInvoked", SLOT(onActionInvoked(uint, QString)));
-        listen("ActivationToken", SLOT(onActivationToken(uint, QString)));
-        listen("NotificationClosed", SLOT(onClosed(uint, uint)));
-    }
-
-    ~DesktopNotifications() override
-    {
-        if (m_id != 0) {
-            // Answered before the process ends: what is only on its way would be lost.
-            m_bus.call(call("CloseNotification", {m_id}), QDBus::Block, LongestWait / 10);
-        }
-    }
-
-    void show(const Notification& notification) override
-    {
-        m_wanted = notification;
-        m_isWithdrawn = false;
-        if (std::exchange(m_isBusy, true)) {
-            return;
-        }
-        // Without a bus no call would ever be answered.
-        if (m_bus.isConnected()) {
-            askForCapabilities();
-        } else {
-            QMetaObject::invokeMethod(this, &DesktopNotifications::giveUp, Qt::QueuedConnection);
-        }
-    }
-
-    void withdraw() override
-    {
-        m_wanted.reset();
-        m_isWithdrawn = true;
-        if (m_id != 0) {
-            m_bus.asyncCall(call("CloseNotification", {std::exchange(m_id, 0)}));
-        }
-    }
-
-private slots:
-    void onActionInvoked(uint id, const QString& key)
-    {
-        if (id == m_id && m_id != 0) {
-            emit chosen(key);
-        }
-        // For the one window that the user has asked for, not for those and for programs that come later.
-        qunsetenv(ActivationToken);
-    }
-
-    void onActivationToken(uint id, const QString& token)
-    {
-        if (id == m_id && m_id != 0) {
-            // Where Qt looks for it.
-            qputenv(ActivationToken, token.toUtf8());
-        }
-    }
-
-    void onClosed(uint id, uint /*reason*/)
-    {
-        if (id == m_id && m_id != 0) {
-            m_id = 0;
-            emit closed();
-        }
-    }
-
-private:
-    void listen(const char* signal, const char* slot)
-    {
-        m_bus.connect(QLatin1String(Service), QLatin1String(Path), QLatin1String(Service),
-            QLatin1String(signal), this, slot);
-    }
-
-    template <typename Handler> void ask(const QDBusMessage& message, Handler handle)
-    {
-        auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(message, LongestWait), this);
-        connect(watcher, &QDBusPendingCallWatcher::finished, this, [watcher, handle] {
-            watcher->deleteLater();
-            handle(*watcher);
-        });
-    }
-
-    // Each time: another server may have taken the place of the last one.
-    void askForCapabilities()
-    {
-        ask(call("GetCapabilities"), [this](const QDBusPendingReply<QStringList>& capabilities) {
-            if (capabilities.isError()) {
-                giveUp();
-            } else if (m_wanted) {
-                hand(*std::exchange(m_wanted, std::nullopt), capabilities.value());
-            } else {
-                m_isBusy = false;
-            }
-        });
-    }
-
-    void hand(const Notification& notification, const QStringList& capabilities)
-    {
-        const bool takesAnswers = capabilities.contains(QLatin1String("actions"));
-        QStringList actions;
-        for (const Notification::Action& action : notification.actions) {
-            actions << action.key << action.caption;
-        }
-        const bool readsMarkup = capabilities.contains(QLatin1String("body-markup"));
-        const QVariantMap hints{{QStringLiteral("urgency"), QVariant::fromValue(Critical)},
-            {QStringLiteral("desktop-entry"), QGuiApplication::desktopFileName()},
-            // Reminders have sounds of their own.
-            {QStringLiteral("suppress-sound"), true}};
-        constexpr int NeverExpires = 0;
-        const QDBusMessage message = call("Notify",
-            {QLatin1String(ProductName), m_id, QLatin1String(IconName), notification.title,
-                readsMarkup ? notification.text.toHtmlEscaped() : notification.text,
-                takesAnswers ? actions : QStringList(), hints, NeverExpires});
-        ask(message,
-            [this, takesAnswers](const QDBusPendingReply<uint>& id) { noteShown(id, takesAnswers); });
-    }
-
-    void noteShown(const QDBusPendingReply<uint>& id, bool takesAnswers)
-    {
-        if (id.isError()) {
-            giveUp();
-            return;
-        }
-        m_isBusy = false;
-        m_id = id.value();
-        if (m_wanted) {
-            show(*m_wanted);
-        } else if (m_isWithdrawn) {
-            withdraw();
-        } else if (!takesAnswers) {
-            emit unanswerable();
-        }
-    }
-
-    void giveUp()
-    {
-        m_isBusy = false;
-        m_wanted.reset();
-        if (!m_isWithdrawn) {
-            emit unanswerable();
-        }
-    }
-
-    QDBusConnection m_bus = QDBusConnection::sessionBus();
-    std::optional<Notification> m_wanted; ///< not handed over yet
-    uint m_id = 0; ///< of what is shown; 0 for nothing
-    bool m_isBusy = false; ///< a call is under way
-    bool m_isWithdrawn = false; ///< what is being handed over is not wanted any more
-};
-
 } // namespace
+
+DesktopNotifications::DesktopNotifications()
+{
+    listen("ActionInvoked", SLOT(onActionInvoked(uint, QString)));
+    listen("ActivationToken", SLOT(onActivationToken(uint, QString)));
+    listen("NotificationClosed", SLOT(onClosed(uint, uint)));
+}
+
+DesktopNotifications::~DesktopNotifications()
+{
+    if (m_id != 0) {
+        // Answered before the process ends: what is only on its way would be lost.
+        m_bus.call(call("CloseNotification", {m_id}), QDBus::Block, LongestWait / 10);
+    }
+}
+
+void DesktopNotifications::show(const Notification& notification)
+{
+    m_wanted = notification;
+    m_isWithdrawn = false;
+    if (std::exchange(m_isBusy, true)) {
+        return;
+    }
+    // Without a bus no call would ever be answered.
+    if (m_bus.isConnected()) {
+        askForCapabilities();
+    } else {
+        QMetaObject::invokeMethod(this, &DesktopNotifications::giveUp, Qt::QueuedConnection);
+    }
+}
+
+void DesktopNotifications::withdraw()
+{
+    m_wanted.reset();
+    m_isWithdrawn = true;
+    if (m_id != 0) {
+        m_bus.asyncCall(call("CloseNotification", {std::exchange(m_id, 0)}));
+    }
+}
+
+void DesktopNotifications::onActionInvoked(uint id, const QString& key)
+{
+    if (id == m_id && m_id != 0) {
+        emit chosen(key);
+    }
+    // For the one window that the user has asked for, not for those and for programs that come later.
+    qunsetenv(ActivationToken);
+}
+
+void DesktopNotifications::onActivationToken(uint id, const QString& token)
+{
+    if (id == m_id && m_id != 0) {
+        // Where Qt looks for it.
+        qputenv(ActivationToken, token.toUtf8());
+    }
+}
+
+void DesktopNotifications::onClosed(uint id, uint /*reason*/)
+{
+    if (id == m_id && m_id != 0) {
+        m_id = 0;
+        emit closed();
+    }
+}
+
+void DesktopNotifications::listen(const char* signal, const char* slot)
+{
+    m_bus.connect(QLatin1String(Service), QLatin1String(Path), QLatin1String(Service), QLatin1String(signal),
+        this, slot);
+}
+
+void DesktopNotifications::ask(
+    const QDBusMessage& message, const std::function<void(const QDBusPendingCall&)>& handle)
+{
+    auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(message, LongestWait), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [watcher, handle] {
+        watcher->deleteLater();
+        handle(*watcher);
+    });
+}
+
+// Each time: another server may have taken the place of the last one.
+void DesktopNotifications::askForCapabilities()
+{
+    ask(call("GetCapabilities"), [this](const QDBusPendingReply<QStringList>& capabilities) {
+        if (capabilities.isError()) {
+            giveUp();
+        } else if (m_wanted) {
+            hand(*std::exchange(m_wanted, std::nullopt), capabilities.value());
+        } else {
+            m_isBusy = false;
+        }
+    });
+}
+
+void DesktopNotifications::hand(const Notification& notification, const QStringList& capabilities)
+{
+    const bool takesAnswers = capabilities.contains(QLatin1String("actions"));
+    QStringList actions;
+    for (const Notification::Action& action : notification.actions) {
+        actions << action.key << action.caption;
+    }
+    const bool readsMarkup = capabilities.contains(QLatin1String("body-markup"));
+    const QVariantMap hints{{QStringLiteral("urgency"), QVariant::fromValue(Critical)},
+        {QStringLiteral("desktop-entry"), QGuiApplication::desktopFileName()},
+        // Reminders have sounds of their own.
+        {QStringLiteral("suppress-sound"), true}};
+    constexpr int NeverExpires = 0;
+    const QDBusMessage message = call("Notify",
+        {QLatin1String(ProductName), m_id, QLatin1String(IconName), notification.title,
+            readsMarkup ? notification.text.toHtmlEscaped() : notification.text,
+            takesAnswers ? actions : QStringList(), hints, NeverExpires});
+    ask(message, [this, takesAnswers](const QDBusPendingReply<uint>& id) { noteShown(id, takesAnswers); });
+}
+
+void DesktopNotifications::noteShown(const QDBusPendingReply<uint>& id, bool takesAnswers)
+{
+    if (id.isError()) {
+        giveUp();
+        return;
+    }
+    m_isBusy = false;
+    m_id = id.value();
+    if (m_wanted) {
+        show(*m_wanted);
+    } else if (m_isWithdrawn) {
+        withdraw();
+    } else if (!takesAnswers) {
+        emit unanswerable();
+    }
+}
+
+void DesktopNotifications::giveUp()
+{
+    m_isBusy = false;
+    m_wanted.reset();
+    if (!m_isWithdrawn) {
+        emit unanswerable();
+    }
+}
 
 std::unique_ptr<Notifications> makeNotifications()
 {
     return std::make_unique<DesktopNotifications>();
 }
-
-#include "Notifications.moc"
