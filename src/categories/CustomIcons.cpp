@@ -12,7 +12,7 @@
 namespace
 {
 
-constexpr qsizetype BytesAPixel = 4;
+constexpr qsizetype CostOfAPixel = 4;
 /// Enough for some hundred pictures.
 constexpr qsizetype MostBytes = qsizetype{16} * 1024 * 1024;
 
@@ -80,7 +80,7 @@ QIcon CustomIcons::keep(const QString& path, const QString& key, const QImage& p
 QIcon CustomIcons::remember(const QString& path, const Stamp& stamp, const QIcon& icon) const
 {
     const QSize size = icon.availableSizes().constFirst();
-    m_decoded.insert(path, new Decoded{stamp, icon}, BytesAPixel * size.width() * size.height());
+    m_decoded.insert(path, new Decoded{stamp, icon}, CostOfAPixel * size.width() * size.height());
     return icon;
 }
 

@@ -30,6 +30,13 @@ bool mayBeFreeSoon(DWORD error)
     return error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION || error == ERROR_ACCESS_DENIED;
 }
 
+/// Whether a program has the file open and lets nobody replace it, which the system takes for a lack of
+/// permission.
+bool isHeldOpen(const QString& path)
+{
+    return openExisting(path, DELETE, ShareAll) == nullptr && GetLastError() == ERROR_SHARING_VIOLATION;
+}
+
 } // namespace
 
 bool createFile(QFile& file, QFileDevice::Permissions permissions)
@@ -131,7 +138,7 @@ std::error_code renameOver(const QString& file, const QString& target)
         }
         const DWORD error = GetLastError();
         if (i == MostTries || !mayBeFreeSoon(error)) {
-            return systemError(error);
+            return systemError(isHeldOpen(target) ? DWORD{ERROR_SHARING_VIOLATION} : error);
         }
         Sleep(MillisecondsBetweenTries);
     }
