@@ -1,5 +1,5 @@
-# Where an installation below a prefix puts its files. On Windows and macOS the program stays in one folder.
-if(UNIX AND NOT APPLE)
+# Where an installation below a prefix puts its files. On Windows the program stays in one folder.
+if(NOT WIN32)
   set(AMBERTASK_INSTALLS_TO_PREFIX ON)
   include(GNUInstallDirs)
   # Debian wants the name of the package, in lower case.

@@ -1,3 +1,10 @@
+# Where the sources of this platform are, below each folder that has some.
+if(WIN32)
+  set(AMBERTASK_PLATFORM windows)
+else()
+  set(AMBERTASK_PLATFORM linux)
+endif()
+
 # Flags that every target of the project shares. Link it privately.
 add_library(ambertask_options INTERFACE)
 add_library(ambertask::options ALIAS ambertask_options)
@@ -43,13 +50,15 @@ elseif(MSVC)
 endif()
 
 # One library a folder of src/: ambertask_<name>, alias ambertask::<name>; its headers are reached as <name>/X.h.
-# PRECOMPILED is the header of cmake/precompiled that it takes: core where no window is known, otherwise widgets.
+# PRECOMPILED is the header of cmake/precompiled that it takes: core where no window is known, otherwise widgets. PLATFORM
+# are the sources of which each platform has its own, in linux/ and windows/.
 function(ambertask_library name)
-  cmake_parse_arguments(ARG "" "PRECOMPILED" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
+  cmake_parse_arguments(ARG "" "PRECOMPILED" "SOURCES;PLATFORM;PUBLIC;PRIVATE" ${ARGN})
   if(NOT ARG_PRECOMPILED)
     set(ARG_PRECOMPILED widgets)
   endif()
-  add_library(ambertask_${name} STATIC ${ARG_SOURCES})
+  list(TRANSFORM ARG_PLATFORM PREPEND "${AMBERTASK_PLATFORM}/")
+  add_library(ambertask_${name} STATIC ${ARG_SOURCES} ${ARG_PLATFORM})
   add_library(ambertask::${name} ALIAS ambertask_${name})
   target_include_directories(ambertask_${name} PUBLIC "${PROJECT_SOURCE_DIR}/src")
   target_link_libraries(
@@ -58,6 +67,10 @@ function(ambertask_library name)
     PRIVATE ambertask::options ${ARG_PRIVATE})
   set_target_properties(ambertask_${name} PROPERTIES POSITION_INDEPENDENT_CODE ON
                         UNITY_BUILD ${AMBERTASK_UNITY} UNITY_BUILD_BATCH_SIZE 8)
+  if(WIN32 AND ARG_PLATFORM)
+    # The headers of Windows would come over their neighbours.
+    set_source_files_properties(${ARG_PLATFORM} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
+  endif()
   ambertask_precompile(ambertask_${name} ${ARG_PRECOMPILED})
 endfunction()
 

@@ -1146,6 +1146,10 @@
         <source>the disk failed or was taken out</source>
         <translation>تعطّل القرص أو أُزيل</translation>
     </message>
+    <message>
+        <source>another program is using it</source>
+        <translation>يستخدمه برنامج آخر</translation>
+    </message>
 </context>
 <context>
     <name>FileExchange</name>

@@ -1038,6 +1038,10 @@
         <source>the disk failed or was taken out</source>
         <translation>der Datenträger ist defekt oder wurde entfernt</translation>
     </message>
+    <message>
+        <source>another program is using it</source>
+        <translation>ein anderes Programm verwendet sie</translation>
+    </message>
 </context>
 <context>
     <name>FileExchange</name>

@@ -1038,6 +1038,10 @@
         <source>the disk failed or was taken out</source>
         <translation>el disco ha fallado o se ha retirado</translation>
     </message>
+    <message>
+        <source>another program is using it</source>
+        <translation>otro programa lo está usando</translation>
+    </message>
 </context>
 <context>
     <name>FileExchange</name>

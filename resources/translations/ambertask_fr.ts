@@ -1038,6 +1038,10 @@
         <source>the disk failed or was taken out</source>
         <translation>le disque est défaillant ou a été retiré</translation>
     </message>
+    <message>
+        <source>another program is using it</source>
+        <translation>un autre programme l’utilise</translation>
+    </message>
 </context>
 <context>
     <name>FileExchange</name>

@@ -1011,6 +1011,10 @@
         <source>the disk failed or was taken out</source>
         <translation>磁盘出现故障或已被移除</translation>
     </message>
+    <message>
+        <source>another program is using it</source>
+        <translation>另一个程序正在使用它</translation>
+    </message>
 </context>
 <context>
     <name>FileExchange</name>

@@ -25,6 +25,7 @@
 #include "widgets/MessageBoxes.h"
 #include "widgets/ScreenErrorReport.h"
 #include "widgets/TrayIcon.h"
+#include "widgets/WindowManager.h"
 
 #include <QSessionManager>
 #include <QStyleFactory>
@@ -97,7 +98,10 @@ int runInstance(Application& application, const Installation& installation, cons
     QObject::connect(&application, &Application::endRequested, &program, &Program::end);
     QObject::connect(&application, &Application::handlerFailed, &program,
         [&errors](const QString& text) { errors.report(text); });
-    QObject::connect(&program, &Program::endRequested, &application, [] { QCoreApplication::exit(0); });
+    QObject::connect(&program, &Program::endRequested, &application, [] {
+        cancelSystemDialogs();
+        QCoreApplication::exit(0);
+    });
 
     try {
         if (!hindrance.isEmpty()) {

@@ -1,6 +1,7 @@
 #include "store/Hardening.h"
 
-#include <QFile>
+#include "system/FileAccess.h"
+
 #include <QUrl>
 #include <algorithm>
 #include <array>
@@ -45,7 +46,7 @@ int openDatabase(const QString& file, sqlite3*& database, bool isImmutable)
 {
     [[maybe_unused]] static const int uncounted = sqlite3_config(SQLITE_CONFIG_MEMSTATUS, 0);
     const QByteArray name =
-        isImmutable ? QUrl::fromLocalFile(file).toEncoded() + "?immutable=1" : QFile::encodeName(file);
+        isImmutable ? QUrl::fromLocalFile(file).toEncoded() + "?immutable=1" : pathInC(file);
     const int flags = isImmutable ? SQLITE_OPEN_READONLY | SQLITE_OPEN_URI : SQLITE_OPEN_READWRITE;
     return sqlite3_open_v2(name.constData(), &database, flags | SQLITE_OPEN_NOMUTEX, nullptr);
 }

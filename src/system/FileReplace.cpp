@@ -7,16 +7,8 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QUuid>
-#include <cerrno>
-#include <filesystem>
 #include <optional>
 #include <system_error>
-
-#ifndef Q_OS_WIN
-#include <fcntl.h>
-#include <sys/file.h>
-#include <unistd.h>
-#endif
 
 namespace
 {
@@ -28,29 +20,12 @@ namespace
 
 [[noreturn]] void fail(const QString& path, const std::error_code& error)
 {
-    fail(path, FileError::reason(error.default_error_condition().value()));
+    fail(path, FileError::reason(error));
 }
 
 void flushFolderOf(const QString& path)
 {
     flushFolder(QFileInfo(path).absolutePath());
-}
-
-bool isAbandoned(const QString& path)
-{
-#ifdef Q_OS_WIN
-    Q_UNUSED(path);
-    return true;
-#else
-    const int handle =
-        open(QFile::encodeName(path).constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
-    if (handle < 0) {
-        return false;
-    }
-    const bool isFree = flock(handle, LOCK_EX | LOCK_NB) == 0;
-    close(handle);
-    return isFree;
-#endif
 }
 
 void removeAbandoned(const QString& folder)
@@ -159,93 +134,10 @@ template <typename Fill> void replace(const QString& target, QFileDevice::Permis
 
 } // namespace
 
-QString FileError::reason(int error)
-{
-    switch (error) {
-#ifdef EDQUOT
-    case EDQUOT:
-#endif
-    case ENOSPC:
-        return tr("the disk is full");
-    case EFBIG:
-        return tr("the file would be too large");
-    case EACCES:
-    case EPERM:
-        return tr("there is no permission for that");
-    case EROFS:
-        return tr("nothing can be written to that disk");
-    case ENOENT:
-    case ENOTDIR:
-        return tr("the file or its folder does not exist");
-    case ENAMETOOLONG:
-        return tr("the name is too long");
-    case EIO:
-    case ENXIO:
-    case ENODEV:
-        return tr("the disk failed or was taken out");
-    default:
-        return QString::fromStdString(std::generic_category().message(error));
-    }
-}
-
-QString FileError::reason(const QFileDevice& file)
-{
-#ifdef Q_OS_WIN
-    return file.errorString();
-#else
-    Q_UNUSED(file); // the reason is in errno
-    return reason(errno);
-#endif
-}
-
-QString reasonOf(const std::exception& error)
-{
-    if (const auto* file = dynamic_cast<const FileError*>(&error);
-        file != nullptr && !file->why().isEmpty()) {
-        return file->why();
-    }
-    const auto* told = dynamic_cast<const RuntimeError*>(&error);
-    return told == nullptr ? QString::fromLocal8Bit(error.what()) : told->text();
-}
-
-bool isPresent(const QString& path)
-{
-    std::error_code error;
-    const auto status = std::filesystem::status(QFileInfo(path).filesystemFilePath(), error);
-    if (status.type() == std::filesystem::file_type::none) {
-        fail(path, error);
-    }
-    return status.type() != std::filesystem::file_type::not_found;
-}
-
 QString resolvedPath(const QString& path)
 {
     const QString resolved = QFileInfo(path).canonicalFilePath();
     return resolved.isEmpty() ? path : resolved;
-}
-
-bool isSameFile(const QString& left, const QString& right)
-{
-    std::error_code error;
-    return std::filesystem::equivalent(
-               QFileInfo(left).filesystemFilePath(), QFileInfo(right).filesystemFilePath(), error)
-        && !error;
-}
-
-bool flushFolder(const QString& folder)
-{
-#ifdef Q_OS_WIN
-    Q_UNUSED(folder);
-    return true;
-#else
-    const int handle = open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (handle < 0) {
-        return false;
-    }
-    const bool isDone = fsync(handle) == 0 || errno == EINVAL || errno == ENOTSUP;
-    close(handle);
-    return isDone;
-#endif
 }
 
 void copyToNewFile(
@@ -266,9 +158,7 @@ void moveOver(const QString& file, const QString& target)
     if (present.exists() && !present.isFile()) {
         fail(place, FileError::tr("it is not a file"));
     }
-    std::error_code error;
-    std::filesystem::rename(QFileInfo(file).filesystemFilePath(), present.filesystemFilePath(), error);
-    if (error) {
+    if (const std::error_code error = renameOver(file, place)) {
         fail(place, error);
     }
     flushFolderOf(place);
@@ -303,10 +193,7 @@ void keepAlso(
     const QString folder = QFileInfo(resolvedPath(target)).absolutePath();
     removeAbandoned(folder);
     const QString beside = unusedNameIn(folder);
-    std::error_code error;
-    std::filesystem::create_hard_link(
-        QFileInfo(resolvedPath(file)).filesystemFilePath(), QFileInfo(beside).filesystemFilePath(), error);
-    if (error) {
+    if (linkAs(resolvedPath(file), beside)) {
         replaceByCopy(file, target, permissions, progress);
         return;
     }
@@ -330,17 +217,6 @@ void removeFile(const QString& path)
     flushFolderOf(path);
 }
 
-void makePrivate(const QString& path)
-{
-    constexpr QFileDevice::Permissions Owners = PrivateFile | QFileDevice::ExeOwner;
-    constexpr QFileDevice::Permissions Others = QFileDevice::ReadGroup | QFileDevice::WriteGroup
-        | QFileDevice::ExeGroup | QFileDevice::ReadOther | QFileDevice::WriteOther | QFileDevice::ExeOther;
-    const QFileInfo file(path);
-    if (!file.isSymLink() && file.isFile() && (file.permissions() & Others)) {
-        QFile::setPermissions(path, file.permissions() & Owners);
-    }
-}
-
 void makeFolder(const QString& path)
 {
     if (QFileInfo(path).isDir()) {
@@ -348,7 +224,7 @@ void makeFolder(const QString& path)
     }
     makeFolder(QFileInfo(path).absolutePath());
     // Another process may be making it at the same time.
-    if (!QDir().mkdir(path, PrivateFolder) && !QFileInfo(path).isDir()) {
+    if (!makePrivateFolder(path) && !QFileInfo(path).isDir()) {
         fail(path, qt_error_string());
     }
     flushFolderOf(path);

@@ -1,47 +1,12 @@
 #pragma once
 
-#include "system/RuntimeError.h"
+#include "system/FileAccess.h"
+#include "system/FileError.h"
 
 #include <QByteArray>
-#include <QFileDevice>
 #include <functional>
 
 class Progress;
-
-/// A file that could not be copied or replaced.
-class FileError : public RuntimeError
-{
-    Q_DECLARE_TR_FUNCTIONS(FileError)
-
-public:
-    using RuntimeError::RuntimeError;
-    FileError(const QString& path, const QString& why)
-        : RuntimeError(QStringLiteral("\"%1\": %2.").arg(path, why)), m_why(why)
-    {
-    }
-
-    /// Why, without the name of the file. Empty when the text says it all.
-    const QString& why() const { return m_why; }
-    /// The reason for a system error number, in words for whoever chose the file: "the disk is full". For
-    /// other numbers the system's own message.
-    static QString reason(int error);
-    /// The same for the last failed call on `file`.
-    static QString reason(const QFileDevice& file);
-
-private:
-    QString m_why;
-};
-
-/// Why an operation on files failed, in words that follow a colon.
-QString reasonOf(const std::exception& error);
-
-/// Readable and writable by the owner alone.
-inline constexpr QFileDevice::Permissions PrivateFile = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
-/// The same for a folder.
-inline constexpr QFileDevice::Permissions PrivateFolder = PrivateFile | QFileDevice::ExeOwner;
-/// Readable by everyone, as far as the umask allows.
-inline constexpr QFileDevice::Permissions PublicFile =
-    PrivateFile | QFileDevice::ReadGroup | QFileDevice::ReadOther;
 
 // A file appears under its name complete or not at all, even if the power fails, and is on the disk when
 // the function returns (as far as the file system can flush a folder). A private file is private whatever
@@ -70,19 +35,7 @@ void keepAlso(const QString& file, const QString& target, QFileDevice::Permissio
     Progress* progress = nullptr);
 /// Removes the file if it exists.
 void removeFile(const QString& path);
-/// Removes the permissions of everyone but the owner. Quietly does nothing where there is no regular file
-/// of that name (links are not followed) or where the system refuses.
-void makePrivate(const QString& path);
 /// Makes the folder and the missing ones above it, accessible to the owner alone.
 void makeFolder(const QString& path);
-
-/// Flushes the entries of `folder` to the disk. False when that failed; does nothing on file systems that
-/// cannot flush a folder.
-bool flushFolder(const QString& folder);
-
-/// Whether anything of that name exists. Throws when the disk cannot tell: an error is not a "no".
-bool isPresent(const QString& path);
 /// The path with links resolved, as far as the file exists.
 QString resolvedPath(const QString& path);
-/// Whether both paths lead to the same existing file, through whatever links.
-bool isSameFile(const QString& left, const QString& right);

@@ -3,36 +3,7 @@
 #include "system/ProgramFolder.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
-
-#ifdef Q_OS_WIN
-#include <windows.h>
-#elif defined(Q_OS_MACOS)
-#include <climits>
-#include <mach-o/dyld.h>
-#endif
-
-namespace
-{
-
-QString runningExecutable()
-{
-#ifdef Q_OS_WIN
-    wchar_t path[MAX_PATH];
-    const DWORD length = GetModuleFileNameW(nullptr, path, MAX_PATH);
-    return QString::fromWCharArray(path, static_cast<int>(length));
-#elif defined(Q_OS_MACOS)
-    char path[PATH_MAX];
-    uint32_t size = sizeof(path);
-    return _NSGetExecutablePath(path, &size) == 0 ? QFileInfo(QFile::decodeName(path)).canonicalFilePath()
-                                                  : QString();
-#else
-    return QFile::symLinkTarget(QStringLiteral("/proc/self/exe"));
-#endif
-}
-
-} // namespace
 
 Installation installationOf(const QString& executable)
 {

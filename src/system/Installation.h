@@ -20,5 +20,8 @@ struct Installation {
 /// prefix's folder for executables and the prefix has the folder of shipped files.
 Installation installationOf(const QString& executable);
 
+/// The file of the running process, with links resolved. Needs no application object.
+QString runningExecutable();
+
 /// The installation of the running program. Needs no application object.
 Installation runningInstallation();

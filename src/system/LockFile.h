@@ -24,10 +24,11 @@ public:
     QString failure() const;
 
 private:
+    /// Tries to take the lock, or notes why not. False when that is to be tried again.
     bool settle(bool waits);
 
     QString m_path;
-    int m_handle = -1;
+    qintptr m_handle = -1;
     int m_error = 0;
     bool m_isNoFile = false;
     bool m_isHeldElsewhere = false;

@@ -6,13 +6,6 @@
 #include <QString>
 #include <memory>
 
-class Modules;
-
-inline constexpr char SoundProgram[] = "ambertask_sound";
-
-/// Plays waves on this machine; silent where the player program is missing. `modules` outlives it.
-std::unique_ptr<WaveBackend> makeWaveBackend(const Modules& modules);
-
 /// The multimedia control: set the properties, then send the commands "Open" and "Play". Each "Play" starts
 /// at once and may overlap the sound before; "Close" stops all. Interface thread only; never blocks, never
 /// fails.

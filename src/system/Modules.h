@@ -29,11 +29,15 @@ public:
     QString program(const QString& name) const;
 
 private:
+    /// The name of a module's file.
+    static QString moduleFile(const QString& name);
+    /// The name of a program's file.
+    static QString programFile(const QString& name);
     void hold(const QString& name, const QString& file);
     QFunctionPointer resolveAny(const QString& name, const char* symbol);
 
     struct Held {
-        int handle; ///< of the open file
+        qintptr handle; ///< of the open file
         bool loaded = false;
     };
 

@@ -37,6 +37,13 @@ Moment makeMoment(std::chrono::year_month_day day, seconds timeOfDay)
     return Moment(local_days(day)) + timeOfDay;
 }
 
+Moment makeMoment(int year, int month, int day, int hour, int minute, int second)
+{
+    const std::chrono::year_month_day date(std::chrono::year(year),
+        std::chrono::month(static_cast<unsigned>(month)), std::chrono::day(static_cast<unsigned>(day)));
+    return makeMoment(date, seconds(hour * 3600 + minute * 60 + second));
+}
+
 Moment startOfDay(Moment moment)
 {
     return floor<days>(moment);

@@ -11,6 +11,8 @@ using Moment = std::chrono::local_seconds;
 
 /// The moment of a calendar day and a time of day. The day must be valid.
 Moment makeMoment(std::chrono::year_month_day day, std::chrono::seconds timeOfDay = {});
+/// The same from the fields of a calendar: months and days count from 1.
+Moment makeMoment(int year, int month, int day, int hour, int minute, int second);
 /// 00:00:00 of the moment's day.
 Moment startOfDay(Moment moment);
 /// The moment without its seconds.

@@ -13,13 +13,6 @@
 namespace
 {
 
-/// An XDG base directory. A relative path in the environment does not count.
-QString baseFolder(const char* variable, const QString& inHome)
-{
-    const QString folder = qEnvironmentVariable(variable);
-    return QDir::isAbsolutePath(folder) ? QDir::cleanPath(folder) : QDir::homePath() + u'/' + inHome;
-}
-
 std::filesystem::path native(const QString& path)
 {
     return QFileInfo(path).filesystemFilePath();
@@ -59,21 +52,6 @@ void takeNewDataFile(const QString& folder)
 }
 
 } // namespace
-
-QString userDataFolder()
-{
-    return baseFolder("XDG_DATA_HOME", QStringLiteral(".local/share"));
-}
-
-QString userCacheFolder()
-{
-    return baseFolder("XDG_CACHE_HOME", QStringLiteral(".cache"));
-}
-
-QString userStateFolder()
-{
-    return pathIn(baseFolder("XDG_STATE_HOME", QStringLiteral(".local/state")), QStringLiteral("ambertask"));
-}
 
 QString programFolderOf(const Installation& installation, const QString& userData)
 {

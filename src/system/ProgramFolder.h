@@ -13,14 +13,20 @@ inline constexpr char DataFileName[] = "data.dat";
 /// The data file of a first start, in an unpacked archive that is a program folder.
 inline constexpr char NewDataFileName[] = "data.new";
 
-/// The folder for the user's data (XDG data home); an installed program keeps its folder in it.
+/// The folder for the user's data (XDG data home; on Windows the local application data); an installed
+/// program keeps its folder in it.
 QString userDataFolder();
 
-/// The folder for what can be made again at any time (XDG cache home).
+/// The folder for what can be made again at any time (XDG cache home; on Windows the local application data).
 QString userCacheFolder();
 
-/// The folder for what the program remembers on this machine between its starts (XDG state home).
+/// The folder for what the program remembers on this machine between its starts (below the XDG
+/// state home; on Windows below the local application data).
 QString userStateFolder();
+
+/// The path of the program in its folder, as the system writes it: made from the product's name, whatever
+/// the running file is called.
+QString executableIn(const QString& programFolder);
 
 /// The folder that holds data.dat and what the user has added: the installation's own, or the user's in
 /// `userData`.

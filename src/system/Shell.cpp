@@ -25,24 +25,3 @@ QStringList commandOf(const QString& file)
     }
     return QProcess::splitCommand(file);
 }
-
-namespace
-{
-
-bool startDetached(const QString& file)
-{
-    const QStringList command = commandOf(file);
-    return !command.isEmpty() && QProcess::startDetached(command.first(), command.mid(1));
-}
-
-} // namespace
-
-bool DesktopShell::startNormal(const QString& file)
-{
-    return startDetached(file);
-}
-
-bool DesktopShell::startMinimized(const QString& file)
-{
-    return startDetached(file);
-}

@@ -10,7 +10,8 @@ class LockFile;
 /// data.dat, removed with the guard. (Whoever may read the folder could lock the folder itself; a lock on
 /// data.dat would stay on the old file after a restore.) In a folder that takes no new file, because it is
 /// read-only or full, it is a lock on data.dat, which is never restored there. (Once a full folder has room
-/// again, a second copy does not notice that lock.)
+/// again, a second copy does not notice that lock.) On Windows it is a named mutex of the user and the
+/// folder, which only that user can take.
 class SingleInstance
 {
 public:
@@ -28,7 +29,8 @@ public:
     void release();
 
 private:
-    std::unique_ptr<LockFile> m_lock;
-    qintptr m_handle = -1;
+    std::unique_ptr<LockFile> m_lock; ///< null on Windows
+    qintptr m_handle = -1; ///< of data.dat, or of the mutex
+    quint32 m_mutexError = 0; ///< why there is no mutex, as Windows numbers it
     bool m_otherCopyRuns = false;
 };

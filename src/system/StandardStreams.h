@@ -32,6 +32,9 @@ protected:
     qint64 writeData(const char* data, qint64 size) override;
 
 private:
+    /// Lets the process go on when nobody reads what it writes.
+    static void outliveReader();
+
     QFile m_file;
     QByteArray m_gathered;
     int m_error = 0;

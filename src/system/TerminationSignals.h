@@ -2,8 +2,9 @@
 
 #include <QObject>
 
-/// Turns requests to end the process (SIGTERM, SIGINT, SIGHUP) into a Qt signal. SIGHUP stays ignored if it
-/// was. One instance in a process; its destructor restores the previous handlers.
+/// Turns requests to end the process into a Qt signal: SIGTERM, SIGINT and SIGHUP (which stays ignored if it
+/// was), on Windows Ctrl+C and Ctrl+Break in a console. (A log-out is a request to the application.) One
+/// instance in a process; its destructor restores the previous handlers.
 class TerminationSignals : public QObject
 {
     Q_OBJECT

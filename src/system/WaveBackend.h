@@ -4,6 +4,11 @@
 #include <functional>
 #include <memory>
 
+class Modules;
+
+/// The helper program that plays sounds where a sound library is not to be loaded into this one.
+inline constexpr char SoundProgram[] = "ambertask_sound";
+
 /// Plays wave files. Interface thread only.
 class WaveBackend
 {
@@ -22,3 +27,6 @@ public:
 
 /// Makes the backend; null where sounds cannot be played.
 using WaveBackendFactory = std::function<std::unique_ptr<WaveBackend>()>;
+
+/// Plays waves on this machine; silent where what plays them is missing. `modules` outlives it.
+std::unique_ptr<WaveBackend> makeWaveBackend(const Modules& modules);

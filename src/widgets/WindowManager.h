@@ -20,3 +20,8 @@ void giveKeyboard(QWindow& window);
 /// Puts `window`, which is shown, in front of the windows of all programs, without the keyboard. A plain
 /// request is ignored by window managers that take it for an intrusion.
 void putInFront(QWindow& window);
+/// Sets or clears the topmost state of `window`, which has a native window, without hiding, moving or
+/// activating it.
+void setStaysOnTop(QWindow& window, bool on);
+/// Asks dialogs that the system shows for this thread to cancel: they do not see that event loops are left.
+void cancelSystemDialogs();

@@ -132,7 +132,7 @@ QSize wantedSize(const QWidget& window)
 
 // Workaround: QWidget::setWindowFlag() of Qt 6.4.2 hides a visible window and makes it anew; the flag of
 // the native window can be changed in place (tst_qt_workarounds, aFlagHidesAVisibleWindow).
-void setStaysOnTop(QWidget* window, bool on)
+void setTopmost(QWidget* window, bool on)
 {
     Qt::WindowFlags flags = window->windowFlags();
     if (flags.testFlag(Qt::WindowStaysOnTopHint) == on) {
@@ -141,7 +141,7 @@ void setStaysOnTop(QWidget* window, bool on)
     flags.setFlag(Qt::WindowStaysOnTopHint, on);
     window->overrideWindowFlags(flags);
     if (QWindow* native = window->windowHandle()) {
-        native->setFlag(Qt::WindowStaysOnTopHint, on);
+        setStaysOnTop(*native, on);
     }
 }
 
@@ -219,7 +219,7 @@ void putInPlace(QWidget* window, const QWidget* owner)
 
 void makeTopmost(QWidget* window)
 {
-    setStaysOnTop(window, true);
+    setTopmost(window, true);
 }
 
 void leaveTopmost(QWidget* window)
@@ -227,7 +227,7 @@ void leaveTopmost(QWidget* window)
     if (!isTopmost(window)) {
         return;
     }
-    setStaysOnTop(window, false);
+    setTopmost(window, false);
     if (window->isVisible()) {
         window->lower();
         window->raise();

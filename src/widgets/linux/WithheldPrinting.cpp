@@ -2,8 +2,6 @@
 
 #include <QLibrary>
 
-#if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
-
 namespace
 {
 
@@ -30,10 +28,3 @@ WithheldPrinting::~WithheldPrinting()
 {
     setPrintServer(nullptr);
 }
-
-#else
-
-WithheldPrinting::WithheldPrinting() = default;
-WithheldPrinting::~WithheldPrinting() = default;
-
-#endif

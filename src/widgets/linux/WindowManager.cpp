@@ -2,19 +2,15 @@
 
 #include <QGuiApplication>
 #include <QWindow>
-
-#if defined(Q_OS_UNIX) && QT_CONFIG(xcb)
 #include <algorithm>
 #include <cstdlib>
 #include <memory>
 #include <string_view>
 #include <xcb/xcb.h>
-#endif
 
 namespace
 {
 
-#if defined(Q_OS_UNIX) && QT_CONFIG(xcb)
 struct Free {
     void operator()(void* reply) const { std::free(reply); }
 };
@@ -135,7 +131,6 @@ private:
 
     xcb_connection_t* m_connection = nullptr;
 };
-#endif
 
 } // namespace
 
@@ -144,50 +139,41 @@ bool isKeyboardTaken()
     if (QGuiApplication::focusWindow() != nullptr) {
         return true;
     }
-#if defined(Q_OS_UNIX) && QT_CONFIG(xcb)
     if (const Server server; server.isThere()) {
         // openbox still names a window here that has been hidden.
         return server.isOnScreen(server.number(server.root(), "_NET_ACTIVE_WINDOW"));
     }
-#endif
     return true;
 }
 
-bool isManaged([[maybe_unused]] const QWindow& window)
+bool isManaged(const QWindow& window)
 {
-#if defined(Q_OS_UNIX) && QT_CONFIG(xcb)
     if (const Server server; server.isThere()) {
         const bool hasManager = server.number(server.root(), "_NET_SUPPORTING_WM_CHECK") != XCB_WINDOW_NONE;
         return !hasManager || server.number(static_cast<xcb_window_t>(window.winId()), "WM_STATE") != 0;
     }
-#endif
     return true;
 }
 
-void acceptKeyboard([[maybe_unused]] QWindow& window, [[maybe_unused]] bool accepts)
+void acceptKeyboard(QWindow& window, bool accepts)
 {
-#if defined(Q_OS_UNIX) && QT_CONFIG(xcb)
     if (Server().isThere()) {
         window.setFlag(Qt::WindowDoesNotAcceptFocus, !accepts);
     }
-#endif
 }
 
 void giveKeyboard(QWindow& window)
 {
     window.requestActivate();
-#if defined(Q_OS_UNIX) && QT_CONFIG(xcb)
     if (const Server server; server.isThere()) {
         xcb_client_message_data_t wish{};
         wish.data32[0] = ByTheUser;
         server.tellManager(static_cast<xcb_window_t>(window.winId()), "_NET_ACTIVE_WINDOW", wish);
     }
-#endif
 }
 
 void putInFront(QWindow& window)
 {
-#if defined(Q_OS_UNIX) && QT_CONFIG(xcb)
     if (const Server server; server.isThere()) {
         const auto id = static_cast<xcb_window_t>(window.winId());
         // fluxbox leaves it behind the active window unless its layer changes.
@@ -203,6 +189,15 @@ void putInFront(QWindow& window)
         server.tellManager(id, "_NET_RESTACK_WINDOW", wish);
         return;
     }
-#endif
     window.raise();
+}
+
+void setStaysOnTop(QWindow& window, bool on)
+{
+    window.setFlag(Qt::WindowStaysOnTopHint, on);
+}
+
+void cancelSystemDialogs()
+{
+    // All boxes are ours.
 }

@@ -1,7 +1,5 @@
 #include "system/TerminationSignals.h"
 
-#ifdef Q_OS_UNIX
-
 #include <QSocketNotifier>
 #include <array>
 #include <cerrno>
@@ -70,12 +68,3 @@ TerminationSignals::~TerminationSignals()
     ::close(signalPipe[1]);
     signalPipe = {-1, -1};
 }
-
-#else
-
-TerminationSignals::TerminationSignals(QObject* parent) : QObject(parent)
-{
-}
-TerminationSignals::~TerminationSignals() = default;
-
-#endif

@@ -1,36 +1,6 @@
 #include "system/SingleInstance.h"
 
 #include "system/LockFile.h"
-
-#ifdef Q_OS_WIN
-
-#include <QCryptographicHash>
-#include <QDir>
-#include <windows.h>
-
-SingleInstance::SingleInstance(const QString& programFolder)
-{
-    const QByteArray folder = QDir(programFolder).canonicalPath().toLower().toUtf8();
-    const QString name = QStringLiteral("Local\\Ambertask-")
-        + QString::fromLatin1(QCryptographicHash::hash(folder, QCryptographicHash::Sha1).toHex());
-    const HANDLE mutex = CreateMutexW(nullptr, TRUE, reinterpret_cast<const wchar_t*>(name.utf16()));
-    m_otherCopyRuns = mutex == nullptr || GetLastError() == ERROR_ALREADY_EXISTS;
-    m_handle = reinterpret_cast<qintptr>(mutex);
-}
-
-void SingleInstance::release()
-{
-    CloseHandle(reinterpret_cast<HANDLE>(m_handle));
-    m_handle = 0;
-}
-
-QString SingleInstance::failure() const
-{
-    return {};
-}
-
-#else
-
 #include "system/ProgramFolder.h"
 
 #include <QFile>
@@ -82,8 +52,6 @@ void SingleInstance::release()
         ::close(handle);
     }
 }
-
-#endif
 
 SingleInstance::~SingleInstance()
 {
