@@ -10,7 +10,6 @@ import re
 import sqlite3
 import subprocess
 import sys
-import tempfile
 import wave
 import zipfile
 from contextlib import closing
@@ -32,7 +31,7 @@ TICK = 10
 
 class Window:
     def __init__(self, line):
-        _process, x, y, width, height, is_in_front, self.title = (line.rstrip("\n").split(" ", 6) + [""])[:7]
+        x, y, width, height, is_in_front, self.title = line.split(" ", 5)
         self.x, self.y, self.width, self.height = int(x), int(y), int(width), int(height)
         self.is_in_front = is_in_front == "1"
 
@@ -42,25 +41,34 @@ class Journey:
         self.wine = wine
         self.archive, self.installer = archive, installer
         self.installed = None
-        self.lister = os.path.join(wine.folder, "list.exe")
-        subprocess.run(["x86_64-w64-mingw32-g++-posix", "-O1", "-static", "-o", self.lister,
-                        os.path.join(HERE, "ListWindows.cpp")], check=True)
+        self.looker = os.path.join(wine.folder, "look.exe")
+        subprocess.run(["x86_64-w64-mingw32-g++-posix", "-O1", "-static", "-o", self.looker,
+                        os.path.join(HERE, "LookAround.cpp")], check=True)
 
     # What can be seen from outside.
 
-    def windows(self):
-        told = os.path.join(self.wine.folder, "windows.txt")
-        self.wine.run("explorer", f"/desktop=ambertask,{DESKTOP}", windows_path(self.lister), windows_path(told))
+    def look_around(self, kind):
+        """The lines of LookAround.cpp about windows or processes."""
+        told = os.path.join(self.wine.folder, "told.txt")
+        self.wine.run("explorer", f"/desktop=ambertask,{DESKTOP}", windows_path(self.looker), windows_path(told))
 
         def lines():
             try:
                 with open(told, encoding="utf-8") as file:
-                    return [Window(line) for line in file]
+                    return file.read().splitlines()
             except FileNotFoundError:
-                return None
-        found = wait_until(lambda: lines() is not None, "the windows are listed", 20) and lines()
+                return []
+        wait_until(lambda: lines()[-1:] == ["end"], "the desktop is looked at", 20)
+        found = lines()
         os.remove(told)
-        return found
+        return [line.removeprefix(kind + " ") for line in found if line.startswith(kind + " ")]
+
+    def windows(self):
+        return [Window(line) for line in self.look_around("window")]
+
+    def runs(self):
+        """How many copies run."""
+        return self.look_around("process").count("Ambertask.exe")
 
     def window(self, title, seconds=40):
         """The visible window whose title matches."""
@@ -80,9 +88,6 @@ class Journey:
     def task(self, name, columns):
         rows = self.query(f"select {columns} from tasks where task_name=?", (name,))
         return rows[0] if rows else None
-
-    def runs(self):
-        return self.wine.processes("Ambertask.exe")
 
     def loudest(self):
         """The largest sample that was heard."""
@@ -120,10 +125,11 @@ class Journey:
         self.wine.start_desktop(program)
         self.window(MAIN, 90)
 
-    def tray_icon(self):
-        """The window of the notification area: without a title, at the foot of the desktop."""
+    def click_tray_icon(self, **click):
+        """It is the last one in the bar at the foot of the desktop."""
         height = int(DESKTOP.rpartition("x")[2])
-        return next(w for w in self.windows() if not w.title and w.y + w.height >= height - 1 and w.height < 60)
+        bar = next(w for w in self.windows() if not w.title and w.y + w.height == height)
+        self.wine.click(bar.x + bar.width - 11, bar.y + bar.height // 2, **click)
 
     # The stations.
 
@@ -222,13 +228,11 @@ class Journey:
         assert self.runs() == 1, "one copy runs"
 
     def showing_again(self):
-        tray = self.tray_icon()
-        self.wine.click(tray.x + tray.width // 2, tray.y + tray.height // 2, count=2)
+        self.click_tray_icon(count=2)
         self.window(MAIN)
 
     def exit(self):
-        tray = self.tray_icon()
-        self.wine.click(tray.x + tray.width // 2, tray.y + tray.height // 2, button=3)
+        self.click_tray_icon(button=3)
         self.wine.picture("tray menu")
         self.wine.keys("Up", "Return")
         wait_until(lambda: self.runs() == 0, "the program has ended")

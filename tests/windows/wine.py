@@ -106,10 +106,6 @@ class Wine:
         found = re.search(rf"^\s+{re.escape(name)}\s+REG_\w+\s+(.*?)\s*$", told, re.MULTILINE)
         return found and found.group(1)
 
-    def processes(self, image):
-        """How many processes run of that executable."""
-        return self.run("tasklist").stdout.lower().count(image.lower())
-
     def picture(self, name):
         """What the screen shows."""
         if self.pictures:
