@@ -101,13 +101,13 @@ class Journey:
                    default=0)
 
     def bring_in_front(self, title):
-        """The window of that title, with the keyboard."""
-        window = self.window(title)
-        if not window.is_in_front:
-            self.wine.click(window.x + window.width // 2, window.y + 12)
+        """Gives the window of that title the keyboard."""
+        def is_in_front():
             window = self.window(title)
-        assert window.is_in_front, f"{title} has the keyboard"
-        return window
+            if not window.is_in_front:
+                self.wine.click(window.x + window.width // 2, window.y + 12)
+            return window.is_in_front
+        wait_until(is_in_front, f"{title} has the keyboard", 20)
 
     def go_to(self, page):
         self.bring_in_front(MAIN)
@@ -122,7 +122,7 @@ class Journey:
         self.wine.keys("Return", pause=1)
 
     def start(self, program):
-        self.wine.start_desktop(program)
+        self.wine.on_desktop(program)
         self.window(MAIN, 90)
 
     def click_tray_icon(self, **click):
@@ -224,7 +224,7 @@ class Journey:
         assert self.runs() == 1, "the program goes on"
 
     def second_copy(self):
-        self.wine.start_desktop(PROGRAM).wait(60)
+        self.wine.on_desktop(PROGRAM).wait(60)
         assert self.runs() == 1, "one copy runs"
 
     def showing_again(self):
@@ -270,6 +270,7 @@ def main():
                 Journey.closing_to_the_tray, Journey.second_copy, Journey.showing_again, Journey.exit,
                 Journey.installing, Journey.upgrading_a_running_copy, Journey.uninstalling]
     with Wine(pictures) as wine:
+        wine.show_desktop()
         journey = Journey(wine, archive, installer)
         for number, station in enumerate(stations, 1):
             name = station.__name__.replace("_", " ")
@@ -282,4 +283,5 @@ def main():
             print(f"{name}: as expected", flush=True)
 
 
-main()
+if __name__ == "__main__":
+    main()

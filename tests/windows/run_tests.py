@@ -59,8 +59,8 @@ def run(wine, executable, variables):
     if os.path.exists(result):
         os.remove(result)
     try:
-        status = wine.run(windows_path(executable), "-o", windows_path(result) + ",junitxml", seconds=SECONDS,
-                          environment=variables, cwd=os.path.dirname(executable)).returncode
+        status, _ = wine.run(windows_path(executable), "-o", windows_path(result) + ",junitxml", seconds=SECONDS,
+                             environment=variables, cwd=os.path.dirname(executable))
     except subprocess.TimeoutExpired:
         return {"": "timeout"}, f"does not end within {SECONDS} s"
     told = outcome(result)
@@ -105,4 +105,5 @@ def main():
     sys.exit(1 if faults or not rows else 0)
 
 
-main()
+if __name__ == "__main__":
+    main()

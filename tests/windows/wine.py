@@ -84,11 +84,15 @@ class Wine:
         """The file of this machine at a path in Windows, drive C:."""
         return os.path.join(self.prefix, "drive_c", *path.removeprefix("C:\\").split("\\"))
 
-    def run(self, *words, seconds=120, environment=None, cwd=None, check=False):
-        """Runs a program to its end."""
-        return subprocess.run(["wine", *words], env=self.environment | (environment or {}), cwd=cwd or self.home,
-                              timeout=seconds, check=check, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
-                              stderr=subprocess.DEVNULL, encoding="utf-8", errors="replace")
+    def run(self, *words, seconds=120, environment=None, cwd=None):
+        """Runs a program to its end: its status, and what it has written."""
+        # A file, not a pipe: what Wine starts beside it would keep a pipe open.
+        with tempfile.TemporaryFile(mode="w+", encoding="utf-8", errors="replace") as output:
+            status = subprocess.run(["wine", *words], env=self.environment | (environment or {}), cwd=cwd or self.home,
+                                    timeout=seconds, check=False, stdin=subprocess.DEVNULL, stdout=output,
+                                    stderr=subprocess.DEVNULL).returncode
+            output.seek(0)
+            return status, output.read()
 
     def start(self, *words, cwd=None):
         child = subprocess.Popen(["wine", *words], env=self.environment, cwd=cwd or self.home,
@@ -96,13 +100,18 @@ class Wine:
         self._children.append(child)
         return child
 
-    def start_desktop(self, *words):
-        """A desktop with a taskbar in one window of the screen, and a program on it."""
+    def show_desktop(self):
+        """Opens a desktop with a taskbar in one window of the screen; it stays as long as something runs on it."""
+        self.on_desktop("notepad")
+        self._xdotool("search", "--sync", "--name", "^ambertask - ")
+
+    def on_desktop(self, *words):
+        """Starts a program there."""
         return self.start("explorer", f"/desktop=ambertask,{DESKTOP}", *words)
 
     def registry(self, key, name):
         """The text of a value; None when it is not there."""
-        told = self.run("reg", "query", key, "/v", name).stdout
+        _, told = self.run("reg", "query", key, "/v", name)
         found = re.search(rf"^\s+{re.escape(name)}\s+REG_\w+\s+(.*?)\s*$", told, re.MULTILINE)
         return found and found.group(1)
 
