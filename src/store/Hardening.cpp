@@ -64,6 +64,15 @@ int hardenConnection(sqlite3* database)
     return sqlite3_drop_modules(database, nullptr);
 }
 
+int emptyJournals(sqlite3* database)
+{
+    int failure = SQLITE_OK;
+    const bool hasJournal =
+        yieldsRow(database, "SELECT 1 FROM pragma_journal_mode WHERE journal_mode <> 'wal'", {}, failure);
+    return hasJournal ? sqlite3_exec(database, "PRAGMA journal_mode=TRUNCATE", nullptr, nullptr, nullptr)
+                      : failure;
+}
+
 bool mayDropRecords(sqlite3* database, const std::string& table, int& failure)
 {
     // Only a constraint of the table itself can say what happens to duplicates; a separate index just

@@ -17,6 +17,11 @@ int openDatabase(const QString& file, sqlite3*& database, bool isImmutable = fal
 /// loading of extensions, and excessive sizes. Returns SQLite's result code.
 int hardenConnection(sqlite3* database);
 
+/// Lets a commit end with emptying the journal, which is brought to the disk, instead of removing it: for
+/// systems that cannot bring the removal of a file to the disk. A file in write-ahead mode stays in it.
+/// Returns SQLite's result code.
+int emptyJournals(sqlite3* database);
+
 /// Whether the table has a constraint that lets SQLite drop or skip duplicate records by itself. `failure`
 /// is SQLite's result code when that cannot be told.
 bool mayDropRecords(sqlite3* database, const std::string& table, int& failure);

@@ -37,6 +37,9 @@ std::error_code flushToDisk(const QFile& file);
 /// cannot flush a folder.
 bool flushFolder(const QString& folder);
 
+/// Whether the system promises that a file which has been removed stays so once its folder is flushed.
+bool flushesFolders();
+
 /// Starts writing a file to the disk while it grows: one flush at the end would block for seconds.
 class Writeback
 {

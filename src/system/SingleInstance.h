@@ -3,8 +3,6 @@
 #include <QString>
 #include <memory>
 
-class LockFile;
-
 /// Guards against two copies of the program on one program folder, until it is released or the process ends
 /// in whatever way. Only the owner of the folder can take it: it is a lock on a private file beside
 /// data.dat, removed with the guard. (Whoever may read the folder could lock the folder itself; a lock on
@@ -29,7 +27,8 @@ public:
     void release();
 
 private:
-    std::unique_ptr<LockFile> m_lock; ///< null on Windows
+    /// Null on Windows, where a function has that name, too.
+    std::unique_ptr<class LockFile> m_lock;
     qintptr m_handle = -1; ///< of data.dat, or of the mutex
     quint32 m_mutexError = 0; ///< why there is no mutex, as Windows numbers it
     bool m_otherCopyRuns = false;

@@ -226,14 +226,16 @@ void CataloguesTest::aSentenceOutsideOfTranslationIsFound()
 void CataloguesTest::noSentenceOfTheProgramStandsOutsideOfTranslation()
 {
     // The program's name, key of a column, folder, name of a copy, mark of a file format, connection, session
-    // entry, keys of the registry; mark, titles and words of the files of other programs.
+    // entry, keys of the registry, what plays a sound on Windows; mark, titles and words of the files of
+    // other programs.
     const QStringList names{QStringLiteral("Ambertask"), QStringLiteral("due date"),
         QStringLiteral("/custom icons"), QStringLiteral("first change"), QStringLiteral("SQLite format 3\\0"),
         QStringLiteral("Provider=Microsoft.Jet.OLEDB.4.0;Data Source= "),
         QStringLiteral("[Desktop Entry]\\nType=Application\\nVersion=1.0\\nName=%1\\nExec=%2\\nTryExec=%3\\n"
                        "Terminal=false\\n"),
         QStringLiteral("SOFTWARE\\\\Microsoft\\\\Shared Tools\\\\MSINFO"),
-        QStringLiteral("SOFTWARE\\\\Microsoft\\\\Shared Tools Location"), QStringLiteral("Osmo PIM"),
+        QStringLiteral("SOFTWARE\\\\Microsoft\\\\Shared Tools Location"),
+        QStringLiteral("open \\\"%1\\\" type waveaudio alias %2"), QStringLiteral("Osmo PIM"),
         QStringLiteral("Reminder time"), QStringLiteral("reminder on/off"), QStringLiteral("reminder date"),
         QStringLiteral("Not Started"), QStringLiteral("In Progress"),
         QStringLiteral("Waiting on someone else"), QStringLiteral("to do"), QStringLiteral("on hold")};

@@ -60,6 +60,11 @@ std::error_code flushToDisk(const QFile& file)
     return fsync(file.handle()) == 0 ? std::error_code() : std::error_code(errno, std::system_category());
 }
 
+bool flushesFolders()
+{
+    return true;
+}
+
 bool flushFolder(const QString& folder)
 {
     const int handle = open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);

@@ -93,6 +93,12 @@ std::error_code flushToDisk(const QFile& file)
     return handle != nullptr && FlushFileBuffers(handle.get()) ? std::error_code() : systemError();
 }
 
+bool flushesFolders()
+{
+    // It is tried, and nobody says what it does.
+    return false;
+}
+
 bool flushFolder(const QString& folder)
 {
     const SystemHandle handle = openExisting(folder, GENERIC_WRITE, ShareAll);

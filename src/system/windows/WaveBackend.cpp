@@ -11,7 +11,7 @@ namespace
 {
 
 constexpr std::size_t MostAtOnce = 32;
-constexpr wchar_t WindowClass[] = L"Ambertask sounds";
+constexpr wchar_t WindowClass[] = L"AmbertaskSounds";
 
 bool send(const QString& command, HWND listener = nullptr)
 {
