@@ -124,16 +124,17 @@ Section Uninstall
   ${IfNot} ${Errors}
     Return
   ${EndIf}
-  ; Only an entry of the copy in this folder.
-  ReadRegStr $0 HKCU "${RUN_KEY}" Ambertask
+  ; Only an entry of the copy in this folder; it takes the right by which the entry was made.
+  ReadRegStr $0 HKLM "${RUN_KEY}" Ambertask
   ${If} $0 == "$INSTDIR\Ambertask.exe"
-    DeleteRegValue HKCU "${RUN_KEY}" Ambertask
+    DeleteRegValue HKLM "${RUN_KEY}" Ambertask
   ${EndIf}
   Delete "$SMPROGRAMS\Ambertask.lnk"
   DeleteRegKey HKCU "${UNINSTALL_KEY}"
   ${If} ${FileExists} "$INSTDIR\data.dat"
     MessageBox MB_YESNO|MB_ICONQUESTION|MB_DEFBUTTON2 "$(RemoveData)" /SD IDNO IDNO kept
     Delete "$INSTDIR\data.dat"
+    Delete "$INSTDIR\data.dat-journal"
     Delete "$INSTDIR\data.dat.*"
     RMDir /r "$INSTDIR\copies"
     RMDir /r "$INSTDIR\custom icons"
