@@ -42,7 +42,12 @@ if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
     target_compile_options(ambertask_options INTERFACE -fstack-protector-strong
                                                        $<$<STREQUAL:${CMAKE_SYSTEM_PROCESSOR},x86_64>:-fcf-protection>)
     target_compile_definitions(ambertask_options INTERFACE _FORTIFY_SOURCE=3 _GLIBCXX_ASSERTIONS)
-    target_link_options(ambertask_options INTERFACE LINKER:-z,relro,-z,now)
+    if(WIN32)
+      # What they call is in a library there.
+      target_link_options(ambertask_options INTERFACE -fstack-protector-strong)
+    else()
+      target_link_options(ambertask_options INTERFACE LINKER:-z,relro,-z,now)
+    endif()
   endif()
 elseif(MSVC)
   target_compile_options(ambertask_options INTERFACE /W4 /utf-8 /permissive-

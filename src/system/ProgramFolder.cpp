@@ -29,6 +29,28 @@ void fillProgramFolder(const Installation& installation, const QString& folder)
     }
 }
 
+/// What an unpacked archive ships becomes the data file, once. An archive that is unpacked over a program
+/// folder so never replaces the data.
+void takeNewDataFile(const QString& folder)
+{
+    const QString shipped = pathIn(folder, QLatin1String(NewDataFileName));
+    const QString data = pathIn(folder, QLatin1String(DataFileName));
+    if (!isPresent(shipped)) {
+        return;
+    }
+    if (isPresent(data)) {
+        // If it stays, it would stand in for data that were lost later.
+        QFile::remove(shipped);
+        return;
+    }
+    std::error_code error;
+    std::filesystem::rename(native(shipped), native(data), error);
+    // Of several copies that start at once, one takes it.
+    if (error && !isPresent(data)) {
+        throw FileError(data, QString::fromStdString(error.message()));
+    }
+}
+
 } // namespace
 
 QString programFolderOf(const Installation& installation, const QString& userData)
@@ -39,8 +61,11 @@ QString programFolderOf(const Installation& installation, const QString& userDat
 
 void makeProgramFolder(const Installation& installation, const QString& programFolder)
 {
-    if (installation.shippedFolder.isEmpty() || QFileInfo(programFolder).isSymLink()
-        || isPresent(programFolder)) {
+    if (installation.shippedFolder.isEmpty()) {
+        takeNewDataFile(programFolder);
+        return;
+    }
+    if (QFileInfo(programFolder).isSymLink() || isPresent(programFolder)) {
         return;
     }
     const QString userData = QFileInfo(programFolder).absolutePath();

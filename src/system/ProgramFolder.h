@@ -10,6 +10,8 @@ inline constexpr char ProductName[] = "Ambertask";
 inline constexpr char DesktopEntryName[] = "example.ambertask.ambertask";
 /// All tasks, categories and settings. A folder that holds it is a program folder.
 inline constexpr char DataFileName[] = "data.dat";
+/// The data file of a first start, in an unpacked archive that is a program folder.
+inline constexpr char NewDataFileName[] = "data.new";
 
 /// The folder for the user's data (XDG data home; on Windows the local application data); an installed
 /// program keeps its folder in it.
@@ -32,7 +34,8 @@ QString programFolderOf(const Installation& installation, const QString& userDat
 
 /// Makes the user's program folder for an installed program, with the shipped data.dat and a link to the
 /// executable. It appears complete or not at all. Does nothing when something of that name exists, even a
-/// broken link, or when nothing is shipped elsewhere. Throws FileError.
+/// broken link. Where nothing is shipped elsewhere, NewDataFileName of the folder becomes data.dat unless
+/// there is one. Throws FileError.
 void makeProgramFolder(const Installation& installation, const QString& programFolder);
 
 /// Points the link `Ambertask` in the user's program folder to the executable. Anything of that name that

@@ -76,6 +76,27 @@ private slots:
         QCOMPARE(program.read("Skins/Aqua.skf"), QByteArray("aqua as I like it"));
     }
 
+    void anUnpackedProgramFolderTakesItsNewDataFileOnce()
+    {
+        const QTemporaryDir folder;
+        const Installation unpacked{folder.filePath("Ambertask"), folder.path(), QString(), folder.path()};
+        writeText(folder.filePath("data.new"), "the data as shipped");
+        makeProgramFolder(unpacked, folder.path());
+        QCOMPARE(contentOf(folder.filePath("data.dat")), QByteArray("the data as shipped"));
+        QVERIFY(!QFile::exists(folder.filePath("data.new")));
+
+        // A later version is unpacked over it.
+        writeText(folder.filePath("data.dat"), "all my tasks");
+        writeText(folder.filePath("data.new"), "the data of version 2");
+        makeProgramFolder(unpacked, folder.path());
+        QCOMPARE(contentOf(folder.filePath("data.dat")), QByteArray("all my tasks"));
+        QVERIFY(!QFile::exists(folder.filePath("data.new")));
+
+        QVERIFY(QFile::remove(folder.filePath("data.dat")));
+        makeProgramFolder(unpacked, folder.path());
+        QVERIFY(!QFile::exists(folder.filePath("data.dat")));
+    }
+
     void aFolderThatIsThereIsNeverFilled()
     {
         const InstalledProgram program;

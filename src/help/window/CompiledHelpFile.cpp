@@ -60,7 +60,8 @@ int seekStream(mspack_file* file, off_t offset, int mode)
 
 off_t positionOfStream(mspack_file* file)
 {
-    return streamOf(file)->input.pos();
+    // Small on Windows, as the library is built there: no help file has two gigabytes.
+    return static_cast<off_t>(streamOf(file)->input.pos());
 }
 
 void ignoreMessage(mspack_file* /*file*/, const char* /*format*/, ...)

@@ -1,0 +1,21 @@
+; What the installer asks, beyond what NSIS brings along, in the languages of the program.
+LangString IsRunning ${LANG_ENGLISH} "Ambertask is running. It is ended now; input that is not saved is lost."
+LangString IsRunning ${LANG_ARABIC} "برنامج Ambertask قيد التشغيل. سيتم إنهاؤه الآن؛ وستُفقد البيانات غير المحفوظة."
+LangString IsRunning ${LANG_FRENCH} "Ambertask est en cours d'exécution. Il va être fermé ; les saisies non enregistrées seront perdues."
+LangString IsRunning ${LANG_GERMAN} "Ambertask läuft. Es wird jetzt beendet; nicht gespeicherte Eingaben gehen verloren."
+LangString IsRunning ${LANG_SIMPCHINESE} "Ambertask 正在运行。现在将结束它；未保存的输入将丢失。"
+LangString IsRunning ${LANG_SPANISH} "Ambertask se está ejecutando. Se cerrará ahora; lo que no se haya guardado se perderá."
+
+LangString DoesNotEnd ${LANG_ENGLISH} "Ambertask has not ended. End it by $\"Exit$\" in its menu in the notification area."
+LangString DoesNotEnd ${LANG_ARABIC} "لم ينتهِ Ambertask. قم بإنهائه من قائمته في منطقة الإعلام."
+LangString DoesNotEnd ${LANG_FRENCH} "Ambertask ne s'est pas fermé. Quittez-le par son menu dans la zone de notification."
+LangString DoesNotEnd ${LANG_GERMAN} "Ambertask hat sich nicht beendet. Beenden Sie es über sein Menü im Infobereich."
+LangString DoesNotEnd ${LANG_SIMPCHINESE} "Ambertask 没有结束。请通过通知区域中的菜单退出它。"
+LangString DoesNotEnd ${LANG_SPANISH} "Ambertask no se ha cerrado. Ciérrelo desde su menú en el área de notificación."
+
+LangString RemoveData ${LANG_ENGLISH} "Remove your tasks, their copies, your pictures and your skins as well?$\n$\nThis cannot be undone. $\"No$\" leaves them in $INSTDIR."
+LangString RemoveData ${LANG_ARABIC} "هل تريد أيضًا إزالة مهامك ونسخها وصورك ومظاهرك؟$\n$\nلا يمكن التراجع عن ذلك. «لا» يتركها في $INSTDIR."
+LangString RemoveData ${LANG_FRENCH} "Supprimer aussi vos tâches, leurs copies, vos images et vos habillages ?$\n$\nCette opération est irréversible. « Non » les laisse dans $INSTDIR."
+LangString RemoveData ${LANG_GERMAN} "Auch Ihre Aufgaben, deren Kopien, Ihre Bilder und Ihre Skins löschen?$\n$\nDas lässt sich nicht rückgängig machen. „Nein“ lässt sie in $INSTDIR."
+LangString RemoveData ${LANG_SIMPCHINESE} "是否同时删除您的任务、其副本、您的图片和皮肤？$\n$\n此操作无法撤消。选择“否”会将它们保留在 $INSTDIR。"
+LangString RemoveData ${LANG_SPANISH} "¿Eliminar también sus tareas, las copias, sus imágenes y sus apariencias?$\n$\nNo se puede deshacer. «No» las deja en $INSTDIR."
