@@ -18,7 +18,8 @@ struct Notification {
     QList<Action> actions;
 };
 
-/// One notification of the desktop, which stays on the screen until it is answered or withdrawn. Interface thread only.
+/// One notification of the desktop, which stays on the screen until it is answered or withdrawn. Interface
+/// thread only.
 class Notifications : public QObject
 {
     Q_OBJECT
