@@ -29,7 +29,7 @@ def needed(binary):
 
 def is_of_windows(library):
     stem = os.path.splitext(library)[0].lower()
-    return stem == "msvcrt" or os.path.exists(os.path.join(LINKED, f"lib{stem}.a"))
+    return stem == "msvcrt" or stem.startswith("api-ms-win-") or os.path.exists(os.path.join(LINKED, f"lib{stem}.a"))
 
 
 def main():

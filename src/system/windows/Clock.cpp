@@ -12,7 +12,10 @@ Moment localMoment(std::chrono::sys_seconds instant)
     SYSTEMTIME utc{};
     SYSTEMTIME local{};
     FileTimeToSystemTime(&fileTime, &utc);
-    // By the rules of that year: those of summer time have changed in many countries.
-    SystemTimeToTzSpecificLocalTimeEx(nullptr, &utc, &local);
+    // By the rules of that year: those of summer time have changed in many countries. (Not by
+    // SystemTimeToTzSpecificLocalTimeEx(), which Wine 8 lacks.)
+    TIME_ZONE_INFORMATION zone{};
+    GetTimeZoneInformationForYear(utc.wYear, nullptr, &zone);
+    SystemTimeToTzSpecificLocalTime(&zone, &utc, &local);
     return makeMoment(local.wYear, local.wMonth, local.wDay, local.wHour, local.wMinute, local.wSecond);
 }
