@@ -30,7 +30,7 @@ def icon(size):
 # Patterns: the modules lie in a folder of their version.
 EXPECTED = [PROGRAM, ENTRY, METAINFO, MAN_PAGE, COMPLETION, CHANGELOG, "share/doc/ambertask/copyright", DRAWING,
             *(icon(size) for size in ICON_SIZES),
-            *(f"lib/ambertask/*/ambertask_{module}.so" for module in ("help", "report", "exchange", "repeats")), "lib/ambertask/*/ambertask_sound", "lib/ambertask/*/ambertask_pictures",
+            *(f"lib/ambertask/*/ambertask_{module}.so" for module in ("help", "report", "exchange")), "lib/ambertask/*/ambertask_sound", "lib/ambertask/*/ambertask_pictures",
             SHIPPED + "data.dat", SHIPPED + "Ambertask1.1.chm",
             *(f"{SHIPPED}Skins/{name}.skf" for name in SKINS),
             *(f"{SHIPPED}sounds/{name}.wav" for name in SOUNDS)]
