@@ -9,7 +9,8 @@
 
 class QDBusPendingCall;
 
-/// The notification service of the desktop, as the Desktop Notifications Specification describes it.
+/// The notifications of a desktop that serves org.freedesktop.Notifications on the message bus of the
+/// session.
 class DesktopNotifications final : public Notifications
 {
     Q_OBJECT
