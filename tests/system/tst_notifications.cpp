@@ -66,6 +66,14 @@ private slots:
         QVERIFY(m_unanswerable->isEmpty());
     }
 
+    void whatAServerShowedThatHasGoneIsUnanswerable()
+    {
+        show(named(QStringLiteral("1 Reminder")));
+        QVERIFY(m_unanswerable->isEmpty());
+        m_server->leave();
+        QTRY_COMPARE(m_unanswerable->size(), 1);
+    }
+
     void aServerThatReadsMarkupGetsTheTextEscaped()
     {
         m_server->serve(usualCapabilities() << QStringLiteral("body-markup"));

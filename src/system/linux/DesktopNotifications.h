@@ -5,6 +5,7 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingReply>
+#include <QDBusServiceWatcher>
 #include <optional>
 
 class QDBusPendingCall;
@@ -28,6 +29,7 @@ private slots:
     void onActionInvoked(uint id, const QString& key);
     void onActivationToken(uint id, const QString& token);
     void onClosed(uint id, uint reason);
+    void onServiceGone();
 
 private:
     void listen(const char* signal, const char* slot);
@@ -38,6 +40,7 @@ private:
     void giveUp();
 
     QDBusConnection m_bus = QDBusConnection::sessionBus();
+    QDBusServiceWatcher m_service;
     std::optional<Notification> m_wanted; ///< not handed over yet
     uint m_id = 0; ///< of what is shown; 0 for nothing
     bool m_isBusy = false; ///< a call is under way

@@ -31,7 +31,10 @@ QDBusMessage call(const char* method, const QVariantList& arguments = {})
 } // namespace
 
 DesktopNotifications::DesktopNotifications()
+    : m_service(QLatin1String(Service), m_bus, QDBusServiceWatcher::WatchForUnregistration)
 {
+    connect(
+        &m_service, &QDBusServiceWatcher::serviceUnregistered, this, &DesktopNotifications::onServiceGone);
     listen("ActionInvoked", SLOT(onActionInvoked(uint, QString)));
     listen("ActivationToken", SLOT(onActivationToken(uint, QString)));
     listen("NotificationClosed", SLOT(onClosed(uint, uint)));
@@ -91,6 +94,15 @@ void DesktopNotifications::onClosed(uint id, uint /*reason*/)
     if (id == m_id && m_id != 0) {
         m_id = 0;
         emit closed();
+    }
+}
+
+void DesktopNotifications::onServiceGone()
+{
+    // What it showed went with it, unanswered.
+    if (std::exchange(m_id, 0) != 0) {
+        emit closed();
+        emit unanswerable();
     }
 }
 
