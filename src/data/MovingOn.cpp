@@ -27,8 +27,14 @@ Moment reminderOf(const Repeat& repeat, Moment occurrence)
 
 QString settingDue(Moment due)
 {
-    return QStringLiteral("task_status=%1,task_due_date=%2,")
+    return QStringLiteral("task_status=%1,task_due_date=%2")
         .arg(QString::number(TaskStatus::NotStarted), sqlMoment(due));
+}
+
+/// Armed.
+QString settingReminder(Moment reminder)
+{
+    return QStringLiteral("reminder_date_time=%1,played=0,dismissed=0").arg(sqlMoment(reminder));
 }
 
 QList<qint32> without(const QList<qint32>& ids, const QSet<qint32>& moved)
@@ -119,11 +125,18 @@ std::vector<MovingOn::Task> MovingOn::repeatingAmong(
 bool MovingOn::moveToNext(const Task& task)
 {
     const auto next = RepeatRules::next(task.repeat, std::max(task.due, m_now));
-    if (next) {
-        remindOf(task, *next, settingDue(*next));
-        setDone(task, 1);
+    if (!next) {
+        return false;
     }
-    return next.has_value();
+    const Moment reminder = reminderOf(task.repeat, *next);
+    if (reminder <= std::min(task.reminder, m_now)) {
+        // It has come already, before the last time was completed. It stays as it is, shown or dismissed.
+        update(task, settingDue(*next));
+    } else {
+        update(task, settingDue(*next) + QLatin1Char(',') + settingReminder(reminder));
+    }
+    setDone(task, 1);
+    return true;
 }
 
 bool MovingOn::remindOfNext(const Task& task)
@@ -135,23 +148,22 @@ bool MovingOn::remindOfNext(const Task& task)
     if (!next) {
         return false;
     }
+    const QString reminder = settingReminder(reminderOf(task.repeat, *next));
     if (task.due > m_now) {
-        remindOf(task, *next, {});
+        update(task, reminder);
         return true;
     }
     // A moment that is still to come is not skipped, even if its reminder is the one that has been seen.
     const Moment due = std::min(*next, RepeatRules::next(task.repeat, m_now).value_or(*next));
-    remindOf(task, *next, settingDue(due));
+    update(task, settingDue(due) + QLatin1Char(',') + reminder);
     setDone(task, 1 + RepeatRules::count(task.repeat, task.due, due - 1s, TaskRepeats::MostMissed));
     return true;
 }
 
-void MovingOn::remindOf(const Task& task, Moment occurrence, const QString& columns)
+void MovingOn::update(const Task& task, const QString& columns)
 {
     m_connection.execute(
-        QStringLiteral("update tasks set %1reminder_date_time=%2,played=0,dismissed=0 where "
-                       "task_id = %3")
-            .arg(columns, sqlMoment(reminderOf(task.repeat, occurrence)), QString::number(task.id)));
+        QStringLiteral("update tasks set %1 where task_id = %2").arg(columns, QString::number(task.id)));
 }
 
 void MovingOn::setDone(const Task& task, int further)

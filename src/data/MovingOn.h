@@ -10,10 +10,9 @@ class Connection;
 struct DatabaseEngine;
 
 /// Moves repeating tasks on to a later moment of their series, as a part of an operation on an open
-/// connection. Due moments and reminders only go forward, also when the clock has been set back. Sends no
-/// statement when nothing repeats. The functions return which of the ids are not moved on: tasks that do not
-/// repeat, and those for which there is no later moment. They throw DatabaseError; then the
-/// operation is to be abandoned.
+/// connection. Due moments only go forward, also when the clock has been set back. Sends no statement when
+/// nothing repeats. The functions return which of the ids are not moved on: tasks that do not repeat, and
+/// those for which there is no later moment. They throw DatabaseError; then the operation is to be abandoned.
 class MovingOn
 {
 public:
@@ -21,7 +20,8 @@ public:
     MovingOn(const DatabaseEngine& engine, Connection& connection);
 
     /// This time is done: each is due at the first moment of its series that is later than its due moment and
-    /// than now, not started. Of a series that is over nothing stays.
+    /// than now, not started, and reminds of it, unless that reminder has come already. Of a series that is
+    /// over nothing stays.
     QList<qint32> complete(const QList<qint32>& ids);
     /// Their reminders have been seen: each reminds of the first moment of its series for which that lies
     /// ahead. One that is overdue does not stay so.
@@ -41,8 +41,7 @@ private:
     std::vector<Task> repeatingAmong(const QList<qint32>& ids, const QString& furtherCondition = {});
     bool moveToNext(const Task& task);
     bool remindOfNext(const Task& task);
-    /// Stores the reminder for `occurrence`, which is armed then; `columns` are further ones to set.
-    void remindOf(const Task& task, Moment occurrence, const QString& columns);
+    void update(const Task& task, const QString& columns);
     void setDone(const Task& task, int further);
 
     const DatabaseEngine& m_engine;

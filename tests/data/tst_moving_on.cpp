@@ -23,6 +23,8 @@ private slots:
     void theLastReminderIsDismissedAsAny();
     void allDueRemindersAreDismissedAtOnce();
     void noReminderComesTwiceWhenTheClockIsSetBack();
+    void aReminderThatHasComeStaysWhenTheTimeBeforeIsCompleted_data();
+    void aReminderThatHasComeStaysWhenTheTimeBeforeIsCompleted();
     void postponingMovesThisReminderAlone();
     void deletingOnceMovesOnUntilTheLastTime();
     void aCopyRepeatsToo();
@@ -166,6 +168,29 @@ void TestMovingOn::noReminderComesTwiceWhenTheClockIsSetBack()
     test.database.clock().step(24h * 400);
     TaskChanges::dismiss(test.engine, {id});
     QVERIFY(test.stateOf(id).startsWith(QLatin1String("0 02-18 09:00 02-18 09:00 100")));
+}
+
+void TestMovingOn::aReminderThatHasComeStaysWhenTheTimeBeforeIsCompleted_data()
+{
+    QTest::addColumn<int>("reminder"); // minutes from now
+    QTest::addColumn<QString>("state");
+    QTest::newRow("shown") << -5 << QStringLiteral("0 01-15 10:10 01-15 09:55 110 1");
+    QTest::newRow("about to be shown") << 0 << QStringLiteral("0 01-15 10:10 01-15 10:00 110 1");
+    QTest::newRow("put off") << 90 << QStringLiteral("0 01-15 10:10 01-15 11:30 110 1");
+    QTest::newRow("not yet come") << -6 << QStringLiteral("0 01-15 10:10 01-15 09:55 100 1");
+}
+
+void TestMovingOn::aReminderThatHasComeStaysWhenTheTimeBeforeIsCompleted()
+{
+    QFETCH(const int, reminder);
+    QFETCH(const QString, state);
+    RepeatsUnderTest test;
+    const qint32 id = test.add(test.now() - 24h + 10min, "FREQ=DAILY", 15min);
+    test.database.sql(
+        QStringLiteral("update tasks set reminder_date_time='%1'")
+            .arg(QString::fromStdString(storedText(test.now() + std::chrono::minutes(reminder)))));
+    TaskChanges::complete(test.engine, {id});
+    QCOMPARE(test.stateOf(id), state);
 }
 
 void TestMovingOn::postponingMovesThisReminderAlone()

@@ -44,6 +44,10 @@ QString complaintAboutTimes(RunningProgram& program, const SoakWorld& world)
     }
     const QHash<qint32, QString> texts = program.listedTexts();
     for (auto text = texts.begin(); text != texts.end(); ++text) {
+        // The list is not filled anew while as many are due as it has; one of its tasks may be gone.
+        if (world.rows().tasks.count(text.key()) == 0) {
+            continue;
+        }
         const auto match = number.match(text.value());
         const int times = match.hasMatch() ? match.captured(1).toInt() : 1;
         if (const int expected = world.timesOf(text.key()); times != expected) {

@@ -130,8 +130,16 @@ bool SoakWorld::complete(qint32 id)
     ++found->second.done;
     row.status = TaskStatus::NotStarted;
     row.due = text(*next);
-    row.reminder = text(*next - std::chrono::minutes(found->second.lead));
-    row.played = row.dismissed = false;
+    const QString reminder = text(*next - std::chrono::minutes(found->second.lead));
+    if (reminder > text(m_now) || reminder > row.reminder) {
+        row.reminder = reminder;
+        row.played = row.dismissed = false;
+        if (const auto last = m_lastRung.find(id); last != m_lastRung.end() && reminder <= last->second) {
+            // The clock has been set back before a reminder that had come.
+            m_lastRung.erase(last);
+            m_soundedSinceStart.erase(id);
+        }
+    }
     ++m_movedOn;
     return true;
 }
@@ -151,7 +159,7 @@ bool SoakWorld::dismissRepeating(qint32 id)
         return false;
     }
     if (due <= m_now) {
-        const Moment coming = std::min(*next, *momentAfter(repeat, m_now));
+        const Moment coming = std::min(*next, momentAfter(repeat, m_now).value_or(*next));
         repeat.done += 1 + countOf(repeat, due, coming - 1s);
         row.due = text(coming);
         row.status = TaskStatus::NotStarted;
