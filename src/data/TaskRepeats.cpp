@@ -1,8 +1,10 @@
 #include "data/TaskRepeats.h"
 
 #include "data/ClsDatabase.h"
+#include "data/DataFileRoad.h"
 #include "data/SqlText.h"
 #include "store/DatabaseError.h"
+#include "store/ForeignChanges.h"
 
 namespace
 {
@@ -13,7 +15,14 @@ const QLatin1String SelectRepeats("select of_task,rule,first_moment,lead,done fr
 
 bool TaskRepeats::isAny(const DatabaseEngine& engine)
 {
-    return engine.repeating != nullptr && engine.repeating->isUsed();
+    if (engine.repeating == nullptr) {
+        return false;
+    }
+    // The first rule may have come from another process since the last check.
+    if (!engine.repeating->isUsed() && engine.foreign != nullptr && engine.foreign->arePending()) {
+        engine.repeating->setUsed(somethingRepeats(engine));
+    }
+    return engine.repeating->isUsed();
 }
 
 std::map<qint32, Repeat> TaskRepeats::all(const DatabaseEngine& engine)

@@ -91,6 +91,18 @@ private slots:
         QCOMPARE(f.state(), QStringLiteral("01-16 10:00 01-16 10:00 1 4"));
     }
 
+    void theFirstTaskThatRepeatsIsMovedOnEvenBeforeTheNextTick()
+    {
+        WatchingProgram f;
+        aTask(f.database).named(QStringLiteral("daily")).dueAt(f.now()).remindingAt(f.now()).add();
+        f.tick();
+        f.database.sql(QStringLiteral(
+            "insert into repeats(of_task,rule,first_moment,lead) select task_id,'FREQ=DAILY',task_due_date,0 "
+            "from tasks"));
+        f.dismiss();
+        QCOMPARE(f.state(), QStringLiteral("01-16 10:00 01-16 10:00 1 1"));
+    }
+
     void whatIsDismissedElsewhereGoesAndComesForItsNextTime()
     {
         WatchingProgram f;
