@@ -134,6 +134,12 @@ void Program::makeMainWindow()
     connect(pages.categories, &CategoriesPage::picturesRead, this, &Program::tellUnreadablePictures);
     // Not guarded: a failed reload ends a restore silently, and onDataRestored() lets no exception out.
     connect(pages.maintenance, &MaintenancePage::dataRestored, this, &Program::onDataRestored);
+    // Windows replaces no file that is open. The report shows what it has read.
+    connect(pages.maintenance, &MaintenancePage::dataFileToBeReplaced, this, [this] {
+        if (m_report != nullptr) {
+            m_report->DataReport_QueryClose();
+        }
+    });
     connectGuarded(&m_undo, &UndoHistory::dataChanged, this, &Program::onDataChanged, errors);
     connectGuarded(pages.maintenance, &MaintenancePage::exportRequested, this, &Program::exportTasks, errors);
     connectGuarded(pages.maintenance, &MaintenancePage::importRequested, this, &Program::importTasks, errors);

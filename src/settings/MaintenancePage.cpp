@@ -318,6 +318,7 @@ QString MaintenancePage::restore(QWidget* owner, const std::function<QString()>&
         if (file.isEmpty()) {
             return {};
         }
+        emit dataFileToBeReplaced();
         RestoredData restored;
         ScreenProgress(owner, tr("Restoring the data...")).run([&](Progress& progress) {
             restored = DataFileCopies(m_services.engine).restoreFrom(file, &progress);

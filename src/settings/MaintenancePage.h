@@ -44,6 +44,8 @@ signals:
     /// the restore is over when the slots have returned. They must not throw: a failure in them ends the
     /// restore silently.
     void dataRestored();
+    /// A file has been chosen, which is to replace the data file: nothing of the program may have that open.
+    void dataFileToBeReplaced();
     /// Tasks have been deleted in bulk.
     void tasksDeleted();
     /// An export or import begins: asks for the file.
