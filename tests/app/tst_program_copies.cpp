@@ -11,6 +11,7 @@
 #include "widgets/WindowPlacement.h"
 
 #include <QComboBox>
+#include <QDir>
 #include <QLineEdit>
 #include <QTabWidget>
 #include <QTimer>
@@ -214,8 +215,9 @@ private slots:
         QCOMPARE(f.names(), QStringLiteral("one two three"));
         QCOMPARE(f.grid(f.main())->model()->rowCount(), 3);
         QVERIFY(!f.form()->isVisible());
-        QVERIFY2(
-            f.said("lblMaintenanceNote").startsWith(QStringLiteral("Restored 3 tasks from \"%1\"").arg(copy)),
+        QVERIFY2(f.said("lblMaintenanceNote")
+                     .startsWith(
+                         QStringLiteral("Restored 3 tasks from \"%1\"").arg(QDir::toNativeSeparators(copy))),
             qPrintable(f.said("lblMaintenanceNote")));
         QVERIFY(f.program.alerts().findChild<QTimer*>(QStringLiteral("tmrTasksChecker"))->isActive());
         QVERIFY(!f.main().tasksPage()->undoBar().isVisible());

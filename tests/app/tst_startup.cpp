@@ -5,6 +5,7 @@
 #include "support/OlderDataFile.h"
 #include "support/TestMain.h"
 #include "support/TestPictures.h"
+#include "system/ProgramFolder.h"
 #include "widgets/ImageList.h"
 
 #include <QApplication>
@@ -65,7 +66,7 @@ private slots:
         f.start(true);
         const MemoryRegistry::Value entry = f.registry.runEntry("Ambertask");
         QCOMPARE(entry.type, RegistryValues::Text);
-        QCOMPARE(entry.data, (f.database.folder() + QStringLiteral("/Ambertask")).toLocal8Bit());
+        QCOMPARE(entry.data, executableIn(f.database.folder()).toLocal8Bit());
     }
 
     void thePagesBehindTheFirstJoinTheWindowAfterTheFirstPainting()

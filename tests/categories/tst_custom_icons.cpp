@@ -4,6 +4,7 @@
 #include "support/TestPictures.h"
 #include "system/RuntimeError.h"
 
+#include <QDeadlineTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
@@ -58,7 +59,8 @@ private slots:
         QCOMPARE(f.colour(QStringLiteral("icon1.gif")), QColor(Qt::red));
         // Waits until the file system's clock has advanced: it ticks every few milliseconds.
         QDateTime changed = QFileInfo(path).metadataChangeTime();
-        while (QFileInfo(path).metadataChangeTime() == changed) {
+        for (const QDeadlineTimer end(10'000);
+             QFileInfo(path).metadataChangeTime() == changed && !end.hasExpired();) {
             f.write(QStringLiteral("icon1.gif"), green.leftJustified(length, '\0'));
             QFile file(path);
             QVERIFY(

@@ -3,8 +3,10 @@
 #include "support/TestDatabase.h"
 #include "support/TestMain.h"
 #include "support/TestPictures.h"
+#include "system/FileAccess.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QTest>
 #include <sqlite3.h>
 
@@ -188,7 +190,9 @@ void DeferredCommitTest::aFailedCommitIsReportedByTheCloseAndChangesNothing()
         QCOMPARE(database.statements().closed(), 1);
     }
     QCOMPARE(database.sql(CountSettings).toInt(), 1);
-    QVERIFY(!QFile::exists(database.dataFile() + QLatin1String("-journal")));
+    // Where the system does not promise that a removed file stays so, an empty one is left.
+    const QFileInfo journal(database.dataFile() + QLatin1String("-journal"));
+    QVERIFY(!journal.exists() || (!flushesFolders() && journal.size() == 0));
 }
 
 void DeferredCommitTest::aFailedEarlyCommitChangesNothing()

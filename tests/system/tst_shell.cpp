@@ -16,20 +16,32 @@ private:
     {
         QFile script(path);
         QVERIFY(script.open(QIODevice::WriteOnly));
-        script.write("#!/bin/sh\nprintf '%s\\n' started \"$@\" >> '" + record.toUtf8() + "'\n");
+        if (path.endsWith(QLatin1String(".bat"))) {
+            script.write("@echo started%*>> \"" + QDir::toNativeSeparators(record).toUtf8() + "\"\r\n");
+        } else {
+            script.write("#!/bin/sh\nprintf '%s\\n' started \"$@\" >> '" + record.toUtf8() + "'\n");
+        }
         script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+    /// The name of a script of this platform.
+    static QString scriptNamed(const QString& name)
+    {
+        const bool isForWindows = QDir::separator() == u'\\';
+        // No file has quotes in its name there.
+        return isForWindows ? QString(name).remove(u'"') + QStringLiteral(".bat")
+                            : name + QStringLiteral(".sh");
     }
     static QByteArray contentOf(const QString& path)
     {
         QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        return file.open(QIODevice::ReadOnly) ? file.readAll().replace("\r\n", "\n") : QByteArray();
     }
 
 private slots:
     void anExistingPathIsTheProgramWhateverItsCharacters()
     {
         const QTemporaryDir folder;
-        const QString path = folder.filePath(QStringLiteral("a b; touch x$(y) \"z\".sh"));
+        const QString path = folder.filePath(scriptNamed(QStringLiteral("a b; touch x$(y) \"z\"")));
         writeRecorder(path, folder.filePath(QStringLiteral("record")));
         QCOMPARE(commandOf(path), QStringList{path});
     }
@@ -45,7 +57,7 @@ private slots:
     {
         const QTemporaryDir folder;
         const QString record = folder.filePath(QStringLiteral("record"));
-        const QString path = folder.filePath(QStringLiteral("a b; touch x$(y).sh"));
+        const QString path = folder.filePath(scriptNamed(QStringLiteral("a b; touch x$(y)")));
         writeRecorder(path, record);
         QVERIFY(DesktopShell().startMinimized(path));
         QTRY_COMPARE(contentOf(record), QByteArray("started\n"));

@@ -7,10 +7,12 @@ with its reason; anything else that fails, and a failure of that list that is go
 of every test.
 """
 import glob
+import json
 import os
 import subprocess
 import sys
 import xml.etree.ElementTree as xml
+from concurrent.futures import ThreadPoolExecutor
 
 from wine import Wine, windows_path
 
@@ -18,7 +20,7 @@ HERE = os.path.dirname(os.path.abspath(__file__))
 FONTS = "/usr/share/fonts/truetype/dejavu"
 SECONDS = 300
 VARIABLES = {"QT_QPA_PLATFORM": "offscreen", "QT_QPA_FONTDIR": windows_path(FONTS), "QT_HASH_SEED": "0",
-             "QTEST_FUNCTION_TIMEOUT": "1800000"}
+             "QTEST_FUNCTION_TIMEOUT": "1800000", "TZ": ""}
 
 
 def known():
@@ -40,6 +42,19 @@ def environment(qt, libraries):
     return {"WINEPATH": ";".join(map(windows_path, places)), "TZ": "Europe/London"}
 
 
+def screens(build):
+    """The file that describes the screen of a test, by test; most have none."""
+    told = subprocess.run(["ctest", "--test-dir", build, "--show-only=json-v1"], check=True, capture_output=True,
+                          text=True).stdout
+    found = {}
+    for test in json.loads(told)["tests"]:
+        for entry in test.get("properties", []):
+            if entry["name"] == "ENVIRONMENT":
+                files = [value.partition("configfile=")[2] for value in entry["value"] if "configfile=" in value]
+                found[test["name"]] = files[0] if files else None
+    return found
+
+
 def outcome(result):
     """Failed functions and how many there were; None when the file tells nothing."""
     try:
@@ -53,14 +68,15 @@ def outcome(result):
     return failed, len(cases)
 
 
-def run(wine, executable, variables):
+def run(wine, executable, variables, screen=None):
     """Failed functions with their messages, and a sentence for the table."""
-    result = os.path.join(wine.folder, "result.xml")
-    if os.path.exists(result):
-        os.remove(result)
+    result = os.path.join(wine.folder, os.path.basename(executable) + ".xml")
+    folder = os.path.dirname(executable)
+    # A colon, as behind the letter of a drive, would end the name of the file.
+    platform = ["-platform", "offscreen:configfile=" + os.path.relpath(screen, folder)] if screen else []
     try:
-        status, _ = wine.run(windows_path(executable), "-o", windows_path(result) + ",junitxml", seconds=SECONDS,
-                             environment=variables, cwd=os.path.dirname(executable))
+        status, _ = wine.run(windows_path(executable), *platform, "-o", windows_path(result) + ",junitxml",
+                             seconds=SECONDS, environment=variables, cwd=folder)
     except subprocess.TimeoutExpired:
         return {"": "timeout"}, f"does not end within {SECONDS} s"
     told = outcome(result)
@@ -78,13 +94,17 @@ def main():
     executables = {os.path.splitext(os.path.basename(path))[0]: path
                    for path in sorted(glob.glob(os.path.join(os.path.abspath(build), "tests", "**", "tst_*.exe"),
                                                 recursive=True))}
+    executables = {name: path for name, path in executables.items()
+                   if name not in reasons and (not wanted or name in wanted)}
+    on_screen = screens(build)
     rows, faults = [], []
     with Wine(variables=VARIABLES) as wine:
         variables = environment(qt, libraries)
-        for name, executable in executables.items():
-            if name in reasons or (wanted and name not in wanted):
-                continue
-            failed, sentence = run(wine, executable, variables)
+        workers = ThreadPoolExecutor(os.cpu_count())
+        runs = {name: workers.submit(run, wine, executable, variables, on_screen.get(name))
+                for name, executable in executables.items()}
+        for name, ended in runs.items():
+            failed, sentence = ended.result()
             expected = {key.partition("::")[2]: reason for key, reason in reasons.items()
                         if key.startswith(name + "::")}
             faults += [f"{name}::{function}: {message}" for function, message in failed.items()
