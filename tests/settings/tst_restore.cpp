@@ -9,6 +9,8 @@
 #include "support/TestMain.h"
 #include "system/FileReplace.h"
 
+#include <QDir>
+
 class TestRestore : public TestCase
 {
     Q_OBJECT
@@ -155,7 +157,7 @@ void TestRestore::theLineSaysWhatCameBackAndWhereTheOtherIs()
     test.restore(backup);
     QCOMPARE(test.said(),
         QStringLiteral("Restored 35 tasks from \"%1\"; what was there before is in data.dat.before-restore")
-            .arg(backup));
+            .arg(QDir::toNativeSeparators(backup)));
 }
 
 void TestRestore::theLineCountsOneTaskAndNone()

@@ -1,5 +1,6 @@
 #include "settings/SettingsPageUnderTest.h"
 #include "support/TestMain.h"
+#include "system/ProgramFolder.h"
 #include "widgets/LinkLabel.h"
 
 #include <QAccessible>
@@ -246,7 +247,7 @@ void TestSettingsPage::checkingStartWithWindowsWritesTheRunEntry()
     SettingsPageUnderTest test;
     test.box("chkStartWithWin")->setChecked(true);
     test.press("btnSave");
-    QCOMPARE(test.runEntry(), QFile::encodeName(test.database.folder() + QStringLiteral("/Ambertask")));
+    QCOMPARE(test.runEntry(), executableIn(test.database.folder()).toLocal8Bit());
     QCOMPARE(test.registry.runEntry("Ambertask").type, RegistryValues::Text);
 }
 
