@@ -61,7 +61,7 @@ def outcome(result):
     try:
         with open(result, encoding="utf-8", errors="replace") as file:
             # Names of data may hold what XML must not.
-            suite = xml.fromstring(re.sub("[^\t\n\x20-\ufffd]|&#[^;]*;", "?", file.read()))
+            suite = xml.fromstring(re.sub("[^\t\n\x20-\ufffd]|&#x0*[01]?[0-9A-Fa-f];", "?", file.read()))
     except (OSError, xml.ParseError):
         return None
     cases = suite.findall("testcase")
