@@ -13,7 +13,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <array>
-#include <cerrno>
 
 namespace
 {
@@ -32,9 +31,12 @@ public:
         : m_path(QFileInfo(dataFile).absolutePath() + QStringLiteral("/.restore"))
     {
         remove();
+        if (const std::error_code error = makePrivateFolder(m_path)) {
+            throw FileError(m_path, FileError::reason(error));
+        }
         // The umask must not take away the owner's permissions.
-        if (!QDir().mkdir(m_path, PrivateFolder) || !QFile::setPermissions(m_path, PrivateFolder)) {
-            throw FileError(m_path, FileError::reason(errno));
+        if (QFile folder(m_path); !folder.setPermissions(PrivateFolder)) {
+            throw FileError(m_path, FileError::reason(folder));
         }
     }
     ~CheckingFolder() { remove(); }

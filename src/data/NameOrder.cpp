@@ -1,6 +1,7 @@
 #include "data/NameOrder.h"
 
 #include "store/UnicodeCollation.h"
+#include "system/Collation.h"
 
 namespace
 {
@@ -24,5 +25,5 @@ NameOrder::NameOrder(const QLocale& locale) : m_collator(locale)
 
 QCollatorSortKey NameOrder::key(std::string_view name) const
 {
-    return m_collator.sortKey(foldedBeginning(name, MostCharacters));
+    return sortKey(m_collator, foldedBeginning(name, MostCharacters));
 }

@@ -21,7 +21,7 @@ bool createFile(QFile& file, QFileDevice::Permissions permissions);
 /// `file`.
 bool keepToOwner(QFile& file);
 /// Makes a folder that is private, as far as the umask leaves the owner's permissions.
-bool makePrivateFolder(const QString& path);
+std::error_code makePrivateFolder(const QString& path);
 /// Removes the permissions of everyone but the owner. Quietly does nothing where there is no regular file
 /// of that name (links are not followed) or where the system refuses.
 void makePrivate(const QString& path);

@@ -224,8 +224,9 @@ void makeFolder(const QString& path)
     }
     makeFolder(QFileInfo(path).absolutePath());
     // Another process may be making it at the same time.
-    if (!makePrivateFolder(path) && !QFileInfo(path).isDir()) {
-        fail(path, qt_error_string());
+    const std::error_code error = makePrivateFolder(path);
+    if (error && !QFileInfo(path).isDir()) {
+        fail(path, error);
     }
     flushFolderOf(path);
 }

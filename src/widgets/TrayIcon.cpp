@@ -1,6 +1,7 @@
 #include "widgets/TrayIcon.h"
 
 #include "widgets/BadgedIcon.h"
+#include "widgets/WindowManager.h"
 
 #include <QMenu>
 #include <QSystemTrayIcon>
@@ -18,10 +19,9 @@ void TrayIcon::add(const QIcon& icon, const QString& name, QMenu* menu)
     m_icon->setToolTip(name);
     m_icon->setContextMenu(menu);
     connect(m_icon, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
-        // A StatusNotifierItem host draws the icon itself and reports neither its geometry nor double
-        // clicks (that protocol has none).
-        const bool drawnByHost = m_icon->geometry().isEmpty();
-        if (reason == QSystemTrayIcon::DoubleClick || (drawnByHost && reason == QSystemTrayIcon::Trigger)) {
+        const bool isSingleClickEnough = !tellsDoubleClicks(m_icon->geometry());
+        if (reason == QSystemTrayIcon::DoubleClick
+            || (isSingleClickEnough && reason == QSystemTrayIcon::Trigger)) {
             emit activated();
         }
     });

@@ -1,5 +1,6 @@
 #pragma once
 
+class QRect;
 class QWindow;
 
 // What Qt offers no call for. Interface thread only.
@@ -25,3 +26,6 @@ void putInFront(QWindow& window);
 void setStaysOnTop(QWindow& window, bool on);
 /// Asks dialogs that the system shows for this thread to cancel: they do not see that event loops are left.
 void cancelSystemDialogs();
+/// Whether the desktop tells of double clicks on the icon of the notification area, whose place on the
+/// screen is given; empty where that is not known.
+bool tellsDoubleClicks(const QRect& trayIcon);

@@ -74,6 +74,7 @@ class NameOrderTest : public TestCase
 private slots:
     void namesStandWhereReadersLookThemUp_data();
     void namesStandWhereReadersLookThemUp();
+    void lettersOfAnotherScriptStandTogether();
     void theListFollowsTheLocaleOfTheSystem();
     void namesThatTheEngineTakesForTheSameKeepTheirOrder();
     void namesThatSortAlikeAreStillDifferent();
@@ -102,9 +103,13 @@ void NameOrderTest::namesStandWhereReadersLookThemUp_data()
     QTest::newRow("Spanish") << "es_ES"
                              << QStringList{
                                     QStringLiteral("nube"), QStringLiteral(u"ñandú"), QStringLiteral("oso")};
-    QTest::newRow("Chinese by sound") << "zh_CN"
-                                      << QStringList{QStringLiteral(u"北京"), QStringLiteral(u"上海"),
-                                             QStringLiteral(u"中文"), QStringLiteral("a")};
+    QTest::newRow("Chinese by sound")
+        << "zh_CN" << QStringList{QStringLiteral(u"北京"), QStringLiteral(u"上海"), QStringLiteral(u"中文")};
+    QTest::newRow("numbers and letters")
+        << "en_US"
+        << QStringList{QStringLiteral("Task"), QStringLiteral("Task 7"), QStringLiteral("Task 007b"),
+               QStringLiteral("Task 12345678"), QStringLiteral("Task 123456789"),
+               QStringLiteral("Task 1234567890123456789"), QStringLiteral("Task a")};
     QTest::newRow("no locale") << "C"
                                << QStringList{QStringLiteral(u"Äpfel"), QStringLiteral("apple"),
                                       QStringLiteral("Task 9"), QStringLiteral("Task 10")};
@@ -120,6 +125,17 @@ void NameOrderTest::namesStandWhereReadersLookThemUp()
         aTask(database).named(*name).add();
     }
     QCOMPARE(listed(database), order);
+}
+
+void NameOrderTest::lettersOfAnotherScriptStandTogether()
+{
+    // Whether before or behind those of the locale's own script is the system's choice.
+    const UsedLocale used(QStringLiteral("zh_CN"));
+    TestDatabase database;
+    for (const char16_t* name : {u"北京", u"a", u"中文"}) {
+        aTask(database).named(QString::fromUtf16(name)).add();
+    }
+    QVERIFY(listed(database).indexOf(QStringLiteral("a")) != 1);
 }
 
 void NameOrderTest::theListFollowsTheLocaleOfTheSystem()

@@ -150,6 +150,8 @@ class Journey:
         self.wine.keys("ctrl+n", pause=1)
         self.bring_in_front("^Task Details$")
         self.wine.type("Call Anna")
+        self.wine.keys("Tab")
+        self.wine.type("Work")
         self.wine.picture("task dialog")
         self.wine.keys("Return")
         wait_until(lambda: self.task("Call Anna", "task_id"), "the task is in the data file")

@@ -17,6 +17,8 @@ from wine import Wine, windows_path
 HERE = os.path.dirname(os.path.abspath(__file__))
 FONTS = "/usr/share/fonts/truetype/dejavu"
 SECONDS = 300
+VARIABLES = {"QT_QPA_PLATFORM": "offscreen", "QT_QPA_FONTDIR": windows_path(FONTS), "QT_HASH_SEED": "0",
+             "QTEST_FUNCTION_TIMEOUT": "1800000"}
 
 
 def known():
@@ -35,9 +37,7 @@ def environment(qt, libraries):
                               capture_output=True, text=True).stdout
     places = [os.path.join(qt, "bin"), os.path.join(libraries, "bin"), os.path.dirname(compiler),
               "/usr/x86_64-w64-mingw32/lib"]
-    return {"WINEPATH": ";".join(map(windows_path, places)), "QT_PLUGIN_PATH": windows_path(os.path.join(qt, "plugins")),
-            "QT_QPA_PLATFORM": "offscreen", "QT_QPA_FONTDIR": windows_path(FONTS), "QT_HASH_SEED": "0",
-            "TZ": "Europe/London", "QTEST_FUNCTION_TIMEOUT": "1800000"}
+    return {"WINEPATH": ";".join(map(windows_path, places)), "TZ": "Europe/London"}
 
 
 def outcome(result):
@@ -79,7 +79,7 @@ def main():
                    for path in sorted(glob.glob(os.path.join(os.path.abspath(build), "tests", "**", "tst_*.exe"),
                                                 recursive=True))}
     rows, faults = [], []
-    with Wine() as wine:
+    with Wine(variables=VARIABLES) as wine:
         variables = environment(qt, libraries)
         for name, executable in executables.items():
             if name in reasons or (wanted and name not in wanted):

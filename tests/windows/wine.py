@@ -10,13 +10,21 @@ SCREEN = "1280x900"
 DESKTOP = "1280x880"
 # Sounds go into a file; nobody hears them.
 SOUND = 'pcm.!default {{ type file file "{file}" format wav slave.pcm "null" }}\nctl.!default {{ type null }}\n'
-# Wine has no fonts of its own for dialogs.
-FONTS = """REGEDIT4
+# Families that every Windows has and Wine has not: Qt would take the first one of the alphabet for them.
+REGISTRY = """REGEDIT4
+
+[HKEY_CURRENT_USER\\Environment]
+{variables}
 
 [HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows NT\\CurrentVersion\\FontSubstitutes]
 "MS Shell Dlg"="Liberation Sans"
 "MS Shell Dlg 2"="Liberation Sans"
+
+[HKEY_CURRENT_USER\\Software\\Wine\\Fonts\\Replacements]
+"Arial"="Liberation Sans"
 "Segoe UI"="Liberation Sans"
+"Tahoma"="Liberation Sans"
+"MS Shell Dlg 2"="Liberation Sans"
 """
 
 
@@ -38,7 +46,8 @@ def windows_path(path):
 
 
 class Wine:
-    def __init__(self, pictures=None):
+    def __init__(self, pictures=None, variables=None):
+        """`variables` are set for all programs, by the registry: Wine keeps those of Qt back."""
         self.folder = tempfile.mkdtemp(prefix="ambertask-wine-")
         self.home = os.path.join(self.folder, "home")
         self.prefix = os.path.join(self.folder, "prefix")
@@ -63,10 +72,11 @@ class Wine:
             "DISPLAY": display, "TZ": "UTC", "LC_ALL": "C.UTF-8"}
         self.run("wineboot", "-i", seconds=300)
         self.run("winecfg", "-v", "win10", seconds=300)
-        fonts = os.path.join(self.folder, "fonts.reg")
-        with open(fonts, "w", encoding="ascii") as file:
-            file.write(FONTS)
-        self.run("regedit", windows_path(fonts))
+        registry = os.path.join(self.folder, "registry.reg")
+        lines = [f'"{name}"="{value}"'.replace("\\", "\\\\") for name, value in (variables or {}).items()]
+        with open(registry, "w", encoding="ascii") as file:
+            file.write(REGISTRY.format(variables="\n".join(lines)))
+        self.run("regedit", windows_path(registry))
 
     def __enter__(self):
         return self

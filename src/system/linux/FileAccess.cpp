@@ -21,9 +21,10 @@ bool keepToOwner(QFile& file)
     return file.setPermissions(PrivateFile);
 }
 
-bool makePrivateFolder(const QString& path)
+std::error_code makePrivateFolder(const QString& path)
 {
-    return QDir().mkdir(path, PrivateFolder);
+    return QDir().mkdir(path, PrivateFolder) ? std::error_code()
+                                             : std::error_code(errno, std::system_category());
 }
 
 void makePrivate(const QString& path)

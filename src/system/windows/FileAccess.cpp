@@ -62,10 +62,12 @@ bool keepToOwner(QFile& /*file*/)
     return true;
 }
 
-bool makePrivateFolder(const QString& path)
+std::error_code makePrivateFolder(const QString& path)
 {
     const OwnerOnly security(OwnerOnly::Of::Folder);
-    return CreateDirectoryW(nativePath(path).c_str(), isTakenAlong(path) ? nullptr : security.attributes());
+    return CreateDirectoryW(nativePath(path).c_str(), isTakenAlong(path) ? nullptr : security.attributes())
+        ? std::error_code()
+        : systemError();
 }
 
 void makePrivate(const QString& path)

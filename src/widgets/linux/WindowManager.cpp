@@ -201,3 +201,10 @@ void cancelSystemDialogs()
 {
     // All boxes are ours.
 }
+
+bool tellsDoubleClicks(const QRect& trayIcon)
+{
+    // A StatusNotifierItem host draws the icon itself and reports neither its geometry nor double clicks
+    // (that protocol has none).
+    return !trayIcon.isEmpty();
+}

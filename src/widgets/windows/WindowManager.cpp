@@ -91,3 +91,9 @@ void cancelSystemDialogs()
 {
     EnumThreadWindows(GetCurrentThreadId(), cancelIfDialog, 0);
 }
+
+bool tellsDoubleClicks(const QRect& /*trayIcon*/)
+{
+    // Windows does so wherever the icon is, and before the double click of a single one.
+    return true;
+}
