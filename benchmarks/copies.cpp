@@ -9,6 +9,7 @@
 #include "support/TaskFile.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -44,19 +45,23 @@ int main(int argc, char** argv)
     const auto change = [&](const DatabaseEngine& engine) {
         TaskChanges::setStatus(engine, {1}, ++status % 3);
     };
-    const auto firstOfTheDay = [&] {
-        for (const KeptCopy& kept : KeptCopies(full.engine()).list()) {
-            QFile::remove(kept.path);
+    const auto emptied = [&](const char* name) {
+        QDir folder(full.folder() + QLatin1Char('/') + QLatin1String(name));
+        for (const QString& former : folder.entryList(QDir::Files)) {
+            folder.remove(former);
         }
+        return folder;
+    };
+    QDir(full.folder()).mkdir(QStringLiteral("plain"));
+    const auto firstOfTheDay = [&] {
+        emptied("copies");
         DayCopy day(full.engine(), [](const QString&) {});
         DatabaseEngine engine = full.engine();
         engine.copies = &day;
         change(engine);
     };
     const auto anyOtherAndAPlainCopy = [&] {
-        const QString target = full.folder() + QStringLiteral("/plain");
-        QFile::remove(target);
-        plainCopy(full.path(), target);
+        plainCopy(full.path(), emptied("plain").filePath(QStringLiteral("copy")));
         change(full.engine());
     };
     bench.ratio(

@@ -38,6 +38,8 @@ def fill(data_file, tasks, due=None, **settings):
     connection = sqlite3.connect(data_file)
     with connection:
         connection.execute("delete from tasks")
+        # High ids would be given anew by the next start.
+        connection.execute("delete from sqlite_sequence where name='tasks'")
         connection.execute(FILL, (tasks,))
         if due is not None:
             connection.execute("update tasks set task_due_date=?", (due,))

@@ -88,6 +88,8 @@ void UndoBar::showSteps()
     m_redo->setVisible(!undone.isEmpty());
     m_redo->setToolTip(undone.isEmpty() ? QString() : tipFor(undone, Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
     say(done);
+    // The buttons stay, so what they are about does, too.
+    m_line->setStanding(done.isEmpty() ? tr("Undone: %1").arg(undone) : done);
 }
 
 void UndoBar::say(const QString& text)

@@ -181,7 +181,7 @@ void TodoReading::readCategories(const ContentLine& line)
 void TodoReading::readStatus(const ContentLine& line)
 {
     m_status = line.value;
-    if (line.value != statusWord(statusOfWord(line.value))) {
+    if (line.value != wordOfStatus(statusOfWord(line.value))) {
         keep(line.text);
     }
 }

@@ -22,7 +22,7 @@ constexpr int LowNumber = 9;
 
 } // namespace
 
-std::string_view statusWord(qint32 status)
+std::string_view wordOfStatus(qint32 status)
 {
     switch (status) {
     case TaskStatus::InProgress:
@@ -69,7 +69,7 @@ qint32 statusOfWords(std::string_view word, std::string_view own)
     } else if (equalsIgnoringCase(own, DeferredTask)) {
         status = TaskStatus::Deferred;
     }
-    return status && equalsIgnoringCase(statusWord(*status), word) ? *status : statusOfWord(word);
+    return status && equalsIgnoringCase(wordOfStatus(*status), word) ? *status : statusOfWord(word);
 }
 
 int priorityNumber(qint32 periority)

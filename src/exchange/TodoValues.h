@@ -39,7 +39,7 @@ inline constexpr std::string_view Assumed = "X-AMBERTASK-ASSUMED";
 } // namespace OwnParameter
 
 /// The word of iCalendar for a status.
-std::string_view statusWord(qint32 status);
+std::string_view wordOfStatus(qint32 status);
 /// Our own word beside it; empty where iCalendar's says it all.
 std::string ownStatusWord(qint32 status);
 /// The status of iCalendar's word; "not started" for one that is unknown.

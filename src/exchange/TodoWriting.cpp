@@ -200,7 +200,7 @@ void TodoWriting::writeRepeat()
 
 void TodoWriting::writeStatus(const std::string& stamp)
 {
-    writeUnlessKept("STATUS", statusWord(m_task.status));
+    writeUnlessKept("STATUS", wordOfStatus(m_task.status));
     if (const std::string own = ownStatusWord(m_task.status); !own.empty()) {
         line(OwnProperty::Status, own);
     }

@@ -100,6 +100,10 @@ ChangeSet ChangeSet::inverted() const
 
 void ChangeSet::append(const ChangeSet& later)
 {
+    if (isEmpty()) {
+        *this = later;
+        return;
+    }
     int size = 0;
     void* bytes = nullptr;
     requireMemory(

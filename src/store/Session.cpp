@@ -230,6 +230,7 @@ void Session::begin()
         requireSound();
         *known = true;
     }
+    m_checkedTables.clear();
     const int code = executeOwn("BEGIN IMMEDIATE");
     if (code != SQLITE_OK) {
         failStorage(tr("The data file \"%1\" could not be written: %2.").arg(m_path, reason(code)));
@@ -288,6 +289,10 @@ void Session::requireSound()
 
 void Session::requireEveryRecordStays(const std::string& table)
 {
+    // Nobody changes the definitions while the transaction is open.
+    if (m_checkedTables.count(table) > 0) {
+        return;
+    }
     int failure = SQLITE_OK;
     const bool may = asOwn([&] { return mayDropRecords(m_database, table, failure); });
     if (may || failure != SQLITE_OK) {
@@ -297,6 +302,7 @@ void Session::requireEveryRecordStays(const std::string& table)
                                       .arg(QString::fromStdString(table))
                                 : reason(failure)));
     }
+    m_checkedTables.insert(table);
 }
 
 void Session::commit()

@@ -90,5 +90,6 @@ private:
     std::string m_now;
     std::string m_written; ///< the table that the statement inserts into or updates
     bool m_runsOwnStatement = false;
+    std::set<std::string> m_checkedTables; ///< in the open transaction, that no rule drops their records
     bool m_undone = false;
 };

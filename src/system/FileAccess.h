@@ -20,7 +20,8 @@ bool createFile(QFile& file, QFileDevice::Permissions permissions);
 /// Gives the owner of a new private file all permissions, and nobody else any. False with the reason in
 /// `file`.
 bool keepToOwner(QFile& file);
-/// Makes a folder that is private, as far as the umask leaves the owner's permissions.
+/// Makes a folder that is private, as far as the umask leaves the owner's permissions. Returns why it could
+/// not.
 std::error_code makePrivateFolder(const QString& path);
 /// Removes the permissions of everyone but the owner. Quietly does nothing where there is no regular file
 /// of that name (links are not followed) or where the system refuses.

@@ -44,6 +44,15 @@ QString descriptionOf(const QString& text)
     return text.mid(begin, end - begin);
 }
 
+/// `entered` becomes `now` when the user has left it and others have not.
+template <typename Entered, typename Stored>
+void follow(Entered& entered, const Entered& filled, const Stored& before, const Stored& now)
+{
+    if (entered == filled && before != now) {
+        entered = now;
+    }
+}
+
 } // namespace
 
 QString TaskInput::unsavedText(const TaskInput& filled) const
@@ -51,6 +60,31 @@ QString TaskInput::unsavedText(const TaskInput& filled) const
     const QString name = nameOf(isBlank(taskName) ? filled.taskName : taskName);
     return name.isEmpty() ? tr("The changes to the task are not saved.")
                           : tr("The changes to '%1' are not saved.").arg(name);
+}
+
+void TaskInput::followOthers(const TaskInput& filled, const ClsTask& loaded, const ClsTask& stored)
+{
+    // As they are stored: nearly always they are the same, and a long text is not converted for that.
+    if (loaded.taskNameUtf8() != stored.taskNameUtf8()) {
+        follow(taskName, filled.taskName, loaded.TaskName(), stored.TaskName());
+    }
+    if (loaded.descriptionUtf8() != stored.descriptionUtf8()) {
+        follow(description, filled.description, loaded.Description(), stored.Description());
+    }
+    follow(categoryId, filled.categoryId, loaded.CategoryId(), stored.CategoryId());
+    follow(status, filled.status, loaded.status(), stored.status());
+    follow(periority, filled.periority, loaded.Periority(), stored.Periority());
+    if (!loaded.repeat() && !stored.repeat()) {
+        follow(due, filled.due, toMinute(loaded.DueDateTime()), toMinute(stored.DueDateTime()));
+    }
+    if (hasSound == filled.hasSound) {
+        follow(sound, filled.sound, loaded.ReminderSound(), stored.ReminderSound());
+        hasSound = hasSound || (sound != filled.sound && !isBlank(sound));
+    }
+    if (hasFile == filled.hasFile) {
+        follow(file, filled.file, loaded.ReminderFile(), stored.ReminderFile());
+        hasFile = hasFile || (file != filled.file && !isBlank(file));
+    }
 }
 
 void TaskInput::followReminder(EditedTask& edited, const ClsTask& stored)

@@ -45,6 +45,10 @@ struct TaskInput {
 
     /// The question before this input is discarded; `filled` is what the dialog was filled with.
     QString unsavedText(const TaskInput& filled) const;
+    /// Takes over what has become of the stored task since it was loaded, in the fields that the user has
+    /// left as they were; `filled` is what the dialog was filled with. Reminder and repetition have functions
+    /// of their own.
+    void followOthers(const TaskInput& filled, const ClsTask& loaded, const ClsTask& stored);
     /// If the user has left the reminder as it was loaded, takes over what the alert has done to the stored
     /// one since, in `edited` as well: that is no change by the user.
     void followReminder(EditedTask& edited, const ClsTask& stored);

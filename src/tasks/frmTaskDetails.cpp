@@ -127,6 +127,7 @@ void frmTaskDetails::EmptyForm()
     setPath(*m_controls.chkReminderSound, *m_controls.txtReminderSound, {});
     enableReminderControls();
     m_edited.reset();
+    m_loaded.reset();
     m_moments.forget();
     m_repeat.reset();
     noteFilled();
@@ -141,6 +142,7 @@ void frmTaskDetails::SetTag(qint16 Id)
     EmptyForm();
     m_edited =
         EditedTask{Id, task->ReminderOn(), task->reminderDateTime(), task->DueDateTime(), task->repeat()};
+    m_loaded = task;
     fillFrom(*task);
 }
 
@@ -300,6 +302,7 @@ qint32 frmTaskDetails::store(TaskInput entered) const
         // An update would change no row, and the input would be lost unnoticed.
         throw RuntimeError(tr("The task no longer exists."));
     }
+    entered.followOthers(*m_filled, *m_loaded, *stored);
     entered.followReminder(*task, *stored);
     entered.followRepeat(*task, *stored);
     entered.toTask(engine, task).Update();

@@ -87,6 +87,7 @@ private:
     MomentsByHand m_moments;
     RepeatByHand m_repeat;
     std::optional<EditedTask> m_edited; ///< none for a new task
+    std::optional<ClsTask> m_loaded; ///< the same task as it was stored then
     /// Empty while the form holds nothing that could be lost.
     std::optional<TaskInput> m_filled;
 };

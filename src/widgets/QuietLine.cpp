@@ -75,6 +75,9 @@ void QuietLine::say(const QString& text)
     fit();
     tell(QAccessible::NameChanged);
     if (!m_said.isEmpty()) {
+        if (m_pause != nullptr) {
+            m_pause->stop();
+        }
         qApp->installEventFilter(this);
         tell(QAccessible::ObjectShow);
         tell(QAccessible::Alert);
@@ -96,16 +99,17 @@ void QuietLine::setStanding(const QString& text)
             tell(QAccessible::Alert);
         });
     }
+    if (!m_said.isEmpty()) {
+        return;
+    }
     if (text.isEmpty()) {
         m_pause->stop();
         tell(QAccessible::ObjectHide);
     } else {
         m_pause->start();
     }
-    if (m_said.isEmpty()) {
-        fit();
-        tell(QAccessible::NameChanged);
-    }
+    fit();
+    tell(QAccessible::NameChanged);
 }
 
 void QuietLine::tell(int kind)

@@ -21,7 +21,7 @@ public:
     /// What was said and not cleared since.
     QString said() const { return m_said; }
     /// Shows `text` whenever nothing is said; keys and clicks leave it. Empty for nothing. As it may change
-    /// with every key, it is announced only once it stays the same for a moment.
+    /// with every key, it is announced only once it is shown unchanged for a moment.
     void setStanding(const QString& text);
     /// The whole text shown now, said or standing.
     const QString& shown() const { return m_said.isEmpty() ? m_standing : m_said; }

@@ -67,6 +67,19 @@ private slots:
         QCOMPARE(f.said(), QStringLiteral("1 task deleted"));
     }
 
+    void theBarSaysWhatItTakesBackAsLongAsItIsThere()
+    {
+        UndoingProgram f;
+        f.deleteRow(0);
+        auto* line = f.control<QuietLine>(f.main(), "lblUndo");
+        auto* undo = f.control<QPushButton>(f.main(), "btnUndo");
+        QTest::keyClick(undo, Qt::Key_Home);
+        QCOMPARE(line->shown(), QStringLiteral("1 task deleted"));
+        f.pressUndo();
+        QTest::keyClick(undo, Qt::Key_Home);
+        QCOMPARE(line->shown(), QStringLiteral("Undone: 1 task deleted"));
+    }
+
     void aDismissedReminderComesBackIntoTheAlert()
     {
         UndoingProgram f;

@@ -234,6 +234,21 @@ private slots:
         window.line->setStanding({});
         QVERIFY(!pause->isActive());
     }
+
+    void aStandingTextIsReadOutOnlyWhereItIsShown()
+    {
+        Window window;
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        window.line->setStanding(QStringLiteral("2 tasks deleted"));
+        const auto* pause = window.line->findChild<QTimer*>();
+        window.line->say(QStringLiteral("1 task deleted"));
+        QVERIFY(!pause->isActive());
+        window.line->setStanding(QStringLiteral("1 task deleted"));
+        QVERIFY(!pause->isActive());
+        window.line->hush();
+        window.line->setStanding(QStringLiteral("3 tasks deleted"));
+        QVERIFY(pause->isActive());
+    }
 };
 
 AMBERTASK_TEST_MAIN(QuietLineTest)
