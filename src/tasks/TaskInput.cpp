@@ -77,14 +77,16 @@ void TaskInput::followOthers(const TaskInput& filled, const ClsTask& loaded, con
     if (!loaded.repeat() && !stored.repeat()) {
         follow(due, filled.due, toMinute(loaded.DueDateTime()), toMinute(stored.DueDateTime()));
     }
-    if (hasSound == filled.hasSound) {
-        follow(sound, filled.sound, loaded.ReminderSound(), stored.ReminderSound());
-        hasSound = hasSound || (sound != filled.sound && !isBlank(sound));
-    }
-    if (hasFile == filled.hasFile) {
-        follow(file, filled.file, loaded.ReminderFile(), stored.ReminderFile());
-        hasFile = hasFile || (file != filled.file && !isBlank(file));
-    }
+    const auto followPath = [](bool& has, QString& path, bool had, const QString& former,
+                                const QString& before, const QString& now) {
+        if (has == had && path == former && before != now) {
+            path = now;
+            has = !isBlank(now);
+        }
+    };
+    followPath(
+        hasSound, sound, filled.hasSound, filled.sound, loaded.ReminderSound(), stored.ReminderSound());
+    followPath(hasFile, file, filled.hasFile, filled.file, loaded.ReminderFile(), stored.ReminderFile());
 }
 
 void TaskInput::followReminder(EditedTask& edited, const ClsTask& stored)

@@ -47,6 +47,15 @@ void selectNumberIfListed(QComboBox& combo, qint32 number)
     }
 }
 
+std::optional<EditedTask> editedTask(const std::optional<ClsTask>& loaded)
+{
+    if (!loaded) {
+        return std::nullopt;
+    }
+    return EditedTask{loaded->Id(), loaded->ReminderOn(), loaded->reminderDateTime(), loaded->DueDateTime(),
+        loaded->repeat()};
+}
+
 } // namespace
 
 frmTaskDetails::frmTaskDetails(const FormServices& services, const TaskDetailsHost& host)
@@ -126,7 +135,6 @@ void frmTaskDetails::EmptyForm()
     setPath(*m_controls.chkReminderFile, *m_controls.txtReminderFile, {});
     setPath(*m_controls.chkReminderSound, *m_controls.txtReminderSound, {});
     enableReminderControls();
-    m_edited.reset();
     m_loaded.reset();
     m_moments.forget();
     m_repeat.reset();
@@ -140,8 +148,6 @@ void frmTaskDetails::SetTag(qint16 Id)
         throw RuntimeError(tr("The task no longer exists."));
     }
     EmptyForm();
-    m_edited =
-        EditedTask{Id, task->ReminderOn(), task->reminderDateTime(), task->DueDateTime(), task->repeat()};
     m_loaded = task;
     fillFrom(*task);
 }
@@ -260,7 +266,7 @@ void frmTaskDetails::btnOk_Click()
 bool frmTaskDetails::save()
 {
     const TaskInput entered = m_controls.input();
-    if (const auto refusal = entered.refusal(m_edited, m_services.clock.now())) {
+    if (const auto refusal = entered.refusal(editedTask(m_loaded), m_services.clock.now())) {
         m_services.messages.tell(this, MessageBoxes::Icon::Exclamation, refusal->message);
         controlOf(refusal->field)->setFocus();
         return false;
@@ -293,7 +299,7 @@ void frmTaskDetails::leave()
 qint32 frmTaskDetails::store(TaskInput entered) const
 {
     const DatabaseEngine& engine = m_services.engine;
-    std::optional<EditedTask> task = m_edited;
+    std::optional<EditedTask> task = editedTask(m_loaded);
     if (!task) {
         return entered.toTask(engine, task).Add();
     }
@@ -302,9 +308,10 @@ qint32 frmTaskDetails::store(TaskInput entered) const
         // An update would change no row, and the input would be lost unnoticed.
         throw RuntimeError(tr("The task no longer exists."));
     }
-    entered.followOthers(*m_filled, *m_loaded, *stored);
     entered.followReminder(*task, *stored);
     entered.followRepeat(*task, *stored);
+    // After the repetition, for which the user's own status counts.
+    entered.followOthers(*m_filled, *m_loaded, *stored);
     entered.toTask(engine, task).Update();
     return task->id;
 }

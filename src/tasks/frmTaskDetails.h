@@ -29,9 +29,9 @@ public:
     /// DatabaseError; then the form is as it was.
     void SetTag(qint16 Id);
     /// Keeps the input; the next OK stores it as a new task.
-    void forgetTask() { m_edited.reset(); }
+    void forgetTask() { m_loaded.reset(); }
     /// The decimal id of the edited task; empty for a new one.
-    QString tag() const { return m_edited ? QString::number(m_edited->id) : QString(); }
+    QString tag() const { return m_loaded ? QString::number(m_loaded->Id()) : QString(); }
     /// The name entered, in the form in which it is stored.
     QString taskName() const;
 
@@ -86,8 +86,7 @@ private:
     TaskDetailsControls m_controls;
     MomentsByHand m_moments;
     RepeatByHand m_repeat;
-    std::optional<EditedTask> m_edited; ///< none for a new task
-    std::optional<ClsTask> m_loaded; ///< the same task as it was stored then
+    std::optional<ClsTask> m_loaded; ///< the task that is edited, as it was stored then; none for a new one
     /// Empty while the form holds nothing that could be lost.
     std::optional<TaskInput> m_filled;
 };
