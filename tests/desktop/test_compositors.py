@@ -1,14 +1,11 @@
 """The program on the compositors of GNOME and KDE: a reminder is told by the desktop and takes nobody's keyboard."""
 import signal
-from datetime import datetime
 
 import names
-from case import DesktopCase, main
+import test_wayland
+from case import main
 from compositors import CompositorDesktop
-from notifier import NotifierArea
 from polling import holds_for, wait_until
-
-PAST = datetime(2020, 1, 1, 9, 0)
 
 
 class Compositor:
@@ -19,23 +16,13 @@ class Compositor:
 
     def setUp(self):
         super().setUp()
-        self.store.set(always_on_top=0, minimize_on_start=0, show_today_tasks=0, show_ballon_icon=1)
-        self.store.category("Work")
         self.serve_notifications()
         self.user = self.start()
         self.area.wait_item()
         self.wait_active(names.MAIN)
 
-    def serve_notifications(self):
-        self.area = NotifierArea(self.desk.environment["DBUS_SESSION_BUS_ADDRESS"])
-        self.addCleanup(self.area.close)
-
     def wait_active(self, title):
         wait_until(lambda: self.user.access.window(title).has("active"), f"window '{title}' is active")
-
-    def come_due(self, name):
-        task = self.store.add_task(name, reminder=PAST)
-        return task, self.area.wait_notification(names.alert_title(1))
 
     def test_a_reminder_is_told_while_the_dialog_stays_active(self):
         self.user.main().find(*names.ADD).press()
@@ -69,11 +56,11 @@ class Compositor:
         self.assertEqual(self.store.execute("pragma integrity_check"), [{"integrity_check": "ok"}])
 
 
-class MutterTest(Compositor, DesktopCase):
+class MutterTest(Compositor, test_wayland.WaylandCase):
     compositor = "mutter"
 
 
-class KwinTest(Compositor, DesktopCase):
+class KwinTest(Compositor, test_wayland.WaylandCase):
     compositor = "kwin"
 
 

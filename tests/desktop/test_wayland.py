@@ -24,6 +24,10 @@ class WaylandCase(DesktopCase):
         self.area = NotifierArea(self.desk.environment["DBUS_SESSION_BUS_ADDRESS"])
         self.addCleanup(self.area.close)
 
+    def come_due(self, name):
+        task = self.store.add_task(name, reminder=PAST)
+        return task, self.area.wait_notification(names.alert_title(1))
+
     def type_into_new_task(self, text):
         """Opens the task dialog and types a name into it; returns the box that holds it."""
         self.user.main().find(*names.ADD).press()
@@ -44,10 +48,6 @@ class NotificationTest(WaylandCase):
         self.user = self.start()
         self.area.wait_item()
         self.user.wait_loaded()
-
-    def come_due(self, name):
-        task = self.store.add_task(name, reminder=PAST)
-        return task, self.area.wait_notification(names.alert_title(1))
 
     def test_a_reminder_leaves_the_keyboard_where_it_is_and_is_answered_on_the_desktop(self):
         box = self.type_into_new_task("Call")
