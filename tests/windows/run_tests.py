@@ -79,8 +79,8 @@ def run(wine, executable, variables, screen=None):
     platform = ["-platform", "offscreen:configfile=" + os.path.relpath(screen, folder)] if screen else []
     try:
         # Wine takes its zone from the variable, which the C library of Windows would misread.
-        status, _ = wine.run("cmd", "/c", "set TZ=&&" + windows_path(executable), *platform, "-o", windows_path(result) + ",junitxml",
-                             seconds=SECONDS, environment=variables, cwd=folder)
+        status, _ = wine.run("cmd", "/c", "set TZ=&&" + windows_path(executable), *platform, "-o",
+                             windows_path(result) + ",junitxml", seconds=SECONDS, environment=variables, cwd=folder)
     except subprocess.TimeoutExpired:
         return {"": "timeout"}, f"does not end within {SECONDS} s"
     told = outcome(result)
