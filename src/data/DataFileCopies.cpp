@@ -4,6 +4,7 @@
 #include "data/DataFileCheck.h"
 #include "data/DataFileRoad.h"
 #include "data/KeptCopies.h"
+#include "data/RepeatRules.h"
 #include "store/DatabaseError.h"
 #include "store/RollbackJournal.h"
 #include "system/FileReplace.h"
@@ -185,6 +186,9 @@ void DataFileCopies::bringUp(Progress* progress) const
 {
     DatabaseEngine engine = *m_engine;
     engine.progress = progress;
+    if (engine.repeating != nullptr) {
+        engine.repeating->forget();
+    }
     try {
         if (isDataFileBehind(engine)) {
             backUpTo(resolvedPath(m_dataFile) + QLatin1String(OlderSuffix), progress);

@@ -73,10 +73,11 @@ struct Sight {
     bool isRepeating; ///< a task may repeat
 };
 
-Sight lookAt(Connection& connection, bool hasRepeats)
+Sight lookAt(Connection& connection)
 {
-    const RecordSet found = connection.execute(QString(Question).arg(
-        hasRepeats ? QLatin1String("SELECT EXISTS (SELECT 1 FROM repeats)") : QLatin1String("SELECT 0")));
+    const RecordSet found = connection.execute(QString(Question).arg(hasTable(connection, "repeats")
+            ? QLatin1String("SELECT EXISTS (SELECT 1 FROM repeats)")
+            : QLatin1String("SELECT 0")));
     return {found.flag(0), found.flag(1)};
 }
 
@@ -99,6 +100,14 @@ int knownVersion(Connection& connection)
     return version;
 }
 
+bool hasTable(Connection& connection, const char* name)
+{
+    return !connection
+                .execute(
+                    QStringLiteral("select name from sqlite_schema where name='%1'").arg(QLatin1String(name)))
+                .atEnd();
+}
+
 void refuseLaterDataFile(const DatabaseEngine& engine)
 {
     const DatabaseEngine own = unheard(engine);
@@ -112,8 +121,7 @@ bool somethingRepeats(const DatabaseEngine& engine)
     const DatabaseEngine own = unheard(engine);
     Connection connection = ClsDatabase(own).Connect();
     connection.open();
-    const int version = connection.execute(QStringLiteral("PRAGMA user_version")).int32(0);
-    return version >= DataFileVersion && lookAt(connection, true).isRepeating;
+    return lookAt(connection).isRepeating;
 }
 
 bool isDataFileBehind(const DatabaseEngine& engine)
@@ -122,7 +130,7 @@ bool isDataFileBehind(const DatabaseEngine& engine)
     Connection connection = ClsDatabase(own).Connect();
     connection.open();
     const int version = knownVersion(connection);
-    const Sight sight = lookAt(connection, version == DataFileVersion);
+    const Sight sight = lookAt(connection);
     tell(engine, sight);
     if (!sight.wantsNewIds && version == DataFileVersion) {
         return false;
@@ -144,7 +152,7 @@ void bringDataFileUp(const DatabaseEngine& engine)
             connection.alter(StepFrom[static_cast<std::size_t>(version)]);
         }
         noteVersion(connection, DataFileVersion);
-        sight = lookAt(connection, true);
+        sight = lookAt(connection);
         if (sight.wantsNewIds) {
             connection.alter(GiveNewIds);
         }

@@ -23,6 +23,8 @@ public:
 
 /// The version of the file that is open. Throws LaterDataFileError, too.
 int knownVersion(Connection& connection);
+/// Whether the file that is open has the table, which one of an earlier version may lack.
+bool hasTable(Connection& connection, const char* name);
 /// Throws LaterDataFileError, too.
 void refuseLaterDataFile(const DatabaseEngine& engine);
 /// Whether a task of the data file may repeat, which other processes may have changed.

@@ -36,10 +36,13 @@ bool isUsable(const std::string& rule);
 class Repeating
 {
 public:
-    /// Whether the data file may hold a task that repeats: otherwise nothing is asked about it.
-    bool isUsed() const { return m_isUsed; }
+    /// Whether the data file may hold a task that repeats: otherwise nothing is asked about it. None when
+    /// that has to be looked up.
+    std::optional<bool> isUsed() const { return m_isUsed; }
     void setUsed(bool used) { m_isUsed = used; }
+    /// The data file may be another one.
+    void forget() { m_isUsed.reset(); }
 
 private:
-    bool m_isUsed = false;
+    std::optional<bool> m_isUsed;
 };

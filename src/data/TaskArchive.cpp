@@ -2,6 +2,7 @@
 
 #include "data/ClsDatabase.h"
 #include "data/ClsTask.h"
+#include "data/DataFileRoad.h"
 #include "data/RecordReading.h"
 #include "data/SqlText.h"
 #include "data/TaskRecordRows.h"
@@ -38,14 +39,6 @@ constexpr qint64 LastId = std::numeric_limits<qint16>::max();
 /// SQLite limits the length of a compiled statement (see Hardening.cpp); a row takes some twenty steps.
 constexpr qsizetype MostRowsOfAStatement = 500;
 constexpr qsizetype MostLettersOfAStatement = qsizetype(64) * 1024;
-
-bool hasTable(Connection& connection, const char* name)
-{
-    return !connection
-                .execute(
-                    QStringLiteral("select name from sqlite_schema where name='%1'").arg(QLatin1String(name)))
-                .atEnd();
-}
 
 bool hasOrigins(Connection& connection)
 {

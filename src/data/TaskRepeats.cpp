@@ -6,6 +6,8 @@
 #include "store/DatabaseError.h"
 #include "store/ForeignChanges.h"
 
+#include <QCoreApplication>
+
 namespace
 {
 
@@ -18,11 +20,13 @@ bool TaskRepeats::isAny(const DatabaseEngine& engine)
     if (engine.repeating == nullptr) {
         return false;
     }
+    const std::optional<bool> known = engine.repeating->isUsed();
     // The first rule may have come from another process since the last check.
-    if (!engine.repeating->isUsed() && engine.foreign != nullptr && engine.foreign->arePending()) {
+    const bool isOutdated = known == false && engine.foreign != nullptr && engine.foreign->arePending();
+    if (!known || isOutdated) {
         engine.repeating->setUsed(somethingRepeats(engine));
     }
-    return engine.repeating->isUsed();
+    return *engine.repeating->isUsed();
 }
 
 std::map<qint32, Repeat> TaskRepeats::all(const DatabaseEngine& engine)
@@ -69,10 +73,16 @@ std::optional<Repeat> TaskRepeats::of(const DatabaseEngine& engine, Connection& 
 
 void TaskRepeats::store(const DatabaseEngine& engine, Connection& connection, qint32 id, const Repeat& repeat)
 {
-    engine.repeating->setUsed(true);
+    if (engine.repeating->isUsed() != true && !hasTable(connection, "repeats")) {
+        throw RuntimeError(QCoreApplication::translate("TaskRepeats",
+            "Tasks cannot repeat in this data file, which is of an earlier version and could not be "
+            "upgraded. "
+            "The next start of Ambertask tries it again."));
+    }
     connection.execute(
         QStringLiteral("insert or replace into repeats(of_task,rule,first_moment,lead,done) values(%1)")
             .arg(sqlRepeat(id, repeat)));
+    engine.repeating->setUsed(true);
 }
 
 void TaskRepeats::remove(Connection& connection, qint32 id)

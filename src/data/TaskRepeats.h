@@ -27,7 +27,8 @@ std::optional<Repeat> of(const DatabaseEngine& engine, Connection& connection, q
 
 // Parts of an operation on an open connection:
 
-/// `engine` is one with Repeating.
+/// `engine` is one with Repeating. Throws RuntimeError, and stores nothing, when the data file has no room
+/// for it, being of an earlier version.
 void store(const DatabaseEngine& engine, Connection& connection, qint32 id, const Repeat& repeat);
 void remove(Connection& connection, qint32 id);
 /// The rows of tasks that are gone. Only in an operation that can be taken back: a deletion before it may be.

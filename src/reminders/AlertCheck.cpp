@@ -71,8 +71,7 @@ void frmAlerts::check(bool isOvertaken)
 
 void frmAlerts::countTimes()
 {
-    const Repeating* repeating = m_services.engine.repeating;
-    if (repeating == nullptr || !repeating->isUsed() || m_reminders.rowCount() == 0) {
+    if (m_reminders.rowCount() == 0 || !TaskRepeats::isAny(m_services.engine)) {
         return;
     }
     const std::map<qint32, Repeat> repeats = TaskRepeats::all(m_services.engine);

@@ -1,7 +1,12 @@
 #include "RepeatsUnderTest.h"
 #include "data/ClsDatabase.h"
+#include "data/DataFileCopies.h"
 #include "data/DataFileRoad.h"
+#include "data/TaskChanges.h"
 #include "data/TaskCodes.h"
+#include "support/CaughtError.h"
+#include "support/OlderDataFile.h"
+#include "support/OtherProgram.h"
 #include "support/TestMain.h"
 
 #include <QTest>
@@ -21,6 +26,9 @@ private slots:
     void anEditedTaskCeasesToRepeat();
     void aCompletedTaskOfTheDialogMovesOn();
     void othersMayMakeSomethingRepeat();
+    void aFileThatWasLockedAtTheStartIsAskedLater();
+    void aFileThatCouldNotBeUpgradedKeepsTheRulesThatItHas();
+    void aRuleIsRefusedWhereThereIsNoPlaceForItAndNothingElseFails();
     void missedRemindersAreCounted();
 };
 
@@ -129,6 +137,49 @@ void TestTaskRepeats::othersMayMakeSomethingRepeat()
     test.database.sql(QStringLiteral("drop table repeats; pragma user_version=3"));
     QVERIFY(!somethingRepeats(test.engine));
     QCOMPARE(test.database.statements().opened(), 0);
+}
+
+void TestTaskRepeats::aFileThatWasLockedAtTheStartIsAskedLater()
+{
+    RepeatsUnderTest test;
+    const qint32 id = test.add(test.now());
+    test.repeating.setUsed(false);
+    {
+        const OtherProgram other(test.database, OtherProgram::Committing);
+        QVERIFY(other.holds());
+        DataFileCopies(test.engine).bringUp();
+        QVERIFY_THROWS_EXCEPTION(RuntimeError, TaskRepeats::isAny(test.engine));
+    }
+    QVERIFY(TaskRepeats::of(test.engine, id));
+}
+
+void TestTaskRepeats::aFileThatCouldNotBeUpgradedKeepsTheRulesThatItHas()
+{
+    RepeatsUnderTest test;
+    const qint32 id = test.add(test.now());
+    test.database.sql(QStringLiteral("pragma user_version=0"));
+    const OtherProgram other(test.database, OtherProgram::Writing);
+    QVERIFY(other.holds());
+    DataFileCopies(test.engine).bringUp();
+    QVERIFY(TaskRepeats::of(test.engine, id));
+}
+
+void TestTaskRepeats::aRuleIsRefusedWhereThereIsNoPlaceForItAndNothingElseFails()
+{
+    RepeatsUnderTest test;
+    const auto id = static_cast<qint16>(aTask(test.database).add());
+    makeOlder(test.database);
+    ClsTask task = *ClsTask(test.engine).GetTaskById(id);
+    task.setRepeat(Repeat{"FREQ=DAILY", test.now(), 0min, 0});
+    task.setTaskName(QStringLiteral("other"));
+    const auto error = caught<RuntimeError>([&] { task.Update(); });
+    QVERIFY(error && error->text().startsWith(QLatin1String("Tasks cannot repeat in this data file")));
+    task = *ClsTask(test.engine).GetTaskById(id);
+    QVERIFY(!task.repeat() && task.TaskName() != QLatin1String("other"));
+    task.setTaskName(QStringLiteral("other"));
+    task.Update();
+    TaskChanges::complete(test.engine, {id});
+    QCOMPARE(ClsTask(test.engine).GetTaskById(id)->status(), TaskStatus::Completed);
 }
 
 void TestTaskRepeats::missedRemindersAreCounted()

@@ -1,39 +1,9 @@
 #include "AlertsFixture.h"
+#include "support/OtherProgram.h"
 #include "support/TestMain.h"
 
 #include <QFile>
 #include <QTest>
-#include <sqlite3.h>
-
-namespace
-{
-
-/// Another program that holds the data file in the way of `statements` while this lives.
-class OtherProgram
-{
-public:
-    OtherProgram(const TestDatabase& database, const char* statements)
-    {
-        m_holds = sqlite3_open_v2(QFile::encodeName(database.dataFile()).constData(), &m_handle,
-                      SQLITE_OPEN_READWRITE, nullptr)
-                == SQLITE_OK
-            && sqlite3_exec(m_handle, statements, nullptr, nullptr, nullptr) == SQLITE_OK;
-    }
-    ~OtherProgram() { sqlite3_close(m_handle); }
-    OtherProgram(const OtherProgram&) = delete;
-    OtherProgram& operator=(const OtherProgram&) = delete;
-    bool holds() const { return m_holds; }
-
-private:
-    sqlite3* m_handle = nullptr;
-    bool m_holds = false;
-};
-
-constexpr char LocksAll[] = "BEGIN EXCLUSIVE";
-constexpr char LocksWriting[] = "BEGIN IMMEDIATE";
-constexpr char LocksCommitting[] = "BEGIN; SELECT count(*) FROM tasks";
-
-} // namespace
 
 class tst_alerts_failures : public TestCase
 {
@@ -47,7 +17,7 @@ private slots:
         alerts.tick();
         alerts.aDueTask(QStringLiteral("Second")).sounding(QStringLiteral("s.wav")).add();
         {
-            const OtherProgram other(alerts.database(), LocksAll);
+            const OtherProgram other(alerts.database(), OtherProgram::Committing);
             QVERIFY(other.holds());
             alerts.tick();
             QCOMPARE(alerts.names(), QStringList(QStringLiteral("First")));
@@ -114,8 +84,8 @@ private slots:
     void aMarkThatFailedIsMadeUpForByTheNextTickWithoutASecondSound_data()
     {
         QTest::addColumn<QByteArray>("lock");
-        QTest::newRow("at the statement") << QByteArray(LocksWriting);
-        QTest::newRow("at the commit") << QByteArray(LocksCommitting);
+        QTest::newRow("at the statement") << QByteArray(OtherProgram::Writing);
+        QTest::newRow("at the commit") << QByteArray(OtherProgram::Reading);
     }
 
     void aMarkThatFailedIsMadeUpForByTheNextTickWithoutASecondSound()
@@ -145,7 +115,7 @@ private slots:
         AlertsFixture alerts;
         const qint32 listed = alerts.aDueTask(QStringLiteral("x")).add();
         {
-            const OtherProgram other(alerts.database(), LocksWriting);
+            const OtherProgram other(alerts.database(), OtherProgram::Writing);
             QVERIFY(other.holds());
             alerts.tick();
         }
@@ -160,7 +130,7 @@ private slots:
         AlertsFixture alerts;
         alerts.aDueTask(QStringLiteral("x")).sounding(QStringLiteral("x.wav")).add();
         {
-            const OtherProgram other(alerts.database(), LocksWriting);
+            const OtherProgram other(alerts.database(), OtherProgram::Writing);
             QVERIFY(other.holds());
             alerts.tick();
         }
@@ -182,7 +152,7 @@ private slots:
             .sounding(QStringLiteral("x.wav"))
             .add();
         {
-            const OtherProgram other(alerts.database(), LocksWriting);
+            const OtherProgram other(alerts.database(), OtherProgram::Writing);
             QVERIFY(other.holds());
             alerts.tick();
         }
@@ -198,7 +168,7 @@ private slots:
         AlertsFixture alerts;
         alerts.aDueTask(QStringLiteral("x")).sounding(QStringLiteral("x.wav")).add();
         {
-            const OtherProgram other(alerts.database(), LocksWriting);
+            const OtherProgram other(alerts.database(), OtherProgram::Writing);
             QVERIFY(other.holds());
             alerts.tick();
         }
@@ -215,9 +185,9 @@ private slots:
         QTest::addColumn<QByteArray>("lock");
         for (const char* button : {"btnDismiss", "btnDismissAll", "btnRemindMeLater"}) {
             QTest::addRow("%s, at the statement", button)
-                << QString::fromLatin1(button) << QByteArray(LocksWriting);
+                << QString::fromLatin1(button) << QByteArray(OtherProgram::Writing);
             QTest::addRow("%s, at the commit", button)
-                << QString::fromLatin1(button) << QByteArray(LocksCommitting);
+                << QString::fromLatin1(button) << QByteArray(OtherProgram::Reading);
         }
     }
 

@@ -1,5 +1,6 @@
 #include "store/Connection.h"
 #include "support/CaughtError.h"
+#include "support/OtherProgram.h"
 #include "support/TestDatabase.h"
 #include "support/TestMain.h"
 #include "support/TestPictures.h"
@@ -8,37 +9,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QTest>
-#include <sqlite3.h>
 
 namespace
 {
-
-/// Another program that holds a lock on the data file until it is destroyed.
-class OtherProgram
-{
-public:
-    OtherProgram(const TestDatabase& database, const char* statement)
-    {
-        sqlite3_open_v2(
-            QFile::encodeName(database.dataFile()).constData(), &m_database, SQLITE_OPEN_READWRITE, nullptr);
-        if (sqlite3_prepare_v2(m_database, statement, -1, &m_statement, nullptr) == SQLITE_OK) {
-            m_code = sqlite3_step(m_statement);
-        }
-    }
-    ~OtherProgram()
-    {
-        sqlite3_finalize(m_statement);
-        sqlite3_close(m_database);
-    }
-    OtherProgram(const OtherProgram&) = delete;
-    OtherProgram& operator=(const OtherProgram&) = delete;
-    bool holdsLock() const { return m_code == SQLITE_DONE || m_code == SQLITE_ROW; }
-
-private:
-    sqlite3* m_database = nullptr;
-    sqlite3_stmt* m_statement = nullptr;
-    int m_code = SQLITE_ERROR;
-};
 
 Connection openedAt(const TestDatabase& database, const QString& path)
 {
@@ -154,8 +127,8 @@ void DeferredCommitTest::aLockedFileFailsTheFirstWriting()
 {
     TestDatabase database;
     {
-        const OtherProgram other(database, "begin immediate");
-        QVERIFY(other.holdsLock());
+        const OtherProgram other(database, OtherProgram::Writing);
+        QVERIFY(other.holds());
         Connection connection = opened(database);
         const auto error = caught([&] { connection.execute(DeleteSettings); });
         QVERIFY(isStorageError(error, database));
@@ -169,8 +142,8 @@ void DeferredCommitTest::aLockedFileFailsTheFirstWriting()
 void DeferredCommitTest::anExclusivelyLockedFileFailsToOpen()
 {
     TestDatabase database;
-    const OtherProgram other(database, "begin exclusive");
-    QVERIFY(other.holdsLock());
+    const OtherProgram other(database, OtherProgram::Committing);
+    QVERIFY(other.holds());
     const auto error = caught([&] { opened(database); });
     QVERIFY(isStorageError(error, database));
     QCOMPARE(database.statements().opened(), 0);
@@ -180,8 +153,8 @@ void DeferredCommitTest::aFailedCommitIsReportedByTheCloseAndChangesNothing()
 {
     TestDatabase database;
     {
-        const OtherProgram reader(database, "select * from categories");
-        QVERIFY(reader.holdsLock());
+        const OtherProgram reader(database, OtherProgram::Reading);
+        QVERIFY(reader.holds());
         Connection connection = opened(database);
         connection.execute(DeleteSettings);
         const auto error = caught([&] { connection.close(); });
@@ -199,8 +172,8 @@ void DeferredCommitTest::aFailedEarlyCommitChangesNothing()
 {
     TestDatabase database;
     {
-        const OtherProgram reader(database, "select * from categories");
-        QVERIFY(reader.holdsLock());
+        const OtherProgram reader(database, OtherProgram::Reading);
+        QVERIFY(reader.holds());
         Connection connection = opened(database);
         connection.execute(DeleteSettings);
         QVERIFY(isStorageError(caught([&] { connection.commit(); }), database));
@@ -230,7 +203,7 @@ void DeferredCommitTest::afterAStorageErrorTheConnectionCanOnlyBeClosed()
     TestDatabase database;
     Connection connection = opened(database);
     {
-        const OtherProgram other(database, "begin immediate");
+        const OtherProgram other(database, OtherProgram::Writing);
         QVERIFY(caught([&] { connection.execute(DeleteSettings); }));
     }
     QVERIFY(isStorageError(caught([&] { connection.execute(DeleteSettings); }), database));
@@ -250,8 +223,8 @@ void DeferredCommitTest::aFinishedRecordSetHoldsNoLock()
     while (!records.atEnd()) {
         records.moveNext();
     }
-    const OtherProgram other(database, "begin exclusive");
-    QVERIFY(other.holdsLock());
+    const OtherProgram other(database, OtherProgram::Committing);
+    QVERIFY(other.holds());
     QCOMPARE(records.field("cat_id"), 0);
 }
 
