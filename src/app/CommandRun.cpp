@@ -51,8 +51,9 @@ private:
     QString m_first;
 };
 
-/// A place for output until it is complete: nobody who reads slowly keeps the data file locked, and nobody
-/// gets a part of it. Private, and gone with the process.
+/// A place for output until it is complete, and for input: nobody who reads or writes slowly keeps the data
+/// file locked or lets what was read of it grow old, and nobody gets a part of the output. Private, and gone
+/// with the process.
 class Draft
 {
 public:
@@ -70,14 +71,33 @@ public:
         if (m_file.error() != QFileDevice::NoError || !m_file.seek(0)) {
             throw FileError(m_file.fileTemplate(), m_file.errorString());
         }
-        constexpr qint64 Chunk = 65536;
         for (QByteArray bytes = m_file.read(Chunk); !bytes.isEmpty() && output.error() == 0;
              bytes = m_file.read(Chunk)) {
             output.write(bytes);
         }
     }
+    /// Throws RuntimeError when it takes more than a file with as much as an import takes.
+    void takeFrom(QIODevice& input)
+    {
+        constexpr qint64 Most = qint64(1024) * 1024 * 1024;
+        for (QByteArray bytes = input.read(Chunk); !bytes.isEmpty(); bytes = input.read(Chunk)) {
+            if (m_file.size() > Most) {
+                throw RuntimeError(CommandRun::tr("The input is too large. Nothing was stored."));
+            }
+            m_file.write(bytes);
+        }
+        if (!m_file.flush() || m_file.error() != QFileDevice::NoError) {
+            throw FileError(m_file.fileTemplate(), m_file.errorString());
+        }
+    }
+    QIODevice& fromItsBeginning()
+    {
+        m_file.seek(0);
+        return m_file;
+    }
 
 private:
+    static constexpr qint64 Chunk = 65536;
     QTemporaryFile m_file;
 };
 
@@ -252,44 +272,50 @@ void CommandRun::exportToFile(const CommandLine& line, Exchange& exchange, const
 
 CommandRun::Status CommandRun::importTasks(const CommandLine& line)
 {
+    if (m_around.installation.shippedFolder.isEmpty()) {
+        makeFolder();
+    }
     // A first start would make a folder with the data file that is shipped.
-    const DatabaseEngine engine =
-        engineOn(hasProgramFolder() ? m_around.programFolder : m_around.installation.shippedFolder);
+    const auto presentFolder = [this] {
+        return hasProgramFolder() ? m_around.programFolder : m_around.installation.shippedFolder;
+    };
+    const DatabaseEngine engine = engineOn(presentFolder());
     refuseLaterDataFile(engine);
     if (line.yes && hasProgramFolder()) {
         bringUp(engine);
     }
-    m_repeating.setUsed(somethingRepeats(engine));
     const std::unique_ptr<Exchange> exchange = m_around.exchange();
-    ImportPlan plan = planOf(line, *exchange, engine);
-    plan.takePrograms(line.withPrograms);
+    std::optional<Draft> input;
+    if (isStandardStream(line)) {
+        QFile stream;
+        if (!openStandardInput(stream)) {
+            throw FileError(line.file, stream.errorString());
+        }
+        input.emplace().takeFrom(stream);
+    }
+    const auto planNow = [&] {
+        LeftOut leftOut;
+        DatabaseEngine reading = engineOn(presentFolder());
+        reading.unreadable = &leftOut;
+        m_repeating.forget();
+        ImportPlan plan = input ? exchange->plan(input->fromItsBeginning(), line.format, reading)
+                                : exchange->plan(line.file, line.format, reading);
+        plan.takePrograms(line.withPrograms);
+        return plan;
+    };
+    const ImportPlan plan = planNow();
     tellPlan(plan);
     if (!line.yes) {
         throw RuntimeError(tr("Nothing was imported; the option \"--yes\" imports it."));
     }
     if (!plan.isEmpty()) {
-        carryOut(plan, *exchange);
+        carryOut(plan, *exchange, planNow);
     }
     say(plan.isEmpty() ? tr("There is nothing to import.") : tr("Imported."));
     if (plan.unreadableParts > 0) {
         throw RuntimeError(tr("What cannot be read in the file was left out."));
     }
     return Done;
-}
-
-ImportPlan CommandRun::planOf(const CommandLine& line, Exchange& exchange, const DatabaseEngine& stored)
-{
-    LeftOut leftOut;
-    DatabaseEngine engine = stored;
-    engine.unreadable = &leftOut;
-    if (!isStandardStream(line)) {
-        return exchange.plan(line.file, line.format, engine);
-    }
-    QFile input;
-    if (!openStandardInput(input)) {
-        throw FileError(line.file, input.errorString());
-    }
-    return exchange.plan(input, line.format, engine);
 }
 
 void CommandRun::tellPlan(const ImportPlan& plan)
@@ -325,7 +351,7 @@ void CommandRun::tellPlan(const ImportPlan& plan)
     }
 }
 
-void CommandRun::carryOut(const ImportPlan& plan, Exchange& exchange)
+void CommandRun::makeFolder()
 {
     try {
         makeProgramFolder(m_around.installation, m_around.programFolder);
@@ -334,22 +360,42 @@ void CommandRun::carryOut(const ImportPlan& plan, Exchange& exchange)
             QCoreApplication::translate("modAmbertaks", "The program folder could not be made.\n%1")
                 .arg(error.text()));
     }
+}
+
+void CommandRun::carryOut(
+    const ImportPlan& told, Exchange& exchange, const std::function<ImportPlan()>& planAgain)
+{
+    makeFolder();
     const DatabaseEngine engine = engineOn(m_around.programFolder);
     StoppableProgress progress;
     if (const QString why = KeptCopies(engine).keep(CopyOccasion::Import, &progress); !why.isEmpty()) {
         say(ChangeTexts::withNoCopy({}, why));
     }
-    exchange.carryOut(plan, engine, &progress);
+    try {
+        exchange.carryOut(told, engine, &progress);
+    } catch (const PlanOutdatedError&) {
+        // A running copy notes that a reminder has sounded, for example, which may change nothing here.
+        const ImportPlan plan = planAgain();
+        if (!plan.isSameAs(told)) {
+            throw;
+        }
+        exchange.carryOut(plan, engine, &progress);
+    }
 }
 
 bool CommandRun::hasProgramFolder() const
 {
-    return m_around.installation.shippedFolder.isEmpty() || isPresent(m_around.programFolder);
+    if (!m_around.installation.shippedFolder.isEmpty()) {
+        return isPresent(m_around.programFolder);
+    }
+    return !isPresent(pathIn(m_around.programFolder, QLatin1String(NewDataFileName)))
+        || isPresent(pathIn(m_around.programFolder, QLatin1String(DataFileName)));
 }
 
 DatabaseEngine CommandRun::engineOn(const QString& folder)
 {
     DatabaseEngine engine{folder, &m_around.clock, nullptr, nullptr, &m_dataFileIsSound};
+    engine.foreign = &m_foreign;
     engine.repeating = &m_repeating;
     return engine;
 }
@@ -357,10 +403,11 @@ DatabaseEngine CommandRun::engineOn(const QString& folder)
 DatabaseEngine CommandRun::engineOfTheUser()
 {
     if (!hasProgramFolder()) {
-        throw FileError(
-            tr("There are no tasks yet: the program folder \"%1\" does not exist. The first start "
-               "makes it, and so does an import.")
-                .arg(m_around.programFolder));
+        throw FileError(m_around.installation.shippedFolder.isEmpty()
+                ? tr("There are no tasks yet. The first start makes the data file, and so does an import.")
+                : tr("There are no tasks yet: the program folder \"%1\" does not exist. The first start "
+                     "makes it, and so does an import.")
+                      .arg(m_around.programFolder));
     }
     return engineOn(m_around.programFolder);
 }

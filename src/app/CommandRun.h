@@ -3,7 +3,10 @@
 #include "app/CommandLine.h"
 #include "data/RepeatRules.h"
 #include "store/DatabaseEngine.h"
+#include "store/ForeignChanges.h"
 #include "system/Installation.h"
+
+#include <functional>
 
 class OutputStream;
 class QIODevice;
@@ -37,9 +40,11 @@ private:
     Status exportTasks(const CommandLine& line);
     static void exportToFile(const CommandLine& line, Exchange& exchange, const DatabaseEngine& engine);
     Status importTasks(const CommandLine& line);
-    ImportPlan planOf(const CommandLine& line, Exchange& exchange, const DatabaseEngine& engine);
     void tellPlan(const ImportPlan& plan);
-    void carryOut(const ImportPlan& plan, Exchange& exchange);
+    /// Once more by another plan when the first is outdated and the other one is the same.
+    void carryOut(const ImportPlan& told, Exchange& exchange, const std::function<ImportPlan()>& planAgain);
+    void makeFolder();
+    /// Whether a start has been there: the folder, and in one that is unpacked the data file.
     bool hasProgramFolder() const;
     DatabaseEngine engineOn(const QString& folder);
     DatabaseEngine engineOfTheUser();
@@ -47,6 +52,7 @@ private:
     void complain(const QString& text);
 
     Surroundings m_around;
+    ForeignChanges m_foreign;
     Repeating m_repeating;
     /// Of a damaged file nothing is written over.
     bool m_dataFileIsSound = false;

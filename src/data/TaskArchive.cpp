@@ -213,6 +213,8 @@ std::string TaskArchive::newUid()
 TaskStoring::TaskStoring(const DatabaseEngine& engine) : m_engine(engine), m_connection(opened(engine))
 {
     try {
+        // From here on nobody else writes: the next id stays free.
+        m_connection.alter("");
         m_hasOrigins = hasOrigins(m_connection);
         m_nextId = nextId(m_connection);
         if (m_hasOrigins) {

@@ -50,6 +50,13 @@ struct UnreadablePart {
     QString reason; ///< a sentence
 };
 
+/// Another process has changed the data file since the plan was made.
+class PlanOutdatedError : public RuntimeError
+{
+public:
+    using RuntimeError::RuntimeError;
+};
+
 /// What an import would do. A value; nothing is stored yet.
 struct ImportPlan {
     /// The most unreadable parts that are named; of more there is the number.
@@ -70,6 +77,7 @@ struct ImportPlan {
     int withoutDue = 0; ///< new tasks without a due date, which get the day of the import
     int furtherReminders = 0; ///< of tasks with several: they are kept for an export, and do not remind
     int unknownZones = 0; ///< tasks with moments in a time zone that nobody knows, taken as local time
+    quint32 seen = 0; ///< ForeignChanges::latest() of the tasks that the file was compared with
 
     /// The tasks that bring a program along; pointers into `tasks`.
     std::vector<const ImportedTask*> programs() const;
@@ -122,8 +130,9 @@ public:
     virtual ImportPlan plan(const QString& file, ExchangeFormat format, const DatabaseEngine& engine,
         Progress* progress = nullptr) = 0;
     /// Stores what the plan says as one operation on one connection: one step of UndoHistory::run, whose
-    /// engine is to be passed then. Throws RuntimeError, and nothing is stored then: NoRoomError when there
-    /// is no room any more, another one when a task that it changes has been deleted since the plan was made.
+    /// engine is to be passed then. Throws RuntimeError, and nothing is stored then: PlanOutdatedError, where
+    /// the engine knows of the changes of others; NoRoomError when there is no room any more; another one
+    /// when this process has deleted a task that it changes.
     virtual ImportResult carryOut(
         const ImportPlan& plan, const DatabaseEngine& engine, Progress* progress = nullptr) = 0;
 };

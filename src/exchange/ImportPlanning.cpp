@@ -5,6 +5,7 @@
 #include "data/TaskCodes.h"
 #include "exchange/ExchangeTexts.h"
 #include "exchange/FileZones.h"
+#include "store/ForeignChanges.h"
 #include "store/UnicodeCollation.h"
 #include "system/Clock.h"
 
@@ -76,6 +77,9 @@ ImportPlanning::ImportPlanning(const DatabaseEngine& engine)
             m_stored.emplace(task.uid, task);
         }
     });
+    if (engine.foreign != nullptr) {
+        m_plan.seen = engine.foreign->latest();
+    }
 }
 
 void ImportPlanning::leaveOut(qint64 line, std::string_view name, const QString& reason)

@@ -9,6 +9,7 @@
 #include "exchange/TodoReading.h"
 #include "exchange/TodoWriting.h"
 #include "store/DatabaseError.h"
+#include "store/ForeignChanges.h"
 #include "system/Clock.h"
 #include "system/FileReplace.h"
 
@@ -179,6 +180,10 @@ ImportResult TaskExchange::carryOut(const ImportPlan& plan, const DatabaseEngine
     constexpr std::size_t Step = 256;
     ImportResult result;
     TaskStoring storing(engine);
+    if (engine.foreign != nullptr && engine.foreign->latest() != plan.seen) {
+        throw PlanOutdatedError(
+            ExchangeTexts::tr("The tasks have been changed meanwhile by another program."));
+    }
     for (std::size_t i = 0; i < plan.tasks.size(); ++i) {
         if (progress != nullptr && i % Step == 0) {
             progress->advance(static_cast<qint64>(i), static_cast<qint64>(plan.tasks.size()));

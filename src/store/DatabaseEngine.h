@@ -82,7 +82,8 @@ struct DatabaseEngine {
     ChangeSet* changes = nullptr;
     /// Not owned; may be null.
     CopyKeeper* copies = nullptr;
-    /// Not owned; may be null. Each connection looks at it when it is opened.
+    /// Not owned; may be null. Each connection looks when it is opened, and again when it begins to write:
+    /// then nobody else can write until it ends.
     ForeignChanges* foreign = nullptr;
     /// The file is only read, whatever permissions it has, and nothing beside it is read, made or locked.
     /// Nobody may change it meanwhile.

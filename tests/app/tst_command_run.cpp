@@ -383,6 +383,49 @@ private slots:
         QCOMPARE(command.errors().count(u'\n'), 1);
     }
 
+    void anImportIsPlannedAgainWhenAnotherProgramHasChangedTheTasksMeanwhile()
+    {
+        Command command;
+        command.exchange.plan.tasks = {imported("Bob", ImportedTask::Outcome::New, "/bin/true")};
+        int times = 0;
+        command.exchange.duringCarryOut = [&times](Progress*) {
+            if (++times == 1) {
+                throw PlanOutdatedError(QStringLiteral("changed"));
+            }
+        };
+        QCOMPARE(command.run("--import a.ics --yes --with-programs"), CommandRun::Done);
+        QCOMPARE(command.exchange.calls.filter(QStringLiteral("plan")).size(), 2);
+        QCOMPARE(command.exchange.calls.last(), QStringLiteral("Bob with its program"));
+        QCOMPARE(command.exchange.calls.filter(QStringLiteral("carry out")).size(), 2);
+        QCOMPARE(command.output().count(QStringLiteral("Bob")), 2);
+    }
+
+    void anImportThatWouldDoSomethingElseNowStoresNothing()
+    {
+        Command command;
+        command.exchange.plan.tasks = {imported("Bob", ImportedTask::Outcome::New)};
+        command.exchange.duringCarryOut = [&command](Progress*) {
+            command.exchange.plan.tasks.front().outcome = ImportedTask::Outcome::Changed;
+            throw PlanOutdatedError(QStringLiteral("changed"));
+        };
+        QCOMPARE(command.run("--import a.ics --yes"), CommandRun::Failed);
+        QCOMPARE(command.exchange.calls.filter(QStringLiteral("carry out")).size(), 1);
+        QCOMPARE(command.errors(), QStringLiteral("Ambertask: changed\n"));
+    }
+
+    void anImportIntoAnUnpackedFolderMakesItsDataFile()
+    {
+        Command command;
+        const QString fresh = command.database.folder() + QStringLiteral("/data.new");
+        QVERIFY(QFile::rename(command.database.dataFile(), fresh));
+        QCOMPARE(command.run("--list"), CommandRun::Failed);
+        QVERIFY(command.errors().contains(QStringLiteral("There are no tasks yet.")));
+        QVERIFY(QFile::exists(fresh));
+        command.exchange.plan.tasks = {imported("Bob", ImportedTask::Outcome::New)};
+        QCOMPARE(command.run("--import a.ics --yes"), CommandRun::Done);
+        QVERIFY(QFile::exists(command.database.dataFile()) && !QFile::exists(fresh));
+    }
+
     void anInterruptCancelsTheImport()
     {
         Command command;

@@ -2,6 +2,7 @@
 #include "data/DataFileRoad.h"
 #include "data/UndoHistory.h"
 #include "store/DatabaseError.h"
+#include "store/ForeignChanges.h"
 #include "support/CaughtError.h"
 #include "support/TestMain.h"
 #include "tests/support/OlderDataFile.h"
@@ -39,6 +40,8 @@ private slots:
     void moreThanThereIsRoomForIsRefusedBeforeAnythingIsStored();
     void asManyAsThereIsRoomForComeIn();
     void aTaskThatIsGoneMeanwhileStopsTheWholeImport();
+    void whatAnotherProgramChangesMeanwhileOutdatesThePlan();
+    void whatThisProgramChangesDoesNot();
     void aDeletedTaskComesBackWithItsOriginByUndo();
     void theNextImportForgetsTasksThatAreGone();
     void newIdsKeepEachTaskItsOrigin();
@@ -189,6 +192,32 @@ void ImportPlanTest::aTaskThatIsGoneMeanwhileStopsTheWholeImport()
     const auto error = caught<RuntimeError>([&] { under.carriedOut(plan); });
     QVERIFY(error && error->text().contains(QLatin1String("Other")));
     QCOMPARE(under.tasks().size(), std::size_t(1));
+}
+
+void ImportPlanTest::whatAnotherProgramChangesMeanwhileOutdatesThePlan()
+{
+    ExchangeUnderTest under;
+    ForeignChanges foreign;
+    under.engine.foreign = &foreign;
+    under.imported(todoOf("SUMMARY:Task\nDUE:20260301T100000\n"));
+    const QByteArray another = todoOf("SUMMARY:Another\nDUE:20260301T100000\n");
+    const ImportPlan plan = under.planOf(another);
+    under.database.sql(QStringLiteral("update tasks set dismissed=1"));
+    QVERIFY(caught<PlanOutdatedError>([&] { under.carriedOut(plan); }));
+    QVERIFY(under.task().dismissed && under.task().name == "Task");
+    under.carriedOut(under.planOf(another));
+    QVERIFY(under.task().dismissed && under.task().name == "Another");
+}
+
+void ImportPlanTest::whatThisProgramChangesDoesNot()
+{
+    ExchangeUnderTest under;
+    ForeignChanges foreign;
+    under.engine.foreign = &foreign;
+    const ImportPlan plan = under.planOf(todosUpTo(1));
+    under.imported(todosUpTo(2));
+    under.carriedOut(plan);
+    QCOMPARE(under.tasks().size(), 3U);
 }
 
 void ImportPlanTest::aDeletedTaskComesBackWithItsOriginByUndo()

@@ -179,6 +179,7 @@ bool FileExchange::isStillAsShown()
 {
     ImportPlan plan = planOf(m_file, m_window.get());
     if (plan.isSameAs(m_window->plan())) {
+        m_window->setSeen(plan.seen);
         return true;
     }
     m_window->setPlan(m_file, std::move(plan));

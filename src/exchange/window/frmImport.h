@@ -29,6 +29,9 @@ public:
     /// The plan, with the programs that the user has confirmed.
     const ImportPlan& plan() const { return m_plan; }
 
+    /// The same plan was made again.
+    void setSeen(quint32 seen) { m_plan.seen = seen; }
+
 signals:
     /// "Import" was pressed; the window is still shown.
     void confirmed();
