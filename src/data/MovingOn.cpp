@@ -54,9 +54,21 @@ MovingOn::MovingOn(const DatabaseEngine& engine, Connection& connection)
 
 QList<qint32> MovingOn::complete(const QList<qint32>& ids)
 {
+    return moveEach(ids, [this](const Task& task) { return std::max(task.due, m_now); });
+}
+
+QList<qint32> MovingOn::completeReminded(const QList<qint32>& ids)
+{
+    return moveEach(ids, [this](const Task& task) {
+        return std::max({task.due, m_now, std::min(task.reminder, m_now) + task.repeat.lead});
+    });
+}
+
+QList<qint32> MovingOn::moveEach(const QList<qint32>& ids, const std::function<Moment(const Task&)>& lastOver)
+{
     QSet<qint32> moved;
     for (const Task& task : repeatingAmong(ids)) {
-        if (moveToNext(task)) {
+        if (moveToNext(task, lastOver(task))) {
             moved.insert(task.id);
         } else {
             TaskRepeats::remove(m_connection, task.id);
@@ -122,9 +134,9 @@ std::vector<MovingOn::Task> MovingOn::repeatingAmong(
     return tasks;
 }
 
-bool MovingOn::moveToNext(const Task& task)
+bool MovingOn::moveToNext(const Task& task, Moment lastOver)
 {
-    const auto next = RepeatRules::next(task.repeat, std::max(task.due, m_now));
+    const auto next = RepeatRules::next(task.repeat, lastOver);
     if (!next) {
         return false;
     }

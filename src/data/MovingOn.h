@@ -4,6 +4,7 @@
 
 #include <QList>
 #include <QString>
+#include <functional>
 #include <vector>
 
 class Connection;
@@ -23,6 +24,9 @@ public:
     /// than now, not started, and reminds of it, unless that reminder has come already. Of a series that is
     /// over nothing stays.
     QList<qint32> complete(const QList<qint32>& ids);
+    /// The same with the time that a reminder which has come stands for, where that is a later one: the one
+    /// before had been dismissed before it was due.
+    QList<qint32> completeReminded(const QList<qint32>& ids);
     /// Their reminders have been seen: each reminds of the first moment of its series for which that lies
     /// ahead. One that is overdue does not stay so.
     QList<qint32> dismiss(const QList<qint32>& ids);
@@ -39,7 +43,8 @@ private:
     /// Those of the tasks that meet the condition.
     std::vector<Task> repeatingWhere(const QString& condition);
     std::vector<Task> repeatingAmong(const QList<qint32>& ids, const QString& furtherCondition = {});
-    bool moveToNext(const Task& task);
+    QList<qint32> moveEach(const QList<qint32>& ids, const std::function<Moment(const Task&)>& lastOver);
+    bool moveToNext(const Task& task, Moment lastOver);
     bool remindOfNext(const Task& task);
     void update(const Task& task, const QString& columns);
     void setDone(const Task& task, int further);

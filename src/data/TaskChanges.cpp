@@ -21,6 +21,8 @@ void run(const DatabaseEngine& engine, const std::function<void(Connection&)>& w
     Connection connection = ClsDatabase(engine).Connect();
     connection.open();
     try {
+        // What is read is changed by nobody else before it is written.
+        connection.alter("");
         work(connection);
     } catch (...) {
         connection.abandon();
@@ -58,6 +60,13 @@ void changeOrMoveOn(const DatabaseEngine& engine, const QList<qint32>& ids,
 QStringList deleting(const QString& which)
 {
     return {QLatin1String("delete from tasks where ") + which};
+}
+
+QStringList completing(const QString& which)
+{
+    return {QStringLiteral("update tasks set task_status=%1 where %2")
+                .arg(QString::number(TaskStatus::Completed), which),
+        ReminderStatements::dismissDue() + QLatin1String(" and ") + which};
 }
 
 StatementsFor setting(QLatin1String column, qint32 value)
@@ -102,11 +111,12 @@ void TaskChanges::setCategory(const DatabaseEngine& engine, const QList<qint32>&
 
 void TaskChanges::complete(const DatabaseEngine& engine, const QList<qint32>& ids)
 {
-    changeOrMoveOn(engine, ids, &MovingOn::complete, [](const QString& which) {
-        return QStringList{QStringLiteral("update tasks set task_status=%1 where %2")
-                               .arg(QString::number(TaskStatus::Completed), which),
-            ReminderStatements::dismissDue() + QLatin1String(" and ") + which};
-    });
+    changeOrMoveOn(engine, ids, &MovingOn::complete, completing);
+}
+
+void TaskChanges::completeReminded(const DatabaseEngine& engine, const QList<qint32>& ids)
+{
+    changeOrMoveOn(engine, ids, &MovingOn::completeReminded, completing);
 }
 
 void TaskChanges::dismiss(const DatabaseEngine& engine, const QList<qint32>& ids)

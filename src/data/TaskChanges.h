@@ -23,6 +23,8 @@ void setCategory(const DatabaseEngine& engine, const QList<qint32>& ids, qint16 
 /// Sets the status to completed and dismisses those of their reminders that are due. Those that repeat move
 /// on until the last time.
 void complete(const DatabaseEngine& engine, const QList<qint32>& ids);
+/// The same for reminders that the user is shown: none of them comes again.
+void completeReminded(const DatabaseEngine& engine, const QList<qint32>& ids);
 /// Dismisses their reminders; those of tasks that repeat are set to the next time.
 void dismiss(const DatabaseEngine& engine, const QList<qint32>& ids);
 /// The same with all reminders that are due; returns their number.

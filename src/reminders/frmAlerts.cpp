@@ -140,7 +140,7 @@ void frmAlerts::btnDismiss_Click()
 
 void frmAlerts::mnuAlertComplete_Click()
 {
-    if (changeSelected(ChangeTexts::completed, TaskChanges::complete)) {
+    if (changeSelected(ChangeTexts::completed, TaskChanges::completeReminded)) {
         emit remindersDismissed();
         closeSound();
     }

@@ -2,6 +2,7 @@
 #include "data/ReminderChecker.h"
 #include "data/TaskChanges.h"
 #include "data/TaskCodes.h"
+#include "support/OtherProgram.h"
 #include "support/TestMain.h"
 
 #include <QTest>
@@ -25,6 +26,8 @@ private slots:
     void noReminderComesTwiceWhenTheClockIsSetBack();
     void aReminderThatHasComeStaysWhenTheTimeBeforeIsCompleted_data();
     void aReminderThatHasComeStaysWhenTheTimeBeforeIsCompleted();
+    void aReminderThatIsSeenIsNotSeenAgainWhenItIsCompleted();
+    void nobodyElseWritesBetweenReadingAndMovingOn();
     void postponingMovesThisReminderAlone();
     void deletingOnceMovesOnUntilTheLastTime();
     void aCopyRepeatsToo();
@@ -191,6 +194,55 @@ void TestMovingOn::aReminderThatHasComeStaysWhenTheTimeBeforeIsCompleted()
             .arg(QString::fromStdString(storedText(test.now() + std::chrono::minutes(reminder)))));
     TaskChanges::complete(test.engine, {id});
     QCOMPARE(test.stateOf(id), state);
+}
+
+void TestMovingOn::aReminderThatIsSeenIsNotSeenAgainWhenItIsCompleted()
+{
+    RepeatsUnderTest test;
+    // Due at 10:10; dismissed before that, and not completed.
+    const qint32 id = test.add(test.now() + 10min, "FREQ=DAILY", 15min);
+    TaskChanges::dismiss(test.engine, {id});
+    QCOMPARE(test.stateOf(id), QStringLiteral("1 01-15 10:10 01-16 09:55 100 0"));
+    test.database.clock().step(24h);
+    TaskChanges::completeReminded(test.engine, {id});
+    QCOMPARE(test.stateOf(id), QStringLiteral("0 01-17 10:10 01-17 09:55 100 1"));
+    // Put off, it is that of the same time all the same.
+    test.database.clock().step(24h);
+    TaskChanges::remindAt(test.engine, {id}, test.now() + 5min);
+    test.database.clock().step(6min);
+    TaskChanges::completeReminded(test.engine, {id});
+    QCOMPARE(test.stateOf(id), QStringLiteral("0 01-18 10:10 01-18 09:55 100 2"));
+}
+
+void TestMovingOn::nobodyElseWritesBetweenReadingAndMovingOn()
+{
+    RepeatsUnderTest test;
+    const qint32 id = test.add(test.now() - 1h);
+    class Intruder final : public StatementListener
+    {
+    public:
+        explicit Intruder(const TestDatabase& database) : m_database(database) { }
+        void connectionOpened(const QString&) override { }
+        void connectionClosed() override { }
+        void statementExecuted(QStringView statement) override
+        {
+            if (statement.startsWith(QLatin1String("select"))) {
+                ++tried;
+                written += OtherProgram(m_database, OtherProgram::Writing).holds() ? 1 : 0;
+            }
+        }
+        int tried = 0;
+        int written = 0;
+
+    private:
+        const TestDatabase& m_database;
+    };
+    Intruder intruder(test.database);
+    test.engine.listener = &intruder;
+    TaskChanges::complete(test.engine, {id});
+    TaskChanges::dismissDue(test.engine);
+    QVERIFY(intruder.tried >= 2);
+    QCOMPARE(intruder.written, 0);
 }
 
 void TestMovingOn::postponingMovesThisReminderAlone()

@@ -63,7 +63,8 @@ void RepeatedTask::complete(Moment now)
 {
     passedOver += static_cast<int>(std::count_if(series.begin(), series.end(),
         [&](Moment moment) { return moment > due && moment <= now && moment - lead > now; }));
-    due = first([&](Moment moment) { return moment > due && moment > now; });
+    // The time that the reminder is for is done, too.
+    due = first([&](Moment moment) { return moment > due && moment > now && moment - lead > reminder; });
     ++done;
     moveTo(due);
 }
