@@ -1,5 +1,7 @@
 #include "tasks/TaskInput.h"
 
+#include "system/Clock.h"
+
 #include <algorithm>
 
 namespace
@@ -95,7 +97,7 @@ void TaskInput::followReminder(EditedTask& edited, const ClsTask& stored)
         return;
     }
     if (reminderOn == edited.reminderOn) {
-        reminderOn = stored.ReminderOn();
+        reminderOn = edited.reminderOn = stored.ReminderOn();
     }
     reminder = edited.reminder = stored.reminderDateTime();
 }
@@ -139,26 +141,48 @@ std::optional<Refusal> TaskInput::refusal(const std::optional<EditedTask>& edite
     return std::nullopt;
 }
 
-std::optional<Repeat> TaskInput::repeat(const std::optional<EditedTask>& edited) const
+bool TaskInput::isReminderSetByUser(const EditedTask& edited) const
 {
+    return reminder != edited.reminder || (reminderOn && !edited.reminderOn);
+}
+
+bool TaskInput::hasReminderCome(const EditedTask& edited, Moment now) const
+{
+    return reminderOn && !isReminderSetByUser(edited) && reminder <= now;
+}
+
+std::optional<Repeat> TaskInput::repeat(const std::optional<EditedTask>& edited, Moment now) const
+{
+    using namespace std::chrono;
     if (rule.empty()) {
         return std::nullopt;
     }
-    const std::chrono::minutes lead = std::chrono::floor<std::chrono::minutes>(due - reminder);
+    const minutes lead = floor<minutes>(due - reminder);
     if (!edited || !edited->repeat) {
-        return Repeat{rule, due, reminderOn ? lead : std::chrono::minutes(0), 0};
+        const minutes former = edited ? floor<minutes>(edited->due - edited->reminder) : 0min;
+        const bool hasCome = edited && hasReminderCome(*edited, now);
+        return Repeat{rule, due, !reminderOn ? 0min : hasCome ? std::max(former, 0min) : lead, 0};
     }
     Repeat repeat = *edited->repeat;
-    const bool isSetByUser = reminder != edited->reminder || (reminderOn && !edited->reminderOn);
-    if (rule != repeat.rule || due != toMinute(edited->due)) {
-        // One that was put off, or is that of a later time already, does not tell the lead.
+    if (beginsAnew(edited)) {
+        // One that has come, was put off, or is that of a later time already, does not tell the lead.
         const bool isOfThisTime = reminderOn && edited->due - edited->reminder == repeat.lead;
-        return Repeat{rule, due, isSetByUser || isOfThisTime ? lead : repeat.lead, 0};
+        const bool isLead = isReminderSetByUser(*edited) || (isOfThisTime && !hasReminderCome(*edited, now));
+        return Repeat{rule, due, isLead ? lead : repeat.lead, 0};
     }
-    if (isSetByUser) {
-        repeat.lead = lead;
+    if (isReminderSetByUser(*edited)) {
+        // After this time's has been dismissed, the reminder is that of a later one.
+        const Moment reminded = edited->reminder + repeat.lead;
+        const bool isOfLaterTime =
+            reminder > due && reminded > edited->due && RepeatRules::next(repeat, reminded - 1s) == reminded;
+        repeat.lead = isOfLaterTime ? floor<minutes>(reminded - reminder) : lead;
     }
     return repeat;
+}
+
+bool TaskInput::beginsAnew(const std::optional<EditedTask>& edited) const
+{
+    return !edited || !edited->repeat || rule != edited->repeat->rule || due != toMinute(edited->due);
 }
 
 ClsTask TaskInput::toTask(const DatabaseEngine& engine, const std::optional<EditedTask>& edited) const
@@ -170,7 +194,8 @@ ClsTask TaskInput::toTask(const DatabaseEngine& engine, const std::optional<Edit
     task.setPeriority(periority);
     task.setReminderOn(reminderOn);
     task.setReminderDateTime(reminder);
-    task.setRepeat(repeat(edited));
+    const Moment now = engine.clock->now();
+    task.setRepeat(repeat(edited, now));
     if (hasFile) {
         task.setReminderFile(file);
     }
@@ -182,7 +207,12 @@ ClsTask TaskInput::toTask(const DatabaseEngine& engine, const std::optional<Edit
     task.setTaskName(nameOf(taskName));
     if (edited) {
         task.setId(edited->id);
-        task.setDateChanged(reminder != edited->reminder);
+        if (task.repeat() && beginsAnew(edited) && hasReminderCome(*edited, now)
+            && due - task.repeat()->lead > now) {
+            // What has come reminded of the due moment before; the new one is still to be reminded of.
+            task.setReminderDateTime(due - task.repeat()->lead);
+        }
+        task.setDateChanged(task.reminderDateTime() != edited->reminder);
     }
     return task;
 }

@@ -60,13 +60,19 @@ struct TaskInput {
     std::optional<Refusal> refusal(const std::optional<EditedTask>& edited, Moment now) const;
 
     /// The task to store; the input must have no objection. `DateChanged` is set when an edited task has
-    /// another reminder moment.
+    /// another reminder moment: one that the user has chosen, or that of the new due moment of a task which
+    /// repeats, where the reminder had come already.
     ClsTask toTask(const DatabaseEngine& engine, const std::optional<EditedTask>& edited) const;
     /// How the task is to repeat: as before, from where it was, while rule and due moment are those loaded;
     /// else from the due moment on. None for never.
-    std::optional<Repeat> repeat(const std::optional<EditedTask>& edited) const;
+    std::optional<Repeat> repeat(const std::optional<EditedTask>& edited, Moment now) const;
 
 private:
+    bool isReminderSetByUser(const EditedTask& edited) const;
+    /// The loaded reminder, which the user has left alone.
+    bool hasReminderCome(const EditedTask& edited, Moment now) const;
+    /// Whether the series counts from another due moment, or goes by another rule, than that loaded.
+    bool beginsAnew(const std::optional<EditedTask>& edited) const;
     bool reminderMustLieAhead(const std::optional<EditedTask>& edited) const;
 
     Q_DECLARE_TR_FUNCTIONS(TaskInput)

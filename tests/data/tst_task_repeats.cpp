@@ -90,7 +90,7 @@ void TestTaskRepeats::aTaskIsStoredWithItsRuleInOneOperation()
     task.setRepeat(repeat);
     const qint32 id = task.Add();
     QCOMPARE(test.database.statements().opened(), 1);
-    QVERIFY(test.repeating.isUsed());
+    QVERIFY(test.repeating.isUsed() == true);
     QVERIFY(ClsTask(test.engine).GetTaskById(static_cast<qint16>(id))->repeat() == repeat);
     // What cannot be stored with its rule is not stored.
     test.database.statements().failAt(QStringLiteral("into repeats"));

@@ -37,7 +37,7 @@ void TodoRepeatsTest::aRuleMakesTheTaskRepeat()
     under.carriedOut(plan);
     QVERIFY((under.task().repeat == Repeat{"FREQ=DAILY;INTERVAL=2", at(3, 1, 11, 0), 15min, 0}));
     QVERIFY(under.task().properties.find("RRULE") == std::string::npos);
-    QVERIFY(under.repeating.isUsed());
+    QVERIFY(under.repeating.isUsed() == true);
     const QByteArray written = under.exported(ExchangeFormat::ICalendar);
     QVERIFY(written.contains("RRULE:FREQ=DAILY;INTERVAL=2\r\n"));
     QVERIFY(written.contains("DTSTART:20260301T100000\r\n") && written.count("DTSTART") == 1);

@@ -27,6 +27,12 @@ Moment momentOf(const QString& stored)
     return *momentFromStoredText(stored.toStdString());
 }
 
+/// In minutes.
+int leadIn(const TaskRow& row)
+{
+    return static_cast<int>((momentOf(row.due) - momentOf(row.reminder)) / 1min);
+}
+
 int numberIn(const QString& rule, const char* name, int otherwise)
 {
     const auto match = QRegularExpression(QLatin1String(name) + QStringLiteral("=(\\d+)")).match(rule);
@@ -95,20 +101,37 @@ void SoakWorld::saveRepeat(qint32 id, const TaskEntry& entry, const TaskRow* bef
         return;
     }
     const auto entered = static_cast<int>((entry.due - entry.reminder) / 1min);
+    const bool isReminderNew = before == nullptr || text(entry.reminder) != before->reminder
+        || (entry.reminderOn && !before->reminderOn);
+    const bool hasCome = entry.reminderOn && !isReminderNew && entry.reminder <= m_now;
+    const bool isDueNew = before != nullptr && text(entry.due) != before->due;
+    const bool beginsAnew = !repeated || rule != known->second.rule || isDueNew;
     if (!repeated) {
-        m_rows.repeats[id] = {rule, text(entry.due), entry.reminderOn ? entered : 0, 0};
+        const int former = before == nullptr ? 0 : leadIn(*before);
+        m_rows.repeats[id] = {rule, text(entry.due),
+            !entry.reminderOn ? 0
+                : hasCome     ? std::max(former, 0)
+                              : entered,
+            0};
     } else {
         RepeatRow& repeat = known->second;
-        const bool isReminderNew =
-            text(entry.reminder) != before->reminder || (entry.reminderOn && !before->reminderOn);
         // One that had been put off says nothing of the next ones.
-        const bool wasPlain = (momentOf(before->due) - momentOf(before->reminder)) / 1min == repeat.lead;
-        if (rule != repeat.rule || text(entry.due) != before->due) {
-            const bool follows = isReminderNew || (entry.reminderOn && wasPlain);
+        const bool wasPlain = leadIn(*before) == repeat.lead;
+        if (beginsAnew) {
+            const bool follows = isReminderNew || (entry.reminderOn && wasPlain && !hasCome);
             repeat = {rule, text(entry.due), follows ? entered : repeat.lead, 0};
         } else if (isReminderNew) {
-            repeat.lead = entered;
+            const Moment of = momentOf(before->reminder) + std::chrono::minutes(repeat.lead);
+            const bool isOfLaterTime = entry.reminder > entry.due && of > momentOf(before->due)
+                && momentAfter(repeat, of - 1s) == of;
+            repeat.lead = isOfLaterTime ? static_cast<int>((of - entry.reminder) / 1min) : entered;
         }
+    }
+    if (const Moment coming = entry.due - std::chrono::minutes(m_rows.repeats.at(id).lead);
+        beginsAnew && hasCome && coming > m_now) {
+        TaskRow& row = m_rows.tasks.at(id);
+        row.reminder = text(coming);
+        row.played = row.dismissed = false;
     }
     if (m_rows.tasks.at(id).status == TaskStatus::Completed) {
         complete(id);

@@ -60,13 +60,13 @@ private slots:
     void whatTheUserHasChangedIsStored()
     {
         const OpenTask dialog;
-        dialog.changeElsewhere(QStringLiteral("task_name='call Bob',task_periority=1,task_status=4"));
+        dialog.changeElsewhere(QStringLiteral("task_name='call Bob',task_periority=0,task_status=4"));
         dialog.setText("txtTask", QStringLiteral("call Eve"));
         dialog.control<QComboBox>("cmbStatus")->setCurrentIndex(3);
         dialog.click("btnOk");
         QCOMPARE(dialog.stored(QStringLiteral("task_name")).toString(), QStringLiteral("call Eve"));
         QCOMPARE(dialog.stored(QStringLiteral("task_status")).toInt(), 3);
-        QCOMPARE(dialog.stored(QStringLiteral("task_periority")).toInt(), 1);
+        QCOMPARE(dialog.stored(QStringLiteral("task_periority")).toInt(), 0);
     }
 
     void aSoundThatTheUserTakesAwayIsGone()

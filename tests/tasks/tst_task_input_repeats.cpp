@@ -54,6 +54,10 @@ private slots:
     void anotherRepeatKeepsTheLeadOfAReminderThatIsOff();
     void anotherRepeatKeepsTheLeadOfAReminderThatWasPutOff();
     void onlyTheUsersReminderChangesTheLead();
+    void theReminderOfALaterTimeTellsTheLeadOfThatTime();
+    void aReminderThatHasComeGivesANewDueMomentOneOfItsOwn();
+    void aReminderThatHasComeTellsTheLeadOfTheFirstRuleByItsOwnDueMoment();
+    void aReminderSwitchedOnMeanwhileIsNotTheUsers();
     void aRepeatLeftAloneFollowsTheStoredTask();
     void aRepeatThatTheStoreHasEndedStaysEnded();
     void aRepeatChangedByTheUserIsKept();
@@ -77,7 +81,7 @@ void TestTaskInputRepeats::aTaskThatDoesNotRepeatHasNoRepeat()
     QVERIFY(!validInput().toTask(m_database.engine(), std::nullopt).repeat());
     TaskInput input = dailyInput();
     input.rule.clear();
-    QVERIFY(!input.repeat(dailyTask()));
+    QVERIFY(!input.repeat(dailyTask(), Now));
 }
 
 void TestTaskInputRepeats::aNewRepeatCountsFromTheDueMoment()
@@ -86,30 +90,30 @@ void TestTaskInputRepeats::aNewRepeatCountsFromTheDueMoment()
     const auto stored = input.toTask(m_database.engine(), std::nullopt).repeat();
     QVERIFY(stored == std::optional(Repeat{Daily, Now + 1h, 15min, 0}));
     input.reminder = input.due + 10min;
-    QCOMPARE(input.repeat(std::nullopt)->lead, std::chrono::minutes(-10));
+    QCOMPARE(input.repeat(std::nullopt, Now)->lead, std::chrono::minutes(-10));
 }
 
 void TestTaskInputRepeats::aReminderThatIsOffGivesANewRepeatNoLead()
 {
     TaskInput input = dailyInput();
     input.reminderOn = false;
-    QCOMPARE(input.repeat(std::nullopt)->lead, std::chrono::minutes(0));
+    QCOMPARE(input.repeat(std::nullopt, Now)->lead, std::chrono::minutes(0));
 }
 
 void TestTaskInputRepeats::anUnchangedRepeatGoesOn()
 {
     const EditedTask edited = dailyTask();
-    QVERIFY(dailyInput().repeat(edited) == edited.repeat);
+    QVERIFY(dailyInput().repeat(edited, Now) == edited.repeat);
 }
 
 void TestTaskInputRepeats::anotherRuleOrDueMomentBeginsAnew()
 {
     TaskInput input = dailyInput();
     input.rule = "FREQ=WEEKLY";
-    QVERIFY(input.repeat(dailyTask()) == std::optional(Repeat{"FREQ=WEEKLY", Now + 1h, 15min, 0}));
+    QVERIFY(input.repeat(dailyTask(), Now) == std::optional(Repeat{"FREQ=WEEKLY", Now + 1h, 15min, 0}));
     input = dailyInput();
     input.due += 24h;
-    QVERIFY(input.repeat(dailyTask()) == std::optional(Repeat{Daily, Now + 25h, 24h + 15min, 0}));
+    QVERIFY(input.repeat(dailyTask(), Now) == std::optional(Repeat{Daily, Now + 25h, 24h + 15min, 0}));
 }
 
 void TestTaskInputRepeats::anotherRepeatKeepsTheLeadOfAReminderThatIsOff()
@@ -117,7 +121,7 @@ void TestTaskInputRepeats::anotherRepeatKeepsTheLeadOfAReminderThatIsOff()
     TaskInput input = dailyInput();
     input.due += 3h;
     input.reminderOn = false;
-    QCOMPARE(input.repeat(dailyTask())->lead, std::chrono::minutes(15));
+    QCOMPARE(input.repeat(dailyTask(), Now)->lead, std::chrono::minutes(15));
 }
 
 void TestTaskInputRepeats::anotherRepeatKeepsTheLeadOfAReminderThatWasPutOff()
@@ -127,9 +131,9 @@ void TestTaskInputRepeats::anotherRepeatKeepsTheLeadOfAReminderThatWasPutOff()
     input.rule = "FREQ=WEEKLY";
     // Or that is the next one already, as this one has been seen.
     edited.reminder = input.reminder = Now + 24h + 45min;
-    QCOMPARE(input.repeat(edited)->lead, std::chrono::minutes(15));
+    QCOMPARE(input.repeat(edited, Now)->lead, std::chrono::minutes(15));
     input.reminder = Now + 30min;
-    QCOMPARE(input.repeat(edited)->lead, std::chrono::minutes(30));
+    QCOMPARE(input.repeat(edited, Now)->lead, std::chrono::minutes(30));
 }
 
 void TestTaskInputRepeats::onlyTheUsersReminderChangesTheLead()
@@ -138,12 +142,79 @@ void TestTaskInputRepeats::onlyTheUsersReminderChangesTheLead()
     TaskInput input = dailyInput();
     // Put off by the alert.
     edited.reminder = input.reminder = Now + 2h;
-    QCOMPARE(input.repeat(edited)->lead, std::chrono::minutes(15));
+    QCOMPARE(input.repeat(edited, Now)->lead, std::chrono::minutes(15));
     input.reminder = Now + 55min;
-    QVERIFY(input.repeat(edited) == std::optional(Repeat{Daily, Now - 71h, 5min, 3}));
+    QVERIFY(input.repeat(edited, Now) == std::optional(Repeat{Daily, Now - 71h, 5min, 3}));
     edited.reminderOn = false;
     edited.reminder = input.reminder;
-    QCOMPARE(input.repeat(edited)->lead, std::chrono::minutes(5));
+    QCOMPARE(input.repeat(edited, Now)->lead, std::chrono::minutes(5));
+}
+
+void TestTaskInputRepeats::theReminderOfALaterTimeTellsTheLeadOfThatTime()
+{
+    // This time's has been dismissed before it was due.
+    EditedTask edited = dailyTask();
+    edited.reminder = Now + 24h + 45min;
+    TaskInput input = dailyInput();
+    input.reminder = Now + 24h + 30min;
+    QVERIFY(input.repeat(edited, Now) == std::optional(Repeat{Daily, Now - 71h, 30min, 3}));
+    // Before this time again.
+    input.reminder = Now + 40min;
+    QCOMPARE(input.repeat(edited, Now)->lead, std::chrono::minutes(20));
+    // One that was put off is of no other time.
+    edited.reminder = Now + 2h;
+    input.reminder = Now + 3h;
+    QCOMPARE(input.repeat(edited, Now)->lead, std::chrono::minutes(-120));
+}
+
+void TestTaskInputRepeats::aReminderThatHasComeGivesANewDueMomentOneOfItsOwn()
+{
+    const Moment later = Now + 2h;
+    const EditedTask edited = dailyTask();
+    TaskInput input = dailyInput();
+    input.due += 48h;
+    const auto stored = [&] {
+        SteppedClock clock(later);
+        DatabaseEngine engine = m_database.engine();
+        engine.clock = &clock;
+        return input.toTask(engine, edited);
+    };
+    ClsTask task = stored();
+    QVERIFY(task.repeat() == std::optional(Repeat{Daily, Now + 49h, 15min, 0}));
+    QCOMPARE(task.reminderDateTime(), Now + 49h - 15min);
+    QVERIFY(task.DateChanged());
+    // One that lies ahead stays where it is seen, and so does that of a due moment that is past.
+    input.due = Now + 90min;
+    task = stored();
+    QCOMPARE(task.reminderDateTime(), edited.reminder);
+    QVERIFY(!task.DateChanged());
+    input.due = Now + 49h;
+    input.reminder = later + 1h;
+    QCOMPARE(stored().reminderDateTime(), later + 1h);
+}
+
+void TestTaskInputRepeats::aReminderThatHasComeTellsTheLeadOfTheFirstRuleByItsOwnDueMoment()
+{
+    EditedTask edited = dailyTask();
+    edited.repeat.reset();
+    TaskInput input = dailyInput();
+    input.due += 24h;
+    QCOMPARE(input.repeat(edited, Now + 2h)->lead, std::chrono::minutes(15));
+    QCOMPARE(input.repeat(edited, Now)->lead, std::chrono::minutes(24 * 60 + 15));
+    // Put off beyond its due moment.
+    edited.reminder = input.reminder = Now + 90min;
+    QCOMPARE(input.repeat(edited, Now + 2h)->lead, std::chrono::minutes(0));
+}
+
+void TestTaskInputRepeats::aReminderSwitchedOnMeanwhileIsNotTheUsers()
+{
+    EditedTask edited = dailyTask();
+    edited.reminderOn = false;
+    TaskInput input = dailyInput();
+    input.reminderOn = false;
+    input.followReminder(edited, stored(true, Now + 2h));
+    QVERIFY(input.reminderOn);
+    QCOMPARE(input.repeat(edited, Now)->lead, std::chrono::minutes(15));
 }
 
 void TestTaskInputRepeats::aRepeatLeftAloneFollowsTheStoredTask()
@@ -180,7 +251,7 @@ void TestTaskInputRepeats::aRepeatChangedByTheUserIsKept()
     moved.setRepeat(Repeat{Daily, Now - 71h, 15min, 4});
     input.followRepeat(edited, moved);
     QVERIFY(input.toTask(m_database.engine(), edited).DueDateTime() == Now + 2h);
-    QCOMPARE(input.repeat(edited)->done, 0);
+    QCOMPARE(input.repeat(edited, Now)->done, 0);
 }
 
 void TestTaskInputRepeats::aCompletedTaskKeepsTheDueMomentThatWasShown()

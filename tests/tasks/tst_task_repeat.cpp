@@ -38,7 +38,7 @@ void TestTaskRepeat::aTaskThatNeverRepeatsIsStoredAsBefore()
     dialog.click("btnOk");
     QCOMPARE(dialog.stored(QStringLiteral("count(*)")).toInt(), 1);
     QCOMPARE(dialog.repeat(), QVariantList());
-    QVERIFY(!dialog.repeating.isUsed());
+    QVERIFY(dialog.repeating.isUsed() == false);
 }
 
 void TestTaskRepeat::aChosenEntryIsStoredFromTheDueMomentOn()
