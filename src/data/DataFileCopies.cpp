@@ -14,6 +14,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <array>
+#include <utility>
 
 namespace
 {
@@ -112,6 +113,34 @@ void moveUnfinished(const QString& file, const QString& target)
     }
 }
 
+/// Keeps others from changing the data file while this lives: they may begin, and not commit. It must not be
+/// in write-ahead mode, and no handle to it that was opened meanwhile be closed, as the system drops all
+/// locks of a process on a file then.
+class StillFile
+{
+public:
+    explicit StillFile(DatabaseEngine engine) : m_engine(unheard(std::move(engine)))
+    {
+        m_connection.open();
+        m_unread = m_connection.execute(QStringLiteral("select name from sqlite_schema"));
+    }
+    ~StillFile() { m_connection.abandon(); }
+    StillFile(const StillFile&) = delete;
+    StillFile& operator=(const StillFile&) = delete;
+
+private:
+    static DatabaseEngine unheard(DatabaseEngine engine)
+    {
+        engine.listener = nullptr;
+        return engine;
+    }
+
+    DatabaseEngine m_engine;
+    Connection m_connection = ClsDatabase(m_engine).Connect();
+    /// Reading goes on until its last row.
+    RecordSet m_unread;
+};
+
 } // namespace
 
 DataFileCopies::DataFileCopies(const DatabaseEngine& engine)
@@ -135,6 +164,8 @@ void DataFileCopies::backUpTo(const QString& file, Progress* progress) const
     if (isInWriteAheadMode(m_dataFile)) {
         takeInWriteAheadLog(m_dataFile);
     }
+    // A copy of old and new pages could pass every check.
+    const StillFile still(*m_engine);
     refuseOpenOperation(m_dataFile);
     replaceByCopy(m_dataFile, file, PrivateFile, progress);
 }
@@ -164,13 +195,18 @@ RestoredData DataFileCopies::restoreFrom(const QString& file, Progress* progress
     // A journal beside a file that is no database cannot be rolled back any more, and SQLite would delete
     // it; it is kept.
     QString noCopy;
-    if (hasHead(place)) {
+    const bool isDatabase = hasHead(place);
+    if (isDatabase) {
         settleIfSound();
         refuseOpenOperation(m_dataFile);
         noCopy = KeptCopies(*m_engine).keep(CopyOccasion::Restore, progress);
     }
     keepReplaced(place, folder.path(), progress);
     try {
+        // An operation that another process has begun meanwhile goes on in the file that is replaced.
+        if (isDatabase) {
+            refuseOpenOperation(m_dataFile);
+        }
         // Before the new file: beside that it would be rolled back into it.
         moveUnfinished(place, place + QLatin1String(ReplacedSuffix));
         moveOver(checked, place);

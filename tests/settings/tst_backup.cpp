@@ -4,6 +4,7 @@
 #include "support/CancellingProgress.h"
 #include "support/CaughtError.h"
 #include "support/FullDisk.h"
+#include "support/OtherProgram.h"
 #include "support/TestMain.h"
 
 #include <unistd.h>
@@ -29,6 +30,7 @@ private slots:
     void aCancelledCopyLeavesTheOlderBackup();
     void theJournalOfADeadProcessIsRolledBackFirst();
     void aJournalWithoutContentHoldsUpNoBackup();
+    void nobodyCommitsWhileTheFileIsRead();
     void noStatementIsSent();
     void noHandleToTheDataFileStaysOpen();
 };
@@ -234,6 +236,41 @@ void TestBackup::aJournalWithoutContentHoldsUpNoBackup()
         QVERIFY(contentOf(backup) == contentOf(test.database.dataFile()));
         QVERIFY(QFile::remove(backup));
     }
+}
+
+void TestBackup::nobodyCommitsWhileTheFileIsRead()
+{
+    MaintenancePageUnderTest test;
+    aTask(test.database).describedAs(QString(2'000'000, u'x')).add();
+    const QByteArray before = contentOf(test.database.dataFile());
+    OtherProgram other(test.database, OtherProgram::Writing);
+    QVERIFY(other.holds());
+    other.run("rollback");
+    class Intruding final : public Progress
+    {
+    public:
+        explicit Intruding(OtherProgram& other) : m_other(other) { }
+        void advance(qint64, qint64) override
+        {
+            m_other.run("begin immediate; delete from tasks; commit");
+            written += m_other.holds() ? 1 : 0;
+            m_other.run("rollback");
+            ++steps;
+        }
+        int steps = 0;
+        int written = 0;
+
+    private:
+        OtherProgram& m_other;
+    };
+    Intruding progress(other);
+    const QString backup = test.pathOf(QStringLiteral("backup"));
+    DataFileCopies(test.database.engine()).backUpTo(backup, &progress);
+    QVERIFY(progress.steps > 1);
+    QCOMPARE(progress.written, 0);
+    QVERIFY(contentOf(backup) == before);
+    other.run("begin immediate; delete from tasks; commit");
+    QVERIFY(other.holds());
 }
 
 void TestBackup::noStatementIsSent()
