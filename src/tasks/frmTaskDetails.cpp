@@ -117,8 +117,10 @@ bool frmTaskDetails::letGo()
         return true;
     }
     const TaskInput entered = m_controls.input();
-    return entered == *m_filled
-        || letGoOfInput(m_services, *this, entered.unsavedText(*m_filled), [this] { return save(); });
+    return entered == *m_filled || letGoOfInput(m_services, *this, entered.unsavedText(*m_filled), [this] {
+        // A notification may have been answered above the question, and the input been let go of there.
+        return !m_filled || save();
+    });
 }
 
 void frmTaskDetails::EmptyForm()

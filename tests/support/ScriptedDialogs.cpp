@@ -10,6 +10,16 @@ void fail(const QString& why)
     QTest::qFail(qPrintable(why), __FILE__, __LINE__);
 }
 
+std::function<void(const FileDialogRequest&)> withoutRequest(const std::function<void()>& whileOpen)
+{
+    if (!whileOpen) {
+        return {};
+    }
+    return [whileOpen](const FileDialogRequest&) {
+        whileOpen();
+    };
+}
+
 } // namespace
 
 ScriptedDialogs::~ScriptedDialogs()
@@ -34,9 +44,10 @@ void ScriptedDialogs::expectAsk(const QString& question, bool yes)
     m_expected.enqueue({Kind::Ask, question, Icon::None, yes, {}});
 }
 
-void ScriptedDialogs::expectUnsaved(const QString& text, Unsaved answer)
+void ScriptedDialogs::expectUnsaved(
+    const QString& text, Unsaved answer, const std::function<void()>& whileOpen)
 {
-    m_expected.enqueue({Kind::AskAboutUnsaved, text, Icon::None, false, {}, answer});
+    m_expected.enqueue({Kind::AskAboutUnsaved, text, Icon::None, false, withoutRequest(whileOpen), answer});
 }
 
 void ScriptedDialogs::expectWhichTimes(const QString& question, Times answer)
@@ -58,11 +69,7 @@ void ScriptedDialogs::expectSave(
 
 void ScriptedDialogs::expectError(const QString& part, const std::function<void()>& whileOpen)
 {
-    m_expected.enqueue({Kind::Error, part, Icon::None, false, [whileOpen](const FileDialogRequest&) {
-                            if (whileOpen) {
-                                whileOpen();
-                            }
-                        }});
+    m_expected.enqueue({Kind::Error, part, Icon::None, false, withoutRequest(whileOpen)});
 }
 
 void ScriptedDialogs::tell(QWidget* /*owner*/, Icon icon, const QString& text)
@@ -99,6 +106,9 @@ MessageBoxes::Unsaved ScriptedDialogs::askAboutUnsaved(QWidget* /*owner*/, const
     if (take(Kind::AskAboutUnsaved, text, expected) && expected.text != text) {
         fail(QStringLiteral("\"%1\" is not the announced \"%2\"").arg(text, expected.text));
     }
+    if (expected.whileOpen) {
+        expected.whileOpen({});
+    }
     return expected.unsaved;
 }
 
@@ -130,7 +140,9 @@ void ScriptedDialogs::report(const QString& text)
     if (!text.contains(expected.text, Qt::CaseInsensitive)) {
         fail(QStringLiteral("the error \"%1\" does not say \"%2\"").arg(text, expected.text));
     }
-    expected.whileOpen({});
+    if (expected.whileOpen) {
+        expected.whileOpen({});
+    }
 }
 
 bool ScriptedDialogs::take(Kind kind, const QString& shown, Expectation& expected)

@@ -20,7 +20,7 @@ public:
     /// A message with the exclamation icon whose text contains `part`.
     void expectExclamationWith(const QString& part);
     void expectAsk(const QString& question, bool yes);
-    void expectUnsaved(const QString& text, Unsaved answer);
+    void expectUnsaved(const QString& text, Unsaved answer, const std::function<void()>& whileOpen = {});
     void expectWhichTimes(const QString& question, Times answer);
     /// `answer` is the chosen file, empty for cancelled; `whileOpen` runs while the dialog is "open".
     void expectOpen(const QString& answer, std::function<void(const FileDialogRequest&)> whileOpen = {});

@@ -69,6 +69,16 @@ private slots:
         QCOMPARE(dialog.stored(QStringLiteral("task_periority")).toInt(), 0);
     }
 
+    void inputThatIsLetGoOfWhileItsQuestionIsOpenIsNotStoredTwice()
+    {
+        OpenTask dialog;
+        dialog.setText("txtTask", QStringLiteral("call Eve"));
+        dialog.services.dialogs.expectUnsaved(QStringLiteral("The changes to 'call Eve' are not saved."),
+            MessageBoxes::Unsaved::Save, [&dialog] { dialog.click("btnCancel"); });
+        QVERIFY(dialog.form->letGo());
+        QCOMPARE(dialog.stored(QStringLiteral("task_name")).toString(), QStringLiteral("call"));
+    }
+
     void aSoundThatTheUserTakesAwayIsGone()
     {
         const OpenTask dialog;
