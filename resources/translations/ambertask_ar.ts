@@ -553,6 +553,14 @@
         <source>There are no tasks yet: the program folder &quot;%1&quot; does not exist. The first start makes it, and so does an import.</source>
         <translation>لا توجد مهام بعد: مجلد البرنامج «%1» غير موجود. يُنشأ عند أول تشغيل أو عند الاستيراد.</translation>
     </message>
+    <message>
+        <source>The input is too large. Nothing was stored.</source>
+        <translation>المُدخل كبير جدًا. لم يُحفظ شيء.</translation>
+    </message>
+    <message>
+        <source>There are no tasks yet. The first start makes the data file, and so does an import.</source>
+        <translation>لا توجد مهام بعد. يُنشأ ملف البيانات عند أول تشغيل أو عند الاستيراد.</translation>
+    </message>
 </context>
 <context>
     <name>CompiledHelpWindow</name>
@@ -1110,6 +1118,10 @@
     <message>
         <source>Its due date cannot be read: %1</source>
         <translation>تتعذّر قراءة تاريخ استحقاقها: %1</translation>
+    </message>
+    <message>
+        <source>Nothing was stored: another program has changed the tasks meanwhile.</source>
+        <translation>لم يُحفظ شيء: غيّر برنامج آخر المهام في هذه الأثناء.</translation>
     </message>
 </context>
 <context>
@@ -2796,6 +2808,13 @@ The others are deleted.</source>
     <message>
         <source>Next &amp;Monday, %1</source>
         <translation>الا&amp;ثنين القادم، %1</translation>
+    </message>
+</context>
+<context>
+    <name>TaskRepeats</name>
+    <message>
+        <source>Tasks cannot repeat in this data file, which is of an earlier version and could not be upgraded. The next start of Ambertask tries it again.</source>
+        <translation>لا يمكن أن تتكرر المهام في ملف البيانات هذا، لأنه من إصدار سابق وتعذّرت ترقيته. سيعيد Ambertask المحاولة عند التشغيل التالي.</translation>
     </message>
 </context>
 <context>

@@ -505,6 +505,14 @@
         <source>There are no tasks yet: the program folder &quot;%1&quot; does not exist. The first start makes it, and so does an import.</source>
         <translation>Es gibt noch keine Aufgaben: Der Programmordner „%1“ ist nicht vorhanden. Der erste Start legt ihn an, ebenso ein Import.</translation>
     </message>
+    <message>
+        <source>The input is too large. Nothing was stored.</source>
+        <translation>Die Eingabe ist zu groß. Es wurde nichts gespeichert.</translation>
+    </message>
+    <message>
+        <source>There are no tasks yet. The first start makes the data file, and so does an import.</source>
+        <translation>Es gibt noch keine Aufgaben. Der erste Start legt die Datendatei an, ebenso ein Import.</translation>
+    </message>
 </context>
 <context>
     <name>CompiledHelpWindow</name>
@@ -1002,6 +1010,10 @@
     <message>
         <source>Its due date cannot be read: %1</source>
         <translation>Das Fälligkeitsdatum kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>Nothing was stored: another program has changed the tasks meanwhile.</source>
+        <translation>Es wurde nichts gespeichert: Ein anderes Programm hat die Aufgaben inzwischen geändert.</translation>
     </message>
 </context>
 <context>
@@ -2596,6 +2608,13 @@ Die anderen Aufgaben werden gelöscht.</translation>
     <message>
         <source>Next &amp;Monday, %1</source>
         <translation>&amp;Nächsten Montag, %1</translation>
+    </message>
+</context>
+<context>
+    <name>TaskRepeats</name>
+    <message>
+        <source>Tasks cannot repeat in this data file, which is of an earlier version and could not be upgraded. The next start of Ambertask tries it again.</source>
+        <translation>In dieser Datendatei können sich Aufgaben nicht wiederholen: Sie hat eine frühere Version und konnte nicht aktualisiert werden. Der nächste Start von Ambertask versucht es erneut.</translation>
     </message>
 </context>
 <context>

@@ -505,6 +505,14 @@
         <source>There are no tasks yet: the program folder &quot;%1&quot; does not exist. The first start makes it, and so does an import.</source>
         <translation>Aún no hay tareas: la carpeta del programa «%1» no existe. Se crea en el primer inicio o con una importación.</translation>
     </message>
+    <message>
+        <source>The input is too large. Nothing was stored.</source>
+        <translation>La entrada es demasiado grande. No se guardó nada.</translation>
+    </message>
+    <message>
+        <source>There are no tasks yet. The first start makes the data file, and so does an import.</source>
+        <translation>Aún no hay tareas. El archivo de datos se crea en el primer inicio o con una importación.</translation>
+    </message>
 </context>
 <context>
     <name>CompiledHelpWindow</name>
@@ -1002,6 +1010,10 @@
     <message>
         <source>Its due date cannot be read: %1</source>
         <translation>No se puede leer su vencimiento: %1</translation>
+    </message>
+    <message>
+        <source>Nothing was stored: another program has changed the tasks meanwhile.</source>
+        <translation>No se guardó nada: otro programa ha cambiado las tareas entretanto.</translation>
     </message>
 </context>
 <context>
@@ -2596,6 +2608,13 @@ Las demás se eliminan.</translation>
     <message>
         <source>Next &amp;Monday, %1</source>
         <translation>El próximo &amp;lunes, %1</translation>
+    </message>
+</context>
+<context>
+    <name>TaskRepeats</name>
+    <message>
+        <source>Tasks cannot repeat in this data file, which is of an earlier version and could not be upgraded. The next start of Ambertask tries it again.</source>
+        <translation>Las tareas no pueden repetirse en este archivo de datos, que es de una versión anterior y no se pudo actualizar. El próximo inicio de Ambertask lo intentará de nuevo.</translation>
     </message>
 </context>
 <context>

@@ -505,6 +505,14 @@
         <source>There are no tasks yet: the program folder &quot;%1&quot; does not exist. The first start makes it, and so does an import.</source>
         <translation>Il n’y a pas encore de tâches&#xa0;: le dossier du programme «&#xa0;%1&#xa0;» n’existe pas. Il est créé au premier démarrage ou par une importation.</translation>
     </message>
+    <message>
+        <source>The input is too large. Nothing was stored.</source>
+        <translation>L’entrée est trop volumineuse. Rien n’a été enregistré.</translation>
+    </message>
+    <message>
+        <source>There are no tasks yet. The first start makes the data file, and so does an import.</source>
+        <translation>Il n’y a pas encore de tâches. Le fichier de données est créé au premier démarrage ou par une importation.</translation>
+    </message>
 </context>
 <context>
     <name>CompiledHelpWindow</name>
@@ -1002,6 +1010,10 @@
     <message>
         <source>Its due date cannot be read: %1</source>
         <translation>L’échéance ne peut pas être lue&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Nothing was stored: another program has changed the tasks meanwhile.</source>
+        <translation>Rien n’a été enregistré00a0: un autre programme a modifié les tâches entre-temps.</translation>
     </message>
 </context>
 <context>
@@ -2596,6 +2608,13 @@ Les autres tâches seront supprimées.</translation>
     <message>
         <source>Next &amp;Monday, %1</source>
         <translation>&amp;Lundi prochain, %1</translation>
+    </message>
+</context>
+<context>
+    <name>TaskRepeats</name>
+    <message>
+        <source>Tasks cannot repeat in this data file, which is of an earlier version and could not be upgraded. The next start of Ambertask tries it again.</source>
+        <translation>Les tâches ne peuvent pas se répéter dans ce fichier de données, qui est d’une version antérieure et n’a pas pu être mis à niveau. Le prochain démarrage d’Ambertask réessaiera.</translation>
     </message>
 </context>
 <context>

@@ -493,6 +493,14 @@
         <source>There are no tasks yet: the program folder &quot;%1&quot; does not exist. The first start makes it, and so does an import.</source>
         <translation>还没有任务：程序文件夹“%1”不存在。首次启动或导入时会创建它。</translation>
     </message>
+    <message>
+        <source>The input is too large. Nothing was stored.</source>
+        <translation>输入过大。未保存任何内容。</translation>
+    </message>
+    <message>
+        <source>There are no tasks yet. The first start makes the data file, and so does an import.</source>
+        <translation>还没有任务。首次启动或导入时会创建数据文件。</translation>
+    </message>
 </context>
 <context>
     <name>CompiledHelpWindow</name>
@@ -975,6 +983,10 @@
     <message>
         <source>Its due date cannot be read: %1</source>
         <translation>无法读取其截止日期：%1</translation>
+    </message>
+    <message>
+        <source>Nothing was stored: another program has changed the tasks meanwhile.</source>
+        <translation>未保存任何内容：另一个程序在此期间更改了任务。</translation>
     </message>
 </context>
 <context>
@@ -2546,6 +2558,13 @@ The others are deleted.</source>
     <message>
         <source>Next &amp;Monday, %1</source>
         <translation>下周一 %1(&amp;M)</translation>
+    </message>
+</context>
+<context>
+    <name>TaskRepeats</name>
+    <message>
+        <source>Tasks cannot repeat in this data file, which is of an earlier version and could not be upgraded. The next start of Ambertask tries it again.</source>
+        <translation>此数据文件的版本较旧且未能升级，其中的任务无法重复。Ambertask 下次启动时会重试。</translation>
     </message>
 </context>
 <context>

@@ -182,7 +182,7 @@ ImportResult TaskExchange::carryOut(const ImportPlan& plan, const DatabaseEngine
     TaskStoring storing(engine);
     if (engine.foreign != nullptr && engine.foreign->latest() != plan.seen) {
         throw PlanOutdatedError(
-            ExchangeTexts::tr("The tasks have been changed meanwhile by another program."));
+            ExchangeTexts::tr("Nothing was stored: another program has changed the tasks meanwhile."));
     }
     for (std::size_t i = 0; i < plan.tasks.size(); ++i) {
         if (progress != nullptr && i % Step == 0) {
