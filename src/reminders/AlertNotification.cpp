@@ -3,6 +3,7 @@
 #include "widgets/PlainText.h"
 
 #include <QStringList>
+#include <algorithm>
 #include <utility>
 
 namespace
@@ -14,13 +15,12 @@ constexpr char Dismiss[] = "dismiss";
 constexpr std::size_t NamedReminders = 5;
 constexpr qsizetype ShownCharacters = 200; ///< of a name
 
-QList<qint32> idsOf(const std::vector<DueReminder>& reminders)
+bool areSame(const std::vector<DueReminder>& some, const std::vector<DueReminder>& others)
 {
-    QList<qint32> ids;
-    for (const DueReminder& reminder : reminders) {
-        ids.append(reminder.id);
-    }
-    return ids;
+    return std::equal(some.begin(), some.end(), others.begin(), others.end(),
+        [](const DueReminder& one, const DueReminder& other) {
+            return one.id == other.id && one.reminder == other.reminder;
+        });
 }
 
 } // namespace
@@ -38,9 +38,9 @@ void AlertNotification::tell(const QString& title, const std::vector<DueReminder
         m_desktop = m_factory();
         connect(m_desktop.get(), &Notifications::chosen, this, &AlertNotification::onChosen);
         connect(m_desktop.get(), &Notifications::unanswerable, this, &AlertNotification::windowNeeded);
-        connect(m_desktop.get(), &Notifications::closed, this, [this] { m_ids.clear(); });
+        connect(m_desktop.get(), &Notifications::closed, this, [this] { m_told.clear(); });
     }
-    m_ids = idsOf(reminders);
+    m_told = reminders;
     m_desktop->show({title, textFor(reminders),
         {{QLatin1String(Notifications::DefaultAction), tr("Open")}, {QLatin1String(Open), tr("Open")},
             {QLatin1String(Later), tr("Later (15 minutes)")}, {QLatin1String(Dismiss), tr("Dismiss")}}});
@@ -50,15 +50,15 @@ void AlertNotification::follow(const QString& title, const std::vector<DueRemind
 {
     if (reminders.empty()) {
         withdraw();
-    } else if (!m_ids.isEmpty() && m_ids != idsOf(reminders)) {
+    } else if (isTold() && !areSame(m_told, reminders)) {
         tell(title, reminders);
     }
 }
 
 void AlertNotification::withdraw()
 {
-    if (!m_ids.isEmpty()) {
-        m_ids.clear();
+    if (isTold()) {
+        m_told.clear();
         m_desktop->withdraw();
     }
 }
@@ -79,16 +79,16 @@ QString AlertNotification::textFor(const std::vector<DueReminder>& reminders)
 void AlertNotification::onChosen(const QString& key)
 {
     // A server may keep the notification after a choice.
-    const QList<qint32> ids = m_ids;
+    const std::vector<DueReminder> told = m_told;
     withdraw();
-    if (ids.isEmpty()) {
+    if (told.empty()) {
         return;
     }
     if (key == QLatin1String(Later)) {
-        emit laterRequested(ids);
+        emit laterRequested(told);
     } else if (key == QLatin1String(Dismiss)) {
-        emit dismissRequested(ids);
+        emit dismissRequested(told);
     } else {
-        emit openRequested(ids);
+        emit openRequested(told);
     }
 }

@@ -3,7 +3,6 @@
 #include "data/ReminderChecker.h"
 #include "system/Notifications.h"
 
-#include <QList>
 #include <QObject>
 #include <memory>
 #include <vector>
@@ -22,6 +21,8 @@ public:
 
     /// Whether this desktop needs to be told.
     bool isUsed() const { return m_factory != nullptr; }
+    /// Whether the notification is there.
+    bool isTold() const { return !m_told.empty(); }
     /// Shows these reminders, at least one, in the place of those that are shown.
     void tell(const QString& title, const std::vector<DueReminder>& reminders);
     /// If the notification is there, shows in it that only these are left; withdraws it when none is.
@@ -33,10 +34,10 @@ public:
     static QString textFor(const std::vector<DueReminder>& reminders);
 
 signals:
-    /// What the user has chosen, for the tasks of these ids; the notification is gone then.
-    void openRequested(const QList<qint32>& ids);
-    void laterRequested(const QList<qint32>& ids);
-    void dismissRequested(const QList<qint32>& ids);
+    /// What the user has chosen, for these reminders as they were told; the notification is gone then.
+    void openRequested(const std::vector<DueReminder>& told);
+    void laterRequested(const std::vector<DueReminder>& told);
+    void dismissRequested(const std::vector<DueReminder>& told);
     /// The user cannot answer here: the window has to come up.
     void windowNeeded();
 
@@ -45,5 +46,5 @@ private:
 
     NotificationsFactory m_factory;
     std::unique_ptr<Notifications> m_desktop;
-    QList<qint32> m_ids; ///< of the tasks that are shown; empty while the notification is not there
+    std::vector<DueReminder> m_told; ///< empty while the notification is not there
 };

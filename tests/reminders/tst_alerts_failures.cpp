@@ -1,39 +1,8 @@
 #include "AlertsFixture.h"
+#include "OtherProgram.h"
 #include "support/TestMain.h"
 
-#include <QFile>
 #include <QTest>
-#include <sqlite3.h>
-
-namespace
-{
-
-/// Another program that holds the data file in the way of `statements` while this lives.
-class OtherProgram
-{
-public:
-    OtherProgram(const TestDatabase& database, const char* statements)
-    {
-        m_holds = sqlite3_open_v2(QFile::encodeName(database.dataFile()).constData(), &m_handle,
-                      SQLITE_OPEN_READWRITE, nullptr)
-                == SQLITE_OK
-            && sqlite3_exec(m_handle, statements, nullptr, nullptr, nullptr) == SQLITE_OK;
-    }
-    ~OtherProgram() { sqlite3_close(m_handle); }
-    OtherProgram(const OtherProgram&) = delete;
-    OtherProgram& operator=(const OtherProgram&) = delete;
-    bool holds() const { return m_holds; }
-
-private:
-    sqlite3* m_handle = nullptr;
-    bool m_holds = false;
-};
-
-constexpr char LocksAll[] = "BEGIN EXCLUSIVE";
-constexpr char LocksWriting[] = "BEGIN IMMEDIATE";
-constexpr char LocksCommitting[] = "BEGIN; SELECT count(*) FROM tasks";
-
-} // namespace
 
 class tst_alerts_failures : public TestCase
 {
