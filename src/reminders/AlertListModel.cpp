@@ -8,17 +8,6 @@
 
 #include <algorithm>
 
-namespace
-{
-
-/// Whether all of `some` are among `all`.
-bool areAmong(const std::vector<DueReminder>& all, const std::vector<DueReminder>& some)
-{
-    return AlertListModel::idsAmong(all, some).size() == static_cast<qsizetype>(some.size());
-}
-
-} // namespace
-
 AlertListModel::AlertListModel(const Clock& clock, QObject* parent)
     : TaskGridModel(clock, Name, DueDate, parent)
 {
@@ -80,6 +69,11 @@ bool AlertListModel::lists(const std::vector<DueReminder>& reminders) const
 bool AlertListModel::holds(const std::vector<DueReminder>& reminders) const
 {
     return areAmong(m_reminders, reminders);
+}
+
+bool AlertListModel::areAmong(const std::vector<DueReminder>& all, const std::vector<DueReminder>& some)
+{
+    return idsAmong(all, some).size() == static_cast<qsizetype>(some.size());
 }
 
 QList<qint32> AlertListModel::idsAmong(

@@ -1,10 +1,12 @@
 #include "reminders/AlertNotification.h"
 
+#include "reminders/AlertListModel.h"
 #include "widgets/PlainText.h"
 
 #include <QStringList>
-#include <algorithm>
 #include <utility>
+
+using namespace std::chrono_literals;
 
 namespace
 {
@@ -15,19 +17,14 @@ constexpr char Dismiss[] = "dismiss";
 constexpr std::size_t NamedReminders = 5;
 constexpr qsizetype ShownCharacters = 200; ///< of a name
 
-bool areSame(const std::vector<DueReminder>& some, const std::vector<DueReminder>& others)
-{
-    return std::equal(some.begin(), some.end(), others.begin(), others.end(),
-        [](const DueReminder& one, const DueReminder& other) {
-            return one.id == other.id && one.reminder == other.reminder;
-        });
-}
-
 } // namespace
 
 AlertNotification::AlertNotification(NotificationsFactory factory, QObject* parent)
-    : QObject(parent), m_factory(std::move(factory))
+    : QObject(parent), m_factory(std::move(factory)), m_tmrChoiceRest(this)
 {
+    m_tmrChoiceRest.setObjectName(QStringLiteral("tmrChoiceRest"));
+    m_tmrChoiceRest.setInterval(500ms);
+    m_tmrChoiceRest.setSingleShot(true);
 }
 
 AlertNotification::~AlertNotification() = default;
@@ -40,6 +37,10 @@ void AlertNotification::tell(const QString& title, const std::vector<DueReminder
         connect(m_desktop.get(), &Notifications::unanswerable, this, &AlertNotification::windowNeeded);
         connect(m_desktop.get(), &Notifications::closed, this, [this] { m_told.clear(); });
     }
+    if (isTold() && !AlertListModel::areAmong(m_told, reminders)) {
+        restFromChoices();
+    }
+    m_title = title;
     m_told = reminders;
     m_desktop->show({title, textFor(reminders),
         {{QLatin1String(Notifications::DefaultAction), tr("Open")}, {QLatin1String(Open), tr("Open")},
@@ -50,7 +51,8 @@ void AlertNotification::follow(const QString& title, const std::vector<DueRemind
 {
     if (reminders.empty()) {
         withdraw();
-    } else if (isTold() && !areSame(m_told, reminders)) {
+    } else if (isTold()
+        && !(AlertListModel::areAmong(reminders, m_told) && AlertListModel::areAmong(m_told, reminders))) {
         tell(title, reminders);
     }
 }
@@ -78,6 +80,12 @@ QString AlertNotification::textFor(const std::vector<DueReminder>& reminders)
 
 void AlertNotification::onChosen(const QString& key)
 {
+    const bool changes = key == QLatin1String(Later) || key == QLatin1String(Dismiss);
+    if (changes && isTold() && m_tmrChoiceRest.isActive()) {
+        // A server may take the notification away with a choice.
+        tell(m_title, m_told);
+        return;
+    }
     // A server may keep the notification after a choice.
     const std::vector<DueReminder> told = m_told;
     withdraw();
@@ -91,4 +99,11 @@ void AlertNotification::onChosen(const QString& key)
     } else {
         emit openRequested(told);
     }
+}
+
+void AlertNotification::restFromChoices()
+{
+    m_tmrChoiceRest.start();
+    // Counted from the return to the event loop: only then is the notification handed over.
+    QMetaObject::invokeMethod(&m_tmrChoiceRest, qOverload<>(&QTimer::start), Qt::QueuedConnection);
 }

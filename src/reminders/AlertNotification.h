@@ -4,12 +4,14 @@
 #include "system/Notifications.h"
 
 #include <QObject>
+#include <QTimer>
 #include <memory>
 #include <vector>
 
 /// Tells of due reminders where the alert window cannot come to the front by itself: a notification of the
 /// desktop, which offers what the window offers. The desktop is asked when there is something to tell for the
-/// first time. Interface thread only.
+/// first time. For half a second after reminders have joined those that were shown, "Later" and "Dismiss" are
+/// not taken: they may have been meant for the former ones alone. Interface thread only.
 class AlertNotification final : public QObject
 {
     Q_OBJECT
@@ -43,8 +45,11 @@ signals:
 
 private:
     void onChosen(const QString& key);
+    void restFromChoices();
 
     NotificationsFactory m_factory;
     std::unique_ptr<Notifications> m_desktop;
+    QTimer m_tmrChoiceRest;
+    QString m_title; ///< of what was told last
     std::vector<DueReminder> m_told; ///< empty while the notification is not there
 };

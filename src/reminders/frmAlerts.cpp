@@ -43,7 +43,7 @@ frmAlerts::frmAlerts(const FormServices& services, AlertsHost& host, WaveBackend
     : QWidget(parent, Qt::Window), m_services(services), m_host(host), m_mmc(std::move(waveBackend), this),
       m_reminders(services.clock), m_tmrTasksChecker(this), m_tmrFlasher(this),
       m_controls(*this, services.clock), m_actions(m_controls, services.clock), m_unasked(this),
-      m_notification(std::move(notifications))
+      m_notification(std::move(notifications), this)
 {
     setObjectName(QStringLiteral("frmAlerts"));
     setWindowTitle(titleFor(0));

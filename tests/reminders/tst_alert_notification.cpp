@@ -14,6 +14,16 @@ namespace
 /// An alert window on a desktop where it cannot come up by itself.
 struct ToldAlerts : RecordedDesktop, AlertsFixture {
     ToldAlerts() : AlertsFixture(factory()) { }
+    QTimer* choiceRest() const { return control<QTimer>(QStringLiteral("tmrChoiceRest")); }
+    /// Lets the half second pass in which new content takes no choice.
+    void passChoiceRest() const
+    {
+        QCoreApplication::processEvents();
+        choiceRest()->setInterval(0);
+        QCoreApplication::processEvents();
+        QVERIFY(!choiceRest()->isActive());
+        choiceRest()->setInterval(500);
+    }
 };
 
 /// One reminder, told.
@@ -248,6 +258,51 @@ private slots:
         alerts.aDueTask(QStringLiteral("c")).add();
         alerts.tick();
         QCOMPARE(alerts.lines(), QStringList({QStringLiteral("b"), QStringLiteral("c")}));
+    }
+
+    void aChoiceThatWasMeantForTheFormerRemindersIsTakenForNoOther_data()
+    {
+        QTest::addColumn<QByteArray>("key");
+        QTest::newRow("later") << QByteArray("later");
+        QTest::newRow("dismiss") << QByteArray("dismiss");
+    }
+
+    void aChoiceThatWasMeantForTheFormerRemindersIsTakenForNoOther()
+    {
+        QFETCH(QByteArray, key);
+        OneTold alerts;
+        alerts.aDueTask(QStringLiteral("b")).add();
+        alerts.tick();
+        alerts.database().statements().take();
+        const qsizetype before = alerts.told.size();
+        alerts.choose(key.constData());
+        QCOMPARE(alerts.database().statements().take(), QStringList());
+        // The desktop may have taken it away with the choice.
+        QCOMPARE(alerts.told.size(), before + 1);
+        QCOMPARE(alerts.lines(), QStringList({QStringLiteral("a"), QStringLiteral("b")}));
+        QVERIFY(alerts.isTold());
+
+        alerts.passChoiceRest();
+        alerts.choose(key.constData());
+        alerts.tick();
+        QCOMPARE(alerts.window.dueCount(), 0);
+        QVERIFY(!alerts.isTold());
+    }
+
+    void onlyANewReminderMakesChoicesRestAndOpenNever()
+    {
+        TwoTold alerts;
+        QVERIFY(!alerts.choiceRest()->isActive());
+        alerts.database().sql(
+            QStringLiteral("update tasks set dismissed=1 where task_id=%1").arg(alerts.first));
+        alerts.tick();
+        QCOMPARE(alerts.told.size(), 2);
+        QVERIFY(!alerts.choiceRest()->isActive());
+        alerts.aDueTask(QStringLiteral("c")).add();
+        alerts.tick();
+        QVERIFY(alerts.choiceRest()->isActive());
+        alerts.choose("open");
+        QVERIFY(alerts.window.isVisible());
     }
 
     void whereItCannotBeAnsweredTheWindowComesUp()
