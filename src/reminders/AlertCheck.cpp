@@ -7,6 +7,8 @@
 #include "widgets/GridView.h"
 #include "widgets/WindowPlacement.h"
 
+#include <algorithm>
+
 // The check for due reminders, and what it does to the alert window.
 
 void frmAlerts::tmrTasksChecker_Timer()
@@ -30,6 +32,11 @@ void frmAlerts::showAnew()
         check(isOvertaken);
     } else if (m_reminders.lists(checker.due())) {
         redraw(checker.due());
+        // What another process has set back has just sounded; the next check marks it.
+        const auto isPlayed = [](const DueReminder& due) {
+            return due.played;
+        };
+        m_owesMark = m_owesMark || !std::all_of(checker.due().begin(), checker.due().end(), isPlayed);
     }
     countTimes();
 }
