@@ -17,6 +17,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDateEdit>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QTimeEdit>
 #include <utility>
@@ -231,6 +232,11 @@ void frmAlerts::closeSound()
 
 bool frmAlerts::event(QEvent* event)
 {
+    // A held key must not answer one reminder after another. The shortcut of a button would repeat.
+    if (event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent*>(event)->isAutoRepeat()) {
+        event->accept();
+        return true;
+    }
     const bool handled = QWidget::event(event);
     if (event->type() == QEvent::WindowActivate) {
         Form_Activate();
