@@ -128,7 +128,7 @@ void Program::importTasks()
 
 void Program::onTasksChanged()
 {
-    if (m_alerts != nullptr && m_alerts->isVisible()) {
+    if (m_alerts != nullptr && m_alerts->isUp()) {
         m_alerts->tmrTasksChecker_Timer();
     }
 }

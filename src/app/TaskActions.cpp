@@ -50,6 +50,8 @@ QAction* TaskActions::make(const char* name, const QString& caption, const QKeyS
 {
     QAction* action = named(new QAction(caption, this), name);
     action->setShortcut(keys);
+    // A held key changes the tasks once.
+    action->setAutoRepeat(false);
     action->setShortcutVisibleInContextMenu(true);
     return action;
 }

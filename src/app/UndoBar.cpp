@@ -7,6 +7,7 @@
 #include "widgets/QuietLine.h"
 
 #include <QBoxLayout>
+#include <QKeyEvent>
 #include <QKeySequence>
 #include <QPushButton>
 
@@ -34,6 +35,7 @@ UndoBar::UndoBar(UndoHistory& history, QWidget* parent)
     layout->addWidget(m_undo);
     layout->addWidget(m_redo);
     layout->addWidget(m_close);
+    window()->installEventFilter(this);
     connect(m_undo, &QPushButton::clicked, this, &UndoBar::btnUndo_Click);
     connect(m_redo, &QPushButton::clicked, this, &UndoBar::redo);
     connect(m_close, &QPushButton::clicked, this, &UndoBar::leave);
@@ -46,6 +48,20 @@ void UndoBar::followInTabOrder(QWidget* before)
     setTabOrder(before, m_undo);
     setTabOrder(m_undo, m_redo);
     setTabOrder(m_redo, m_close);
+}
+
+bool UndoBar::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto& key = static_cast<const QKeyEvent&>(*event);
+        const QKeySequence keys(key.keyCombination());
+        // A held mnemonic would press its button again and again.
+        if (key.isAutoRepeat() && (keys == m_undo->shortcut() || keys == m_redo->shortcut())) {
+            event->accept();
+            return true;
+        }
+    }
+    return QFrame::eventFilter(watched, event);
 }
 
 void UndoBar::btnUndo_Click()

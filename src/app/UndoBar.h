@@ -27,6 +27,9 @@ signals:
     /// The bar has been closed and had the focus.
     void focusLeft();
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void btnUndo_Click();
     void showSteps();

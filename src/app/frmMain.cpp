@@ -264,7 +264,8 @@ void frmMain::toggle()
     if (isShown()) {
         hideWindow();
         m_host.hideDialogs();
-    } else if (!m_host.isTaskDialogVisible()) {
+    } else if (isVisible() || !m_host.isTaskDialogVisible()) {
+        // The dialog is minimized with the window.
         showWindow();
     }
 }

@@ -134,7 +134,9 @@ void CategoryList::keyPressEvent(QKeyEvent* event)
 {
     // Delete on the keypad counts as the same key.
     if (event->key() == Qt::Key_Delete && (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier) {
-        emit deletePressed();
+        if (!event->isAutoRepeat()) {
+            emit deletePressed();
+        }
     } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         emit enterPressed();
     } else if (moves(*event) && selectedItem() == nullptr && count() > 0) {

@@ -7,6 +7,8 @@
 #include "widgets/GridView.h"
 #include "widgets/WindowPlacement.h"
 
+#include <algorithm>
+
 // The check for due reminders, and what it does to the alert window.
 
 void frmAlerts::tmrTasksChecker_Timer()
@@ -30,6 +32,11 @@ void frmAlerts::showAnew()
         check(isOvertaken);
     } else if (m_reminders.lists(checker.due())) {
         redraw(checker.due());
+        // What another process has set back has just sounded; the next check marks it.
+        const auto isPlayed = [](const DueReminder& due) {
+            return due.played;
+        };
+        m_owesMark = m_owesMark || !std::all_of(checker.due().begin(), checker.due().end(), isPlayed);
     }
     countTimes();
 }
@@ -151,23 +158,38 @@ void frmAlerts::putAway()
 
 // What the user has chosen in the notification does what the controls of the window do.
 
-void frmAlerts::openTold(const QList<qint32>& ids)
+void frmAlerts::openTold(const std::vector<DueReminder>& told)
 {
-    m_controls.grdTasks->selectRows(m_reminders.rowsOf(ids));
+    m_controls.grdTasks->selectRows(
+        m_reminders.rowsOf(AlertListModel::idsAmong(m_reminders.reminders(), told)));
     showOwned(this, nullptr);
-    if (ids.size() == 1) {
+    if (told.size() == 1) {
         btnOpenItem_Click();
     }
 }
 
-void frmAlerts::postponeTold(const QList<qint32>& ids)
+void frmAlerts::postponeTold(const std::vector<DueReminder>& told)
 {
-    m_controls.grdTasks->selectRows(m_reminders.rowsOf(ids));
-    remindLater(*momentOf(UsualMoment::In15Minutes, m_services.clock.now()));
+    answerTold(told, [this] { remindLater(*momentOf(UsualMoment::In15Minutes, m_services.clock.now())); });
 }
 
-void frmAlerts::dismissTold(const QList<qint32>& ids)
+void frmAlerts::dismissTold(const std::vector<DueReminder>& told)
 {
-    m_controls.grdTasks->selectRows(m_reminders.rowsOf(ids));
-    btnDismiss_Click();
+    answerTold(told, [this] { btnDismiss_Click(); });
+}
+
+void frmAlerts::answerTold(const std::vector<DueReminder>& told, const std::function<void()>& answer)
+{
+    try {
+        // Another process may have changed some since the last check.
+        ReminderChecker checker(m_services.engine);
+        const QList<qint32> stillDue = AlertListModel::idsAmong(checker.due(), told);
+        checker.close();
+        m_controls.grdTasks->selectRows(m_reminders.rowsOf(stillDue));
+        answer();
+    } catch (...) {
+        // Otherwise nothing would show the reminders any more.
+        m_notification.tell(titleFor(m_reminders.rowCount()), m_reminders.reminders());
+        throw;
+    }
 }

@@ -8,25 +8,6 @@
 
 #include <algorithm>
 
-namespace
-{
-
-/// Whether all of `some` are among `all`. A task with another moment is another reminder.
-bool areAmong(const std::vector<DueReminder>& all, const std::vector<DueReminder>& some)
-{
-    QHash<qint32, QString> moments;
-    moments.reserve(static_cast<qsizetype>(all.size()));
-    for (const DueReminder& reminder : all) {
-        moments.insert(reminder.id, reminder.reminder);
-    }
-    return std::all_of(some.begin(), some.end(), [&moments](const DueReminder& reminder) {
-        const auto found = moments.constFind(reminder.id);
-        return found != moments.constEnd() && *found == reminder.reminder;
-    });
-}
-
-} // namespace
-
 AlertListModel::AlertListModel(const Clock& clock, QObject* parent)
     : TaskGridModel(clock, Name, DueDate, parent)
 {
@@ -88,6 +69,29 @@ bool AlertListModel::lists(const std::vector<DueReminder>& reminders) const
 bool AlertListModel::holds(const std::vector<DueReminder>& reminders) const
 {
     return areAmong(m_reminders, reminders);
+}
+
+bool AlertListModel::areAmong(const std::vector<DueReminder>& all, const std::vector<DueReminder>& some)
+{
+    return idsAmong(all, some).size() == static_cast<qsizetype>(some.size());
+}
+
+QList<qint32> AlertListModel::idsAmong(
+    const std::vector<DueReminder>& all, const std::vector<DueReminder>& some)
+{
+    QHash<qint32, QString> moments;
+    moments.reserve(static_cast<qsizetype>(all.size()));
+    for (const DueReminder& reminder : all) {
+        moments.insert(reminder.id, reminder.reminder);
+    }
+    QList<qint32> ids;
+    for (const DueReminder& reminder : some) {
+        const auto found = moments.constFind(reminder.id);
+        if (found != moments.constEnd() && *found == reminder.reminder) {
+            ids.append(reminder.id);
+        }
+    }
+    return ids;
 }
 
 int AlertListModel::shownCount(const std::vector<DueReminder>& due, bool visible) const

@@ -28,6 +28,10 @@ public:
     bool lists(const std::vector<DueReminder>& reminders) const;
     /// Whether all of these are listed.
     bool holds(const std::vector<DueReminder>& reminders) const;
+    /// Whether all of `some` are among `all`. A task with another moment is another reminder.
+    static bool areAmong(const std::vector<DueReminder>& all, const std::vector<DueReminder>& some);
+    /// The tasks of those of `some` that are among `all`.
+    static QList<qint32> idsAmong(const std::vector<DueReminder>& all, const std::vector<DueReminder>& some);
     /// How many reminders the user has been shown, for a check that finds `due`: the number of rows. 0 when
     /// the list is hidden (`visible` is false) and out of date: something that it lists is no longer due,
     /// and something due is not listed.

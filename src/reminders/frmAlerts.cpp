@@ -17,6 +17,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDateEdit>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QTimeEdit>
 #include <utility>
@@ -43,7 +44,7 @@ frmAlerts::frmAlerts(const FormServices& services, AlertsHost& host, WaveBackend
     : QWidget(parent, Qt::Window), m_services(services), m_host(host), m_mmc(std::move(waveBackend), this),
       m_reminders(services.clock), m_tmrTasksChecker(this), m_tmrFlasher(this),
       m_controls(*this, services.clock), m_actions(m_controls, services.clock), m_unasked(this),
-      m_notification(std::move(notifications))
+      m_notification(std::move(notifications), this)
 {
     setObjectName(QStringLiteral("frmAlerts"));
     setWindowTitle(titleFor(0));
@@ -231,6 +232,11 @@ void frmAlerts::closeSound()
 
 bool frmAlerts::event(QEvent* event)
 {
+    // A held key must not answer one reminder after another. The shortcut of a button would repeat.
+    if (event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent*>(event)->isAutoRepeat()) {
+        event->accept();
+        return true;
+    }
     const bool handled = QWidget::event(event);
     if (event->type() == QEvent::WindowActivate) {
         Form_Activate();

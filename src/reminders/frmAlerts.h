@@ -44,6 +44,8 @@ public:
     void showAnew();
     /// How many reminders are due, as far as the window knows from its last check.
     int dueCount() const { return m_allDismissed ? 0 : m_reminders.rowCount(); }
+    /// Whether the user is shown what is due, in the window or in the notification that stands for it.
+    bool isUp() const { return isVisible() || m_notification.isTold(); }
     /// Gives the focus to the list; activates the window if it is visible, but never shows it.
     void focusGrid();
     /// Enables the help button, which is disabled at first.
@@ -81,9 +83,12 @@ private:
     void btnOpenItem_Click();
     void mnuAlertComplete_Click();
     void remindLater(Moment moment);
-    void openTold(const QList<qint32>& ids);
-    void postponeTold(const QList<qint32>& ids);
-    void dismissTold(const QList<qint32>& ids);
+    void openTold(const std::vector<DueReminder>& told);
+    void postponeTold(const std::vector<DueReminder>& told);
+    void dismissTold(const std::vector<DueReminder>& told);
+    /// Runs `answer` with those selected that are still due as they were told. When it throws, what is listed
+    /// is told again.
+    void answerTold(const std::vector<DueReminder>& told, const std::function<void()>& answer);
     void tmrFlasher_Timer();
     void closeSound();
 

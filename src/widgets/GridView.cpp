@@ -247,7 +247,9 @@ void GridView::requestMenu()
 void GridView::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Delete && isPlain(*event)) {
-        emit deletePressed();
+        if (!event->isAutoRepeat()) {
+            emit deletePressed();
+        }
     } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         emit enterPressed();
     } else if (event->matches(QKeySequence::Copy)) {

@@ -10,7 +10,10 @@
 
 /// The whole program on a temporary data file and a recording machine.
 struct ProgramFixture : RecordedMachine {
-    explicit ProgramFixture(const QString& shippedFolder = {}) : program(machine(shippedFolder)) { }
+    explicit ProgramFixture(const QString& shippedFolder = {}, const NotificationsFactory& notifications = {})
+        : program(machine(shippedFolder, notifications))
+    {
+    }
     ~ProgramFixture() { program.unload(); }
 
     void start(bool firstStart = false)

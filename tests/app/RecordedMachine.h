@@ -44,7 +44,8 @@ struct RecordedMachine {
     }
 
     /// `shippedFolder` is where an installed program finds what is not in its program folder.
-    Machine machine(const QString& shippedFolder = {})
+    /// `notifications` is given where windows cannot come up by themselves.
+    Machine machine(const QString& shippedFolder = {}, const NotificationsFactory& notifications = {})
     {
         return {database.engine(), dialogs, dialogs, dialogs, shell, registry,
             [this] { return std::make_unique<RecordedWaves>(played, stops); },
@@ -58,7 +59,8 @@ struct RecordedMachine {
                 reportWindow = window.get();
                 return window;
             },
-            [this] { return std::make_unique<RecordedExchange>(exchange); }, {}, shippedFolder, {}};
+            [this] { return std::make_unique<RecordedExchange>(exchange); }, {}, shippedFolder, {},
+            notifications};
     }
     void setting(const QString& column, int value) const
     {

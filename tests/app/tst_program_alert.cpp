@@ -1,5 +1,6 @@
 #include "ProgramFixture.h"
 #include "reminders/frmAlerts.h"
+#include "support/RecordedNotifications.h"
 #include "support/TestMain.h"
 #include "tasks/frmTaskDetails.h"
 #include "widgets/WindowPlacement.h"
@@ -31,6 +32,30 @@ private slots:
         QVERIFY(!f.program.alerts().isVisible());
         f.program.alerts().tmrTasksChecker_Timer();
         QVERIFY(f.program.alerts().isVisible());
+    }
+
+    void whatTheUserChangesInTheListLeavesTheNotificationAtOnce()
+    {
+        RecordedDesktop desktop;
+        ProgramFixture f({}, desktop.factory());
+        for (const char* name : {"a", "b"}) {
+            aTask(f.database)
+                .named(QString::fromLatin1(name))
+                .remindingAt(f.database.clock().now() - 1min)
+                .add();
+        }
+        f.start();
+        f.program.loadDialogs();
+        QVERIFY(desktop.isTold());
+        QVERIFY(!f.program.alerts().isVisible());
+        auto* complete = f.menu("mnuListComplete");
+        f.grid(f.main())->selectRows({0});
+        complete->trigger();
+        QCOMPARE(desktop.lines(), QStringList(QStringLiteral("b")));
+        f.grid(f.main())->selectRows({1});
+        complete->trigger();
+        QVERIFY(!desktop.isTold());
+        QVERIFY(!f.program.alerts().isVisible());
     }
 
     void afterOkTheMainWindowThatLiesInFrontHasTheKeyboard()

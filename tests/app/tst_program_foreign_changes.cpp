@@ -142,6 +142,23 @@ private slots:
         QCOMPARE(f.database.storedOfAll("played"), QStringLiteral("0 1 1"));
     }
 
+    void aListedReminderThatIsToSoundAgainSoundsOnceAndIsMarkedSo()
+    {
+        WatchingProgram f;
+        aTask(f.database)
+            .named(QStringLiteral("due"))
+            .remindingAt(f.database.clock().now() - 1min)
+            .sounding(QStringLiteral("bell.wav"))
+            .add();
+        f.tick();
+        f.database.sql(QStringLiteral("update tasks set played=0"));
+        f.tick();
+        QCOMPARE(f.played.size(), 2);
+        f.tick();
+        QCOMPARE(f.played.size(), 2);
+        QCOMPARE(f.database.storedOfAll("played"), QStringLiteral("0 1"));
+    }
+
     void aListedReminderThatWasRenamedIsShownSoAndKeepsItsSelection()
     {
         WatchingProgram f;

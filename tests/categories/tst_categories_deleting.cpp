@@ -78,6 +78,8 @@ void CategoriesDeletingTest::theDeleteKeyAsks()
     test.dialogs.expectAsk(question(QStringLiteral("Work")), false);
     QTest::keyClick(test.list(), Qt::Key_Delete);
     QVERIFY(test.dialogs.allUsed());
+    // Held, it does not ask again.
+    QTest::simulateEvent(test.list(), true, Qt::Key_Delete, {}, QString(), true);
 }
 
 void CategoriesDeletingTest::deletingACategoryRemovesItsTasks()

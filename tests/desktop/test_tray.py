@@ -84,6 +84,16 @@ class TrayIconTest(TrayCase):
         wait_until(lambda: window.mapped and not window.minimized, "the main window is back")
         self.user.wait_active(names.MAIN)
 
+    def test_a_double_click_brings_a_minimized_window_back_with_its_dialog(self):
+        self.store.category("Work")
+        self.user.open_new_task()
+        window, dialog = self.user.window(names.MAIN), self.user.window(names.TASK_DIALOG)
+        window.minimize()
+        wait_until(lambda: window.minimized, "the main window is minimized")
+        self.user.double_click_tray()
+        for shown in (window, dialog):
+            wait_until(lambda: shown.mapped and not shown.minimized, "both are back")
+
     def test_a_double_click_hides_the_open_dialogs_too(self):
         self.store.category("Work")
         self.user.open_new_task()

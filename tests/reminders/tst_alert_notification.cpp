@@ -1,4 +1,6 @@
 #include "AlertsFixture.h"
+#include "support/OtherProgram.h"
+#include "support/RecordedNotifications.h"
 #include "support/TestMain.h"
 
 #include <QSignalSpy>
@@ -9,40 +11,19 @@ using namespace std::chrono_literals;
 namespace
 {
 
-/// Remembers what was shown.
-class RecordedNotifications final : public Notifications
-{
-public:
-    explicit RecordedNotifications(QList<Notification>& log) : m_log(log) { }
-    void show(const Notification& notification) override
-    {
-        m_log.append(notification);
-        isShown = true;
-    }
-    void withdraw() override { isShown = false; }
-
-    bool isShown = false;
-
-private:
-    QList<Notification>& m_log;
-};
-
 /// An alert window on a desktop where it cannot come up by itself.
-struct ToldAlerts : AlertsFixture {
-    ToldAlerts()
-        : AlertsFixture([this] {
-              auto made = std::make_unique<RecordedNotifications>(told);
-              desktop = made.get();
-              return made;
-          })
+struct ToldAlerts : RecordedDesktop, AlertsFixture {
+    ToldAlerts() : AlertsFixture(factory()) { }
+    QTimer* choiceRest() const { return control<QTimer>(QStringLiteral("tmrChoiceRest")); }
+    /// Lets the half second pass in which new content takes no choice.
+    void passChoiceRest() const
     {
+        QCoreApplication::processEvents();
+        choiceRest()->setInterval(0);
+        QCoreApplication::processEvents();
+        QVERIFY(!choiceRest()->isActive());
+        choiceRest()->setInterval(500);
     }
-    bool isTold() const { return desktop != nullptr && desktop->isShown; }
-    QStringList lines() const { return told.constLast().text.split(u'\n'); }
-    void choose(const char* key) const { emit desktop->chosen(QString::fromLatin1(key)); }
-
-    QList<Notification> told;
-    RecordedNotifications* desktop = nullptr; ///< none before there was something to tell
 };
 
 /// One reminder, told.
@@ -171,6 +152,74 @@ private slots:
         QCOMPARE(alerts.stored(alerts.id, QStringLiteral("dismissed")), QStringLiteral("0"));
     }
 
+    void aReminderThatHasChangedMeanwhileIsNotAnswered_data()
+    {
+        QTest::addColumn<QByteArray>("key");
+        QTest::newRow("later") << QByteArray("later");
+        QTest::newRow("dismiss") << QByteArray("dismiss");
+    }
+
+    void aReminderThatHasChangedMeanwhileIsNotAnswered()
+    {
+        QFETCH(QByteArray, key);
+        TwoTold alerts;
+        const QString tomorrow = QStringLiteral("2026-01-16 10:00:00");
+        alerts.database().sql(QStringLiteral("update tasks set reminder_date_time='%1' where task_id=%2")
+                                  .arg(tomorrow)
+                                  .arg(alerts.first));
+        alerts.choose(key.constData());
+        QCOMPARE(alerts.stored(alerts.first, QStringLiteral("reminder_date_time")), tomorrow);
+        QCOMPARE(alerts.stored(alerts.first, QStringLiteral("dismissed")), QStringLiteral("0"));
+        alerts.tick();
+        QCOMPARE(alerts.window.dueCount(), 0);
+        QVERIFY(!alerts.isTold());
+    }
+
+    void anotherReminderOfTheTaskIsToldInsteadOfAnswered()
+    {
+        OneTold alerts;
+        alerts.database().sql(QStringLiteral("update tasks set reminder_date_time='2026-01-15 09:00:00'"));
+        alerts.choose("dismiss");
+        QCOMPARE(alerts.stored(alerts.id, QStringLiteral("dismissed")), QStringLiteral("0"));
+        alerts.tick();
+        QVERIFY(alerts.isTold());
+        alerts.choose("dismiss");
+        QCOMPARE(alerts.stored(alerts.id, QStringLiteral("dismissed")), QStringLiteral("1"));
+    }
+
+    void anAnswerThatFailsIsReportedAndTheNotificationComesBack_data()
+    {
+        QTest::addColumn<QByteArray>("key");
+        QTest::addColumn<QByteArray>("lock");
+        for (const char* key : {"later", "dismiss"}) {
+            for (const char* lock :
+                {OtherProgram::Committing, OtherProgram::Writing, OtherProgram::Reading}) {
+                QTest::addRow("%s, %s", key, lock) << QByteArray(key) << QByteArray(lock);
+            }
+        }
+    }
+
+    void anAnswerThatFailsIsReportedAndTheNotificationComesBack()
+    {
+        QFETCH(QByteArray, key);
+        QFETCH(QByteArray, lock);
+        TwoTold alerts;
+        {
+            const OtherProgram other(alerts.database(), lock.constData());
+            QVERIFY(other.holds());
+            alerts.world.dialogs.expectError(QStringLiteral("another program is using it"));
+            alerts.choose(key.constData());
+        }
+        QVERIFY(alerts.world.dialogs.allUsed());
+        QVERIFY(alerts.isTold());
+        QCOMPARE(alerts.told.constLast().title, QStringLiteral("2 Reminders"));
+        QCOMPARE(alerts.lines(), QStringList({QStringLiteral("a"), QStringLiteral("b")}));
+        alerts.choose(key.constData());
+        alerts.tick();
+        QCOMPARE(alerts.window.dueCount(), 0);
+        QVERIFY(!alerts.isTold());
+    }
+
     void whatIsAnsweredElsewhereLeavesTheNotification()
     {
         TwoTold alerts;
@@ -210,6 +259,51 @@ private slots:
         alerts.aDueTask(QStringLiteral("c")).add();
         alerts.tick();
         QCOMPARE(alerts.lines(), QStringList({QStringLiteral("b"), QStringLiteral("c")}));
+    }
+
+    void aChoiceThatWasMeantForTheFormerRemindersIsTakenForNoOther_data()
+    {
+        QTest::addColumn<QByteArray>("key");
+        QTest::newRow("later") << QByteArray("later");
+        QTest::newRow("dismiss") << QByteArray("dismiss");
+    }
+
+    void aChoiceThatWasMeantForTheFormerRemindersIsTakenForNoOther()
+    {
+        QFETCH(QByteArray, key);
+        OneTold alerts;
+        alerts.aDueTask(QStringLiteral("b")).add();
+        alerts.tick();
+        alerts.database().statements().take();
+        const qsizetype before = alerts.told.size();
+        alerts.choose(key.constData());
+        QCOMPARE(alerts.database().statements().take(), QStringList());
+        // The desktop may have taken it away with the choice.
+        QCOMPARE(alerts.told.size(), before + 1);
+        QCOMPARE(alerts.lines(), QStringList({QStringLiteral("a"), QStringLiteral("b")}));
+        QVERIFY(alerts.isTold());
+
+        alerts.passChoiceRest();
+        alerts.choose(key.constData());
+        alerts.tick();
+        QCOMPARE(alerts.window.dueCount(), 0);
+        QVERIFY(!alerts.isTold());
+    }
+
+    void onlyANewReminderMakesChoicesRestAndOpenNever()
+    {
+        TwoTold alerts;
+        QVERIFY(!alerts.choiceRest()->isActive());
+        alerts.database().sql(
+            QStringLiteral("update tasks set dismissed=1 where task_id=%1").arg(alerts.first));
+        alerts.tick();
+        QCOMPARE(alerts.told.size(), 2);
+        QVERIFY(!alerts.choiceRest()->isActive());
+        alerts.aDueTask(QStringLiteral("c")).add();
+        alerts.tick();
+        QVERIFY(alerts.choiceRest()->isActive());
+        alerts.choose("open");
+        QVERIFY(alerts.window.isVisible());
     }
 
     void whereItCannotBeAnsweredTheWindowComesUp()

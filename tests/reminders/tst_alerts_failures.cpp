@@ -2,7 +2,6 @@
 #include "support/OtherProgram.h"
 #include "support/TestMain.h"
 
-#include <QFile>
 #include <QTest>
 
 class tst_alerts_failures : public TestCase

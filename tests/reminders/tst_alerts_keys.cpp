@@ -105,6 +105,38 @@ private slots:
         QVERIFY(!alerts.window.isVisible());
     }
 
+    void aHeldKeyWorksOnce_data()
+    {
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<int>("left");
+        QTest::newRow("dismiss") << QStringLiteral("btnDismiss") << 1;
+        QTest::newRow("remind later") << QStringLiteral("btnRemindMeLater") << 1;
+        QTest::newRow("open") << QStringLiteral("btnOpenItem") << 2;
+    }
+
+    void aHeldKeyWorksOnce()
+    {
+        QFETCH(const QString, button);
+        QFETCH(const int, left);
+        AlertsFixture alerts;
+        comeUpActive(alerts);
+        alerts.passKeyRest();
+        alerts.control<QDateEdit>(QStringLiteral("dtpReminderDate"))->setDate(QDate(2027, 1, 1));
+        auto* pressed = alerts.control<QPushButton>(button);
+        const QSignalSpy clicks(pressed, &QPushButton::clicked);
+        for (const bool isRepeat : {false, true, true}) {
+            // The animation of a press swallows the next ones.
+            QTRY_VERIFY(!pressed->isDown());
+            alerts.grid()->selectOnly(0);
+            strike(alerts.grid(), pressed->shortcut()[0], isRepeat);
+        }
+        QTRY_VERIFY(!pressed->isDown());
+        QCOMPARE(clicks.count(), 1);
+        QCOMPARE(alerts.rows(), left);
+        strike(alerts.grid(), pressed->shortcut()[0], false);
+        QTRY_COMPARE(clicks.count(), 2);
+    }
+
     void theMouseWorksAtOnce()
     {
         AlertsFixture alerts;
@@ -243,6 +275,10 @@ private:
         alerts.tick();
         alerts.window.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&alerts.window));
+    }
+    static void strike(QWidget* focused, QKeyCombination keys, bool isRepeat)
+    {
+        QTest::simulateEvent(focused, true, keys.key(), keys.keyboardModifiers(), QString(), isRepeat);
     }
     static MomentButton* button(const AlertsFixture& alerts)
     {

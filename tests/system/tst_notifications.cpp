@@ -164,6 +164,46 @@ private slots:
         QVERIFY(m_server->closed().isEmpty());
     }
 
+    void whatTheUserClosesWhileTheNextOneIsUnderWayIsNotTheNextOne()
+    {
+        const unsigned first = show(named(QStringLiteral("1 Reminder"))).id;
+        m_notifications->show(named(QStringLiteral("2 Reminders")));
+        m_server->close(first);
+        QTRY_COMPARE(m_server->shown().size(), 2);
+        const auto second = m_server->shown().constLast();
+        QCOMPARE(second.replaced, 0U);
+        // The answer follows the call.
+        QTest::qWait(50);
+        QVERIFY(m_closed->isEmpty());
+        m_server->choose(second.id, QStringLiteral("later"));
+        QTRY_COMPARE(m_chosen->size(), 1);
+        m_notifications->withdraw();
+        QTRY_COMPARE(m_server->closed(), QList<unsigned>{second.id});
+    }
+
+    void aChoiceInTheFormerOneIsNotForTheNext()
+    {
+        const unsigned first = show(named(QStringLiteral("1 Reminder"))).id;
+        m_notifications->show(named(QStringLiteral("2 Reminders")));
+        m_server->choose(first, QStringLiteral("later"));
+        QTRY_COMPARE(m_server->shown().size(), 2);
+        QTest::qWait(50);
+        QVERIFY(m_chosen->isEmpty());
+        m_server->choose(m_server->shown().constLast().id, QStringLiteral("later"));
+        QTRY_COMPARE(m_chosen->size(), 1);
+    }
+
+    void aServerThatGoesWhileTheNextOneIsUnderWayHasNotClosedThat()
+    {
+        show(named(QStringLiteral("1 Reminder")));
+        m_notifications->show(named(QStringLiteral("2 Reminders")));
+        m_server->leave();
+        QTRY_VERIFY(!m_unanswerable->isEmpty());
+        QTest::qWait(50);
+        QCOMPARE(m_unanswerable->size(), 1);
+        QVERIFY(m_closed->isEmpty());
+    }
+
     void withoutAServerItCannotBeAnswered()
     {
         m_server->leave();

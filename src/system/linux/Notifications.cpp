@@ -74,7 +74,8 @@ void DesktopNotifications::withdraw()
 
 void DesktopNotifications::onActionInvoked(uint id, const QString& key)
 {
-    if (id == m_id && m_id != 0) {
+    // While the next one is under way, the user sees the former one, and has not chosen for the next.
+    if (id == m_id && m_id != 0 && !m_isBusy) {
         emit chosen(key);
     }
     // For the one window that the user has asked for, not for those and for programs that come later.
@@ -93,14 +94,17 @@ void DesktopNotifications::onClosed(uint id, uint /*reason*/)
 {
     if (id == m_id && m_id != 0) {
         m_id = 0;
-        emit closed();
+        // The one that is under way comes all the same.
+        if (!m_isBusy) {
+            emit closed();
+        }
     }
 }
 
 void DesktopNotifications::onServiceGone()
 {
-    // What it showed went with it, unanswered.
-    if (std::exchange(m_id, 0) != 0) {
+    // What it showed went with it, unanswered. What is under way gets an answer of its own.
+    if (std::exchange(m_id, 0) != 0 && !m_isBusy) {
         emit closed();
         emit unanswerable();
     }
