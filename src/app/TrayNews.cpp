@@ -1,14 +1,13 @@
 #include "app/TrayNews.h"
 
 #include "reminders/frmAlerts.h"
+#include "store/ForeignChanges.h"
 #include "system/Clock.h"
-#include "system/ProgramFolder.h"
 #include "system/RuntimeError.h"
 #include "widgets/TrayIcon.h"
 
 #include <QApplication>
 #include <QEvent>
-#include <QFile>
 
 TrayNews::TrayNews(const DatabaseEngine& engine, TrayIcon& icon, frmAlerts& alerts)
     : m_engine(engine), m_icon(icon), m_alerts(alerts)
@@ -35,10 +34,9 @@ void TrayNews::update()
 
 void TrayNews::countOverdue()
 {
-    // Asked of the file system: what this program or another one has stored since need not tell.
-    const QString path = m_engine.programFolder + QLatin1Char('/') + QLatin1String(DataFileName);
-    std::error_code unknown;
-    const auto file = std::filesystem::last_write_time(QFile::encodeName(path).toStdString(), unknown);
+    // The time of the file would be too coarse: a change may come right after the count. Asked before it, as
+    // others may store in between.
+    const quint32 file = m_engine.foreign->state();
     const Moment now = m_engine.clock->now();
     const bool timeHasPassed = now < m_countedAt || (m_overdue.nextDue && now > *m_overdue.nextDue);
     if (file == m_countedFile && !timeHasPassed) {

@@ -3,7 +3,7 @@
 #include "data/OverdueTasks.h"
 
 #include <QObject>
-#include <filesystem>
+#include <optional>
 
 class TrayIcon;
 class frmAlerts;
@@ -16,12 +16,12 @@ class TrayNews : public QObject
     Q_OBJECT
 
 public:
-    /// All outlive this object.
+    /// All outlive this object. `engine` watches the changes of others.
     TrayNews(const DatabaseEngine& engine, TrayIcon& icon, frmAlerts& alerts);
 
     /// To be called at each check for reminders and when tasks may have changed. Counts overdue tasks only
-    /// when the data file or, by time, their number can have changed. Never throws: what cannot be counted
-    /// now is counted by the next call.
+    /// when the data file or, by time, their number can have changed, as far as connections have seen it.
+    /// Never throws: what cannot be counted now is counted by the next call.
     void update();
 
     /// The lines below the program's name; empty when there is nothing to tell.
@@ -39,7 +39,7 @@ private:
     OverdueTasks m_overdue;
     /// The moment and the state of the data file of the last count.
     Moment m_countedAt{};
-    std::filesystem::file_time_type m_countedFile;
+    std::optional<quint32> m_countedFile;
     /// The user sees the alert window: from its coming up until another window is activated.
     bool m_alertInFront = false;
 };

@@ -3,10 +3,13 @@
 #include "settings/SkinContrast.h"
 #include "settings/SkinFile.h"
 #include "settings/SkinStyle.h"
+#include "system/Language.h"
 
 #include <QApplication>
+#include <QDate>
 #include <QFile>
 #include <QFontMetrics>
+#include <QLocale>
 
 namespace
 {
@@ -105,6 +108,18 @@ QString filled(QStringView sheet, const QHash<QString, QColor>& colors)
 
 } // namespace
 
+int dateWidth(const QFontMetrics& letters, const QString& format)
+{
+    constexpr int UsualWidth = 9;
+    int width = UsualWidth * letters.height();
+    for (int month = 1; month <= 12; ++month) {
+        const QString date = QLocale().toString(QDate(2028, month, 28), format);
+        // Qt adds the width of its own buttons, which is a little less than that of the arrow.
+        width = qMax(width, letters.horizontalAdvance(date) + letters.height());
+    }
+    return width;
+}
+
 QString skinSheet(const SkinFile& skin)
 {
     QFile file(QStringLiteral(":/skins/sheet.qss"));
@@ -112,8 +127,10 @@ QString skinSheet(const SkinFile& skin)
     const QString sheet = filled(QString::fromUtf8(file.readAll()), sheetColors(skin));
     // Workaround: under a style sheet Qt 6.4.2 does not ask the style for the height of number, date and
     // time fields (tst_qt_workarounds, aSheetAsksNoStyleForTheHeightOfATime). They get that of lists and
-    // edits.
+    // edits, and dates the width of their text.
+    const QFontMetrics letters(QApplication::font());
     return sheet
-        + QStringLiteral("QAbstractSpinBox { min-height: %1px; }\n")
-              .arg(QFontMetrics(QApplication::font()).height() + SkinStyle::SpinBoxAir);
+        + QStringLiteral("QAbstractSpinBox { min-height: %1px; }\nQDateEdit { width: %2px; }\n")
+              .arg(letters.height() + SkinStyle::SpinBoxAir)
+              .arg(dateWidth(letters, shortDateFormat()));
 }

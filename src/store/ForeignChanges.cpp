@@ -36,7 +36,11 @@ void ForeignChanges::look(std::optional<quint32> commits)
         return;
     }
     // The counter starts anew after its last number, and so does the difference.
-    m_latest = *commits - m_own;
+    const quint32 latest = *commits - m_own;
+    if (latest != m_latest) {
+        ++m_state;
+    }
+    m_latest = latest;
     if (!m_shown) {
         m_shown = m_latest;
     }

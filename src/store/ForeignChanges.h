@@ -21,7 +21,14 @@ public:
     /// The counter of the file as a connection has found it; none when it does not count.
     void look(std::optional<quint32> commits);
     /// This process has changed the file by a commit.
-    void addOwn() { ++m_own; }
+    void addOwn()
+    {
+        ++m_own;
+        ++m_state;
+    }
+
+    /// Another number after every commit, own ones and those of others that a connection has seen.
+    quint32 state() const { return m_state; }
 
     /// How many commits of others there have been, as far as a connection has looked, from any number on.
     quint32 latest() const { return m_latest; }
@@ -33,6 +40,7 @@ public:
 
 private:
     quint32 m_own = 0;
+    quint32 m_state = 0;
     quint32 m_latest = 0;
     std::optional<quint32> m_shown;
 };

@@ -60,7 +60,7 @@ QSize needOf(const QWidget& widget)
         const auto* edit = picker->findChild<QLineEdit*>();
         const QMargins text = edit->textMargins();
         const int written = edit->fontMetrics().horizontalAdvance(edit->text()) + text.left() + text.right();
-        return {picker->width() - edit->width() + written, picker->minimumSizeHint().height()};
+        return picker->minimumSizeHint().expandedTo(QSize(picker->width() - edit->width() + written, 0));
     }
     if (qobject_cast<const QAbstractButton*>(&widget) != nullptr) {
         return widget.sizeHint();

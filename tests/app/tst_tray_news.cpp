@@ -37,14 +37,13 @@ struct Tray : ProgramFixture {
     {
         return aTask(database).dueAt(database.clock().now() + time);
     }
-    /// Does something to the data file, which is later than what was done before however coarse the clock of
-    /// the file system is.
+    /// Does something to the data file, which the file system dates no later than what was done before.
     template <typename Change> void changeFile(const Change& change) const
     {
         const std::filesystem::path file = QFile::encodeName(database.dataFile()).toStdString();
         const auto before = std::filesystem::last_write_time(file);
         change();
-        std::filesystem::last_write_time(file, before + 1s);
+        std::filesystem::last_write_time(file, before);
     }
     TaskBuilder aDueReminder() { return aTaskDueIn(1h).remindingAt(database.clock().now() - 1min); }
 };

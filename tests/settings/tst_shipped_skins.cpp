@@ -139,6 +139,7 @@ private slots:
     void disabledTextsCanStillBeRead();
     void outlinesAndRingsStandOut_data() { skins(); }
     void outlinesAndRingsStandOut();
+    void datesHaveRoomInEachFormat();
     void rulesOfTheSheetKeepTextsReadable_data() { skins(); }
     void rulesOfTheSheetKeepTextsReadable();
     void rowsThatAreLateTodayOrDoneCanBeRead_data() { skins(); }
@@ -245,6 +246,17 @@ void TestShippedSkins::outlinesAndRingsStandOut()
             QVERIFY2(ratio >= 3, qPrintable(QStringLiteral("%1 on %2: %3").arg(line).arg(ground).arg(ratio)));
         }
     }
+}
+
+void TestShippedSkins::datesHaveRoomInEachFormat()
+{
+    const QFontMetrics letters(QApplication::font());
+    const int usual = dateWidth(letters, QStringLiteral("dd.MM.yyyy"));
+    QCOMPARE(dateWidth(letters, QStringLiteral("M/d/yyyy")), usual);
+    const QString named = QStringLiteral("dddd, d. MMMM yyyy");
+    const QString date = QLocale().toString(QDate(2028, 11, 28), named);
+    QVERIFY(letters.horizontalAdvance(date) > usual);
+    QVERIFY(dateWidth(letters, named) > letters.horizontalAdvance(date));
 }
 
 void TestShippedSkins::rulesOfTheSheetKeepTextsReadable()

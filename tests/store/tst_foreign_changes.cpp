@@ -4,6 +4,7 @@
 #include "support/TestMain.h"
 
 #include <QTest>
+#include <utility>
 
 namespace
 {
@@ -150,6 +151,40 @@ private slots:
         Watcher watcher;
         watcher.database.sql(QStringLiteral("select * from tasks"));
         QVERIFY(!watcher.seesChanges());
+    }
+
+    void everyCommitMakesAnotherState()
+    {
+        Watcher watcher;
+        quint32 last = watcher.changes.state();
+        const auto isNew = [&] {
+            const quint32 before = std::exchange(last, watcher.changes.state());
+            return last != before;
+        };
+        watcher.run(ChangeNothing);
+        watcher.seesChanges();
+        QVERIFY(!isNew());
+        watcher.run(Rename);
+        QVERIFY(isNew());
+        watcher.seesChanges();
+        QVERIFY(!isNew());
+        watcher.database.sql(Rename);
+        watcher.seesChanges();
+        QVERIFY(isNew());
+    }
+
+    void aFileWithAnOlderCounterIsAnotherState()
+    {
+        ForeignChanges changes;
+        changes.look(7);
+        changes.addOwn();
+        changes.look(8);
+        const quint32 before = changes.state();
+        // Another file in its place, and a commit to that.
+        changes.look(7);
+        changes.addOwn();
+        changes.look(8);
+        QVERIFY(changes.state() != before);
     }
 
     void aFileInWriteAheadModeIsNotJudged()
