@@ -75,7 +75,11 @@ void TestMovingFaults::aTaskIsStoredWithItsRuleOrNot()
     task.setDueDateTime(database.clock().now());
     task.setReminderDateTime(database.clock().now());
     task.setRepeat(Repeat{"FREQ=DAILY", database.clock().now(), 0min, 0});
-    m_all.tryEverything(database.folder(), {[&] { return told([&] { task.Update(); }); }, stateIn});
+    const auto update = [&] {
+        repeating.setUsed(false);
+        return told([&] { task.Update(); });
+    };
+    m_all.tryEverything(database.folder(), {update, stateIn});
 }
 
 AMBERTASK_TEST_MAIN(TestMovingFaults)
