@@ -5,6 +5,7 @@
 #include "system/Clock.h"
 
 #include <algorithm>
+#include <array>
 #include <libical/ical.h>
 
 namespace
@@ -57,6 +58,47 @@ bool isModest(const CalendarPart& zone)
     return zone.problem.isEmpty() && bytes <= MostZoneBytes;
 }
 
+struct RenamedZone {
+    const char* name;
+    const char* former;
+};
+
+/// The zones that Qt 6.4 knows by their former names only where it has them from Windows.
+constexpr std::array<RenamedZone, 19> RenamedZones{{
+    {"Africa/Asmara", "Africa/Asmera"},
+    {"America/Argentina/Buenos_Aires", "America/Buenos_Aires"},
+    {"America/Argentina/Catamarca", "America/Catamarca"},
+    {"America/Argentina/Cordoba", "America/Cordoba"},
+    {"America/Argentina/Jujuy", "America/Jujuy"},
+    {"America/Argentina/Mendoza", "America/Mendoza"},
+    {"America/Atikokan", "America/Coral_Harbour"},
+    {"America/Indiana/Indianapolis", "America/Indianapolis"},
+    {"America/Kentucky/Louisville", "America/Louisville"},
+    {"America/Nuuk", "America/Godthab"},
+    {"Asia/Ho_Chi_Minh", "Asia/Saigon"},
+    {"Asia/Kathmandu", "Asia/Katmandu"},
+    {"Asia/Kolkata", "Asia/Calcutta"},
+    {"Asia/Yangon", "Asia/Rangoon"},
+    {"Atlantic/Faroe", "Atlantic/Faeroe"},
+    {"Europe/Kyiv", "Europe/Kiev"},
+    {"Pacific/Chuuk", "Pacific/Truk"},
+    {"Pacific/Kanton", "Pacific/Enderbury"},
+    {"Pacific/Pohnpei", "Pacific/Ponape"},
+}};
+
+QTimeZone zoneNamed(const QString& name)
+{
+    QTimeZone zone(name.toUtf8());
+    if (!zone.isValid()) {
+        const auto renamed = std::find_if(RenamedZones.begin(), RenamedZones.end(),
+            [&name](const RenamedZone& entry) { return name == QLatin1String(entry.name); });
+        if (renamed != RenamedZones.end()) {
+            zone = QTimeZone(renamed->former);
+        }
+    }
+    return zone;
+}
+
 /// The system's time zone of that name. Programs put their own names before it, or use those of Windows.
 QTimeZone systemZone(std::string_view id)
 {
@@ -66,7 +108,7 @@ QTimeZone systemZone(std::string_view id)
         return {};
     }
     for (const QString& candidate : {name, name.section(u'/', -2), name.section(u'/', -3)}) {
-        if (const QTimeZone zone(candidate.toUtf8()); !candidate.isEmpty() && zone.isValid()) {
+        if (const QTimeZone zone = zoneNamed(candidate); !candidate.isEmpty() && zone.isValid()) {
             return zone;
         }
     }

@@ -47,6 +47,8 @@ void TodoZonesTest::aMomentInAZoneBecomesLocalTime_data()
     row("Europe/Berlin", "20260715T120000", "2026-07-15 11:00:00");
     row("America/New_York", "20260115T200000", "2026-01-16 01:00:00");
     row("Asia/Kolkata", "20260715T120000", "2026-07-15 07:30:00");
+    row("Europe/Kyiv", "20260715T120000", "2026-07-15 10:00:00");
+    row("/somewhere/else/America/Argentina/Buenos_Aires", "20260115T120000", "2026-01-15 15:00:00");
     row("\"Europe/Berlin\"", "20260115T120000", "2026-01-15 11:00:00");
     row("/freeassociation.sourceforge.net/Europe/Berlin", "20260115T120000", "2026-01-15 11:00:00");
     row("/mozilla.org/20050126_1/America/Argentina/Salta", "20260115T120000", "2026-01-15 15:00:00");
