@@ -1013,7 +1013,7 @@
     </message>
     <message>
         <source>Nothing was stored: another program has changed the tasks meanwhile.</source>
-        <translation>Rien n’a été enregistré00a0: un autre programme a modifié les tâches entre-temps.</translation>
+        <translation>Rien n’a été enregistré&#xa0;: un autre programme a modifié les tâches entre-temps.</translation>
     </message>
 </context>
 <context>
