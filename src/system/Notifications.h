@@ -34,8 +34,8 @@ public:
     virtual void withdraw() = 0;
 
 signals:
-    /// The user has chosen the action of that key, in what was shown last. While the signal is handled, a window that is activated
-    /// may come to the front.
+    /// The user has chosen the action of that key, in what was shown last. While the signal is handled, a
+    /// window that is activated may come to the front.
     void chosen(const QString& key);
     /// The user cannot answer the notification that was to be shown: nobody shows it, or without actions.
     void unanswerable();

@@ -187,20 +187,6 @@ private slots:
         QCOMPARE(f.menu("mnuShow")->text(), QStringLiteral("Show"));
     }
 
-    void aMinimizedWindowComesBackWithTheTaskDialogThatIsOpen()
-    {
-        ProgramFixture f;
-        f.start();
-        f.program.loadDialogs();
-        f.press(f.main(), "btnTaskAdd");
-        QVERIFY(f.program.taskDetails().isVisible());
-        f.main().showMinimized();
-        f.menu("mnuShow")->trigger();
-        QVERIFY(!f.main().isMinimized());
-        QVERIFY(f.program.taskDetails().isVisible());
-        QCOMPARE(f.menu("mnuShow")->text(), QStringLiteral("Hide"));
-    }
-
     void hidingTheWindowHidesBothDialogs()
     {
         ProgramFixture f;

@@ -53,6 +53,20 @@ private slots:
         QVERIFY(isTopmost(&f.program.taskDetails()));
     }
 
+    void aMinimizedWindowComesBackWithTheTaskDialogThatIsOpen()
+    {
+        ProgramFixture f;
+        f.start();
+        f.program.loadDialogs();
+        f.press(f.main(), "btnTaskAdd");
+        QVERIFY(f.program.taskDetails().isVisible());
+        f.main().showMinimized();
+        f.menu("mnuShow")->trigger();
+        QVERIFY(!f.main().isMinimized());
+        QVERIFY(f.program.taskDetails().isVisible());
+        QCOMPARE(f.menu("mnuShow")->text(), QStringLiteral("Hide"));
+    }
+
     void theItemOpenedFromTheAlertIsOwnedByItAndNeverMadeTopmost()
     {
         ProgramFixture f;

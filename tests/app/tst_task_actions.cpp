@@ -29,13 +29,6 @@ struct ThreeTasks : TasksPageFixture {
     {
         QTest::keyClick(page.grid(), static_cast<Qt::Key>(key), modifiers);
     }
-    void hold(int key, Qt::KeyboardModifiers modifiers = {})
-    {
-        // An even number: what changes to and fro would be as before.
-        for (const bool isRepeat : {false, true, true, true}) {
-            QTest::simulateEvent(page.grid(), true, key, modifiers, QString(), isRepeat);
-        }
-    }
     ContextMenu menu() { return {*page.grid(), "mnuList"}; }
     QString stored(qint32 id, const char* column) const
     {
@@ -59,55 +52,6 @@ class tst_task_actions : public TestCase
     Q_OBJECT
 
 private slots:
-    void aHeldKeyChangesTheTasksOnce()
-    {
-        ThreeTasks f;
-        for (const int row : {0, 1, 2}) {
-            f.page.grid()->selectRows({row});
-            f.press(Qt::Key_D, Qt::ControlModifier);
-        }
-        f.page.grid()->selectRows({0});
-        // Set back, and not completed again.
-        f.hold(Qt::Key_D, Qt::ControlModifier);
-        QCOMPARE(f.storedOfAll("task_status"), QStringLiteral("0 2 2"));
-        f.hold(Qt::Key_Z, Qt::ControlModifier);
-        QCOMPARE(f.storedOfAll("task_status"), QStringLiteral("2 2 2"));
-        f.undo();
-        f.undo();
-        QCOMPARE(f.storedOfAll("task_status"), QStringLiteral("2 0 0"));
-        f.hold(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
-        QCOMPARE(f.storedOfAll("task_status"), QStringLiteral("2 2 0"));
-    }
-
-    void aHeldMnemonicTakesBackOneStep()
-    {
-        ThreeTasks f;
-        for (const int row : {0, 1, 2}) {
-            f.page.grid()->selectRows({row});
-            f.press(Qt::Key_D, Qt::ControlModifier);
-        }
-        auto* undo = f.control<QPushButton>("btnUndo");
-        const QSignalSpy clicks(undo, &QPushButton::clicked);
-        for (const bool isRepeat : {false, true, true}) {
-            // The animation of a press swallows the next ones.
-            QTRY_VERIFY(!undo->isDown());
-            QTest::simulateEvent(f.page.grid(), true, Qt::Key_N, Qt::AltModifier, QString(), isRepeat);
-        }
-        QTRY_VERIFY(!undo->isDown());
-        QCOMPARE(clicks.count(), 1);
-        QCOMPARE(f.storedOfAll("task_status"), QStringLiteral("2 2 0"));
-    }
-
-    void aHeldDeleteAsksOnce()
-    {
-        ThreeTasks f;
-        f.services.dialogs.expectAsk(QStringLiteral("Are you sure you want to delete this task?"), true);
-        f.page.grid()->selectRows({0});
-        f.hold(Qt::Key_Delete);
-        QVERIFY(f.services.dialogs.allUsed());
-        QCOMPARE(f.names(), QStringList({QStringLiteral("b"), QStringLiteral("c")}));
-    }
-
     void ctrlDCompletesTheSelectedTasksInOneStep()
     {
         ThreeTasks f;
