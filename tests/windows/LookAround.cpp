@@ -2,6 +2,7 @@
 // on:
 //   process <executable>
 //   window <x> <y> <width> <height> <whether it is in front> <title>     visible ones, the topmost first
+//   clipboard <the first line of its text>
 //   end
 
 #include <cstdio>
@@ -46,6 +47,24 @@ BOOL CALLBACK writeWindow(HWND window, LPARAM output)
     return TRUE;
 }
 
+void writeClipboard(std::FILE* file)
+{
+    if (OpenClipboard(nullptr) == 0) {
+        return;
+    }
+    if (const HANDLE handle = GetClipboardData(CF_UNICODETEXT); handle != nullptr) {
+        const auto* text = static_cast<const wchar_t*>(GlobalLock(handle));
+        wchar_t line[256] = L"";
+        for (int i = 0; i < 255 && text[i] != L'\0' && text[i] != L'\r' && text[i] != L'\n'; ++i) {
+            line[i] = text[i];
+        }
+        GlobalUnlock(handle);
+        std::fprintf(file, "clipboard ");
+        write(file, line);
+    }
+    CloseClipboard();
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -56,6 +75,7 @@ int main(int argc, char** argv)
     }
     writeProcesses(file);
     EnumWindows(writeWindow, reinterpret_cast<LPARAM>(file));
+    writeClipboard(file);
     std::fprintf(file, "end\n");
     return std::fclose(file) == 0 ? 0 : 1;
 }

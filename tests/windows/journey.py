@@ -26,7 +26,6 @@ MAIN, ALERT, HELP = "^Ambertask$", "Reminder", "Help"
 INSTALLED = "AppData\\Local\\Programs\\Ambertask"
 RUN_KEY = "Software\\Microsoft\\Windows\\CurrentVersion\\Run"
 UNINSTALL_KEY = "HKCU\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Ambertask"
-TICK = 10
 
 
 class Window:
@@ -48,7 +47,7 @@ class Journey:
     # What can be seen from outside.
 
     def look_around(self, kind):
-        """The lines of LookAround.cpp about windows or processes."""
+        """The lines of LookAround.cpp about windows, processes or the clipboard."""
         told = os.path.join(self.wine.folder, "told.txt")
         self.wine.run("explorer", f"/desktop=ambertask,{DESKTOP}", windows_path(self.looker), windows_path(told))
 
@@ -58,7 +57,7 @@ class Journey:
                     return file.read().splitlines()
             except FileNotFoundError:
                 return []
-        wait_until(lambda: lines()[-1:] == ["end"], "the desktop is looked at", 20)
+        wait_until(lambda: lines()[-1:] == ["end"], "the desktop is looked at")
         found = lines()
         os.remove(told)
         return [line.removeprefix(kind + " ") for line in found if line.startswith(kind + " ")]
@@ -70,12 +69,12 @@ class Journey:
         """How many copies run."""
         return self.look_around("process").count("Ambertask.exe")
 
-    def window(self, title, seconds=40):
+    def window(self, title, seconds=60):
         """The visible window whose title matches."""
         return wait_until(lambda: next((w for w in self.windows() if re.search(title, w.title)), None),
                           f"a window {title}", seconds)
 
-    def no_window(self, title, seconds=20):
+    def no_window(self, title, seconds=60):
         wait_until(lambda: not any(re.search(title, w.title) for w in self.windows()), f"no window {title}", seconds)
 
     def query(self, statement, values=(), path=DATA):
@@ -107,7 +106,7 @@ class Journey:
             if not window.is_in_front:
                 self.wine.click(window.x + window.width // 2, window.y + 12)
             return window.is_in_front
-        wait_until(is_in_front, f"{title} has the keyboard", 20)
+        wait_until(is_in_front, f"{title} has the keyboard")
 
     def go_to(self, page):
         self.bring_in_front(MAIN)
@@ -130,6 +129,20 @@ class Journey:
         height = int(DESKTOP.rpartition("x")[2])
         bar = next(w for w in self.windows() if not w.title and w.y + w.height == height)
         self.wine.click(bar.x + bar.width - 11, bar.y + bar.height // 2, **click)
+
+    def ask_for_help(self, key, topic, *keys_there):
+        """The topic, or its entry in the contents, is read back by the clipboard, and the help is closed."""
+        self.wine.keys(key)
+        self.bring_in_front(HELP)
+        self.wine.keys(*keys_there)
+
+        def is_shown():
+            self.wine.keys("ctrl+a", "ctrl+c")
+            return self.look_around("clipboard") == [topic]
+        wait_until(is_shown, f"the help shows {topic}")
+        self.wine.picture(f"help - {topic}")
+        self.wine.keys("Escape")
+        self.no_window(HELP)
 
     # The stations.
 
@@ -163,9 +176,13 @@ class Journey:
         moment = (datetime.now(timezone.utc) - timedelta(minutes=1)).strftime("%Y-%m-%d %H:%M:00")
         self.query("update tasks set reminder_on=1, reminder_date_time=?, reminder_sound=?, reminder_file=?, played=0, "
                    "dismissed=0", (moment, FOLDER + "\\sounds\\bell.wav", "C:\\start me.bat"))
-        self.window(ALERT, 3 * TICK)
-        wait_until(lambda: os.path.exists(started), "the file is started", 20)
-        wait_until(lambda: self.loudest() > 1000, "the sound is heard", 20)
+        self.window(ALERT, 60)
+        wait_until(lambda: os.path.exists(started), "the file is started")
+        wait_until(lambda: self.loudest() > 1000, "the sound is heard")
+
+    def help_of_the_alert(self):
+        self.bring_in_front(ALERT)
+        self.ask_for_help("F1", "The alert window")
 
     def dismissing(self):
         self.bring_in_front(ALERT)
@@ -211,13 +228,12 @@ class Journey:
         self.no_window("^Tasks Report$")
 
     def help(self):
+        for number, page in enumerate(("Tasks", "Categories", "Settings", "Maintenance"), 1):
+            self.go_to(number)
+            self.ask_for_help("alt+h", f"The page {page}")
+        # The contents have the keyboard; they are where they were left.
         self.bring_in_front(MAIN)
-        self.wine.keys("F1", pause=2)
-        self.window(HELP)
-        self.wine.picture("help")
-        self.bring_in_front(HELP)
-        self.wine.keys("Escape")
-        self.no_window(HELP)
+        self.ask_for_help("F1", "Welcome to Ambertask", "Home")
 
     def closing_to_the_tray(self):
         self.bring_in_front(MAIN)
@@ -267,10 +283,10 @@ class Journey:
 
 def main():
     archive, installer, pictures = sys.argv[1:]
-    stations = [Journey.first_start, Journey.run_key, Journey.adding, Journey.reminding, Journey.dismissing,
-                Journey.backup, Journey.restoring, Journey.another_skin, Journey.report, Journey.help,
-                Journey.closing_to_the_tray, Journey.second_copy, Journey.showing_again, Journey.exit,
-                Journey.installing, Journey.upgrading_a_running_copy, Journey.uninstalling]
+    stations = [Journey.first_start, Journey.run_key, Journey.adding, Journey.reminding,
+                Journey.help_of_the_alert, Journey.dismissing, Journey.backup, Journey.restoring, Journey.another_skin,
+                Journey.report, Journey.help, Journey.closing_to_the_tray, Journey.second_copy, Journey.showing_again,
+                Journey.exit, Journey.installing, Journey.upgrading_a_running_copy, Journey.uninstalling]
     with Wine(pictures) as wine:
         wine.show_desktop()
         journey = Journey(wine, archive, installer)
