@@ -554,10 +554,6 @@
         <translation>لا توجد مهام بعد: مجلد البرنامج «%1» غير موجود. يُنشأ عند أول تشغيل أو عند الاستيراد.</translation>
     </message>
     <message>
-        <source>The input is too large. Nothing was stored.</source>
-        <translation>المُدخل كبير جدًا. لم يُحفظ شيء.</translation>
-    </message>
-    <message>
         <source>There are no tasks yet. The first start makes the data file, and so does an import.</source>
         <translation>لا توجد مهام بعد. يُنشأ ملف البيانات عند أول تشغيل أو عند الاستيراد.</translation>
     </message>
@@ -828,6 +824,13 @@
     <message>
         <source>Ambertask needs a graphical desktop, and none could be reached from here.</source>
         <translation>يحتاج Ambertask إلى سطح مكتب رسومي، ولم يمكن الوصول إلى أي سطح مكتب من هنا.</translation>
+    </message>
+</context>
+<context>
+    <name>Draft</name>
+    <message>
+        <source>The input is too large. Nothing was stored.</source>
+        <translation>المُدخل كبير جدًا. لم يُحفظ شيء.</translation>
     </message>
 </context>
 <context>

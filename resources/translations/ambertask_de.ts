@@ -506,10 +506,6 @@
         <translation>Es gibt noch keine Aufgaben: Der Programmordner „%1“ ist nicht vorhanden. Der erste Start legt ihn an, ebenso ein Import.</translation>
     </message>
     <message>
-        <source>The input is too large. Nothing was stored.</source>
-        <translation>Die Eingabe ist zu groß. Es wurde nichts gespeichert.</translation>
-    </message>
-    <message>
         <source>There are no tasks yet. The first start makes the data file, and so does an import.</source>
         <translation>Es gibt noch keine Aufgaben. Der erste Start legt die Datendatei an, ebenso ein Import.</translation>
     </message>
@@ -768,6 +764,13 @@
     <message>
         <source>Ambertask needs a graphical desktop, and none could be reached from here.</source>
         <translation>Ambertask braucht eine grafische Arbeitsumgebung, und von hier aus war keine zu erreichen.</translation>
+    </message>
+</context>
+<context>
+    <name>Draft</name>
+    <message>
+        <source>The input is too large. Nothing was stored.</source>
+        <translation>Die Eingabe ist zu groß. Es wurde nichts gespeichert.</translation>
     </message>
 </context>
 <context>

@@ -506,10 +506,6 @@
         <translation>Aún no hay tareas: la carpeta del programa «%1» no existe. Se crea en el primer inicio o con una importación.</translation>
     </message>
     <message>
-        <source>The input is too large. Nothing was stored.</source>
-        <translation>La entrada es demasiado grande. No se guardó nada.</translation>
-    </message>
-    <message>
         <source>There are no tasks yet. The first start makes the data file, and so does an import.</source>
         <translation>Aún no hay tareas. El archivo de datos se crea en el primer inicio o con una importación.</translation>
     </message>
@@ -768,6 +764,13 @@
     <message>
         <source>Ambertask needs a graphical desktop, and none could be reached from here.</source>
         <translation>Ambertask necesita un escritorio gráfico y desde aquí no se ha podido acceder a ninguno.</translation>
+    </message>
+</context>
+<context>
+    <name>Draft</name>
+    <message>
+        <source>The input is too large. Nothing was stored.</source>
+        <translation>La entrada es demasiado grande. No se guardó nada.</translation>
     </message>
 </context>
 <context>

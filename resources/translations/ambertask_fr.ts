@@ -506,10 +506,6 @@
         <translation>Il n’y a pas encore de tâches&#xa0;: le dossier du programme «&#xa0;%1&#xa0;» n’existe pas. Il est créé au premier démarrage ou par une importation.</translation>
     </message>
     <message>
-        <source>The input is too large. Nothing was stored.</source>
-        <translation>L’entrée est trop volumineuse. Rien n’a été enregistré.</translation>
-    </message>
-    <message>
         <source>There are no tasks yet. The first start makes the data file, and so does an import.</source>
         <translation>Il n’y a pas encore de tâches. Le fichier de données est créé au premier démarrage ou par une importation.</translation>
     </message>
@@ -768,6 +764,13 @@
     <message>
         <source>Ambertask needs a graphical desktop, and none could be reached from here.</source>
         <translation>Ambertask a besoin d’un bureau graphique, et aucun n’a pu être atteint d’ici.</translation>
+    </message>
+</context>
+<context>
+    <name>Draft</name>
+    <message>
+        <source>The input is too large. Nothing was stored.</source>
+        <translation>L’entrée est trop volumineuse. Rien n’a été enregistré.</translation>
     </message>
 </context>
 <context>

@@ -494,10 +494,6 @@
         <translation>还没有任务：程序文件夹“%1”不存在。首次启动或导入时会创建它。</translation>
     </message>
     <message>
-        <source>The input is too large. Nothing was stored.</source>
-        <translation>输入过大。未保存任何内容。</translation>
-    </message>
-    <message>
         <source>There are no tasks yet. The first start makes the data file, and so does an import.</source>
         <translation>还没有任务。首次启动或导入时会创建数据文件。</translation>
     </message>
@@ -753,6 +749,13 @@
     <message>
         <source>Ambertask needs a graphical desktop, and none could be reached from here.</source>
         <translation>Ambertask 需要图形桌面环境，但在此处无法连接到任何桌面。</translation>
+    </message>
+</context>
+<context>
+    <name>Draft</name>
+    <message>
+        <source>The input is too large. Nothing was stored.</source>
+        <translation>输入过大。未保存任何内容。</translation>
     </message>
 </context>
 <context>

@@ -1,5 +1,6 @@
 #include "app/CommandRun.h"
 
+#include "app/Draft.h"
 #include "app/TaskLines.h"
 #include "data/DataFileCopies.h"
 #include "data/DataFileRoad.h"
@@ -15,7 +16,7 @@
 #include "system/TerminationSignals.h"
 #include "widgets/ChangeTexts.h"
 
-#include <QTemporaryFile>
+#include <QCoreApplication>
 #include <utility>
 
 namespace
@@ -49,56 +50,6 @@ public:
 private:
     int m_count = 0;
     QString m_first;
-};
-
-/// A place for output until it is complete, and for input: nobody who reads or writes slowly keeps the data
-/// file locked or lets what was read of it grow old, and nobody gets a part of the output. Private, and gone
-/// with the process.
-class Draft
-{
-public:
-    Draft()
-    {
-        if (!m_file.open()) {
-            throw FileError(m_file.fileTemplate(), m_file.errorString());
-        }
-    }
-
-    QIODevice& device() { return m_file; }
-    void copyTo(OutputStream& output)
-    {
-        m_file.flush();
-        if (m_file.error() != QFileDevice::NoError || !m_file.seek(0)) {
-            throw FileError(m_file.fileTemplate(), m_file.errorString());
-        }
-        for (QByteArray bytes = m_file.read(Chunk); !bytes.isEmpty() && output.error() == 0;
-             bytes = m_file.read(Chunk)) {
-            output.write(bytes);
-        }
-    }
-    /// Throws RuntimeError when it takes more than a file with as much as an import takes.
-    void takeFrom(QIODevice& input)
-    {
-        constexpr qint64 Most = qint64(1024) * 1024 * 1024;
-        for (QByteArray bytes = input.read(Chunk); !bytes.isEmpty(); bytes = input.read(Chunk)) {
-            if (m_file.size() > Most) {
-                throw RuntimeError(CommandRun::tr("The input is too large. Nothing was stored."));
-            }
-            m_file.write(bytes);
-        }
-        if (!m_file.flush() || m_file.error() != QFileDevice::NoError) {
-            throw FileError(m_file.fileTemplate(), m_file.errorString());
-        }
-    }
-    QIODevice& fromItsBeginning()
-    {
-        m_file.seek(0);
-        return m_file;
-    }
-
-private:
-    static constexpr qint64 Chunk = 65536;
-    QTemporaryFile m_file;
 };
 
 /// Requests to end the process, such as Ctrl+C, cancel the operation.

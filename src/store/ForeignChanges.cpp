@@ -45,3 +45,10 @@ void ForeignChanges::look(std::optional<quint32> commits)
         m_shown = m_latest;
     }
 }
+
+void lookAtOthers(ForeignChanges* foreign, sqlite3* database)
+{
+    if (foreign != nullptr) {
+        foreign->look(commitsInFile(database));
+    }
+}

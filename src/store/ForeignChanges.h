@@ -44,3 +44,6 @@ private:
     quint32 m_latest = 0;
     std::optional<quint32> m_shown;
 };
+
+/// Looks at the file of that connection where `foreign` is not null.
+void lookAtOthers(ForeignChanges* foreign, sqlite3* database);

@@ -39,7 +39,7 @@ Session::Session(QString path, const DatabaseEngine& engine) : m_path(std::move(
     try {
         openFile();
         harden();
-        lookAtOthers();
+        lookAtOthers(m_engine->foreign, m_database);
     } catch (...) {
         sqlite3_close_v2(m_database);
         throw;
@@ -219,13 +219,6 @@ int Session::executeOwn(const char* sql, int (*row)(void*, int, char**, char**),
     return asOwn([&] { return sqlite3_exec(m_database, sql, row, context, nullptr); });
 }
 
-void Session::lookAtOthers()
-{
-    if (m_engine->foreign != nullptr) {
-        m_engine->foreign->look(commitsInFile(m_database));
-    }
-}
-
 void Session::begin()
 {
     if (sqlite3_get_autocommit(m_database) == 0) {
@@ -240,7 +233,7 @@ void Session::begin()
     if (code != SQLITE_OK) {
         failStorage(tr("The data file \"%1\" could not be written: %2.").arg(m_path, reason(code)));
     }
-    lookAtOthers();
+    lookAtOthers(m_engine->foreign, m_database);
     if (m_engine->copies != nullptr) {
         // Not before the lock: another process could change the file under the copy.
         m_engine->copies->aboutToChange(UnchangedFile(m_database));

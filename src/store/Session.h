@@ -66,7 +66,6 @@ private:
     sqlite3_stmt* prepare(const QString& statement);
     int executeOwn(
         const char* sql, int (*row)(void*, int, char**, char**) = nullptr, void* context = nullptr);
-    void lookAtOthers();
     void begin();
     /// Runs `work`, whose statements are not the user's but the store's own.
     template <typename Work> auto asOwn(Work work)
