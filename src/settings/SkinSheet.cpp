@@ -110,8 +110,8 @@ QString filled(QStringView sheet, const QHash<QString, QColor>& colors)
 
 int dateWidth(const QFontMetrics& letters, const QString& format)
 {
-    constexpr int UsualWidth = 9;
-    int width = UsualWidth * letters.height();
+    constexpr int UsualLines = 8;
+    int width = UsualLines * letters.height();
     for (int month = 1; month <= 12; ++month) {
         const QString date = QLocale().toString(QDate(2028, month, 28), format);
         // Qt adds the width of its own buttons, which is a little less than that of the arrow.
