@@ -138,8 +138,7 @@ QString KeptCopies::keep(CopyOccasion occasion, Progress* progress) const
         locking.copies = &holding;
         Connection connection = ClsDatabase(locking).Connect();
         connection.open();
-        // Takes the write lock and changes nothing.
-        connection.alter("");
+        connection.beginWriting();
         connection.abandon();
     });
     if (m_engine.copies != nullptr) {

@@ -214,7 +214,7 @@ TaskStoring::TaskStoring(const DatabaseEngine& engine) : m_engine(engine), m_con
 {
     try {
         // From here on nobody else writes: the next id stays free.
-        m_connection.alter("");
+        m_connection.beginWriting();
         m_hasOrigins = hasOrigins(m_connection);
         m_nextId = nextId(m_connection);
         if (m_hasOrigins) {

@@ -22,7 +22,7 @@ void run(const DatabaseEngine& engine, const std::function<void(Connection&)>& w
     connection.open();
     try {
         // What is read is changed by nobody else before it is written.
-        connection.alter("");
+        connection.beginWriting();
         work(connection);
     } catch (...) {
         connection.abandon();

@@ -74,6 +74,11 @@ RecordSet Connection::execute(const QString& statement)
     return RecordSet(m_session->start(statement));
 }
 
+void Connection::beginWriting()
+{
+    m_session->begin();
+}
+
 void Connection::alter(const char* statements)
 {
     m_session->alter(statements);

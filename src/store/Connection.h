@@ -39,6 +39,9 @@ public:
     void open(const QString& user = {}, const QString& password = {}, int options = -1);
     /// Runs one statement. A query yields its rows, anything else an empty record set. Throws DatabaseError.
     RecordSet execute(const QString& statement);
+    /// Begins the transaction before the first writing statement does: what is read from here on is changed
+    /// by nobody else before the end. Only while the connection is open; throws DatabaseError (Storage).
+    void beginWriting();
     /// Runs SQLite statements that the program's own may not contain, such as schema changes. The listener is
     /// not told. Only while the connection is open; throws DatabaseError.
     void alter(const char* statements);

@@ -35,6 +35,8 @@ public:
 
     /// Starts a statement of the dialect; the cursor is not on a row yet. Throws DatabaseError.
     std::unique_ptr<Cursor> start(const QString& statement);
+    /// Begins the write transaction if none is open. Throws DatabaseError (Storage).
+    void begin();
     /// Runs SQLite statements of any kind in the write transaction. Throws DatabaseError.
     void alter(const char* statements);
     /// Changes rows in the write transaction, all or none. Throws ChangedSinceError when a row is not what
@@ -66,7 +68,6 @@ private:
     sqlite3_stmt* prepare(const QString& statement);
     int executeOwn(
         const char* sql, int (*row)(void*, int, char**, char**) = nullptr, void* context = nullptr);
-    void begin();
     /// Runs `work`, whose statements are not the user's but the store's own.
     template <typename Work> auto asOwn(Work work)
     {
