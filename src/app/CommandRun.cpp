@@ -17,6 +17,7 @@
 #include "widgets/ChangeTexts.h"
 
 #include <QCoreApplication>
+#include <optional>
 #include <utility>
 
 namespace

@@ -120,10 +120,6 @@ void requireRoomForSettings(Trial& trial)
     }
 }
 
-// Files of earlier versions do not have the tables yet.
-constexpr int FirstVersionWithOrigins = 3;
-constexpr int FirstVersionWithRepeats = 4;
-
 void requireReadableOrigins(Trial& trial)
 {
     RecordSet rows = trial.execute("select of_task,uid,properties from task_origins");
@@ -175,11 +171,11 @@ qint64 requireServiceableDataFile(const DatabaseEngine& engine)
     requireRoomForTasks(trial);
     requireRoomForSettings(trial);
     const int version = trial.execute("pragma user_version").int32(0);
-    if (version >= FirstVersionWithOrigins) {
+    if (version >= VersionWithOrigins) {
         requireReadableOrigins(trial);
         requireRoomForOrigins(trial);
     }
-    if (version >= FirstVersionWithRepeats) {
+    if (version >= VersionWithRepeats) {
         requireReadableRepeats(trial);
         requireRoomForRepeats(trial);
     }

@@ -7,7 +7,8 @@ struct DatabaseEngine;
 
 /// The version (`user_version`) of the data file that schema.sql creates.
 inline constexpr int DataFileVersion = 4;
-/// The first with the table of repeats.
+/// The first with the table of origins, and with that of repeats.
+inline constexpr int VersionWithOrigins = 3;
 inline constexpr int VersionWithRepeats = 4;
 
 /// The data file has a later version than this program supports.

@@ -76,8 +76,7 @@ void TaskRepeats::store(const DatabaseEngine& engine, Connection& connection, qi
     if (engine.repeating->isUsed() != true && !hasTable(connection, "repeats")) {
         throw RuntimeError(QCoreApplication::translate("TaskRepeats",
             "Tasks cannot repeat in this data file, which is of an earlier version and could not be "
-            "upgraded. "
-            "The next start of Ambertask tries it again."));
+            "upgraded. The next start of Ambertask tries it again."));
     }
     connection.execute(
         QStringLiteral("insert or replace into repeats(of_task,rule,first_moment,lead,done) values(%1)")
