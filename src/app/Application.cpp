@@ -2,11 +2,16 @@
 
 #include "system/RuntimeError.h"
 
-#include <QEvent>
+#include <QKeyEvent>
 
 bool Application::notify(QObject* receiver, QEvent* event)
 {
     try {
+        if (event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress) {
+            if (auto& press = static_cast<QKeyEvent&>(*event); m_heldKeys.isUntold(press)) {
+                return notifyRepeated(receiver, press);
+            }
+        }
         return QApplication::notify(receiver, event);
     } catch (const RuntimeError& error) {
         emit handlerFailed(error.text());
@@ -14,6 +19,23 @@ bool Application::notify(QObject* receiver, QEvent* event)
         emit handlerFailed(QString::fromLocal8Bit(error.what()));
     }
     return true;
+}
+
+bool Application::notifyRepeated(QObject* receiver, QKeyEvent& press)
+{
+    // Shortcuts would be looked up for a press that is none; those that repeat miss one of several turns.
+    if (press.type() == QEvent::ShortcutOverride) {
+        press.accept();
+        return true;
+    }
+    QKeyEvent repeated(press.type(), press.key(), press.modifiers(), press.nativeScanCode(),
+        press.nativeVirtualKey(), press.nativeModifiers(), press.text(), true,
+        static_cast<quint16>(press.count()));
+    repeated.setTimestamp(press.timestamp());
+    repeated.setAccepted(press.isAccepted());
+    const bool isHandled = QApplication::notify(receiver, &repeated);
+    press.setAccepted(repeated.isAccepted());
+    return isHandled;
 }
 
 bool Application::event(QEvent* event)

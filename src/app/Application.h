@@ -1,9 +1,13 @@
 #pragma once
 
+#include "widgets/HeldKeys.h"
+
 #include <QApplication>
 
-/// The application object. A request of the session to end the program becomes a signal, and no exception
-/// of a handler reaches Qt's event loop.
+class QKeyEvent;
+
+/// The application object. A request of the session to end the program becomes a signal, no exception of a
+/// handler reaches Qt's event loop, and presses that a held key repeats are told as such.
 class Application : public QApplication
 {
     Q_OBJECT
@@ -19,4 +23,10 @@ signals:
     void endRequested();
     /// An exception left an event handler that had no guard of its own.
     void handlerFailed(const QString& text);
+
+private:
+    /// Delivers `press` as the repetition that it is.
+    bool notifyRepeated(QObject* receiver, QKeyEvent& press);
+
+    HeldKeys m_heldKeys;
 };

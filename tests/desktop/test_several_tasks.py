@@ -87,6 +87,30 @@ class SeveralTasksByKeysTest(WhatIsThere, KeyboardCase):
         self.assertEqual([moment for moment, *_ in self.reminders().values()],
                          ["2026-03-02 10:30:00", "2026-03-02 10:31:00", "2026-03-02 10:32:00"])
 
+    def test_held_keys_change_once(self):
+        tasks = [f"Task {number}" for number in range(8)]
+        for task in tasks:
+            self.store.add_task(task)
+        self.user.wait_rows(tasks)
+        self.wait_grid_focus()
+        self.key("Home")
+        for row in range(8):
+            self.wait_selected(row)
+            self.ctrl("d")
+            self.wait_stored(self.statuses, [COMPLETED] * (row + 1) + [NOT_STARTED] * (7 - row))
+            self.key("Down")
+        self.desk.input.hold(3, "z", "Control_L")
+        self.user.wait_answering()
+        self.assertEqual(self.statuses(), [COMPLETED] * 7 + [NOT_STARTED])
+        # A shortcut of a button.
+        self.desk.input.hold(3, "n", "Alt_L")
+        self.user.wait_answering()
+        self.assertEqual(self.statuses(), [COMPLETED] * 6 + [NOT_STARTED] * 2)
+        # The list follows a held key to its end.
+        self.key("End")
+        self.desk.input.hold(3, "Up")
+        self.wait_selected(0)
+
     def test_the_menu_of_the_list_opens_by_both_keys_and_works_by_keys(self):
         for task, due in zip(TASKS, DUE):
             self.add_task(task, due, category="Work")

@@ -69,6 +69,10 @@ class Input:
 
     def key(self, name, *modifiers):
         """Strikes one key by its X name ("Return", "Delete", "a") while the modifiers are held down."""
+        self.hold(0, name, *modifiers)
+
+    def hold(self, seconds, name, *modifiers):
+        """Holds one key down for so long: the X server repeats it."""
         symbol = XK.string_to_keysym(name)
         if not symbol:
             raise ValueError(f"unknown key {name}")
@@ -79,6 +83,9 @@ class Input:
         for modifier in held:
             xtest.fake_input(self._display, X.KeyPress, modifier)
         xtest.fake_input(self._display, X.KeyPress, code)
+        if seconds:
+            self._display.sync()
+            self._pause(seconds)
         xtest.fake_input(self._display, X.KeyRelease, code)
         for modifier in reversed(held):
             xtest.fake_input(self._display, X.KeyRelease, modifier)
