@@ -205,10 +205,24 @@ void MaintenancePage::prepareFilters()
 {
     m_loader.LoadCategoriesCombo(*m_cmbCategories);
     m_loader.LoadStatusCombo(*m_cmbStatus);
-    const QDate today = toQDate(m_services.clock.now());
-    m_dtpDateFrom->setDate(today);
-    m_dtpDateTo->setDate(today);
+    showToday();
     m_opnAllTasks->setChecked(true);
+}
+
+void MaintenancePage::showToday()
+{
+    m_shownDay = toQDate(m_services.clock.now());
+    m_dtpDateFrom->setDate(m_shownDay);
+    m_dtpDateTo->setDate(m_shownDay);
+}
+
+void MaintenancePage::showEvent(QShowEvent* event)
+{
+    // The program runs for weeks; a range that nobody has touched is that of the day.
+    if (m_dtpDateFrom->date() == m_shownDay && m_dtpDateTo->date() == m_shownDay) {
+        showToday();
+    }
+    QWidget::showEvent(event);
 }
 
 MaintenancePage::Criteria MaintenancePage::shownCriteria() const
@@ -228,6 +242,9 @@ MaintenancePage::Criteria MaintenancePage::shownCriteria() const
 void MaintenancePage::btnDeleteTasksMaintenance_Click()
 {
     m_quietLine->hush();
+    // What is half typed counts as it is shown: the mnemonic of the button moves no focus.
+    m_dtpDateFrom->interpretText();
+    m_dtpDateTo->interpretText();
     const ClsTask store(m_services.engine);
     const Criteria counted = shownCriteria();
     const qint32 count =

@@ -2,6 +2,7 @@
 
 #include "widgets/clsGuiLoader.h"
 
+#include <QDate>
 #include <QWidget>
 #include <functional>
 
@@ -55,7 +56,12 @@ signals:
     void copiesRequested();
     void helpRequested();
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
+    /// Sets both dates to today.
+    void showToday();
     QGroupBox* makeDeleteFrame();
     QGroupBox* makeDateRangeFrame();
     QGroupBox* makeCopyFrame();
@@ -76,6 +82,7 @@ private:
     ComboBox* m_cmbStatus = nullptr;
     QDateEdit* m_dtpDateFrom = nullptr;
     QDateEdit* m_dtpDateTo = nullptr;
+    QDate m_shownDay; ///< that both dates were set to
     QRadioButton* m_opnAllTasks = nullptr;
     QRadioButton* m_opnActiveTasks = nullptr;
     QRadioButton* m_opnExpiredTasks = nullptr;

@@ -57,6 +57,9 @@ private slots:
     void anythingButYesDeletesNothing();
     void theCriteriaAreReadAgainAfterTheQuestion();
     void aRangeThatEndsBeforeItBeginsMatchesNothing();
+    void aHalfTypedDateCountsAsItIsShown();
+    void anUntouchedRangeFollowsTheDay();
+    void aRangeOfTheUsersStays();
     void aDatabaseErrorIsReportedAndLeavesTheCheckerAlone();
     void aDeletionThatTheEndOfTheProgramOvertakesDeletesNothing();
     void aDeletionKeepsACopyOfWhatWas();
@@ -307,6 +310,48 @@ void TestMaintenancePage::aRangeThatEndsBeforeItBeginsMatchesNothing()
     test.dialogs.expectTell(MessageBoxes::Icon::Exclamation, Nothing);
     test.press("btnDeleteTasksMaintenance");
     QCOMPARE(test.tasks().size(), 6);
+}
+
+void TestMaintenancePage::aHalfTypedDateCountsAsItIsShown()
+{
+    MaintenancePageUnderTest test;
+    aTask(test.database).named(QStringLiteral("second")).dueAt(at(2026y / January / 2, 10h)).add();
+    aTask(test.database).named(QStringLiteral("tenth")).dueAt(at(2026y / January / 10, 10h)).add();
+    test.setRange(QDate(2026, 1, 1), QDate(2026, 1, 15));
+    auto* to = test.find<QDateEdit>("dtpDateToMaintenance");
+    to->setDisplayFormat(QStringLiteral("dd.MM.yyyy"));
+    test.page.show();
+    QVERIFY(QTest::qWaitForWindowActive(&test.page));
+    to->setFocus();
+    to->setSelectedSection(QDateTimeEdit::DaySection);
+    QTest::keyClick(to, Qt::Key_2);
+    QCOMPARE(to->date(), QDate(2026, 1, 15));
+    test.dialogs.expectAsk(QStringLiteral("Are you sure you want to delete 1 tasks?"), true);
+    // A mnemonic moves no focus.
+    test.find<QPushButton>("btnDeleteTasksMaintenance")->animateClick();
+    QTRY_COMPARE(test.tasks().join(u','), QStringLiteral("tenth"));
+    QCOMPARE(to->date(), QDate(2026, 1, 2));
+}
+
+void TestMaintenancePage::anUntouchedRangeFollowsTheDay()
+{
+    MaintenancePageUnderTest test;
+    test.page.show();
+    test.page.hide();
+    test.database.clock().step(days(3));
+    test.page.show();
+    QCOMPARE(test.find<QDateEdit>("dtpDateFromMaintenance")->date(), QDate(2026, 1, 18));
+    QCOMPARE(test.find<QDateEdit>("dtpDateToMaintenance")->date(), QDate(2026, 1, 18));
+}
+
+void TestMaintenancePage::aRangeOfTheUsersStays()
+{
+    MaintenancePageUnderTest test;
+    test.setRange(QDate(2026, 1, 1), QDate(2026, 1, 15));
+    test.database.clock().step(days(3));
+    test.page.show();
+    QCOMPARE(test.find<QDateEdit>("dtpDateFromMaintenance")->date(), QDate(2026, 1, 1));
+    QCOMPARE(test.find<QDateEdit>("dtpDateToMaintenance")->date(), QDate(2026, 1, 15));
 }
 
 void TestMaintenancePage::aDatabaseErrorIsReportedAndLeavesTheCheckerAlone()
