@@ -138,7 +138,9 @@ void CategoryList::keyPressEvent(QKeyEvent* event)
             emit deletePressed();
         }
     } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        emit enterPressed();
+        if (!event->isAutoRepeat()) {
+            emit enterPressed();
+        }
     } else if (moves(*event) && selectedItem() == nullptr && count() > 0) {
         // QListWidget would move on from the current item, and a single item could not be reached.
         selectOnly(event->key() == Qt::Key_End ? count() - 1 : std::max(0, currentRow()));

@@ -48,6 +48,7 @@ frmCategoryDetails::frmCategoryDetails(const FormServices& services, std::functi
         m_controls.imgIcon.at(static_cast<std::size_t>(i))
             ->setIcon(m_services.imgLstCategories.picture(i + 1));
     }
+    m_controls.txtCatDesc->installEventFilter(this);
     connectControls();
     EmptyForm();
 }
@@ -319,6 +320,18 @@ void frmCategoryDetails::keyPressEvent(QKeyEvent* event)
         return;
     }
     QWidget::keyPressEvent(event);
+}
+
+bool frmCategoryDetails::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress) {
+        const auto& key = static_cast<const QKeyEvent&>(*event);
+        // The Enter that opens this window in the list of categories may be held.
+        if (key.isAutoRepeat() && (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter)) {
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void frmCategoryDetails::showEvent(QShowEvent* event)

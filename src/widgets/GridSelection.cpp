@@ -202,3 +202,18 @@ void GridView::selectionChanged(const QItemSelection& selected, const QItemSelec
     QAbstractItemView::selectionChanged(selected, deselected);
 }
 // NOLINTEND(bugprone-parent-virtual-call)
+
+void GridView::keyboardSearch(const QString& search)
+{
+    if (m_gridModel == nullptr || m_gridModel->rowCount() == 0 || currentIndex().isValid()) {
+        QTableView::keyboardSearch(search);
+        return;
+    }
+    // Without a current cell Qt would search the first column, which is the hidden one of the ids. From the
+    // last row the search goes on at the first.
+    selectionModel()->setCurrentIndex(cellOf(m_gridModel->rowCount() - 1), QItemSelectionModel::NoUpdate);
+    QTableView::keyboardSearch(search);
+    if (!selectionModel()->hasSelection()) {
+        selectionModel()->setCurrentIndex({}, QItemSelectionModel::NoUpdate);
+    }
+}

@@ -253,7 +253,9 @@ void GridView::keyPressEvent(QKeyEvent* event)
             emit deletePressed();
         }
     } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        emit enterPressed();
+        if (!event->isAutoRepeat()) {
+            emit enterPressed();
+        }
     } else if (event->matches(QKeySequence::Copy)) {
         copySelectedRows();
     } else if (isShiftF10(*event)) {

@@ -41,7 +41,9 @@ void LinkLabel::mouseReleaseEvent(QMouseEvent* event)
 void LinkLabel::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        click();
+        if (!event->isAutoRepeat()) {
+            click();
+        }
     } else {
         QLabel::keyPressEvent(event);
     }

@@ -1,3 +1,4 @@
+#include "categories/CategoryList.h"
 #include "categories/PageUnderTest.h"
 #include "store/DatabaseError.h"
 #include "support/CaughtError.h"
@@ -39,6 +40,7 @@ private slots:
     void aLabelIsNotEditedInPlace();
     void itemsHaveOneSizeWhateverTheirNames();
     void whereNothingIsSelectedTheFirstKeySelects();
+    void aHeldEnterOpensOnce();
     void theFocusMakesNoCategoryTheCurrentOne();
 };
 
@@ -68,6 +70,16 @@ void CategoriesListTest::whereNothingIsSelectedTheFirstKeySelects()
         QCOMPARE(test.listed(),
             key == Qt::Key_End ? QStringLiteral("Work [Alpha]") : QStringLiteral("[Work] Alpha"));
     }
+}
+
+void CategoriesListTest::aHeldEnterOpensOnce()
+{
+    PageUnderTest test;
+    const QSignalSpy opened(test.find<CategoryList>("lstViewCategories"), &CategoryList::enterPressed);
+    for (const bool isRepeat : {false, true, true}) {
+        QTest::simulateEvent(test.list(), true, Qt::Key_Return, {}, QString(), isRepeat);
+    }
+    QCOMPARE(opened.size(), 1);
 }
 
 void CategoriesListTest::anItemCarriesItsIdDescriptionAndPicture()

@@ -37,6 +37,7 @@ private slots:
     void theTextsAreTheSystemsOwn();
     void everyControlHasANameAndAKeyOfItsOwn();
     void noButtonActsOnEnterByDefault();
+    void aHeldEnterThatOpensTheDialogWritesNothing();
 };
 
 void CategoryDialogFormTest::theDialogStartsEmptyWithTheFirstIconSelected()
@@ -354,6 +355,18 @@ void CategoryDialogFormTest::noButtonActsOnEnterByDefault()
     for (const QPushButton* button : test.dialog.findChildren<QPushButton*>()) {
         QVERIFY(!button->autoDefault() && !button->isDefault());
     }
+}
+
+void CategoryDialogFormTest::aHeldEnterThatOpensTheDialogWritesNothing()
+{
+    DialogUnderTest test;
+    QPlainTextEdit* description = test.description();
+    const QString line(QLatin1Char('\r'));
+    QTest::simulateEvent(description, true, Qt::Key_Return, {}, line, true);
+    QTest::simulateEvent(description, false, Qt::Key_Return, {}, line, false);
+    QCOMPARE(description->toPlainText(), QString());
+    QTest::simulateEvent(description, true, Qt::Key_Return, {}, line, false);
+    QCOMPARE(description->toPlainText(), QStringLiteral("\n"));
 }
 
 AMBERTASK_TEST_MAIN(CategoryDialogFormTest)

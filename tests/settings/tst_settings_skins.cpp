@@ -415,7 +415,11 @@ void TestSettingsSkins::theDownloadLinkOpensTheVendorsPage()
 void TestSettingsSkins::theDownloadLinkIsPressedByKeyboardToo()
 {
     SettingsPageUnderTest test;
-    QTest::keyClick(test.page.findChild<LinkLabel*>(QStringLiteral("lblDownloadSkins")), Qt::Key_Return);
+    auto* link = test.page.findChild<LinkLabel*>(QStringLiteral("lblDownloadSkins"));
+    // Once, however long it is held.
+    for (const bool isRepeat : {false, true, true}) {
+        QTest::simulateEvent(link, true, Qt::Key_Return, {}, QString(), isRepeat);
+    }
     QCOMPARE(test.shell.pages.size(), 1);
 }
 

@@ -2,7 +2,8 @@
 
 #include "widgets/GridModel.h"
 
-/// Rows of one text each; the text is shown by field 1, its picture number by field 2.
+/// Rows of one text each; the text is shown by field 1, its picture number by field 2. Field 0, its
+/// length, is hidden.
 class WordsModel final : public GridModel
 {
 public:
@@ -27,7 +28,10 @@ public:
     }
 
 protected:
-    QString cellText(int row, int field) const override { return field == 2 ? QString() : m_words[row]; }
+    QString cellText(int row, int field) const override
+    {
+        return field == 0 ? QString::number(m_words[row].size()) : field == 2 ? QString() : m_words[row];
+    }
     int cellIcon(int row, int field) const override { return field == 2 ? row : NoIcon; }
     QString cellWord(int row, int field) const override
     {

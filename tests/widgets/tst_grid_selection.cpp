@@ -54,6 +54,28 @@ private slots:
         QCOMPARE(shown.grid.selectedRows(), Rows{3});
     }
 
+    void aLetterFindsANameBeforeAnyRowIsCurrent()
+    {
+        FiveRows shown;
+        shown.press(Qt::Key_3);
+        QVERIFY(!shown.grid.currentIndex().isValid());
+        QCOMPARE(shown.grid.selectedRows(), Rows());
+        QTest::qWait(QApplication::keyboardInputInterval() + 1);
+        shown.press(Qt::Key_F);
+        QCOMPARE(shown.grid.selectedRows(), Rows{3});
+    }
+
+    void aHeldEnterOpensOnce()
+    {
+        FiveRows shown;
+        shown.click(0);
+        const QSignalSpy opened(&shown.grid, &GridView::enterPressed);
+        for (const bool isRepeat : {false, true, true}) {
+            QTest::simulateEvent(&shown.grid, true, Qt::Key_Return, {}, QString(), isRepeat);
+        }
+        QCOMPARE(opened.size(), 1);
+    }
+
     void ctrlAndASelectAllRows()
     {
         FiveRows shown;
