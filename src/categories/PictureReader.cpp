@@ -40,6 +40,7 @@ void PictureReader::readNext()
     }
     if (m_paths.isEmpty()) {
         m_process.end();
+        m_isGreeted = false;
         emit finished();
         return;
     }
@@ -85,7 +86,7 @@ void PictureReader::lose()
     if (!m_isAsked) {
         return;
     }
-    if (m_isGreeted) {
+    if (std::exchange(m_isGreeted, false)) {
         // The picture has crashed its reader; do not read it in this process.
         take({}, PictureFile::refusal(m_paths.constFirst()));
     } else {

@@ -39,7 +39,7 @@ private:
     void lose();
 
     bool m_hasProcess;
-    bool m_isGreeted = false; ///< the process has answered
+    bool m_isGreeted = false; ///< the process that runs has answered
     HelperProcess m_process;
     bool m_hasBegun = false;
     bool m_isAsked = false; ///< the first of the paths has been sent

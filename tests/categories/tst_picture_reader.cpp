@@ -117,6 +117,19 @@ private slots:
         QVERIFY(f.refused.at(0).at(1).toString().contains(QLatin1String("hostile.gif")));
     }
 
+    void aReaderThatDoesNotStartAgainCountsAsMissing()
+    {
+        QString program = QStringLiteral(AMBERTASK_PICTURE_PROGRAM);
+        Reader f([&program] { return program; });
+        f.reader.request(f.write("first.gif", gifOf()));
+        f.reader.begin();
+        QTRY_COMPARE(f.finished.count(), 1);
+        program = f.script("exit 127");
+        f.reader.request(f.write("second.gif", gifOf()));
+        QTRY_COMPARE(f.finished.count(), 2);
+        QCOMPARE(f.read.count(), 2);
+    }
+
     void theProgramEndsInTheMiddleOfAPicture()
     {
         QString program;
