@@ -211,7 +211,7 @@ void FileExchange::carryOut()
             tr("Nothing was imported.\n%1").arg(error.text()));
         return;
     }
-    m_window->hide();
+    m_window->close();
     emit imported();
     emit said(ChangeTexts::withNoCopy(importedNote(result), noCopy));
 }

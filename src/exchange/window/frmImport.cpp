@@ -85,7 +85,7 @@ frmImport::frmImport()
     connect(m_programs, &QListWidget::itemChanged, this,
         [this](const QListWidgetItem* item) { takeProgram(m_programs->row(item)); });
     connect(m_import, &QPushButton::clicked, this, &frmImport::confirmed);
-    connect(m_cancel, &QPushButton::clicked, this, &QWidget::hide);
+    connect(m_cancel, &QPushButton::clicked, this, &QWidget::close);
 }
 
 frmImport::~frmImport() = default;

@@ -12,6 +12,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <algorithm>
 
 namespace
 {
@@ -99,7 +100,8 @@ PrintResult printThroughDialog(QWidget& window, const PrintRequest& request)
     }
     // The user may have chosen another paper in the dialog.
     const auto pages = request.layOut(printableArea(printer.pageLayout()));
-    const std::vector<int> order = chosenPages(printer, pages->pageCount(), request.currentPage);
+    const int currentPage = std::min(request.currentPage, pages->pageCount() - 1);
+    const std::vector<int> order = chosenPages(printer, pages->pageCount(), currentPage);
     if (order.empty()) {
         return {};
     }
