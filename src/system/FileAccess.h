@@ -17,8 +17,8 @@ inline constexpr QFileDevice::Permissions PublicFile =
 /// Creates `file` and opens it for writing without a buffer. False, with the reason in `file`, when that
 /// fails or something of that name exists. A private file may still need `keepToOwner`.
 bool createFile(QFile& file, QFileDevice::Permissions permissions);
-/// Gives the owner of a new private file all permissions, and nobody else any. False with the reason in
-/// `file`.
+/// Gives the owner of a new private file all permissions, and nobody else any, where the file system has
+/// permissions. False with the reason in `file`.
 bool keepToOwner(QFile& file);
 /// Makes a folder that is private, as far as the umask leaves the owner's permissions. Returns why it could
 /// not.

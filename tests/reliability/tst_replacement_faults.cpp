@@ -17,6 +17,7 @@
 
 #include <QStandardPaths>
 #include <QTest>
+#include <algorithm>
 #include <cerrno>
 #include <filesystem>
 
@@ -106,6 +107,7 @@ private slots:
     void aDataFileThatLeavesWriteAheadModeKeepsItsRecords();
     void aRestoreOverAnEmptyFileKeepsItsJournal();
     void aSkinIsAddedWholeOrNotAtAll();
+    void aDriveWithoutPermissionsTakesABackup();
     void aCustomIconIsStoredWholeOrNotAtAll();
     void theSessionEntryIsWrittenWholeOrNotAtAll();
     void theSessionEntryIsReplacedWholeOrNotAtAll();
@@ -316,6 +318,28 @@ void TestReplacementFaults::aSkinIsAddedWholeOrNotAtAll()
             [](const std::string& folder) {
                 return contentIn(folder, "program/Skins/Lemon.skf");
             }});
+}
+
+void TestReplacementFaults::aDriveWithoutPermissionsTakesABackup()
+{
+    const Place place;
+    const auto backUp = [&] {
+        DataFileCopies(place.engine).backUpTo(place.path(QStringLiteral("elsewhere/c.abk")));
+    };
+    FaultyDisk disk(place.path(QStringLiteral("elsewhere")).toStdString());
+    disk.watch({});
+    backUp();
+    disk.stopWatching();
+    const auto first = std::find_if(disk.calls().begin(), disk.calls().end(),
+        [](const FaultyDisk::Call& call) { return call.kind == FileCall::ChangeMode; });
+    QVERIFY(first != disk.calls().end());
+    const auto number = static_cast<std::size_t>(first - disk.calls().begin()) + 1;
+    disk.watch({number, ENOTSUP, FaultyDisk::Lasting::ForThisKind});
+    backUp();
+    disk.stopWatching();
+    QVERIFY(disk.hasRefused());
+    QCOMPARE(contentIn(place.root.path().toStdString(), "elsewhere/c.abk"),
+        contentIn(place.root.path().toStdString(), "program/data.dat"));
 }
 
 void TestReplacementFaults::aCustomIconIsStoredWholeOrNotAtAll()

@@ -8,6 +8,7 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 bool createFile(QFile& file, QFileDevice::Permissions permissions)
@@ -17,8 +18,9 @@ bool createFile(QFile& file, QFileDevice::Permissions permissions)
 
 bool keepToOwner(QFile& file)
 {
-    // The umask must not take away the owner's permissions.
-    return file.setPermissions(PrivateFile);
+    // The umask must not take away the owner's permissions. Shares that GNOME mounts have none.
+    return fchmod(file.handle(), S_IRUSR | S_IWUSR) == 0 || errno == ENOTSUP
+        || file.setPermissions(PrivateFile);
 }
 
 std::error_code makePrivateFolder(const QString& path)
