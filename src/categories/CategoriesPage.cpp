@@ -187,7 +187,7 @@ void CategoriesPage::note(const QString& key, const QString& text)
     }
     m_noted.insert(key);
     m_notes.append(text);
-    if (m_notes.size() == 1 && window()->isVisible() && !m_isReading) {
+    if (window()->isVisible() && !m_isReading) {
         // Queued behind everything that follows a load: the other lists must not wait for the user's
         // answer.
         QMetaObject::invokeMethod(this, &CategoriesPage::reportNotes, Qt::QueuedConnection);

@@ -33,6 +33,7 @@ private slots:
     void aPictureThatIsNotKnownYetHasAStandInUntilItIsRead();
     void theNextStartHasThePictureAtOnce();
     void theVisiblePageReportsAnUnreadablePictureByItself();
+    void aPictureMissedWhileHiddenIsToldAfterwards();
     void anIconNumberOutsideOfTheListHasAStandIn();
     void anIconNumberThatDoesNotFitIsNotWritten();
     void withoutADataFileTheListStaysAsItWas();
@@ -292,6 +293,23 @@ void CategoriesListTest::theVisiblePageReportsAnUnreadablePictureByItself()
     test.addCustom(QStringLiteral("Gone"), QStringLiteral("icon78.gif"));
     test.page->LoadCategories();
     test.dialogs.expectError(QStringLiteral("icon78.gif"));
+    QTRY_VERIFY(test.dialogs.allUsed());
+    QVERIFY(test.page->takeUnreadablePictures().isEmpty());
+}
+
+void CategoriesListTest::aPictureMissedWhileHiddenIsToldAfterwards()
+{
+    PageUnderTest test;
+    QVERIFY(test.show());
+    QTRY_VERIFY(!test.page->isReadingPictures());
+    test.page->window()->hide();
+    test.addCustom(QStringLiteral("Lost"), QStringLiteral("icon77.gif"));
+    test.page->LoadCategories();
+    QCoreApplication::processEvents();
+    QVERIFY(test.show());
+    test.addCustom(QStringLiteral("Gone"), QStringLiteral("icon78.gif"));
+    test.page->LoadCategories();
+    test.dialogs.expectError(QStringLiteral("icon77.gif"));
     QTRY_VERIFY(test.dialogs.allUsed());
     QVERIFY(test.page->takeUnreadablePictures().isEmpty());
 }
