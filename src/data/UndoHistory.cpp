@@ -18,6 +18,26 @@ const std::set<std::string>& ownColumns()
     return columns;
 }
 
+/// Tasks without a category, which no list shows.
+qint32 strayTasks(Connection& connection)
+{
+    return connection
+        .execute(
+            QStringLiteral("select count(*) from tasks where cat_id not in (select cat_id from categories)"))
+        .int32(0);
+}
+
+/// What has been added since stands in no row of `changes`: throws ChangedSinceError for it as well.
+void applyToAll(Connection& connection, const ChangeSet& changes)
+{
+    connection.beginWriting();
+    const qint32 strayBefore = strayTasks(connection);
+    connection.apply(changes, ownColumns());
+    if (strayTasks(connection) > strayBefore) {
+        throw ChangedSinceError(UndoHistory::tr("It would leave tasks without a category."));
+    }
+}
+
 } // namespace
 
 UndoHistory::UndoHistory(const DatabaseEngine& engine, QObject* parent) : QObject(parent), m_engine(&engine)
@@ -79,12 +99,15 @@ void UndoHistory::apply(std::size_t step, const ChangeSet& changes, std::size_t 
     Connection connection = ClsDatabase(*m_engine).Connect();
     connection.open();
     try {
-        connection.apply(changes, ownColumns());
+        applyToAll(connection, changes);
     } catch (const ChangedSinceError&) {
         connection.abandon();
         m_steps.erase(m_steps.begin() + static_cast<std::ptrdiff_t>(step));
         m_next = step;
         emit stepsChanged();
+        throw;
+    } catch (...) {
+        connection.abandon();
         throw;
     }
     connection.close();
