@@ -18,6 +18,8 @@ private slots:
     void aDeletionIsNotDoneAgainOverANewTask();
     void aTaskDoesNotComeBackWithoutItsCategory();
     void tasksThatHadNoCategoryBeforeAreNoHindrance();
+    void aCategoryDoesNotComeBackBesideOneOfItsName();
+    void categoriesThatSharedANameBeforeStayApart();
 
 private:
     static void import(UndoHistory& history, const std::string& category)
@@ -111,6 +113,38 @@ void TestUndoConflicts::tasksThatHadNoCategoryBeforeAreNoHindrance()
     QCOMPARE(idOf(database, "Sport"), qint16(0));
     history.redo();
     QCOMPARE(listed(database), QStringList{QStringLiteral("theirs")});
+}
+
+void TestUndoConflicts::aCategoryDoesNotComeBackBesideOneOfItsName()
+{
+    TestDatabase database;
+    const qint16 category = database.addCategory(QStringLiteral("G\u00e4rten"));
+    aTask(database).in(category).named(QStringLiteral("mow")).add();
+    UndoHistory history(database.engine());
+    removeCategory(history, category);
+    ClsCategory again(database.engine());
+    again.setCatName(QStringLiteral("G\u00c4RTEN"));
+    QVERIFY(!again.Add());
+    const auto categories = database.rows(QStringLiteral("select * from categories"));
+    history.undo();
+    // What was deleted is there again, in the category that there is.
+    QCOMPARE(listed(database), QStringList{QStringLiteral("mow")});
+    QCOMPARE(database.rows(QStringLiteral("select * from categories")), categories);
+    QVERIFY_THROWS_EXCEPTION(ChangedSinceError, history.redo());
+    QCOMPARE(listed(database), QStringList{QStringLiteral("mow")});
+}
+
+void TestUndoConflicts::categoriesThatSharedANameBeforeStayApart()
+{
+    TestDatabase database;
+    database.addCategory(QStringLiteral("Garden"));
+    database.addCategory(QStringLiteral("Garden"));
+    UndoHistory history(database.engine());
+    import(history, "Sport");
+    history.undo();
+    history.redo();
+    QCOMPARE(
+        database.sql(QStringLiteral("select count(*) from categories where cat_name='Garden'")).toInt(), 2);
 }
 
 AMBERTASK_TEST_MAIN(TestUndoConflicts)
