@@ -92,6 +92,20 @@ QString ClsCategory::updateStatement() const
         + QLatin1String("'  where cat_id =  ") + QString::number(m_id);
 }
 
+bool ClsCategory::hasTasks(qint16 id) const
+{
+    DatabaseEngine unheard = *m_engine;
+    unheard.listener = nullptr;
+    Connection connection = ClsDatabase(unheard).Connect();
+    connection.open();
+    const bool found = !connection
+                            .execute(QLatin1String("select task_id from tasks where cat_id = ")
+                                + QString::number(id) + QLatin1String(" limit 1"))
+                            .atEnd();
+    connection.close();
+    return found;
+}
+
 void ClsCategory::DeleteById(qint16 number) const
 {
     Connection connection = ClsDatabase(*m_engine).Connect();
