@@ -52,6 +52,8 @@ bool ClsCategory::Add() const
 {
     Connection connection = ClsDatabase(*m_engine).Connect();
     connection.open();
+    // From here on nobody else makes a category of the name.
+    connection.beginWriting();
     const bool exists = !connection
                              .execute(QLatin1String("select * from categories where cat_name = '")
                                  + EscapeSqlText(m_name) + QLatin1String("'"))
