@@ -2944,6 +2944,13 @@ The others are deleted.</source>
     </message>
 </context>
 <context>
+    <name>UndoHistory</name>
+    <message>
+        <source>It would leave tasks without a category.</source>
+        <translation>ستبقى مهام بلا فئة.</translation>
+    </message>
+</context>
+<context>
     <name>UnreadableRecords</name>
     <message>
         <source>Category %1: %2</source>

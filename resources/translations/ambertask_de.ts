@@ -2736,6 +2736,13 @@ Die anderen Aufgaben werden gelöscht.</translation>
     </message>
 </context>
 <context>
+    <name>UndoHistory</name>
+    <message>
+        <source>It would leave tasks without a category.</source>
+        <translation>Es blieben Aufgaben ohne Kategorie zurück.</translation>
+    </message>
+</context>
+<context>
     <name>UnreadableRecords</name>
     <message>
         <source>Category %1: %2</source>

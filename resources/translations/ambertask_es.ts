@@ -2736,6 +2736,13 @@ Las demás se eliminan.</translation>
     </message>
 </context>
 <context>
+    <name>UndoHistory</name>
+    <message>
+        <source>It would leave tasks without a category.</source>
+        <translation>Quedarían tareas sin categoría.</translation>
+    </message>
+</context>
+<context>
     <name>UnreadableRecords</name>
     <message>
         <source>Category %1: %2</source>

@@ -2736,6 +2736,13 @@ Les autres tâches seront supprimées.</translation>
     </message>
 </context>
 <context>
+    <name>UndoHistory</name>
+    <message>
+        <source>It would leave tasks without a category.</source>
+        <translation>Des tâches resteraient sans catégorie.</translation>
+    </message>
+</context>
+<context>
     <name>UnreadableRecords</name>
     <message>
         <source>Category %1: %2</source>

@@ -2684,6 +2684,13 @@ The others are deleted.</source>
     </message>
 </context>
 <context>
+    <name>UndoHistory</name>
+    <message>
+        <source>It would leave tasks without a category.</source>
+        <translation>这样会留下没有类别的任务。</translation>
+    </message>
+</context>
+<context>
     <name>UnreadableRecords</name>
     <message>
         <source>Category %1: %2</source>

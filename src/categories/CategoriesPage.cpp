@@ -4,8 +4,10 @@
 #include "categories/StandInPicture.h"
 #include "categories/frmCategoryDetails.h"
 #include "data/ClsCategory.h"
+#include "data/KeptCopies.h"
 #include "data/UndoHistory.h"
 #include "system/ErrorReport.h"
+#include "widgets/ChangeTexts.h"
 #include "widgets/ImageList.h"
 #include "widgets/MessageBoxes.h"
 #include "widgets/PlainText.h"
@@ -43,7 +45,8 @@ CategoriesPage::CategoriesPage(const FormServices& services,
       m_customIcons(services.engine.programFolder), m_list(new CategoryList),
       m_add(makeButton("btnAddCat", tr("&Add"))), m_edit(makeButton("btnEditCat", tr("&Edit"))),
       m_delete(makeButton("btnDeleteCat", tr("&Delete"))),
-      m_help(makeButton("btnHelpCategories", tr("&Help"))), m_reader(pictureReader)
+      m_help(makeButton("btnHelpCategories", tr("&Help"))),
+      m_quietLine(new QuietLine(QStringLiteral("lblCategoriesNote"), this)), m_reader(pictureReader)
 {
     m_list->setObjectName(QStringLiteral("lstViewCategories"));
     m_list->setAccessibleName(tr("Categories"));
@@ -62,7 +65,7 @@ CategoriesPage::CategoriesPage(const FormServices& services,
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_list, 1);
     layout->addLayout(buttons);
-    layout->addWidget(new QuietLine(QStringLiteral("lblCategoriesNote"), this));
+    layout->addWidget(m_quietLine);
     connectControls();
 }
 
@@ -273,10 +276,15 @@ void CategoriesPage::btnDeleteCat_Click()
         return;
     }
     const qint16 shortId = narrowId(id, QT_TRANSLATE_NOOP("OverflowError", "category id"));
+    QString noCopy;
+    if (ClsCategory(m_services.engine).hasTasks(shortId)) {
+        noCopy = KeptCopies(m_services.engine).keep(CopyOccasion::Deletion);
+    }
     m_services.undo.run([&](const DatabaseEngine& engine) {
         ClsCategory(engine).DeleteById(shortId);
         return tr("Category \"%1\" deleted with its tasks").arg(name);
     });
+    m_quietLine->say(ChangeTexts::withNoCopy({}, noCopy));
 
     // The list may have been rebuilt while the question was open.
     if (const int row = rowOf(id); row >= 0) {

@@ -17,6 +17,7 @@
 class CategoryList;
 class QPushButton;
 class QString;
+class QuietLine;
 class frmCategoryDetails;
 
 /// The page "Categories": every category as an icon with its name, and buttons to add, edit and delete.
@@ -87,6 +88,7 @@ private:
     QPushButton* m_edit;
     QPushButton* m_delete;
     QPushButton* m_help;
+    QuietLine* m_quietLine;
     void waitFor(const QString& path, const LatePicture& picture);
     void takePicture(const QString& path, const QImage& picture);
 

@@ -52,6 +52,8 @@ bool ClsCategory::Add() const
 {
     Connection connection = ClsDatabase(*m_engine).Connect();
     connection.open();
+    // From here on nobody else makes a category of the name.
+    connection.beginWriting();
     const bool exists = !connection
                              .execute(QLatin1String("select * from categories where cat_name = '")
                                  + EscapeSqlText(m_name) + QLatin1String("'"))
@@ -90,6 +92,20 @@ QString ClsCategory::updateStatement() const
         + QString::number(m_iconId) + QLatin1String(",custom_icon = ") + sqlFlag(m_isCustomIcon)
         + QLatin1String(" ,cat_icon_name = '") + EscapeSqlText(m_customIconName)
         + QLatin1String("'  where cat_id =  ") + QString::number(m_id);
+}
+
+bool ClsCategory::hasTasks(qint16 id) const
+{
+    DatabaseEngine unheard = *m_engine;
+    unheard.listener = nullptr;
+    Connection connection = ClsDatabase(unheard).Connect();
+    connection.open();
+    const bool found = !connection
+                            .execute(QLatin1String("select task_id from tasks where cat_id = ")
+                                + QString::number(id) + QLatin1String(" limit 1"))
+                            .atEnd();
+    connection.close();
+    return found;
 }
 
 void ClsCategory::DeleteById(qint16 number) const

@@ -43,6 +43,8 @@ public:
     void Update() const;
     /// Updates all of them with one commit: sixty commits would take longer than the rest of a start.
     static void updateAll(const DatabaseEngine& engine, const std::vector<ClsCategory>& categories);
+    /// Whether any task is in the category. The listener is not told.
+    bool hasTasks(qint16 id) const;
     /// Deletes the category and its tasks.
     void DeleteById(qint16 number) const;
 

@@ -52,35 +52,56 @@ std::vector<std::size_t> newestFirst(const std::vector<CopyInTime>& copies)
     return places;
 }
 
-/// The places of what stays by its age alone, in the order in which room is given to them.
-std::vector<std::size_t> staying(const std::vector<CopyInTime>& copies, Moment now)
+using Places = std::vector<std::size_t>;
+
+/// What stays by its age alone.
+struct Staying {
+    Places ofAPeriod; ///< the newest of a day, week or month
+    Places furtherOfADay;
+};
+
+/// Of the copies at the places from `first` to `last`, the newest first.
+Staying stayingOf(
+    const std::vector<CopyInTime>& copies, Places::const_iterator first, Places::const_iterator last)
 {
-    std::vector<std::size_t> newest;
-    std::vector<std::size_t> ofAPeriod;
-    std::vector<std::size_t> furtherOfADay;
+    Staying staying;
     LastPeriods<local_days> days(MostDays);
     LastPeriods<local_days> weeks(MostWeeks);
     LastPeriods<year_month> months(MostMonths);
     std::map<local_days, int> ofDay;
-    for (const std::size_t place : newestFirst(copies)) {
-        const local_days day = dayWith(std::min(copies[place].moment, now));
+    for (; first != last; ++first) {
+        const local_days day = dayWith(copies[*first].moment);
         const year_month_day date(day);
         // All three are asked: one copy can be the newest of its day, week and month.
         const bool ofNewDay = days.begins(day);
         const bool ofNewWeek = weeks.begins(mondayBefore(day));
         const bool ofNewMonth = months.begins(date.year() / date.month());
         const int further = ofDay[day]++;
-        if (newest.empty() && copies[place].moment <= now) {
-            newest.push_back(place);
-        } else if (ofNewDay || ofNewWeek || ofNewMonth) {
-            ofAPeriod.push_back(place);
+        if (ofNewDay || ofNewWeek || ofNewMonth) {
+            staying.ofAPeriod.push_back(*first);
         } else if (days.contains(day) && further < MostOfADay) {
-            furtherOfADay.push_back(place);
+            staying.furtherOfADay.push_back(*first);
         }
     }
-    newest.insert(newest.end(), ofAPeriod.begin(), ofAPeriod.end());
-    newest.insert(newest.end(), furtherOfADay.begin(), furtherOfADay.end());
-    return newest;
+    return staying;
+}
+
+/// The places of what stays by its age alone, in the order in which room is given to them.
+Places allStaying(const std::vector<CopyInTime>& copies, Moment now)
+{
+    const Places places = newestFirst(copies);
+    const auto present = std::partition_point(
+        places.begin(), places.end(), [&](std::size_t place) { return copies[place].moment > now; });
+    // Either clock may be the wrong one: the present or the one of the later copies. Neither pushes out what
+    // the other has made.
+    const Staying known = stayingOf(copies, present, places.end());
+    const Staying later = stayingOf(copies, places.begin(), present);
+    Places all;
+    for (const Places* part :
+        {&known.ofAPeriod, &later.ofAPeriod, &known.furtherOfADay, &later.furtherOfADay}) {
+        all.insert(all.end(), part->begin(), part->end());
+    }
+    return all;
 }
 
 } // namespace
@@ -96,7 +117,7 @@ std::vector<std::size_t> copiesToDrop(const std::vector<CopyInTime>& copies, Mom
     for (std::size_t place = 0; place < copies.size(); ++place) {
         dropped.insert(place);
     }
-    const std::vector<std::size_t> wanted = staying(copies, now);
+    const Places wanted = allStaying(copies, now);
     qint64 taken = 0;
     for (const std::size_t place : wanted) {
         if (place == wanted.front() || taken + copies[place].size <= room) {

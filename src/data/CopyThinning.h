@@ -17,7 +17,8 @@ qint64 roomForCopies(qint64 free);
 
 /// Which of `copies` are to go, by their places, from the last place on. There stay the last ten of each of
 /// the last seven days that have copies, and the last one of each of the last four weeks (from Monday) and of
-/// the last twelve months that have any; copies of later than `now`, of a clock that was wrong, count as
-/// today's. Where these take more than `room` bytes, the further ones of a day go first, then the oldest. The
-/// newest one not later than `now` always stays. The copies are in any order.
+/// the last twelve months that have any. Of the copies of later than `now`, when one of the clocks was wrong,
+/// there stay as many beside those. Where these take more than `room` bytes, the further ones of a day go
+/// first, then those of later than `now`, then the oldest. The newest one not later than `now` always stays.
+/// The copies are in any order.
 std::vector<std::size_t> copiesToDrop(const std::vector<CopyInTime>& copies, Moment now, qint64 room);

@@ -13,16 +13,18 @@ DayCopy::DayCopy(const DatabaseEngine& engine, std::function<void(const QString&
 void DayCopy::aboutToChange(const UnchangedFile& file)
 {
     const Moment today = startOfDay(m_engine->clock->now());
-    if (m_day == today) {
+    if (m_kept == today) {
         return;
     }
-    m_day = today;
-    if (const QString why = KeptCopies(*m_engine).keepOfToday(file); !why.isEmpty()) {
+    const QString why = KeptCopies(*m_engine).keepOfToday(file);
+    if (why.isEmpty()) {
+        m_kept = today;
+    } else if (std::exchange(m_told, today) != today) {
         m_failed(why);
     }
 }
 
-void DayCopy::copyTried()
+void DayCopy::copyTried(bool isThere)
 {
-    m_day = startOfDay(m_engine->clock->now());
+    (isThere ? m_kept : m_told) = startOfDay(m_engine->clock->now());
 }

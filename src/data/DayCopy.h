@@ -6,7 +6,8 @@
 #include <functional>
 #include <optional>
 
-/// Keeps a copy of the data file before the first change of each day.
+/// Keeps a copy of the data file before the first change of each day. Where that fails, the next changes try
+/// it again.
 class DayCopy final : public CopyKeeper
 {
 public:
@@ -15,10 +16,11 @@ public:
     DayCopy(const DatabaseEngine& engine, std::function<void(const QString& why)> failed);
 
     void aboutToChange(const UnchangedFile& file) override;
-    void copyTried() override;
+    void copyTried(bool isThere) override;
 
 private:
     const DatabaseEngine* m_engine;
     std::function<void(const QString& why)> m_failed;
-    std::optional<Moment> m_day; ///< nothing is to be done any more until it ends
+    std::optional<Moment> m_kept; ///< the day of which there is a copy
+    std::optional<Moment> m_told; ///< the day of which it is known that a copy has failed
 };

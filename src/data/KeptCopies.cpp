@@ -76,7 +76,7 @@ public:
     explicit Holding(std::function<void(const UnchangedFile&)> work) : m_work(std::move(work)) { }
     /// Throws what the work throws: nothing is changed then.
     void aboutToChange(const UnchangedFile& file) override { m_work(file); }
-    void copyTried() override { }
+    void copyTried(bool) override { }
 
 private:
     std::function<void(const UnchangedFile&)> m_work;
@@ -142,7 +142,7 @@ QString KeptCopies::keep(CopyOccasion occasion, Progress* progress) const
         connection.abandon();
     });
     if (m_engine.copies != nullptr) {
-        m_engine.copies->copyTried();
+        m_engine.copies->copyTried(why.isEmpty());
     }
     return why;
 }

@@ -217,10 +217,6 @@ TaskStoring::TaskStoring(const DatabaseEngine& engine) : m_engine(engine), m_con
         m_connection.beginWriting();
         m_hasOrigins = hasOrigins(m_connection);
         m_nextId = nextId(m_connection);
-        if (m_hasOrigins) {
-            m_connection.execute(
-                QStringLiteral("delete from task_origins where of_task not in (select task_id from tasks)"));
-        }
     } catch (...) {
         m_connection.abandon();
         throw;
@@ -336,7 +332,6 @@ void TaskStoring::setRepeat(qint32 id, const TaskRecord& task)
     if (!m_hasRepeats) {
         m_hasRepeats = hasTable(m_connection, "repeats");
         if (*m_hasRepeats) {
-            TaskRepeats::removeOrphans(m_connection);
             m_engine.repeating->setUsed(true);
         }
     }

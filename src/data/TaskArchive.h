@@ -39,7 +39,7 @@ class TaskStoring
     Q_DECLARE_TR_FUNCTIONS(TaskStoring)
 
 public:
-    /// Opens the data file, and removes what it has of tasks that are gone. `engine` outlives this object.
+    /// Opens the data file. `engine` outlives this object.
     explicit TaskStoring(const DatabaseEngine& engine);
     ~TaskStoring();
     TaskStoring(const TaskStoring&) = delete;

@@ -89,12 +89,6 @@ void TaskRepeats::remove(Connection& connection, qint32 id)
     connection.execute(QLatin1String("delete from repeats where of_task = ") + QString::number(id));
 }
 
-void TaskRepeats::removeOrphans(Connection& connection)
-{
-    connection.execute(
-        QStringLiteral("delete from repeats where of_task not in (select task_id from tasks)"));
-}
-
 void TaskRepeats::set(
     const DatabaseEngine& engine, Connection& connection, qint32 id, const std::optional<Repeat>& repeat)
 {

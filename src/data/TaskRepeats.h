@@ -31,8 +31,6 @@ std::optional<Repeat> of(const DatabaseEngine& engine, Connection& connection, q
 /// for it, being of an earlier version.
 void store(const DatabaseEngine& engine, Connection& connection, qint32 id, const Repeat& repeat);
 void remove(Connection& connection, qint32 id);
-/// The rows of tasks that are gone. Only in an operation that can be taken back: a deletion before it may be.
-void removeOrphans(Connection& connection);
 /// Stores it, or removes what was stored; no statement when nothing repeats.
 void set(
     const DatabaseEngine& engine, Connection& connection, qint32 id, const std::optional<Repeat>& repeat);

@@ -32,8 +32,10 @@ public:
     /// What `redo()` does again; empty when there is nothing.
     QString redoText() const;
 
-    /// Takes the newest step back in one operation. When a row is no longer what the step has made of it,
-    /// nothing changes, the step is forgotten and ChangedSinceError says so; DatabaseError leaves the step.
+    /// Takes the newest step back in one operation. When a row is no longer what the step has made of it, or
+    /// a task would be left without a category, nothing changes, the step is forgotten and ChangedSinceError
+    /// says so; DatabaseError leaves the step. A category that comes back where another of its name has been
+    /// made since gives its tasks to that one.
     void undo();
     /// Does the step again that was taken back last; as `undo()`.
     void redo();

@@ -64,7 +64,8 @@ CREATE INDEX tasks_by_status ON tasks (task_status);
 CREATE INDEX tasks_by_category ON tasks (cat_id);
 
 -- How other programs know a task, and what they have written of it (see TaskRecord). A row stays when its task is
--- deleted, so that an undo brings all of it back; the next import removes it.
+-- deleted, so that an undo brings all of it back. Any process may write before that undo, so only a start that gives
+-- new ids removes it.
 CREATE TABLE task_origins (
   of_task INTEGER PRIMARY KEY,
   uid TEXT NOT NULL DEFAULT '',
@@ -72,7 +73,7 @@ CREATE TABLE task_origins (
 );
 
 -- How tasks repeat (see Repeat); lead is in minutes. A row stays when its task is deleted, so that an undo brings all
--- of it back; the next import of repeating tasks removes it.
+-- of it back; it goes as a row of task_origins does.
 CREATE TABLE repeats (
   of_task INTEGER PRIMARY KEY,
   rule TEXT NOT NULL DEFAULT '',

@@ -58,8 +58,9 @@ public:
     /// Called before the first change of every connection, while nobody else can change anything either. What
     /// it throws ends the change; a copy that cannot be made must not.
     virtual void aboutToChange(const UnchangedFile& file) = 0;
-    /// A copy has been made for another reason, or could not be made: it serves for the day, too.
-    virtual void copyTried() = 0;
+    /// A copy for another reason is there, which serves for the day, too; or it could not be made, and the
+    /// user is told.
+    virtual void copyTried(bool isThere) = 0;
 };
 
 /// What every connection needs to know; outlives everything that uses it. The program has one; a copy with

@@ -1,9 +1,28 @@
 #include "categories/PageUnderTest.h"
+#include "data/KeptCopies.h"
+#include "support/FileContent.h"
 #include "support/TestMain.h"
 #include "support/TestPictures.h"
+#include "widgets/QuietLine.h"
 
 #include <QFile>
 #include <QSignalSpy>
+
+namespace
+{
+
+/// The page with the category "Work", which has a task and is selected.
+struct FilledPage : PageUnderTest {
+    FilledPage()
+    {
+        aTask(database).in(database.addCategory(QStringLiteral("Work"))).add();
+        page->LoadCategories();
+        select(0);
+    }
+    QString said() const { return find<QuietLine>("lblCategoriesNote")->said(); }
+};
+
+} // namespace
 
 class CategoriesDeletingTest : public TestCase
 {
@@ -21,6 +40,9 @@ private slots:
     void deletingTheOnlyOneLeavesNothingSelected();
     void thePictureFileOfADeletedCategoryStays();
     void aFailureIsReportedAndTheCategoryStaysListed();
+    void aDeletedCategoryIsInACopy();
+    void aCategoryWithoutTasksIsNotWorthACopy();
+    void withoutACopyItIsDeletedAndThePageSaysSo();
 
 private:
     static QString question(const QString& name)
@@ -186,6 +208,41 @@ void CategoriesDeletingTest::aFailureIsReportedAndTheCategoryStaysListed()
     test.press("btnDeleteCat");
     QCOMPARE(test.listed(), QStringLiteral("[Work]"));
     QCOMPARE(changed.count(), 0);
+}
+
+void CategoriesDeletingTest::aDeletedCategoryIsInACopy()
+{
+    FilledPage test;
+    const QByteArray before = contentOf(test.database.dataFile());
+    test.dialogs.expectAsk(question(QStringLiteral("Work")), true);
+    test.press("btnDeleteCat");
+    const QList<KeptCopy> copies = KeptCopies(test.database.engine()).list();
+    QCOMPARE(copies.size(), 1);
+    QCOMPARE(copies.first().occasion, CopyOccasion::Deletion);
+    QVERIFY(contentOf(copies.first().path) == before);
+    QCOMPARE(test.said(), QString());
+}
+
+void CategoriesDeletingTest::aCategoryWithoutTasksIsNotWorthACopy()
+{
+    PageUnderTest test;
+    test.database.addCategory(QStringLiteral("Work"));
+    test.page->LoadCategories();
+    test.select(0);
+    test.dialogs.expectAsk(question(QStringLiteral("Work")), true);
+    test.press("btnDeleteCat");
+    QCOMPARE(test.list()->count(), 0);
+    QVERIFY(KeptCopies(test.database.engine()).list().isEmpty());
+}
+
+void CategoriesDeletingTest::withoutACopyItIsDeletedAndThePageSaysSo()
+{
+    FilledPage test;
+    writeText(test.database.folder() + QStringLiteral("/copies"), "not a folder");
+    test.dialogs.expectAsk(question(QStringLiteral("Work")), true);
+    test.press("btnDeleteCat");
+    QCOMPARE(test.list()->count(), 0);
+    QCOMPARE(test.said(), QStringLiteral("No copy was kept: it is not a folder"));
 }
 
 AMBERTASK_TEST_MAIN(CategoriesDeletingTest)

@@ -1,5 +1,6 @@
 #include "data/ClsCategory.h"
 #include "data/HardTexts.h"
+#include "store/Connection.h"
 #include "support/CaughtError.h"
 #include "support/TestDatabase.h"
 #include "support/TestMain.h"
@@ -23,6 +24,28 @@ ClsCategory aCategory(const TestDatabase& database)
     return category;
 }
 
+/// Tries to write before each statement, as another process may.
+class OtherWriter final : public StatementListener
+{
+public:
+    explicit OtherWriter(const TestDatabase& database) : m_database(database) { }
+    void connectionOpened(const QString&) override { }
+    void statementExecuted(QStringView) override
+    {
+        Connection other(m_database.engine(),
+            QStringLiteral("Provider=Microsoft.Jet.OLEDB.4.0;Data Source= ") + m_database.dataFile());
+        other.open();
+        refused += caught<DatabaseError>([&] { other.beginWriting(); }) ? 1 : 0;
+        other.abandon();
+    }
+    void connectionClosed() override { }
+
+    int refused = 0;
+
+private:
+    const TestDatabase& m_database;
+};
+
 } // namespace
 
 class ClsCategoryTest : public TestCase
@@ -35,6 +58,7 @@ private slots:
     void addedFieldsAreReadBack();
     void addingANameInOtherCaseIsRefused_data();
     void addingANameInOtherCaseIsRefused();
+    void nobodyWritesBetweenTheDuplicateTestAndTheInsert();
     void updatingSendsItsStatement();
     void updatingToAnExistingNameIsAccepted();
     void updatingAnUnknownIdChangesNothing();
@@ -110,6 +134,18 @@ void ClsCategoryTest::addingANameInOtherCaseIsRefused()
     QCOMPARE(category.Add(), true);
     QCOMPARE(database.statements().take().size(), 1);
     QCOMPARE(database.sql(QStringLiteral("select count(*) from categories")).toInt(), 5);
+}
+
+void ClsCategoryTest::nobodyWritesBetweenTheDuplicateTestAndTheInsert()
+{
+    const TestDatabase database;
+    OtherWriter other(database);
+    DatabaseEngine engine = database.engine();
+    engine.listener = &other;
+    ClsCategory category(engine);
+    category.setCatName(QStringLiteral("Garden"));
+    QVERIFY(!category.Add());
+    QCOMPARE(other.refused, 2);
 }
 
 void ClsCategoryTest::updatingSendsItsStatement()

@@ -72,6 +72,7 @@ private slots:
     void emptyCopiesAreNoReasonToKeepMore();
     void anHourSetBackDropsNothing();
     void copiesOfAWrongClockPushOutNoneOfToday();
+    void aClockSetBackByYearsDropsNoMonth();
     void allCopiesTakeATenthOfWhatIsLeftFree();
     void allCopiesTakeTwoHundredMegabytesAtMost();
 };
@@ -229,7 +230,25 @@ void TestCopyThinning::copiesOfAWrongClockPushOutNoneOfToday()
         QVERIFY(std::any_of(
             kept.begin(), kept.end(), [moment](const CopyInTime& copy) { return copy.moment == moment; }));
     }
-    QVERIFY(kept.size() <= 7 + 10);
+    QVERIFY(kept.size() <= 7 + 7 + 4 + 12);
+}
+
+void TestCopyThinning::aClockSetBackByYearsDropsNoMonth()
+{
+    const std::vector<CopyInTime> before = keepOneByOne(everyDay(2025y / November / 1, 380));
+    // A machine whose clock has lost its time, over several days.
+    std::vector<CopyInTime> kept = before;
+    for (const Moment moment : everyDay(2020y / January / 1, 10)) {
+        kept.push_back({moment, 1});
+        for (const std::size_t place : copiesToDrop(kept, moment, Unbounded)) {
+            kept.erase(kept.begin() + static_cast<std::ptrdiff_t>(place));
+        }
+    }
+    const auto hasStayed = [&kept](const CopyInTime& copy) {
+        return std::any_of(kept.begin(), kept.end(),
+            [&copy](const CopyInTime& other) { return other.moment == copy.moment; });
+    };
+    QVERIFY2(std::all_of(before.begin(), before.end(), hasStayed), qPrintable(textOf(kept)));
 }
 
 void TestCopyThinning::allCopiesTakeATenthOfWhatIsLeftFree()

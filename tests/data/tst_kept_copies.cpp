@@ -82,6 +82,7 @@ private slots:
     void copiesGiveWayToWhatFillsTheDisk();
     void aFolderThatTakesNoFileStopsNoChange();
     void aFileInThePlaceOfTheFolderStopsNoChange();
+    void aCopyInVainIsNoCopyOfTheDay();
     void theReasonIsToldOnceADay();
     void aDeadOperationIsRolledBackBeforeItIsCopied();
     void inWriteAheadModeTheDayHasNoHalfCopy();
@@ -433,6 +434,21 @@ void TestKeptCopies::aFolderThatTakesNoFileStopsNoChange()
         return failures == QStringList(QStringLiteral("there is no permission for that"));
     }),
         0);
+}
+
+void TestKeptCopies::aCopyInVainIsNoCopyOfTheDay()
+{
+    CopiesUnderTest test;
+    writeText(test.folder(), "not a folder");
+    QVERIFY(!test.kept().keep(CopyOccasion::Deletion).isEmpty());
+    test.change();
+    // Whoever asked for the copy tells why there is none.
+    QCOMPARE(test.failures, QStringList());
+    QVERIFY(QFile::remove(test.folder()));
+    test.change();
+    QCOMPARE(test.names().size(), 1);
+    test.change();
+    QCOMPARE(test.names().size(), 1);
 }
 
 void TestKeptCopies::aFileInThePlaceOfTheFolderStopsNoChange()

@@ -43,7 +43,8 @@ private slots:
     void whatAnotherProgramChangesMeanwhileOutdatesThePlan();
     void whatThisProgramChangesDoesNot();
     void aDeletedTaskComesBackWithItsOriginByUndo();
-    void theNextImportForgetsTasksThatAreGone();
+    void anImportOfAnotherProcessLeavesTheRuleOfADeletedTask();
+    void aTaskThatIsGoneIsImportedAnew();
     void newIdsKeepEachTaskItsOrigin();
     void tasksGetTheirUidOnceAndKeepIt();
     void aDataFileThatCannotBeWrittenIsExported();
@@ -239,18 +240,33 @@ void ImportPlanTest::aDeletedTaskComesBackWithItsOriginByUndo()
     QVERIFY(under.task().uid == before.uid && under.task().properties == "X-KEPT:yes\n");
 }
 
-void ImportPlanTest::theNextImportForgetsTasksThatAreGone()
+void ImportPlanTest::anImportOfAnotherProcessLeavesTheRuleOfADeletedTask()
+{
+    ExchangeUnderTest under(ExchangeUnderTest::Rules::Daily);
+    under.imported(todoOf("SUMMARY:Task\nDUE:20260301T100000\nRRULE:FREQ=WEEKLY\nX-KEPT:yes\n"));
+    const TaskRecord before = under.task();
+    QVERIFY(before.repeat);
+    UndoHistory history(under.engine);
+    history.run([&](const DatabaseEngine& engine) {
+        ClsTask(engine).DeleteById(static_cast<qint16>(before.id));
+        return QStringLiteral("deleted");
+    });
+    under.imported(todoOf("SUMMARY:Other\nDUE:20260301T100000\nRRULE:FREQ=DAILY\n", "two@example"));
+    history.undo();
+    QCOMPARE(under.tasks().size(), 2U);
+    QVERIFY(under.tasks().front() == before);
+}
+
+void ImportPlanTest::aTaskThatIsGoneIsImportedAnew()
 {
     ExchangeUnderTest under;
     under.imported(todosUpTo(3));
     under.database.sql(QStringLiteral("delete from tasks where task_id=2"));
-    QCOMPARE(under.database.sql(QStringLiteral("select count(*) from task_origins")).toInt(), 3);
     const ImportPlan plan = under.planOf(todosUpTo(3));
     QVERIFY(plan.added == 1 && plan.same == 2);
     under.carriedOut(plan);
-    QCOMPARE(under.database.rows(QStringLiteral("select of_task,uid from task_origins")),
-        (QList<QVariantList>{
-            {1LL, QStringLiteral("0")}, {3LL, QStringLiteral("2")}, {4LL, QStringLiteral("1")}}));
+    QCOMPARE(under.tasks().size(), 3U);
+    QVERIFY(under.tasks().back().id == 4 && under.tasks().back().uid == "1");
 }
 
 void ImportPlanTest::newIdsKeepEachTaskItsOrigin()
