@@ -32,7 +32,7 @@
 void Program::onTaskStored()
 {
     m_taskDialogHasKeyboard = m_taskDetails->isActiveWindow();
-    onTasksChanged();
+    checkOpenAlert();
 }
 
 void Program::onTaskSaved(qint32 id)
@@ -77,6 +77,13 @@ void Program::onCategoriesChanged()
 {
     reloadCategoryCombos();
     m_main->LoadTasks();
+    onTasksChanged();
+}
+
+void Program::onTasksDeleted()
+{
+    m_main->LoadTasks();
+    onTasksChanged();
 }
 
 void Program::onDataChanged()
@@ -127,6 +134,20 @@ void Program::importTasks()
 }
 
 void Program::onTasksChanged()
+{
+    checkOpenAlert();
+    if (m_alerts != nullptr && m_alerts->isUp()) {
+        try {
+            // A check does not notice what has fallen due in the place of what has gone.
+            m_alerts->showAnew();
+        } catch (const RuntimeError&) {
+            // As silent as a check that fails.
+            return;
+        }
+    }
+}
+
+void Program::checkOpenAlert()
 {
     if (m_alerts != nullptr && m_alerts->isUp()) {
         m_alerts->tmrTasksChecker_Timer();

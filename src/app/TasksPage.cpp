@@ -336,6 +336,7 @@ void TasksPage::btnTaskDelete_Click()
         m_model->removeTask(row);
         m_grid->selectOnly(qMin(row, m_model->rowCount() - 1));
     }
+    emit tasksChanged();
 }
 
 void TasksPage::deleteRepeating(const TaskChoices& tasks)

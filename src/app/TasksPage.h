@@ -75,7 +75,7 @@ signals:
     void editRequested(qint16 id);
     /// The list has been rebuilt.
     void tasksLoaded();
-    /// Tasks were changed from the list, and it has been rebuilt.
+    /// Tasks were changed from the list, which shows it already.
     void tasksChanged();
     void helpRequested();
     /// "Print" was pressed; the report shows what the filters select.
