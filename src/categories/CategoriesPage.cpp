@@ -5,6 +5,7 @@
 #include "categories/frmCategoryDetails.h"
 #include "data/ClsCategory.h"
 #include "data/UndoHistory.h"
+#include "store/DatabaseError.h"
 #include "system/ErrorReport.h"
 #include "widgets/ImageList.h"
 #include "widgets/MessageBoxes.h"
@@ -116,8 +117,13 @@ void CategoriesPage::LoadCategories()
         m_list->selectOnly(row);
     }
 
-    // Last, so that a failing store leaves a complete list.
-    writeIconNumbers(numbered);
+    try {
+        writeIconNumbers(numbered);
+    } catch (const DatabaseError&) {
+        // A full or locked data file is no reason not to start, or to leave other lists as they were: a task
+        // shows another picture until the next load writes the numbers again.
+        return;
+    }
 }
 
 QIcon CategoriesPage::customPicture(const ClsCategory& category)

@@ -141,6 +141,19 @@ private slots:
         QCOMPARE(f.rows(), 2);
     }
 
+    void anUndoShowsItsTasksThoughNoPictureNumberCanBeWritten()
+    {
+        UndoingProgram f;
+        f.deleteRow(0);
+        f.database.sql(QStringLiteral("update categories set custom_icon=1,cat_icon_name='icon5.gif'"));
+        // Refuses the numbers of all pictures but one.
+        f.database.sql(
+            QStringLiteral("create unique index refuse on categories(custom_icon) where cat_icon>20"));
+        f.pressUndo();
+        QCOMPARE(f.rows(), 2);
+        QCOMPARE(f.said(), QStringLiteral("Undone: 1 task deleted"));
+    }
+
     void whatCannotBeTakenBackIsSaidInTheBar()
     {
         UndoingProgram f;
