@@ -136,7 +136,8 @@ private:
     void onTasksChanged();
     void checkOpenAlert();
     /// After a restore the ids that windows remember mean other records: an open dialog keeps its input and
-    /// stores it as a new record, the alert empties its list and the next tick fills it.
+    /// stores it as a new record, the alert empties its list and the next tick fills it, the report saves
+    /// none of its tasks.
     void forgetRecords();
     /// Names the records that lists have left out since the last call, once the main window has been seen.
     void tellUnreadableRecords();

@@ -248,6 +248,9 @@ void Program::forgetRecords()
     if (m_alerts != nullptr) {
         m_alerts->forgetReminders();
     }
+    if (m_report != nullptr) {
+        m_report->forgetTasks();
+    }
 }
 
 void Program::onDataRestored()

@@ -202,6 +202,23 @@ private slots:
         QCOMPARE(f.names(), QStringList(QStringLiteral("of the backup")));
     }
 
+    void aReportOfReplacedDataIsNotSaved()
+    {
+        RestoringProgram f;
+        f.start();
+        f.program.loadDialogs();
+        f.press(f.main(), "btnTaskPrint");
+        f.restore(f.backup());
+        QCOMPARE(f.reportHost->saveTasks(f.reportWindow),
+            QStringLiteral("Nothing was saved: the report shows tasks from before the restore."));
+        f.press(f.main(), "btnTaskPrint");
+        const QString file = f.elsewhere.filePath(QStringLiteral("tasks.csv"));
+        f.dialogs.expectSave(file);
+        f.reportHost->saveTasks(f.reportWindow);
+        QVERIFY(f.dialogs.allUsed());
+        QVERIFY(f.exchange.choices.back().tasks == QList<qint32>{f.kept});
+    }
+
     void anEndOfTheProgramUnderTheFileDialogSavesNothing()
     {
         RestoringProgram f;
