@@ -1,4 +1,5 @@
 #include "TasksPageFixture.h"
+#include "app/TaskFilters.h"
 #include "data/TaskCodes.h"
 #include "support/TestMain.h"
 #include "widgets/GridModel.h"
@@ -222,7 +223,8 @@ private slots:
     void whoHasTouchedTheDatesKeepsThem_data()
     {
         QTest::addColumn<QString>("touch");
-        for (const char* touch : {"from", "to", "there and back", "all dates", "all and specific"}) {
+        for (const char* touch :
+            {"from", "to", "there and back", "all dates", "all and specific", "show all"}) {
             QTest::newRow(touch) << QString::fromLatin1(touch);
         }
     }
@@ -239,6 +241,8 @@ private slots:
         } else if (touch == QLatin1String("there and back")) {
             to->setDate(Friday);
             to->setDate(Thursday);
+        } else if (touch == QLatin1String("show all")) {
+            f.page.findChild<TaskFilters*>()->showAll();
         } else {
             f.select("opnAllDate");
             if (touch == QLatin1String("all and specific")) {
