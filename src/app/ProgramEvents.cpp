@@ -181,9 +181,7 @@ void Program::followTime()
 
 void Program::followOthers()
 {
-    // An open question or menu is about the rows that were selected when it came up.
-    if (!m_foreign.arePending() || QApplication::activeModalWidget() != nullptr
-        || QApplication::activePopupWidget() != nullptr) {
+    if (!m_foreign.arePending() || TasksPage::isUserChoosing()) {
         return;
     }
     const quint32 seen = m_foreign.latest();

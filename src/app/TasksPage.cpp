@@ -16,6 +16,7 @@
 #include "widgets/QuietLine.h"
 #include "widgets/WindowPlacement.h"
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QKeyEvent>
 #include <QPushButton>
@@ -111,8 +112,9 @@ void TasksPage::startWith(bool todayOnly)
 
 void TasksPage::followTime()
 {
-    m_isBehind = m_filters->moveOnTo(toQDate(m_services.clock.now())) || m_isBehind;
-    if (m_isBehind) {
+    const bool isBehind =
+        !isUserChoosing() && (m_filters->moveOnTo(toQDate(m_services.clock.now())) || m_isBehind);
+    if (isBehind) {
         try {
             LoadTasks();
         } catch (const RuntimeError&) {
@@ -120,6 +122,11 @@ void TasksPage::followTime()
         }
     }
     m_model->followTime();
+}
+
+bool TasksPage::isUserChoosing()
+{
+    return QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr;
 }
 
 FilterFold& TasksPage::fold() const
@@ -139,6 +146,7 @@ int TasksPage::selectedCategoryIndex() const
 
 void TasksPage::LoadTasks()
 {
+    m_isBehind = true;
     // Read before the list is cleared: a store that cannot be read must not look like an empty one.
     const TaskFilter shown = filter();
     std::vector<ClsTask> tasks = shown.tasks(m_services.engine);

@@ -35,8 +35,11 @@ public:
     /// Sets both date pickers to today, selects specific dates or all dates, and rebuilds the list.
     void startWith(bool todayOnly);
     /// To be called now and then: shows what has become late, and on another day the tasks of that day if
-    /// the page was started with today's. Never throws: what fails is tried again by the next call.
+    /// the page was started with today's, once no question or menu is open. Reads the list that could not be
+    /// read. Never throws: what fails is tried again by the next call.
     void followTime();
+    /// Whether a question or menu is open: it is about the rows that were selected when it came up.
+    static bool isUserChoosing();
     /// Rebuilds the list from the filters; the current row stays on its task. Throws DatabaseError, and
     /// then the list is as it was.
     void LoadTasks();
@@ -108,7 +111,7 @@ private:
     QuietLine* m_quietLine;
     TaskActions* m_actions;
     UndoBar* m_undoBar = nullptr;
-    /// The filters have moved on to another day, the list has not yet.
+    /// The list does not show yet what the filters say.
     bool m_isBehind = false;
     EmptyListNote* m_emptyNote;
     QString m_sought;

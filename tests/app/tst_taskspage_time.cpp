@@ -8,6 +8,7 @@
 #include <QAccessibleTableInterface>
 #include <QDateEdit>
 #include <QHeaderView>
+#include <QMenu>
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -288,6 +289,37 @@ private slots:
         f.services.database.statements().take();
         f.page.followTime();
         QCOMPARE(f.services.database.statements().take(), QStringList());
+    }
+
+    void aListThatCouldNotBeReadAfterAFilterIsReadByTheNextTick()
+    {
+        TodaysTasks f;
+        f.page.startWith(false);
+        f.services.database.statements().failAt(QStringLiteral("select"));
+        f.services.dialogs.expectError(QStringLiteral("select"));
+        f.choose("cmbSort", QStringLiteral("Name"));
+        QCOMPARE(f.names().first(), QStringLiteral("Thursday"));
+        f.services.database.statements().failAt({});
+        f.page.followTime();
+        QCOMPARE(f.names().first(), QStringLiteral("Friday"));
+        f.services.database.statements().take();
+        f.page.followTime();
+        QCOMPARE(f.services.database.statements().take(), QStringList());
+    }
+
+    void anOpenMenuKeepsItsRowsThroughMidnight()
+    {
+        TodaysTasks f;
+        QMenu menu;
+        menu.addAction(QStringLiteral("about the selected row"));
+        menu.popup({});
+        f.tickAt(f.midnight());
+        QCOMPARE(f.names(), QStringList{QStringLiteral("Thursday")});
+        QCOMPARE(dates(f), both(Thursday));
+        menu.close();
+        f.page.followTime();
+        QCOMPARE(f.names(), QStringList{QStringLiteral("Friday")});
+        QCOMPARE(dates(f), both(Friday));
     }
 };
 
