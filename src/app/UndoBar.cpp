@@ -36,7 +36,7 @@ UndoBar::UndoBar(UndoHistory& history, QWidget* parent)
     layout->addWidget(m_redo);
     layout->addWidget(m_close);
     window()->installEventFilter(this);
-    connect(m_undo, &QPushButton::clicked, this, &UndoBar::btnUndo_Click);
+    connect(m_undo, &QPushButton::clicked, this, &UndoBar::undo);
     connect(m_redo, &QPushButton::clicked, this, &UndoBar::redo);
     connect(m_close, &QPushButton::clicked, this, &UndoBar::leave);
     connect(&m_history, &UndoHistory::stepsChanged, this, &UndoBar::showSteps);
@@ -62,11 +62,6 @@ bool UndoBar::eventFilter(QObject* watched, QEvent* event)
         }
     }
     return QFrame::eventFilter(watched, event);
-}
-
-void UndoBar::btnUndo_Click()
-{
-    undo();
 }
 
 void UndoBar::undo()
@@ -95,17 +90,18 @@ void UndoBar::showSteps()
 {
     const QString done = m_history.undoText();
     const QString undone = m_history.redoText();
-    if (done.isEmpty() && undone.isEmpty()) {
-        leave();
-        return;
-    }
     m_undo->setEnabled(!done.isEmpty());
     m_undo->setToolTip(done.isEmpty() ? QString() : tipFor(done, QKeySequence::Undo));
     m_redo->setVisible(!undone.isEmpty());
     m_redo->setToolTip(undone.isEmpty() ? QString() : tipFor(undone, Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
-    say(done);
     // The buttons stay, so what they are about does, too.
-    m_line->setStanding(done.isEmpty() ? tr("Undone: %1").arg(undone) : done);
+    m_line->setStanding(done.isEmpty() && !undone.isEmpty() ? tr("Undone: %1").arg(undone) : done);
+    // Last: the bar may come again to say why a step was forgotten.
+    if (done.isEmpty() && undone.isEmpty()) {
+        leave();
+    } else {
+        say(done);
+    }
 }
 
 void UndoBar::say(const QString& text)

@@ -162,6 +162,11 @@ private slots:
         f.pressUndo();
         QVERIFY(f.bar()->isVisible());
         QCOMPARE(f.said(), QStringLiteral("Not undone: It has been changed since."));
+        QVERIFY(!f.control<QWidget>(f.main(), "btnUndo")->isEnabled());
+        QVERIFY(!f.control<QWidget>(f.main(), "btnRedo")->isVisible());
+        auto* line = f.control<QuietLine>(f.main(), "lblUndo");
+        line->hush();
+        QCOMPARE(line->shown(), QString());
     }
 
     void aMissingDataFileIsSaidInTheBar()
