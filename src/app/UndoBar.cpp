@@ -20,6 +20,14 @@ QString tipFor(const QString& step, const QKeySequence& keys)
     return plainToolTip(QStringLiteral("%1 (%2)").arg(step, keys.toString(QKeySequence::NativeText)));
 }
 
+/// Gives the focus of `from` to `to`.
+void passFocus(const QWidget& from, QWidget& to)
+{
+    if (from.window()->focusWidget() == &from) {
+        to.setFocus(Qt::OtherFocusReason);
+    }
+}
+
 } // namespace
 
 UndoBar::UndoBar(UndoHistory& history, QWidget* parent)
@@ -90,6 +98,14 @@ void UndoBar::showSteps()
 {
     const QString done = m_history.undoText();
     const QString undone = m_history.redoText();
+    // Before one of the two goes the keys pass to the other one; Qt would hand them to "Close".
+    if (done.isEmpty() && !undone.isEmpty()) {
+        m_redo->show();
+        passFocus(*m_undo, *m_redo);
+    } else if (undone.isEmpty() && !done.isEmpty()) {
+        m_undo->setEnabled(true);
+        passFocus(*m_redo, *m_undo);
+    }
     m_undo->setEnabled(!done.isEmpty());
     m_undo->setToolTip(done.isEmpty() ? QString() : tipFor(done, QKeySequence::Undo));
     m_redo->setVisible(!undone.isEmpty());

@@ -209,6 +209,23 @@ private slots:
         QVERIFY(f.grid(f.main())->hasFocus());
     }
 
+    void theKeysGoToTheOtherButtonOfTheBar()
+    {
+        UndoingProgram f;
+        f.main().activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&f.main()));
+        f.deleteRow(0);
+        auto* undo = f.control<QWidget>(f.main(), "btnUndo");
+        auto* redo = f.control<QWidget>(f.main(), "btnRedo");
+        undo->setFocus();
+        QTest::keyClick(undo, Qt::Key_Space);
+        QCOMPARE(f.rows(), 2);
+        QCOMPARE(f.main().focusWidget(), redo);
+        QTest::keyClick(redo, Qt::Key_Space);
+        QCOMPARE(f.rows(), 1);
+        QCOMPARE(f.main().focusWidget(), undo);
+    }
+
     void theNextChangeShowsTheBarAgain()
     {
         UndoingProgram f;
