@@ -192,7 +192,7 @@ void Program::followOthers()
         {
             // Records that are left out are told when the user does something: a check brings up no box.
             const QSignalBlocker hushed(m_main->tasksPage());
-            m_main->LoadTasks();
+            m_main->tasksPage()->followChanges();
         }
         m_alerts->showAnew();
         if (m_copies != nullptr) {

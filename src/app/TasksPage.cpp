@@ -20,6 +20,7 @@
 #include <QBoxLayout>
 #include <QKeyEvent>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QTimer>
 #include <chrono>
@@ -162,6 +163,23 @@ void TasksPage::LoadTasks()
         goToTask(*current);
     }
     emit tasksLoaded();
+}
+
+void TasksPage::followChanges()
+{
+    QList<qint32> selected;
+    for (const int row : m_grid->selectedRows()) {
+        selected.append(m_model->idAt(row));
+    }
+    QScrollBar& bar = *m_grid->verticalScrollBar();
+    const int place = bar.value();
+    LoadTasks();
+    const int current = m_grid->currentIndex().row();
+    m_grid->selectRows(m_model->rowsOf(selected));
+    if (current >= 0) {
+        m_grid->goTo(current);
+    }
+    bar.setValue(place);
 }
 
 void TasksPage::showChanged(const QList<qint32>& ids)

@@ -43,6 +43,8 @@ public:
     /// Rebuilds the list from the filters; the current row stays on its task. Throws DatabaseError, and
     /// then the list is as it was.
     void LoadTasks();
+    /// The same for what the user has not asked for: the selection and the place in the list stay, too.
+    void followChanges();
 
     /// Makes the task's row the current one and scrolls to it. False when the list does not show the task.
     bool goToTask(qint32 id);
