@@ -293,6 +293,9 @@ void Program::showCopies()
         connect(page, &MaintenancePage::dataRestored, m_copies.get(), &frmCopies::hide);
         connectGuarded(m_main->tasksPage(), &TasksPage::tasksLoaded, m_copies.get(), &frmCopies::refresh,
             m_machine.errors);
+        // What changes tasks without a reload of the list: one is deleted, or put off in the alert.
+        connectGuarded(
+            &m_undo, &UndoHistory::stepsChanged, m_copies.get(), &frmCopies::refresh, m_machine.errors);
     }
     if (m_settings.always_on_top) {
         makeTopmost(m_copies.get());
