@@ -269,6 +269,7 @@ void Program::onDataRestored()
         m_main->saveSettings();
     } catch (const RuntimeError&) {
         // A failure after the file was replaced ends the restore silently.
+        m_main->tasksPage()->forgetUnread();
         return;
     }
 }

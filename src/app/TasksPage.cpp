@@ -182,6 +182,13 @@ void TasksPage::followChanges()
     bar.setValue(place);
 }
 
+void TasksPage::forgetUnread()
+{
+    if (m_isBehind) {
+        m_model->setTasks({}, m_shownColumns(), {});
+    }
+}
+
 void TasksPage::showChanged(const QList<qint32>& ids)
 {
     const QList<int> before = m_grid->selectedRows();

@@ -45,6 +45,9 @@ public:
     void LoadTasks();
     /// The same for what the user has not asked for: the selection and the place in the list stay, too.
     void followChanges();
+    /// To be called when the data file has been replaced: empties the list if it could not be read since,
+    /// because its ids mean other tasks. The next `followTime` reads it.
+    void forgetUnread();
 
     /// Makes the task's row the current one and scrolls to it. False when the list does not show the task.
     bool goToTask(qint32 id);

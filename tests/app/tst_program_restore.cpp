@@ -134,6 +134,22 @@ private slots:
             f.entriesOf(*f.control<QComboBox>(f.main(), "cmbCategories")).contains(QStringLiteral("Garden")));
     }
 
+    void aListThatCannotBeReadAfterARestoreIsEmptyUntilTheNextTick()
+    {
+        RestoringProgram f;
+        f.start();
+        f.program.loadDialogs();
+        const QAbstractItemModel& list = *f.grid(f.main())->model();
+        f.database.statements().failAt(QStringLiteral("select * from tasks inner join"));
+        f.restore(f.backup());
+        QCOMPARE(f.names(), QStringList(QStringLiteral("of the backup")));
+        QCOMPARE(list.rowCount(), 0);
+        f.database.statements().failAt({});
+        f.program.alerts().tmrTasksChecker_Timer();
+        QCOMPARE(list.rowCount(), 1);
+        QCOMPARE(list.index(0, 1).data().toString(), QStringLiteral("of the backup"));
+    }
+
     void theTaskOfAnOpenDialogIsStoredAsANewOne()
     {
         RestoringProgram f;
