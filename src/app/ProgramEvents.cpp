@@ -42,9 +42,19 @@ void Program::onTaskSaved(qint32 id)
     if (m_taskDialogHasKeyboard && m_main->isShown()) {
         activate(m_main.get());
     }
-    m_main->LoadTasks();
     TasksPage& page = *m_main->tasksPage();
-    if (!page.goToTask(id) && m_taskDetails->tag().isEmpty()) {
+    GridView& grid = *page.grid();
+    const int place = grid.currentIndex().row();
+    m_main->LoadTasks();
+    if (page.goToTask(id)) {
+        return;
+    }
+    const int last = grid.model()->rowCount() - 1;
+    if (!grid.currentIndex().isValid() && qMin(place, last) >= 0) {
+        // Keys go on from where the task was.
+        grid.goTo(qMin(place, last));
+    }
+    if (m_taskDetails->tag().isEmpty()) {
         page.quietLine().say(
             (page.isHiddenByFind(id) ? tr("The task \"%1\" was added; the search does not show it")
                                      : tr("The task \"%1\" was added; the filters do not show it"))
