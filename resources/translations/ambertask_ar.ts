@@ -3139,6 +3139,10 @@ The others are deleted.</source>
         <source>Repeats %1</source>
         <translation>تتكرر %1</translation>
     </message>
+    <message>
+        <source>Nothing was saved: the report shows tasks from before the restore.</source>
+        <translation>لم يُحفظ شيء: يعرض التقرير مهامّ من قبل الاستعادة.</translation>
+    </message>
 </context>
 <context>
     <name>frmAbout</name>

@@ -2927,6 +2927,10 @@ Die anderen Aufgaben werden gelöscht.</translation>
         <source>Repeats %1</source>
         <translation>Wiederholt sich %1</translation>
     </message>
+    <message>
+        <source>Nothing was saved: the report shows tasks from before the restore.</source>
+        <translation>Nichts wurde gespeichert: Der Bericht zeigt Aufgaben von vor der Wiederherstellung.</translation>
+    </message>
 </context>
 <context>
     <name>frmAbout</name>

@@ -2927,6 +2927,10 @@ Las demás se eliminan.</translation>
         <source>Repeats %1</source>
         <translation>Se repite %1</translation>
     </message>
+    <message>
+        <source>Nothing was saved: the report shows tasks from before the restore.</source>
+        <translation>No se ha guardado nada: el informe muestra tareas anteriores a la restauración.</translation>
+    </message>
 </context>
 <context>
     <name>frmAbout</name>

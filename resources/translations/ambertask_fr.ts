@@ -2927,6 +2927,10 @@ Les autres tâches seront supprimées.</translation>
         <source>Repeats %1</source>
         <translation>Se répète %1</translation>
     </message>
+    <message>
+        <source>Nothing was saved: the report shows tasks from before the restore.</source>
+        <translation>Rien n’a été enregistré&#xa0;: le rapport montre des tâches d’avant la restauration.</translation>
+    </message>
 </context>
 <context>
     <name>frmAbout</name>

@@ -2874,6 +2874,10 @@ The others are deleted.</source>
         <source>Repeats %1</source>
         <translation>重复：%1</translation>
     </message>
+    <message>
+        <source>Nothing was saved: the report shows tasks from before the restore.</source>
+        <translation>未保存任何内容：报告显示的是还原之前的任务。</translation>
+    </message>
 </context>
 <context>
     <name>frmAbout</name>

@@ -1,5 +1,6 @@
 #include "app/FindField.h"
 
+#include "app/PageKeys.h"
 #include "app/TasksPage.h"
 
 #include <QInputMethodEvent>
@@ -137,9 +138,13 @@ void addFindField(QTabWidget& tabs, TasksPage& page)
     });
     QObject::connect(field, &FindField::entered, &page, &TasksPage::prepareFind);
     QObject::connect(field, &FindField::exited, &page, &TasksPage::restSearchLater);
-    QObject::connect(field, &FindField::left, &page, [&page, turn] {
-        turn();
-        page.focusList();
+    QObject::connect(field, &FindField::left, &page, [&tabs, &page] {
+        // Clearing a text has turned to the tasks; without one the page in front stays.
+        if (tabs.currentIndex() == TasksIndex) {
+            page.focusList();
+        } else {
+            focusFirstControl(*tabs.currentWidget());
+        }
     });
     QObject::connect(field, &FindField::listWanted, &page, [&page, turn] {
         turn();

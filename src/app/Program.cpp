@@ -144,7 +144,7 @@ void Program::makeMainWindow()
     connectGuarded(pages.maintenance, &MaintenancePage::exportRequested, this, &Program::exportTasks, errors);
     connectGuarded(pages.maintenance, &MaintenancePage::importRequested, this, &Program::importTasks, errors);
     connectGuarded(pages.maintenance, &MaintenancePage::copiesRequested, this, &Program::showCopies, errors);
-    connectGuarded(pages.maintenance, &MaintenancePage::tasksDeleted, this, &Program::LoadTasks, errors);
+    connectGuarded(pages.maintenance, &MaintenancePage::tasksDeleted, this, &Program::onTasksDeleted, errors);
     connectGuarded(pages.tasks, &TasksPage::addRequested, this, &Program::addTask, errors);
     connectGuarded(pages.tasks, &TasksPage::editRequested, this, &Program::editTask, errors);
     // Queued behind everything that follows a load: the other lists must not wait for the user's answer.

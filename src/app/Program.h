@@ -131,9 +131,13 @@ private:
     void onDataRestored();
     /// Rows have been changed that any list may show.
     void onDataChanged();
+    void onTasksDeleted();
+    /// An open alert shows at once what the main window has done to tasks.
     void onTasksChanged();
+    void checkOpenAlert();
     /// After a restore the ids that windows remember mean other records: an open dialog keeps its input and
-    /// stores it as a new record, the alert empties its list and the next tick fills it.
+    /// stores it as a new record, the alert empties its list and the next tick fills it, the report saves
+    /// none of its tasks.
     void forgetRecords();
     /// Names the records that lists have left out since the last call, once the main window has been seen.
     void tellUnreadableRecords();

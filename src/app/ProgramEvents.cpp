@@ -32,7 +32,7 @@
 void Program::onTaskStored()
 {
     m_taskDialogHasKeyboard = m_taskDetails->isActiveWindow();
-    onTasksChanged();
+    checkOpenAlert();
 }
 
 void Program::onTaskSaved(qint32 id)
@@ -42,9 +42,19 @@ void Program::onTaskSaved(qint32 id)
     if (m_taskDialogHasKeyboard && m_main->isShown()) {
         activate(m_main.get());
     }
-    m_main->LoadTasks();
     TasksPage& page = *m_main->tasksPage();
-    if (!page.goToTask(id) && m_taskDetails->tag().isEmpty()) {
+    GridView& grid = *page.grid();
+    const int place = grid.currentIndex().row();
+    m_main->LoadTasks();
+    if (page.goToTask(id)) {
+        return;
+    }
+    const int last = grid.model()->rowCount() - 1;
+    if (!grid.currentIndex().isValid() && qMin(place, last) >= 0) {
+        // Keys go on from where the task was.
+        grid.goTo(qMin(place, last));
+    }
+    if (m_taskDetails->tag().isEmpty()) {
         page.quietLine().say(
             (page.isHiddenByFind(id) ? tr("The task \"%1\" was added; the search does not show it")
                                      : tr("The task \"%1\" was added; the filters do not show it"))
@@ -77,6 +87,13 @@ void Program::onCategoriesChanged()
 {
     reloadCategoryCombos();
     m_main->LoadTasks();
+    onTasksChanged();
+}
+
+void Program::onTasksDeleted()
+{
+    m_main->LoadTasks();
+    onTasksChanged();
 }
 
 void Program::onDataChanged()
@@ -128,6 +145,20 @@ void Program::importTasks()
 
 void Program::onTasksChanged()
 {
+    checkOpenAlert();
+    if (m_alerts != nullptr && m_alerts->isUp()) {
+        try {
+            // A check does not notice what has fallen due in the place of what has gone.
+            m_alerts->showAnew();
+        } catch (const RuntimeError&) {
+            // As silent as a check that fails.
+            return;
+        }
+    }
+}
+
+void Program::checkOpenAlert()
+{
     if (m_alerts != nullptr && m_alerts->isUp()) {
         m_alerts->tmrTasksChecker_Timer();
     }
@@ -160,9 +191,7 @@ void Program::followTime()
 
 void Program::followOthers()
 {
-    // An open question or menu is about the rows that were selected when it came up.
-    if (!m_foreign.arePending() || QApplication::activeModalWidget() != nullptr
-        || QApplication::activePopupWidget() != nullptr) {
+    if (!m_foreign.arePending() || TasksPage::isUserChoosing()) {
         return;
     }
     const quint32 seen = m_foreign.latest();
@@ -173,7 +202,7 @@ void Program::followOthers()
         {
             // Records that are left out are told when the user does something: a check brings up no box.
             const QSignalBlocker hushed(m_main->tasksPage());
-            m_main->LoadTasks();
+            m_main->tasksPage()->followChanges();
         }
         m_alerts->showAnew();
         if (m_copies != nullptr) {
@@ -227,6 +256,9 @@ void Program::forgetRecords()
     if (m_alerts != nullptr) {
         m_alerts->forgetReminders();
     }
+    if (m_report != nullptr) {
+        m_report->forgetTasks();
+    }
 }
 
 void Program::onDataRestored()
@@ -247,6 +279,7 @@ void Program::onDataRestored()
         m_main->saveSettings();
     } catch (const RuntimeError&) {
         // A failure after the file was replaced ends the restore silently.
+        m_main->tasksPage()->forgetUnread();
         return;
     }
 }
@@ -271,6 +304,9 @@ void Program::showCopies()
         connect(page, &MaintenancePage::dataRestored, m_copies.get(), &frmCopies::hide);
         connectGuarded(m_main->tasksPage(), &TasksPage::tasksLoaded, m_copies.get(), &frmCopies::refresh,
             m_machine.errors);
+        // What changes tasks without a reload of the list: one is deleted, or put off in the alert.
+        connectGuarded(
+            &m_undo, &UndoHistory::stepsChanged, m_copies.get(), &frmCopies::refresh, m_machine.errors);
     }
     if (m_settings.always_on_top) {
         makeTopmost(m_copies.get());

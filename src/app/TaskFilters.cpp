@@ -164,7 +164,7 @@ void TaskFilters::showAll()
         m_allTasks->setChecked(true);
     }
     setDatesEnabled(false);
-    emit changed();
+    dates_Changed();
 }
 
 TaskFilter TaskFilters::filter() const

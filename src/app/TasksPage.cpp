@@ -16,9 +16,11 @@
 #include "widgets/QuietLine.h"
 #include "widgets/WindowPlacement.h"
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QKeyEvent>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QTimer>
 #include <chrono>
@@ -111,8 +113,9 @@ void TasksPage::startWith(bool todayOnly)
 
 void TasksPage::followTime()
 {
-    m_isBehind = m_filters->moveOnTo(toQDate(m_services.clock.now())) || m_isBehind;
-    if (m_isBehind) {
+    const bool isBehind =
+        !isUserChoosing() && (m_filters->moveOnTo(toQDate(m_services.clock.now())) || m_isBehind);
+    if (isBehind) {
         try {
             LoadTasks();
         } catch (const RuntimeError&) {
@@ -120,6 +123,11 @@ void TasksPage::followTime()
         }
     }
     m_model->followTime();
+}
+
+bool TasksPage::isUserChoosing()
+{
+    return QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr;
 }
 
 FilterFold& TasksPage::fold() const
@@ -139,6 +147,7 @@ int TasksPage::selectedCategoryIndex() const
 
 void TasksPage::LoadTasks()
 {
+    m_isBehind = true;
     // Read before the list is cleared: a store that cannot be read must not look like an empty one.
     const TaskFilter shown = filter();
     std::vector<ClsTask> tasks = shown.tasks(m_services.engine);
@@ -154,6 +163,30 @@ void TasksPage::LoadTasks()
         goToTask(*current);
     }
     emit tasksLoaded();
+}
+
+void TasksPage::followChanges()
+{
+    QList<qint32> selected;
+    for (const int row : m_grid->selectedRows()) {
+        selected.append(m_model->idAt(row));
+    }
+    QScrollBar& bar = *m_grid->verticalScrollBar();
+    const int place = bar.value();
+    LoadTasks();
+    const int current = m_grid->currentIndex().row();
+    m_grid->selectRows(m_model->rowsOf(selected));
+    if (current >= 0) {
+        m_grid->goTo(current);
+    }
+    bar.setValue(place);
+}
+
+void TasksPage::forgetUnread()
+{
+    if (m_isBehind) {
+        m_model->setTasks({}, m_shownColumns(), {});
+    }
 }
 
 void TasksPage::showChanged(const QList<qint32>& ids)
@@ -336,6 +369,7 @@ void TasksPage::btnTaskDelete_Click()
         m_model->removeTask(row);
         m_grid->selectOnly(qMin(row, m_model->rowCount() - 1));
     }
+    emit tasksChanged();
 }
 
 void TasksPage::deleteRepeating(const TaskChoices& tasks)

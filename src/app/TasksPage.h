@@ -35,11 +35,19 @@ public:
     /// Sets both date pickers to today, selects specific dates or all dates, and rebuilds the list.
     void startWith(bool todayOnly);
     /// To be called now and then: shows what has become late, and on another day the tasks of that day if
-    /// the page was started with today's. Never throws: what fails is tried again by the next call.
+    /// the page was started with today's, once no question or menu is open. Reads the list that could not be
+    /// read. Never throws: what fails is tried again by the next call.
     void followTime();
+    /// Whether a question or menu is open: it is about the rows that were selected when it came up.
+    static bool isUserChoosing();
     /// Rebuilds the list from the filters; the current row stays on its task. Throws DatabaseError, and
     /// then the list is as it was.
     void LoadTasks();
+    /// The same for what the user has not asked for: the selection and the place in the list stay, too.
+    void followChanges();
+    /// To be called when the data file has been replaced: empties the list if it could not be read since,
+    /// because its ids mean other tasks. The next `followTime` reads it.
+    void forgetUnread();
 
     /// Makes the task's row the current one and scrolls to it. False when the list does not show the task.
     bool goToTask(qint32 id);
@@ -75,7 +83,7 @@ signals:
     void editRequested(qint16 id);
     /// The list has been rebuilt.
     void tasksLoaded();
-    /// Tasks were changed from the list, and it has been rebuilt.
+    /// Tasks were changed from the list, which shows it already.
     void tasksChanged();
     void helpRequested();
     /// "Print" was pressed; the report shows what the filters select.
@@ -108,7 +116,7 @@ private:
     QuietLine* m_quietLine;
     TaskActions* m_actions;
     UndoBar* m_undoBar = nullptr;
-    /// The filters have moved on to another day, the list has not yet.
+    /// The list does not show yet what the filters say.
     bool m_isBehind = false;
     EmptyListNote* m_emptyNote;
     QString m_sought;

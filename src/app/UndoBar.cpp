@@ -20,6 +20,14 @@ QString tipFor(const QString& step, const QKeySequence& keys)
     return plainToolTip(QStringLiteral("%1 (%2)").arg(step, keys.toString(QKeySequence::NativeText)));
 }
 
+/// Gives the focus of `from` to `to`.
+void passFocus(const QWidget& from, QWidget& to)
+{
+    if (from.window()->focusWidget() == &from) {
+        to.setFocus(Qt::OtherFocusReason);
+    }
+}
+
 } // namespace
 
 UndoBar::UndoBar(UndoHistory& history, QWidget* parent)
@@ -36,7 +44,7 @@ UndoBar::UndoBar(UndoHistory& history, QWidget* parent)
     layout->addWidget(m_redo);
     layout->addWidget(m_close);
     window()->installEventFilter(this);
-    connect(m_undo, &QPushButton::clicked, this, &UndoBar::btnUndo_Click);
+    connect(m_undo, &QPushButton::clicked, this, &UndoBar::undo);
     connect(m_redo, &QPushButton::clicked, this, &UndoBar::redo);
     connect(m_close, &QPushButton::clicked, this, &UndoBar::leave);
     connect(&m_history, &UndoHistory::stepsChanged, this, &UndoBar::showSteps);
@@ -62,11 +70,6 @@ bool UndoBar::eventFilter(QObject* watched, QEvent* event)
         }
     }
     return QFrame::eventFilter(watched, event);
-}
-
-void UndoBar::btnUndo_Click()
-{
-    undo();
 }
 
 void UndoBar::undo()
@@ -95,17 +98,26 @@ void UndoBar::showSteps()
 {
     const QString done = m_history.undoText();
     const QString undone = m_history.redoText();
-    if (done.isEmpty() && undone.isEmpty()) {
-        leave();
-        return;
+    // Before one of the two goes the keys pass to the other one; Qt would hand them to "Close".
+    if (done.isEmpty() && !undone.isEmpty()) {
+        m_redo->show();
+        passFocus(*m_undo, *m_redo);
+    } else if (undone.isEmpty() && !done.isEmpty()) {
+        m_undo->setEnabled(true);
+        passFocus(*m_redo, *m_undo);
     }
     m_undo->setEnabled(!done.isEmpty());
     m_undo->setToolTip(done.isEmpty() ? QString() : tipFor(done, QKeySequence::Undo));
     m_redo->setVisible(!undone.isEmpty());
     m_redo->setToolTip(undone.isEmpty() ? QString() : tipFor(undone, Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
-    say(done);
     // The buttons stay, so what they are about does, too.
-    m_line->setStanding(done.isEmpty() ? tr("Undone: %1").arg(undone) : done);
+    m_line->setStanding(done.isEmpty() && !undone.isEmpty() ? tr("Undone: %1").arg(undone) : done);
+    // Last: the bar may come again to say why a step was forgotten.
+    if (done.isEmpty() && undone.isEmpty()) {
+        leave();
+    } else {
+        say(done);
+    }
 }
 
 void UndoBar::say(const QString& text)

@@ -31,7 +31,6 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void btnUndo_Click();
     void showSteps();
     void say(const QString& text);
     void leave();

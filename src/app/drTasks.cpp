@@ -240,8 +240,11 @@ QString drTasks::choosePdfFile(QWidget* owner)
 
 QString drTasks::saveTasks(QWidget* owner)
 {
+    if (!m_ids) {
+        return tr("Nothing was saved: the report shows tasks from before the restore.");
+    }
     try {
-        return m_saveTasks(owner, m_ids);
+        return m_saveTasks(owner, *m_ids);
     } catch (const RuntimeError& error) {
         tellFailure(owner, tr("The tasks could not be saved.\n%1").arg(error.text()));
         return {};

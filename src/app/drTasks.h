@@ -42,6 +42,8 @@ public:
     void forFinalizing(Connection connection, RecordSet records);
     /// Closes the connection if it is open and drops it and its record set.
     void DataReport_QueryClose();
+    /// To be called when the data file has been replaced: the ids of the tasks shown mean other tasks.
+    void forgetTasks() { m_ids.reset(); }
 
     /// The sections from top to bottom.
     const std::vector<ReportSection>& sections() const { return m_sections; }
@@ -67,7 +69,8 @@ private:
     const FormServices& m_services;
     ReportWindowFactory m_makeWindow;
     TaskSaving m_saveTasks;
-    QList<qint32> m_ids; ///< of the tasks of the report, in its order
+    /// Of the tasks of the report, in its order; none when they are no longer those of the data file.
+    std::optional<QList<qint32>> m_ids;
     std::vector<ReportSection> m_sections;
     std::map<QString, DataFormat> m_formats; ///< by control name
     std::optional<Connection> m_connection;

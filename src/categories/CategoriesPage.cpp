@@ -6,6 +6,7 @@
 #include "data/ClsCategory.h"
 #include "data/KeptCopies.h"
 #include "data/UndoHistory.h"
+#include "store/DatabaseError.h"
 #include "system/ErrorReport.h"
 #include "widgets/ChangeTexts.h"
 #include "widgets/ImageList.h"
@@ -119,8 +120,13 @@ void CategoriesPage::LoadCategories()
         m_list->selectOnly(row);
     }
 
-    // Last, so that a failing store leaves a complete list.
-    writeIconNumbers(numbered);
+    try {
+        writeIconNumbers(numbered);
+    } catch (const DatabaseError&) {
+        // A full or locked data file is no reason not to start, or to leave other lists as they were: a task
+        // shows another picture until the next load writes the numbers again.
+        return;
+    }
 }
 
 QIcon CategoriesPage::customPicture(const ClsCategory& category)

@@ -35,8 +35,8 @@ public:
     /// Rebuilds the list; the selected category stays selected while it exists. The picture of each
     /// category with a custom icon is appended to the image list again and its new number written to the
     /// store. A picture that has not been read yet has a stand-in until it is; a missing or unreadable one
-    /// keeps it and is noted (see `takeUnreadablePictures`). Throws DatabaseError: when categories cannot
-    /// be read, the list is as it was; when a number cannot be written, the list is complete.
+    /// keeps it and is noted (see `takeUnreadablePictures`). A number that cannot be written is left to
+    /// the next load. Throws DatabaseError when categories cannot be read, and then the list is as it was.
     void LoadCategories();
     /// Starts reading pictures; not called before the first painting.
     void readPictures();

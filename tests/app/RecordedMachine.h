@@ -54,7 +54,8 @@ struct RecordedMachine {
                 helpWindow = new RecordedHelpWindow(helpLog);
                 return helpWindow;
             },
-            [this](ReportHost&) {
+            [this](ReportHost& host) {
+                reportHost = &host;
                 auto window = std::make_unique<RecordedReportWindow>();
                 reportWindow = window.get();
                 return window;
@@ -77,5 +78,6 @@ struct RecordedMachine {
     QStringList helpLog;
     QPointer<RecordedHelpWindow> helpWindow;
     QPointer<RecordedReportWindow> reportWindow;
+    ReportHost* reportHost = nullptr; ///< of that window
     RecordedExchange::Log exchange;
 };

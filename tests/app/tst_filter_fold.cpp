@@ -1,4 +1,5 @@
 #include "TasksPageFixture.h"
+#include "app/TaskFilters.h"
 #include "support/TestMain.h"
 
 #include <QAccessible>
@@ -80,6 +81,16 @@ private slots:
         f.choose("cmbCategories", QStringLiteral("All"));
         f.choose("cmbStatus", QStringLiteral("All"));
         QCOMPARE(line->text(), QStringLiteral("No filter leaves a task out"));
+    }
+
+    void afterShowAllTheLineNamesNoFilter()
+    {
+        TasksPageFixture f;
+        f.load();
+        f.control<QToolButton>("btnFold")->click();
+        f.choose("cmbStatus", QStringLiteral("Deferred"));
+        f.page.findChild<TaskFilters*>()->showAll();
+        QCOMPARE(f.control<QLabel>("lblFilters")->text(), QStringLiteral("No filter leaves a task out"));
     }
 
     void aLongNameDoesNotWidenThePageAndIsPlainText()

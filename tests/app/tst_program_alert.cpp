@@ -8,8 +8,67 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QListWidget>
+#include <QTimer>
 
 using namespace std::chrono_literals;
+
+namespace
+{
+
+/// The program with an alert that lists one task, alone in its category; another one reminds in a minute.
+struct AlertedProgram : ProgramFixture {
+    AlertedProgram()
+    {
+        doomed = database.addCategory(QStringLiteral("doomed"));
+        aTask(database)
+            .named(QStringLiteral("listed"))
+            .in(doomed)
+            .remindingAt(database.clock().now() - 1min)
+            .add();
+        aTask(database)
+            .named(QStringLiteral("next"))
+            .remindingAt(database.clock().now() + 1min)
+            .sounding(QStringLiteral("bell.wav"))
+            .add();
+        start();
+        program.loadDialogs();
+        // A test ticks.
+        control<QTimer>(program.alerts(), "tmrTasksChecker")->setInterval(24h);
+    }
+    void deleteListed(const QString& way)
+    {
+        if (way == QLatin1String("task")) {
+            dialogs.expectAsk(QStringLiteral("Are you sure you want to delete this task?"), true);
+            grid(main())->selectOnly(0);
+            press(main(), "btnTaskDelete");
+        } else if (way == QLatin1String("category")) {
+            auto* list = control<QListWidget>(main(), "lstViewCategories");
+            list->setCurrentItem(list->findItems(QStringLiteral("doomed"), Qt::MatchExactly).first());
+            dialogs.expectAsk(QStringLiteral("Are you sure you want to delete 'doomed' category, all tasks "
+                                             "under this category will be deleted?"),
+                true);
+            press(main(), "btnDeleteCat");
+        } else {
+            control<QComboBox>(main(), "cmbCategoriesMaintenance")->setCurrentText(QStringLiteral("doomed"));
+            dialogs.expectAsk(QStringLiteral("Are you sure you want to delete 1 tasks?"), true);
+            press(main(), "btnDeleteTasksMaintenance");
+        }
+        QVERIFY(dialogs.allUsed());
+    }
+    QStringList alerted()
+    {
+        const QAbstractItemModel& model = *grid(program.alerts())->model();
+        QStringList names;
+        for (int row = 0; row < model.rowCount(); ++row) {
+            names.append(model.index(row, 1).data().toString());
+        }
+        return names;
+    }
+    qint16 doomed = 0;
+};
+
+} // namespace
 
 /// What the rest of the program has to do with the alert window.
 class ProgramAlertTest : public TestCase
@@ -56,6 +115,46 @@ private slots:
         complete->trigger();
         QVERIFY(!desktop.isTold());
         QVERIFY(!f.program.alerts().isVisible());
+    }
+
+    void aReminderComesThoughAListedTaskIsDeleted_data()
+    {
+        QTest::addColumn<QString>("way");
+        QTest::addColumn<bool>("isDueBefore");
+        for (const char* way : {"task", "category", "bulk"}) {
+            QTest::addRow("%s", way) << QString::fromLatin1(way) << false;
+            QTest::addRow("%s, between two ticks", way) << QString::fromLatin1(way) << true;
+        }
+    }
+    void aReminderComesThoughAListedTaskIsDeleted()
+    {
+        QFETCH(const QString, way);
+        QFETCH(const bool, isDueBefore);
+        AlertedProgram f;
+        QCOMPARE(f.alerted(), QStringList(QStringLiteral("listed")));
+        if (isDueBefore) {
+            f.database.clock().step(2min);
+        }
+        f.deleteListed(way);
+        if (!isDueBefore) {
+            f.database.clock().step(2min);
+        }
+        f.program.alerts().tmrTasksChecker_Timer();
+        QCOMPARE(f.alerted(), QStringList(QStringLiteral("next")));
+        QVERIFY(f.program.alerts().isVisible());
+        QCOMPARE(f.played.size(), 1);
+        f.program.alerts().tmrTasksChecker_Timer();
+        QCOMPARE(f.played.size(), 1);
+        QCOMPARE(f.database.storedOfAll("played"), QStringLiteral("1"));
+    }
+
+    void aTaskDeletedInTheListLeavesTheAlertAtOnce()
+    {
+        AlertedProgram f;
+        f.deleteListed(QStringLiteral("task"));
+        QVERIFY(!f.program.alerts().isVisible());
+        f.program.alerts().tmrTasksChecker_Timer();
+        QCOMPARE(f.alerted(), QStringList());
     }
 
     void afterOkTheMainWindowThatLiesInFrontHasTheKeyboard()

@@ -202,6 +202,21 @@ private slots:
         QCOMPARE(f.form(), form);
     }
 
+    void aDeletedTaskIsSeenInTheListOfCopies()
+    {
+        CopyingProgram f;
+        f.begin();
+        f.addTask(QStringLiteral("four"));
+        f.openForm();
+        const QAbstractItemModel& copies = *f.control<GridView>(*f.form(), "grdCopies")->model();
+        QTRY_COMPARE(copies.index(0, 3).data().toString(), QStringLiteral("1 task added"));
+        f.grid(f.main())->selectOnly(3);
+        f.dialogs.expectAsk(QStringLiteral("Are you sure you want to delete this task?"), true);
+        f.press(f.main(), "btnTaskDelete");
+        QTRY_VERIFY(copies.index(0, 3).data().toString() != QStringLiteral("1 task added"));
+        QCOMPARE(f.names(), QStringLiteral("one two three"));
+    }
+
     void aCopyIsRestoredAsABackupIs()
     {
         CopyingProgram f;

@@ -106,6 +106,35 @@ private slots:
         QTRY_COMPARE(QApplication::focusWidget(), f.grid(f.main()));
     }
 
+    void anEditedTaskThatTheFiltersHideLeavesItsPlace_data()
+    {
+        QTest::addColumn<int>("row");
+        QTest::addColumn<int>("next");
+        QTest::newRow("in the midst") << 1 << 1;
+        QTest::newRow("last") << 2 << 1;
+    }
+    void anEditedTaskThatTheFiltersHideLeavesItsPlace()
+    {
+        QFETCH(const int, row);
+        QFETCH(const int, next);
+        ProgramFixture f;
+        for (const char* name : {"a", "b", "c"}) {
+            aTask(f.database).named(QString::fromLatin1(name)).add();
+        }
+        f.start();
+        auto* filter = f.control<QComboBox>(f.main(), "cmbStatus");
+        filter->setCurrentIndex(1);
+        emit filter->activated(1);
+        const GridView& grid = *f.grid(f.main());
+        f.grid(f.main())->selectOnly(row);
+        f.press(f.main(), "btnTaskEdit");
+        frmTaskDetails& dialog = f.program.taskDetails();
+        f.control<QComboBox>(dialog, "cmbStatus")->setCurrentIndex(2);
+        f.press(dialog, "btnOk");
+        QCOMPARE(grid.model()->rowCount(), 2);
+        QCOMPARE(grid.currentIndex().row(), next);
+    }
+
     void aNewTaskThatTheFiltersHideIsToldAtTheFootOfThePage()
     {
         ProgramFixture f;

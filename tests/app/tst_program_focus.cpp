@@ -190,6 +190,22 @@ private slots:
         f.tabs().setCurrentIndex(Tasks);
         QCOMPARE(f.focusName(), QStringLiteral("grdTasks"));
     }
+
+    void escapeOfAnEmptyFindFieldStaysOnThePage()
+    {
+        FocusFixture f;
+        QVERIFY(f.show());
+        f.tabs().setCurrentIndex(Settings);
+        auto* grid = f.control<QCheckBox>(f.main(), "chkShowGrid");
+        const bool stored = grid->isChecked();
+        grid->click();
+        QTest::mouseClick(f.control<QWidget>(f.main(), "txtFind"), Qt::LeftButton);
+        QCOMPARE(f.focusName(), QStringLiteral("txtFind"));
+        f.press(Qt::Key_Escape, {});
+        QCOMPARE(f.tabs().currentIndex(), int(Settings));
+        QVERIFY2(f.isOnPage(), qPrintable(f.focusName()));
+        QCOMPARE(grid->isChecked(), !stored);
+    }
 };
 
 AMBERTASK_TEST_MAIN(ProgramFocusTest)

@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMenu>
+#include <QScrollBar>
 #include <QTimer>
 
 using namespace std::chrono_literals;
@@ -190,6 +191,28 @@ private slots:
         menu.close();
         f.tick();
         QCOMPARE(f.names(), (QStringList{"first", "imported"}));
+    }
+
+    void theSelectionAndThePlaceStay()
+    {
+        WatchingProgram f;
+        for (int i = 0; i < 100; ++i) {
+            aTask(f.database).named(QString::number(i)).add();
+        }
+        f.tick();
+        GridView& grid = *f.grid(f.main());
+        grid.selectRows({70, 72});
+        grid.goTo(71);
+        QScrollBar& bar = *grid.verticalScrollBar();
+        bar.setValue(bar.maximum() / 3);
+        const int place = bar.value();
+        QVERIFY(place > 0);
+        f.database.sql(QStringLiteral("delete from tasks where task_name='first'"));
+        f.tick();
+        QCOMPARE(f.names().size(), 100);
+        QCOMPARE(grid.selectedRows(), (QList<int>{69, 71}));
+        QCOMPARE(grid.currentIndex().row(), 70);
+        QCOMPARE(bar.value(), place);
     }
 
     void whatCannotBeReadNowIsReadByTheNextTick()

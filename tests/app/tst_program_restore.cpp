@@ -134,6 +134,22 @@ private slots:
             f.entriesOf(*f.control<QComboBox>(f.main(), "cmbCategories")).contains(QStringLiteral("Garden")));
     }
 
+    void aListThatCannotBeReadAfterARestoreIsEmptyUntilTheNextTick()
+    {
+        RestoringProgram f;
+        f.start();
+        f.program.loadDialogs();
+        const QAbstractItemModel& list = *f.grid(f.main())->model();
+        f.database.statements().failAt(QStringLiteral("select * from tasks inner join"));
+        f.restore(f.backup());
+        QCOMPARE(f.names(), QStringList(QStringLiteral("of the backup")));
+        QCOMPARE(list.rowCount(), 0);
+        f.database.statements().failAt({});
+        f.program.alerts().tmrTasksChecker_Timer();
+        QCOMPARE(list.rowCount(), 1);
+        QCOMPARE(list.index(0, 1).data().toString(), QStringLiteral("of the backup"));
+    }
+
     void theTaskOfAnOpenDialogIsStoredAsANewOne()
     {
         RestoringProgram f;
@@ -200,6 +216,23 @@ private slots:
         QVERIFY(contentOf(later) == contentOf(f.database.dataFile()));
         f.restore(f.backup());
         QCOMPARE(f.names(), QStringList(QStringLiteral("of the backup")));
+    }
+
+    void aReportOfReplacedDataIsNotSaved()
+    {
+        RestoringProgram f;
+        f.start();
+        f.program.loadDialogs();
+        f.press(f.main(), "btnTaskPrint");
+        f.restore(f.backup());
+        QCOMPARE(f.reportHost->saveTasks(f.reportWindow),
+            QStringLiteral("Nothing was saved: the report shows tasks from before the restore."));
+        f.press(f.main(), "btnTaskPrint");
+        const QString file = f.elsewhere.filePath(QStringLiteral("tasks.csv"));
+        f.dialogs.expectSave(file);
+        f.reportHost->saveTasks(f.reportWindow);
+        QVERIFY(f.dialogs.allUsed());
+        QVERIFY(f.exchange.choices.back().tasks == QList<qint32>{f.kept});
     }
 
     void anEndOfTheProgramUnderTheFileDialogSavesNothing()

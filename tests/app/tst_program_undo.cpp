@@ -141,6 +141,19 @@ private slots:
         QCOMPARE(f.rows(), 2);
     }
 
+    void anUndoShowsItsTasksThoughNoPictureNumberCanBeWritten()
+    {
+        UndoingProgram f;
+        f.deleteRow(0);
+        f.database.sql(QStringLiteral("update categories set custom_icon=1,cat_icon_name='icon5.gif'"));
+        // Refuses the numbers of all pictures but one.
+        f.database.sql(
+            QStringLiteral("create unique index refuse on categories(custom_icon) where cat_icon>20"));
+        f.pressUndo();
+        QCOMPARE(f.rows(), 2);
+        QCOMPARE(f.said(), QStringLiteral("Undone: 1 task deleted"));
+    }
+
     void whatCannotBeTakenBackIsSaidInTheBar()
     {
         UndoingProgram f;
@@ -149,6 +162,11 @@ private slots:
         f.pressUndo();
         QVERIFY(f.bar()->isVisible());
         QCOMPARE(f.said(), QStringLiteral("Not undone: It has been changed since."));
+        QVERIFY(!f.control<QWidget>(f.main(), "btnUndo")->isEnabled());
+        QVERIFY(!f.control<QWidget>(f.main(), "btnRedo")->isVisible());
+        auto* line = f.control<QuietLine>(f.main(), "lblUndo");
+        line->hush();
+        QCOMPARE(line->shown(), QString());
     }
 
     void aMissingDataFileIsSaidInTheBar()
@@ -189,6 +207,23 @@ private slots:
         QTest::keyClick(close, Qt::Key_Space);
         QVERIFY(!f.bar()->isVisible());
         QVERIFY(f.grid(f.main())->hasFocus());
+    }
+
+    void theKeysGoToTheOtherButtonOfTheBar()
+    {
+        UndoingProgram f;
+        f.main().activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&f.main()));
+        f.deleteRow(0);
+        auto* undo = f.control<QWidget>(f.main(), "btnUndo");
+        auto* redo = f.control<QWidget>(f.main(), "btnRedo");
+        undo->setFocus();
+        QTest::keyClick(undo, Qt::Key_Space);
+        QCOMPARE(f.rows(), 2);
+        QCOMPARE(f.main().focusWidget(), redo);
+        QTest::keyClick(redo, Qt::Key_Space);
+        QCOMPARE(f.rows(), 1);
+        QCOMPARE(f.main().focusWidget(), undo);
     }
 
     void theNextChangeShowsTheBarAgain()

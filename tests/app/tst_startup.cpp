@@ -1,8 +1,10 @@
 #include "ProgramFixture.h"
 #include "app/FixedPictures.h"
 #include "data/DataFileRoad.h"
+#include "reminders/frmAlerts.h"
 #include "support/FullPixmapCache.h"
 #include "support/OlderDataFile.h"
+#include "support/OtherProgram.h"
 #include "support/TestMain.h"
 #include "support/TestPictures.h"
 #include "system/ProgramFolder.h"
@@ -14,6 +16,8 @@
 #include <QPushButton>
 #include <QTabWidget>
 #include <algorithm>
+
+using namespace std::chrono_literals;
 
 namespace
 {
@@ -67,6 +71,28 @@ private slots:
         const MemoryRegistry::Value entry = f.registry.runEntry("Ambertask");
         QCOMPARE(entry.type, RegistryValues::Text);
         QCOMPARE(entry.data, executableIn(f.database.folder()).toLocal8Bit());
+    }
+
+    void aDataFileThatIsBeingWrittenDoesNotKeepTheProgramFromStarting()
+    {
+        ProgramFixture f;
+        const qint16 own = f.database.addCategory(QStringLiteral("Own"), 3);
+        f.database.sql(
+            QStringLiteral("update categories set custom_icon=1,cat_icon_name='icon5.gif' where cat_id=%1")
+                .arg(own));
+        aTask(f.database).remindingAt(f.database.clock().now() - 1min).add();
+        const QString number = QStringLiteral("select cat_icon from categories where cat_id=%1").arg(own);
+        {
+            const OtherProgram other(f.database, OtherProgram::Writing);
+            QVERIFY(other.holds());
+            f.start();
+            QCOMPARE(f.grid(f.main())->model()->rowCount(), 1);
+            QCOMPARE(f.database.sql(number).toInt(), 3);
+            f.program.loadDialogs();
+            QVERIFY(f.program.alerts().isVisible());
+        }
+        f.main().LoadCategories();
+        QVERIFY(f.database.sql(number).toInt() > 3);
     }
 
     void thePagesBehindTheFirstJoinTheWindowAfterTheFirstPainting()

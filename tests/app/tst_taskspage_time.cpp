@@ -1,4 +1,5 @@
 #include "TasksPageFixture.h"
+#include "app/TaskFilters.h"
 #include "data/TaskCodes.h"
 #include "support/TestMain.h"
 #include "widgets/GridModel.h"
@@ -7,6 +8,7 @@
 #include <QAccessibleTableInterface>
 #include <QDateEdit>
 #include <QHeaderView>
+#include <QMenu>
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -222,7 +224,8 @@ private slots:
     void whoHasTouchedTheDatesKeepsThem_data()
     {
         QTest::addColumn<QString>("touch");
-        for (const char* touch : {"from", "to", "there and back", "all dates", "all and specific"}) {
+        for (const char* touch :
+            {"from", "to", "there and back", "all dates", "all and specific", "show all"}) {
             QTest::newRow(touch) << QString::fromLatin1(touch);
         }
     }
@@ -239,6 +242,8 @@ private slots:
         } else if (touch == QLatin1String("there and back")) {
             to->setDate(Friday);
             to->setDate(Thursday);
+        } else if (touch == QLatin1String("show all")) {
+            f.page.findChild<TaskFilters*>()->showAll();
         } else {
             f.select("opnAllDate");
             if (touch == QLatin1String("all and specific")) {
@@ -284,6 +289,37 @@ private slots:
         f.services.database.statements().take();
         f.page.followTime();
         QCOMPARE(f.services.database.statements().take(), QStringList());
+    }
+
+    void aListThatCouldNotBeReadAfterAFilterIsReadByTheNextTick()
+    {
+        TodaysTasks f;
+        f.page.startWith(false);
+        f.services.database.statements().failAt(QStringLiteral("select"));
+        f.services.dialogs.expectError(QStringLiteral("select"));
+        f.choose("cmbSort", QStringLiteral("Name"));
+        QCOMPARE(f.names().first(), QStringLiteral("Thursday"));
+        f.services.database.statements().failAt({});
+        f.page.followTime();
+        QCOMPARE(f.names().first(), QStringLiteral("Friday"));
+        f.services.database.statements().take();
+        f.page.followTime();
+        QCOMPARE(f.services.database.statements().take(), QStringList());
+    }
+
+    void anOpenMenuKeepsItsRowsThroughMidnight()
+    {
+        TodaysTasks f;
+        QMenu menu;
+        menu.addAction(QStringLiteral("about the selected row"));
+        menu.popup({});
+        f.tickAt(f.midnight());
+        QCOMPARE(f.names(), QStringList{QStringLiteral("Thursday")});
+        QCOMPARE(dates(f), both(Thursday));
+        menu.close();
+        f.page.followTime();
+        QCOMPARE(f.names(), QStringList{QStringLiteral("Friday")});
+        QCOMPARE(dates(f), both(Friday));
     }
 };
 
