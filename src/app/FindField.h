@@ -20,7 +20,7 @@ public:
 signals:
     /// The user has come to the field and may begin to type.
     void entered();
-    /// The user is elsewhere, also when the text is cleared from there.
+    /// The field has lost the focus, or its text was changed while it had none.
     void exited();
     /// The text has changed, also by a syllable of Hangul that is still being composed.
     void sought(const QString& text);

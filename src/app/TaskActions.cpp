@@ -98,7 +98,7 @@ void TaskActions::makeMenu()
     connectGuarded(m_duplicate, &QAction::triggered, this, &TaskActions::mnuListDuplicate_Click, errors);
     connect(m_copy, &QAction::triggered, &m_grid, &GridView::copySelectedRows);
     connect(m_delete, &QAction::triggered, this, &TaskActions::deleteRequested);
-    // A key asks for what is selected when it is pressed.
+    // A disabled action does not act on its key, and what the key is for may have changed by then.
     connect(m_menu, &QMenu::aboutToHide, this, [this] {
         for (QAction* action : {m_edit, m_complete, m_undo, m_redo}) {
             action->setEnabled(true);

@@ -29,9 +29,9 @@ public:
     void reloadCategories(const DatabaseEngine& engine);
     /// Sets both date pickers to `today`, selects specific dates or all dates, without telling.
     void startWith(const QDate& today, bool todayOnly);
-    /// Sets both date pickers to `today`, without telling, when they stand on another day only because the
-    /// block was started with that day alone. False when it was not, or the user has touched the date
-    /// controls since.
+    /// Sets both date pickers to `today`, without telling, and returns true when they stand on another day
+    /// and follow the day: the block was started with one day alone and the user has not touched the dates
+    /// since.
     bool moveOnTo(const QDate& today);
 
     /// Selects all tasks in every filter and tells it as one change. The sort stays.

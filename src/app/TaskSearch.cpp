@@ -13,7 +13,8 @@ namespace
 /// Stands between name and description, and is in no word.
 constexpr char Separator = '\n';
 
-/// Goes by the last byte of the word: of a letter beyond ASCII the first one is that of its whole script.
+/// Whether `word` is anywhere in `text`. Looks for its last byte: in UTF-8 the first byte of a letter beyond
+/// ASCII is the same for most letters of a script and would be found nearly everywhere.
 bool holds(std::string_view text, std::string_view word)
 {
     const std::string_view before = word.substr(0, word.size() - 1);

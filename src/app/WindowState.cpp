@@ -1,6 +1,7 @@
 #include "app/WindowState.h"
 
 #include "app/FilterFold.h"
+#include "widgets/DesktopLimits.h"
 #include "widgets/GridView.h"
 #include "widgets/WindowPlacement.h"
 
@@ -40,12 +41,6 @@ QRect placeOf(const QString& text)
         : QRect();
 }
 
-/// Wayland tells no window where it is and lets none choose.
-bool placesWindowsItself()
-{
-    return QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
-}
-
 } // namespace
 
 WindowState::WindowState(const QString& path, QWidget& window, GridView& grid, FilterFold& fold)
@@ -71,7 +66,8 @@ void WindowState::restorePlace()
     if (!place.isValid()) {
         return;
     }
-    if (placesWindowsItself()) {
+    // It tells no window where it is and lets none choose.
+    if (desktopPlacesWindows(QGuiApplication::platformName())) {
         m_window.resize(place.size());
     } else {
         putBack(&m_window, place);

@@ -137,15 +137,8 @@ void drTasks::bindFields()
     }
 }
 
-drTasks::ReportRecords drTasks::readRecords(
-    RecordSet& records, const TaskFilter& filter, const ShownTasks& shown) const
+std::vector<drTasks::Column> drTasks::columnsOf(const RecordSet& records) const
 {
-    struct Column {
-        int field;
-        const std::function<void(QString&)>* format;
-        bool isDate;
-        bool isDescription;
-    };
     std::vector<Column> columns;
     for (const ReportSection& section : m_sections) {
         for (const ReportControl& text : section.controls) {
@@ -157,10 +150,17 @@ drTasks::ReportRecords drTasks::readRecords(
             }
         }
     }
+    return columns;
+}
+
+drTasks::ReportRecords drTasks::readRecords(
+    RecordSet& records, const TaskFilter& filter, const ShownTasks& shown) const
+{
     struct ReportedTask {
         ClsTask task;
         std::vector<QString> texts;
     };
+    const std::vector<Column> columns = columnsOf(records);
     const std::map<qint32, Repeat> repeats = TaskRepeats::all(m_services.engine);
     const std::set<qint32> ids = shown ? std::set(shown->begin(), shown->end()) : std::set<qint32>();
     TaskRows rows(m_services.engine, records);

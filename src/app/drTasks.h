@@ -53,6 +53,15 @@ public:
 private:
     void readReport(const TaskFilter& filter, const ShownTasks& shown);
     void bindFields();
+    /// What a text control of the report shows of a record.
+    struct Column {
+        int field;
+        const std::function<void(QString&)>* format; ///< null for none
+        bool isDate;
+        bool isDescription;
+    };
+    /// Those of the text controls, in their order.
+    std::vector<Column> columnsOf(const RecordSet& records) const;
     /// Reads the record set to its end: the records that the list shows, in its order.
     struct ReportRecords {
         QList<qint32> ids;
