@@ -22,6 +22,7 @@
 #include <QAction>
 #include <QBoxLayout>
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QMenu>
 #include <QShortcut>
 #include <QTabBar>
@@ -66,6 +67,8 @@ frmMain::frmMain(
     // After the pages are added, which switches to the first one.
     connectGuarded(m_tabs, &QTabWidget::currentChanged, this, &frmMain::tabMain_Switch, services.errors);
     connectGuarded(&m_trayIcon, &TrayIcon::activated, this, &frmMain::toggle, services.errors);
+    // Only painting shows isBeforeTheUser() that the window has been minimized with its dialog.
+    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, qOverload<>(&QWidget::update));
 }
 
 QWidget* frmMain::makeHeader()
@@ -118,6 +121,8 @@ QMenu* frmMain::makeTrayMenu()
     connectGuarded(add("mnuFeedBack", tr("Send feedback")), &QAction::triggered, this,
         &frmMain::mnuFeedBack_Click, errors);
     connect(add("mnuExit", tr("Exit")), &QAction::triggered, this, &frmMain::exitRequested);
+    // No event says so where the desktop tells no program of minimized windows.
+    connect(menu, &QMenu::aboutToShow, this, [this] { syncTrayCaption(isBeforeTheUser(this)); });
     return menu;
 }
 
@@ -261,7 +266,7 @@ bool frmMain::isShown() const
 
 void frmMain::toggle()
 {
-    if (isShown()) {
+    if (isBeforeTheUser(this)) {
         hideWindow();
         m_host.hideDialogs();
     } else if (isVisible() || !m_host.isTaskDialogVisible()) {
@@ -299,10 +304,10 @@ void frmMain::setTrayCaption(const QString& caption)
     }
 }
 
-void frmMain::syncTrayCaption()
+void frmMain::syncTrayCaption(bool shown)
 {
     if (m_loaded) {
-        m_mnuShow->setText(isShown() ? tr("Hide") : tr("Show"));
+        m_mnuShow->setText(shown ? tr("Hide") : tr("Show"));
     }
 }
 
@@ -319,20 +324,20 @@ void frmMain::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange) {
-        syncTrayCaption();
+        syncTrayCaption(isShown());
     }
 }
 
 void frmMain::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
-    syncTrayCaption();
+    syncTrayCaption(isShown());
 }
 
 void frmMain::hideEvent(QHideEvent* event)
 {
     QWidget::hideEvent(event);
-    syncTrayCaption();
+    syncTrayCaption(isShown());
 }
 
 void frmMain::paintEvent(QPaintEvent* event)

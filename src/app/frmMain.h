@@ -128,7 +128,7 @@ private:
     void focusPage();
     void hideWindow();
     void showWindow();
-    void syncTrayCaption();
+    void syncTrayCaption(bool shown);
     QWidget* makeHeader();
     QMenu* makeTrayMenu();
 

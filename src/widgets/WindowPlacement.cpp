@@ -1,9 +1,11 @@
 #include "widgets/WindowPlacement.h"
 
+#include "widgets/DesktopLimits.h"
 #include "widgets/WindowManager.h"
 
+#include <QApplication>
+#include <QDialog>
 #include <QEvent>
-#include <QGuiApplication>
 #include <QLayout>
 #include <QResizeEvent>
 #include <QScreen>
@@ -48,7 +50,7 @@ QRect wholeWithinNearest(const QRect& frame, const QList<QRect>& areas)
 QList<QRect> areasOfScreens()
 {
     QList<QRect> areas;
-    for (const QScreen* screen : QGuiApplication::screens()) {
+    for (const QScreen* screen : QApplication::screens()) {
         areas.append(screen->availableGeometry());
     }
     return areas;
@@ -96,7 +98,7 @@ private:
     {
         const QWindow* native = m_window.windowHandle();
         QWindow* owner = native->transientParent();
-        if (m_isClosed && QGuiApplication::focusWindow() == native && owner != nullptr && owner->isVisible()
+        if (m_isClosed && QApplication::focusWindow() == native && owner != nullptr && owner->isVisible()
             && !owner->windowStates().testFlag(Qt::WindowMinimized)) {
             giveKeyboard(*owner);
         }
@@ -149,6 +151,20 @@ QWindow* nativeWindow(QWidget* widget)
 {
     widget->window()->winId();
     return widget->window()->windowHandle();
+}
+
+/// The visible forms over `window`; a box lives only until it is hidden and is none.
+QWidgetList formsOwnedBy(const QWidget& window)
+{
+    QWidgetList forms;
+    for (QWidget* other : QApplication::topLevelWidgets()) {
+        const QWindow* native = other->windowHandle();
+        if (other->isVisible() && native != nullptr && native->transientParent() == window.windowHandle()
+            && qobject_cast<QDialog*>(other) == nullptr) {
+            forms.append(other);
+        }
+    }
+    return forms;
 }
 
 } // namespace
@@ -258,15 +274,37 @@ void setOwner(QWidget* window, QWidget* owner)
     nativeWindow(window)->setTransientParent(nativeWindow(owner));
 }
 
+bool isBeforeTheUser(const QWidget* window)
+{
+    if (!window->isVisible() || window->isMinimized()) {
+        return false;
+    }
+    // What such a desktop has minimized it does not ask to be painted any more.
+    return !desktopPlacesWindows(QApplication::platformName()) || window->windowHandle()->isExposed();
+}
+
 void showOwned(QWidget* window, QWidget* owner)
 {
     if (owner != nullptr) {
         setOwner(window, owner);
     }
     putInPlace(window, owner);
+    // Such a desktop lets no program restore a window; shown anew, it is one that was never minimized.
+    QWidgetList minimizedWithIt;
+    if (desktopPlacesWindows(QApplication::platformName()) && window->isVisible()
+        && !isBeforeTheUser(window)) {
+        minimizedWithIt = formsOwnedBy(*window);
+        for (QWidget* form : minimizedWithIt) {
+            form->hide();
+        }
+        window->hide();
+    }
     // showNormal() would also end the maximized state.
     window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
     window->show();
     window->raise();
     window->activateWindow();
+    for (QWidget* form : minimizedWithIt) {
+        showOwned(form, window);
+    }
 }

@@ -41,6 +41,9 @@ void activate(QWidget* window);
 /// Makes `owner` the transient parent of `window`, which stays above it, without making it the QObject
 /// parent.
 void setOwner(QWidget* window, QWidget* owner);
+/// Whether the user can have `window` before him: it is neither hidden nor minimized, also where the desktop
+/// tells no program of the latter.
+bool isBeforeTheUser(const QWidget* window);
 /// Puts `window` in its place and shows it modeless above its owner, in front and active; restores it when
 /// it is minimized.
 void showOwned(QWidget* window, QWidget* owner);

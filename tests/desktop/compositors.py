@@ -38,14 +38,17 @@ class CompositorDesktop(Desktop):
         """The compositor needs the buses, so it comes after them."""
 
     def _start_window_manager(self):
-        runtime = self.environment["XDG_RUNTIME_DIR"]
-        variables = {**self.environment, "GSETTINGS_BACKEND": "memory", "NO_AT_BRIDGE": "1"}
-        # kwin asks its own platform for one.
-        del variables["QT_QPA_PLATFORM"]
         program = COMMANDS[self._compositor_name][0]
         # kwin has a capability for its priority, with which a container does not let it start. A copy has none.
         shutil.copy(shutil.which(program), os.path.join(self.commands, program))
-        self.compositor = self._children.start(COMMANDS[self._compositor_name], variables, self._compositor_name)
+        self._start_compositor(COMMANDS[self._compositor_name], {"GSETTINGS_BACKEND": "memory"})
+
+    def _start_compositor(self, command, settings):
+        runtime = self.environment["XDG_RUNTIME_DIR"]
+        variables = {**self.environment, "NO_AT_BRIDGE": "1", **settings}
+        # kwin asks its own platform for one.
+        del variables["QT_QPA_PLATFORM"]
+        self.compositor = self._children.start(command, variables, self._compositor_name)
 
         def display():
             sockets = (path for path in glob.glob(os.path.join(runtime, "wayland-*")) if not path.endswith(".lock"))
