@@ -259,11 +259,6 @@ void frmMain::place(bool topmost)
     }
 }
 
-bool frmMain::isShown() const
-{
-    return isVisible() && !isMinimized();
-}
-
 void frmMain::toggle()
 {
     if (isBeforeTheUser(this)) {

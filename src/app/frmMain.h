@@ -70,7 +70,7 @@ public:
     void focusCategoryList();
 
     /// Whether the window is on the screen; minimized counts as hidden.
-    bool isShown() const;
+    bool isShown() const { return isVisible() && !isMinimized(); }
     /// Puts the pages that have not been seen yet into the window. The first painting does not wait for
     /// them; until then they are neither styled nor laid out.
     void wakePages();
