@@ -286,11 +286,12 @@ void CategoriesPage::btnDeleteCat_Click()
     if (ClsCategory(m_services.engine).hasTasks(shortId)) {
         noCopy = KeptCopies(m_services.engine).keep(CopyOccasion::Deletion);
     }
+    const QString done = tr("Category \"%1\" deleted with its tasks").arg(name);
     m_services.undo.run([&](const DatabaseEngine& engine) {
         ClsCategory(engine).DeleteById(shortId);
-        return tr("Category \"%1\" deleted with its tasks").arg(name);
+        return done;
     });
-    m_quietLine->say(ChangeTexts::withNoCopy({}, noCopy));
+    m_quietLine->say(ChangeTexts::withNoCopy(done, noCopy));
 
     // The list may have been rebuilt while the question was open.
     if (const int row = rowOf(id); row >= 0) {

@@ -220,7 +220,7 @@ void CategoriesDeletingTest::aDeletedCategoryIsInACopy()
     QCOMPARE(copies.size(), 1);
     QCOMPARE(copies.first().occasion, CopyOccasion::Deletion);
     QVERIFY(contentOf(copies.first().path) == before);
-    QCOMPARE(test.said(), QString());
+    QCOMPARE(test.said(), QStringLiteral("Category \"Work\" deleted with its tasks"));
 }
 
 void CategoriesDeletingTest::aCategoryWithoutTasksIsNotWorthACopy()
@@ -242,7 +242,8 @@ void CategoriesDeletingTest::withoutACopyItIsDeletedAndThePageSaysSo()
     test.dialogs.expectAsk(question(QStringLiteral("Work")), true);
     test.press("btnDeleteCat");
     QCOMPARE(test.list()->count(), 0);
-    QCOMPARE(test.said(), QStringLiteral("No copy was kept: it is not a folder"));
+    QCOMPARE(test.said(),
+        QStringLiteral("Category \"Work\" deleted with its tasks. No copy was kept: it is not a folder"));
 }
 
 AMBERTASK_TEST_MAIN(CategoriesDeletingTest)
