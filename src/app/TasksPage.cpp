@@ -14,7 +14,6 @@
 #include "widgets/MessageBoxes.h"
 #include "widgets/NamedControls.h"
 #include "widgets/QuietLine.h"
-#include "widgets/WindowPlacement.h"
 
 #include <QApplication>
 #include <QBoxLayout>
@@ -286,12 +285,6 @@ void TasksPage::keyPressEvent(QKeyEvent* event)
 void TasksPage::setGridLines(bool shown)
 {
     m_grid->setShowGrid(shown);
-}
-
-void TasksPage::focusGrid()
-{
-    activate(window());
-    focusList();
 }
 
 void TasksPage::focusList()

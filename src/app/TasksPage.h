@@ -63,9 +63,7 @@ public:
     /// Whether the filters show the task, but it does not hold what is looked for.
     bool isHiddenByFind(qint32 id) const;
     void setGridLines(bool shown);
-    /// Gives the focus to the list, and activates its window if it is visible, whichever page is in front.
-    void focusGrid();
-    /// The same without activating the window.
+    /// Gives the focus to the list.
     void focusList();
     /// The bar that takes changes back, under the list; made at its first use.
     UndoBar& undoBar();

@@ -236,15 +236,15 @@ void frmMain::focusListOf(int page)
 
 void frmMain::focusPage()
 {
+    activate(this);
     switch (m_tabs->currentIndex()) {
     case TasksIndex:
-        m_pages.tasks->focusGrid();
+        m_pages.tasks->focusList();
         break;
     case CategoriesIndex:
         m_pages.categories->focusList();
         break;
     default:
-        activate(this);
         focusFirstControl(*m_tabs->currentWidget());
         break;
     }
@@ -366,9 +366,10 @@ void frmMain::tabMain_Switch(int page)
     } else if (page == SettingsIndex) {
         m_pages.settings->LoadSettingsPage();
     }
-    // Whether the list is visible counts, whichever page is in front.
+    // Whether the list is visible counts, whichever page is in front. The window is not brought in front of
+    // an alert for it.
     if (page == TasksIndex && isVisible()) {
-        m_pages.tasks->focusGrid();
+        m_pages.tasks->focusList();
     } else if (page == CategoriesIndex && isVisible()) {
         m_pages.categories->focusList();
     } else if (const QWidget* focus = focusWidget(); !m_tabs->isAncestorOf(focus)) {

@@ -225,7 +225,6 @@ void CategoriesPage::pageOpened()
 
 void CategoriesPage::focusList()
 {
-    activate(window());
     m_list->setFocus();
 }
 

@@ -43,7 +43,7 @@ public:
     bool isReadingPictures() const { return m_isReading; }
     /// The user has switched to the page.
     void pageOpened();
-    /// Gives the focus to the list, and activates its window if it is visible.
+    /// Gives the focus to the list.
     void focusList();
     void setHelpEnabled(bool enabled);
 

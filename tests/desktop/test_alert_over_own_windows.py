@@ -61,6 +61,16 @@ class WhileTheUserWorksTest(OwnWindowsCase):
         self.assertTrue(alert.mapped)
         self.assert_nothing_dismissed()
 
+    def test_turning_to_another_page_leaves_it_in_front(self):
+        alert = self.come_up()
+        main_window = self.user.window(names.MAIN)
+        self.wait_above(alert, main_window)
+        for page in range(4):
+            self.desk.input.key("Tab", "Control_L")
+            self.user.wait_answering()
+            holds_for(lambda: main_window.active and self.desk.screen.is_above(alert, main_window),
+                      f"the alert lies in front after turn {page}", A_MOMENT)
+
     def test_alt_tab_activates_it_and_then_its_keys_work(self):
         alert = self.come_up()
         main_window = self.user.window(names.MAIN)
