@@ -20,7 +20,6 @@ private slots:
     void aDayStaysADay();
     void whatOthersChangeCountsFromThere();
     void aRuleThatOthersRemoveIsRemoved();
-    void anImportRemovesWhatDeletedTasksHaveLeft();
     void aSeriesOfOthersTakesThePlaceOfKeptLines();
     void aPastReminderComesForTheNextTime();
     void csvSaysTheRule();
@@ -155,18 +154,6 @@ void TodoRepeatsTest::aRuleThatOthersRemoveIsRemoved()
     under.imported(todoOf("SUMMARY:Task\nDUE:20260301T110000\nRRULE:FREQ=DAILY\n"));
     QCOMPARE(under.imported(todoOf("SUMMARY:Task\nDUE:20260301T110000\n")).changed, 1);
     QVERIFY(!under.task().repeat);
-}
-
-void TodoRepeatsTest::anImportRemovesWhatDeletedTasksHaveLeft()
-{
-    ExchangeUnderTest under(Rules::Daily);
-    under.database.sql(
-        QStringLiteral("insert into repeats values(77,'FREQ=DAILY','2026-03-01 11:00:00',0,0)"));
-    under.imported(todoOf("SUMMARY:Task\nDUE:20260301T110000\n"));
-    QCOMPARE(under.database.sql(QStringLiteral("select count(*) from repeats")).toInt(), 1);
-    under.imported(todoOf("SUMMARY:Task\nDUE:20260301T110000\nRRULE:FREQ=DAILY\n"));
-    QCOMPARE(under.database.rows(QStringLiteral("select of_task from repeats")),
-        (QList<QVariantList>{{under.task().id}}));
 }
 
 void TodoRepeatsTest::aSeriesOfOthersTakesThePlaceOfKeptLines()
