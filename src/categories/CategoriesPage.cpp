@@ -285,7 +285,7 @@ void CategoriesPage::btnDeleteCat_Click()
     if (ClsCategory(m_services.engine).hasTasks(shortId)) {
         noCopy = KeptCopies(m_services.engine).keep(CopyOccasion::Deletion);
     }
-    const QString done = tr("Category \"%1\" deleted with its tasks").arg(name);
+    QString done = tr("Category \"%1\" deleted with its tasks").arg(name);
     m_services.undo.run([&](const DatabaseEngine& engine) {
         ClsCategory(engine).DeleteById(shortId);
         return done;

@@ -43,12 +43,12 @@ QList<qint32> newestOfAName(Connection& connection)
 void takeInOthersOfItsName(Connection& connection, qint32 category)
 {
     const QString others =
-        QStringLiteral("cat_id<>%1 and cat_name=(select cat_name from categories where cat_id=%1)")
+        QStringLiteral("where cat_name=(select cat_name from categories where cat_id=%1) and cat_id<>%1")
             .arg(category);
     connection.execute(
-        QStringLiteral("update tasks set cat_id=%1 where cat_id in (select cat_id from categories where %2)")
+        QStringLiteral("update tasks set cat_id=%1 where cat_id in (select cat_id from categories %2)")
             .arg(QString::number(category), others));
-    connection.execute(QLatin1String("delete from categories where ") + others);
+    connection.execute(QLatin1String("delete from categories ") + others);
 }
 
 /// What has been added since stands in no row of `changes`: a category that comes back where another of its

@@ -27,7 +27,8 @@ QString plainCode(const QString& code)
 bool isStatement(const QString& text)
 {
     static const QRegularExpression statement(QStringLiteral(
-        "^[#',]?\\s*(select (\\*|(count|ifnull|min)\\(|[\\w.]+(,| from))|insert (or replace )?into |DELETE "
+        "^[#',]?\\s*(select (\\*|(count|ifnull|max|min)\\(|[\\w.]+(,| from))|insert (or replace )?into "
+        "|DELETE "
         "FROM |delete "
         "from "
         "\\w+( where|\\s*$)"
