@@ -23,6 +23,7 @@ SoakWorld::Outcome SoakWorld::start(bool keepsBetween)
     Outcome outcome;
     m_listed.clear();
     m_alertVisible = false;
+    m_owesMark = false;
     m_fired.clear();
     m_soundedSinceStart.clear();
     tick(outcome, keepsBetween);
@@ -71,11 +72,47 @@ std::size_t SoakWorld::shownCount(const std::map<qint32, QString>& due) const
 void SoakWorld::tick(Outcome& outcome, bool keepsBetween)
 {
     m_ticked = m_now;
+    check(outcome, keepsBetween, shownCount(due()));
+}
+
+void SoakWorld::showAnew(Outcome& outcome, bool keepsBetween)
+{
     const std::map<qint32, QString> now = due();
-    const std::size_t shown = shownCount(now);
+    if (!std::includes(m_listed.begin(), m_listed.end(), now.begin(), now.end())) {
+        check(outcome, keepsBetween, 0);
+    } else if (now == m_listed) {
+        list(outcome, now);
+        const auto isPlayed = [this](const auto& reminder) {
+            return m_rows.tasks.at(reminder.first).played;
+        };
+        m_owesMark = m_owesMark || !std::all_of(now.begin(), now.end(), isPlayed);
+    }
+}
+
+void SoakWorld::check(Outcome& outcome, bool keepsBetween, std::size_t shown)
+{
+    const std::map<qint32, QString> now = due();
     if (now.size() == shown) {
+        const auto isSameTask = [](const auto& one, const auto& other) {
+            return one.first == other.first;
+        };
+        if (m_owesMark && std::equal(now.begin(), now.end(), m_listed.begin(), m_listed.end(), isSameTask)) {
+            mark(outcome, keepsBetween);
+        }
         return;
     }
+    list(outcome, now);
+    if (now.size() > shown) {
+        m_alertVisible = true;
+        mark(outcome, keepsBetween);
+    } else if (now.empty()) {
+        m_alertVisible = false;
+        m_owesMark = false;
+    }
+}
+
+void SoakWorld::list(Outcome& outcome, const std::map<qint32, QString>& now)
+{
     m_listed = now;
     for (const auto& [id, moment] : now) {
         const TaskRow& row = m_rows.tasks.at(id);
@@ -95,16 +132,16 @@ void SoakWorld::tick(Outcome& outcome, bool keepsBetween)
             outcome.started.append(row.file);
         }
     }
-    if (now.size() > shown) {
-        m_alertVisible = true;
-        for (const auto& [id, moment] : now) {
-            m_rows.tasks.at(id).played = true;
-        }
-        m_fired.clear();
-        commit(outcome, keepsBetween);
-    } else if (now.empty()) {
-        m_alertVisible = false;
+}
+
+void SoakWorld::mark(Outcome& outcome, bool keepsBetween)
+{
+    for (const auto& [id, moment] : due()) {
+        m_rows.tasks.at(id).played = true;
     }
+    m_owesMark = false;
+    m_fired.clear();
+    commit(outcome, keepsBetween);
 }
 
 TaskRow SoakWorld::rowOf(const TaskEntry& entry) const
@@ -137,6 +174,12 @@ SoakWorld::Outcome SoakWorld::apply(const Step& step, bool keepsBetween)
         commit(outcome, keepsBetween);
         if (m_alertVisible) {
             tick(outcome, keepsBetween);
+        }
+    };
+    const auto afterChange = [&] {
+        afterSaving();
+        if (m_alertVisible) {
+            showAnew(outcome, keepsBetween);
         }
     };
     switch (step.kind) {
@@ -173,9 +216,7 @@ SoakWorld::Outcome SoakWorld::apply(const Step& step, bool keepsBetween)
             m_rows.tasks.erase(step.task);
             removeRepeatsOfNone();
         }
-        if (outcome.asksWhichTimes) {
-            afterSaving();
-        }
+        afterChange();
         break;
     }
     case Kind::Complete:
@@ -188,7 +229,7 @@ SoakWorld::Outcome SoakWorld::apply(const Step& step, bool keepsBetween)
                 row.reminderOn = false;
             }
         }
-        afterSaving();
+        afterChange();
         break;
     case Kind::Dismiss:
         if (const auto found = m_rows.tasks.find(step.task);
@@ -221,6 +262,9 @@ SoakWorld::Outcome SoakWorld::apply(const Step& step, bool keepsBetween)
         outcome.deleted = static_cast<qint32>(
             std::erase_if(m_rows.tasks, [&](const auto& entry) { return bulkMatches(entry.second, step); }));
         removeRepeatsOfNone();
+        if (outcome.deleted > 0) {
+            afterChange();
+        }
         break;
     case Kind::AddCategory:
         m_rows.categories[++m_rows.lastCategory] = step.categoryRow;
@@ -234,6 +278,7 @@ SoakWorld::Outcome SoakWorld::apply(const Step& step, bool keepsBetween)
         std::erase_if(
             m_rows.tasks, [&](const auto& entry) { return entry.second.category == step.category; });
         removeRepeatsOfNone();
+        afterChange();
         break;
     case Kind::Backup:
         m_backups[step.slot] = m_rows;
@@ -251,6 +296,7 @@ SoakWorld::Outcome SoakWorld::apply(const Step& step, bool keepsBetween)
         m_listed.clear();
         m_fired.clear();
         m_alertVisible = false;
+        m_owesMark = false;
         break;
     }
     case Kind::Settings:

@@ -160,6 +160,11 @@ public:
 private:
     void commit(Outcome& outcome, bool keepsBetween) const;
     void tick(Outcome& outcome, bool keepsBetween);
+    /// What the main window does to tasks is shown in an open alert at once.
+    void showAnew(Outcome& outcome, bool keepsBetween);
+    void check(Outcome& outcome, bool keepsBetween, std::size_t shown);
+    void list(Outcome& outcome, const std::map<qint32, QString>& now);
+    void mark(Outcome& outcome, bool keepsBetween);
     std::map<qint32, QString> due() const;
     std::size_t shownCount(const std::map<qint32, QString>& due) const;
     bool isDueThisSecond(Moment moment) const;
@@ -181,6 +186,7 @@ private:
     std::map<QString, DataRows> m_backups;
     std::map<qint32, QString> m_listed; ///< with the moments that they were due at
     bool m_alertVisible = false;
+    bool m_owesMark = false; ///< what is listed has sounded and is to be marked by the next tick
     std::map<qint32, QString> m_fired; ///< sounded, but not marked
     std::map<qint32, QString> m_soundedSinceStart;
     std::map<qint32, QString> m_lastRung; ///< of tasks that repeat
