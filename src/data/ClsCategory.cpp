@@ -96,8 +96,7 @@ QString ClsCategory::updateStatement() const
 
 bool ClsCategory::hasTasks(qint16 id) const
 {
-    DatabaseEngine unheard = *m_engine;
-    unheard.listener = nullptr;
+    const DatabaseEngine unheard = m_engine->unheard();
     Connection connection = ClsDatabase(unheard).Connect();
     connection.open();
     const bool found = !connection

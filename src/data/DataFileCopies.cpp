@@ -14,7 +14,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <array>
-#include <utility>
 
 namespace
 {
@@ -119,7 +118,7 @@ void moveUnfinished(const QString& file, const QString& target)
 class StillFile
 {
 public:
-    explicit StillFile(DatabaseEngine engine) : m_engine(unheard(std::move(engine)))
+    explicit StillFile(const DatabaseEngine& engine) : m_engine(engine.unheard())
     {
         m_connection.open();
         m_unread = m_connection.execute(QStringLiteral("select name from sqlite_schema"));
@@ -129,12 +128,6 @@ public:
     StillFile& operator=(const StillFile&) = delete;
 
 private:
-    static DatabaseEngine unheard(DatabaseEngine engine)
-    {
-        engine.listener = nullptr;
-        return engine;
-    }
-
     DatabaseEngine m_engine;
     Connection m_connection = ClsDatabase(m_engine).Connect();
     /// Reading goes on until its last row.

@@ -55,11 +55,11 @@ constexpr char GiveNewIds[] =
     "UPDATE sqlite_sequence SET seq = (SELECT count(*) FROM tasks) WHERE name = 'tasks'";
 
 /// Whoever upgrades keeps a copy before.
-DatabaseEngine unheard(DatabaseEngine engine)
+DatabaseEngine withoutCopies(const DatabaseEngine& engine)
 {
-    engine.listener = nullptr;
-    engine.copies = nullptr;
-    return engine;
+    DatabaseEngine own = engine.unheard();
+    own.copies = nullptr;
+    return own;
 }
 
 void noteVersion(Connection& connection, int version)
@@ -110,7 +110,7 @@ bool hasTable(Connection& connection, const char* name)
 
 void refuseLaterDataFile(const DatabaseEngine& engine)
 {
-    const DatabaseEngine own = unheard(engine);
+    const DatabaseEngine own = withoutCopies(engine);
     Connection connection = ClsDatabase(own).Connect();
     connection.open();
     knownVersion(connection);
@@ -118,7 +118,7 @@ void refuseLaterDataFile(const DatabaseEngine& engine)
 
 bool somethingRepeats(const DatabaseEngine& engine)
 {
-    const DatabaseEngine own = unheard(engine);
+    const DatabaseEngine own = withoutCopies(engine);
     Connection connection = ClsDatabase(own).Connect();
     connection.open();
     return lookAt(connection).isRepeating;
@@ -126,7 +126,7 @@ bool somethingRepeats(const DatabaseEngine& engine)
 
 bool isDataFileBehind(const DatabaseEngine& engine)
 {
-    const DatabaseEngine own = unheard(engine);
+    const DatabaseEngine own = withoutCopies(engine);
     Connection connection = ClsDatabase(own).Connect();
     connection.open();
     const int version = knownVersion(connection);
@@ -143,7 +143,7 @@ bool isDataFileBehind(const DatabaseEngine& engine)
 
 void bringDataFileUp(const DatabaseEngine& engine)
 {
-    const DatabaseEngine own = unheard(engine);
+    const DatabaseEngine own = withoutCopies(engine);
     Connection connection = ClsDatabase(own).Connect();
     connection.open();
     Sight sight{};

@@ -90,9 +90,8 @@ bool isSame(const UnchangedFile& file, const QString& copy)
 
 } // namespace
 
-KeptCopies::KeptCopies(const DatabaseEngine& engine) : m_engine(engine)
+KeptCopies::KeptCopies(const DatabaseEngine& engine) : m_engine(engine.unheard())
 {
-    m_engine.listener = nullptr;
     m_engine.progress = nullptr;
     // A damaged file is what it is.
     m_engine.knownSound = nullptr;

@@ -91,4 +91,12 @@ struct DatabaseEngine {
     bool isImmutable = false;
     /// Not owned; null where nothing repeats.
     Repeating* repeating = nullptr;
+
+    /// The same without the listener, for statements that are not the program's own.
+    DatabaseEngine unheard() const
+    {
+        DatabaseEngine engine = *this;
+        engine.listener = nullptr;
+        return engine;
+    }
 };
