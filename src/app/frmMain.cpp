@@ -22,7 +22,6 @@
 #include <QAction>
 #include <QBoxLayout>
 #include <QCloseEvent>
-#include <QGuiApplication>
 #include <QMenu>
 #include <QShortcut>
 #include <QTabBar>
@@ -67,8 +66,7 @@ frmMain::frmMain(
     // After the pages are added, which switches to the first one.
     connectGuarded(m_tabs, &QTabWidget::currentChanged, this, &frmMain::tabMain_Switch, services.errors);
     connectGuarded(&m_trayIcon, &TrayIcon::activated, this, &frmMain::toggle, services.errors);
-    // Only painting shows isBeforeTheUser() that the window has been minimized with its dialog.
-    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, qOverload<>(&QWidget::update));
+    followMinimizing(this);
 }
 
 QWidget* frmMain::makeHeader()

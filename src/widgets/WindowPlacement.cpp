@@ -274,6 +274,14 @@ void setOwner(QWidget* window, QWidget* owner)
     nativeWindow(window)->setTransientParent(nativeWindow(owner));
 }
 
+void followMinimizing(QWidget* window)
+{
+    // Only where painting alone shows it: elsewhere each painting would be for nothing.
+    if (desktopPlacesWindows(QApplication::platformName())) {
+        QObject::connect(qApp, &QApplication::applicationStateChanged, window, qOverload<>(&QWidget::update));
+    }
+}
+
 bool isBeforeTheUser(const QWidget* window)
 {
     if (!window->isVisible() || window->isMinimized()) {

@@ -41,6 +41,9 @@ void activate(QWidget* window);
 /// Makes `owner` the transient parent of `window`, which stays above it, without making it the QObject
 /// parent.
 void setOwner(QWidget* window, QWidget* owner);
+/// To be called once for a window that isBeforeTheUser() is asked about and that may be minimized with its
+/// dialog.
+void followMinimizing(QWidget* window);
 /// Whether the user can have `window` before him: it is neither hidden nor minimized, also where the desktop
 /// tells no program of the latter.
 bool isBeforeTheUser(const QWidget* window);
