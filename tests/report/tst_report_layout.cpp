@@ -274,6 +274,8 @@ private slots:
         QCOMPARE(chosenPages(printer, 3, 1), (std::vector<int>{0, 1, 2}));
         printer.setPrintRange(QPrinter::CurrentPage);
         QCOMPARE(chosenPages(printer, 3, 1), (std::vector<int>{1}));
+        // Larger paper has fewer pages.
+        QCOMPARE(chosenPages(printer, 3, 7), (std::vector<int>{2}));
         printer.setPrintRange(QPrinter::PageRange);
         printer.setFromTo(2, 9);
         QCOMPARE(chosenPages(printer, 3, 0), (std::vector<int>{1, 2}));

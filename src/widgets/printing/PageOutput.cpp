@@ -46,7 +46,7 @@ std::vector<int> chosenPages(const QPrinter& printer, int pageCount, int current
     const auto isChosen = [&](int page) {
         switch (printer.printRange()) {
         case QPrinter::CurrentPage:
-            return page == currentPage;
+            return page == std::min(currentPage, pageCount - 1);
         case QPrinter::PageRange:
             return ranges.isEmpty() || ranges.contains(page + 1);
         default:

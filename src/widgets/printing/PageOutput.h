@@ -20,7 +20,8 @@ QSizeF printableArea(const QPageLayout& page);
 /// The numbers of all pages, from 0.
 std::vector<int> allPages(const PrintedPages& pages);
 
-/// The pages, counted from 0, that a print dialog has set `printer` to print, in the order of printing.
+/// The pages, counted from 0, that a print dialog has set `printer` to print, in the order of printing. Of a
+/// current page that is no more, as the paper has become larger, the last one takes the place.
 std::vector<int> chosenPages(const QPrinter& printer, int pageCount, int currentPage);
 
 /// Paints one page onto a device whose origin is the top left corner of the printable area.

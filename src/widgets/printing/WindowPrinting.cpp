@@ -12,7 +12,6 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
-#include <algorithm>
 
 namespace
 {
@@ -100,8 +99,7 @@ PrintResult printThroughDialog(QWidget& window, const PrintRequest& request)
     }
     // The user may have chosen another paper in the dialog.
     const auto pages = request.layOut(printableArea(printer.pageLayout()));
-    const int currentPage = std::min(request.currentPage, pages->pageCount() - 1);
-    const std::vector<int> order = chosenPages(printer, pages->pageCount(), currentPage);
+    const std::vector<int> order = chosenPages(printer, pages->pageCount(), request.currentPage);
     if (order.empty()) {
         return {};
     }
