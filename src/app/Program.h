@@ -131,9 +131,11 @@ private:
     void onDataRestored();
     /// Rows have been changed that any list may show.
     void onDataChanged();
+    /// Tasks are gone by another way than the list's.
     void onTasksDeleted();
     /// An open alert shows at once what the main window has done to tasks.
     void onTasksChanged();
+    /// As a tick does.
     void checkOpenAlert();
     /// After a restore the ids that windows remember mean other records: an open dialog keeps its input and
     /// stores it as a new record, the alert empties its list and the next tick fills it, the report saves
