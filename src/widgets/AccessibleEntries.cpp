@@ -3,6 +3,7 @@
 #include "widgets/ComboBox.h"
 
 #include <QAbstractItemView>
+#include <QGuiApplication>
 #include <QPointer>
 
 namespace
@@ -52,7 +53,8 @@ public:
         state.selected = m_combo->currentIndex() == m_row;
         state.invisible = !isShown();
         state.offscreen = isShown() && !m_list->viewport()->rect().intersects(m_list->visualRect(index()));
-        state.focused = isShown() && m_list->currentIndex().row() == m_row;
+        state.focused = isShown() ? m_list->currentIndex().row() == m_row
+                                  : m_combo->hasFocus() && m_combo->currentIndex() == m_row;
         return state;
     }
     void* interface_cast(QAccessible::InterfaceType type) override
@@ -99,6 +101,11 @@ AccessibleEntries::~AccessibleEntries()
     }
 }
 
+QAccessibleInterface* AccessibleEntries::parent() const
+{
+    return QAccessible::queryAccessibleInterface(&m_combo);
+}
+
 int AccessibleEntries::childCount() const
 {
     return m_combo.count();
@@ -130,4 +137,17 @@ QAccessibleInterface* AccessibleEntries::childAt(int x, int y) const
 QAccessibleInterface* AccessibleEntries::focusChild() const
 {
     return m_list.isVisible() ? child(m_list.currentIndex().row()) : nullptr;
+}
+
+void tellChosenEntry(ComboBox& combo)
+{
+    if (!QAccessible::isActive() || QGuiApplication::platformName() == QLatin1String("windows")
+        || !combo.hasFocus() || combo.view()->isVisible()) {
+        return;
+    }
+    if (QAccessibleInterface* entry =
+            QAccessible::queryAccessibleInterface(combo.view())->child(combo.currentIndex())) {
+        QAccessibleEvent event(entry, QAccessible::Focus);
+        QAccessible::updateAccessibility(&event);
+    }
 }

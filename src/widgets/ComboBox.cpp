@@ -1,6 +1,7 @@
 #include "widgets/ComboBox.h"
 
 #include "widgets/AccessibleControls.h"
+#include "widgets/AccessibleEntries.h"
 
 #include <QAbstractItemModel>
 #include <QCoreApplication>
@@ -28,6 +29,7 @@ ComboBox::ComboBox(QWidget* parent) : QComboBox(parent)
     installAccessibleControls();
     // No focus by the wheel, which passes over the box when the page is scrolled.
     setFocusPolicy(Qt::StrongFocus);
+    connect(this, &QComboBox::currentIndexChanged, this, [this] { tellChosenEntry(*this); });
 }
 
 void ComboBox::keepEntriesWhole()
@@ -99,6 +101,14 @@ void ComboBox::changeEvent(QEvent* event)
         return;
     }
     QComboBox::changeEvent(event);
+}
+
+void ComboBox::focusInEvent(QFocusEvent* event)
+{
+    QComboBox::focusInEvent(event);
+    // After Qt has told of the box itself.
+    QMetaObject::invokeMethod(
+        this, [this] { tellChosenEntry(*this); }, Qt::QueuedConnection);
 }
 
 void ComboBox::showPopup()

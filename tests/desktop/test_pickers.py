@@ -52,6 +52,20 @@ class PickersTest(DesktopCase):
         self.desk.input.click(*place, WHEEL_DOWN)
         wait_until(lambda: combo.name != before, "the wheel turns the list")
 
+    def test_the_chosen_entry_of_a_closed_list_is_told_to_screen_readers(self):
+        combo = self.user.main().find("combo box", "Status")
+        self.user.wait_active(names.MAIN)
+        entries = combo.children()[0].children()
+        chosen = next(entry for entry in entries if entry.has("selected"))
+        self.desk.input.key("u", "Alt_L")
+        wait_until(lambda: self.user.access.told("focused")[-2:] == [combo, chosen], "the box and its entry are told")
+        self.desk.input.key("Up" if chosen == entries[-1] else "Down")
+        after = entries[entries.index(chosen) + (-1 if chosen == entries[-1] else 1)]
+        wait_until(lambda: self.user.access.told("focused")[-1] == after, "the entry chosen by key is told")
+        self.assertEqual(combo.name, after.name)
+        self.assertTrue(after.has("focused"))
+        self.assertFalse(chosen.has("focused"))
+
     def test_the_pages_are_turned_from_a_list(self):
         window = self.user.main()
         self.user.wait_active(names.MAIN)

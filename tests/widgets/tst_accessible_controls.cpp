@@ -160,6 +160,7 @@ private slots:
         combo.setCurrentIndex(1);
         QAccessibleInterface* entries = listOf(combo);
         QCOMPARE(entries->role(), QAccessible::List);
+        QCOMPARE(entries->parent(), accessible(combo));
         QCOMPARE(entries->childCount(), 3);
         QCOMPARE(entries->child(3), nullptr);
         for (int row = 0; row < 3; ++row) {
@@ -209,6 +210,24 @@ private slots:
         QVERIFY(listOf(combo)->child(1)->actionInterface()->actionNames().isEmpty());
         press(listOf(combo)->child(1));
         QCOMPARE(combo.currentText(), QStringLiteral("Low"));
+    }
+
+    void theChosenEntryOfAClosedBoxHasItsFocus()
+    {
+        QWidget window;
+        auto* button = new QPushButton(&window);
+        auto* combo = new ComboBox(&window);
+        combo->addItems({QStringLiteral("Low"), QStringLiteral("Normal")});
+        window.show();
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        combo->setFocus();
+        QVERIFY(listOf(*combo)->child(0)->state().focused);
+        QTest::keyClick(combo, Qt::Key_Down);
+        QVERIFY(!listOf(*combo)->child(0)->state().focused);
+        QVERIFY(listOf(*combo)->child(1)->state().focused);
+        button->setFocus();
+        QVERIFY(!listOf(*combo)->child(1)->state().focused);
     }
 
     void entriesThatAreGoneAreNoLongerValid()
