@@ -4,6 +4,19 @@
 
 #include <QKeyEvent>
 
+namespace
+{
+
+/// A press with the mark of a repetition. As a copy it stays an event of the keyboard: what Qt 6.4.2 does not
+/// take for one it hands past assistive technology, and so ahead of the keys before it.
+class RepeatedPress final : public QKeyEvent
+{
+public:
+    explicit RepeatedPress(const QKeyEvent& press) : QKeyEvent(press) { m_autoRepeat = true; }
+};
+
+} // namespace
+
 bool Application::notify(QObject* receiver, QEvent* event)
 {
     try {
@@ -28,11 +41,7 @@ bool Application::notifyRepeated(QObject* receiver, QKeyEvent& press)
         press.accept();
         return true;
     }
-    QKeyEvent repeated(press.type(), press.key(), press.modifiers(), press.nativeScanCode(),
-        press.nativeVirtualKey(), press.nativeModifiers(), press.text(), true,
-        static_cast<quint16>(press.count()));
-    repeated.setTimestamp(press.timestamp());
-    repeated.setAccepted(press.isAccepted());
+    RepeatedPress repeated(press);
     const bool isHandled = QApplication::notify(receiver, &repeated);
     press.setAccepted(repeated.isAccepted());
     return isHandled;

@@ -1,12 +1,10 @@
 #include "support/TestMain.h"
 
-#include <QApplication>
 #include <QFile>
 #include <QLocale>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QStyleFactory>
-#include <QTemporaryDir>
 #include <QTest>
 
 void TestCase::init()
@@ -18,16 +16,16 @@ void TestCase::init()
         "|  OpenType support missing for ).?")));
 }
 
-int runTest(QObject& test, int argc, char** argv)
+TestEnvironment::TestEnvironment()
 {
     QStandardPaths::setTestModeEnabled(true);
-    // Otherwise dialogs of the next test would find what this one's remembered.
-    const QTemporaryDir settings;
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
-    const QTemporaryDir cache;
-    qputenv("XDG_CACHE_HOME", QFile::encodeName(cache.path()));
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_settings.path());
+    qputenv("XDG_CACHE_HOME", QFile::encodeName(m_cache.path()));
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
-    QApplication application(argc, argv);
+}
+
+int TestEnvironment::run(QObject& test, int argc, char** argv) const
+{
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setQuitOnLastWindowClosed(false);
     return QTest::qExec(&test, argc, argv);

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QApplication>
 #include <QObject>
+#include <QTemporaryDir>
 
 /// The base of every test class: a Qt warning that was not announced with QTest::ignoreMessage fails the
 /// test.
@@ -12,9 +14,27 @@ private slots:
     virtual void init();
 };
 
-/// Runs `test` under the one environment of all tests (Fusion, fixed locale, standard paths in test mode).
-/// The result is the exit status.
-int runTest(QObject& test, int argc, char** argv);
+/// The one environment of all tests: Fusion, fixed locale, standard paths in test mode.
+class TestEnvironment
+{
+public:
+    TestEnvironment();
+    /// Runs `test` with the application object that there is. The result is the exit status.
+    int run(QObject& test, int argc, char** argv) const;
+
+private:
+    // Otherwise dialogs of the next test would find what this one's remembered.
+    QTemporaryDir m_settings;
+    QTemporaryDir m_cache;
+};
+
+/// Runs `test` with an application object of the type. The result is the exit status.
+template <typename ApplicationType = QApplication> int runTest(QObject& test, int argc, char** argv)
+{
+    const TestEnvironment environment;
+    ApplicationType application(argc, argv);
+    return environment.run(test, argc, argv);
+}
 
 #define AMBERTASK_TEST_MAIN(TestClass)                                                                       \
     int main(int argc, char** argv)                                                                          \
