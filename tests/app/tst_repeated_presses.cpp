@@ -16,6 +16,8 @@ namespace
 constexpr xcb_keycode_t TabCode = 23;
 constexpr xcb_timestamp_t PressedAt = 1000;
 constexpr xcb_timestamp_t RepeatedAt = 1500;
+/// The times of X are of 32 bits: from here on, a time of zero lies ahead.
+constexpr xcb_timestamp_t AfterAMonth = 0x90000000;
 
 /// What arrives at a widget, and whether anything that listens to all events can see it as the user's own: on
 /// Linux Qt hands only such keys to screen readers, and lets those wait that came before.
@@ -94,6 +96,16 @@ private slots:
         report(XCB_KEY_PRESS, RepeatedAt + 1);
         QVERIFY(deliver(listener, QEvent::KeyPress, RepeatedAt + 1));
         QCOMPARE(listener.arrived, (std::vector<Arrived>{{QEvent::KeyPress, true, false}}));
+    }
+
+    void aPressThatAssistiveTechnologyHandsBackIsNoRepetition()
+    {
+        Listener listener;
+        report(XCB_KEY_PRESS, AfterAMonth);
+        // Qt sends it again without its time, and not as an event of the keyboard.
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier, TabCode, 0, 0, QStringLiteral("\t"));
+        QCoreApplication::sendEvent(&listener, &press);
+        QCOMPARE(listener.arrived.back(), (Arrived{QEvent::KeyPress, false, false}));
     }
 };
 
