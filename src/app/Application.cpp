@@ -20,9 +20,7 @@ public:
 bool Application::notify(QObject* receiver, QEvent* event)
 {
     try {
-        // Not what Qt sends anew when assistive technology has seen it: its time is lost.
-        const bool isPress = event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress;
-        if (isPress && event->spontaneous()) {
+        if (event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress) {
             if (auto& press = static_cast<QKeyEvent&>(*event); m_heldKeys.isUntold(press)) {
                 return notifyRepeated(receiver, press);
             }

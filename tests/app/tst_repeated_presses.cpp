@@ -4,9 +4,9 @@
 
 #include <QAbstractEventDispatcher>
 #include <QKeyEvent>
-#include <QSignalSpy>
 #include <QTest>
 #include <QWidget>
+#include <cstdint>
 #include <vector>
 #include <xcb/xcb.h>
 

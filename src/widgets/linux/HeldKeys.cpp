@@ -64,5 +64,6 @@ HeldKeys::~HeldKeys() = default;
 
 bool HeldKeys::isUntold(const QKeyEvent& press) const
 {
-    return !press.isAutoRepeat() && m_watch->isRepetition(press);
+    // What Qt sends anew, once assistive technology has seen it, has lost its time.
+    return press.spontaneous() && !press.isAutoRepeat() && m_watch->isRepetition(press);
 }
